@@ -1,0 +1,77 @@
+#include "compiler.h"
+
+#include "emitter.h"
+#include "parser.h"
+
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
+#include <iterator>
+
+namespace asncomp
+{
+namespace
+{
+
+// FNV-1a, 64 bits.
+std::string hashOf(std::string_view text)
+{
+    std::uint64_t hash = 0xCBF29CE484222325;
+    for (const char c : text)
+    {
+        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
+    }
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%016" PRIx64, hash);
+    return digits;
+}
+
+} // namespace
+
+std::vector<OutputFile> compile(const std::string& schemaName, std::string_view schema, const Options& options,
+                                Diagnostics& diagnostics)
+{
+    const std::vector<Token> tokens = tokenize(schema, diagnostics);
+    const ast::Module module = diagnostics.failed() ? ast::Module{} : parse(tokens, diagnostics);
+    if (diagnostics.failed())
+    {
+        return {};
+    }
+    const Model model = resolve(module, diagnostics);
+    const std::string typesHeader = "NR-RRC-Definitions.h";
+    Pdus selected{{}, options.base.empty() ? typesHeader : options.base + ".h"};
+    for (const std::string& name : options.pdus)
+    {
+        if (name == "all")
+        {
+            std::copy_if(model.types.begin(), model.types.end(), std::back_inserter(selected.types),
+                         [&](const Type* type) {
+                             return type->named && type->constructed() &&
+                                    std::find(options.except.begin(), options.except.end(), type->asnName) == options.except.end();
+                         });
+            continue;
+        }
+        const Type* type = model.find(name);
+        if (type == nullptr || !type->constructed())
+        {
+            diagnostics.error({}, "there is no constructed type '" + name + "'");
+            continue;
+        }
+        selected.types.push_back(type);
+    }
+    if (diagnostics.failed())
+    {
+        return {};
+    }
+    const Origin origin{schemaName, hashOf(schema)};
+    if (!options.base.empty())
+    {
+        return {{selected.header, emitPduHeader(origin, selected, typesHeader)}, {options.base + ".cpp", emitEncoder(model, origin, selected)}};
+    }
+    return {{typesHeader, emitTypes(model, origin, selected)},
+            {"NR-RRC-Tables.h", emitTablesHeader(model, origin)},
+            {"NR-RRC-Tables.cpp", emitTables(model, origin, typesHeader)},
+            {"NR-RRC-Encoder.cpp", emitEncoder(model, origin, selected)}};
+}
+
+} // namespace asncomp

@@ -1,0 +1,459 @@
+#include "model.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <map>
+#include <set>
+#include <string_view>
+
+namespace asncomp
+{
+namespace
+{
+
+constexpr std::array<std::string_view, 40> cppKeywords = {
+    "alignas",  "and",       "asm",     "auto",    "bool",     "break",   "case",    "catch",    "char",     "class",
+    "const",    "continue",  "default", "delete",  "do",       "double",  "else",    "enum",     "explicit", "export",
+    "extern",   "false",     "float",   "for",     "friend",   "goto",    "if",      "inline",   "int",      "long",
+    "mutable",  "namespace", "new",     "not",     "operator", "or",      "private", "protected", "public",  "register"};
+constexpr std::array<std::string_view, 34> moreCppKeywords = {
+    "return", "short",    "signed",   "sizeof",   "static", "struct",   "switch",  "template", "this",
+    "throw",  "true",     "try",      "typedef",  "typeid", "typename", "union",   "unsigned", "using",
+    "virtual", "void",    "volatile", "while",    "xor",    "concept",  "requires", "constexpr", "decltype",
+    "noexcept", "nullptr", "thread_local", "co_await", "co_return", "co_yield", "wchar_t"};
+
+std::string cIdentifier(std::string name)
+{
+    std::replace(name.begin(), name.end(), '-', '_');
+    const auto is = [&name](std::string_view word) { return word == name; };
+    if (std::any_of(cppKeywords.begin(), cppKeywords.end(), is) || std::any_of(moreCppKeywords.begin(), moreCppKeywords.end(), is))
+    {
+        name += '_';
+    }
+    return name;
+}
+
+constexpr std::int64_t maxListCount = 65535;
+constexpr std::int64_t maxBits = 65535;
+constexpr unsigned maxNesting = 40;
+constexpr std::size_t maxFlags = 256;
+constexpr std::size_t maxTypes = 20000;
+
+class Resolver
+{
+public:
+    Resolver(const ast::Module& module, Diagnostics& diagnostics) : module_(module), diagnostics_(diagnostics) {}
+
+    Model run()
+    {
+        model_.module = module_.name;
+        constants();
+        for (const ast::TypeAssignment& assignment : module_.types)
+        {
+            if (!assignments_.emplace(assignment.name, &assignment).second)
+            {
+                diagnostics_.error(assignment.at, "the type '" + assignment.name + "' is assigned twice");
+            }
+        }
+        for (const ast::TypeAssignment& assignment : module_.types)
+        {
+            if (assignment.parameter.empty())
+            {
+                named(assignment);
+            }
+        }
+        return std::move(model_);
+    }
+
+private:
+    struct Parameter
+    {
+        std::string name;
+        const ast::Type* actual = nullptr;
+        const Parameter* outer = nullptr; // what the actual parameter itself is read with
+    };
+
+    void constants()
+    {
+        for (const ast::ValueAssignment& assignment : module_.values)
+        {
+            if (!constants_.emplace(assignment.name, assignment.value).second)
+            {
+                diagnostics_.error(assignment.at, "the constant '" + assignment.name + "' is assigned twice");
+            }
+            if (assignment.value > std::numeric_limits<std::int32_t>::max() ||
+                assignment.value < std::numeric_limits<std::int32_t>::min())
+            {
+                diagnostics_.error(assignment.at, "the constant '" + assignment.name + "' does not fit into 32 bits");
+            }
+            model_.constants.push_back({cName(assignment.name, assignment.at), assignment.value});
+        }
+    }
+
+    // C names share one scope: two ASN.1 names that become the same C name are refused.
+    std::string cName(const std::string& name, Location at)
+    {
+        std::string result = cIdentifier(name);
+        if (!cNames_.insert(result).second)
+        {
+            diagnostics_.error(at, "the C name '" + result + "' would stand for two things");
+        }
+        return result;
+    }
+
+    std::int64_t value(const ast::Bound& bound)
+    {
+        if (bound.name.empty())
+        {
+            return bound.value;
+        }
+        const auto found = constants_.find(bound.name);
+        if (found == constants_.end())
+        {
+            diagnostics_.error(bound.at, "the constant '" + bound.name + "' is not assigned");
+            return 0;
+        }
+        return found->second;
+    }
+
+    void bounds(Type& type, const ast::Type& source, std::int64_t lowest, std::int64_t highest, const char* what)
+    {
+        type.lower = value(source.lower);
+        type.upper = value(source.upper);
+        if (type.lower > type.upper)
+        {
+            diagnostics_.error(source.lower.at, std::string("the ") + what + " is empty: " + std::to_string(type.lower) +
+                                                    ".." + std::to_string(type.upper));
+            type.upper = type.lower;
+        }
+        if (type.lower < lowest || type.upper > highest)
+        {
+            diagnostics_.error(source.lower.at, std::string("the ") + what + " is not within " + std::to_string(lowest) +
+                                                    ".." + std::to_string(highest));
+            type.lower = type.upper = std::max<std::int64_t>(lowest, 0);
+        }
+    }
+
+    Type* named(const ast::TypeAssignment& assignment)
+    {
+        const auto known = named_.find(assignment.name);
+        if (known != named_.end())
+        {
+            return known->second;
+        }
+        if (!open_.insert(assignment.name).second)
+        {
+            diagnostics_.error(assignment.at, "the type '" + assignment.name + "' contains itself");
+            return nullptr;
+        }
+        Type* result = nullptr;
+        if (assignment.type->kind == ast::Kind::Reference)
+        {
+            diagnostics_.error(assignment.type->at, "another name for a type is not supported");
+        }
+        else
+        {
+            result = build(*assignment.type, assignment.name, cName(assignment.name, assignment.at), nullptr, 0);
+        }
+        if (result != nullptr)
+        {
+            result->named = true;
+        }
+        open_.erase(assignment.name);
+        named_[assignment.name] = result;
+        return result;
+    }
+
+    // Builds the type of a member, an element or an assignment; `name` is what it is called when it is new.
+    Type* resolveType(const ast::Type& source, const std::string& name, const Parameter* parameter, unsigned nesting)
+    {
+        if (source.kind != ast::Kind::Reference)
+        {
+            return build(source, name, cName(name, source.at), parameter, nesting);
+        }
+        if (parameter != nullptr && parameter->name == source.name)
+        {
+            return resolveType(*parameter->actual, name, parameter->outer, nesting + 1);
+        }
+        const auto found = assignments_.find(source.name);
+        if (found == assignments_.end())
+        {
+            diagnostics_.error(source.at, "the type '" + source.name + "' is not assigned");
+            return nullptr;
+        }
+        const ast::TypeAssignment& assignment = *found->second;
+        if (assignment.parameter.empty() != (source.element == nullptr))
+        {
+            diagnostics_.error(source.at, assignment.parameter.empty() ? "the type '" + source.name + "' takes no parameter"
+                                                                       : "the type '" + source.name + "' wants a parameter");
+            return nullptr;
+        }
+        if (source.element == nullptr)
+        {
+            return named(assignment);
+        }
+        const Parameter actual{assignment.parameter, source.element.get(), parameter};
+        if (assignment.type->kind == ast::Kind::Reference)
+        {
+            diagnostics_.error(assignment.type->at, "another name for a type is not supported");
+            return nullptr;
+        }
+        return build(*assignment.type, name, cName(name, source.at), &actual, nesting + 1);
+    }
+
+    Type* build(const ast::Type& source, const std::string& asnName, const std::string& cName, const Parameter* parameter,
+                unsigned nesting)
+    {
+        if (nesting > maxNesting || model_.store.size() >= maxTypes)
+        {
+            diagnostics_.error(source.at, nesting > maxNesting ? "types are nested too deeply" : "there are too many types");
+            return nullptr;
+        }
+        Type& type = model_.store.emplace_back();
+        type.asnName = asnName;
+        type.cName = cName;
+        type.at = source.at;
+        switch (source.kind)
+        {
+        case ast::Kind::Boolean:
+            type.kind = Kind::Boolean;
+            break;
+        case ast::Kind::Null:
+            type.kind = Kind::Null;
+            break;
+        case ast::Kind::Integer:
+            integer(type, source);
+            break;
+        case ast::Kind::Enumerated:
+            enumerated(type, source);
+            break;
+        case ast::Kind::BitString:
+            bitString(type, source);
+            break;
+        case ast::Kind::Sequence:
+            sequence(type, source, parameter, nesting);
+            break;
+        case ast::Kind::Choice:
+            choice(type, source, parameter, nesting);
+            break;
+        case ast::Kind::SequenceOf:
+            sequenceOf(type, source, parameter, nesting);
+            break;
+        case ast::Kind::Reference:
+            break; // resolved by the callers
+        }
+        model_.types.push_back(&type);
+        return &type;
+    }
+
+    void integer(Type& type, const ast::Type& source)
+    {
+        type.kind = Kind::Integer;
+        bounds(type, source, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max(), "range");
+    }
+
+    void enumerated(Type& type, const ast::Type& source)
+    {
+        type.kind = Kind::Enumerated;
+        std::set<std::string> seen;
+        for (const ast::Value& value : source.values)
+        {
+            if (!seen.insert(value.name).second)
+            {
+                diagnostics_.error(value.at, "the value '" + value.name + "' occurs twice");
+            }
+            cName(type.cName + "_" + value.name, value.at);
+            type.values.push_back(value.name);
+        }
+        type.upper = static_cast<std::int64_t>(type.values.size()) - 1;
+    }
+
+    void bitString(Type& type, const ast::Type& source)
+    {
+        bounds(type, source, 1, maxBits, "size");
+        if (type.lower != type.upper)
+        {
+            diagnostics_.error(source.at, "a BIT STRING of variable size is not supported");
+        }
+        constexpr std::int64_t shortest = 32;
+        type.kind = type.upper <= shortest ? Kind::BitStr32 : Kind::BitOctets;
+    }
+
+    void member(Type& owner, const ast::Member& source, const Parameter* parameter, unsigned nesting)
+    {
+        Member result;
+        result.asnName = source.name;
+        result.cName = cIdentifier(source.name);
+        for (const Member& other : owner.members)
+        {
+            if (other.cName == result.cName)
+            {
+                diagnostics_.error(source.at, "the name '" + source.name + "' occurs twice");
+            }
+        }
+        result.type = resolveType(*source.type, owner.cName + "_" + result.cName, parameter, nesting + 1);
+        if (result.type == nullptr)
+        {
+            return; // reported
+        }
+        if (owner.kind == Kind::Choice)
+        {
+            result.pointer = result.type->constructed() || result.type->kind == Kind::BitStr32;
+        }
+        else if (source.optional)
+        {
+            result.optional = true;
+            result.flag = addFlag(owner, result.cName, source.at);
+        }
+        if (result.type->kind == Kind::Null && owner.kind == Kind::Sequence && !source.optional)
+        {
+            diagnostics_.error(source.at, "a mandatory NULL member is not supported");
+        }
+        owner.members.push_back(result);
+    }
+
+    int addFlag(Type& owner, const std::string& name, Location at)
+    {
+        if (owner.flags.size() == maxFlags)
+        {
+            diagnostics_.error(at, "there are too many optional members");
+            return 0;
+        }
+        owner.flags.push_back(name);
+        return static_cast<int>(owner.flags.size()) - 1;
+    }
+
+    void sequence(Type& type, const ast::Type& source, const Parameter* parameter, unsigned nesting)
+    {
+        type.kind = Kind::Sequence;
+        type.extensible = source.extensible;
+        for (const ast::Member& m : source.members)
+        {
+            member(type, m, parameter, nesting);
+        }
+        type.rootCount = type.members.size();
+        unsigned version = 2;
+        for (const ast::Addition& a : source.additions)
+        {
+            Addition addition;
+            addition.first = type.members.size();
+            if (a.group)
+            {
+                addition.flagName = "_v" + std::to_string(version++) + "Ext";
+                addition.flag = addFlag(type, addition.flagName, a.at);
+            }
+            else if (!a.members.front().optional)
+            {
+                diagnostics_.error(a.at, "a lone extension addition has to be OPTIONAL");
+            }
+            for (const ast::Member& m : a.members)
+            {
+                member(type, m, parameter, nesting);
+            }
+            addition.count = type.members.size() - addition.first;
+            type.additions.push_back(addition);
+        }
+        if (type.members.empty() && !type.extensible)
+        {
+            diagnostics_.error(source.at, "a SEQUENCE without members is not supported");
+        }
+    }
+
+    void choice(Type& type, const ast::Type& source, const Parameter* parameter, unsigned nesting)
+    {
+        type.kind = Kind::Choice;
+        type.extensible = source.extensible;
+        for (const ast::Member& m : source.members)
+        {
+            member(type, m, parameter, nesting);
+        }
+        type.rootCount = type.members.size();
+        for (const ast::Addition& a : source.additions)
+        {
+            member(type, a.members.front(), parameter, nesting);
+        }
+        if (type.rootCount == 0)
+        {
+            diagnostics_.error(source.at, "a CHOICE without alternatives is not supported");
+        }
+        for (const Member& m : type.members)
+        {
+            cName("T_" + type.cName + "_" + m.cName, source.at);
+        }
+    }
+
+    void sequenceOf(Type& type, const ast::Type& source, const Parameter* parameter, unsigned nesting)
+    {
+        bounds(type, source, 0, maxListCount, "size");
+        if (type.upper == 0)
+        {
+            diagnostics_.error(source.at, "a list that is always empty is not supported");
+        }
+        type.element = resolveType(*source.element, type.cName + "_element", parameter, nesting + 1);
+        if (type.element == nullptr)
+        {
+            return;
+        }
+        type.kind = type.element->kind == Kind::Integer || type.element->kind == Kind::Enumerated ? Kind::Array : Kind::List;
+        if (type.element->kind == Kind::Null || type.element->kind == Kind::Boolean || type.element->kind == Kind::BitStr32 ||
+            type.element->kind == Kind::BitOctets)
+        {
+            diagnostics_.error(source.at, "a list of this type is not supported");
+        }
+    }
+
+    const ast::Module& module_;
+    Diagnostics& diagnostics_;
+    Model model_;
+    std::map<std::string, std::int64_t> constants_;
+    std::map<std::string, const ast::TypeAssignment*> assignments_;
+    std::map<std::string, Type*> named_; // null for a type that was refused
+    std::set<std::string> open_;         // being built
+    std::set<std::string> cNames_;
+};
+
+} // namespace
+
+unsigned bitsFor(std::int64_t range)
+{
+    unsigned bits = 0;
+    for (; range > 0; range /= 2)
+    {
+        ++bits;
+    }
+    return bits;
+}
+
+unsigned Type::width() const
+{
+    const auto fits = [this](std::int64_t low, std::int64_t high) { return lower >= low && upper <= high; };
+    if (kind == Kind::Array)
+    {
+        return upper <= 0xFF ? 1 : 2;
+    }
+    if (lower < 0)
+    {
+        return fits(-0x80, 0x7F) ? 1 : fits(-0x8000, 0x7FFF) ? 2 : 4;
+    }
+    return upper <= 0xFF ? 1 : upper <= 0xFFFF ? 2 : 4;
+}
+
+bool Type::mayBeEmpty() const
+{
+    return kind == Kind::Sequence && std::all_of(members.begin(), members.begin() + static_cast<std::ptrdiff_t>(rootCount),
+                                                 [](const Member& m) { return m.optional; });
+}
+
+const Type* Model::find(const std::string& asnName) const
+{
+    const auto found = std::find_if(types.begin(), types.end(), [&](const Type* t) { return t->named && t->asnName == asnName; });
+    return found == types.end() ? nullptr : *found;
+}
+
+Model resolve(const ast::Module& module, Diagnostics& diagnostics)
+{
+    return Resolver(module, diagnostics).run();
+}
+
+} // namespace asncomp

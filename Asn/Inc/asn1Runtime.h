@@ -1,0 +1,168 @@
+// The ASN.1 runtime: the context with its heap, lists, bit strings, the PER buffer and the error trace.
+// Valid C11 and C++20. A context belongs to one thread at a time; different contexts are independent.
+#ifndef ASN1RUNTIME_H
+#define ASN1RUNTIME_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C"
+{
+#endif
+
+typedef uint8_t OSUINT8;
+typedef uint16_t OSUINT16;
+typedef uint32_t OSUINT32;
+typedef int8_t OSINT8;
+typedef int16_t OSINT16;
+typedef int32_t OSINT32;
+typedef uint8_t OSOCTET;
+typedef uint8_t OSBOOL; // 0 is FALSE, anything else TRUE
+
+// BIT STRING of at most 32 bits: numbits bits, the first one in the most significant bit of data[0].
+typedef struct ASN1BitStr32
+{
+    OSUINT32 numbits;
+    OSOCTET data[4];
+} ASN1BitStr32;
+
+// The octets of one extension addition that this schema's release does not know; data is null where the addition is
+// absent. numocts counts octets; the octets lie in the context's heap.
+typedef struct ASN1OpenType
+{
+    OSUINT32 numocts;
+    OSOCTET* data;
+} ASN1OpenType;
+
+// Doubly linked list of elements. Nodes and elements lie in the context's heap; the list owns nothing.
+typedef struct OSRTDListNode
+{
+    void* data;
+    struct OSRTDListNode* next;
+    struct OSRTDListNode* prev;
+} OSRTDListNode;
+
+typedef struct OSRTDList
+{
+    OSUINT32 count;
+    OSRTDListNode* head;
+    OSRTDListNode* tail;
+} OSRTDList;
+
+// Status of a runtime call: 0 or one of these.
+typedef enum RtxStatus
+{
+    RTX_OK = 0,
+    RTX_E_RANGE = -1,      // value is not in lower..upper
+    RTX_E_SIZE = -2,       // value elements, not lower..upper
+    RTX_E_CHOICE = -3,     // tag value is not in lower..upper
+    RTX_E_BITS = -4,       // a bit string of value bits, not lower
+    RTX_E_NULL = -5,       // a null pointer
+    RTX_E_FOREIGN = -6,    // a pointer out of the context's heap
+    RTX_E_LIST = -7,       // the list's count is value, its nodes end after lower
+    RTX_E_OVERFLOW = -8,   // the encoding needs more than the buffer's value octets
+    RTX_E_NOBUFFER = -9,   // no buffer is bound
+    RTX_E_ALIGNED = -10,   // aligned PER was asked for
+    RTX_E_HEAP = -11,      // the heap is exhausted: value octets were asked for
+    RTX_E_END = -12,       // the input ends before value more bits
+    RTX_E_PADDING = -13,   // a padding bit is set
+    RTX_E_SURPLUS = -14,   // value octets follow the encoding
+    RTX_E_LENGTH = -15,    // a length determinant that PER does not allow; value is its octet
+    RTX_E_EXTENSION = -16, // an extension addition that is announced and missing or of no use
+    RTX_E_DEPTH = -17      // the element tree is deeper than RTX_MAX_DEPTH
+} RtxStatus;
+
+#define RTX_MAX_DEPTH 48
+
+// One step of a path: a member's ASN.1 name, or (name null) the index of a list's element.
+typedef struct RtxPathStep
+{
+    const char* name;
+    OSUINT32 index;
+} RtxPathStep;
+
+// The first error of a context. The path is kept from the innermost step outwards.
+typedef struct RtxError
+{
+    OSINT32 status; // RtxStatus
+    OSUINT32 depth; // steps used
+    int64_t value;
+    int64_t lower;
+    int64_t upper;
+    uint64_t bitOffset; // where in the input the decoder stood
+    OSBOOL hasOffset;
+    RtxPathStep path[RTX_MAX_DEPTH];
+} RtxError;
+
+struct RtxHeapBlock;
+
+// A context owns a heap and the binding of a PER buffer. Its fields are the runtime's own; initialise it with
+// rtxInitContext and release it with rtFreeContext.
+typedef struct OSCTXT
+{
+    struct
+    {
+        struct RtxHeapBlock* blocks; // newest first
+        OSOCTET* next;               // free octets of the newest block
+        OSOCTET* end;
+        size_t left; // octets that may still be handed out
+    } heap;
+    struct
+    {
+        OSOCTET* data;
+        size_t capacity; // octets
+        size_t msgLen;   // octets
+    } buffer;
+    RtxError error;
+} OSCTXT;
+
+// Makes *pctxt an empty context without a limit. Allocates nothing. Returns 0, or RTX_E_NULL.
+int rtxInitContext(OSCTXT* pctxt);
+
+// Releases everything that was allocated from the context's heap. The context may be used again.
+void rtFreeContext(OSCTXT* pctxt);
+
+// Limits what the heap hands out from now on to `octets` (each request rounded up to 16).
+void rtxMemHeapSetLimit(OSCTXT* pctxt, size_t octets);
+
+// Returns `size` octets, aligned to 16, not cleared, that live until rtFreeContext; null when memory or the limit is
+// exhausted.
+void* rtxMemHeapAlloc(OSCTXT* pctxt, size_t size);
+
+// Nonzero when all `size` octets at `p` lie in memory that the context's heap has handed out.
+int rtxMemHeapOwns(const OSCTXT* pctxt, const void* p, size_t size);
+
+// Appends *pNode, which the caller owns and has given its data, at the tail of *pList.
+void rtxDListAppendNode(OSRTDList* pList, OSRTDListNode* pNode);
+
+// Binds the caller's buffer: the encoder writes at most `capacity` octets to it, the decoder reads exactly `capacity`
+// octets from it. `aligned` must be 0. Returns 0 or RTX_E_NULL, RTX_E_ALIGNED; the encoder and the decoder refuse to run
+// on a buffer that was refused here.
+int pu_setBuffer(OSCTXT* pctxt, OSOCTET* buf, size_t capacity, OSBOOL aligned);
+
+// Length in octets of the last message that was encoded without error.
+size_t pu_getMsgLen(const OSCTXT* pctxt);
+
+// Writes the context's error as one line without line end to text[0..size-1], always terminated. Returns the length of
+// the whole line; empty without an error.
+size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size);
+
+// Prints the context's error as one line with VOS_Printf: path, value and the bound it breaks. Nothing without an error.
+void rtxErrPrint(const OSCTXT* pctxt);
+
+// Forgets the context's error.
+void rtxErrReset(OSCTXT* pctxt);
+
+// Where printed lines go: called with each piece of text in order, terminated.
+typedef void (*RtxPrintSink)(void* arg, const char* text);
+
+// Names the context whose trees asn1Print_<Type> prints on this thread: the printer follows no pointer that is not in
+// this context's heap. Null ends it; so does rtFreeContext of that context on this thread.
+void rtxPrintSetContext(const OSCTXT* pctxt);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,186 @@
+// Unaligned PER (X.691): what the generated encoder is made of. The generated code is straight-line: it checks a value,
+// joins it with its neighbours and puts them with one constant width.
+#ifndef PERENCODER_H
+#define PERENCODER_H
+
+#include "rtxHeap.h"
+#include "rtxType.h"
+
+#include <cstring>
+
+namespace rtx
+{
+
+// The encoder's position and the bits not written yet. Two registers: it travels by value.
+struct Bits
+{
+    uint64_t word; // the last pos % 64 bits in its low end; what lies above them is of no account
+    uint64_t pos;  // bits put so far; all ones after an error
+};
+
+class Encoder
+{
+public:
+    explicit Encoder(OSCTXT& ctxt)
+        : ctxt_(ctxt), data_(ctxt.buffer.data), words_(ctxt.buffer.capacity / 8), limit_(uint64_t{ctxt.buffer.capacity} * 8)
+    {
+        if (const RtxHeapBlock* const newest = ctxt.heap.blocks)
+        {
+            heap_ = reinterpret_cast<uintptr_t>(newest + 1);
+            heapUsed_ = reinterpret_cast<uintptr_t>(ctxt.heap.next) - heap_;
+        }
+    }
+
+    // False once an error has occurred or more has been put than the buffer holds. Callers ask after every element, so
+    // that the error finds its path.
+    bool ok(Bits b) const { return b.pos <= limit_; }
+
+    // Appends the low N bits of v, whose other bits are 0.
+    template <unsigned N>
+    Bits put(Bits b, uint64_t v) const
+    {
+        static_assert(N >= 1 && N <= 63);
+        const auto used = static_cast<unsigned>(b.pos % 64);
+        b.pos += N;
+        if (used + N < 64)
+        {
+            b.word = b.word << N | v;
+            return b;
+        }
+        const unsigned rest = used + N - 64;
+        store(b.pos / 64 - 1, b.word << (N - rest) | v >> rest);
+        b.word = v;
+        return b;
+    }
+
+    // Appends n bits, 1..63.
+    Bits put(Bits b, uint64_t v, unsigned n) const;
+
+    // Appends the first N bits of a bare octet array.
+    template <unsigned N>
+    Bits octets(Bits b, const OSOCTET* p) const
+    {
+        static_assert(N > 32);
+        for (unsigned i = 0; i < N / 32; ++i, p += 4)
+        {
+            b = put<32>(b, load32(p));
+        }
+        if constexpr (N % 32 != 0)
+        {
+            uint32_t last = 0;
+            for (unsigned i = 0; i < (N % 32 + 7) / 8; ++i)
+            {
+                last |= uint32_t{p[i]} << (24 - 8 * i);
+            }
+            b = put<N % 32>(b, last >> (32 - N % 32));
+        }
+        return b;
+    }
+
+    // The value of a bit string of N bits, its first bit the most significant.
+    template <unsigned N>
+    static uint32_t bits(const ASN1BitStr32& s)
+    {
+        return load32(s.data) >> (32 - N);
+    }
+
+    // X.691 19.8, 11.6: the number of additions and their presence, the unknown ones of extElem1 behind the `count`
+    // that the schema knows.
+    Bits extensionBitmap(Bits b, uint64_t known, unsigned count, const OSRTDList& unknown);
+    Bits unknownAdditions(Bits b, const OSRTDList& unknown);
+    // X.691 11.2: an open type. openType() leaves room for its length and closeOpenType() writes it.
+    Bits openType(Bits b) const { return put<8>(b, 0); }
+    Bits closeOpenType(Bits b, uint64_t start) const;
+    // An alternative that this release does not know; an unknown tag without its octets is an error. Of the
+    // `alternatives` that the schema knows, the last `extensions` are extension additions.
+    Bits unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, uint32_t extensions, const ASN1OpenType* unknown);
+    // X.691 11.6: a normally small non-negative number.
+    Bits smallNumber(Bits b, uint64_t value) const;
+
+    // Whether the pointer may be followed.
+    template <typename T>
+    bool reachable(const T* p) const
+    {
+        const uintptr_t offset = reinterpret_cast<uintptr_t>(p) - heap_;
+        return ((offset < heapUsed_ && sizeof(T) <= heapUsed_ - offset) || owns(ctxt_, p, sizeof(T))) &&
+               reinterpret_cast<uintptr_t>(p) % alignof(T) == 0;
+    }
+
+    // A list's element, or null when the node or its data may not be followed.
+    template <typename T>
+    const T* element(const OSRTDListNode* node) const
+    {
+        if (!reachable(node) || !reachable(static_cast<const T*>(node->data)))
+        {
+            return nullptr;
+        }
+        return static_cast<const T*>(node->data);
+    }
+
+    // Errors. Each returns what the caller returns.
+    Bits range(const char* member, int64_t value, int64_t lower, int64_t upper);
+    Bits rangeAt(uint32_t index, int64_t value, int64_t lower, int64_t upper);
+    Bits length(const char* member, uint32_t numbits, uint32_t wanted);
+    Bits size(uint32_t count, uint32_t lower, uint32_t upper);
+    Bits choice(uint32_t tag, uint32_t last);
+    Bits pointer(const char* member, const void* p);
+    Bits node(const OSRTDList& list, uint32_t index, const OSRTDListNode* node);
+    // The element `member` or the list entry `index` failed, or did not fit.
+    Bits in(Bits b, const char* member);
+    Bits at(Bits b, uint32_t index);
+
+    // Runs the encoder of a type on the context's buffer.
+    template <typename T>
+    static int run(OSCTXT* pctxt, const char* name, const T* value, Bits (*encodeType)(Encoder&, Bits, const T*))
+    {
+        if (pctxt == nullptr)
+        {
+            return RTX_E_NULL;
+        }
+        if (const int status = ready(*pctxt, name, value))
+        {
+            return status;
+        }
+        Encoder e(*pctxt);
+        return e.finish(encodeType(e, Bits{0, 0}, value), name);
+    }
+
+private:
+    static constexpr Bits failed{0, ~uint64_t{0}};
+
+    static uint32_t load32(const OSOCTET* p)
+    {
+        uint32_t v;
+        std::memcpy(&v, p, sizeof v);
+        return __builtin_bswap32(v);
+    }
+
+    void store(uint64_t index, uint64_t word) const
+    {
+        if (index < words_)
+        {
+            const uint64_t octets = __builtin_bswap64(word);
+            std::memcpy(data_ + index * 8, &octets, sizeof octets);
+        }
+    }
+
+    static int ready(OSCTXT& ctxt, const char* name, const void* value);
+    int finish(Bits b, const char* name);
+    Bits error(RtxStatus status, int64_t value, int64_t lower, int64_t upper);
+    Bits length(Bits b, uint64_t octets) const;
+    Bits content(Bits b, const OSOCTET* p, uint64_t octets) const;
+    const ASN1OpenType* unknownAddition(const OSRTDListNode* node);
+    void flush(Bits b) const;
+    Bits resume(uint64_t pos) const;
+
+    OSCTXT& ctxt_;
+    OSOCTET* data_;
+    uint64_t words_; // whole words that the buffer holds
+    uint64_t limit_; // bits that the buffer holds
+    uintptr_t heap_ = 0; // the heap's newest block, where nearly everything lies
+    uintptr_t heapUsed_ = 0;
+};
+
+} // namespace rtx
+
+#endif

@@ -1,0 +1,111 @@
+# What every target of the project is compiled with, and the one way to declare each kind of target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_C_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(PROJECT_IS_TOP_LEVEL)
+    set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+endif()
+
+# cgc_compile_options(<target>): warnings, and a __FILE__ that starts at the project's top folder.
+function(cgc_compile_options target)
+    target_compile_options(
+        ${target}
+        PRIVATE -Wall -Wextra -Wconversion -Wshadow "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
+    )
+endfunction()
+
+# cgc_library(<target> ALIAS <name> SOURCES <file>... [INCLUDES <folder>...] [TYPE STATIC|SHARED|OBJECT])
+# A library that a product links: no exceptions, no RTTI, installed with the package as cellgroupcfg::<name>.
+# INCLUDES are the folders whose headers its users see.
+function(cgc_library target)
+    cmake_parse_arguments(arg "" "ALIAS;TYPE" "SOURCES;INCLUDES" ${ARGN})
+    if(NOT arg_TYPE)
+        set(arg_TYPE STATIC)
+    endif()
+
+    add_library(${target} ${arg_TYPE} ${arg_SOURCES})
+    cgc_compile_options(${target})
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>)
+    foreach(folder IN LISTS arg_INCLUDES)
+        target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/${folder}>)
+    endforeach()
+
+    if(arg_ALIAS)
+        add_library(cellgroupcfg::${arg_ALIAS} ALIAS ${target})
+        set_target_properties(${target} PROPERTIES EXPORT_NAME ${arg_ALIAS})
+        set_property(GLOBAL APPEND PROPERTY CELLGROUPCFG_PACKAGE_TARGETS ${target})
+    endif()
+endfunction()
+
+# cgc_provides(<target> <symbol>...)
+# The library is a default that a product may replace: other libraries call these functions without linking it. A
+# program that links it asks for them from the start, wherever the library stands on the link line; what the program
+# defines itself is not taken from it.
+function(cgc_provides target)
+    foreach(symbol IN LISTS ARGN)
+        target_link_options(${target} INTERFACE LINKER:--undefined=${symbol})
+    endforeach()
+endfunction()
+
+# cgc_install_headers(<folder>): the folder's headers, subfolders kept, go to the package's include folder.
+function(cgc_install_headers folder)
+    install(
+        DIRECTORY ${folder}/
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/cellgroupcfg"
+        FILES_MATCHING
+        PATTERN "*.h"
+    )
+endfunction()
+
+# cgc_program(<target> SOURCES <file>... LIBS <library>...): an example, a benchmark, a tool.
+function(cgc_program target)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBS" ${ARGN})
+    add_executable(${target} ${arg_SOURCES})
+    cgc_compile_options(${target})
+    target_link_libraries(${target} PRIVATE ${arg_LIBS})
+endfunction()
+
+# cgc_test(<name> SOURCES <file>... LIBS <library>...)
+# One test executable with GoogleTest's main and one ctest of the same name, run in the project's top folder.
+function(cgc_test name)
+    cgc_program(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE GTest::gmock_main)
+    add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# cgc_benchmark(<name> SOURCES <file>... LIBS <library>...)
+# A program of Google Benchmark, with its main, in <build>/benchmarks; scripts/test-bench.sh runs all that lie there.
+function(cgc_benchmark name)
+    cgc_program(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE benchmark::benchmark_main)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/benchmarks")
+endfunction()
+
+# cgc_fuzzer(<name> SOURCES <file>... LIBS <library>...)
+# A libFuzzer executable in <build>/fuzzers; scripts/test-fuzz.sh feeds it fuzz/corpus/<name>.
+function(cgc_fuzzer name)
+    cgc_program(${name} ${ARGN})
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzzers")
+endfunction()
+
+# cgc_composer_test(<name> SOURCES <file>...)
+# A test of composers: heap requests can be made to fail, any named type can be encoded, and the messages given to
+# expectDecoded() go to the independent decoder in the test oracle.messages.
+function(cgc_composer_test name)
+    cgc_test(${name} ${ARGN} LIBS cellgroupcfg_composer_test cellgroupcfg_internals cellgroupcfg::du cellgroupcfg::platform)
+    target_link_options(${name} PRIVATE LINKER:--wrap=rtxMemHeapAlloc)
+    set(messages "${PROJECT_BINARY_DIR}/oracle/${name}.messages")
+    set_tests_properties(
+        ${name}
+        PROPERTIES ENVIRONMENT "CELLGROUPCFG_ORACLE_FILE=${messages}" FIXTURES_SETUP oracle_messages FIXTURES_REQUIRED oracle_folder
+    )
+endfunction()

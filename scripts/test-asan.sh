@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# All tests on the build with the address and undefined-behaviour sanitizers.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/build.sh asan
+ctest --preset asan

@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Replays the corpus of every fuzzer, then lets each look for new inputs for FUZZ_SECONDS (10).
+# What it finds is left in build/fuzz/found/<fuzzer>; a mended find belongs into fuzz/corpus/<fuzzer>.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/build.sh fuzz
+
+count=0
+for fuzzer in build/fuzz/fuzzers/*; do
+    [ -x "$fuzzer" ] || continue
+    name=$(basename "$fuzzer")
+    corpus=fuzz/corpus/$name
+    found=build/fuzz/found/$name
+    [ -n "$(ls -A "$corpus" 2>/dev/null)" ] || { echo "test-fuzz: $corpus has no input" >&2; exit 1; }
+    rm -rf "build/fuzz/grown/$name"
+    mkdir -p "$found" "build/fuzz/grown/$name"
+
+    echo "== $name: corpus"
+    "$fuzzer" -runs=0 -verbosity=0 "$corpus"
+    echo "== $name: ${FUZZ_SECONDS:-10} seconds"
+    "$fuzzer" -max_total_time="${FUZZ_SECONDS:-10}" -timeout=10 -verbosity=0 -print_final_stats=1 \
+        -artifact_prefix="$found/" "build/fuzz/grown/$name" "$corpus"
+    count=$((count + 1))
+done
+[ "$count" -gt 0 ] || { echo "test-fuzz: no fuzzer was built" >&2; exit 1; }

@@ -1,0 +1,306 @@
+#include "rtxHeap.h"
+#include "rtxType.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <thread>
+#include <vector>
+
+// A request that the machine cannot serve ends in a null pointer, also under the sanitizers.
+extern "C" const char* __asan_default_options()
+{
+    return "allocator_may_return_null=1";
+}
+
+extern "C" const char* __tsan_default_options()
+{
+    return "allocator_may_return_null=1";
+}
+
+namespace
+{
+
+class Context : public testing::Test
+{
+protected:
+    Context()
+    {
+        EXPECT_EQ(RTX_OK, rtxInitContext(&ctxt));
+    }
+
+    ~Context() override
+    {
+        rtFreeContext(&ctxt);
+    }
+
+    OSOCTET* alloc(size_t size)
+    {
+        return static_cast<OSOCTET*>(rtxMemHeapAlloc(&ctxt, size));
+    }
+
+    OSCTXT ctxt;
+};
+
+size_t blockCount(const OSCTXT& ctxt)
+{
+    size_t count = 0;
+    for (const RtxHeapBlock* block = ctxt.heap.blocks; block != nullptr; block = block->link)
+    {
+        ++count;
+    }
+    return count;
+}
+
+TEST_F(Context, InitRefusesNull)
+{
+    EXPECT_EQ(RTX_E_NULL, rtxInitContext(nullptr));
+}
+
+TEST_F(Context, InitAllocatesNothing)
+{
+    EXPECT_EQ(nullptr, ctxt.heap.blocks);
+    EXPECT_EQ(0U, pu_getMsgLen(&ctxt));
+}
+
+TEST_F(Context, FreeOfAnUnusedOrFreedContextDoesNothing)
+{
+    rtFreeContext(&ctxt);
+    EXPECT_NE(nullptr, alloc(10));
+    rtFreeContext(&ctxt);
+    rtFreeContext(&ctxt);
+    rtFreeContext(nullptr);
+    EXPECT_EQ(nullptr, ctxt.heap.blocks);
+}
+
+TEST_F(Context, AFreedContextIsUsedAgain)
+{
+    ASSERT_NE(nullptr, alloc(100));
+    rtFreeContext(&ctxt);
+    OSOCTET* const p = alloc(100);
+    ASSERT_NE(nullptr, p);
+    std::memset(p, 0xAA, 100);
+    EXPECT_EQ(1U, blockCount(ctxt));
+}
+
+TEST_F(Context, RequestsAreAlignedTo16AndApart)
+{
+    std::vector<OSOCTET*> all;
+    for (const size_t size : {1U, 15U, 16U, 17U, 0U, 40U, 1U})
+    {
+        OSOCTET* const p = alloc(size);
+        ASSERT_NE(nullptr, p);
+        EXPECT_EQ(0U, reinterpret_cast<uintptr_t>(p) % 16);
+        std::memset(p, static_cast<int>(all.size()), size);
+        all.push_back(p);
+    }
+    EXPECT_EQ(16, all[1] - all[0]);
+    EXPECT_EQ(16, all[2] - all[1]);
+    EXPECT_EQ(16, all[3] - all[2]);
+    EXPECT_EQ(32, all[4] - all[3]);
+    EXPECT_EQ(16, all[5] - all[4]) << "an empty request has octets of its own";
+    EXPECT_EQ(48, all[6] - all[5]);
+}
+
+TEST_F(Context, SixteenKibioctetsTakeOneBlock)
+{
+    for (int i = 0; i < 1024; ++i)
+    {
+        ASSERT_NE(nullptr, alloc(16));
+    }
+    EXPECT_EQ(1U, blockCount(ctxt));
+    ASSERT_NE(nullptr, alloc(16));
+    EXPECT_EQ(2U, blockCount(ctxt));
+}
+
+TEST_F(Context, LaterBlocksGrow)
+{
+    size_t last = 0;
+    for (size_t blocks = 1; blocks <= 5; ++blocks)
+    {
+        while (blockCount(ctxt) < blocks)
+        {
+            ASSERT_NE(nullptr, alloc(1000));
+        }
+        EXPECT_GT(ctxt.heap.blocks->size, last);
+        last = ctxt.heap.blocks->size;
+    }
+}
+
+TEST_F(Context, ALargeRequestGetsABlockOfItsSize)
+{
+    ASSERT_NE(nullptr, alloc(1));
+    constexpr size_t size = 3'000'000;
+    OSOCTET* const p = alloc(size);
+    ASSERT_NE(nullptr, p);
+    std::memset(p, 0x55, size);
+    EXPECT_EQ(2U, blockCount(ctxt));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, p, size));
+}
+
+TEST_F(Context, RequestsThatNoMachineServesAreNull)
+{
+    EXPECT_EQ(nullptr, alloc(SIZE_MAX));
+    EXPECT_EQ(nullptr, alloc(SIZE_MAX - 14));
+    EXPECT_EQ(nullptr, alloc(SIZE_MAX - 15));
+    EXPECT_EQ(nullptr, alloc(SIZE_MAX - 40));
+    EXPECT_EQ(nullptr, alloc(SIZE_MAX / 2));
+    EXPECT_EQ(RTX_OK, ctxt.error.status);
+    EXPECT_NE(nullptr, alloc(16)) << "a refused request changes nothing";
+}
+
+TEST_F(Context, TheLimitCountsRoundedRequests)
+{
+    rtxMemHeapSetLimit(&ctxt, 64);
+    EXPECT_NE(nullptr, alloc(17)); // 32
+    EXPECT_EQ(nullptr, alloc(33)); // 48
+    EXPECT_NE(nullptr, alloc(16));
+    EXPECT_NE(nullptr, alloc(0)); // 16
+    EXPECT_EQ(nullptr, alloc(0));
+    EXPECT_EQ(nullptr, alloc(1));
+    EXPECT_EQ(RTX_OK, ctxt.error.status) << "exhaustion is the caller's to report";
+}
+
+TEST_F(Context, ALimitOf15IsTooLittleForAnything)
+{
+    rtxMemHeapSetLimit(&ctxt, 15);
+    EXPECT_EQ(nullptr, alloc(1));
+    EXPECT_EQ(nullptr, ctxt.heap.blocks);
+}
+
+TEST_F(Context, TheLimitCountsFromItsCall)
+{
+    ASSERT_NE(nullptr, alloc(1000));
+    rtxMemHeapSetLimit(&ctxt, 16);
+    EXPECT_NE(nullptr, alloc(16));
+    EXPECT_EQ(nullptr, alloc(16));
+    rtxMemHeapSetLimit(&ctxt, 16);
+    EXPECT_NE(nullptr, alloc(16));
+}
+
+TEST_F(Context, FreeEndsTheLimit)
+{
+    rtxMemHeapSetLimit(&ctxt, 0);
+    EXPECT_EQ(nullptr, alloc(16));
+    rtFreeContext(&ctxt);
+    EXPECT_NE(nullptr, alloc(100'000));
+}
+
+TEST_F(Context, OwnsWhatItHandedOut)
+{
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, &ctxt, 1)) << "without a block";
+    OSOCTET* const p = alloc(32);
+    ASSERT_NE(nullptr, p);
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, p, 32));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, p + 31, 1));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, p + 5, 0));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p, 33)) << "the octets behind are not handed out";
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p + 31, 2));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p + 32, 1));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p - 1, 1)) << "the block's head";
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p - 1, 5));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p + 1, SIZE_MAX));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, nullptr, 1));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, &ctxt, sizeof ctxt));
+}
+
+TEST_F(Context, OwnsWhatLiesInOlderBlocks)
+{
+    OSOCTET* const first = alloc(64);
+    OSOCTET* const second = alloc(100'000);
+    OSOCTET* const third = alloc(1'000'000);
+    ASSERT_NE(nullptr, third);
+    EXPECT_EQ(3U, blockCount(ctxt));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, first, 64));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, second, 100'000));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, third, 1'000'000));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, first + 64, 1)) << "was never handed out";
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, first, 65));
+}
+
+TEST_F(Context, OwnsNothingOfAnotherContext)
+{
+    OSCTXT other;
+    ASSERT_EQ(RTX_OK, rtxInitContext(&other));
+    void* const p = rtxMemHeapAlloc(&other, 16);
+    ASSERT_NE(nullptr, p);
+    ASSERT_NE(nullptr, alloc(16));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p, 16));
+    EXPECT_NE(0, rtxMemHeapOwns(&other, p, 16));
+    rtFreeContext(&other);
+}
+
+TEST(List, AppendsAtTheTail)
+{
+    OSRTDList list = {};
+    OSRTDListNode nodes[3];
+    int data[3] = {};
+    for (size_t i = 0; i < 3; ++i)
+    {
+        std::memset(&nodes[i], 0xEE, sizeof nodes[i]);
+        nodes[i].data = &data[i];
+        rtxDListAppendNode(&list, &nodes[i]);
+        EXPECT_EQ(i + 1, list.count);
+        EXPECT_EQ(&nodes[i], list.tail);
+        EXPECT_EQ(nullptr, nodes[i].next);
+        EXPECT_EQ(&data[i], nodes[i].data);
+    }
+    EXPECT_EQ(&nodes[0], list.head);
+    EXPECT_EQ(nullptr, nodes[0].prev);
+    EXPECT_EQ(&nodes[1], nodes[0].next);
+    EXPECT_EQ(&nodes[0], nodes[1].prev);
+    EXPECT_EQ(&nodes[2], nodes[1].next);
+    EXPECT_EQ(&nodes[1], nodes[2].prev);
+}
+
+TEST_F(Context, BindsABuffer)
+{
+    OSOCTET octets[4];
+    EXPECT_EQ(RTX_OK, pu_setBuffer(&ctxt, octets, sizeof octets, 0));
+    EXPECT_EQ(octets, ctxt.buffer.data);
+    EXPECT_EQ(4U, ctxt.buffer.capacity);
+    EXPECT_EQ(0U, pu_getMsgLen(&ctxt));
+    EXPECT_EQ(RTX_OK, pu_setBuffer(&ctxt, octets, 0, 0)) << "a buffer without octets is one";
+}
+
+TEST_F(Context, RefusesNoBuffer)
+{
+    OSOCTET octets[4];
+    ASSERT_EQ(RTX_OK, pu_setBuffer(&ctxt, octets, sizeof octets, 0));
+    EXPECT_EQ(RTX_E_NULL, pu_setBuffer(&ctxt, nullptr, 8192, 0));
+    EXPECT_EQ(nullptr, ctxt.buffer.data) << "the buffer before is unbound";
+}
+
+TEST_F(Context, RefusesAlignedPer)
+{
+    OSOCTET octets[4];
+    EXPECT_EQ(RTX_E_ALIGNED, pu_setBuffer(&ctxt, octets, sizeof octets, 1));
+    EXPECT_EQ(nullptr, ctxt.buffer.data);
+    EXPECT_EQ(RTX_E_ALIGNED, ctxt.error.status);
+    EXPECT_EQ(RTX_E_ALIGNED, pu_setBuffer(&ctxt, octets, sizeof octets, 0x80)) << "any non-zero octet is true";
+}
+
+TEST_F(Context, ThePrintedContextIsPerThreadAndEndsWithIt)
+{
+    rtxPrintSetContext(&ctxt);
+    EXPECT_EQ(&ctxt, rtx::printContext());
+    const OSCTXT* elsewhere = &ctxt;
+    std::thread([&] { elsewhere = rtx::printContext(); }).join();
+    EXPECT_EQ(nullptr, elsewhere);
+
+    OSCTXT other;
+    ASSERT_EQ(RTX_OK, rtxInitContext(&other));
+    rtFreeContext(&other);
+    EXPECT_EQ(&ctxt, rtx::printContext()) << "another context's end";
+
+    rtFreeContext(&ctxt);
+    EXPECT_EQ(nullptr, rtx::printContext());
+    rtxPrintSetContext(&ctxt);
+    EXPECT_EQ(RTX_OK, rtxInitContext(&ctxt));
+    EXPECT_EQ(nullptr, rtx::printContext()) << "a new context at an old address";
+    rtxPrintSetContext(&ctxt);
+    rtxPrintSetContext(nullptr);
+    EXPECT_EQ(nullptr, rtx::printContext());
+}
+
+} // namespace

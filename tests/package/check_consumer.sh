@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# check_consumer.sh <cmake> <build> <scratch> <cmake option>...: installs the build, then builds and runs a C and a C++
+# project that find the package.
+set -euo pipefail
+cmake=$1 build=$2 scratch=$3
+shift 3
+here=$(cd "$(dirname "$0")" && pwd)
+
+rm -rf "$scratch/installed" "$scratch/c" "$scratch/cxx"
+"$cmake" --install "$build" --prefix "$scratch/installed" >"$scratch/install.log"
+
+for language in c cxx; do
+    "$cmake" -S "$here/consumer" -B "$scratch/$language" "-DCONSUMER_LANGUAGE=${language^^}" \
+        "-DCMAKE_PREFIX_PATH=$scratch/installed" "$@"
+    "$cmake" --build "$scratch/$language"
+    for program in static shared own_platform; do
+        echo "== $language $program"
+        "$scratch/$language/$program"
+    done
+done

@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# check_symbols.sh <nm> <readelf> <shared library>: what the library offers, what it leaves to the program, and what
+# it loads.
+set -euo pipefail
+nm=$1 readelf=$2 library=$3
+
+expect()
+{
+    if [ "$2" != "$3" ]; then
+        printf '%s:\n' "$1"
+        diff -u --label expected --label found <(echo "$2") <(echo "$3") || true
+        exit 1
+    fi
+}
+
+expect "exported" "rrcComposeCellGroupCfg
+uint64ToBitString43bit
+uint64ToBitString48bit
+uint64ToBitString59bit
+uint64ToBitString64bit" "$("$nm" -D --defined-only "$library" | awk '{ print $NF }' | LC_ALL=C sort)"
+
+# Versioned names are the C library's, names with leading underscores those of the compiler's runtime.
+expect "left to the platform layer and the distributed unit" "VOS_MemCpy
+VOS_MemZero
+VOS_Printf
+VOS_SysLog
+duComposeBWP_DownlinkCommon
+duComposeBWP_UplinkCommon
+duComposeSCS_SpecificCarrier
+duComposeTDD_UL_DL_ConfigCommon
+module_print_filter
+vos_info_print_filter_is_filtered" \
+    "$("$nm" -D --undefined-only "$library" | awk '$1 == "U" { print $2 }' | grep -v -e @ -e '^__' | LC_ALL=C sort)"
+
+expect "soname" "[libcellgroupcfg.so.0]" "$("$readelf" -d "$library" | awk '/\(SONAME\)/ { print $NF }')"
+expect "C++ runtime" "" "$("$readelf" -d "$library" | awk '/\(NEEDED\).*c\+\+/ { print $NF }')"
