@@ -16,11 +16,13 @@ for fuzzer in build/fuzz/fuzzers/*; do
     rm -rf "build/fuzz/grown/$name"
     mkdir -p "$found" "build/fuzz/grown/$name"
 
-    echo "== $name: corpus"
-    "$fuzzer" -runs=0 -verbosity=0 "$corpus"
-    echo "== $name: ${FUZZ_SECONDS:-10} seconds"
-    "$fuzzer" -max_total_time="${FUZZ_SECONDS:-10}" -timeout=10 -verbosity=0 -print_final_stats=1 \
-        -artifact_prefix="$found/" "build/fuzz/grown/$name" "$corpus"
+    for job in "-runs=0 $corpus" "-max_total_time=${FUZZ_SECONDS:-10} build/fuzz/grown/$name $corpus"; do
+        echo "== $name $job"
+        # shellcheck disable=SC2086 # a job is several words
+        "$fuzzer" -timeout=10 -print_final_stats=1 -artifact_prefix="$found/" $job >build/fuzz/log 2>&1 ||
+            { cat build/fuzz/log >&2; exit 1; }
+        grep 'number_of_executed_units' build/fuzz/log
+    done
     count=$((count + 1))
 done
 [ "$count" -gt 0 ] || { echo "test-fuzz: no fuzzer was built" >&2; exit 1; }

@@ -62,12 +62,12 @@ struct Type
     Location at;
     Bound lower; // Integer: range; SequenceOf, BitString: size
     Bound upper;
-    std::vector<Value> values;         // Enumerated
-    std::vector<Member> members;       // Sequence, Choice
-    std::vector<Addition> additions;   // Sequence, Choice
-    bool extensible = false;           // Sequence, Choice
-    std::string name;                  // Reference
-    std::unique_ptr<Type> element;     // SequenceOf, Reference
+    std::vector<Value> values;       // Enumerated
+    std::vector<Member> members;     // Sequence, Choice
+    std::vector<Addition> additions; // Sequence, Choice
+    bool extensible = false;         // Sequence, Choice
+    std::string name;                // Reference
+    std::unique_ptr<Type> element;   // SequenceOf, Reference
 };
 
 struct TypeAssignment

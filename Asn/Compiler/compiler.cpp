@@ -38,6 +38,10 @@ std::vector<OutputFile> compile(const std::string& schemaName, std::string_view 
         return {};
     }
     const Model model = resolve(module, diagnostics);
+    if (diagnostics.failed())
+    {
+        return {};
+    }
     const std::string typesHeader = "NR-RRC-Definitions.h";
     Pdus selected{{}, options.base.empty() ? typesHeader : options.base + ".h"};
     for (const std::string& name : options.pdus)
@@ -45,9 +49,11 @@ std::vector<OutputFile> compile(const std::string& schemaName, std::string_view 
         if (name == "all")
         {
             std::copy_if(model.types.begin(), model.types.end(), std::back_inserter(selected.types),
-                         [&](const Type* type) {
+                         [&](const Type* type)
+                         {
                              return type->named && type->constructed() &&
-                                    std::find(options.except.begin(), options.except.end(), type->asnName) == options.except.end();
+                                    std::find(options.except.begin(), options.except.end(), type->asnName) ==
+                                        options.except.end();
                          });
             continue;
         }
@@ -66,7 +72,8 @@ std::vector<OutputFile> compile(const std::string& schemaName, std::string_view 
     const Origin origin{schemaName, hashOf(schema)};
     if (!options.base.empty())
     {
-        return {{selected.header, emitPduHeader(origin, selected, typesHeader)}, {options.base + ".cpp", emitEncoder(model, origin, selected)}};
+        return {{selected.header, emitPduHeader(origin, selected, typesHeader)},
+                {options.base + ".cpp", emitEncoder(model, origin, selected)}};
     }
     return {{typesHeader, emitTypes(model, origin, selected)},
             {"NR-RRC-Tables.h", emitTablesHeader(model, origin)},

@@ -23,12 +23,23 @@ public:
     {
         if (messages_.size() < limit)
         {
-            messages_.push_back(file_ + ":" + std::to_string(at.line) + ":" + std::to_string(at.column) + ": " + message);
+            messages_.push_back(file_ + ":" + std::to_string(at.line) + ":" + std::to_string(at.column) + ": " +
+                                message);
+        }
+        else if (messages_.size() == limit)
+        {
+            messages_.push_back(file_ + ": there are more errors");
         }
     }
 
-    bool failed() const { return !messages_.empty(); }
-    const std::vector<std::string>& messages() const { return messages_; }
+    bool failed() const
+    {
+        return !messages_.empty();
+    }
+    const std::vector<std::string>& messages() const
+    {
+        return messages_;
+    }
 
 private:
     static constexpr std::size_t limit = 50;

@@ -1,6 +1,8 @@
-// The encoder: one function per constructed type, straight-line, neighbouring values of constant width joined into one put.
+// The encoder: one function per constructed type, straight-line, neighbouring values of constant width joined into one
+// put.
 #include "emitter.h"
 
+#include <algorithm>
 #include <set>
 
 namespace asncomp
@@ -26,7 +28,10 @@ class Body
 public:
     explicit Body(unsigned indent) : indent_(indent) {}
 
-    void line(const std::string& content) { out_ += std::string(std::size_t{indent_} * 4, ' ') + content + "\n"; }
+    void line(const std::string& content)
+    {
+        out_ += std::string(std::size_t{indent_} * 4, ' ') + content + "\n";
+    }
     void open()
     {
         flush();
@@ -186,8 +191,8 @@ private:
             list(body, type);
             break;
         }
-        return "// " + type.asnName + "\nstatic Bits pe_" + type.cName + "(Encoder& e, Bits b, const " + type.cName + "* v)\n{\n" +
-               body.take() + "    return b;\n}\n";
+        return "// " + type.asnName + "\nstatic Bits pe_" + type.cName + "(Encoder& e, Bits b, const " + type.cName +
+               "* v)\n{\n" + body.take() + "    return b;\n}\n";
     }
 
     static void check(Body& body, const std::string& condition, const std::string& error)
@@ -214,11 +219,13 @@ private:
             break;
         case Kind::Integer:
         case Kind::Enumerated:
-            check(body, outside(type, at), "e.range(" + quoted(name) + ", " + at + ", " + text(type.lower) + ", " + text(type.upper) + ")");
+            check(body, outside(type, at),
+                  "e.range(" + quoted(name) + ", " + at + ", " + text(type.lower) + ", " + text(type.upper) + ")");
             body.piece(offsetValue(type, at), bitsFor(type.upper - type.lower));
             break;
         case Kind::BitStr32:
-            check(body, at + ".numbits != " + text(type.upper), "e.length(" + quoted(name) + ", " + at + ".numbits, " + text(type.upper) + ")");
+            check(body, at + ".numbits != " + text(type.upper),
+                  "e.length(" + quoted(name) + ", " + at + ".numbits, " + text(type.upper) + ")");
             body.piece(wide("e.bits<" + text(type.upper) + ">(" + at + ")"), static_cast<unsigned>(type.upper));
             break;
         case Kind::BitOctets:
@@ -257,14 +264,33 @@ private:
         }
     }
 
+    // The presence bits of optional members; their flags stand in the same order in `m`.
     static void presence(Body& body, const Type& type, std::size_t first, std::size_t count)
     {
+        std::vector<const Member*> optional;
         for (std::size_t i = first; i < first + count; ++i)
         {
             if (type.members[i].optional)
             {
-                body.piece(wide("v->m." + type.members[i].cName + "Present"), 1);
+                optional.push_back(&type.members[i]);
             }
+        }
+        constexpr std::size_t few = 2;
+        constexpr std::size_t most = 24;
+        constexpr std::size_t wordBits = 32;
+        for (std::size_t i = 0; i < optional.size();)
+        {
+            const auto flag = static_cast<std::size_t>(optional[i]->flag);
+            const std::size_t run = std::min({optional.size() - i, most, wordBits - flag % wordBits});
+            if (run <= few)
+            {
+                body.piece(wide("v->m." + optional[i]->cName + "Present"), 1);
+                ++i;
+                continue;
+            }
+            body.piece("e.flags<" + std::to_string(flag) + ", " + std::to_string(run) + ">(v->m)",
+                       static_cast<unsigned>(run));
+            i += run;
         }
     }
 
@@ -318,7 +344,8 @@ private:
         }
         body.line("if (extended)");
         body.open();
-        body.line("b = e.extensionBitmap(b, " + known + ", " + std::to_string(type.additions.size()) + ", v->extElem1);");
+        body.line("b = e.extensionBitmap(b, " + known + ", " + std::to_string(type.additions.size()) +
+                  ", v->extElem1);");
         check(body, "!e.ok(b)", "b");
         for (std::size_t i = 0; i < type.additions.size(); ++i)
         {
@@ -424,15 +451,16 @@ private:
             return;
         }
         const bool any = type.lower == 0;
-        constexpr std::int64_t octetMost = 0xFF;
-        const bool full = type.kind == Kind::Array && type.upper == octetMost;
+        // What the count's storage cannot exceed needs no check.
+        const bool full = type.kind == Kind::Array && (type.upper == 0xFF || type.upper == 0xFFFF);
         std::string condition = any ? "" : "v->" + field + " < " + text(type.lower) + "u";
         if (!full)
         {
             condition += (condition.empty() ? "" : " || ") + ("v->" + field + " > " + text(type.upper) + "u");
         }
         check(body, condition, wrong);
-        body.piece(any ? wide("v->" + field) : "(uint64_t{v->" + field + "} - " + text(type.lower) + ")", bitsFor(type.upper - type.lower));
+        body.piece(any ? wide("v->" + field) : "(uint64_t{v->" + field + "} - " + text(type.lower) + ")",
+                   bitsFor(type.upper - type.lower));
         body.flush();
     }
 
@@ -442,11 +470,13 @@ private:
         {
             count(body, type, "n");
         }
-        body.line("for (uint32_t i = 0; i < " + (type.fixedSize() ? text(type.upper) + "u" : std::string("v->n")) + "; ++i)");
+        body.line("for (uint32_t i = 0; i < " + (type.fixedSize() ? text(type.upper) + "u" : std::string("v->n")) +
+                  "; ++i)");
         body.open();
         const Type& element = *type.element;
         body.line("const auto value = v->elem[i];");
-        check(body, outside(element, "value"), "e.rangeAt(i, value, " + text(element.lower) + ", " + text(element.upper) + ")");
+        check(body, outside(element, "value"),
+              "e.rangeAt(i, value, " + text(element.lower) + ", " + text(element.upper) + ")");
         body.piece(offsetValue(element, "value"), bitsFor(element.upper - element.lower));
         body.close();
     }
@@ -473,21 +503,25 @@ private:
 
 std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pdus)
 {
-    std::string out = generatedMark(origin) + "#include \"" + pdus.header +
-                      "\"\n#include \"NR-RRC-Tables.h\"\n#include \"perEncoder.h\"\n\nusing rtx::Bits;\nusing rtx::Encoder;\n";
+    std::string out =
+        generatedMark(origin) + "#include \"" + pdus.header +
+        "\"\n#include \"NR-RRC-Tables.h\"\n#include \"perEncoder.h\"\n\nusing rtx::Bits;\nusing rtx::Encoder;\n";
     out += Emitter(model, pdus).run();
     for (const Type* type : pdus.types)
     {
         const std::string& name = type->cName;
         const std::string table = "nr_rrc::type_" + name;
-        out += "\nint asn1PE_" + name + "(OSCTXT* pctxt, const " + name + "* pvalue)\n{\n    return Encoder::run(pctxt, " +
-               quoted(type->asnName) + ", pvalue, pe_" + name + ");\n}\n";
-        out += "\nint asn1PD_" + name + "(OSCTXT* pctxt, " + name + "* pvalue)\n{\n    return pctxt == nullptr ? int{RTX_E_NULL} : rtx::decode(*pctxt, " + table +
+        out += "\nint asn1PE_" + name + "(OSCTXT* pctxt, const " + name +
+               "* pvalue)\n{\n    return Encoder::run(pctxt, " + quoted(type->asnName) + ", pvalue, pe_" + name +
+               ");\n}\n";
+        out += "\nint asn1PD_" + name + "(OSCTXT* pctxt, " + name +
+               "* pvalue)\n{\n    return pctxt == nullptr ? int{RTX_E_NULL} : rtx::decode(*pctxt, " + table +
                ", pvalue);\n}\n";
-        out += "\nvoid asn1Print_" + name + "(const char* name, const " + name + "* pvalue)\n{\n    rtx::print(" + table +
-               ", name, pvalue);\n}\n";
+        out += "\nvoid asn1Print_" + name + "(const char* name, const " + name + "* pvalue)\n{\n    rtx::print(" +
+               table + ", name, pvalue);\n}\n";
         out += "\nvoid asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +
-               "* pvalue, RtxPrintSink sink, void* arg)\n{\n    rtx::print(pctxt, " + table + ", name, pvalue, sink, arg);\n}\n";
+               "* pvalue, RtxPrintSink sink, void* arg)\n{\n    rtx::print(pctxt, " + table +
+               ", name, pvalue, sink, arg);\n}\n";
     }
     return out;
 }

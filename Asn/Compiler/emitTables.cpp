@@ -104,10 +104,12 @@ std::string nameTable(const Type& type)
 std::string table(const Type& type)
 {
     std::string before;
-    std::string fields = ".name = \"" + type.asnName + "\", .kind = Kind::" + kindName(type.kind) + ", .width = " +
-                         std::to_string(type.kind == Kind::Integer || (type.kind == Kind::Array && !type.fixedSize()) ? type.width() : 0) +
-                         ", .extensible = " + (type.extensible ? "true" : "false") + ", .size = " + size(type) +
-                         ", .lower = " + std::to_string(type.lower) + ", .upper = " + std::to_string(type.upper);
+    std::string fields =
+        ".name = \"" + type.asnName + "\", .kind = Kind::" + kindName(type.kind) + ", .width = " +
+        std::to_string(type.kind == Kind::Integer || (type.kind == Kind::Array && !type.fixedSize()) ? type.width()
+                                                                                                     : 0) +
+        ", .extensible = " + (type.extensible ? "true" : "false") + ", .size = " + size(type) +
+        ", .lower = " + std::to_string(type.lower) + ", .upper = " + std::to_string(type.upper);
     switch (type.kind)
     {
     case Kind::Array:
@@ -131,16 +133,18 @@ std::string table(const Type& type)
         before += memberTable(type);
     }
     fields += ", .members = " + (type.members.empty() ? std::string("nullptr") : "members_" + type.cName) +
-              ", .memberCount = " + std::to_string(type.members.size()) + ", .rootCount = " + std::to_string(type.rootCount);
+              ", .memberCount = " + std::to_string(type.members.size()) +
+              ", .rootCount = " + std::to_string(type.rootCount);
     if (!type.additions.empty())
     {
         before += additionTable(type);
     }
-    fields += ", .additions = " + (type.additions.empty() ? std::string("nullptr") : "additions_" + type.cName) +
-              ", .additionCount = " + std::to_string(type.additions.size()) + ", .extElem = " +
-              (type.kind == Kind::Sequence && type.extensible ? "offsetof(" + type.cName + ", extElem1)" : std::string("0"));
-    return "\n" + (before.empty() ? "" : "namespace\n{\n" + before + "} // namespace\n") + "const Type type_" + type.cName + " = {" +
-           fields + "};\n";
+    fields +=
+        ", .additions = " + (type.additions.empty() ? std::string("nullptr") : "additions_" + type.cName) +
+        ", .additionCount = " + std::to_string(type.additions.size()) + ", .extElem = " +
+        (type.kind == Kind::Sequence && type.extensible ? "offsetof(" + type.cName + ", extElem1)" : std::string("0"));
+    return "\n" + (before.empty() ? "" : "namespace\n{\n" + before + "} // namespace\n") + "const Type type_" +
+           type.cName + " = {" + fields + "};\n";
 }
 
 } // namespace
@@ -158,7 +162,8 @@ std::string emitTablesHeader(const Model& model, const Origin& origin)
 std::string emitTables(const Model& model, const Origin& origin, const std::string& typesHeader)
 {
     std::string out = generatedMark(origin) + "#include \"NR-RRC-Tables.h\"\n#include \"" + typesHeader +
-                      "\"\n\n#include <cstddef>\n\nnamespace nr_rrc\n{\n\nusing rtx::Addition;\nusing rtx::Kind;\nusing rtx::Member;\nusing "
+                      "\"\n\n#include <cstddef>\n\nnamespace nr_rrc\n{\n\nusing rtx::Addition;\nusing "
+                      "rtx::Kind;\nusing rtx::Member;\nusing "
                       "rtx::Type;\n";
     for (const Type* type : model.types)
     {

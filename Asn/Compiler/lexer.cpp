@@ -17,6 +17,9 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+// Keeps the names that nested types get from their owners within reason.
+constexpr std::size_t longestName = 255;
+
 class Lexer
 {
 public:
@@ -51,7 +54,10 @@ private:
         }
     }
 
-    bool startsWith(std::string_view text) const { return source_.substr(position_, text.size()) == text; }
+    bool startsWith(std::string_view text) const
+    {
+        return source_.substr(position_, text.size()) == text;
+    }
 
     // A comment ends at the line's end or at the next pair of hyphens.
     void skipComment()
@@ -114,6 +120,10 @@ private:
             token.text += peek();
             advance();
         }
+        if (token.text.size() > longestName)
+        {
+            diagnostics_.error(token.at, "the name is longer than " + std::to_string(longestName) + " characters");
+        }
         if (token.text.back() == '-')
         {
             diagnostics_.error(token.at, "the name '" + token.text + "' ends in a hyphen");
@@ -148,7 +158,8 @@ private:
 
     void punctuation()
     {
-        static constexpr std::array<std::string_view, 10> all = {"::=", "...", "..", "[[", "]]", "{", "}", "(", ")", ","};
+        static constexpr std::array<std::string_view, 10> all = {"::=", "...", "..", "[[", "]]",
+                                                                 "{",   "}",   "(",  ")",  ","};
         for (const std::string_view text : all)
         {
             if (startsWith(text))
@@ -162,8 +173,9 @@ private:
             }
         }
         const auto c = static_cast<unsigned char>(peek());
-        diagnostics_.error(at_, c >= 0x20 && c < 0x7F ? std::string("the character '") + peek() + "' does not belong here"
-                                                      : "the octet " + std::to_string(c) + " does not belong here");
+        diagnostics_.error(at_, c >= 0x20 && c < 0x7F
+                                    ? std::string("the character '") + peek() + "' does not belong here"
+                                    : "the octet " + std::to_string(c) + " does not belong here");
         advance();
     }
 

@@ -11,13 +11,14 @@
 namespace
 {
 
-constexpr const char* usage = "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...] [--base NAME]\n"
-                              "  --schema  the ASN.1 module\n"
-                              "  --inc     folder for the public header\n"
-                              "  --src     folder for the other files\n"
-                              "  --pdu     a type that gets an encoder, a decoder and a printer; 'all' for every named one\n"
-                              "  --except  a type that 'all' leaves out\n"
-                              "  --base    write only NAME.h and NAME.cpp with the functions of these types\n";
+constexpr const char* usage =
+    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...] [--base NAME]\n"
+    "  --schema  the ASN.1 module\n"
+    "  --inc     folder for the public header\n"
+    "  --src     folder for the other files\n"
+    "  --pdu     a type that gets an encoder, a decoder and a printer; 'all' for every named one\n"
+    "  --except  a type that 'all' leaves out\n"
+    "  --base    write only NAME.h and NAME.cpp with the functions of these types\n";
 
 int fail(const std::string& message)
 {
@@ -97,7 +98,8 @@ int main(int argc, char** argv)
     }
     for (const asncomp::OutputFile& file : files)
     {
-        const bool isPublic = file.name == "NR-RRC-Definitions.h" || (!options.base.empty() && file.name == options.base + ".h");
+        const bool isPublic =
+            file.name == "NR-RRC-Definitions.h" || (!options.base.empty() && file.name == options.base + ".h");
         const auto path = std::filesystem::path(isPublic ? inc : src) / file.name;
         std::ofstream output(path, std::ios::binary);
         output << file.text;

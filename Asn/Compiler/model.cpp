@@ -12,22 +12,111 @@ namespace asncomp
 namespace
 {
 
-constexpr std::array<std::string_view, 40> cppKeywords = {
-    "alignas",  "and",       "asm",     "auto",    "bool",     "break",   "case",    "catch",    "char",     "class",
-    "const",    "continue",  "default", "delete",  "do",       "double",  "else",    "enum",     "explicit", "export",
-    "extern",   "false",     "float",   "for",     "friend",   "goto",    "if",      "inline",   "int",      "long",
-    "mutable",  "namespace", "new",     "not",     "operator", "or",      "private", "protected", "public",  "register"};
-constexpr std::array<std::string_view, 34> moreCppKeywords = {
-    "return", "short",    "signed",   "sizeof",   "static", "struct",   "switch",  "template", "this",
-    "throw",  "true",     "try",      "typedef",  "typeid", "typename", "union",   "unsigned", "using",
-    "virtual", "void",    "volatile", "while",    "xor",    "concept",  "requires", "constexpr", "decltype",
-    "noexcept", "nullptr", "thread_local", "co_await", "co_return", "co_yield", "wchar_t"};
+// Of C11 and C++20, as far as an ASN.1 name can become one.
+constexpr std::array keywords = std::to_array<std::string_view>({"alignas",
+                                                                 "alignof",
+                                                                 "and",
+                                                                 "and_eq",
+                                                                 "asm",
+                                                                 "auto",
+                                                                 "bitand",
+                                                                 "bitor",
+                                                                 "bool",
+                                                                 "break",
+                                                                 "case",
+                                                                 "catch",
+                                                                 "char",
+                                                                 "char16_t",
+                                                                 "char32_t",
+                                                                 "char8_t",
+                                                                 "class",
+                                                                 "co_await",
+                                                                 "co_return",
+                                                                 "co_yield",
+                                                                 "compl",
+                                                                 "concept",
+                                                                 "const",
+                                                                 "const_cast",
+                                                                 "consteval",
+                                                                 "constexpr",
+                                                                 "constinit",
+                                                                 "continue",
+                                                                 "decltype",
+                                                                 "default",
+                                                                 "delete",
+                                                                 "do",
+                                                                 "double",
+                                                                 "dynamic_cast",
+                                                                 "else",
+                                                                 "enum",
+                                                                 "explicit",
+                                                                 "export",
+                                                                 "extern",
+                                                                 "false",
+                                                                 "float",
+                                                                 "for",
+                                                                 "friend",
+                                                                 "goto",
+                                                                 "if",
+                                                                 "inline",
+                                                                 "int",
+                                                                 "long",
+                                                                 "mutable",
+                                                                 "namespace",
+                                                                 "new",
+                                                                 "noexcept",
+                                                                 "not",
+                                                                 "not_eq",
+                                                                 "nullptr",
+                                                                 "operator",
+                                                                 "or",
+                                                                 "or_eq",
+                                                                 "private",
+                                                                 "protected",
+                                                                 "public",
+                                                                 "register",
+                                                                 "reinterpret_cast",
+                                                                 "requires",
+                                                                 "restrict",
+                                                                 "return",
+                                                                 "short",
+                                                                 "signed",
+                                                                 "sizeof",
+                                                                 "static",
+                                                                 "static_assert",
+                                                                 "static_cast",
+                                                                 "struct",
+                                                                 "switch",
+                                                                 "template",
+                                                                 "this",
+                                                                 "thread_local",
+                                                                 "throw",
+                                                                 "true",
+                                                                 "try",
+                                                                 "typedef",
+                                                                 "typeid",
+                                                                 "typename",
+                                                                 "union",
+                                                                 "unsigned",
+                                                                 "using",
+                                                                 "virtual",
+                                                                 "void",
+                                                                 "volatile",
+                                                                 "wchar_t",
+                                                                 "while",
+                                                                 "xor",
+                                                                 "xor_eq"});
+
+// What the runtime's header has taken.
+constexpr std::array runtimeNames =
+    std::to_array<std::string_view>({"ASN1BitStr32", "ASN1OpenType", "OSBOOL", "OSCTXT", "OSINT16", "OSINT32", "OSINT8",
+                                     "OSOCTET", "OSRTDList", "OSRTDListNode", "OSUINT16", "OSUINT32", "OSUINT8",
+                                     "RtxError", "RtxHeapBlock", "RtxPathStep", "RtxPrintSink", "RtxStatus"});
 
 std::string cIdentifier(std::string name)
 {
     std::replace(name.begin(), name.end(), '-', '_');
-    const auto is = [&name](std::string_view word) { return word == name; };
-    if (std::any_of(cppKeywords.begin(), cppKeywords.end(), is) || std::any_of(moreCppKeywords.begin(), moreCppKeywords.end(), is))
+    if (std::find(keywords.begin(), keywords.end(), name) != keywords.end())
     {
         name += '_';
     }
@@ -36,9 +125,11 @@ std::string cIdentifier(std::string name)
 
 constexpr std::int64_t maxListCount = 65535;
 constexpr std::int64_t maxBits = 65535;
-constexpr unsigned maxNesting = 40;
+constexpr unsigned maxNesting = 40; // below the runtime's RTX_MAX_DEPTH
 constexpr std::size_t maxFlags = 256;
+constexpr std::size_t maxAdditions = 32; // so that their presence fits into one word
 constexpr std::size_t maxTypes = 20000;
+constexpr std::size_t maxNameText = std::size_t{64} * 1024 * 1024; // octets, of all C names together
 
 class Resolver
 {
@@ -60,7 +151,7 @@ public:
         {
             if (assignment.parameter.empty())
             {
-                named(assignment);
+                named(assignment, 0);
             }
         }
         return std::move(model_);
@@ -95,7 +186,12 @@ private:
     std::string cName(const std::string& name, Location at)
     {
         std::string result = cIdentifier(name);
-        if (!cNames_.insert(result).second)
+        nameText_ += result.size();
+        if (nameText_ > maxNameText)
+        {
+            diagnostics_.error(at, "the C names become too long");
+        }
+        else if (!cNames_.insert(result).second)
         {
             diagnostics_.error(at, "the C name '" + result + "' would stand for two things");
         }
@@ -123,19 +219,19 @@ private:
         type.upper = value(source.upper);
         if (type.lower > type.upper)
         {
-            diagnostics_.error(source.lower.at, std::string("the ") + what + " is empty: " + std::to_string(type.lower) +
-                                                    ".." + std::to_string(type.upper));
+            diagnostics_.error(source.lower.at, std::string("the ") + what + " is empty: " +
+                                                    std::to_string(type.lower) + ".." + std::to_string(type.upper));
             type.upper = type.lower;
         }
         if (type.lower < lowest || type.upper > highest)
         {
-            diagnostics_.error(source.lower.at, std::string("the ") + what + " is not within " + std::to_string(lowest) +
-                                                    ".." + std::to_string(highest));
+            diagnostics_.error(source.lower.at, std::string("the ") + what + " is not within " +
+                                                    std::to_string(lowest) + ".." + std::to_string(highest));
             type.lower = type.upper = std::max<std::int64_t>(lowest, 0);
         }
     }
 
-    Type* named(const ast::TypeAssignment& assignment)
+    Type* named(const ast::TypeAssignment& assignment, unsigned nesting)
     {
         const auto known = named_.find(assignment.name);
         if (known != named_.end())
@@ -154,7 +250,7 @@ private:
         }
         else
         {
-            result = build(*assignment.type, assignment.name, cName(assignment.name, assignment.at), nullptr, 0);
+            result = build(*assignment.type, assignment.name, cName(assignment.name, assignment.at), nullptr, nesting);
         }
         if (result != nullptr)
         {
@@ -174,7 +270,12 @@ private:
         }
         if (parameter != nullptr && parameter->name == source.name)
         {
-            return resolveType(*parameter->actual, name, parameter->outer, nesting + 1);
+            if (source.element != nullptr)
+            {
+                diagnostics_.error(source.at, "the type '" + source.name + "' takes no parameter");
+                return nullptr;
+            }
+            return resolveType(*parameter->actual, name, parameter->outer, nesting);
         }
         const auto found = assignments_.find(source.name);
         if (found == assignments_.end())
@@ -185,13 +286,14 @@ private:
         const ast::TypeAssignment& assignment = *found->second;
         if (assignment.parameter.empty() != (source.element == nullptr))
         {
-            diagnostics_.error(source.at, assignment.parameter.empty() ? "the type '" + source.name + "' takes no parameter"
-                                                                       : "the type '" + source.name + "' wants a parameter");
+            diagnostics_.error(source.at, assignment.parameter.empty()
+                                              ? "the type '" + source.name + "' takes no parameter"
+                                              : "the type '" + source.name + "' wants a parameter");
             return nullptr;
         }
         if (source.element == nullptr)
         {
-            return named(assignment);
+            return named(assignment, nesting);
         }
         const Parameter actual{assignment.parameter, source.element.get(), parameter};
         if (assignment.type->kind == ast::Kind::Reference)
@@ -199,15 +301,20 @@ private:
             diagnostics_.error(assignment.type->at, "another name for a type is not supported");
             return nullptr;
         }
-        return build(*assignment.type, name, cName(name, source.at), &actual, nesting + 1);
+        return build(*assignment.type, name, cName(name, source.at), &actual, nesting);
     }
 
-    Type* build(const ast::Type& source, const std::string& asnName, const std::string& cName, const Parameter* parameter,
-                unsigned nesting)
+    Type* build(const ast::Type& source, const std::string& asnName, const std::string& cName,
+                const Parameter* parameter, unsigned nesting)
     {
-        if (nesting > maxNesting || model_.store.size() >= maxTypes)
+        if (nesting > maxNesting)
         {
-            diagnostics_.error(source.at, nesting > maxNesting ? "types are nested too deeply" : "there are too many types");
+            diagnostics_.error(source.at, "types are nested too deeply");
+            return nullptr;
+        }
+        if (model_.store.size() >= maxTypes)
+        {
+            diagnostics_.error(source.at, "there are too many types");
             return nullptr;
         }
         Type& type = model_.store.emplace_back();
@@ -243,6 +350,11 @@ private:
         case ast::Kind::Reference:
             break; // resolved by the callers
         }
+        if (type.depth > maxNesting)
+        {
+            diagnostics_.error(source.at, "types are nested too deeply");
+            return nullptr;
+        }
         model_.types.push_back(&type);
         return &type;
     }
@@ -250,7 +362,8 @@ private:
     void integer(Type& type, const ast::Type& source)
     {
         type.kind = Kind::Integer;
-        bounds(type, source, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max(), "range");
+        bounds(type, source, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max(),
+               "range");
     }
 
     void enumerated(Type& type, const ast::Type& source)
@@ -280,23 +393,27 @@ private:
         type.kind = type.upper <= shortest ? Kind::BitStr32 : Kind::BitOctets;
     }
 
-    void member(Type& owner, const ast::Member& source, const Parameter* parameter, unsigned nesting)
+    // `names` are the C names of the members before it.
+    void member(Type& owner, const ast::Member& source, const Parameter* parameter, unsigned nesting,
+                std::set<std::string>& names)
     {
         Member result;
         result.asnName = source.name;
         result.cName = cIdentifier(source.name);
-        for (const Member& other : owner.members)
+        if (!names.insert(result.cName).second)
         {
-            if (other.cName == result.cName)
-            {
-                diagnostics_.error(source.at, "the name '" + source.name + "' occurs twice");
-            }
+            diagnostics_.error(source.at, "the name '" + source.name + "' occurs twice");
+        }
+        if (result.cName == "m" || result.cName == "extElem1")
+        {
+            diagnostics_.error(source.at, "the name '" + source.name + "' belongs to the generated structure");
         }
         result.type = resolveType(*source.type, owner.cName + "_" + result.cName, parameter, nesting + 1);
         if (result.type == nullptr)
         {
             return; // reported
         }
+        owner.depth = std::max(owner.depth, result.type->depth + 1);
         if (owner.kind == Kind::Choice)
         {
             result.pointer = result.type->constructed() || result.type->kind == Kind::BitStr32;
@@ -328,11 +445,16 @@ private:
     {
         type.kind = Kind::Sequence;
         type.extensible = source.extensible;
+        std::set<std::string> names;
         for (const ast::Member& m : source.members)
         {
-            member(type, m, parameter, nesting);
+            member(type, m, parameter, nesting, names);
         }
         type.rootCount = type.members.size();
+        if (source.additions.size() > maxAdditions)
+        {
+            diagnostics_.error(source.additions[maxAdditions].at, "there are too many extension additions");
+        }
         unsigned version = 2;
         for (const ast::Addition& a : source.additions)
         {
@@ -349,7 +471,7 @@ private:
             }
             for (const ast::Member& m : a.members)
             {
-                member(type, m, parameter, nesting);
+                member(type, m, parameter, nesting, names);
             }
             addition.count = type.members.size() - addition.first;
             type.additions.push_back(addition);
@@ -364,14 +486,15 @@ private:
     {
         type.kind = Kind::Choice;
         type.extensible = source.extensible;
+        std::set<std::string> names;
         for (const ast::Member& m : source.members)
         {
-            member(type, m, parameter, nesting);
+            member(type, m, parameter, nesting, names);
         }
         type.rootCount = type.members.size();
         for (const ast::Addition& a : source.additions)
         {
-            member(type, a.members.front(), parameter, nesting);
+            member(type, a.members.front(), parameter, nesting, names);
         }
         if (type.rootCount == 0)
         {
@@ -393,11 +516,13 @@ private:
         type.element = resolveType(*source.element, type.cName + "_element", parameter, nesting + 1);
         if (type.element == nullptr)
         {
-            return;
+            return; // reported
         }
-        type.kind = type.element->kind == Kind::Integer || type.element->kind == Kind::Enumerated ? Kind::Array : Kind::List;
-        if (type.element->kind == Kind::Null || type.element->kind == Kind::Boolean || type.element->kind == Kind::BitStr32 ||
-            type.element->kind == Kind::BitOctets)
+        type.depth = type.element->depth + 1;
+        type.kind =
+            type.element->kind == Kind::Integer || type.element->kind == Kind::Enumerated ? Kind::Array : Kind::List;
+        if (type.element->kind == Kind::Null || type.element->kind == Kind::Boolean ||
+            type.element->kind == Kind::BitStr32 || type.element->kind == Kind::BitOctets)
         {
             diagnostics_.error(source.at, "a list of this type is not supported");
         }
@@ -410,7 +535,8 @@ private:
     std::map<std::string, const ast::TypeAssignment*> assignments_;
     std::map<std::string, Type*> named_; // null for a type that was refused
     std::set<std::string> open_;         // being built
-    std::set<std::string> cNames_;
+    std::set<std::string> cNames_{runtimeNames.begin(), runtimeNames.end()};
+    std::size_t nameText_ = 0;
 };
 
 } // namespace
@@ -427,7 +553,10 @@ unsigned bitsFor(std::int64_t range)
 
 unsigned Type::width() const
 {
-    const auto fits = [this](std::int64_t low, std::int64_t high) { return lower >= low && upper <= high; };
+    const auto fits = [this](std::int64_t low, std::int64_t high)
+    {
+        return lower >= low && upper <= high;
+    };
     if (kind == Kind::Array)
     {
         return upper <= 0xFF ? 1 : 2;
@@ -441,13 +570,15 @@ unsigned Type::width() const
 
 bool Type::mayBeEmpty() const
 {
-    return kind == Kind::Sequence && std::all_of(members.begin(), members.begin() + static_cast<std::ptrdiff_t>(rootCount),
-                                                 [](const Member& m) { return m.optional; });
+    return kind == Kind::Sequence &&
+           std::all_of(members.begin(), members.begin() + static_cast<std::ptrdiff_t>(rootCount),
+                       [](const Member& m) { return m.optional; });
 }
 
 const Type* Model::find(const std::string& asnName) const
 {
-    const auto found = std::find_if(types.begin(), types.end(), [&](const Type* t) { return t->named && t->asnName == asnName; });
+    const auto found =
+        std::find_if(types.begin(), types.end(), [&](const Type* t) { return t->named && t->asnName == asnName; });
     return found == types.end() ? nullptr : *found;
 }
 

@@ -1,4 +1,5 @@
-// The resolved schema: every type has its bounds as numbers, its C name and its place in memory. The emitters only read it.
+// The resolved schema: every type has its bounds as numbers, its C name and its place in memory. The emitters only read
+// it.
 #pragma once
 
 #include "ast.h"
@@ -58,11 +59,18 @@ struct Type
     std::vector<std::string> flags; // in the order of their bits, without "Present"
     bool extensible = false;
     Type* element = nullptr;
+    unsigned depth = 0; // of the tree of types below it
 
     // Has a structure or a list of its own in memory.
-    bool constructed() const { return kind >= Kind::Sequence; }
+    bool constructed() const
+    {
+        return kind >= Kind::Sequence;
+    }
     // A list's count is not sent and not stored.
-    bool fixedSize() const { return lower == upper; }
+    bool fixedSize() const
+    {
+        return lower == upper;
+    }
     // Octets of an integer's storage, or of an array's count.
     unsigned width() const;
     // Every member may be absent.

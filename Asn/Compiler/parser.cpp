@@ -16,12 +16,91 @@ bool isUpper(char c)
     return c >= 'A' && c <= 'Z';
 }
 
-constexpr std::array<std::string_view, 13> reserved = {"BEGIN",    "BIT",  "BOOLEAN", "CHOICE", "DEFINITIONS", "END",     "ENUMERATED",
-                                                       "INTEGER",  "NULL", "OF",      "OPTIONAL", "SEQUENCE",  "SIZE"};
+// X.680 12.38: words that are never the name of a type. The subset uses these,
+constexpr std::array used = std::to_array<std::string_view>(
+    {"AUTOMATIC", "BEGIN", "BIT", "BOOLEAN", "CHOICE", "DEFAULT", "DEFINITIONS", "END", "ENUMERATED", "INTEGER", "NULL",
+     "OF", "OPTIONAL", "SEQUENCE", "SIZE", "STRING", "TAGS"});
+// and does without these.
+constexpr std::array unsupported = std::to_array<std::string_view>({"ABSENT",
+                                                                    "ABSTRACT-SYNTAX",
+                                                                    "ALL",
+                                                                    "ANY",
+                                                                    "APPLICATION",
+                                                                    "BMPString",
+                                                                    "BY",
+                                                                    "CHARACTER",
+                                                                    "CLASS",
+                                                                    "COMPONENT",
+                                                                    "COMPONENTS",
+                                                                    "CONSTRAINED",
+                                                                    "CONTAINING",
+                                                                    "DATE",
+                                                                    "DATE-TIME",
+                                                                    "DEFINED",
+                                                                    "DURATION",
+                                                                    "EMBEDDED",
+                                                                    "ENCODED",
+                                                                    "ENCODING-CONTROL",
+                                                                    "EXCEPT",
+                                                                    "EXPLICIT",
+                                                                    "EXPORTS",
+                                                                    "EXTENSIBILITY",
+                                                                    "EXTERNAL",
+                                                                    "FALSE",
+                                                                    "FROM",
+                                                                    "GeneralString",
+                                                                    "GeneralizedTime",
+                                                                    "GraphicString",
+                                                                    "IA5String",
+                                                                    "IDENTIFIER",
+                                                                    "IMPLICIT",
+                                                                    "IMPLIED",
+                                                                    "IMPORTS",
+                                                                    "INCLUDES",
+                                                                    "INSTANCE",
+                                                                    "INSTRUCTIONS",
+                                                                    "INTERSECTION",
+                                                                    "ISO646String",
+                                                                    "MAX",
+                                                                    "MIN",
+                                                                    "MINUS-INFINITY",
+                                                                    "NOT-A-NUMBER",
+                                                                    "NumericString",
+                                                                    "OBJECT",
+                                                                    "OCTET",
+                                                                    "OID-IRI",
+                                                                    "ObjectDescriptor",
+                                                                    "PATTERN",
+                                                                    "PDV",
+                                                                    "PLUS-INFINITY",
+                                                                    "PRESENT",
+                                                                    "PRIVATE",
+                                                                    "PrintableString",
+                                                                    "REAL",
+                                                                    "RELATIVE-OID",
+                                                                    "RELATIVE-OID-IRI",
+                                                                    "SET",
+                                                                    "SETTINGS",
+                                                                    "SYNTAX",
+                                                                    "T61String",
+                                                                    "TIME",
+                                                                    "TRUE",
+                                                                    "TYPE-IDENTIFIER",
+                                                                    "TeletexString",
+                                                                    "UNION",
+                                                                    "UNIQUE",
+                                                                    "UNIVERSAL",
+                                                                    "UTCTime",
+                                                                    "UTF8String",
+                                                                    "UniversalString",
+                                                                    "VideotexString",
+                                                                    "VisibleString",
+                                                                    "WITH"});
 
-bool isReserved(std::string_view word)
+template <std::size_t N>
+bool contains(const std::array<std::string_view, N>& words, std::string_view word)
 {
-    return std::find(reserved.begin(), reserved.end(), word) != reserved.end();
+    return std::find(words.begin(), words.end(), word) != words.end();
 }
 
 // Thrown to abandon one assignment; the message is in the diagnostics by then.
@@ -61,9 +140,18 @@ public:
     }
 
 private:
-    const Token& current() const { return tokens_[position_]; }
-    const Token& ahead(std::size_t n) const { return tokens_[std::min(position_ + n, tokens_.size() - 1)]; }
-    bool at(std::string_view text) const { return current().kind != TokenKind::End && current().text == text; }
+    const Token& current() const
+    {
+        return tokens_[position_];
+    }
+    const Token& ahead(std::size_t n) const
+    {
+        return tokens_[std::min(position_ + n, tokens_.size() - 1)];
+    }
+    bool at(std::string_view text) const
+    {
+        return current().kind != TokenKind::End && current().text == text;
+    }
 
     void step()
     {
@@ -104,9 +192,13 @@ private:
 
     std::string typeName()
     {
-        if (current().kind != TokenKind::Word || !isUpper(current().text[0]) || isReserved(current().text))
+        if (current().kind != TokenKind::Word || !isUpper(current().text[0]) || contains(used, current().text))
         {
             unexpected("the name of a type");
+        }
+        if (contains(unsupported, current().text))
+        {
+            refuse(current().at, current().text + " is not supported");
         }
         std::string name = current().text;
         step();

@@ -120,7 +120,8 @@ typedef struct OSCTXT
 // Makes *pctxt an empty context without a limit. Allocates nothing. Returns 0, or RTX_E_NULL.
 int rtxInitContext(OSCTXT* pctxt);
 
-// Releases everything that was allocated from the context's heap. The context may be used again.
+// Releases everything that was allocated from the context's heap and ends its limit. The context may be used again; its
+// error, message length and buffer stay. Null is left alone.
 void rtFreeContext(OSCTXT* pctxt);
 
 // Limits what the heap hands out from now on to `octets` (each request rounded up to 16).

@@ -309,7 +309,7 @@ static Bits pe_LogicalChannelConfig_ul_SpecificParameters(Encoder& e, Bits b, co
     {
         return e.range("bucketSizeDuration", v->bucketSizeDuration, 0, 15);
     }
-    b = e.put<19>(b, (((((((((uint64_t{extended}) << 1 | uint64_t{v->m.allowedServingCellsPresent}) << 1 | uint64_t{v->m.allowedSCS_ListPresent}) << 1 | uint64_t{v->m.maxPUSCH_DurationPresent}) << 1 | uint64_t{v->m.configuredGrantType1AllowedPresent}) << 1 | uint64_t{v->m.logicalChannelGroupPresent}) << 1 | uint64_t{v->m.schedulingRequestIDPresent}) << 4 | (uint64_t{v->priority} - 1)) << 4 | uint64_t{v->prioritisedBitRate}) << 4 | uint64_t{v->bucketSizeDuration});
+    b = e.put<19>(b, ((((uint64_t{extended}) << 6 | e.flags<0, 6>(v->m)) << 4 | (uint64_t{v->priority} - 1)) << 4 | uint64_t{v->prioritisedBitRate}) << 4 | uint64_t{v->bucketSizeDuration});
     if (v->m.allowedServingCellsPresent)
     {
         b = pe_LogicalChannelConfig_ul_SpecificParameters_allowedServingCells(e, b, &v->allowedServingCells);
@@ -414,7 +414,7 @@ static Bits pe_RLC_BearerConfig(Encoder& e, Bits b, const RLC_BearerConfig* v)
     {
         return e.range("logicalChannelIdentity", v->logicalChannelIdentity, 1, 32);
     }
-    b = e.put<10>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.servedRadioBearerPresent}) << 1 | uint64_t{v->m.reestablishRLCPresent}) << 1 | uint64_t{v->m.rlc_ConfigPresent}) << 1 | uint64_t{v->m.mac_LogicalChannelConfigPresent}) << 5 | (uint64_t{v->logicalChannelIdentity} - 1));
+    b = e.put<10>(b, ((uint64_t{extended}) << 4 | e.flags<0, 4>(v->m)) << 5 | (uint64_t{v->logicalChannelIdentity} - 1));
     if (v->m.servedRadioBearerPresent)
     {
         b = pe_RLC_BearerConfig_servedRadioBearer(e, b, &v->servedRadioBearer);
@@ -1128,7 +1128,7 @@ static Bits pe_MAC_CellGroupConfig(Encoder& e, Bits b, const MAC_CellGroupConfig
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.csi_MaskPresent | v->m.dataInactivityTimerPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<6>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.drx_ConfigPresent}) << 1 | uint64_t{v->m.schedulingRequestConfigPresent}) << 1 | uint64_t{v->m.bsr_ConfigPresent}) << 1 | uint64_t{v->m.tag_ConfigPresent}) << 1 | uint64_t{v->m.phr_ConfigPresent});
+    b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
     if (v->m.drx_ConfigPresent)
     {
         b = pe_MAC_CellGroupConfig_drx_Config(e, b, &v->drx_Config);
@@ -1254,7 +1254,7 @@ static Bits pe_PhysicalCellGroupConfig(Encoder& e, Bits b, const PhysicalCellGro
     const unsigned addition1 = v->m._v3ExtPresent & (v->m.xScalePresent);
     const unsigned addition2 = v->m._v4ExtPresent & (v->m.pdcch_BlindDetectionPresent);
     const bool extended = addition0 != 0 || addition1 != 0 || addition2 != 0 || v->extElem1.count != 0;
-    b = e.put<9>(b, ((((((((uint64_t{extended}) << 1 | uint64_t{v->m.harq_ACK_SpatialBundlingPUCCHPresent}) << 1 | uint64_t{v->m.harq_ACK_SpatialBundlingPUSCHPresent}) << 1 | uint64_t{v->m.p_NR_FR1Present}) << 1 | uint64_t{v->m.tpc_SRS_RNTIPresent}) << 1 | uint64_t{v->m.tpc_PUCCH_RNTIPresent}) << 1 | uint64_t{v->m.tpc_PUSCH_RNTIPresent}) << 1 | uint64_t{v->m.sp_CSI_RNTIPresent}) << 1 | uint64_t{v->m.cs_RNTIPresent});
+    b = e.put<9>(b, (uint64_t{extended}) << 8 | e.flags<0, 8>(v->m));
     if (v->m.harq_ACK_SpatialBundlingPUCCHPresent)
     {
         if (v->harq_ACK_SpatialBundlingPUCCH > 0u) [[unlikely]]
@@ -1621,7 +1621,7 @@ static Bits pe_ControlResourceSet(Encoder& e, Bits b, const ControlResourceSet* 
     {
         return e.range("controlResourceSetId", v->controlResourceSetId, 0, 11);
     }
-    b = e.put<9>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.tci_StatesPDCCH_ToAddListPresent}) << 1 | uint64_t{v->m.tci_StatesPDCCH_ToReleaseListPresent}) << 1 | uint64_t{v->m.tci_PresentInDCIPresent}) << 1 | uint64_t{v->m.pdcch_DMRS_ScramblingIDPresent}) << 4 | uint64_t{v->controlResourceSetId});
+    b = e.put<9>(b, ((uint64_t{extended}) << 4 | e.flags<0, 4>(v->m)) << 4 | uint64_t{v->controlResourceSetId});
     b = e.octets<45>(b, v->frequencyDomainResources);
     if (v->duration < 1 || v->duration > 3) [[unlikely]]
     {
@@ -1866,7 +1866,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0(Enc
 // SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI
 static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI(Encoder& e, Bits b, const SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI* v)
 {
-    b = e.put<5>(b, ((((uint64_t{v->m.aggregationLevel1Present}) << 1 | uint64_t{v->m.aggregationLevel2Present}) << 1 | uint64_t{v->m.aggregationLevel4Present}) << 1 | uint64_t{v->m.aggregationLevel8Present}) << 1 | uint64_t{v->m.aggregationLevel16Present});
+    b = e.put<5>(b, e.flags<0, 5>(v->m));
     if (v->m.aggregationLevel1Present)
     {
         if (v->aggregationLevel1 > 1u) [[unlikely]]
@@ -1999,7 +1999,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_3(Encoder& e, Bits
 // SearchSpace_searchSpaceType_common
 static Bits pe_SearchSpace_searchSpaceType_common(Encoder& e, Bits b, const SearchSpace_searchSpaceType_common* v)
 {
-    b = e.put<5>(b, ((((uint64_t{v->m.dci_Format0_0_AndFormat1_0Present}) << 1 | uint64_t{v->m.dci_Format2_0Present}) << 1 | uint64_t{v->m.dci_Format2_1Present}) << 1 | uint64_t{v->m.dci_Format2_2Present}) << 1 | uint64_t{v->m.dci_Format2_3Present});
+    b = e.put<5>(b, e.flags<0, 5>(v->m));
     if (v->m.dci_Format0_0_AndFormat1_0Present)
     {
         b = pe_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0(e, b, &v->dci_Format0_0_AndFormat1_0);
@@ -2113,7 +2113,7 @@ static Bits pe_SearchSpace(Encoder& e, Bits b, const SearchSpace* v)
     {
         return e.range("searchSpaceId", v->searchSpaceId, 0, 39);
     }
-    b = e.put<12>(b, ((((((uint64_t{v->m.controlResourceSetIdPresent}) << 1 | uint64_t{v->m.monitoringSlotPeriodicityAndOffsetPresent}) << 1 | uint64_t{v->m.durationPresent}) << 1 | uint64_t{v->m.monitoringSymbolsWithinSlotPresent}) << 1 | uint64_t{v->m.nrofCandidatesPresent}) << 1 | uint64_t{v->m.searchSpaceTypePresent}) << 6 | uint64_t{v->searchSpaceId});
+    b = e.put<12>(b, (e.flags<0, 6>(v->m)) << 6 | uint64_t{v->searchSpaceId});
     if (v->m.controlResourceSetIdPresent)
     {
         if (v->controlResourceSetId > 11) [[unlikely]]
@@ -2486,7 +2486,7 @@ static Bits pe_PDCCH_ConfigCommon(Encoder& e, Bits b, const PDCCH_ConfigCommon* 
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.firstPDCCH_MonitoringOccasionOfPOPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<9>(b, ((((((((uint64_t{extended}) << 1 | uint64_t{v->m.controlResourceSetZeroPresent}) << 1 | uint64_t{v->m.commonControlResourceSetPresent}) << 1 | uint64_t{v->m.searchSpaceZeroPresent}) << 1 | uint64_t{v->m.commonSearchSpaceListPresent}) << 1 | uint64_t{v->m.searchSpaceSIB1Present}) << 1 | uint64_t{v->m.searchSpaceOtherSystemInformationPresent}) << 1 | uint64_t{v->m.pagingSearchSpacePresent}) << 1 | uint64_t{v->m.ra_SearchSpacePresent});
+    b = e.put<9>(b, (uint64_t{extended}) << 8 | e.flags<0, 8>(v->m));
     if (v->m.controlResourceSetZeroPresent)
     {
         if (v->controlResourceSetZero > 15) [[unlikely]]
@@ -2816,7 +2816,7 @@ static Bits pe_FrequencyInfoUL_scs_SpecificCarrierList(Encoder& e, Bits b, const
 static Bits pe_FrequencyInfoUL(Encoder& e, Bits b, const FrequencyInfoUL* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<6>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.frequencyBandListPresent}) << 1 | uint64_t{v->m.absoluteFrequencyPointAPresent}) << 1 | uint64_t{v->m.additionalSpectrumEmissionPresent}) << 1 | uint64_t{v->m.p_MaxPresent}) << 1 | uint64_t{v->m.frequencyShift7p5khzPresent});
+    b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
     if (v->m.frequencyBandListPresent)
     {
         b = pe_MultiFrequencyBandListNR(e, b, &v->frequencyBandList);
@@ -3053,7 +3053,7 @@ static Bits pe_RACH_ConfigCommon_prach_RootSequenceIndex(Encoder& e, Bits b, con
 static Bits pe_RACH_ConfigCommon(Encoder& e, Bits b, const RACH_ConfigCommon* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<8>(b, (((((((uint64_t{extended}) << 1 | uint64_t{v->m.totalNumberOfRA_PreamblesPresent}) << 1 | uint64_t{v->m.ssb_perRACH_OccasionAndCB_PreamblesPerSSBPresent}) << 1 | uint64_t{v->m.groupBconfiguredPresent}) << 1 | uint64_t{v->m.rsrp_ThresholdSSBPresent}) << 1 | uint64_t{v->m.rsrp_ThresholdSSB_SULPresent}) << 1 | uint64_t{v->m.msg1_SubcarrierSpacingPresent}) << 1 | uint64_t{v->m.msg3_transformPrecoderPresent});
+    b = e.put<8>(b, (uint64_t{extended}) << 7 | e.flags<0, 7>(v->m));
     b = pe_RACH_ConfigGeneric(e, b, &v->rach_ConfigGeneric);
     if (!e.ok(b)) [[unlikely]]
     {
@@ -3225,7 +3225,7 @@ static Bits pe_PUSCH_TimeDomainResourceAllocationList(Encoder& e, Bits b, const 
 static Bits pe_PUSCH_ConfigCommon(Encoder& e, Bits b, const PUSCH_ConfigCommon* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<5>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.groupHoppingEnabledTransformPrecodingPresent}) << 1 | uint64_t{v->m.pusch_TimeDomainAllocationListPresent}) << 1 | uint64_t{v->m.msg3_DeltaPreamblePresent}) << 1 | uint64_t{v->m.p0_NominalWithGrantPresent});
+    b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
     if (v->m.groupHoppingEnabledTransformPrecodingPresent)
     {
         if (v->groupHoppingEnabledTransformPrecoding > 0u) [[unlikely]]
@@ -3305,7 +3305,7 @@ static Bits pe_BWP_UplinkCommon_pusch_ConfigCommon(Encoder& e, Bits b, const BWP
 static Bits pe_PUCCH_ConfigCommon(Encoder& e, Bits b, const PUCCH_ConfigCommon* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<4>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.pucch_ResourceCommonPresent}) << 1 | uint64_t{v->m.hoppingIdPresent}) << 1 | uint64_t{v->m.p0_nominalPresent});
+    b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
     if (v->m.pucch_ResourceCommonPresent)
     {
         if (v->pucch_ResourceCommon > 15) [[unlikely]]
@@ -3382,7 +3382,7 @@ static Bits pe_BWP_UplinkCommon_pucch_ConfigCommon(Encoder& e, Bits b, const BWP
 static Bits pe_BWP_UplinkCommon(Encoder& e, Bits b, const BWP_UplinkCommon* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<4>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.rach_ConfigCommonPresent}) << 1 | uint64_t{v->m.pusch_ConfigCommonPresent}) << 1 | uint64_t{v->m.pucch_ConfigCommonPresent});
+    b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
     b = pe_BWP(e, b, &v->genericParameters);
     if (!e.ok(b)) [[unlikely]]
     {
@@ -4082,7 +4082,7 @@ static Bits pe_TDD_UL_DL_ConfigCommon(Encoder& e, Bits b, const TDD_UL_DL_Config
 static Bits pe_ServingCellConfigCommon(Encoder& e, Bits b, const ServingCellConfigCommon* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<13>(b, ((((((((((((uint64_t{extended}) << 1 | uint64_t{v->m.physCellIdPresent}) << 1 | uint64_t{v->m.downlinkConfigCommonPresent}) << 1 | uint64_t{v->m.uplinkConfigCommonPresent}) << 1 | uint64_t{v->m.supplementaryUplinkConfigPresent}) << 1 | uint64_t{v->m.n_TimingAdvanceOffsetPresent}) << 1 | uint64_t{v->m.ssb_PositionsInBurstPresent}) << 1 | uint64_t{v->m.ssb_periodicityServingCellPresent}) << 1 | uint64_t{v->m.lte_CRS_ToMatchAroundPresent}) << 1 | uint64_t{v->m.rateMatchPatternToAddModListPresent}) << 1 | uint64_t{v->m.rateMatchPatternToReleaseListPresent}) << 1 | uint64_t{v->m.ssbSubcarrierSpacingPresent}) << 1 | uint64_t{v->m.tdd_UL_DL_ConfigurationCommonPresent});
+    b = e.put<13>(b, (uint64_t{extended}) << 12 | e.flags<0, 12>(v->m));
     if (v->m.physCellIdPresent)
     {
         if (v->physCellId > 1007) [[unlikely]]
@@ -5127,7 +5127,7 @@ static Bits pe_PDCCH_Config_downlinkPreemption(Encoder& e, Bits b, const PDCCH_C
 static Bits pe_PUSCH_TPC_CommandConfig(Encoder& e, Bits b, const PUSCH_TPC_CommandConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<4>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.tpc_IndexPresent}) << 1 | uint64_t{v->m.tpc_IndexSULPresent}) << 1 | uint64_t{v->m.targetCellPresent});
+    b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
     if (v->m.tpc_IndexPresent)
     {
         if (v->tpc_Index < 1 || v->tpc_Index > 15) [[unlikely]]
@@ -5346,7 +5346,7 @@ static Bits pe_PDCCH_Config_tpc_SRS(Encoder& e, Bits b, const PDCCH_Config_tpc_S
 static Bits pe_PDCCH_Config(Encoder& e, Bits b, const PDCCH_Config* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<9>(b, ((((((((uint64_t{extended}) << 1 | uint64_t{v->m.controlResourceSetToAddModListPresent}) << 1 | uint64_t{v->m.controlResourceSetToReleaseListPresent}) << 1 | uint64_t{v->m.searchSpacesToAddModListPresent}) << 1 | uint64_t{v->m.searchSpacesToReleaseListPresent}) << 1 | uint64_t{v->m.downlinkPreemptionPresent}) << 1 | uint64_t{v->m.tpc_PUSCHPresent}) << 1 | uint64_t{v->m.tpc_PUCCHPresent}) << 1 | uint64_t{v->m.tpc_SRSPresent});
+    b = e.put<9>(b, (uint64_t{extended}) << 8 | e.flags<0, 8>(v->m));
     if (v->m.controlResourceSetToAddModListPresent)
     {
         b = pe_PDCCH_Config_controlResourceSetToAddModList(e, b, &v->controlResourceSetToAddModList);
@@ -5489,7 +5489,7 @@ static Bits pe_PTRS_DownlinkConfig_timeDensity(Encoder& e, Bits b, const PTRS_Do
 static Bits pe_PTRS_DownlinkConfig(Encoder& e, Bits b, const PTRS_DownlinkConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<5>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.frequencyDensityPresent}) << 1 | uint64_t{v->m.timeDensityPresent}) << 1 | uint64_t{v->m.epre_RatioPresent}) << 1 | uint64_t{v->m.resourceElementOffsetPresent});
+    b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
     if (v->m.frequencyDensityPresent)
     {
         b = pe_PTRS_DownlinkConfig_frequencyDensity(e, b, &v->frequencyDensity);
@@ -5570,7 +5570,7 @@ static Bits pe_DMRS_DownlinkConfig_phaseTrackingRS(Encoder& e, Bits b, const DMR
 static Bits pe_DMRS_DownlinkConfig(Encoder& e, Bits b, const DMRS_DownlinkConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<7>(b, ((((((uint64_t{extended}) << 1 | uint64_t{v->m.dmrs_TypePresent}) << 1 | uint64_t{v->m.dmrs_AdditionalPositionPresent}) << 1 | uint64_t{v->m.maxLengthPresent}) << 1 | uint64_t{v->m.scramblingID0Present}) << 1 | uint64_t{v->m.scramblingID1Present}) << 1 | uint64_t{v->m.phaseTrackingRSPresent});
+    b = e.put<7>(b, (uint64_t{extended}) << 6 | e.flags<0, 6>(v->m));
     if (v->m.dmrs_TypePresent)
     {
         if (v->dmrs_Type > 0u) [[unlikely]]
@@ -6606,7 +6606,7 @@ static Bits pe_PDSCH_Config_p_ZP_CSI_RS_ResourceSet(Encoder& e, Bits b, const PD
 static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<22>(b, (((((((((((((((((((((uint64_t{extended}) << 1 | uint64_t{v->m.dataScramblingIdentityPDSCHPresent}) << 1 | uint64_t{v->m.dmrs_DownlinkForPDSCH_MappingTypeAPresent}) << 1 | uint64_t{v->m.dmrs_DownlinkForPDSCH_MappingTypeBPresent}) << 1 | uint64_t{v->m.tci_StatesToAddModListPresent}) << 1 | uint64_t{v->m.tci_StatesToReleaseListPresent}) << 1 | uint64_t{v->m.vrb_ToPRB_InterleaverPresent}) << 1 | uint64_t{v->m.pdsch_TimeDomainAllocationListPresent}) << 1 | uint64_t{v->m.pdsch_AggregationFactorPresent}) << 1 | uint64_t{v->m.rateMatchPatternToAddModListPresent}) << 1 | uint64_t{v->m.rateMatchPatternToReleaseListPresent}) << 1 | uint64_t{v->m.rateMatchPatternGroup1Present}) << 1 | uint64_t{v->m.rateMatchPatternGroup2Present}) << 1 | uint64_t{v->m.mcs_TablePresent}) << 1 | uint64_t{v->m.maxNrofCodeWordsScheduledByDCIPresent}) << 1 | uint64_t{v->m.zp_CSI_RS_ResourceToAddModListPresent}) << 1 | uint64_t{v->m.zp_CSI_RS_ResourceToReleaseListPresent}) << 1 | uint64_t{v->m.aperiodic_ZP_CSI_RS_ResourceSetsToAddModListPresent}) << 1 | uint64_t{v->m.aperiodic_ZP_CSI_RS_ResourceSetsToReleaseListPresent}) << 1 | uint64_t{v->m.sp_ZP_CSI_RS_ResourceSetsToAddModListPresent}) << 1 | uint64_t{v->m.sp_ZP_CSI_RS_ResourceSetsToReleaseListPresent}) << 1 | uint64_t{v->m.p_ZP_CSI_RS_ResourceSetPresent});
+    b = e.put<22>(b, (uint64_t{extended}) << 21 | e.flags<0, 21>(v->m));
     if (v->m.dataScramblingIdentityPDSCHPresent)
     {
         if (v->dataScramblingIdentityPDSCH > 1023) [[unlikely]]
@@ -7012,7 +7012,7 @@ static Bits pe_RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList(
 static Bits pe_RadioLinkMonitoringConfig(Encoder& e, Bits b, const RadioLinkMonitoringConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<5>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.failureDetectionResourcesToAddModListPresent}) << 1 | uint64_t{v->m.failureDetectionResourcesToReleaseListPresent}) << 1 | uint64_t{v->m.beamFailureInstanceMaxCountPresent}) << 1 | uint64_t{v->m.beamFailureDetectionTimerPresent});
+    b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
     if (v->m.failureDetectionResourcesToAddModListPresent)
     {
         b = pe_RadioLinkMonitoringConfig_failureDetectionResourcesToAddModList(e, b, &v->failureDetectionResourcesToAddModList);
@@ -7093,7 +7093,7 @@ static Bits pe_BWP_DownlinkDedicated_radioLinkMonitoringConfig(Encoder& e, Bits 
 static Bits pe_BWP_DownlinkDedicated(Encoder& e, Bits b, const BWP_DownlinkDedicated* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<5>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.pdcch_ConfigPresent}) << 1 | uint64_t{v->m.pdsch_ConfigPresent}) << 1 | uint64_t{v->m.sps_ConfigPresent}) << 1 | uint64_t{v->m.radioLinkMonitoringConfigPresent});
+    b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
     if (v->m.pdcch_ConfigPresent)
     {
         b = pe_BWP_DownlinkDedicated_pdcch_Config(e, b, &v->pdcch_Config);
@@ -7581,7 +7581,7 @@ static Bits pe_PUCCH_Config_resourceToReleaseList(Encoder& e, Bits b, const PUCC
 // PUCCH-FormatConfig
 static Bits pe_PUCCH_FormatConfig(Encoder& e, Bits b, const PUCCH_FormatConfig* v)
 {
-    b = e.put<6>(b, (((((uint64_t{v->m.interslotFrequencyHoppingPresent}) << 1 | uint64_t{v->m.additionalDMRSPresent}) << 1 | uint64_t{v->m.maxCodeRatePresent}) << 1 | uint64_t{v->m.nrofSlotsPresent}) << 1 | uint64_t{v->m.pi2BPSKPresent}) << 1 | uint64_t{v->m.simultaneousHARQ_ACK_CSIPresent});
+    b = e.put<6>(b, e.flags<0, 6>(v->m));
     if (v->m.interslotFrequencyHoppingPresent)
     {
         if (v->interslotFrequencyHopping > 0u) [[unlikely]]
@@ -8262,7 +8262,7 @@ static Bits pe_PUCCH_PowerControl_pathlossReferenceRSs(Encoder& e, Bits b, const
 static Bits pe_PUCCH_PowerControl(Encoder& e, Bits b, const PUCCH_PowerControl* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<9>(b, ((((((((uint64_t{extended}) << 1 | uint64_t{v->m.deltaF_PUCCH_f0Present}) << 1 | uint64_t{v->m.deltaF_PUCCH_f1Present}) << 1 | uint64_t{v->m.deltaF_PUCCH_f2Present}) << 1 | uint64_t{v->m.deltaF_PUCCH_f3Present}) << 1 | uint64_t{v->m.deltaF_PUCCH_f4Present}) << 1 | uint64_t{v->m.p0_SetPresent}) << 1 | uint64_t{v->m.pathlossReferenceRSsPresent}) << 1 | uint64_t{v->m.twoPUCCH_PC_AdjustmentStatesPresent});
+    b = e.put<9>(b, (uint64_t{extended}) << 8 | e.flags<0, 8>(v->m));
     if (v->m.deltaF_PUCCH_f0Present)
     {
         if (v->deltaF_PUCCH_f0 < -16 || v->deltaF_PUCCH_f0 > 15) [[unlikely]]
@@ -8342,7 +8342,7 @@ static Bits pe_PUCCH_PowerControl(Encoder& e, Bits b, const PUCCH_PowerControl* 
 static Bits pe_PUCCH_Config(Encoder& e, Bits b, const PUCCH_Config* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<16>(b, (((((((((((((((uint64_t{extended}) << 1 | uint64_t{v->m.resourceSetToAddModListPresent}) << 1 | uint64_t{v->m.resourceSetToReleaseListPresent}) << 1 | uint64_t{v->m.resourceToAddModListPresent}) << 1 | uint64_t{v->m.resourceToReleaseListPresent}) << 1 | uint64_t{v->m.format1Present}) << 1 | uint64_t{v->m.format2Present}) << 1 | uint64_t{v->m.format3Present}) << 1 | uint64_t{v->m.format4Present}) << 1 | uint64_t{v->m.schedulingRequestResourceToAddModListPresent}) << 1 | uint64_t{v->m.schedulingRequestResourceToReleaseListPresent}) << 1 | uint64_t{v->m.multi_CSI_PUCCH_ResourceListPresent}) << 1 | uint64_t{v->m.dl_DataToUL_ACKPresent}) << 1 | uint64_t{v->m.spatialRelationInfoToAddModListPresent}) << 1 | uint64_t{v->m.spatialRelationInfoToReleaseListPresent}) << 1 | uint64_t{v->m.pucch_PowerControlPresent});
+    b = e.put<16>(b, (uint64_t{extended}) << 15 | e.flags<0, 15>(v->m));
     if (v->m.resourceSetToAddModListPresent)
     {
         b = pe_PUCCH_Config_resourceSetToAddModList(e, b, &v->resourceSetToAddModList);
@@ -8540,7 +8540,7 @@ static Bits pe_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity(Encoder& 
 // PTRS_UplinkConfig_transformPrecoderDisabled
 static Bits pe_PTRS_UplinkConfig_transformPrecoderDisabled(Encoder& e, Bits b, const PTRS_UplinkConfig_transformPrecoderDisabled* v)
 {
-    b = e.put<3>(b, ((uint64_t{v->m.frequencyDensityPresent}) << 1 | uint64_t{v->m.timeDensityPresent}) << 1 | uint64_t{v->m.resourceElementOffsetPresent});
+    b = e.put<3>(b, e.flags<0, 3>(v->m));
     if (v->m.frequencyDensityPresent)
     {
         b = pe_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity(e, b, &v->frequencyDensity);
@@ -8706,7 +8706,7 @@ static Bits pe_DMRS_UplinkConfig_transformPrecodingDisabled(Encoder& e, Bits b, 
 static Bits pe_DMRS_UplinkConfig_transformPrecodingEnabled(Encoder& e, Bits b, const DMRS_UplinkConfig_transformPrecodingEnabled* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<4>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.nPUSCH_IdentityPresent}) << 1 | uint64_t{v->m.sequenceGroupHoppingPresent}) << 1 | uint64_t{v->m.sequenceHoppingPresent});
+    b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
     if (v->m.nPUSCH_IdentityPresent)
     {
         if (v->nPUSCH_Identity > 1007) [[unlikely]]
@@ -8745,7 +8745,7 @@ static Bits pe_DMRS_UplinkConfig_transformPrecodingEnabled(Encoder& e, Bits b, c
 static Bits pe_DMRS_UplinkConfig(Encoder& e, Bits b, const DMRS_UplinkConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<7>(b, ((((((uint64_t{extended}) << 1 | uint64_t{v->m.dmrs_TypePresent}) << 1 | uint64_t{v->m.dmrs_AdditionalPositionPresent}) << 1 | uint64_t{v->m.phaseTrackingRSPresent}) << 1 | uint64_t{v->m.maxLengthPresent}) << 1 | uint64_t{v->m.transformPrecodingDisabledPresent}) << 1 | uint64_t{v->m.transformPrecodingEnabledPresent});
+    b = e.put<7>(b, (uint64_t{extended}) << 6 | e.flags<0, 6>(v->m));
     if (v->m.dmrs_TypePresent)
     {
         if (v->dmrs_Type > 0u) [[unlikely]]
@@ -9081,7 +9081,7 @@ static Bits pe_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList(Encoder& e, Bit
 // PUSCH-PowerControl
 static Bits pe_PUSCH_PowerControl(Encoder& e, Bits b, const PUSCH_PowerControl* v)
 {
-    b = e.put<10>(b, (((((((((uint64_t{v->m.tpc_AccumulationPresent}) << 1 | uint64_t{v->m.msg3_AlphaPresent}) << 1 | uint64_t{v->m.p0_NominalWithoutGrantPresent}) << 1 | uint64_t{v->m.p0_AlphaSetsPresent}) << 1 | uint64_t{v->m.pathlossReferenceRSToAddModListPresent}) << 1 | uint64_t{v->m.pathlossReferenceRSToReleaseListPresent}) << 1 | uint64_t{v->m.twoPUSCH_PC_AdjustmentStatesPresent}) << 1 | uint64_t{v->m.deltaMCSPresent}) << 1 | uint64_t{v->m.sri_PUSCH_MappingToAddModListPresent}) << 1 | uint64_t{v->m.sri_PUSCH_MappingToReleaseListPresent});
+    b = e.put<10>(b, e.flags<0, 10>(v->m));
     if (v->m.tpc_AccumulationPresent)
     {
         if (v->tpc_Accumulation > 0u) [[unlikely]]
@@ -9216,7 +9216,7 @@ static Bits pe_PUSCH_Config_pusch_TimeDomainAllocationList(Encoder& e, Bits b, c
 // BetaOffsets
 static Bits pe_BetaOffsets(Encoder& e, Bits b, const BetaOffsets* v)
 {
-    b = e.put<7>(b, ((((((uint64_t{v->m.betaOffsetACK_Index1Present}) << 1 | uint64_t{v->m.betaOffsetACK_Index2Present}) << 1 | uint64_t{v->m.betaOffsetACK_Index3Present}) << 1 | uint64_t{v->m.betaOffsetCSI_Part1_Index1Present}) << 1 | uint64_t{v->m.betaOffsetCSI_Part1_Index2Present}) << 1 | uint64_t{v->m.betaOffsetCSI_Part2_Index1Present}) << 1 | uint64_t{v->m.betaOffsetCSI_Part2_Index2Present});
+    b = e.put<7>(b, e.flags<0, 7>(v->m));
     if (v->m.betaOffsetACK_Index1Present)
     {
         if (v->betaOffsetACK_Index1 > 31) [[unlikely]]
@@ -9397,7 +9397,7 @@ static Bits pe_PUSCH_Config_uci_OnPUSCH(Encoder& e, Bits b, const PUSCH_Config_u
 static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<18>(b, (((((((((((((((((uint64_t{extended}) << 1 | uint64_t{v->m.dataScramblingIdentityPUSCHPresent}) << 1 | uint64_t{v->m.txConfigPresent}) << 1 | uint64_t{v->m.dmrs_UplinkForPUSCH_MappingTypeAPresent}) << 1 | uint64_t{v->m.dmrs_UplinkForPUSCH_MappingTypeBPresent}) << 1 | uint64_t{v->m.pusch_PowerControlPresent}) << 1 | uint64_t{v->m.frequencyHoppingPresent}) << 1 | uint64_t{v->m.frequencyHoppingOffsetListsPresent}) << 1 | uint64_t{v->m.pusch_TimeDomainAllocationListPresent}) << 1 | uint64_t{v->m.pusch_AggregationFactorPresent}) << 1 | uint64_t{v->m.mcs_TablePresent}) << 1 | uint64_t{v->m.mcs_TableTransformPrecoderPresent}) << 1 | uint64_t{v->m.transformPrecoderPresent}) << 1 | uint64_t{v->m.codebookSubsetPresent}) << 1 | uint64_t{v->m.maxRankPresent}) << 1 | uint64_t{v->m.rbg_SizePresent}) << 1 | uint64_t{v->m.uci_OnPUSCHPresent}) << 1 | uint64_t{v->m.tp_pi2BPSKPresent});
+    b = e.put<18>(b, (uint64_t{extended}) << 17 | e.flags<0, 17>(v->m));
     if (v->m.dataScramblingIdentityPUSCHPresent)
     {
         if (v->dataScramblingIdentityPUSCH > 1023) [[unlikely]]
@@ -9698,7 +9698,7 @@ static Bits pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(Encoder& e, Bits 
     {
         return e.range("antennaPort", v->antennaPort, 0, 31);
     }
-    b = e.put<44>(b, (((((((uint64_t{extended}) << 1 | uint64_t{v->m.dmrs_SeqInitializationPresent}) << 1 | uint64_t{v->m.srs_ResourceIndicatorPresent}) << 1 | uint64_t{v->m.frequencyHoppingOffsetPresent}) << 13 | uint64_t{v->timeDomainOffset}) << 4 | uint64_t{v->timeDomainAllocation}) << 18 | uint64_t{e.bits<18>(v->frequencyDomainAllocation)}) << 5 | uint64_t{v->antennaPort});
+    b = e.put<44>(b, (((((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 13 | uint64_t{v->timeDomainOffset}) << 4 | uint64_t{v->timeDomainAllocation}) << 18 | uint64_t{e.bits<18>(v->frequencyDomainAllocation)}) << 5 | uint64_t{v->antennaPort});
     if (v->m.dmrs_SeqInitializationPresent)
     {
         if (v->dmrs_SeqInitialization > 1) [[unlikely]]
@@ -9754,7 +9754,7 @@ static Bits pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(Encoder& e, Bits 
 static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<10>(b, (((((((((uint64_t{extended}) << 1 | uint64_t{v->m.frequencyHoppingPresent}) << 1 | uint64_t{v->m.mcs_TablePresent}) << 1 | uint64_t{v->m.mcs_TableTransformPrecoderPresent}) << 1 | uint64_t{v->m.uci_OnPUSCHPresent}) << 1 | uint64_t{v->m.rbg_SizePresent}) << 1 | uint64_t{v->m.transformPrecoderPresent}) << 1 | uint64_t{v->m.repK_RVPresent}) << 1 | uint64_t{v->m.configuredGrantTimerPresent}) << 1 | uint64_t{v->m.rrc_ConfiguredUplinkGrantPresent});
+    b = e.put<10>(b, (uint64_t{extended}) << 9 | e.flags<0, 9>(v->m));
     if (v->m.frequencyHoppingPresent)
     {
         if (v->frequencyHopping > 1u) [[unlikely]]
@@ -10160,7 +10160,7 @@ static Bits pe_SRS_ResourceSet(Encoder& e, Bits b, const SRS_ResourceSet* v)
     {
         return e.range("srs-ResourceSetId", v->srs_ResourceSetId, 0, 15);
     }
-    b = e.put<10>(b, ((((((uint64_t{extended}) << 1 | uint64_t{v->m.srs_ResourceIdListPresent}) << 1 | uint64_t{v->m.alphaPresent}) << 1 | uint64_t{v->m.p0Present}) << 1 | uint64_t{v->m.pathlossReferenceRSPresent}) << 1 | uint64_t{v->m.srs_PowerControlAdjustmentStatesPresent}) << 4 | uint64_t{v->srs_ResourceSetId});
+    b = e.put<10>(b, ((uint64_t{extended}) << 5 | e.flags<0, 5>(v->m)) << 4 | uint64_t{v->srs_ResourceSetId});
     if (v->m.srs_ResourceIdListPresent)
     {
         b = pe_SRS_ResourceSet_srs_ResourceIdList(e, b, &v->srs_ResourceIdList);
@@ -10843,7 +10843,7 @@ static Bits pe_SRS_Config_srs_ResourceToAddModList(Encoder& e, Bits b, const SRS
 static Bits pe_SRS_Config(Encoder& e, Bits b, const SRS_Config* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<6>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.srs_ResourceSetToReleaseListPresent}) << 1 | uint64_t{v->m.srs_ResourceSetToAddModListPresent}) << 1 | uint64_t{v->m.srs_ResourceToReleaseListPresent}) << 1 | uint64_t{v->m.srs_ResourceToAddModListPresent}) << 1 | uint64_t{v->m.tpc_AccumulationPresent});
+    b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
     if (v->m.srs_ResourceSetToReleaseListPresent)
     {
         b = pe_SRS_Config_srs_ResourceSetToReleaseList(e, b, &v->srs_ResourceSetToReleaseList);
@@ -11080,7 +11080,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.msg1_SubcarrierSpacing_v1530Present);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<10>(b, (((((((((uint64_t{extended}) << 1 | uint64_t{v->m.rootSequenceIndex_BFRPresent}) << 1 | uint64_t{v->m.rach_ConfigBFRPresent}) << 1 | uint64_t{v->m.rsrp_ThresholdSSBPresent}) << 1 | uint64_t{v->m.candidateBeamRSListPresent}) << 1 | uint64_t{v->m.ssb_perRACH_OccasionPresent}) << 1 | uint64_t{v->m.ra_ssb_OccasionMaskIndexPresent}) << 1 | uint64_t{v->m.recoverySearchSpaceIdPresent}) << 1 | uint64_t{v->m.ra_PrioritizationPresent}) << 1 | uint64_t{v->m.beamFailureRecoveryTimerPresent});
+    b = e.put<10>(b, (uint64_t{extended}) << 9 | e.flags<0, 9>(v->m));
     if (v->m.rootSequenceIndex_BFRPresent)
     {
         if (v->rootSequenceIndex_BFR > 137) [[unlikely]]
@@ -11216,7 +11216,7 @@ static Bits pe_BWP_UplinkDedicated_beamFailureRecoveryConfig(Encoder& e, Bits b,
 static Bits pe_BWP_UplinkDedicated(Encoder& e, Bits b, const BWP_UplinkDedicated* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<6>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.pucch_ConfigPresent}) << 1 | uint64_t{v->m.pusch_ConfigPresent}) << 1 | uint64_t{v->m.configuredGrantConfigPresent}) << 1 | uint64_t{v->m.srs_ConfigPresent}) << 1 | uint64_t{v->m.beamFailureRecoveryConfigPresent});
+    b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
     if (v->m.pucch_ConfigPresent)
     {
         b = pe_BWP_UplinkDedicated_pucch_Config(e, b, &v->pucch_Config);
@@ -11408,7 +11408,7 @@ static Bits pe_PUSCH_ServingCellConfig(Encoder& e, Bits b, const PUSCH_ServingCe
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.maxMIMO_LayersPresent | v->m.processingType2EnabledPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<4>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.codeBlockGroupTransmissionPresent}) << 1 | uint64_t{v->m.rateMatchingPresent}) << 1 | uint64_t{v->m.xOverheadPresent});
+    b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
     if (v->m.codeBlockGroupTransmissionPresent)
     {
         b = pe_PUSCH_ServingCellConfig_codeBlockGroupTransmission(e, b, &v->codeBlockGroupTransmission);
@@ -11649,7 +11649,7 @@ static Bits pe_SRS_CarrierSwitching_monitoringCells(Encoder& e, Bits b, const SR
 static Bits pe_SRS_CarrierSwitching(Encoder& e, Bits b, const SRS_CarrierSwitching* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<4>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.srs_SwitchFromServCellIndexPresent}) << 1 | uint64_t{v->m.srs_TPC_PDCCH_GroupPresent}) << 1 | uint64_t{v->m.monitoringCellsPresent});
+    b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
     if (v->m.srs_SwitchFromServCellIndexPresent)
     {
         if (v->srs_SwitchFromServCellIndex > 31) [[unlikely]]
@@ -11752,7 +11752,7 @@ static Bits pe_UplinkConfig(Encoder& e, Bits b, const UplinkConfig* v)
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.powerBoostPi2BPSKPresent | v->m.uplinkChannelBW_PerSCS_ListPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<7>(b, ((((((uint64_t{extended}) << 1 | uint64_t{v->m.initialUplinkBWPPresent}) << 1 | uint64_t{v->m.uplinkBWP_ToReleaseListPresent}) << 1 | uint64_t{v->m.uplinkBWP_ToAddModListPresent}) << 1 | uint64_t{v->m.firstActiveUplinkBWP_IdPresent}) << 1 | uint64_t{v->m.pusch_ServingCellConfigPresent}) << 1 | uint64_t{v->m.carrierSwitchingPresent});
+    b = e.put<7>(b, (uint64_t{extended}) << 6 | e.flags<0, 6>(v->m));
     if (v->m.initialUplinkBWPPresent)
     {
         b = pe_BWP_UplinkDedicated(e, b, &v->initialUplinkBWP);
@@ -11901,7 +11901,7 @@ static Bits pe_SlotFormatCombinationsPerCell(Encoder& e, Bits b, const SlotForma
     {
         return e.range("subcarrierSpacing", v->subcarrierSpacing, 0, 7);
     }
-    b = e.put<12>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.subcarrierSpacing2Present}) << 1 | uint64_t{v->m.slotFormatCombinationsPresent}) << 1 | uint64_t{v->m.positionInDCIPresent}) << 5 | uint64_t{v->servingCellId}) << 3 | uint64_t{v->subcarrierSpacing});
+    b = e.put<12>(b, (((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 5 | uint64_t{v->servingCellId}) << 3 | uint64_t{v->subcarrierSpacing});
     if (v->m.subcarrierSpacing2Present)
     {
         if (v->subcarrierSpacing2 > 7u) [[unlikely]]
@@ -12165,7 +12165,7 @@ static Bits pe_PDSCH_ServingCellConfig(Encoder& e, Bits b, const PDSCH_ServingCe
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.maxMIMO_LayersPresent | v->m.processingType2EnabledPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<5>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.codeBlockGroupTransmissionPresent}) << 1 | uint64_t{v->m.xOverheadPresent}) << 1 | uint64_t{v->m.nrofHARQ_ProcessesForPDSCHPresent}) << 1 | uint64_t{v->m.pucch_CellPresent});
+    b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
     if (v->m.codeBlockGroupTransmissionPresent)
     {
         b = pe_PDSCH_ServingCellConfig_codeBlockGroupTransmission(e, b, &v->codeBlockGroupTransmission);
@@ -12269,7 +12269,7 @@ static Bits pe_NZP_CSI_RS_Resource(Encoder& e, Bits b, const NZP_CSI_RS_Resource
     {
         return e.range("nzp-CSI-RS-ResourceId", v->nzp_CSI_RS_ResourceId, 0, 191);
     }
-    b = e.put<12>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.powerControlOffsetSSPresent}) << 1 | uint64_t{v->m.periodicityAndOffsetPresent}) << 1 | uint64_t{v->m.qcl_InfoPeriodicCSI_RSPresent}) << 8 | uint64_t{v->nzp_CSI_RS_ResourceId});
+    b = e.put<12>(b, ((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 8 | uint64_t{v->nzp_CSI_RS_ResourceId});
     b = pe_CSI_RS_ResourceMapping(e, b, &v->resourceMapping);
     if (!e.ok(b)) [[unlikely]]
     {
@@ -12394,7 +12394,7 @@ static Bits pe_NZP_CSI_RS_ResourceSet(Encoder& e, Bits b, const NZP_CSI_RS_Resou
     {
         return e.range("nzp-CSI-ResourceSetId", v->nzp_CSI_ResourceSetId, 0, 63);
     }
-    b = e.put<10>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.repetitionPresent}) << 1 | uint64_t{v->m.aperiodicTriggeringOffsetPresent}) << 1 | uint64_t{v->m.trs_InfoPresent}) << 6 | uint64_t{v->nzp_CSI_ResourceSetId});
+    b = e.put<10>(b, ((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 6 | uint64_t{v->nzp_CSI_ResourceSetId});
     b = pe_NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources(e, b, &v->nzp_CSI_RS_Resources);
     if (!e.ok(b)) [[unlikely]]
     {
@@ -12559,7 +12559,7 @@ static Bits pe_CSI_IM_Resource(Encoder& e, Bits b, const CSI_IM_Resource* v)
     {
         return e.range("csi-IM-ResourceId", v->csi_IM_ResourceId, 0, 31);
     }
-    b = e.put<9>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.csi_IM_ResourceElementPatternPresent}) << 1 | uint64_t{v->m.freqBandPresent}) << 1 | uint64_t{v->m.periodicityAndOffsetPresent}) << 5 | uint64_t{v->csi_IM_ResourceId});
+    b = e.put<9>(b, ((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 5 | uint64_t{v->csi_IM_ResourceId});
     if (v->m.csi_IM_ResourceElementPatternPresent)
     {
         b = pe_CSI_IM_Resource_csi_IM_ResourceElementPattern(e, b, &v->csi_IM_ResourceElementPattern);
@@ -13697,7 +13697,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
 // CSI_ReportConfig_reportFreqConfiguration
 static Bits pe_CSI_ReportConfig_reportFreqConfiguration(Encoder& e, Bits b, const CSI_ReportConfig_reportFreqConfiguration* v)
 {
-    b = e.put<3>(b, ((uint64_t{v->m.cqi_FormatIndicatorPresent}) << 1 | uint64_t{v->m.pmi_FormatIndicatorPresent}) << 1 | uint64_t{v->m.csi_ReportingBandPresent});
+    b = e.put<3>(b, e.flags<0, 3>(v->m));
     if (v->m.cqi_FormatIndicatorPresent)
     {
         if (v->cqi_FormatIndicator > 1u) [[unlikely]]
@@ -14515,7 +14515,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8_rank8_8(Encoder& e, Bits b, const P
 // PortIndexFor8Ranks_portIndex8
 static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndexFor8Ranks_portIndex8* v)
 {
-    b = e.put<8>(b, (((((((uint64_t{v->m.rank1_8Present}) << 1 | uint64_t{v->m.rank2_8Present}) << 1 | uint64_t{v->m.rank3_8Present}) << 1 | uint64_t{v->m.rank4_8Present}) << 1 | uint64_t{v->m.rank5_8Present}) << 1 | uint64_t{v->m.rank6_8Present}) << 1 | uint64_t{v->m.rank7_8Present}) << 1 | uint64_t{v->m.rank8_8Present});
+    b = e.put<8>(b, e.flags<0, 8>(v->m));
     if (v->m.rank1_8Present)
     {
         if (v->rank1_8 > 7) [[unlikely]]
@@ -14631,7 +14631,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex4_rank4_4(Encoder& e, Bits b, const P
 // PortIndexFor8Ranks_portIndex4
 static Bits pe_PortIndexFor8Ranks_portIndex4(Encoder& e, Bits b, const PortIndexFor8Ranks_portIndex4* v)
 {
-    b = e.put<4>(b, (((uint64_t{v->m.rank1_4Present}) << 1 | uint64_t{v->m.rank2_4Present}) << 1 | uint64_t{v->m.rank3_4Present}) << 1 | uint64_t{v->m.rank4_4Present});
+    b = e.put<4>(b, e.flags<0, 4>(v->m));
     if (v->m.rank1_4Present)
     {
         if (v->rank1_4 > 3) [[unlikely]]
@@ -14814,7 +14814,7 @@ static Bits pe_CSI_ReportConfig(Encoder& e, Bits b, const CSI_ReportConfig* v)
     {
         return e.range("reportConfigId", v->reportConfigId, 0, 47);
     }
-    b = e.put<15>(b, (((((((((uint64_t{extended}) << 1 | uint64_t{v->m.carrierPresent}) << 1 | uint64_t{v->m.csi_IM_ResourcesForInterferencePresent}) << 1 | uint64_t{v->m.nzp_CSI_RS_ResourcesForInterferencePresent}) << 1 | uint64_t{v->m.reportFreqConfigurationPresent}) << 1 | uint64_t{v->m.codebookConfigPresent}) << 1 | uint64_t{v->m.dummyPresent}) << 1 | uint64_t{v->m.cqi_TablePresent}) << 1 | uint64_t{v->m.non_PMI_PortIndicationPresent}) << 6 | uint64_t{v->reportConfigId});
+    b = e.put<15>(b, ((uint64_t{extended}) << 8 | e.flags<0, 8>(v->m)) << 6 | uint64_t{v->reportConfigId});
     if (v->m.carrierPresent)
     {
         if (v->carrier > 31) [[unlikely]]
@@ -15285,7 +15285,7 @@ static Bits pe_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList(Encoder& e,
 static Bits pe_CSI_MeasConfig(Encoder& e, Bits b, const CSI_MeasConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<18>(b, (((((((((((((((((uint64_t{extended}) << 1 | uint64_t{v->m.nzp_CSI_RS_ResourceToAddModListPresent}) << 1 | uint64_t{v->m.nzp_CSI_RS_ResourceToReleaseListPresent}) << 1 | uint64_t{v->m.nzp_CSI_RS_ResourceSetToAddModListPresent}) << 1 | uint64_t{v->m.nzp_CSI_RS_ResourceSetToReleaseListPresent}) << 1 | uint64_t{v->m.csi_IM_ResourceToAddModListPresent}) << 1 | uint64_t{v->m.csi_IM_ResourceToReleaseListPresent}) << 1 | uint64_t{v->m.csi_IM_ResourceSetToAddModListPresent}) << 1 | uint64_t{v->m.csi_IM_ResourceSetToReleaseListPresent}) << 1 | uint64_t{v->m.csi_SSB_ResourceSetToAddModListPresent}) << 1 | uint64_t{v->m.csi_SSB_ResourceSetToReleaseListPresent}) << 1 | uint64_t{v->m.csi_ResourceConfigToAddModListPresent}) << 1 | uint64_t{v->m.csi_ResourceConfigToReleaseListPresent}) << 1 | uint64_t{v->m.csi_ReportConfigToAddModListPresent}) << 1 | uint64_t{v->m.csi_ReportConfigToReleaseListPresent}) << 1 | uint64_t{v->m.reportTriggerSizePresent}) << 1 | uint64_t{v->m.aperiodicTriggerStateListPresent}) << 1 | uint64_t{v->m.semiPersistentOnPUSCH_TriggerStateListPresent});
+    b = e.put<18>(b, (uint64_t{extended}) << 17 | e.flags<0, 17>(v->m));
     if (v->m.nzp_CSI_RS_ResourceToAddModListPresent)
     {
         b = pe_CSI_MeasConfig_nzp_CSI_RS_ResourceToAddModList(e, b, &v->nzp_CSI_RS_ResourceToAddModList);
@@ -15657,7 +15657,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
 {
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.lte_CRS_ToMatchAroundPresent | v->m.rateMatchPatternToAddModListPresent | v->m.rateMatchPatternToReleaseListPresent | v->m.downlinkChannelBW_PerSCS_ListPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
-    b = e.put<18>(b, (((((((((((((((((uint64_t{extended}) << 1 | uint64_t{v->m.tdd_UL_DL_ConfigurationDedicatedPresent}) << 1 | uint64_t{v->m.initialDownlinkBWPPresent}) << 1 | uint64_t{v->m.downlinkBWP_ToReleaseListPresent}) << 1 | uint64_t{v->m.downlinkBWP_ToAddModListPresent}) << 1 | uint64_t{v->m.firstActiveDownlinkBWP_IdPresent}) << 1 | uint64_t{v->m.bwp_InactivityTimerPresent}) << 1 | uint64_t{v->m.defaultDownlinkBWP_IdPresent}) << 1 | uint64_t{v->m.uplinkConfigPresent}) << 1 | uint64_t{v->m.supplementaryUplinkPresent}) << 1 | uint64_t{v->m.pdcch_ServingCellConfigPresent}) << 1 | uint64_t{v->m.pdsch_ServingCellConfigPresent}) << 1 | uint64_t{v->m.csi_MeasConfigPresent}) << 1 | uint64_t{v->m.sCellDeactivationTimerPresent}) << 1 | uint64_t{v->m.crossCarrierSchedulingConfigPresent}) << 1 | uint64_t{v->m.dummyPresent}) << 1 | uint64_t{v->m.pathlossReferenceLinkingPresent}) << 1 | uint64_t{v->m.servingCellMOPresent});
+    b = e.put<18>(b, (uint64_t{extended}) << 17 | e.flags<0, 17>(v->m));
     if (v->m.tdd_UL_DL_ConfigurationDedicatedPresent)
     {
         b = pe_TDD_UL_DL_ConfigDedicated(e, b, &v->tdd_UL_DL_ConfigurationDedicated);
@@ -15809,7 +15809,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
-            b = e.put<4>(b, (((uint64_t{v->m.lte_CRS_ToMatchAroundPresent}) << 1 | uint64_t{v->m.rateMatchPatternToAddModListPresent}) << 1 | uint64_t{v->m.rateMatchPatternToReleaseListPresent}) << 1 | uint64_t{v->m.downlinkChannelBW_PerSCS_ListPresent});
+            b = e.put<4>(b, e.flags<18, 4>(v->m));
             if (v->m.lte_CRS_ToMatchAroundPresent)
             {
                 b = pe_ServingCellConfig_lte_CRS_ToMatchAround(e, b, &v->lte_CRS_ToMatchAround);
@@ -15853,7 +15853,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
 static Bits pe_SpCellConfig(Encoder& e, Bits b, const SpCellConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
-    b = e.put<6>(b, (((((uint64_t{extended}) << 1 | uint64_t{v->m.servCellIndexPresent}) << 1 | uint64_t{v->m.reconfigurationWithSyncPresent}) << 1 | uint64_t{v->m.rlf_TimersAndConstantsPresent}) << 1 | uint64_t{v->m.rlmInSyncOutOfSyncThresholdPresent}) << 1 | uint64_t{v->m.spCellConfigDedicatedPresent});
+    b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
     if (v->m.servCellIndexPresent)
     {
         if (v->servCellIndex > 31) [[unlikely]]
@@ -16012,7 +16012,7 @@ static Bits pe_CellGroupConfig(Encoder& e, Bits b, const CellGroupConfig* v)
     {
         return e.range("cellGroupId", v->cellGroupId, 0, 3);
     }
-    b = e.put<10>(b, ((((((((uint64_t{extended}) << 1 | uint64_t{v->m.rlc_BearerToAddModListPresent}) << 1 | uint64_t{v->m.rlc_BearerToReleaseListPresent}) << 1 | uint64_t{v->m.mac_CellGroupConfigPresent}) << 1 | uint64_t{v->m.physicalCellGroupConfigPresent}) << 1 | uint64_t{v->m.spCellConfigPresent}) << 1 | uint64_t{v->m.sCellToAddModListPresent}) << 1 | uint64_t{v->m.sCellToReleaseListPresent}) << 2 | uint64_t{v->cellGroupId});
+    b = e.put<10>(b, ((uint64_t{extended}) << 7 | e.flags<0, 7>(v->m)) << 2 | uint64_t{v->cellGroupId});
     if (v->m.rlc_BearerToAddModListPresent)
     {
         b = pe_CellGroupConfig_rlc_BearerToAddModList(e, b, &v->rlc_BearerToAddModList);

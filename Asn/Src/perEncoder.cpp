@@ -91,8 +91,9 @@ Bits Encoder::extensionBitmap(Bits b, uint64_t known, unsigned count, const OSRT
     const uint64_t all = uint64_t{count} + unknown.count;
     if (all > most)
     {
-        pushName(ctxt_, "extElem1");
-        return error(RTX_E_SIZE, unknown.count, 0, static_cast<int64_t>(most - count));
+        const Bits result = error(RTX_E_SIZE, unknown.count, 0, static_cast<int64_t>(most - count));
+        in(result, "extElem1");
+        return result;
     }
     // 11.9.3.4: the number of additions is a normally small length
     b = all <= small ? put<7>(b, all - 1) : length(put<1>(b, 1), all);
@@ -106,6 +107,11 @@ Bits Encoder::extensionBitmap(Bits b, uint64_t known, unsigned count, const OSRT
             const Bits result = this->node(unknown, i, node);
             in(result, "extElem1");
             return result;
+        }
+        if (addition->data == nullptr && i + 1 == unknown.count)
+        {
+            // an absent addition at the end would make the bitmap longer for nothing
+            return unknownAddition(RTX_E_EXTENSION, i);
         }
         b = put<1>(b, addition->data != nullptr ? 1 : 0);
     }
@@ -124,14 +130,20 @@ Bits Encoder::unknownAdditions(Bits b, const OSRTDList& unknown)
         }
         if (addition->numocts == 0 || !owns(ctxt_, addition->data, addition->numocts))
         {
-            pushIndex(ctxt_, i);
-            pushName(ctxt_, "extElem1");
-            return addition->numocts == 0 ? error(RTX_E_EXTENSION, 0, 0, 0) : error(RTX_E_FOREIGN, 0, 0, 0);
+            return unknownAddition(addition->numocts == 0 ? RTX_E_EXTENSION : RTX_E_FOREIGN, i);
         }
         const uint64_t start = b.pos;
         b = closeOpenType(content(openType(b), addition->data, addition->numocts), start);
     }
     return b;
+}
+
+Bits Encoder::unknownAddition(RtxStatus status, uint32_t index)
+{
+    const Bits result = error(status, 0, 0, 0);
+    pushIndex(ctxt_, index);
+    pushName(ctxt_, "extElem1");
+    return result;
 }
 
 Bits Encoder::unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, uint32_t extensions,
@@ -202,7 +214,8 @@ Bits Encoder::closeOpenType(Bits b, uint64_t start) const
     uint64_t gap = headers - 1;
     moveUp(data_, from, last, gap);
     gap -= last < shortLength ? 0 : 1;
-    setBits(data_, from + gap * 8 - 8, last < shortLength ? last : uint64_t{0x8000} | last, last < shortLength ? 8 : 16);
+    setBits(data_, from + gap * 8 - 8, last < shortLength ? last : uint64_t{0x8000} | last,
+            last < shortLength ? 8 : 16);
     for (uint64_t run = runs; run-- != 0;)
     {
         const uint64_t parts = run + 1 == runs ? whole - run * longestRun : longestRun;
@@ -214,18 +227,27 @@ Bits Encoder::closeOpenType(Bits b, uint64_t start) const
     return resume(end);
 }
 
+// A buffer that was refused keeps its error; everything older is forgotten.
 int Encoder::ready(OSCTXT& ctxt, const char* name, const void* value)
 {
     ctxt.buffer.msgLen = 0;
-    if (ctxt.error.status == RTX_OK)
+    if (ctxt.buffer.data != nullptr)
     {
-        if (ctxt.buffer.data != nullptr && value != nullptr)
+        rtxErrReset(&ctxt);
+        if (value != nullptr)
         {
             return RTX_OK;
         }
-        setError(ctxt, value == nullptr ? RTX_E_NULL : RTX_E_NOBUFFER);
+        setError(ctxt, RTX_E_NULL);
     }
-    pushName(ctxt, name);
+    else
+    {
+        setError(ctxt, RTX_E_NOBUFFER);
+    }
+    if (ctxt.error.depth == 0)
+    {
+        pushName(ctxt, name);
+    }
     return ctxt.error.status;
 }
 

@@ -6,10 +6,25 @@
 #include "rtxHeap.h"
 #include "rtxType.h"
 
+#include <array>
 #include <cstring>
 
 namespace rtx
 {
+
+// Each octet with its bits in the opposite order.
+inline constexpr auto reversedOctets = []
+{
+    std::array<uint8_t, 256> table{};
+    for (unsigned i = 0; i < 256; ++i)
+    {
+        for (unsigned bit = 0; bit < 8; ++bit)
+        {
+            table[i] = static_cast<uint8_t>(table[i] | (i >> bit & 1U) << (7 - bit));
+        }
+    }
+    return table;
+}();
 
 // The encoder's position and the bits not written yet. Two registers: it travels by value.
 struct Bits
@@ -22,7 +37,10 @@ class Encoder
 {
 public:
     explicit Encoder(OSCTXT& ctxt)
-        : ctxt_(ctxt), data_(ctxt.buffer.data), words_(ctxt.buffer.capacity / 8), limit_(uint64_t{ctxt.buffer.capacity} * 8)
+        : ctxt_(ctxt),
+          data_(ctxt.buffer.data),
+          words_(ctxt.buffer.capacity / 8),
+          limit_(uint64_t{ctxt.buffer.capacity} * 8)
     {
         if (const RtxHeapBlock* const newest = ctxt.heap.blocks)
         {
@@ -33,7 +51,10 @@ public:
 
     // False once an error has occurred or more has been put than the buffer holds. Callers ask after every element, so
     // that the error finds its path.
-    bool ok(Bits b) const { return b.pos <= limit_; }
+    bool ok(Bits b) const
+    {
+        return b.pos <= limit_;
+    }
 
     // Appends the low N bits of v, whose other bits are 0.
     template <unsigned N>
@@ -84,16 +105,41 @@ public:
         return load32(s.data) >> (32 - N);
     }
 
+    // Presence flags First to First + Count - 1 of a sequence, the first one most significant: the order in which PER
+    // sends them. In memory the first flag is the least significant bit.
+    template <unsigned First, unsigned Count, typename Flags>
+    static uint64_t flags(const Flags& m)
+    {
+        static_assert(First / 32 == (First + Count - 1) / 32 && Count <= 24);
+        uint32_t word;
+        std::memcpy(&word, reinterpret_cast<const OSOCTET*>(&m) + First / 32 * 4, sizeof word);
+        word >>= First % 32;
+        uint64_t value = reversedOctets[word & 0xFF];
+        if constexpr (Count > 8)
+        {
+            value = value << 8 | reversedOctets[word >> 8 & 0xFF];
+        }
+        if constexpr (Count > 16)
+        {
+            value = value << 8 | reversedOctets[word >> 16 & 0xFF];
+        }
+        return value >> ((Count + 7) / 8 * 8 - Count);
+    }
+
     // X.691 19.8, 11.6: the number of additions and their presence, the unknown ones of extElem1 behind the `count`
     // that the schema knows.
     Bits extensionBitmap(Bits b, uint64_t known, unsigned count, const OSRTDList& unknown);
     Bits unknownAdditions(Bits b, const OSRTDList& unknown);
     // X.691 11.2: an open type. openType() leaves room for its length and closeOpenType() writes it.
-    Bits openType(Bits b) const { return put<8>(b, 0); }
+    Bits openType(Bits b) const
+    {
+        return put<8>(b, 0);
+    }
     Bits closeOpenType(Bits b, uint64_t start) const;
     // An alternative that this release does not know; an unknown tag without its octets is an error. Of the
     // `alternatives` that the schema knows, the last `extensions` are extension additions.
-    Bits unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, uint32_t extensions, const ASN1OpenType* unknown);
+    Bits unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, uint32_t extensions,
+                            const ASN1OpenType* unknown);
     // X.691 11.6: a normally small non-negative number.
     Bits smallNumber(Bits b, uint64_t value) const;
 
@@ -169,14 +215,14 @@ private:
     Bits error(RtxStatus status, int64_t value, int64_t lower, int64_t upper);
     Bits length(Bits b, uint64_t octets) const;
     Bits content(Bits b, const OSOCTET* p, uint64_t octets) const;
-    const ASN1OpenType* unknownAddition(const OSRTDListNode* node);
+    Bits unknownAddition(RtxStatus status, uint32_t index);
     void flush(Bits b) const;
     Bits resume(uint64_t pos) const;
 
     OSCTXT& ctxt_;
     OSOCTET* data_;
-    uint64_t words_; // whole words that the buffer holds
-    uint64_t limit_; // bits that the buffer holds
+    uint64_t words_;     // whole words that the buffer holds
+    uint64_t limit_;     // bits that the buffer holds
     uintptr_t heap_ = 0; // the heap's newest block, where nearly everything lies
     uintptr_t heapUsed_ = 0;
 };

@@ -137,6 +137,7 @@ void rtxDListAppendNode(OSRTDList* pList, OSRTDListNode* pNode)
 int pu_setBuffer(OSCTXT* pctxt, OSOCTET* buf, size_t capacity, OSBOOL aligned)
 {
     pctxt->buffer = {nullptr, 0, 0};
+    rtxErrReset(pctxt);
     if (aligned != 0)
     {
         return rtx::setError(*pctxt, RTX_E_ALIGNED); // the encoder and the decoder find this error and keep it

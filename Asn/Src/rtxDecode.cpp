@@ -76,9 +76,7 @@ void storeInteger(void* to, unsigned width, int64_t value)
 class Decoder
 {
 public:
-    Decoder(OSCTXT& ctxt, const Input& input) : ctxt_(ctxt), in_(input)
-    {
-    }
+    Decoder(OSCTXT& ctxt, const Input& input) : ctxt_(ctxt), in_(input) {}
 
     // 11.1: the encoding of a value, padded with zero bits to whole octets, at least one.
     int complete(const Type& type, void* to)
@@ -438,7 +436,8 @@ private:
     {
         const uint32_t start = in_.at;
         uint32_t offset = 0;
-        if (const int status = constrained(static_cast<uint32_t>(type.upper) - static_cast<uint32_t>(type.lower), offset))
+        if (const int status =
+                constrained(static_cast<uint32_t>(type.upper) - static_cast<uint32_t>(type.lower), offset))
         {
             return status;
         }
@@ -587,7 +586,10 @@ private:
         {
             const Member& member = type.members[addition.first];
             setFlag(to, member.flag);
-            const auto content = [&] { return value(*member.type, &at<OSOCTET>(to, member.offset)); };
+            const auto content = [&]
+            {
+                return value(*member.type, &at<OSOCTET>(to, member.offset));
+            };
             return inMember(member.name, openType(content));
         }
         if (const int status = openType([&] { return members(type, addition.first, addition.count, to); }))
@@ -664,7 +666,10 @@ private:
         index += type.rootCount;
         if (index < type.memberCount)
         {
-            const auto content = [&] { return alternative(type, index, to); };
+            const auto content = [&]
+            {
+                return alternative(type, index, to);
+            };
             return inMember(type.members[index].name, openType(content));
         }
         OpenField field;

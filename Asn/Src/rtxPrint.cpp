@@ -47,9 +47,7 @@ int64_t loadInteger(const void* from, unsigned width, bool isSigned)
 class Output
 {
 public:
-    Output(RtxPrintSink sink, void* arg) : sink_(sink), arg_(arg)
-    {
-    }
+    Output(RtxPrintSink sink, void* arg) : sink_(sink), arg_(arg) {}
 
     void put(const char* text)
     {
@@ -91,9 +89,7 @@ private:
 class Printer
 {
 public:
-    Printer(const OSCTXT* ctxt, RtxPrintSink sink, void* arg) : ctxt_(ctxt), out_(sink, arg)
-    {
-    }
+    Printer(const OSCTXT* ctxt, RtxPrintSink sink, void* arg) : ctxt_(ctxt), out_(sink, arg) {}
 
     void element(const char* name, const Type& type, const void* value)
     {
@@ -383,7 +379,10 @@ private:
 
     void list(const Type& type, const OSRTDList& value)
     {
-        const auto print = [&](const char* name, const void* data) { pointed(name, *type.element, data); };
+        const auto print = [&](const char* name, const void* data)
+        {
+            pointed(name, *type.element, data);
+        };
         const uint32_t number = count(type, value.count);
         nodes(value, number, print);
     }
@@ -448,8 +447,8 @@ private:
     void listEnds(uint32_t count, uint32_t after)
     {
         indent();
-        out_.format("the list counts %" PRIu32 " element%s and ends after %" PRIu32 "\n", count,
-                    count == 1 ? "" : "s", after);
+        out_.format("the list counts %" PRIu32 " element%s and ends after %" PRIu32 "\n", count, count == 1 ? "" : "s",
+                    after);
     }
 
     struct Index

@@ -25,11 +25,11 @@ struct Type;
 
 struct Member
 {
-    const char* name;  // ASN.1 name
+    const char* name; // ASN.1 name
     const Type* type;
-    uint32_t offset;   // in the structure; 0 in a choice
-    int16_t flag;      // bit number of its presence flag, -1 for a mandatory member
-    bool pointer;      // choice: the union holds a pointer to the alternative
+    uint32_t offset; // in the structure; 0 in a choice
+    int16_t flag;    // bit number of its presence flag, -1 for a mandatory member
+    bool pointer;    // choice: the union holds a pointer to the alternative
 };
 
 // An extension addition of a sequence: a group [[ ]] with its own flag, or a lone member (flag -1).
@@ -44,20 +44,20 @@ struct Type
 {
     const char* name; // ASN.1 name, or the C name of a type nested in another
     Kind kind;
-    uint8_t width;
-    bool extensible;
-    uint32_t size;  // octets of storage
-    int32_t lower;  // of an integer's value, or of a list's count
-    int32_t upper;
-    uint32_t elements;           // Array: offset of elem; Choice: offset of u
-    const Type* element;         // Array, List
-    const char* const* names;    // Enumerated
-    const Member* members;       // Sequence, Choice: root members first, then additions in order
-    uint16_t memberCount;
-    uint16_t rootCount;
-    const Addition* additions;   // Sequence
-    uint16_t additionCount;
-    uint32_t extElem;            // extensible Sequence: offset of extElem1
+    uint8_t width = 0;
+    bool extensible = false;
+    uint32_t size = 0; // octets of storage
+    int32_t lower = 0; // of an integer's value, or of a list's count
+    int32_t upper = 0;
+    uint32_t elements = 0;              // Array: offset of elem; Choice: offset of u
+    const Type* element = nullptr;      // Array, List
+    const char* const* names = nullptr; // Enumerated
+    const Member* members = nullptr;    // Sequence, Choice: root members first, then additions in order
+    uint16_t memberCount = 0;
+    uint16_t rootCount = 0;
+    const Addition* additions = nullptr; // Sequence
+    uint16_t additionCount = 0;
+    uint32_t extElem = 0; // extensible Sequence: offset of extElem1
 };
 
 // Bits that hold a value of 0..range.

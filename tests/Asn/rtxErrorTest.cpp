@@ -77,7 +77,7 @@ TEST_F(Error, EachReasonInPlainWords)
     EXPECT_EQ("a length determinant 0xC5 that PER does not allow", lineOf(RTX_E_LENGTH, 0xC5));
     EXPECT_EQ("an extension is announced and has no addition", lineOf(RTX_E_EXTENSION));
     EXPECT_EQ("the element tree is deeper than 48", lineOf(RTX_E_DEPTH));
-    EXPECT_EQ("error -99", lineOf(static_cast<RtxStatus>(-99)));
+    EXPECT_EQ("error -31", lineOf(static_cast<RtxStatus>(-31)));
 }
 
 TEST_F(Error, ThePathStandsOutermostFirst)

@@ -60,7 +60,8 @@ inline const Type levelType = {.name = "Level", .kind = Kind::Integer, .width = 
 inline const Type oddType = {.name = "Odd", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 5};
 // INTEGER (0..65535), (-400..400), the whole of 32 bits
 inline const Type wideType = {.name = "Wide", .kind = Kind::Integer, .width = 2, .size = 2, .lower = 0, .upper = 65535};
-inline const Type biasType = {.name = "Bias", .kind = Kind::Integer, .width = 2, .size = 2, .lower = -400, .upper = 400};
+inline const Type biasType = {
+    .name = "Bias", .kind = Kind::Integer, .width = 2, .size = 2, .lower = -400, .upper = 400};
 inline const Type wholeType = {
     .name = "Whole", .kind = Kind::Integer, .width = 4, .size = 4, .lower = INT32_MIN, .upper = INT32_MAX};
 
