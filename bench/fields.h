@@ -58,7 +58,10 @@ private:
         }
     }
 
-    static bool flag(const uint8_t* p, int number) { return (p[number / 8] >> (number % 8) & 1) != 0; }
+    static bool flag(const uint8_t* p, int number)
+    {
+        return (p[number / 8] >> (number % 8) & 1) != 0;
+    }
 
     void walk(const rtx::Type& type, const uint8_t* p)
     {
@@ -112,7 +115,8 @@ private:
 
     void array(const rtx::Type& type, const uint8_t* p, unsigned width)
     {
-        const auto count = type.lower == type.upper ? static_cast<uint32_t>(type.upper) : static_cast<uint32_t>(integer(type, p));
+        const auto count =
+            type.lower == type.upper ? static_cast<uint32_t>(type.upper) : static_cast<uint32_t>(integer(type, p));
         put(int64_t{count} - type.lower, width);
         for (uint32_t i = 0; i < count; ++i)
         {
