@@ -3,10 +3,56 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace
+{
+
+// Standard output is captured while a test runs, so what failed is told on standard error.
+class FailuresToStderr : public testing::EmptyTestEventListener
+{
+    void OnTestPartResult(const testing::TestPartResult& result) override
+    {
+        if (result.failed())
+        {
+            const testing::TestInfo* const info = testing::UnitTest::GetInstance()->current_test_info();
+            std::fprintf(stderr, "%s:%d: %s.%s\n%s\n", result.file_name() != nullptr ? result.file_name() : "",
+                         result.line_number(), info != nullptr ? info->test_suite_name() : "",
+                         info != nullptr ? info->name() : "", result.message());
+        }
+    }
+};
+
+[[maybe_unused]] const bool listening = []
+{
+    testing::UnitTest::GetInstance()->listeners().Append(new FailuresToStderr);
+    return true;
+}();
+
+} // namespace
+
 namespace test
 {
 
-// One line per message in the file that CELLGROUPCFG_ORACLE_FILE names; without it the test runs by hand and only encodes.
+std::string ComposerTest::printed()
+{
+    const std::string text = output_.take();
+    const std::string red = "\033[1;31m";
+    std::string result;
+    size_t done = 0;
+    for (size_t start = text.find(red); start != std::string::npos; start = text.find(red, start + 1))
+    {
+        const size_t dot = text.find_first_of(".\r\n", start);
+        const size_t colon = dot == std::string::npos ? dot : text.find_first_not_of("0123456789", dot + 1);
+        if (colon != std::string::npos && text[dot] == '.' && colon > dot + 1 && text[colon] == ':')
+        {
+            result += text.substr(done, dot - done) + ".N";
+            done = colon;
+        }
+    }
+    return result + text.substr(done);
+}
+
+// One line per message in the file that CELLGROUPCFG_ORACLE_FILE names; without it the test runs by hand and only
+// encodes.
 void ComposerTest::recordForOracle(const std::string& type, const std::string& hex, const std::string& json)
 {
     const char* const name = std::getenv("CELLGROUPCFG_ORACLE_FILE");
@@ -17,7 +63,8 @@ void ComposerTest::recordForOracle(const std::string& type, const std::string& h
     std::FILE* const file = std::fopen(name, "a");
     ASSERT_NE(file, nullptr) << name;
     const testing::TestInfo* const info = testing::UnitTest::GetInstance()->current_test_info();
-    std::fprintf(file, "%s.%s\t%s\t%s\t%s\n", info->test_suite_name(), info->name(), type.c_str(), hex.c_str(), json.c_str());
+    std::fprintf(file, "%s.%s\t%s\t%s\t%s\n", info->test_suite_name(), info->name(), type.c_str(), hex.c_str(),
+                 json.c_str());
     std::fclose(file);
 }
 

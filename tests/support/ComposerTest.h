@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -21,8 +20,14 @@ namespace test
 class ComposerTest : public testing::Test
 {
 protected:
-    ComposerTest() { rtxInitContext(&context); }
-    ~ComposerTest() override { rtFreeContext(&context); }
+    ComposerTest()
+    {
+        rtxInitContext(&context);
+    }
+    ~ComposerTest() override
+    {
+        rtFreeContext(&context);
+    }
 
     // A cleared record or element; big ones stay off the stack.
     template <typename T>
@@ -33,7 +38,7 @@ protected:
 
     // The lines printed since the last call; the line numbers of error lines become N:
     // "\033[1;31mrrcComposeX.N:pX is null\r\n\033[m".
-    std::string printed() { return std::regex_replace(output_.take(), std::regex("(\033\\[1;31m[A-Za-z0-9_]+)\\.[0-9]+:"), "$1.N:"); }
+    std::string printed();
 
     // The line of the null guard of `function` for `pointer`.
     static std::string nullLine(const std::string& function, const std::string& pointer)

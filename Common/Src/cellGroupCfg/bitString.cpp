@@ -1,31 +1,6 @@
 #include "bitString.h"
 
-namespace
-{
-
-// Left-aligned in ceil(N / 8) octets, the bits behind the N-th zero.
-template <unsigned N>
-void pack(OSOCTET* octets, UINT64 value)
-{
-    static_assert(N >= 1 && N <= 64);
-    const UINT64 aligned = value << (64 - N);
-    for (unsigned i = 0; i < (N + 7) / 8; ++i)
-    {
-        octets[i] = static_cast<OSOCTET>(aligned >> (56 - 8 * i));
-    }
-}
-
-// The octets that the bits do not reach are zero.
-template <unsigned N>
-INT32 packBitStr32(ASN1BitStr32* pBitStr, UINT64 value)
-{
-    static_assert(N <= 32);
-    *pBitStr = {N, {}};
-    pack<N>(pBitStr->data, value);
-    return VOS_OK;
-}
-
-} // namespace
+#include "packBits.h"
 
 INT32 uint8To2ASN1BitStr32(ASN1BitStr32* pBitStr, UINT8 value)
 {
@@ -164,32 +139,32 @@ INT32 uint32To32ASN1BitStr32(ASN1BitStr32* pBitStr, UINT32 value)
 
 INT32 uint64To40ASN1BitStr32(OSOCTET* pElem, UINT64 value)
 {
-    pack<40>(pElem, value);
+    packBits<40>(pElem, value);
     return VOS_OK;
 }
 
 INT32 uint64To45ASN1BitStr(OSOCTET* pElem, UINT64 value)
 {
-    pack<45>(pElem, value);
+    packBits<45>(pElem, value);
     return VOS_OK;
 }
 
 void uint64ToBitString43bit(UINT64 num, UINT8* elem)
 {
-    pack<43>(elem, num);
+    packBits<43>(elem, num);
 }
 
 void uint64ToBitString48bit(UINT64 num, UINT8* elem)
 {
-    pack<48>(elem, num);
+    packBits<48>(elem, num);
 }
 
 void uint64ToBitString59bit(UINT64 num, UINT8* elem)
 {
-    pack<59>(elem, num);
+    packBits<59>(elem, num);
 }
 
 void uint64ToBitString64bit(UINT64 num, UINT8* elem)
 {
-    pack<64>(elem, num);
+    packBits<64>(elem, num);
 }

@@ -47,6 +47,28 @@
         }                                                                                                              \
     } while (0)
 
+// Where `condition` holds: chooses an alternative that is held inline, and copies the value.
+#define CHOOSE_IF(condition, pChoice, type, alternative, value)                                                        \
+    do                                                                                                                 \
+    {                                                                                                                  \
+        if (condition)                                                                                                 \
+        {                                                                                                              \
+            (pChoice)->t = T_##type##_##alternative;                                                                   \
+            assign((pChoice)->u.alternative, value);                                                                   \
+        }                                                                                                              \
+    } while (0)
+
+// Where the count is not 0: sets the presence bit of the element's list of fixed size and copies its entries.
+#define ENTRIES_IF(count, pElement, member, ids)                                                                       \
+    do                                                                                                                 \
+    {                                                                                                                  \
+        if ((count) != 0)                                                                                              \
+        {                                                                                                              \
+            (pElement)->m.member##Present = 1;                                                                         \
+            compose::entries((pElement)->member.elem, count, ids);                                                     \
+        }                                                                                                              \
+    } while (0)
+
 namespace compose
 {
 
@@ -71,14 +93,47 @@ Element* allocate(OSCTXT* pAsnCxt)
     return static_cast<Element*>(p);
 }
 
-// Chooses an alternative that is held by pointer: tag, and a cleared element from the heap, which is returned. With the
-// heap exhausted the choice is left without an alternative, which the encoder refuses, and null is returned.
+// Chooses an alternative that is held by pointer, with the element given. Without one the choice is left without an
+// alternative, which the encoder refuses.
+template <typename Choice, typename Alternative>
+void attach(Choice* pChoice, OSUINT32 tag, Alternative*& pAlternative, Alternative* pElement)
+{
+    pAlternative = pElement;
+    pChoice->t = pElement != nullptr ? tag : 0;
+}
+
+// Chooses an alternative that is held by pointer, with a cleared element from the heap, which is returned; null when
+// the heap is exhausted.
 template <typename Choice, typename Alternative>
 Alternative* choose(OSCTXT* pAsnCxt, Choice* pChoice, OSUINT32 tag, Alternative*& pAlternative)
 {
-    pAlternative = allocate<Alternative>(pAsnCxt);
-    pChoice->t = pAlternative != nullptr ? tag : 0;
+    attach(pChoice, tag, pAlternative, allocate<Alternative>(pAsnCxt));
     return pAlternative;
+}
+
+// Chooses a bit string of at most 32 bits, which is held by pointer, and packs it.
+template <typename Choice, typename Value>
+void chooseBits(OSCTXT* pAsnCxt, Choice* pChoice, OSUINT32 tag, ASN1BitStr32*& pAlternative,
+                INT32 (*packer)(ASN1BitStr32*, Value), std::type_identity_t<Value> value)
+{
+    if (choose(pAsnCxt, pChoice, tag, pAlternative) != nullptr)
+    {
+        (void)packer(pAlternative, value);
+    }
+}
+
+// Copies the 40 octets of a record's resource blocks, in memory order, over the element's 35. Of the five surplus ones
+// the first falls on padding, the others on the tag of the choice behind; a slot's presence bit overwrites that again.
+inline void copyResourceBlocks(RateMatchPattern_patternType_bitmaps* pBitmaps, const UINT64 (&resourceBlocks)[5])
+{
+    using Bitmaps = RateMatchPattern_patternType_bitmaps;
+    constexpr std::size_t tagOffset = offsetof(Bitmaps, symbolsInResourceBlock) - offsetof(Bitmaps, resourceBlocks);
+    static_assert(tagOffset + sizeof pBitmaps->symbolsInResourceBlock.t == sizeof resourceBlocks);
+
+    OSOCTET octets[sizeof resourceBlocks];
+    std::memcpy(octets, resourceBlocks, sizeof octets);
+    std::memcpy(pBitmaps->resourceBlocks, octets, sizeof pBitmaps->resourceBlocks);
+    std::memcpy(&pBitmaps->symbolsInResourceBlock.t, octets + tagOffset, sizeof pBitmaps->symbolsInResourceBlock.t);
 }
 
 // Calls a composer that takes the context, or one that does not.
@@ -95,14 +150,42 @@ INT32 call(OSCTXT* pAsnCxt, Composer composer, Element* pElement, Record* pRecor
     }
 }
 
-// Chooses the setup alternative (tag 2 of every SetupRelease) and composes it from the record. Returns the composer's
-// result.
+// Chooses an alternative that is held by pointer and composes it from the record. Returns the composer's result.
+template <typename Choice, typename Alternative, typename Record, typename Composer>
+INT32 alternative(OSCTXT* pAsnCxt, Choice* pChoice, OSUINT32 tag, Alternative*& pAlternative, Record* pRecord,
+                  Composer composer)
+{
+    Alternative* const pChosen = choose(pAsnCxt, pChoice, tag, pAlternative);
+    return pChosen == nullptr ? VOS_OK : call(pAsnCxt, composer, pChosen, pRecord);
+}
+
+// The setup alternative of every SetupRelease.
+constexpr OSUINT32 setupTag = 2;
+
+// Chooses the setup alternative and composes it from the record. Returns the composer's result.
 template <typename Choice, typename Record, typename Composer>
 INT32 setup(OSCTXT* pAsnCxt, Choice* pChoice, Record* pRecord, Composer composer)
 {
-    constexpr OSUINT32 setupTag = 2;
-    auto* const pSetup = choose(pAsnCxt, pChoice, setupTag, pChoice->u.setup);
-    return pSetup == nullptr ? VOS_OK : call(pAsnCxt, composer, pSetup, pRecord);
+    return alternative(pAsnCxt, pChoice, setupTag, pChoice->u.setup, pRecord, composer);
+}
+
+// Chooses the setup alternative where it is a number.
+template <typename Choice, typename Value>
+void setupValue(Choice* pChoice, Value value)
+{
+    pChoice->t = setupTag;
+    assign(pChoice->u.setup, value);
+}
+
+// The entries of a list of fixed size: as many as are counted and both arrays hold.
+template <typename Member, std::size_t M, typename Id, std::size_t N>
+void entries(Member (&elem)[M], std::size_t count, const Id (&ids)[N])
+{
+    const std::size_t used = std::min({count, M, N});
+    for (std::size_t i = 0; i < used; ++i)
+    {
+        assign(elem[i], ids[i]);
+    }
 }
 
 // An array list: the count as given, and as many entries as both arrays hold. A count beyond a bound is refused by the
@@ -112,11 +195,7 @@ void array(List* pList, Count count, const Id (&ids)[N])
 {
     static_assert(std::numeric_limits<Count>::max() <= std::numeric_limits<decltype(pList->n)>::max());
     pList->n = count;
-    const std::size_t entries = std::min({std::size_t{count}, N, std::size(pList->elem)});
-    for (std::size_t i = 0; i < entries; ++i)
-    {
-        assign(pList->elem[i], ids[i]);
-    }
+    entries(pList->elem, count, ids);
 }
 
 struct ListTexts
@@ -128,7 +207,8 @@ struct ListTexts
 // An element list: per entry one block from the heap with the node and, behind it, the cleared element. Entries that
 // the record's array does not have stay cleared; a count beyond the list's bound is refused by the encoder.
 template <typename Element, typename Record, std::size_t N, typename Composer>
-INT32 list(OSCTXT* pAsnCxt, OSRTDList* pList, std::size_t count, Record (&records)[N], Composer composer, ListTexts texts)
+INT32 list(OSCTXT* pAsnCxt, OSRTDList* pList, std::size_t count, Record (&records)[N], Composer composer,
+           ListTexts texts)
 {
     struct Block
     {

@@ -1,9 +1,87 @@
 #include "macCellGroup.h"
 
 #include "compose.h"
+#include "macElements.h"
+
+// MAC-CellGroupConfig. A member that cannot be composed is left as far as it was built and stays announced.
+INT32 rrcComposeMac_CellGroupCfg(OSCTXT* pAsnCxt, MAC_CellGroupConfig* pMac_CellGroupConfig,
+                                 RrcMacCellGrpCfg_t* pRrcMacCellGrpCfg)
+{
+    NULL_CHECK(pMac_CellGroupConfig);
+    NULL_CHECK(pRrcMacCellGrpCfg);
+
+    assign(pMac_CellGroupConfig->skipUplinkTxDynamic, pRrcMacCellGrpCfg->skipUpTxDynamic);
+    // csi-Mask and dataInactivityTimer are in the tree only: their extension group is never announced.
+    COPY_IF(pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_CSI_PRESENCE, pMac_CellGroupConfig, csi_Mask,
+            pRrcMacCellGrpCfg->csiMaskV1530);
+    if (pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_DRX_PRESENCE)
+    {
+        pMac_CellGroupConfig->m.drx_ConfigPresent = 1;
+        (void)rrcComposeDrx_Config(pAsnCxt, &pMac_CellGroupConfig->drx_Config, &pRrcMacCellGrpCfg->drxCfg);
+    }
+    if (pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_SR_PRESENCE)
+    {
+        pMac_CellGroupConfig->m.schedulingRequestConfigPresent = 1;
+        (void)rrcComposeScheduleReq_Config(pAsnCxt, &pMac_CellGroupConfig->schedulingRequestConfig,
+                                           &pRrcMacCellGrpCfg->srCfg);
+    }
+    if (pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_BSR_PRESENCE)
+    {
+        pMac_CellGroupConfig->m.bsr_ConfigPresent = 1;
+        (void)rrcComposeBsr_Config(&pMac_CellGroupConfig->bsr_Config, &pRrcMacCellGrpCfg->bsrCfg);
+    }
+    if (pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_TAG_PRESENCE)
+    {
+        pMac_CellGroupConfig->m.tag_ConfigPresent = 1;
+        (void)rrcComposeTag_Config(pAsnCxt, &pMac_CellGroupConfig->tag_Config, &pRrcMacCellGrpCfg->tagCfg);
+    }
+    if (pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_PHR_PRESENCE)
+    {
+        pMac_CellGroupConfig->m.phr_ConfigPresent = 1;
+        (void)rrcComposePhr_Config(pAsnCxt, &pMac_CellGroupConfig->phr_Config, &pRrcMacCellGrpCfg->phrCfg);
+    }
+    if (pRrcMacCellGrpCfg->bitMask & RRC_MAC_CELL_GRP_CFG_TIMER_PRESENCE)
+    {
+        pMac_CellGroupConfig->m.dataInactivityTimerPresent = 1;
+        compose::setupValue(&pMac_CellGroupConfig->dataInactivityTimer, pRrcMacCellGrpCfg->inactivityTimer);
+    }
+    return VOS_OK;
+}
+
+// MAC-CellGroupConfig.drx-Config
+INT32 rrcComposeDrx_Config(OSCTXT* pAsnCxt, MAC_CellGroupConfig_drx_Config* drx_Config, RrcDrxCfg_t* pdrxCfg)
+{
+    NULL_CHECK(drx_Config);
+    NULL_CHECK(pdrxCfg);
+
+    (void)compose::setup(pAsnCxt, drx_Config, pdrxCfg, rrcComposeDrx_ConfigSetup);
+    return VOS_OK;
+}
+
+// MAC-CellGroupConfig.drx-Config.setup
+INT32 rrcComposeDrx_ConfigSetup(OSCTXT*, DRX_Config* pDrx_Config, RrcDrxCfg_t* pdrxCfg)
+{
+    (void)rrcComposeDrx_onDurationTimer(&pDrx_Config->drx_onDurationTimer, pdrxCfg);
+    assign(pDrx_Config->drx_InactivityTimer, pdrxCfg->drxInactivityTimer);
+    assign(pDrx_Config->drx_HARQ_RTT_TimerDL, pdrxCfg->drxHarqRttTimerDl);
+    assign(pDrx_Config->drx_HARQ_RTT_TimerUL, pdrxCfg->drxHarqRttTimerUl);
+    assign(pDrx_Config->drx_RetransmissionTimerDL, pdrxCfg->drxRetransTimerDl);
+    assign(pDrx_Config->drx_RetransmissionTimerUL, pdrxCfg->drxRetransTimerUl);
+    RETURN_IF_FAILED(
+        rrcComposeDrx_LongCycleStartOff(&pDrx_Config->drx_LongCycleStartOffset, &pdrxCfg->drxLongCycleStartOffset),
+        "rrcComposeDrx_LongCycleStartOff Error\r\n");
+    if (pdrxCfg->bitMask & RRC_DRX_CFG_SHORT_DRX_PRESENCE)
+    {
+        pDrx_Config->m.shortDRXPresent = 1;
+        (void)rrcComposeDrx_Config_shortDRX(&pDrx_Config->shortDRX, &pdrxCfg->shortDrx);
+    }
+    assign(pDrx_Config->drx_SlotOffset, pdrxCfg->drxSlotOffset);
+    return VOS_OK;
+}
 
 // MAC-CellGroupConfig.schedulingRequestConfig
-INT32 rrcComposeScheduleReq_Config(OSCTXT* pAsnCxt, SchedulingRequestConfig* pSchedulingRequestConfig, RrcSRCfg_t* pRrcSrCfg)
+INT32 rrcComposeScheduleReq_Config(OSCTXT* pAsnCxt, SchedulingRequestConfig* pSchedulingRequestConfig,
+                                   RrcSRCfg_t* pRrcSrCfg)
 {
     NULL_CHECK(pSchedulingRequestConfig);
     NULL_CHECK(pRrcSrCfg);
@@ -12,18 +90,21 @@ INT32 rrcComposeScheduleReq_Config(OSCTXT* pAsnCxt, SchedulingRequestConfig* pSc
     if (pRrcSrCfg->numSrAddMod != 0)
     {
         pSchedulingRequestConfig->m.schedulingRequestToAddModListPresent = 1;
-        (void)rrcComposeScheduleReqCfgToAddModList(pAsnCxt, &pSchedulingRequestConfig->schedulingRequestToAddModList, pRrcSrCfg);
+        (void)rrcComposeScheduleReqCfgToAddModList(pAsnCxt, &pSchedulingRequestConfig->schedulingRequestToAddModList,
+                                                   pRrcSrCfg);
     }
     if (pRrcSrCfg->numSrRel != 0)
     {
         pSchedulingRequestConfig->m.schedulingRequestToReleaseListPresent = 1;
-        (void)rrcComposeScheduleReqCfgToReleaesList(&pSchedulingRequestConfig->schedulingRequestToReleaseList, pRrcSrCfg);
+        (void)rrcComposeScheduleReqCfgToReleaesList(&pSchedulingRequestConfig->schedulingRequestToReleaseList,
+                                                    pRrcSrCfg);
     }
     return VOS_OK;
 }
 
 // MAC-CellGroupConfig.schedulingRequestConfig.schedulingRequestToAddModList
-INT32 rrcComposeScheduleReqCfgToAddModList(OSCTXT* pAsnCxt, SchedulingRequestConfig_schedulingRequestToAddModList* pAddModList,
+INT32 rrcComposeScheduleReqCfgToAddModList(OSCTXT* pAsnCxt,
+                                           SchedulingRequestConfig_schedulingRequestToAddModList* pAddModList,
                                            RrcSRCfg_t* pRrcSrCfg)
 {
     NULL_CHECK(pAddModList);
@@ -33,18 +114,6 @@ INT32 rrcComposeScheduleReqCfgToAddModList(OSCTXT* pAsnCxt, SchedulingRequestCon
                                                     {"pNode Or pAddModItem is NULL\r\n", nullptr});
 }
 
-// MAC-CellGroupConfig.schedulingRequestConfig.schedulingRequestToAddModList[]
-INT32 rrcComposeScheduleReqAddModItem(SchedulingRequestToAddMod* pAddModItem, RrcSrAddMod_t* pRrcAddMod)
-{
-    NULL_CHECK(pAddModItem);
-    NULL_CHECK(pRrcAddMod);
-
-    assign(pAddModItem->schedulingRequestId, pRrcAddMod->srId);
-    COPY_IF(pRrcAddMod->bitMask & RRC_SR_PROHIBITTIMER_PRESENCE, pAddModItem, sr_ProhibitTimer, pRrcAddMod->srProhibitTimer);
-    assign(pAddModItem->sr_TransMax, pRrcAddMod->srTransMax);
-    return VOS_OK;
-}
-
 // MAC-CellGroupConfig.schedulingRequestConfig.schedulingRequestToReleaseList
 INT32 rrcComposeScheduleReqCfgToReleaesList(SchedulingRequestConfig_schedulingRequestToReleaseList* pReleaseList,
                                             RrcSRCfg_t* pRrcReleaseList)
@@ -52,5 +121,49 @@ INT32 rrcComposeScheduleReqCfgToReleaesList(SchedulingRequestConfig_schedulingRe
     NULL_CHECK(pReleaseList);
 
     compose::array(pReleaseList, pRrcReleaseList->numSrRel, pRrcReleaseList->srId);
+    return VOS_OK;
+}
+
+// MAC-CellGroupConfig.tag-Config
+INT32 rrcComposeTag_Config(OSCTXT* pAsnCxt, TAG_Config* pTag_Config, RrcTagCfg_t* pRrcTagCfg)
+{
+    NULL_CHECK(pTag_Config);
+    NULL_CHECK(pRrcTagCfg);
+
+    if (pRrcTagCfg->numTagRel != 0)
+    {
+        pTag_Config->m.tag_ToReleaseListPresent = 1;
+        (void)rrcComposeTagToReleaseList(&pTag_Config->tag_ToReleaseList, pRrcTagCfg);
+    }
+    // A list cut short by the heap is sent as far as it was built.
+    if (pRrcTagCfg->numTagAddMod != 0)
+    {
+        pTag_Config->m.tag_ToAddModListPresent = 1;
+        (void)rrcComposeTagToAddModList(pAsnCxt, &pTag_Config->tag_ToAddModList, pRrcTagCfg);
+    }
+    return VOS_OK;
+}
+
+// MAC-CellGroupConfig.tag-Config.tag-ToReleaseList
+INT32 rrcComposeTagToReleaseList(TAG_Config_tag_ToReleaseList* pReleaseList, RrcTagCfg_t* pRrcTagCfg)
+{
+    compose::array(pReleaseList, pRrcTagCfg->numTagRel, pRrcTagCfg->tagId);
+    return VOS_OK;
+}
+
+// MAC-CellGroupConfig.tag-Config.tag-ToAddModList
+INT32 rrcComposeTagToAddModList(OSCTXT* pAsnCxt, TAG_Config_tag_ToAddModList* pAddModList, RrcTagCfg_t* pRrcTagCfg)
+{
+    return compose::list<TAG>(pAsnCxt, pAddModList, pRrcTagCfg->numTagAddMod, pRrcTagCfg->tag, rrcComposeTagCfg_ToAdd,
+                              {"pNode Or pTagItem is NULL\r\n", "rrcComposeTagCfg_ToAdd is Error\r\n"});
+}
+
+// MAC-CellGroupConfig.phr-Config
+INT32 rrcComposePhr_Config(OSCTXT* pAsnCxt, MAC_CellGroupConfig_phr_Config* pPhr_Config, RrcPhrCfg_t* pRrcPhrCfg)
+{
+    NULL_CHECK(pPhr_Config);
+    NULL_CHECK(pRrcPhrCfg);
+
+    (void)compose::setup(pAsnCxt, pPhr_Config, pRrcPhrCfg, rrcComposePhr_ConfigSetup);
     return VOS_OK;
 }

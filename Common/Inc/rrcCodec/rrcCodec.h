@@ -1,0 +1,78 @@
+#ifndef RRCCODEC_H
+#define RRCCODEC_H
+
+#include "cellgroupcfg_export.h"
+#include "gnbCommon/gnbCommon.h"
+#include "rrcCodec/rrcBitString.h"
+#include "rrcCodec/rrcMac.h"
+#include "rrcCodec/rrcPhy.h"
+#include "rrcCodec/rrcRlc.h"
+#include "rrcCodec/rrcScell.h"
+#include "rrcCodec/rrcSpCell.h"
+#include "vos_types.h"
+
+/*
+ * The cell group of one UE (TS 38.331 CellGroupConfig) as one flat record, and the call that encodes it.
+ */
+
+#ifdef __cplusplus
+extern "C"
+{
+#endif
+
+/** maxLC-ID */
+#define RRC_MAX_LC_ID 32
+/** Secondary cells of one record */
+#define MAX_NROF_SCellS 3
+
+/** Octets that most messages fit in. rrcComposeCellGroupCfg does not look at it: it wants 8192. */
+#define RRC_CELL_GROUP_CONFIG_SIZE 4096
+
+/** RrcCellGroupCfg_t.bitMask: macCellGrpCfg is given */
+#define RRC_CELLGROUPCFG_MAC_PRESENCE (1 << 0)
+/** RrcCellGroupCfg_t.bitMask: phyCellGrpCfg is given */
+#define RRC_CELLGROUPCFG_PHY_PRESENCE (1 << 1)
+/** RrcCellGroupCfg_t.bitMask: spCellCfg is given */
+#define RRC_CELLGROUPCFG_SPCELL_PRESENCE (1 << 2)
+/** RrcCellGroupCfg_t.bitMask: reportUplinkTxDirect is given */
+#define RRC_CELLGROUPCFG_REPORT_PRESENCE (1 << 3)
+
+/**
+ * CellGroupConfig. A list is sent when its count is not 0; a count beyond its array makes the call fail. The record
+ * takes some 10 MB: keep it off the stack, and clear it before filling in what the UE gets.
+ */
+typedef struct rrcCellGroupCfg_s
+{
+    UINT8 cellGroupId;                             /**< cellGroupId, 0..3 */
+    UINT8 rlcBearerAddModNum;                      /**< entries used of rlcBearerCfg, 0..32 */
+    RrcRlcBearerCfg_t rlcBearerCfg[RRC_MAX_LC_ID]; /**< rlc-BearerToAddModList */
+    UINT8 rlcBearerReleaseNum;                     /**< entries used of lchIdRelease, 0..32 */
+    UINT8 lchIdRelease[RRC_MAX_LC_ID];             /**< rlc-BearerToReleaseList, each 1..32 */
+    UINT8 bitMask;                                 /**< RRC_CELLGROUPCFG_..._PRESENCE */
+    RrcMacCellGrpCfg_t macCellGrpCfg;              /**< mac-CellGroupConfig */
+    RrcPhyCellGrpCfg_t phyCellGrpCfg;              /**< physicalCellGroupConfig */
+    RrcSpCellCfg_t spCellCfg;                      /**< spCellConfig */
+    UINT8 sCellAddModNum;                          /**< entries used of sCellAddMod, 0..3 */
+    RrcScellCfg_t sCellAddMod[MAX_NROF_SCellS];    /**< sCellToAddModList */
+    UINT8 sCellReleaseNum;                         /**< entries used of sCellIdx, 0..3 */
+    UINT8 sCellIdx[MAX_NROF_SCellS];               /**< sCellToReleaseList, each 1..31 */
+    BOOL reportUplinkTxDirect; /**< reportUplinkTxDirectCurrent-v1530; its extension group is not sent */
+} RrcCellGroupCfg_t;
+
+/**
+ * Composes the CellGroupConfig and encodes it with unaligned PER. Calls on different threads are independent as long as
+ * each has its own record and buffer.
+ * @param rrcRrcCellGroupCfgInfo  the cell group, never null; only read
+ * @param pBuf                    never null; buf points at at least 8192 octets of the caller's, which get the
+ * encoding; bufLen gets its length on success and is left alone otherwise. After a failure the octets at buf may hold
+ * part of an encoding.
+ * @return                        0, or -1 after lines on the console that say what failed: a value that CellGroupConfig
+ *                                does not allow is named with its path, and the whole element tree follows
+ */
+CELLGROUPCFG_API INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* pBuf);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,58 @@
+#ifndef RRCPHY_H
+#define RRCPHY_H
+
+#include "gnbCommon/gnbCommon.h"
+#include "vos_types.h"
+
+/*
+ * Physical cell group (TS 38.331 PhysicalCellGroupConfig).
+ */
+
+#ifdef __cplusplus
+extern "C"
+{
+#endif
+
+/** RrcPhyCellGrpCfg_t.bitMask: harqAckBundlingPucch is given */
+#define RRC_PHY_CGC_HARQ_PUCCH_PRESENCE (1 << 0)
+/** RrcPhyCellGrpCfg_t.bitMask: harqAckBundlingPusch is given */
+#define RRC_PHY_CGC_HARQ_PUSCH_PRESENCE (1 << 1)
+/** RrcPhyCellGrpCfg_t.bitMask: pNrFR1Pmax is given */
+#define RRC_PHY_CGC_NR_PMAX_PRESENCE (1 << 2)
+/** RrcPhyCellGrpCfg_t.bitMask: tpcSrsRnti is given */
+#define RRC_PHY_CGC_TPC_SRS_RNTI_PRESENCE (1 << 3)
+/** RrcPhyCellGrpCfg_t.bitMask: tpcPucchRnti is given */
+#define RRC_PHY_CGC_TPC_PUCCH_RNTI_PRESENCE (1 << 4)
+/** RrcPhyCellGrpCfg_t.bitMask: tpcPuschRnti is given */
+#define RRC_PHY_CGC_TPC_PUSCH_RNTI_PRESENCE (1 << 5)
+/** RrcPhyCellGrpCfg_t.bitMask: spCsiRnti is given */
+#define RRC_PHY_CGC_SP_CSI_RNTI_PRESENCE (1 << 6)
+/** RrcPhyCellGrpCfg_t.bitMask: csRnti is given */
+#define RRC_PHY_CGC_CS_RNTI_PRESENCE (1 << 7)
+/** RrcPhyCellGrpCfg_t.bitMask: mcsCRnti is given */
+#define RRC_PHY_CGC_MCS_CRNTI_PRESENCE (1 << 8)
+/** RrcPhyCellGrpCfg_t.bitMask: pUeFR1Pmax is given */
+#define RRC_PHY_CGC_UE_PMAX_PRESENCE (1 << 9)
+
+/** PhysicalCellGroupConfig */
+typedef struct rrcPhyCellGrpCfg_s
+{
+    UINT8 pdschHarqAckCodeBook; /**< pdsch-HARQ-ACK-Codebook, 0 semiStatic, 1 dynamic */
+    UINT16 bitMask;             /**< RRC_PHY_CGC_..._PRESENCE */
+    BOOL harqAckBundlingPucch;  /**< harq-ACK-SpatialBundlingPUCCH: 0, the number of its one value true */
+    BOOL harqAckBundlingPusch;  /**< harq-ACK-SpatialBundlingPUSCH: 0, the number of its one value true */
+    UINT8 pNrFR1Pmax;           /**< p-NR-FR1, -30..33 dBm; a negative one as two's complement (-30 is 226) */
+    CmNrRnti tpcSrsRnti;        /**< tpc-SRS-RNTI */
+    CmNrRnti tpcPucchRnti;      /**< tpc-PUCCH-RNTI */
+    CmNrRnti tpcPuschRnti;      /**< tpc-PUSCH-RNTI */
+    CmNrRnti spCsiRnti;         /**< sp-CSI-RNTI */
+    CmNrRnti csRnti;            /**< cs-RNTI, always set up */
+    CmNrRnti mcsCRnti;          /**< mcs-C-RNTI; its extension group is not sent */
+    UINT8 pUeFR1Pmax;           /**< p-UE-FR1, as pNrFR1Pmax; its extension group is not sent */
+} RrcPhyCellGrpCfg_t;
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

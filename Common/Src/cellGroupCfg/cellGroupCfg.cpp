@@ -1,0 +1,114 @@
+#include "rrcCodec/rrcCodec.h"
+
+#include "compose.h"
+#include "macCellGroup.h"
+#include "physicalCellGroup.h"
+#include "rlcBearerList.h"
+#include "spCell.h"
+
+namespace
+{
+
+// What every caller provides; RRC_CELL_GROUP_CONFIG_SIZE, half of it, is not the bound.
+constexpr size_t bufferSize = 8192;
+
+// CellGroupConfig
+INT32 composeCellGroup(OSCTXT* pAsnCxt, CellGroupConfig* pCellGroupConfig, RrcCellGroupCfg_t* pRrcCellGroupCfg)
+{
+    assign(pCellGroupConfig->cellGroupId, pRrcCellGroupCfg->cellGroupId);
+    if (pRrcCellGroupCfg->rlcBearerAddModNum != 0)
+    {
+        pCellGroupConfig->m.rlc_BearerToAddModListPresent = 1;
+        RETURN_IF_FAILED(
+            rrcComposeRlc_BearerToAddModList(pAsnCxt, &pCellGroupConfig->rlc_BearerToAddModList, pRrcCellGroupCfg),
+            "rrcComposeRlc_BearerToAddModList Error\r\n");
+    }
+    if (pRrcCellGroupCfg->rlcBearerReleaseNum != 0)
+    {
+        pCellGroupConfig->m.rlc_BearerToReleaseListPresent = 1;
+        RETURN_IF_FAILED(
+            rrcComposeRlc_BearerToReleaseList(&pCellGroupConfig->rlc_BearerToReleaseList, pRrcCellGroupCfg),
+            "rrcComposeRlc_BearerToReleaseList Error\r\n");
+    }
+    if (pRrcCellGroupCfg->bitMask & RRC_CELLGROUPCFG_MAC_PRESENCE)
+    {
+        RETURN_IF_FAILED(rrcComposeMac_CellGroupCfg(pAsnCxt, &pCellGroupConfig->mac_CellGroupConfig,
+                                                    &pRrcCellGroupCfg->macCellGrpCfg),
+                         "rrcComposeMac_CellGroupCfg Error\r\n");
+        // Announced only now, unlike the others: it makes no difference, as any failure abandons the tree.
+        pCellGroupConfig->m.mac_CellGroupConfigPresent = 1;
+    }
+    if (pRrcCellGroupCfg->bitMask & RRC_CELLGROUPCFG_PHY_PRESENCE)
+    {
+        pCellGroupConfig->m.physicalCellGroupConfigPresent = 1;
+        RETURN_IF_FAILED(rrcComposePhysical_CellGroupCfg(pAsnCxt, &pCellGroupConfig->physicalCellGroupConfig,
+                                                         &pRrcCellGroupCfg->phyCellGrpCfg),
+                         "rrcComposePhysical_CellGroupCfg Error\r\n");
+    }
+    if (pRrcCellGroupCfg->bitMask & RRC_CELLGROUPCFG_SPCELL_PRESENCE)
+    {
+        pCellGroupConfig->m.spCellConfigPresent = 1;
+        RETURN_IF_FAILED(
+            rrcComposeSP_CellGroupCfg(pAsnCxt, &pCellGroupConfig->spCellConfig, &pRrcCellGroupCfg->spCellCfg),
+            "rrcComposeSP_CellGroupCfg Error\r\n");
+    }
+    // Secondary cells have no composer: whoever asks for them gets an error, not a message without them.
+    if (pRrcCellGroupCfg->sCellAddModNum != 0)
+    {
+        VOS_Printf("rrcComposeCellGroupCfg_sCellToAddMod Error\r\n");
+        return VOS_ERROR;
+    }
+    if (pRrcCellGroupCfg->sCellReleaseNum != 0)
+    {
+        VOS_Printf("rrcComposeCellGroupCfg_sCellToRel Error\r\n");
+        return VOS_ERROR;
+    }
+    // In the tree only: its extension group is never announced.
+    COPY_IF(pRrcCellGroupCfg->bitMask & RRC_CELLGROUPCFG_REPORT_PRESENCE, pCellGroupConfig,
+            reportUplinkTxDirectCurrent_v1530, pRrcCellGroupCfg->reportUplinkTxDirect);
+    return VOS_OK;
+}
+
+INT32 encode(OSCTXT* pAsnCxt, const CellGroupConfig* pCellGroupConfig, Mbuf_t* pBuf)
+{
+    // The encoder refuses to run on a buffer that was refused here.
+    (void)pu_setBuffer(pAsnCxt, pBuf->buf, bufferSize, 0);
+    if (asn1PE_CellGroupConfig(pAsnCxt, pCellGroupConfig) != 0)
+    {
+        VOS_Printf("rrcComposeCellGroupCfg Error\r\n");
+        rtxErrPrint(pAsnCxt);
+        rtxPrintSetContext(pAsnCxt);
+        asn1Print_CellGroupConfig("CELL GROUP", pCellGroupConfig);
+        return VOS_ERROR;
+    }
+    pBuf->bufLen = static_cast<UINT32>(pu_getMsgLen(pAsnCxt));
+    return VOS_OK;
+}
+
+} // namespace
+
+INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* pBuf)
+{
+    OSCTXT asnCxt;
+    if (rtxInitContext(&asnCxt) != 0)
+    {
+        VOS_Printf("rrcComposeCellGroupCfg Init AsnCxt Error\r\n");
+        return VOS_ERROR;
+    }
+
+    auto* const pRrcCellGroupCfg = compose::allocate<CellGroupConfig>(&asnCxt);
+    if (pRrcCellGroupCfg == nullptr)
+    {
+        // The context holds nothing yet and is left as it is.
+        VOS_Printf("pRrcCellGroupCfg Error\r\n");
+        return VOS_ERROR;
+    }
+
+    INT32 result = composeCellGroup(&asnCxt, pRrcCellGroupCfg, rrcRrcCellGroupCfgInfo);
+    if (result == VOS_OK)
+    {
+        result = encode(&asnCxt, pRrcCellGroupCfg, pBuf);
+    }
+    rtFreeContext(&asnCxt);
+    return result;
+}
