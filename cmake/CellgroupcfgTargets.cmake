@@ -76,6 +76,7 @@ endfunction()
 # One test executable with GoogleTest's main and one ctest of the same name, run in the project's top folder.
 function(cgc_test name)
     cgc_program(${name} ${ARGN})
+    target_compile_options(${name} PRIVATE -O0) # what is tested is optimised, the test itself need not be
     target_link_libraries(${name} PRIVATE GTest::gmock_main)
     add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
@@ -101,8 +102,15 @@ endfunction()
 # A test of composers: heap requests can be made to fail, any named type can be encoded, and the messages given to
 # expectDecoded() go to the independent decoder in the test oracle.messages.
 function(cgc_composer_test name)
-    cgc_test(${name} ${ARGN} LIBS cellgroupcfg_composer_test cellgroupcfg_internals cellgroupcfg::du cellgroupcfg::platform)
-    target_link_options(${name} PRIVATE LINKER:--wrap=rtxMemHeapAlloc)
+    cgc_message_test(${name} ${ARGN} LIBS cellgroupcfg_internals cellgroupcfg::du cellgroupcfg::platform)
+endfunction()
+
+# cgc_message_test(<name> SOURCES <file>... LIBS <library>...)
+# The same for a test that needs no composers.
+function(cgc_message_test name)
+    cgc_test(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE cellgroupcfg_composer_test)
+    target_link_options(${name} PRIVATE LINKER:--wrap=rtxMemHeapAlloc LINKER:--undefined=__wrap_rtxMemHeapAlloc)
     set(messages "${PROJECT_BINARY_DIR}/oracle/${name}.messages")
     set_tests_properties(
         ${name}

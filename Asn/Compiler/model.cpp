@@ -129,7 +129,7 @@ constexpr unsigned maxNesting = 40; // below the runtime's RTX_MAX_DEPTH
 constexpr std::size_t maxFlags = 256;
 constexpr std::size_t maxAdditions = 32; // so that their presence fits into one word
 constexpr std::size_t maxTypes = 20000;
-constexpr std::size_t maxNameText = std::size_t{64} * 1024 * 1024; // octets, of all C names together
+constexpr std::size_t maxNameText = std::size_t{4} * 1024 * 1024; // octets, of all C names together
 
 class Resolver
 {
@@ -186,8 +186,13 @@ private:
     std::string cName(const std::string& name, Location at)
     {
         std::string result = cIdentifier(name);
+        if (tooLong_)
+        {
+            return result;
+        }
         nameText_ += result.size();
-        if (nameText_ > maxNameText)
+        tooLong_ = nameText_ > maxNameText;
+        if (tooLong_)
         {
             diagnostics_.error(at, "the C names become too long");
         }
@@ -312,6 +317,10 @@ private:
             diagnostics_.error(source.at, "types are nested too deeply");
             return nullptr;
         }
+        if (tooLong_)
+        {
+            return nullptr; // reported
+        }
         if (model_.store.size() >= maxTypes)
         {
             diagnostics_.error(source.at, "there are too many types");
@@ -403,6 +412,7 @@ private:
         if (!names.insert(result.cName).second)
         {
             diagnostics_.error(source.at, "the name '" + source.name + "' occurs twice");
+            return;
         }
         if (result.cName == "m" || result.cName == "extElem1")
         {
@@ -476,7 +486,7 @@ private:
             addition.count = type.members.size() - addition.first;
             type.additions.push_back(addition);
         }
-        if (type.members.empty() && !type.extensible)
+        if (source.members.empty() && !source.extensible)
         {
             diagnostics_.error(source.at, "a SEQUENCE without members is not supported");
         }
@@ -496,7 +506,7 @@ private:
         {
             member(type, a.members.front(), parameter, nesting, names);
         }
-        if (type.rootCount == 0)
+        if (source.members.empty())
         {
             diagnostics_.error(source.at, "a CHOICE without alternatives is not supported");
         }
@@ -537,6 +547,7 @@ private:
     std::set<std::string> open_;         // being built
     std::set<std::string> cNames_{runtimeNames.begin(), runtimeNames.end()};
     std::size_t nameText_ = 0;
+    bool tooLong_ = false;
 };
 
 } // namespace

@@ -240,7 +240,7 @@ private:
 
     bool startsAssignment() const
     {
-        return current().kind == TokenKind::Word &&
+        return current().kind == TokenKind::Word && !contains(used, current().text) &&
                (ahead(1).text == "::=" || (ahead(1).text == "INTEGER" && ahead(2).text == "::=") ||
                 (ahead(1).text == "{" && ahead(3).text == "}" && ahead(4).text == "::="));
     }

@@ -2,7 +2,6 @@
 #include "rtxType.h"
 
 #include <cstdlib>
-#include <cstring>
 
 namespace
 {
@@ -69,8 +68,9 @@ int rtxInitContext(OSCTXT* pctxt)
     {
         printed = nullptr; // named an earlier context at the same address
     }
-    std::memset(pctxt, 0, sizeof *pctxt);
-    pctxt->heap.left = SIZE_MAX;
+    pctxt->heap = {nullptr, nullptr, nullptr, SIZE_MAX};
+    pctxt->buffer = {nullptr, 0, 0};
+    rtxErrReset(pctxt); // the error's path is written before it is read
     return RTX_OK;
 }
 

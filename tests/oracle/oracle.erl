@@ -19,6 +19,8 @@ run("generate", [Type, Count, Seed], Model) ->
     generate(Type, Count, Seed, all, Model);
 run("sample", [Type, Count, Seed], Model) ->
     generate(Type, Count, Seed, some, Model);
+run("samples", [Count, Seed], Model) ->
+    samples(Count, Seed, Model);
 run(Command, Arguments, _) ->
     complain("not understood: ~s~n", [lists:join(" ", [Command | Arguments])]),
     2.
@@ -137,6 +139,27 @@ generate(Name, Count, Seed, Wanted, Model) ->
             2
     end.
 
+%% One line in, the name of a type, gives COUNT lines out.
+samples(Count, Seed, Model) ->
+    case io:get_line("") of
+        eof ->
+            0;
+        Line ->
+            case generate(binary_to_list(string:trim(Line)), Count, Seed, few, Model) of
+                0 -> samples(Count, Seed, Model);
+                Status -> Status
+            end
+    end.
+
+generate_values(Type, Count, Seed, few, Model) ->
+    ok = oracle_generate:start(Type, Seed, Model),
+    case print_values(Type, Count, Model, []) of
+        {ok, _} ->
+            0;
+        {error, Reason} ->
+            complain("seed ~b: ~s~n", [Seed, Reason]),
+            1
+    end;
 generate_values(Type, Count, Seed, Wanted, Model) ->
     ok = oracle_generate:start(Type, Seed, Model),
     case print_values(Type, Count, Model, []) of

@@ -19,6 +19,7 @@ start(Type, Seed, Model) ->
     put(model, Model),
     put(root, {ref, Type}),
     put(round, 0),
+    _ = [ets:delete(?CASES) || ets:info(?CASES) =/= undefined],
     ets:new(?CASES, [named_table]),
     ets:insert(?CASES, [{Case, 0} || Case <- cases([Type], [])]),
     put(missing, ets:info(?CASES, size)),

@@ -1,16 +1,21 @@
-// Decodes and encodes again each line "CellGroupConfig <hex>" of standard input with the project's own runtime:
-// "ok <hex>", or "error <line>". The counterpart of the oracle's command of the same name.
-#include "NR-RRC-Definitions.h"
+// Decodes and encodes again each line "<Type> <hex>" of standard input with the project's own runtime: "ok <hex>", or
+// "error <line>". The counterpart of the oracle's command of the same name. With the argument "types" it prints the
+// names of the types it knows.
+#include "TestPdus.h"
 
-#include <cctype>
+#include <cstring>
 #include <iostream>
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace
 {
 
-bool octetsOf(const std::string& hex, std::vector<OSOCTET>& octets)
+using Octets = std::vector<OSOCTET>;
+
+bool octetsOf(const std::string& hex, Octets& octets)
 {
     if (hex.size() % 2 != 0 || hex.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos)
     {
@@ -23,7 +28,7 @@ bool octetsOf(const std::string& hex, std::vector<OSOCTET>& octets)
     return true;
 }
 
-std::string hexOf(const std::vector<OSOCTET>& octets, std::size_t count)
+std::string hexOf(const Octets& octets, std::size_t count)
 {
     constexpr const char* digits = "0123456789abcdef";
     std::string hex;
@@ -42,37 +47,59 @@ std::string errorOf(const OSCTXT& context)
     return std::string("error ") + line;
 }
 
-std::string reencode(std::vector<OSOCTET> octets)
+template <typename T, int (*decode)(OSCTXT*, T*), int (*encode)(OSCTXT*, const T*)>
+std::string reencode(Octets octets)
 {
     OSCTXT context;
     rtxInitContext(&context);
-    CellGroupConfig value;
+    const auto value = std::make_unique<T>();
     std::string result;
     pu_setBuffer(&context, octets.data(), octets.size(), 0);
-    if (asn1PD_CellGroupConfig(&context, &value) != 0)
+    if (decode(&context, value.get()) != 0)
     {
         result = errorOf(context);
     }
     else
     {
-        std::vector<OSOCTET> again(octets.size() + 16);
+        Octets again(octets.size() + 16);
         pu_setBuffer(&context, again.data(), again.size(), 0);
-        result = asn1PE_CellGroupConfig(&context, &value) != 0 ? errorOf(context) : "ok " + hexOf(again, pu_getMsgLen(&context));
+        result = encode(&context, value.get()) != 0 ? errorOf(context) : "ok " + hexOf(again, pu_getMsgLen(&context));
     }
     rtFreeContext(&context);
     return result;
 }
 
+#define TYPE(asnName, cName)                                                                                           \
+    {                                                                                                                  \
+        asnName, reencode<cName, asn1PD_##cName, asn1PE_##cName>                                                       \
+    }
+
+const std::unordered_map<std::string, std::string (*)(Octets)> types = {
+    TYPE("CellGroupConfig", CellGroupConfig),
+#include "types.inc"
+};
+
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
+    if (argc == 2 && std::strcmp(argv[1], "types") == 0)
+    {
+        for (const auto& [name, function] : types)
+        {
+            std::cout << name << '\n';
+        }
+        return 0;
+    }
     std::string type;
     std::string hex;
     while (std::cin >> type >> hex)
     {
-        std::vector<OSOCTET> octets;
-        std::cout << (type == "CellGroupConfig" && octetsOf(hex, octets) ? reencode(std::move(octets)) : "error not a message") << '\n';
+        const auto found = types.find(type);
+        Octets octets;
+        std::cout << (found != types.end() && octetsOf(hex, octets) ? found->second(std::move(octets))
+                                                                    : "error not a message")
+                  << '\n';
     }
     return 0;
 }

@@ -1,0 +1,93 @@
+"""What the checks of this folder share: running the oracle, the messages of the tests, the seed."""
+
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import time
+
+HERE = pathlib.Path(__file__).resolve().parent
+
+
+def run(command, lines=(), statuses=(0,)):
+    """The lines that a command prints for these lines of input."""
+    done = subprocess.run([str(word) for word in command], input="".join(line + "\n" for line in lines),
+                          stdout=subprocess.PIPE, text=True, check=False)
+    if done.returncode not in statuses:
+        sys.exit(f"'{' '.join(map(str, command))}' ended with status {done.returncode}")
+    return done.stdout.splitlines()
+
+
+def answers(command, lines):
+    """One line of output per line of input, or the check ends."""
+    result = run(command, lines)
+    if len(result) != len(lines):
+        sys.exit(f"'{' '.join(map(str, command))}' gave {len(result)} lines for {len(lines)}")
+    return result
+
+
+class Oracle:
+    def __init__(self, folder):
+        self.command = [HERE / "oracle", folder]
+
+    def show(self, pairs):
+        """The decoded values of (type, hex), or for a refused one the line that says why."""
+        return [line if line.startswith("error ") else json.loads(line)
+                for line in answers(self.command + ["show"], [" ".join(pair) for pair in pairs])]
+
+    def reencode(self, pairs):
+        return answers(self.command + ["reencode"], [" ".join(pair) for pair in pairs])
+
+    def generate(self, type_name, count, seed):
+        """Lines '<type> <hex>' in which everything that the type reaches has occurred."""
+        return run(self.command + ["generate", type_name, count, seed])
+
+    def sample(self, type_name, count, seed):
+        return run(self.command + ["sample", type_name, count, seed])
+
+    def samples(self, type_names, count, seed):
+        return run(self.command + ["samples", count, seed], type_names)
+
+
+class Message:
+    """What a test has encoded and what it meant."""
+
+    def __init__(self, line, where):
+        fields = line.rstrip("\n").split("\t")
+        if len(fields) != 4:
+            sys.exit(f"{where}: {len(fields)} fields, not test, type, hex, JSON")
+        self.test, self.type, self.hex, text = fields
+        try:
+            self.meant = json.loads(text)
+        except ValueError as error:
+            sys.exit(f"{where}: {self.test}: {error}: {text}")
+
+
+def messages(folder):
+    """All messages of the files that the tests have written; none at all ends the check."""
+    found = []
+    for path in sorted(pathlib.Path(folder).glob("*.messages")):
+        with open(path, encoding="ascii") as file:
+            found += [Message(line, f"{path}:{number}") for number, line in enumerate(file, 1)]
+    if not found:
+        sys.exit(f"no test has left a message in {folder}")
+    return found
+
+
+def seed():
+    """CELLGROUPCFG_SEED, or one that is new in each run; printed, so that a run can be repeated."""
+    value = os.environ.get("CELLGROUPCFG_SEED") or str(time.time_ns() // 1000 % 10**9)
+    print(f"seed {value} (CELLGROUPCFG_SEED={value} repeats this run)", flush=True)
+    return value
+
+
+def conclude(failures, what):
+    """Prints the first failures and ends the check."""
+    shown = 5
+    for failure in failures[:shown]:
+        print(failure)
+    if len(failures) > shown:
+        print(f"... and {len(failures) - shown} more")
+    print(f"{what}: {len(failures)} failed" if failures else f"{what}: all passed")
+    sys.exit(1 if failures else 0)

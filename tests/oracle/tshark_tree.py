@@ -1,0 +1,122 @@
+"""Wireshark's reading of CellGroupConfig messages, and how it differs from the values that were meant."""
+
+import os
+import re
+import subprocess
+import tempfile
+
+DISSECTOR = "nr-rrc.cellgroupconfig_msg"
+PROTOCOL = "NR Radio Resource Control (RRC) protocol"
+
+# Our names, as the release that Wireshark knows has them.
+RENAMED = {
+    "dummy": "dummy1",
+    "maxPayloadMinus1": "maxPayloadSize",
+    "slotSpecificConfigurationsToreleaseList": "slotSpecificConfigurationsToReleaseList",
+}
+
+
+class Node:
+    """One line of tshark's tree, 'name: value' or 'name', with the lines below it."""
+
+    # Values of a few bits stand behind a picture of their octets.
+    PICTURE = re.compile(r"^(?:[01.]{4} [01.]{4},? )+(?:= )?")
+
+    def __init__(self, text):
+        self.text = text
+        self.name, _, self.value = self.PICTURE.sub("", text).partition(": ")
+        self.below = []
+
+
+def dissect(messages):
+    """What tshark shows of messages given as hex: per message the nodes below the protocol's name."""
+    with tempfile.TemporaryDirectory() as folder:
+        dump = os.path.join(folder, "dump")
+        capture = os.path.join(folder, "capture")
+        with open(dump, "w", encoding="ascii") as file:
+            for message in messages:
+                file.write("000000 " + bytes.fromhex(message).hex(" ") + "\n")
+        subprocess.run(["text2pcap", "-q", "-P", DISSECTOR, dump, capture], check=True)
+        lines = subprocess.run(["tshark", "-V", "-r", capture], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                               encoding="utf-8", check=True).stdout.splitlines()
+    shown = []
+    path = []
+    for line in lines:
+        text = line.lstrip(" ")
+        if not text:
+            continue
+        depth = (len(line) - len(text)) // 4
+        node = Node(text)
+        del path[depth:]
+        if path:
+            path[-1].below.append(node)
+        elif text.startswith("Frame "):
+            shown.append([])
+        elif text != "EXPORTED_PDU":
+            shown[-1].append(node)
+        path.append(node)
+    return shown
+
+
+def plain(name):
+    """A name without the release that brought it: Wireshark leaves it off where the standard does not."""
+    return re.sub(r"-(?:v\d{4}|r\d{1,2})$", "", name)
+
+
+def name_agrees(meant, shown):
+    return plain(shown) in (plain(meant), RENAMED.get(meant))
+
+
+def is_spare(meant, shown):
+    """Whether a spare value of ours is a later release's value of the same number."""
+    spare = re.fullmatch(r"spare(\d*)", meant)
+    number = re.fullmatch(r"\S+ \((\d+)\)", shown)
+    if not spare or not number:
+        return False
+    count = int(number[1]) + int(spare[1] or 1)  # spares count down to the last value of a power of two
+    return count & (count - 1) == 0
+
+
+def leaf_agrees(meant, shown):
+    if meant is None:
+        return shown == "NULL"
+    if isinstance(meant, bool):
+        return shown == str(meant)
+    if isinstance(meant, int):
+        # '5', '5 dB', or a description with the value behind it: '0.15625 ms (5)'
+        return re.fullmatch(rf"{meant}(?: [A-Za-z]+)?|.*\({meant}\)", shown) is not None
+    if re.fullmatch(r"[01]+", meant):
+        octets = int(meant.ljust((len(meant) + 7) // 8 * 8, "0"), 2).to_bytes((len(meant) + 7) // 8, "big").hex()
+        return re.match(rf"{octets} \[bit length {len(meant)}[],]", shown) is not None
+    return re.fullmatch(rf"{re.escape(meant)} \(\d+\)", shown) is not None or is_spare(meant, shown)
+
+
+def differences(meant, node, path):
+    """Lines that say where tshark's tree is not the value that was meant, members in the same order."""
+    here = f"{path}.{node.name}" if path else node.name
+    if isinstance(meant, list):
+        items = f"{len(meant)} item" + ("" if len(meant) == 1 else "s")
+        names = [f"Item {index}" for index in range(len(meant))]
+        if node.value != items or [item.name for item in node.below] != names or \
+                any(len(item.below) != 1 for item in node.below):
+            return [f"{here}: {items} meant, shown '{node.text}' with {[item.text for item in node.below]}"]
+        return [line for index, item in enumerate(node.below)
+                for line in differences(meant[index], item.below[0], f"{here}[{index}]")]
+    if isinstance(meant, dict):
+        if len(meant) != len(node.below) or \
+                not all(name_agrees(name, member.name) for name, member in zip(meant, node.below)):
+            return [f"{here}: {list(meant)} meant, shown {[member.text for member in node.below]}"]
+        # A SEQUENCE shows its name alone, a CHOICE the alternative beside it.
+        if node.value and not (len(meant) == 1 and re.fullmatch(rf"{plain(next(iter(meant)))}\S* \(\d+\)", node.value)):
+            return [f"{here}: {list(meant)} meant, shown '{node.text}'"]
+        return [line for name, member in zip(meant, node.below) for line in differences(meant[name], member, here)]
+    if node.below or not leaf_agrees(meant, node.value):
+        return [f"{here}: {meant} meant, shown '{node.text}'" + (" with more below it" if node.below else "")]
+    return []
+
+
+def message_differences(meant, shown):
+    """The same for all that tshark shows of one message."""
+    if [node.text for node in shown] != [PROTOCOL] or [node.text for node in shown[0].below] != ["CellGroupConfig"]:
+        return [f"shown {[node.text for node in shown]}, not one CellGroupConfig"]
+    return differences(meant, shown[0].below[0], "")
