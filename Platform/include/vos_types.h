@@ -14,7 +14,7 @@ typedef int16_t INT16;
 typedef int32_t INT32;
 typedef int64_t INT64;
 
-/** Truth value, 32 bits wide in every record: 0 is false, anything else is true. */
+/** Truth value, 32 bits wide in every record: 0 is false, 1 is true. docs/behaviour.md says what other numbers do. */
 typedef int BOOL;
 
 static_assert(sizeof(BOOL) == 4, "BOOL is a 32-bit int");

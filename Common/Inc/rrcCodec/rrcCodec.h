@@ -25,7 +25,7 @@ extern "C"
 /** Secondary cells of one record */
 #define MAX_NROF_SCellS 3
 
-/** Octets that most messages fit in. rrcComposeCellGroupCfg does not look at it: it wants 8192. */
+/** Not the size of a buffer: rrcComposeCellGroupCfg writes up to 8192 octets and does not look at this. */
 #define RRC_CELL_GROUP_CONFIG_SIZE 4096
 
 /** RrcCellGroupCfg_t.bitMask: macCellGrpCfg is given */

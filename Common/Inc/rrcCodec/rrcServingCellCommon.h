@@ -229,9 +229,9 @@ struct explicit_s
     UINT8 nrofUplinkSymbols;   /**< nrofUplinkSymbols, 1..13 */
 };
 
-/** RrcTddUlDlSlotCfg_t.presence: all symbols downlink; not composed, the encoder refuses the slot */
+/** RrcTddUlDlSlotCfg_t.presence: all symbols downlink; defined, never composed */
 #define RRC_SLOTCFG_SYM_ALLDL_PRESENCE (1 << 0)
-/** RrcTddUlDlSlotCfg_t.presence: all symbols uplink; not composed, the encoder refuses the slot */
+/** RrcTddUlDlSlotCfg_t.presence: all symbols uplink; defined, never composed */
 #define RRC_SLOTCFG_SYM_ALLUL_PRESENCE (1 << 1)
 /** RrcTddUlDlSlotCfg_t.presence: explicit_t is given */
 #define RRC_SLOTCFG_SYM_EXPLICIT_PRESENCE (1 << 2)

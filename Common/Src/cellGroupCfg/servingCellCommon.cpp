@@ -398,7 +398,7 @@ INT32 rrcComposeTddUlDlCfg(OSCTXT* pAsnCxt, TDD_UL_DL_SlotConfig* pTDD_UL_DL_Slo
 INT32 rrcComposeTDD_UL_DL_SlotConfig_symbols(OSCTXT* pAsnCxt, TDD_UL_DL_SlotConfig_symbols* pSymbols,
                                              RrcTddUlDlSlotCfg_t* pRrcTddUlDlCfg)
 {
-    // All downlink and all uplink are not composed: the encoder refuses a slot that has nothing else.
+    // All downlink and all uplink are never composed: such a slot is left without an alternative.
     if (pRrcTddUlDlCfg->presence & RRC_SLOTCFG_SYM_EXPLICIT_PRESENCE)
     {
         RETURN_IF_FAILED(compose::alternative(pAsnCxt, pSymbols, T_TDD_UL_DL_SlotConfig_symbols_explicit_,
