@@ -18,8 +18,8 @@ struct OutputFile
 
 struct Options
 {
-    std::vector<std::string> pdus; // ASN.1 names of the types that get an encoder, a decoder and a printer; "all":
-                                   // every named constructed type
+    std::vector<std::string> pdus;   // ASN.1 names of the types that get an encoder, a decoder and a printer; "all":
+                                     // every named constructed type
     std::vector<std::string> except; // names that "all" leaves out
     std::string base; // not empty: only <base>.h and <base>.cpp come out, with the functions of these types
 };

@@ -77,18 +77,27 @@ def is_spare(meant, shown):
     return count & (count - 1) == 0
 
 
+# '5', '5 dB', or a description with the value behind it: '0.15625 ms (5)'
+INTEGER = re.compile(r"(-?\d+)(?: [A-Za-z]+)?|.*\((-?\d+)\)")
+BITS = re.compile(r"([0-9a-f]+) \[bit length (\d+)[],].*")
+NAMED = re.compile(r"(\S+) \(\d+\)")
+
+
 def leaf_agrees(meant, shown):
     if meant is None:
         return shown == "NULL"
     if isinstance(meant, bool):
         return shown == str(meant)
     if isinstance(meant, int):
-        # '5', '5 dB', or a description with the value behind it: '0.15625 ms (5)'
-        return re.fullmatch(rf"{meant}(?: [A-Za-z]+)?|.*\({meant}\)", shown) is not None
-    if re.fullmatch(r"[01]+", meant):
-        octets = int(meant.ljust((len(meant) + 7) // 8 * 8, "0"), 2).to_bytes((len(meant) + 7) // 8, "big").hex()
-        return re.match(rf"{octets} \[bit length {len(meant)}[],]", shown) is not None
-    return re.fullmatch(rf"{re.escape(meant)} \(\d+\)", shown) is not None or is_spare(meant, shown)
+        found = INTEGER.fullmatch(shown)
+        return found is not None and str(meant) in found.groups()
+    if not meant.strip("01"):
+        found = BITS.fullmatch(shown)
+        octets = (len(meant) + 7) // 8
+        return found is not None and int(found[2]) == len(meant) and \
+            found[1] == int(meant.ljust(octets * 8, "0"), 2).to_bytes(octets, "big").hex()
+    found = NAMED.fullmatch(shown)
+    return found is not None and (found[1] == meant or is_spare(meant, shown))
 
 
 def differences(meant, node, path):
@@ -107,7 +116,8 @@ def differences(meant, node, path):
                 not all(name_agrees(name, member.name) for name, member in zip(meant, node.below)):
             return [f"{here}: {list(meant)} meant, shown {[member.text for member in node.below]}"]
         # A SEQUENCE shows its name alone, a CHOICE the alternative beside it.
-        if node.value and not (len(meant) == 1 and re.fullmatch(rf"{plain(next(iter(meant)))}\S* \(\d+\)", node.value)):
+        alternative = NAMED.fullmatch(node.value)
+        if node.value and not (len(meant) == 1 and alternative and name_agrees(next(iter(meant)), alternative[1])):
             return [f"{here}: {list(meant)} meant, shown '{node.text}'"]
         return [line for name, member in zip(meant, node.below) for line in differences(meant[name], member, here)]
     if node.below or not leaf_agrees(meant, node.value):
