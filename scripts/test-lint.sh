@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# clang-tidy over the hand-written sources of the libraries and programs.
+# clang-tidy over the hand-written sources of the libraries and programs. A file that passed is passed over until it,
+# any header or the checks change.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -10,5 +11,21 @@ folders=()
 for folder in Platform Asn Common Du tools; do
     [ -d "$folder" ] && folders+=("$folder")
 done
+stamps=build/lint
+mkdir -p "$stamps"
+
+# The newest of what every file's result depends on.
+newest=$(find "${folders[@]}" .clang-tidy scripts/test-lint.sh \( -name '*.h' -o -name '.clang-tidy' -o -name '*.sh' \) \
+    -printf '%T@ %p\n' | sort -n | tail -n 1 | cut -d ' ' -f 2-)
+
+lint()
+{
+    stamp=$stamps/${1//\//_}
+    [ "$stamp" -nt "$1" ] && [ "$stamp" -nt "$newest" ] && return 0
+    clang-tidy-14 -p build/clang --quiet "$1" && touch "$stamp"
+}
+export -f lint
+export stamps newest
+
 find "${folders[@]}" -name '*.cpp' ! -name 'NR-RRC-*' -print0 |
-    xargs -0 -n 1 -P "$(nproc)" clang-tidy-14 -p build/clang --quiet
+    xargs -0 -P "$(nproc)" -I '{}' bash -c 'lint "$1"' lint '{}'
