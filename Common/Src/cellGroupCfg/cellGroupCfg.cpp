@@ -3,7 +3,7 @@
 #include "compose.h"
 #include "macCellGroup.h"
 #include "physicalCellGroup.h"
-#include "rlcBearerList.h"
+#include "rlcBearer.h"
 #include "spCell.h"
 
 namespace

@@ -25,6 +25,17 @@ void composeDlUmRlc(DL_UM_RLC* pDl_UM_RLC, const RrcDlUmRlcCfg_t* pRrcDlUmRlcCfg
 
 } // namespace
 
+// CellGroupConfig.rlc-BearerToAddModList
+INT32 rrcComposeRlc_BearerToAddModList(OSCTXT* pAsnCxt,
+                                       CellGroupConfig_rlc_BearerToAddModList* pRrcRlc_BearerToAddModList,
+                                       RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo)
+{
+    return compose::list<RLC_BearerConfig>(
+        pAsnCxt, pRrcRlc_BearerToAddModList, rrcRrcCellGroupCfgInfo->rlcBearerAddModNum,
+        rrcRrcCellGroupCfgInfo->rlcBearerCfg, rrcComposeRlc_BearerCfg,
+        {"pNode Or pRlc_BearCfg is NULL\r\n", "rrcComposeRlc_BearerCfg is Error\r\n"});
+}
+
 // CellGroupConfig.rlc-BearerToAddModList[]. A member that cannot be composed stays announced, and the bearer in the
 // list.
 INT32 rrcComposeRlc_BearerCfg(OSCTXT* pAsnCxt, RLC_BearerConfig* pRlc_BearCfg, RrcRlcBearerCfg_t* pRrcRlcBearCfg)
@@ -225,5 +236,16 @@ INT32 rrcComposeAllowedScsList(LogicalChannelConfig_ul_SpecificParameters_allowe
                                RrcUlSpecificParaCfg_t* pRrcUlSpecificParaCfg)
 {
     compose::array(pAllowedSCS_List, pRrcUlSpecificParaCfg->allowedSCSNum, pRrcUlSpecificParaCfg->subCarrierSpacing);
+    return VOS_OK;
+}
+
+// CellGroupConfig.rlc-BearerToReleaseList
+INT32 rrcComposeRlc_BearerToReleaseList(CellGroupConfig_rlc_BearerToReleaseList* pRlc_BearerToReleaseList,
+                                        RrcCellGroupCfg_t* pRrcRrcCellGroupCfgInfo)
+{
+    NULL_CHECK(pRlc_BearerToReleaseList);
+
+    compose::array(pRlc_BearerToReleaseList, pRrcRrcCellGroupCfgInfo->rlcBearerReleaseNum,
+                   pRrcRrcCellGroupCfgInfo->lchIdRelease);
     return VOS_OK;
 }

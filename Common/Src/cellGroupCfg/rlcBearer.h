@@ -1,10 +1,13 @@
-// Composers of RLC-BearerConfig.
+// Composers of CellGroupConfig's RLC bearer lists and of RLC-BearerConfig.
 #ifndef RLCBEARER_H
 #define RLCBEARER_H
 
 #include "NR-RRC-Definitions.h"
-#include "rrcCodec/rrcRlc.h"
+#include "rrcCodec/rrcCodec.h"
 
+INT32 rrcComposeRlc_BearerToAddModList(OSCTXT* pAsnCxt,
+                                       CellGroupConfig_rlc_BearerToAddModList* pRrcRlc_BearerToAddModList,
+                                       RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo);
 INT32 rrcComposeRlc_BearerCfg(OSCTXT* pAsnCxt, RLC_BearerConfig* pRlc_BearCfg, RrcRlcBearerCfg_t* pRrcRlcBearCfg);
 INT32 rrcComposeRlc_BearerCfgServedRadioBearer(RLC_BearerConfig_servedRadioBearer* pRlc_BearCfg_ServeRadBear,
                                                RrcRlcBearerCfg_t* pRrcRlcBearerCfg);
@@ -27,5 +30,8 @@ INT32 rrcComposeAllowedServingCells(
     RrcUlSpecificParaCfg_t* pRrcUlSpecificParaCfg);
 INT32 rrcComposeAllowedScsList(LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List* pAllowedSCS_List,
                                RrcUlSpecificParaCfg_t* pRrcUlSpecificParaCfg);
+
+INT32 rrcComposeRlc_BearerToReleaseList(CellGroupConfig_rlc_BearerToReleaseList* pRlc_BearerToReleaseList,
+                                        RrcCellGroupCfg_t* pRrcRrcCellGroupCfgInfo);
 
 #endif

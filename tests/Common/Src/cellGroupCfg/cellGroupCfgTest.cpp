@@ -11,25 +11,9 @@
 #include <type_traits>
 #include <vector>
 
-#include "cellGroupCfg/macCellGroup.h"
-#include "cellGroupCfg/physicalCellGroup.h"
-#include "cellGroupCfg/rlcBearerList.h"
-#include "cellGroupCfg/spCell.h"
 #include "oneBearer.h"
 #include "support/ComposerTest.h"
-#include "support/FailingComposer.h"
 #include "support/RecordOrder.h"
-
-FAILING_COMPOSER(_Z33rrcComposeRlc_BearerToReleaseListP39CellGroupConfig_rlc_BearerToReleaseListP17rrcCellGroupCfg_s,
-                 (CellGroupConfig_rlc_BearerToReleaseList * pElement, RrcCellGroupCfg_t* pRecord), (pElement, pRecord))
-FAILING_COMPOSER(_Z26rrcComposeMac_CellGroupCfgP6OSCTXTP19MAC_CellGroupConfigP18rrcMacCellGrpCfg_s,
-                 (OSCTXT * pAsnCxt, MAC_CellGroupConfig* pElement, RrcMacCellGrpCfg_t* pRecord),
-                 (pAsnCxt, pElement, pRecord))
-FAILING_COMPOSER(_Z31rrcComposePhysical_CellGroupCfgP6OSCTXTP23PhysicalCellGroupConfigP18rrcPhyCellGrpCfg_s,
-                 (OSCTXT * pAsnCxt, PhysicalCellGroupConfig* pElement, RrcPhyCellGrpCfg_t* pRecord),
-                 (pAsnCxt, pElement, pRecord))
-FAILING_COMPOSER(_Z25rrcComposeSP_CellGroupCfgP6OSCTXTP12SpCellConfigP14rrcSpCellCfg_s,
-                 (OSCTXT * pAsnCxt, SpCellConfig* pElement, RrcSpCellCfg_t* pRecord), (pAsnCxt, pElement, pRecord))
 
 extern "C" int __real_rtxInitContext(OSCTXT* pctxt);
 extern "C" int __wrap_rtxInitContext(OSCTXT* pctxt);
@@ -38,7 +22,6 @@ extern "C" void __wrap_rtFreeContext(OSCTXT* pctxt);
 extern "C" int __real_asn1PE_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue);
 extern "C" int __wrap_asn1PE_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue);
 
-using test::FailingComposer;
 using test::HeapFault;
 using test::rising;
 using testing::Each;
@@ -52,13 +35,6 @@ namespace
 thread_local bool refuseContexts = false;
 thread_local unsigned freedContexts = 0;
 thread_local std::function<void(const CellGroupConfig&)> seeTree;
-
-constexpr const char* releaseListComposer =
-    "_Z33rrcComposeRlc_BearerToReleaseListP39CellGroupConfig_rlc_BearerToReleaseListP17rrcCellGroupCfg_s";
-constexpr const char* macComposer = "_Z26rrcComposeMac_CellGroupCfgP6OSCTXTP19MAC_CellGroupConfigP18rrcMacCellGrpCfg_s";
-constexpr const char* phyComposer =
-    "_Z31rrcComposePhysical_CellGroupCfgP6OSCTXTP23PhysicalCellGroupConfigP18rrcPhyCellGrpCfg_s";
-constexpr const char* spCellComposer = "_Z25rrcComposeSP_CellGroupCfgP6OSCTXTP12SpCellConfigP14rrcSpCellCfg_s";
 
 constexpr UINT32 noLength = 0xDEADBEEF;
 constexpr UINT8 guard = 0xA5;
@@ -322,28 +298,6 @@ TEST_F(cellGroupCfg, FailureInTheBearerListStopsBeforeTheMac)
     record->macCellGrpCfg.drxCfg.drxLongCycleStartOffset.period = 0; // would print a line
     const HeapFault fault(1);
     expectNoMessage("pNode Or pRlc_BearCfg is NULL\r\nrrcComposeRlc_BearerToAddModList Error\r\n");
-}
-
-TEST_F(cellGroupCfg, FailingComposersEndTheCall)
-{
-    fullRecord(*record);
-    record->bitMask |= RRC_CELLGROUPCFG_SPCELL_PRESENCE;
-    record->sCellAddModNum = 1;
-    const struct
-    {
-        const char* composer;
-        std::string line;
-    } cases[] = {
-        {releaseListComposer, "rrcComposeRlc_BearerToReleaseList Error\r\n"},
-        {macComposer, "rrcComposeMac_CellGroupCfg Error\r\n"},
-        {phyComposer, "rrcComposePhysical_CellGroupCfg Error\r\n"},
-        {spCellComposer, "rrcComposeSP_CellGroupCfg Error\r\n"},
-    };
-    for (const auto& [composer, line] : cases)
-    {
-        const FailingComposer failing(composer);
-        expectNoMessage(line);
-    }
 }
 
 TEST_F(cellGroupCfg, SecondaryCellsAreRefused)

@@ -1,5 +1,4 @@
 #include "cellGroupCfg/macCellGroup.h"
-#include "cellGroupCfg/macElements.h"
 
 #include <cstddef>
 #include <string>
@@ -7,15 +6,8 @@
 
 #include "TestPdus.h"
 #include "support/ComposerTest.h"
-#include "support/FailingComposer.h"
 #include "support/RecordOrder.h"
 
-FAILING_COMPOSER(_Z31rrcComposeDrx_LongCycleStartOffP35DRX_Config_drx_LongCycleStartOffsetP25rrcLongCycleStartOffset_s,
-                 (DRX_Config_drx_LongCycleStartOffset * pElement, RrcLongCycleStartOffset_t* pRecord),
-                 (pElement, pRecord))
-FAILING_COMPOSER(_Z22rrcComposeTagCfg_ToAddP3TAGP8rrcTag_s, (TAG * pElement, RrcTag_t* pRecord), (pElement, pRecord))
-
-using test::FailingComposer;
 using test::HeapFault;
 using test::rising;
 
@@ -220,27 +212,6 @@ TEST_F(macCellGroup, UnknownLongCyclePeriodPrintsAndLeavesItsTagToTheEncoder)
         EXPECT_EQ(encode(asn1PE_DRX_Config, element),
                   "DRX-Config.drx-LongCycleStartOffset: tag " + std::to_string(period) + " is not in 1..20");
     }
-}
-
-TEST_F(macCellGroup, FailingLongCycleEndsTheDrxAndNotTheMacCellGroup)
-{
-    RrcDrxCfg_t cfg = drxCfg(RRC_DRX_CFG_SHORT_DRX_PRESENCE);
-    DRX_Config element{};
-    const FailingComposer failing(
-        "_Z31rrcComposeDrx_LongCycleStartOffP35DRX_Config_drx_LongCycleStartOffsetP25rrcLongCycleStartOffset_s");
-    EXPECT_EQ(rrcComposeDrx_ConfigSetup(&context, &element, &cfg), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposeDrx_LongCycleStartOff Error\r\n");
-    EXPECT_EQ(element.drx_RetransmissionTimerUL, 2U) << "what comes before is written";
-    EXPECT_EQ(element.m.shortDRXPresent, 0U);
-    EXPECT_EQ(element.drx_SlotOffset, 0);
-
-    RrcMacCellGrpCfg_t mac = macCfg(RRC_MAC_CELL_GRP_CFG_DRX_PRESENCE | RRC_MAC_CELL_GRP_CFG_PHR_PRESENCE);
-    MAC_CellGroupConfig macElement{};
-    EXPECT_EQ(rrcComposeMac_CellGroupCfg(&context, &macElement, &mac), VOS_OK);
-    EXPECT_EQ(printed(), "rrcComposeDrx_LongCycleStartOff Error\r\n");
-    EXPECT_EQ(macElement.m.drx_ConfigPresent, 1U);
-    EXPECT_EQ(macElement.drx_Config.t, 2U);
-    EXPECT_EQ(macElement.m.phr_ConfigPresent, 1U);
 }
 
 TEST_F(macCellGroup, DrxIsAlwaysSetUp)
@@ -490,19 +461,6 @@ TEST_F(macCellGroup, TagListWithoutHeapForEachNode)
             break;
         }
     }
-}
-
-TEST_F(macCellGroup, FailingTagEndsTheList)
-{
-    RrcTagCfg_t cfg = tagCfg(2, 0);
-    TAG_Config element{};
-    const FailingComposer failing("_Z22rrcComposeTagCfg_ToAddP3TAGP8rrcTag_s");
-    EXPECT_EQ(rrcComposeTagToAddModList(&context, &element.tag_ToAddModList, &cfg), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposeTagCfg_ToAdd is Error\r\n");
-    EXPECT_EQ(element.tag_ToAddModList.count, 0U) << "the node is not appended";
-    EXPECT_EQ(rrcComposeTag_Config(&context, &element, &cfg), VOS_OK);
-    EXPECT_EQ(printed(), "rrcComposeTagCfg_ToAdd is Error\r\n");
-    EXPECT_EQ(element.m.tag_ToAddModListPresent, 1U);
 }
 
 TEST_F(macCellGroup, TagNullGuards)

@@ -1,5 +1,4 @@
 #include "cellGroupCfg/rlcBearer.h"
-#include "cellGroupCfg/rlcBearerList.h"
 
 #include <cstddef>
 #include <functional>
@@ -9,14 +8,8 @@
 
 #include "TestPdus.h"
 #include "support/ComposerTest.h"
-#include "support/FailingComposer.h"
 #include "support/RecordOrder.h"
 
-FAILING_COMPOSER(_Z23rrcComposeRlc_BearerCfgP6OSCTXTP16RLC_BearerConfigP17rrcRlcBearerCfg_s,
-                 (OSCTXT * pAsnCxt, RLC_BearerConfig* pElement, RrcRlcBearerCfg_t* pRecord),
-                 (pAsnCxt, pElement, pRecord))
-
-using test::FailingComposer;
 using test::HeapFault;
 using test::rising;
 using testing::Each;
@@ -575,17 +568,6 @@ TEST_F(rlcBearer, BearerListWithoutHeapForEachNode)
         EXPECT_EQ(printed(), "pNode Or pRlc_BearCfg is NULL\r\n");
     }
     EXPECT_EQ(printed(), "");
-}
-
-TEST_F(rlcBearer, FailingBearerEndsTheList)
-{
-    const auto record = cleared<RrcCellGroupCfg_t>();
-    record->rlcBearerAddModNum = 2;
-    CellGroupConfig_rlc_BearerToAddModList list{};
-    const FailingComposer failing("_Z23rrcComposeRlc_BearerCfgP6OSCTXTP16RLC_BearerConfigP17rrcRlcBearerCfg_s");
-    EXPECT_EQ(rrcComposeRlc_BearerToAddModList(&context, &list, record.get()), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposeRlc_BearerCfg is Error\r\n");
-    EXPECT_EQ(list.count, 0U) << "the node is not appended";
 }
 
 TEST_F(rlcBearer, BearerWhoseAmConstructorFailsStaysInTheList)

@@ -1,0 +1,152 @@
+// What the entry point and the composers of bearers and MAC print and return when a composer fails that never does by
+// itself.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cellGroupCfg/macCellGroup.h"
+#include "cellGroupCfg/physicalCellGroup.h"
+#include "cellGroupCfg/rlcBearer.h"
+#include "cellGroupCfg/spCell.h"
+#include "oneBearer.h"
+#include "rrcCodec/rrcCodec.h"
+#include "support/ComposerTest.h"
+#include "support/Interposed.h"
+
+extern "C" void __real_rtFreeContext(OSCTXT* pctxt);
+extern "C" void __wrap_rtFreeContext(OSCTXT* pctxt);
+
+using test::address;
+using test::Failing;
+using test::passOn;
+using testing::Each;
+
+namespace
+{
+
+unsigned freedContexts = 0;
+
+class cellGroupFailures : public test::ComposerTest
+{
+};
+
+} // namespace
+
+void __wrap_rtFreeContext(OSCTXT* pctxt)
+{
+    ++freedContexts;
+    __real_rtFreeContext(pctxt);
+}
+
+INT32 rrcComposeRlc_BearerCfg(OSCTXT* c, RLC_BearerConfig* e, RrcRlcBearerCfg_t* r)
+{
+    return passOn(rrcComposeRlc_BearerCfg, c, e, r);
+}
+INT32 rrcComposeRlc_BearerToReleaseList(CellGroupConfig_rlc_BearerToReleaseList* e, RrcCellGroupCfg_t* r)
+{
+    return passOn(rrcComposeRlc_BearerToReleaseList, e, r);
+}
+INT32 rrcComposeMac_CellGroupCfg(OSCTXT* c, MAC_CellGroupConfig* e, RrcMacCellGrpCfg_t* r)
+{
+    return passOn(rrcComposeMac_CellGroupCfg, c, e, r);
+}
+INT32 rrcComposeDrx_LongCycleStartOff(DRX_Config_drx_LongCycleStartOffset* e, RrcLongCycleStartOffset_t* r)
+{
+    return passOn(rrcComposeDrx_LongCycleStartOff, e, r);
+}
+INT32 rrcComposeTagCfg_ToAdd(TAG* e, RrcTag_t* r)
+{
+    return passOn(rrcComposeTagCfg_ToAdd, e, r);
+}
+INT32 rrcComposePhysical_CellGroupCfg(OSCTXT* c, PhysicalCellGroupConfig* e, RrcPhyCellGrpCfg_t* r)
+{
+    return passOn(rrcComposePhysical_CellGroupCfg, c, e, r);
+}
+INT32 rrcComposeSP_CellGroupCfg(OSCTXT* c, SpCellConfig* e, RrcSpCellCfg_t* r)
+{
+    return passOn(rrcComposeSP_CellGroupCfg, c, e, r);
+}
+
+TEST_F(cellGroupFailures, EachMemberEndsTheCall)
+{
+    constexpr UINT32 noLength = 0xDEADBEEF;
+    constexpr UINT8 guard = 0xA5;
+    const auto record = cleared<RrcCellGroupCfg_t>();
+    oneBearer(*record);
+    record->rlcBearerReleaseNum = 2;
+    record->bitMask |= RRC_CELLGROUPCFG_SPCELL_PRESENCE;
+    record->sCellAddModNum = 1;
+    const struct
+    {
+        const void* composer;
+        std::string line;
+    } cases[] = {
+        {address(rrcComposeRlc_BearerToReleaseList), "rrcComposeRlc_BearerToReleaseList Error\r\n"},
+        {address(rrcComposeMac_CellGroupCfg), "rrcComposeMac_CellGroupCfg Error\r\n"},
+        {address(rrcComposePhysical_CellGroupCfg), "rrcComposePhysical_CellGroupCfg Error\r\n"},
+        {address(rrcComposeSP_CellGroupCfg), "rrcComposeSP_CellGroupCfg Error\r\n"},
+    };
+    for (const auto& [composer, line] : cases)
+    {
+        std::vector<UINT8> octets(8192 + 64, guard);
+        Mbuf_t message = {noLength, octets.data()};
+        freedContexts = 0;
+        const Failing failing(composer);
+        EXPECT_EQ(rrcComposeCellGroupCfg(record.get(), &message), VOS_ERROR);
+        EXPECT_EQ(printed(), line);
+        EXPECT_EQ(freedContexts, 1U) << line;
+        EXPECT_EQ(message.bufLen, noLength) << line;
+        EXPECT_EQ(message.buf, octets.data()) << line;
+        EXPECT_THAT(octets, Each(guard)) << line;
+    }
+}
+
+TEST_F(cellGroupFailures, BearerEndsTheList)
+{
+    const auto record = cleared<RrcCellGroupCfg_t>();
+    record->rlcBearerAddModNum = 2;
+    CellGroupConfig_rlc_BearerToAddModList list{};
+    const Failing failing(address(rrcComposeRlc_BearerCfg));
+    EXPECT_EQ(rrcComposeRlc_BearerToAddModList(&context, &list, record.get()), VOS_ERROR);
+    EXPECT_EQ(printed(), "rrcComposeRlc_BearerCfg is Error\r\n");
+    EXPECT_EQ(list.count, 0U) << "the node is not appended";
+}
+
+TEST_F(cellGroupFailures, LongCycleEndsTheDrxAndNotTheMacCellGroup)
+{
+    RrcMacCellGrpCfg_t mac{};
+    mac.bitMask = RRC_MAC_CELL_GRP_CFG_DRX_PRESENCE | RRC_MAC_CELL_GRP_CFG_PHR_PRESENCE;
+    mac.drxCfg.bitMask = RRC_DRX_CFG_SHORT_DRX_PRESENCE;
+    mac.drxCfg.drxRetransTimerUl = 2;
+    mac.drxCfg.drxLongCycleStartOffset = {10, 159};
+    mac.drxCfg.drxSlotOffset = 31;
+    DRX_Config element{};
+    const Failing failing(address(rrcComposeDrx_LongCycleStartOff));
+    EXPECT_EQ(rrcComposeDrx_ConfigSetup(&context, &element, &mac.drxCfg), VOS_ERROR);
+    EXPECT_EQ(printed(), "rrcComposeDrx_LongCycleStartOff Error\r\n");
+    EXPECT_EQ(element.drx_RetransmissionTimerUL, 2U) << "what comes before is written";
+    EXPECT_EQ(element.m.shortDRXPresent, 0U);
+    EXPECT_EQ(element.drx_SlotOffset, 0);
+
+    MAC_CellGroupConfig macElement{};
+    EXPECT_EQ(rrcComposeMac_CellGroupCfg(&context, &macElement, &mac), VOS_OK);
+    EXPECT_EQ(printed(), "rrcComposeDrx_LongCycleStartOff Error\r\n");
+    EXPECT_EQ(macElement.m.drx_ConfigPresent, 1U);
+    EXPECT_EQ(macElement.drx_Config.t, 2U);
+    EXPECT_EQ(macElement.m.phr_ConfigPresent, 1U);
+}
+
+TEST_F(cellGroupFailures, TimingAdvanceGroupEndsTheList)
+{
+    RrcTagCfg_t cfg{};
+    cfg.numTagAddMod = 2;
+    TAG_Config element{};
+    const Failing failing(address(rrcComposeTagCfg_ToAdd));
+    EXPECT_EQ(rrcComposeTagToAddModList(&context, &element.tag_ToAddModList, &cfg), VOS_ERROR);
+    EXPECT_EQ(printed(), "rrcComposeTagCfg_ToAdd is Error\r\n");
+    EXPECT_EQ(element.tag_ToAddModList.count, 0U) << "the node is not appended";
+    EXPECT_EQ(rrcComposeTag_Config(&context, &element, &cfg), VOS_OK);
+    EXPECT_EQ(printed(), "rrcComposeTagCfg_ToAdd is Error\r\n");
+    EXPECT_EQ(element.m.tag_ToAddModListPresent, 1U);
+}
