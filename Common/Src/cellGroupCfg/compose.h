@@ -78,7 +78,7 @@ template <typename Member, typename Value>
 void assign(Member& member, Value value)
 {
     static_assert(std::is_integral_v<Member> && (std::is_integral_v<Value> || std::is_enum_v<Value>));
-    member = static_cast<Member>(value);
+    member = static_cast<Member>(+value);
 }
 
 // A cleared element from the context's heap; null when the heap is exhausted.

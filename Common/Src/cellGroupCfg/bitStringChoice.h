@@ -1,0 +1,77 @@
+// Choices of bit strings of different lengths: a table with a row per alternative, read by one loop.
+#ifndef BITSTRINGCHOICE_H
+#define BITSTRINGCHOICE_H
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstring>
+#include <new>
+
+#include "bitString.h"
+#include "compose.h"
+
+namespace compose
+{
+
+// One alternative, filled from the octets of the record's union. With neither packer the octets are copied as they lie
+// in memory.
+struct BitStringRow
+{
+    OSUINT32 tag;
+    unsigned bits;
+    INT32 (*packBitStr)(ASN1BitStr32*, UINT32) = nullptr; // at most 32 bits: a bit string held by pointer
+    void (*packOctets)(UINT64, OSOCTET*) = nullptr;       // up to 64 bits, in the choice itself
+};
+
+// The low `bits` bits of the number that the union begins with.
+template <typename Union>
+UINT64 leadingBits(const Union& value, unsigned bits)
+{
+    static_assert(std::endian::native == std::endian::little);
+    UINT64 number = 0;
+    std::memcpy(&number, &value, std::min(std::size_t{bits + 7} / 8, sizeof number));
+    return number & (~UINT64{0} >> (64 - bits));
+}
+
+template <typename Choice, typename Union>
+void chooseBitString(OSCTXT* pAsnCxt, Choice* pChoice, const Union& value, const BitStringRow& row)
+{
+    if (row.packBitStr != nullptr)
+    {
+        ASN1BitStr32* pBitStr = nullptr;
+        chooseBits(pAsnCxt, pChoice, row.tag, pBitStr, row.packBitStr,
+                   static_cast<UINT32>(leadingBits(value, row.bits)));
+        new (&pChoice->u) ASN1BitStr32*(pBitStr);
+        return;
+    }
+    pChoice->t = row.tag;
+    if (row.packOctets != nullptr)
+    {
+        OSOCTET octets[sizeof(UINT64)];
+        row.packOctets(leadingBits(value, row.bits), octets);
+        std::memcpy(&pChoice->u, octets, (row.bits + 7) / 8);
+        return;
+    }
+    std::memcpy(&pChoice->u, &value, (row.bits + 7) / 8);
+}
+
+// Chooses the alternatives whose bits are set in `presence`, bit k being row k: the highest one stays. Bits above the
+// table mean nothing.
+template <typename Choice, typename Union, std::size_t N>
+void chooseBitStrings(OSCTXT* pAsnCxt, Choice* pChoice, UINT32 presence, const Union& value,
+                      const BitStringRow (&rows)[N])
+{
+    static_assert(N <= 32);
+    for (std::size_t i = 0; i < N; ++i)
+    {
+        if ((presence & (1U << i)) != 0)
+        {
+            chooseBitString(pAsnCxt, pChoice, value, rows[i]);
+        }
+    }
+}
+
+} // namespace compose
+
+#endif
