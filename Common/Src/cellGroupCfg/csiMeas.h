@@ -1,4 +1,4 @@
-// Composers of CSI-MeasConfig: its lists, its trigger state lists and the whole. They trust their pointers.
+// Composers of CSI-MeasConfig: its lists, its trigger states and the whole. They trust their pointers.
 #ifndef CSIMEAS_H
 #define CSIMEAS_H
 
@@ -35,10 +35,18 @@ INT32 rrcComposeAperiodicTriggerStateSetup(OSCTXT* pAsnCxt, OSRTDList* pSetup,
                                            RrcCsiAperiodicTriggerStateList_t* pRrcTriggerStateList);
 INT32 rrcComposeCsi_AperiodicTriggerState(OSCTXT* pAsnCxt, CSI_AperiodicTriggerState* pItem,
                                           RrcCsiAperiodicTriggerState_t* pRrcItem);
+INT32 rrcComposeCsi_AssociatedReportConfigInfo(OSCTXT* pAsnCxt, CSI_AssociatedReportConfigInfo* pItem,
+                                               RrcCsiAssociatedReportCfgInfo_t* pRrcItem);
+INT32 rrcComposeResourcesForChannel(OSCTXT* pAsnCxt,
+                                    CSI_AssociatedReportConfigInfo_resourcesForChannel* pResourcesForChannel,
+                                    RrcCsiAssociatedReportCfgInfo_t* pRrcItem);
+INT32 rrcComposeChannel_nzp_CSI_RS(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS* pNzp_CSI_RS,
+                                   struct nzpCsiRs_s* pRrcNzpCsiRs);
 INT32 rrcComposeTriggerStateList(OSCTXT* pAsnCxt,
                                  CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList* pTriggerStateList,
                                  RrcCsiSemiPersistentOnPuschTriggerStateList_t* pRrcTriggerStateList);
 INT32 rrcComposeTriggerStateListsetup(OSCTXT* pAsnCxt, OSRTDList* pSetup,
                                       RrcCsiSemiPersistentOnPuschTriggerStateList_t* pRrcTriggerStateList);
+INT32 rrcComposeTriggerState(CSI_SemiPersistentOnPUSCH_TriggerState* pItem, UINT8* pRrcCsiReportCfgId);
 
 #endif

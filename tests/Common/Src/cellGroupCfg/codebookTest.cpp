@@ -6,21 +6,9 @@
 #include <string>
 
 #include "TestPdus.h"
-#include "cellGroupCfg/codebookSubType.h"
 #include "support/ComposerTest.h"
-#include "support/FailingComposer.h"
 
-using test::FailingComposer;
 using test::HeapFault;
-
-FAILING_COMPOSER(
-    _Z31rrcComposeCodebookType1_subTypeP6OSCTXTP41CodebookConfig_codebookType_type1_subTypeP19CodebookType1_Sub_s,
-    (OSCTXT * pAsnCxt, CodebookConfig_codebookType_type1_subType* pSubType, CodebookType1_Sub_t* pRrcSubType),
-    (pAsnCxt, pSubType, pRrcSubType))
-FAILING_COMPOSER(_Z23rrcComposeType2_subTypeP6OSCTXTP41CodebookConfig_codebookType_type2_subTypeP19Codebooktype2_Sub_s,
-                 (OSCTXT * pAsnCxt, CodebookConfig_codebookType_type2_subType* pSubType,
-                  Codebooktype2_Sub_t* pRrcSubType),
-                 (pAsnCxt, pSubType, pRrcSubType))
 
 namespace
 {
@@ -492,40 +480,6 @@ TEST_F(codebook, HighestTypeWins)
     expectCodebook(record, type2Json(portSelectionJson("")));
     record.Presence = 0xFC;
     expectRefused(record, ": tag 0 is not in 1..2");
-}
-
-TEST_F(codebook, SubTypeThatFailsStopsItsType)
-{
-    {
-        const FailingComposer failing("_Z31rrcComposeCodebookType1_subTypeP6OSCTXTP41CodebookConfig_codebookType_type1_"
-                                      "subTypeP19CodebookType1_Sub_s");
-        RrcCodebookCfg_t record = singlePanel();
-        CodebookConfig_codebookType_type1 element{};
-        EXPECT_EQ(rrcComposeCodebookType1(&context, &element, &record.CodeBookCfgType_u.codeBookType1), VOS_ERROR);
-        EXPECT_EQ(printed(), "rrcComposeCodebookType1_subType Error\r\n");
-        EXPECT_EQ(element.codebookMode, 0);
-        // The composer above does not look.
-        CodebookConfig whole{};
-        EXPECT_EQ(rrcComposeCodebookConfig(&context, &whole, &record), VOS_OK);
-        EXPECT_EQ(printed(), "rrcComposeCodebookType1_subType Error\r\n");
-    }
-    const FailingComposer failing(
-        "_Z23rrcComposeType2_subTypeP6OSCTXTP41CodebookConfig_codebookType_type2_subTypeP19Codebooktype2_Sub_s");
-    RrcCodebookCfg_t record = portSelection(0);
-    CodeBookType2_t& type2 = record.CodeBookCfgType_u.codeBookType2;
-    type2.bitMask = 0xFF;
-    type2.numberOfBeams = 2;
-    CodebookConfig_codebookType_type2 element{};
-    EXPECT_EQ(rrcComposeCodebookType2(&context, &element, &type2), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposeType2_subType Error\r\n");
-    EXPECT_EQ(element.numberOfBeams, 0U);
-    CodebookConfig whole{};
-    EXPECT_EQ(rrcComposeCodebookConfig(&context, &whole, &record), VOS_OK);
-    EXPECT_EQ(printed(), "rrcComposeType2_subType Error\r\n");
-    // Without its bit it is not called.
-    type2.bitMask = 0xFE;
-    EXPECT_EQ(rrcComposeCodebookType2(&context, &element, &type2), VOS_OK);
-    EXPECT_EQ(element.numberOfBeams, 2U);
 }
 
 TEST_F(codebook, EachAllocationThatFailsLeavesItsChoiceOpen)

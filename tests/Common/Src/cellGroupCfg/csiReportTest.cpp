@@ -5,21 +5,12 @@
 #include <string>
 
 #include "TestPdus.h"
-#include "cellGroupCfg/csiReportTypes.h"
 #include "csiRecords.h"
 #include "support/ComposerTest.h"
-#include "support/FailingComposer.h"
 
-using test::FailingComposer;
 using test::HeapFault;
 using test::jsonArray;
 using test::ReportJson;
-
-FAILING_COMPOSER(_Z28rrcComposePUCCH_CSI_ResourceP18PUCCH_CSI_ResourceP18pucchCsiResource_s,
-                 (PUCCH_CSI_Resource * pItem, PucchCsiResource_t* pRrcItem), (pItem, pRrcItem))
-FAILING_COMPOSER(_Z28rrcComposePortIndexFor8RanksP6OSCTXTP18PortIndexFor8RanksP23rrcPortIndexFor8Ranks_s,
-                 (OSCTXT * pAsnCxt, PortIndexFor8Ranks* pItem, RrcPortIndexFor8Ranks_t* pRrcItem),
-                 (pAsnCxt, pItem, pRrcItem))
 
 namespace
 {
@@ -350,24 +341,6 @@ TEST_F(csiReport, PucchListsStopAtTheFirstNodeThatIsMissing)
             }
         }
     }
-}
-
-TEST_F(csiReport, PucchListsStopAtAnElementThatFails)
-{
-    Periodic_t periodic = {{1, 0}, 2, {}};
-    SemiPersistentOnPucch_t semiPersistent = {{1, 0}, 2, {}};
-    OSRTDList lists[2]{};
-    const FailingComposer failing("_Z28rrcComposePUCCH_CSI_ResourceP18PUCCH_CSI_ResourceP18pucchCsiResource_s");
-    EXPECT_EQ(rrcComposepucch_CSI_ResourceList(&context, &lists[0], &periodic), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposePUCCH_CSI_Resource is Error\r\n");
-    EXPECT_EQ(rrcComposeSemiPerpucch_CSI_ResourceList(&context, &lists[1], &semiPersistent), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposePUCCH_CSI_Resource is Error\r\n");
-    EXPECT_EQ(lists[0].count + lists[1].count, 0U);
-    // The branches over them do not look.
-    CSI_ReportConfig_reportConfigType_periodic branch{};
-    EXPECT_EQ(rrcComposeReportConfigType_periodic(&context, &branch, &periodic), VOS_OK);
-    CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH other{};
-    EXPECT_EQ(rrcComposeSemiPersistentOnPUCCH(&context, &other, &semiPersistent), VOS_OK);
 }
 
 // Report quantity
@@ -771,17 +744,6 @@ TEST_F(csiReport, NonPmiPortIndicationStopsAtTheFirstNodeThatIsMissing)
         EXPECT_EQ(printed(), successes < 3 ? noNode : "");
         EXPECT_EQ(list.count, successes);
     }
-}
-
-TEST_F(csiReport, NonPmiPortIndicationStopsAtAnElementThatFails)
-{
-    record->RRCPortIndexFor8Ranks.numPortIndexFor8Ranks = 2;
-    const FailingComposer failing(
-        "_Z28rrcComposePortIndexFor8RanksP6OSCTXTP18PortIndexFor8RanksP23rrcPortIndexFor8Ranks_s");
-    OSRTDList list{};
-    EXPECT_EQ(rrcComposeNon_PMI_PortIndicat(&context, &list, &record->RRCPortIndexFor8Ranks), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposePortIndexFor8Ranks is Error\r\n");
-    EXPECT_EQ(list.count, 0U);
 }
 
 // A whole report with the n-th request refused
