@@ -6,8 +6,8 @@
 namespace
 {
 
-// Standard output is captured while a test runs, so what failed is told on standard error.
-class FailuresToStderr : public testing::EmptyTestEventListener
+// Standard output is captured while a test runs: GoogleTest's own printer would add its failures to what is compared.
+class ReportOnStderr : public testing::EmptyTestEventListener
 {
     void OnTestPartResult(const testing::TestPartResult& result) override
     {
@@ -19,11 +19,18 @@ class FailuresToStderr : public testing::EmptyTestEventListener
                          info != nullptr ? info->name() : "", result.message());
         }
     }
+
+    void OnTestProgramEnd(const testing::UnitTest& tests) override
+    {
+        std::fprintf(stderr, "%d tests passed, %d failed\n", tests.successful_test_count(), tests.failed_test_count());
+    }
 };
 
-[[maybe_unused]] const bool listening = []
+[[maybe_unused]] const bool reporting = []
 {
-    testing::UnitTest::GetInstance()->listeners().Append(new FailuresToStderr);
+    testing::TestEventListeners& listeners = testing::UnitTest::GetInstance()->listeners();
+    delete listeners.Release(listeners.default_result_printer());
+    listeners.Append(new ReportOnStderr);
     return true;
 }();
 
