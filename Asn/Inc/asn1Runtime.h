@@ -138,8 +138,8 @@ int rtxMemHeapOwns(const OSCTXT* pctxt, const void* p, size_t size);
 void rtxDListAppendNode(OSRTDList* pList, OSRTDListNode* pNode);
 
 // Binds the caller's buffer: the encoder writes at most `capacity` octets to it, the decoder reads exactly `capacity`
-// octets from it. `aligned` must be 0. Returns 0 or RTX_E_NULL, RTX_E_ALIGNED; the encoder and the decoder refuse to run
-// on a buffer that was refused here.
+// octets from it. `aligned` must be 0. Returns 0 or RTX_E_NULL, RTX_E_ALIGNED; the encoder and the decoder refuse to
+// run on a buffer that was refused here.
 int pu_setBuffer(OSCTXT* pctxt, OSOCTET* buf, size_t capacity, OSBOOL aligned);
 
 // Length in octets of the last message that was encoded without error.
@@ -149,7 +149,8 @@ size_t pu_getMsgLen(const OSCTXT* pctxt);
 // the whole line; empty without an error.
 size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size);
 
-// Prints the context's error as one line with VOS_Printf: path, value and the bound it breaks. Nothing without an error.
+// Prints the context's error as one line with VOS_Printf: path, value and the bound it breaks. Nothing without an
+// error.
 void rtxErrPrint(const OSCTXT* pctxt);
 
 // Forgets the context's error.

@@ -251,8 +251,8 @@ typedef struct nrRachCfgCommon_s
     UINT8 ssbPerRachOccasion;          /**< ssb-perRACH-OccasionAndCB-PreamblesPerSSB, tag: 1 oneEighth .. 8 sixteen */
     UINT8 cbPreamblesPerSsb;           /**< its value: tags 1..4 enumeration n4.. (0..15), 5 enumeration n4.. (0..7),
                                             6 1..16, 7 1..8, 8 1..4 */
-    UINT8 raMsg3SizeGroupA;            /**< groupBconfigured.ra-Msg3SizeGroupA, enumeration b56.. (0..9, spare up to 15) */
-    UINT8 messagePowerOffsetGroupB;    /**< groupBconfigured.messagePowerOffsetGroupB, enumeration (0..7) */
+    UINT8 raMsg3SizeGroupA;         /**< groupBconfigured.ra-Msg3SizeGroupA, enumeration b56.. (0..9, spare up to 15) */
+    UINT8 messagePowerOffsetGroupB; /**< groupBconfigured.messagePowerOffsetGroupB, enumeration (0..7) */
     UINT8 numberOfRaPreamblesGroupA;   /**< groupBconfigured.numberOfRA-PreamblesGroupA, 1..64 */
     UINT8 raContentionResolutionTimer; /**< ra-ContentionResolutionTimer, enumeration sf8.. (0..7) */
     UINT8 rsrpThresholdSsb;            /**< rsrp-ThresholdSSB, 0..127 */
