@@ -22,8 +22,7 @@ template <typename Choice, typename Record>
 INT32 setup(OSCTXT* pAsnCxt, Choice* pChoice, Record* pRecord,
             INT32 (*composer)(OSCTXT*, std::remove_pointer_t<decltype(pChoice->u.setup)>*, Record*))
 {
-    constexpr OSUINT32 setupTag = 2;
-    auto* const pSetup = compose::choose(pAsnCxt, pChoice, setupTag, pChoice->u.setup);
+    auto* const pSetup = compose::choose(pAsnCxt, pChoice, compose::setupTag, pChoice->u.setup);
     if (pSetup == nullptr || composer(pAsnCxt, pSetup, pRecord) != VOS_OK)
     {
         pChoice->t = 0;
