@@ -132,7 +132,7 @@ TEST_F(randomRecords, WholeCellGroup)
     {
         SCOPED_TRACE(seed);
         std::mt19937 chance(seed);
-        fillRandomly(*record, chance, 64 << seed % 6);
+        fillRandomly(*record, chance, 64U << seed % 6);
         octets.back() = 0xA5;
         Mbuf_t message = {0xFFFFFFFF, octets.data()};
         const INT32 result = rrcComposeCellGroupCfg(record.get(), &message);
