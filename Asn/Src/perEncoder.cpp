@@ -43,17 +43,7 @@ void moveUp(OSOCTET* data, uint64_t from, uint64_t octets, uint64_t by)
 
 Bits Encoder::put(Bits b, uint64_t v, unsigned n) const
 {
-    const auto used = static_cast<unsigned>(b.pos % 64);
-    b.pos += n;
-    if (used + n < 64)
-    {
-        b.word = b.word << n | v;
-        return b;
-    }
-    const unsigned rest = used + n - 64;
-    store(b.pos / 64 - 1, b.word << (n - rest) | v >> rest);
-    b.word = v;
-    return b;
+    return append(b, v, n);
 }
 
 // X.691 11.6
@@ -323,22 +313,25 @@ Bits Encoder::node(const OSRTDList& list, uint32_t index, const OSRTDListNode* n
     return result;
 }
 
-Bits Encoder::in(Bits b, const char* member)
+// What did not fit has no error of its own yet.
+void Encoder::noteOverflow(Bits b)
 {
     if (b.pos != failed.pos)
     {
         error(RTX_E_OVERFLOW, static_cast<int64_t>(limit_ / 8), 0, 0);
     }
+}
+
+Bits Encoder::in(Bits b, const char* member)
+{
+    noteOverflow(b);
     pushName(ctxt_, member);
     return failed;
 }
 
 Bits Encoder::at(Bits b, uint32_t index)
 {
-    if (b.pos != failed.pos)
-    {
-        error(RTX_E_OVERFLOW, static_cast<int64_t>(limit_ / 8), 0, 0);
-    }
+    noteOverflow(b);
     pushIndex(ctxt_, index);
     return failed;
 }

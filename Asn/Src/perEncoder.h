@@ -61,17 +61,7 @@ public:
     Bits put(Bits b, uint64_t v) const
     {
         static_assert(N >= 1 && N <= 63);
-        const auto used = static_cast<unsigned>(b.pos % 64);
-        b.pos += N;
-        if (used + N < 64)
-        {
-            b.word = b.word << N | v;
-            return b;
-        }
-        const unsigned rest = used + N - 64;
-        store(b.pos / 64 - 1, b.word << (N - rest) | v >> rest);
-        b.word = v;
-        return b;
+        return append(b, v, N);
     }
 
     // Appends n bits, 1..63.
@@ -201,6 +191,22 @@ private:
         return __builtin_bswap32(v);
     }
 
+    // Always inline, so that a constant width is folded.
+    [[gnu::always_inline]] Bits append(Bits b, uint64_t v, unsigned n) const
+    {
+        const auto used = static_cast<unsigned>(b.pos % 64);
+        b.pos += n;
+        if (used + n < 64)
+        {
+            b.word = b.word << n | v;
+            return b;
+        }
+        const unsigned rest = used + n - 64;
+        store(b.pos / 64 - 1, b.word << (n - rest) | v >> rest);
+        b.word = v;
+        return b;
+    }
+
     void store(uint64_t index, uint64_t word) const
     {
         if (index < words_)
@@ -213,6 +219,7 @@ private:
     static int ready(OSCTXT& ctxt, const char* name, const void* value);
     int finish(Bits b, const char* name);
     Bits error(RtxStatus status, int64_t value, int64_t lower, int64_t upper);
+    void noteOverflow(Bits b);
     Bits length(Bits b, uint64_t octets) const;
     Bits content(Bits b, const OSOCTET* p, uint64_t octets) const;
     Bits unknownAddition(RtxStatus status, uint32_t index);
