@@ -4,6 +4,7 @@
 #include "macCellGroup.h"
 #include "physicalCellGroup.h"
 #include "rlcBearer.h"
+#include "sCell.h"
 #include "spCell.h"
 
 namespace
@@ -52,16 +53,18 @@ INT32 composeCellGroup(OSCTXT* pAsnCxt, CellGroupConfig* pCellGroupConfig, RrcCe
             rrcComposeSP_CellGroupCfg(pAsnCxt, &pCellGroupConfig->spCellConfig, &pRrcCellGroupCfg->spCellCfg),
             "rrcComposeSP_CellGroupCfg Error\r\n");
     }
-    // Secondary cells have no composer: whoever asks for them gets an error, not a message without them.
     if (pRrcCellGroupCfg->sCellAddModNum != 0)
     {
-        VOS_Printf("rrcComposeCellGroupCfg_sCellToAddMod Error\r\n");
-        return VOS_ERROR;
+        pCellGroupConfig->m.sCellToAddModListPresent = 1;
+        RETURN_IF_FAILED(
+            rrcComposeCellGroupCfg_sCellToAddMod(pAsnCxt, &pCellGroupConfig->sCellToAddModList, pRrcCellGroupCfg),
+            "rrcComposeCellGroupCfg_sCellToAddMod Error\r\n");
     }
     if (pRrcCellGroupCfg->sCellReleaseNum != 0)
     {
-        VOS_Printf("rrcComposeCellGroupCfg_sCellToRel Error\r\n");
-        return VOS_ERROR;
+        pCellGroupConfig->m.sCellToReleaseListPresent = 1;
+        RETURN_IF_FAILED(rrcComposeCellGroupCfg_sCellToRel(&pCellGroupConfig->sCellToReleaseList, pRrcCellGroupCfg),
+                         "rrcComposeCellGroupCfg_sCellToRel Error\r\n");
     }
     // In the tree only: its extension group is never announced.
     COPY_IF(pRrcCellGroupCfg->bitMask & RRC_CELLGROUPCFG_REPORT_PRESENCE, pCellGroupConfig,

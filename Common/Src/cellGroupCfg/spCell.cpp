@@ -2,6 +2,7 @@
 
 #include "compose.h"
 #include "rachDedicated.h"
+#include "servingCell.h"
 #include "servingCellCommon.h"
 
 // CellGroupConfig.spCellConfig
@@ -31,9 +32,9 @@ INT32 rrcComposeSP_CellGroupCfg(OSCTXT* PAsnCxt, SpCellConfig* pSpCellConfig, Rr
     if (pRrcSpCellCfg->bitMask & RRC_SPCELLCFG_DEDICFG_PRESENCE)
     {
         pSpCellConfig->m.spCellConfigDedicatedPresent = 1;
-        // The dedicated configuration has no composer: whoever asks for it gets an error, not a message without it.
-        VOS_Printf("rrcComposespCellConfigDedicated Error\r\n");
-        return VOS_ERROR;
+        RETURN_IF_FAILED(rrcComposespCellConfigDedicated(PAsnCxt, &pSpCellConfig->spCellConfigDedicated,
+                                                         &pRrcSpCellCfg->spCellDedicated),
+                         "rrcComposespCellConfigDedicated Error\r\n");
     }
     return VOS_OK;
 }
