@@ -15,6 +15,8 @@ run("reencode", [], Model) ->
     each_line(fun reencode/2, Model);
 run("show", [], Model) ->
     each_line(fun(Type, Octets) -> show(Type, Octets, Model) end, Model);
+run("read", [], Model) ->
+    each_line(fun(Type, Octets) -> read(Type, Octets, Model) end, Model);
 run("generate", [Type, Count, Seed], Model) ->
     generate(Type, Count, Seed, all, Model);
 run("sample", [Type, Count, Seed], Model) ->
@@ -75,6 +77,16 @@ show(Type, Octets, Model) ->
         Error -> Error
     end.
 
+%% The octets that the value has again, and the value with numbers for enumerations.
+read(Type, Octets, Model) ->
+    case decode(Type, Octets) of
+        {ok, Value, Again} -> {ok, [hex(Again), $\s, json({ref, Type}, Value, numbered(Model))]};
+        Error -> Error
+    end.
+
+numbered(Model) ->
+    Model#{enumerations => numbers}.
+
 %% asn1ct's decoder lets an integer outside its range pass, its encoder does not: a value counts as decoded only when
 %% it can be encoded again.
 decode(Type, Octets) ->
@@ -112,6 +124,8 @@ json({choice, _, Alternatives, _}, {Name, Value}, Model) ->
     [${, quoted(Name), $:, json(Type, Value, Model), $}];
 json({list, _, _, _, Element}, Values, Model) ->
     [$[, lists:join($,, [json(Element, Value, Model) || Value <- Values]), $]];
+json({enumerated, _, Values}, Value, #{enumerations := numbers}) ->
+    integer_to_list(length(lists:takewhile(fun(Other) -> Other =/= Value end, Values)));
 json({enumerated, _, _}, Value, _) ->
     quoted(Value);
 json({integer, _, _, _}, Value, _) ->

@@ -1,0 +1,159 @@
+// cellGroups kept|dropped COUNT SEED: composes COUNT random cell groups through the entry and prints, for each that is
+// composed, a line with its seed, its octets in hex and the value that it was meant to be.
+//
+// kept: every field in its range; each cell group has to be composed, and everything that a record can hold has to
+// occur. dropped: fields hold anything, counts stay within their arrays; a cell group is composed, or it is refused
+// with lines that say why.
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "records.h"
+#include "vos_lib.h"
+
+namespace
+{
+
+constexpr std::size_t bufferSize = 8192;
+constexpr UINT32 untouched = 0xA5A5A5A5;
+
+// The beginning of what has been printed: the lines that matter come before the element tree.
+std::string console;
+constexpr std::size_t consoleSize = 4096;
+
+[[noreturn]] void fail(std::uint32_t seed, const char* what)
+{
+    std::fprintf(stderr, "cell group %u: %s\n%s\n", seed, what, console.substr(0, console.find("CELL GROUP")).c_str());
+    std::exit(1);
+}
+
+// A composer that failed is named, up to the entry. A refusal names path, value and bound before the element tree.
+bool isClear()
+{
+    const std::string refused = "rrcComposeCellGroupCfg Error\r\n";
+    const std::size_t entry = console.find(refused);
+    if (entry == std::string::npos)
+    {
+        const std::string end = " Error\r\n";
+        return console.size() > end.size() && console.compare(console.size() - end.size(), end.size(), end) == 0;
+    }
+    const std::size_t line = entry + refused.size();
+    const std::size_t end = console.find('\n', line);
+    const std::size_t reason = console.find(": ", line);
+    return console.compare(line, 16, "CellGroupConfig.") == 0 && reason < end &&
+           console.compare(end + 1, 10, "CELL GROUP") == 0;
+}
+
+void print(std::uint32_t seed, const UINT8* octets, UINT32 length, const std::string& meaning)
+{
+    std::string hex;
+    for (UINT32 i = 0; i < length; ++i)
+    {
+        constexpr const char* digits = "0123456789abcdef";
+        hex += digits[octets[i] >> 4];
+        hex += digits[octets[i] & 15];
+    }
+    std::printf("%u %s %s\n", seed, hex.c_str(), meaning.c_str());
+}
+
+} // namespace
+
+// Stands in place of the platform's.
+INT32 VOS_Printf(const char* format, ...)
+{
+    char text[1024];
+    va_list args;
+    va_start(args, format);
+    const int length = std::vsnprintf(text, sizeof text, format, args);
+    va_end(args);
+    if (console.size() < consoleSize)
+    {
+        console += text;
+    }
+    return length;
+}
+
+int main(int argc, char** argv)
+{
+    using Ranges = records::Chance::Ranges;
+    if (argc != 4 || (std::strcmp(argv[1], "kept") != 0 && std::strcmp(argv[1], "dropped") != 0))
+    {
+        std::fprintf(stderr, "usage: %s kept|dropped COUNT SEED\n", argv[0]);
+        return 2;
+    }
+    const bool kept = std::strcmp(argv[1], "kept") == 0;
+    const auto count = static_cast<std::uint32_t>(std::strtoul(argv[2], nullptr, 10));
+    const auto first = static_cast<std::uint32_t>(std::strtoul(argv[3], nullptr, 10));
+
+    // What a record holds at first, and what earlier cell groups have left, must not matter.
+    const auto record = std::make_unique<RrcCellGroupCfg_t>();
+    std::mt19937 dirt(first);
+    auto* const memory = reinterpret_cast<std::uint32_t*>(record.get());
+    for (std::size_t i = 0; i < sizeof *record / sizeof *memory; ++i)
+    {
+        memory[i] = static_cast<std::uint32_t>(dirt());
+    }
+    std::vector<UINT8> octets(bufferSize + 1);
+    records::Chance chance(kept ? Ranges::kept : Ranges::dropped);
+    std::uint32_t composed = 0;
+    std::uint64_t total = 0;
+    UINT32 largest = 0;
+    for (std::uint32_t seed = first; seed != first + count; ++seed)
+    {
+        chance.start(seed);
+        records::draw(chance, *record);
+        const std::string meaning = records::meant(*record);
+        console.clear();
+        octets.back() = 0xA5;
+        Mbuf_t message = {untouched, octets.data()};
+        const INT32 result = rrcComposeCellGroupCfg(record.get(), &message);
+        if (octets.back() != 0xA5)
+        {
+            fail(seed, "wrote behind the buffer");
+        }
+        if (result == VOS_OK)
+        {
+            if (message.bufLen == 0 || message.bufLen > bufferSize || !console.empty())
+            {
+                fail(seed, "composed, but not silently or with a length that cannot be");
+            }
+            print(seed, octets.data(), message.bufLen, meaning);
+            ++composed;
+            total += message.bufLen;
+            largest = std::max(largest, message.bufLen);
+        }
+        else if (kept)
+        {
+            fail(seed, "not composed");
+        }
+        else if (result != VOS_ERROR || message.bufLen != untouched || !isClear())
+        {
+            fail(seed, "not refused clearly");
+        }
+    }
+    std::fprintf(stderr, "%u of %u cell groups composed, %llu octets, the largest %u\n", composed, count,
+                 static_cast<unsigned long long>(total), largest);
+    if (composed == 0 || (!kept && composed == count))
+    {
+        std::fprintf(stderr, "they prove nothing\n");
+        return 1;
+    }
+    if (kept)
+    {
+        const std::vector<std::string> missing = chance.missing();
+        std::fprintf(stderr, "%zu of %zu cases occurred\n", chance.cases() - missing.size(), chance.cases());
+        for (const std::string& line : missing)
+        {
+            std::fprintf(stderr, "never occurred: %s\n", line.c_str());
+        }
+        // Fewer cell groups are drawn where the same has been proved before.
+        return missing.empty() || count < 10000 ? 0 : 1;
+    }
+    return 0;
+}
