@@ -1,18 +1,18 @@
 #ifndef ONEBEARER_H
 #define ONEBEARER_H
 
-#include <cstring>
-
-#include "rrcCodec/rrcCodec.h"
+#include "rrcCodec/rrcInit.h"
 
 // One data radio bearer in acknowledged mode with its logical channel, the MAC cell group and the physical cell group.
-// The record comes cleared; at ten megabytes it belongs on the heap.
+// The record may come as it is, with anything in its memory; at ten megabytes it belongs on the heap.
 inline void oneBearer(RrcCellGroupCfg_t& record)
 {
+    rrcInit(&record);
     record.cellGroupId = 0;
 
     record.rlcBearerAddModNum = 1;
     RrcRlcBearerCfg_t& bearer = record.rlcBearerCfg[0];
+    rrcInit(&bearer);
     bearer.lchId = 4;
     bearer.bitMask = RRC_RLCBEARERCFG_RBTYPE_PRESENCE | RRC_RLCBEARERCFG_RLC_PRESENCE | RRC_RLCBEARERCFG_LCH_PRESENCE;
     bearer.rbType = RRC_DRB;
@@ -42,6 +42,7 @@ inline void oneBearer(RrcCellGroupCfg_t& record)
     record.bitMask = RRC_CELLGROUPCFG_MAC_PRESENCE | RRC_CELLGROUPCFG_PHY_PRESENCE;
 
     RrcMacCellGrpCfg_t& mac = record.macCellGrpCfg;
+    rrcInit(&mac);
     mac.skipUpTxDynamic = 0;
     mac.bitMask = RRC_MAC_CELL_GRP_CFG_DRX_PRESENCE | RRC_MAC_CELL_GRP_CFG_SR_PRESENCE |
                   RRC_MAC_CELL_GRP_CFG_BSR_PRESENCE | RRC_MAC_CELL_GRP_CFG_TAG_PRESENCE |
@@ -75,6 +76,7 @@ inline void oneBearer(RrcCellGroupCfg_t& record)
     mac.phrCfg.phrModeOtherCG = 0;         // real
 
     RrcPhyCellGrpCfg_t& phy = record.phyCellGrpCfg;
+    rrcInit(&phy);
     phy.pdschHarqAckCodeBook = 1; // dynamic
     phy.bitMask = RRC_PHY_CGC_NR_PMAX_PRESENCE;
     phy.pNrFR1Pmax = 23; // dBm

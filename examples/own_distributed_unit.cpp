@@ -69,7 +69,7 @@ INT32 duComposeTDD_UL_DL_ConfigCommon(OSCTXT* /*pAsnCxt*/, TDD_UL_DL_ConfigCommo
 
 int main()
 {
-    const auto record = std::make_unique<RrcCellGroupCfg_t>();
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
     reconfigurationWithSync(*record);
     return showCellGroup(*record);
 }

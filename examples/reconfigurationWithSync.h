@@ -13,6 +13,7 @@ inline void handoverCarrier(SpecificCarrier_t& carrier)
 
 inline void handoverDownlink(RrcDlCfgComm_t& downlink)
 {
+    rrcInit(&downlink);
     downlink.bitMask = RRC_DLCFGCOMM_FREQ_DL_PRESENCE | RRC_DLCFGCOMM_INIT_DL_BWP_PRESENCE;
     RrcFreqInfoDl_t& frequency = downlink.freqInfoDl;
     frequency.bitMask = FREQ_INFO_DL_ABS_FREQ_SSB;
@@ -59,6 +60,7 @@ inline void handoverDownlink(RrcDlCfgComm_t& downlink)
 
 inline void handoverUplink(RrcUlCfgComm_t& uplink)
 {
+    rrcInit(&uplink);
     uplink.bitMask = RRC_FREQ_INFO_UL_PRESENCE | RRC_BWP_UPLINK_PRESENCE;
     RrcFreqInfoUl_t& frequency = uplink.freqInfoUl;
     frequency.multiBandNum = 1;
@@ -111,6 +113,7 @@ inline void handoverUplink(RrcUlCfgComm_t& uplink)
 
 inline void handoverCell(RrcServingCellCfgCommon_t& cell)
 {
+    rrcInit(&cell);
     cell.bitMask = RRC_PHY_SCELL_Id | RRC_DOWNLINK_CFG_COMMON | RRC_UPLINK_CFG_COMMON | RRC_TIMING_ADVANCE_OFFSET |
                    RRC_SSB_POSITION_IN_BURST | RRC_SSB_PERIOD_CITY_SERVING_CELL | RRC_SUB_CARRIER_SPACING |
                    RRC_TDD_UL_DL_CFG_COMMON;
@@ -143,8 +146,10 @@ inline void reconfigurationWithSync(RrcCellGroupCfg_t& record)
     record.bitMask |= RRC_CELLGROUPCFG_SPCELL_PRESENCE;
 
     RrcSpCellCfg_t& spCell = record.spCellCfg;
+    rrcInit(&spCell);
     spCell.bitMask = RRC_SPCELLCFG_RECFG_PRESENCE | RRC_SPCELLCFG_RLFTIMER_PRESENCE;
     RrcReconfWithSync_t& sync = spCell.recfgWithSync;
+    rrcInit(&sync);
     sync.newUEId = 0x4601;
     sync.t304 = 5; // ms1000
     sync.bitMask = RRC_RACH_CFG_DEDI_PRESENCE | RRC_SERVING_CELL_CFG_COMMON_PRESENCE | RRC_SSBMTC_PRESENCE;
@@ -154,8 +159,10 @@ inline void reconfigurationWithSync(RrcCellGroupCfg_t& record)
     sync.smtc.duration = 1; // sf2
 
     sync.rachCfgBitMask = RRC_RACH_CFG_UPLINK_PRESENCE;
+    rrcInit(&sync.choice.uplink);
     sync.choice.uplink.bitMask = RRC_RACH_CFG_DEDI_CFRA_PRESENCE;
     RrcCfra_t& cfra = sync.choice.uplink.cfra;
+    rrcInit(&cfra);
     cfra.bitMask = RRC_SSB | RRC_CFRA_OCCASIONS_PRESENCE;
     RrcRachCfgGeneric_t& occasions = cfra.occasions.rachCfgGen;
     occasions.prachCfgIdx = 159;
@@ -168,6 +175,7 @@ inline void reconfigurationWithSync(RrcCellGroupCfg_t& record)
     occasions.raRspWindow = 5;      // sl20
     cfra.occasions.bitMask = RRC_OCCASION_SSB_PER_RACH_PRESENCE;
     cfra.occasions.ssbPerRachOccasion = 3; // one
+    rrcInit(&cfra.resources.ssb);
     cfra.resources.ssb.numSsbResources = 2;
     cfra.resources.ssb.ssbResource[0] = {0, 60};
     cfra.resources.ssb.ssbResource[1] = {1, 61};

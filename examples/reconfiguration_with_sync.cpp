@@ -8,7 +8,7 @@
 
 int main()
 {
-    const auto record = std::make_unique<RrcCellGroupCfg_t>();
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
     reconfigurationWithSync(*record);
     return showCellGroup(*record);
 }
