@@ -128,8 +128,9 @@ std::vector<std::string> Chance::missing() const
         {
             if (!occurred)
             {
-                lines.push_back(place.first + ":" + std::to_string(std::abs(place.second)) + ": " +
-                                std::to_string(value));
+                constexpr const char* kinds[] = {"number", "present", "alternative", "count"};
+                lines.push_back(std::get<0>(place) + ":" + std::to_string(std::get<1>(place)) + ": " +
+                                kinds[static_cast<int>(std::get<2>(place))] + " " + std::to_string(value));
             }
         }
     }

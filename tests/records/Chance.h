@@ -10,6 +10,7 @@
 #include <map>
 #include <random>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -45,7 +46,8 @@ public:
     void number(Field& field, std::int64_t lower, std::int64_t upper, const char* file = __builtin_FILE(),
                 int line = __builtin_LINE())
     {
-        field = wild() ? static_cast<Field>(any()) : static_cast<Field>(between(lower, upper, {file, line}));
+        field =
+            wild() ? static_cast<Field>(any()) : static_cast<Field>(between(lower, upper, {file, line, Kind::number}));
     }
 
     // A bit string or number of a bit field, which no reference can name.
@@ -105,7 +107,7 @@ public:
     template <typename Mask>
     bool flag(Mask& mask, unsigned bit, const char* file = __builtin_FILE(), int line = __builtin_LINE())
     {
-        const bool on = decide({file, line});
+        const bool on = decide({file, line, Kind::present});
         if (on)
         {
             mask = static_cast<Mask>(mask | bit);
@@ -118,7 +120,7 @@ public:
     unsigned alternative(Mask& mask, std::initializer_list<unsigned> bits, const char* file = __builtin_FILE(),
                          int line = __builtin_LINE())
     {
-        const unsigned chosen = pick(static_cast<unsigned>(bits.size()), {file, line});
+        const unsigned chosen = pick(static_cast<unsigned>(bits.size()), {file, line, Kind::one});
         for (unsigned i = 0; i < bits.size(); ++i)
         {
             const bool alsoSet = i < chosen && oneIn(8);
@@ -130,10 +132,30 @@ public:
         return chosen;
     }
 
+    // A choice's alternative, one of `count`, whose number from 1 is in a field. Returns its place, from 0.
+    template <typename Field>
+    unsigned tag(Field& field, unsigned count, const char* file = __builtin_FILE(), int line = __builtin_LINE())
+    {
+        const unsigned chosen = pick(count, {file, line, Kind::one});
+        field = static_cast<Field>(wild() ? any() : chosen + 1);
+        return chosen;
+    }
+
+    // Half of the time: anything in the bits of a field above the lower ones, where those alone are sent.
+    template <typename Field>
+    void above(Field& field, unsigned lower, const char* file = __builtin_FILE(), int line = __builtin_LINE())
+    {
+        if (pick(2, {file, line, Kind::one}) == 1)
+        {
+            const std::uint64_t low = static_cast<std::uint64_t>(field) & ((std::uint64_t{1} << lower) - 1);
+            field = static_cast<Field>(any() << lower | low);
+        }
+    }
+
     // One of `count`, counted from 0.
     unsigned oneOf(unsigned count, const char* file = __builtin_FILE(), int line = __builtin_LINE())
     {
-        return pick(count, {file, line});
+        return pick(count, {file, line, Kind::one});
     }
 
     // The entries used of an array of `upper`, each of which takes at least so many bits of the message.
@@ -141,8 +163,8 @@ public:
     unsigned count(Count& field, unsigned lower, unsigned upper, unsigned bitsEach, const char* file = __builtin_FILE(),
                    int line = __builtin_LINE())
     {
-        const unsigned entries =
-            wild() ? static_cast<unsigned>(any() % (upper + 1U)) : length(lower, upper, bitsEach, {file, line});
+        const unsigned entries = wild() ? static_cast<unsigned>(any() % (upper + 1U))
+                                        : length(lower, upper, bitsEach, {file, line, Kind::count});
         field = static_cast<Count>(entries);
         return entries;
     }
@@ -153,7 +175,7 @@ public:
                            int line = __builtin_LINE())
     {
         field = 0;
-        return decide({file, -line}) ? count(field, 1, upper, bitsEach, file, line) : 0;
+        return decide({file, line, Kind::present}) ? count(field, 1, upper, bitsEach, file, line) : 0;
     }
 
     // Takes the steps in an order of chance, so that none is always the one for which nothing is left.
@@ -174,7 +196,14 @@ public:
     std::size_t cases() const;
 
 private:
-    using Place = std::pair<std::string, int>;
+    enum class Kind
+    {
+        number,
+        present,
+        one,
+        count
+    };
+    using Place = std::tuple<std::string, int, Kind>;
     using Cases = std::map<std::int64_t, bool>; // whether each has occurred
 
     Cases& casesOf(const Place& place, std::initializer_list<std::int64_t> all);

@@ -4,6 +4,7 @@
 #ifndef MEANING_H
 #define MEANING_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -116,11 +117,18 @@ std::string list(unsigned count, Item item)
     return "[" + text + "]";
 }
 
-// SEQUENCE OF numbers: the first of an array.
-template <typename Field, std::size_t N>
-std::string numbers(unsigned count, const Field (&fields)[N])
+// SEQUENCE OF: the first of an array, as many as are counted and it holds.
+template <typename Entry, std::size_t N, typename Item>
+std::string list(unsigned count, const Entry (&entries)[N], Item item)
 {
-    return list(count, [&fields](unsigned i) { return fields[i]; });
+    return list(std::min<unsigned>(count, N), [&](unsigned i) { return item(entries[i]); });
+}
+
+// The same of numbers.
+template <typename Number, std::size_t N>
+std::string numbers(unsigned count, const Number (&entries)[N])
+{
+    return list(count, entries, [](Number number) { return number; });
 }
 
 } // namespace records

@@ -50,6 +50,13 @@ bool isClear()
            console.compare(end + 1, 10, "CELL GROUP") == 0;
 }
 
+// Of several alternatives that a mask names, one that is not sent may have a period that no message knows.
+bool isNoticesOnly()
+{
+    return console.find("rror") == std::string::npos && console.find("NULL") == std::string::npos &&
+           console.find("null") == std::string::npos;
+}
+
 void print(std::uint32_t seed, const UINT8* octets, UINT32 length, const std::string& meaning)
 {
     std::string hex;
@@ -119,9 +126,9 @@ int main(int argc, char** argv)
         }
         if (result == VOS_OK)
         {
-            if (message.bufLen == 0 || message.bufLen > bufferSize || !console.empty())
+            if (message.bufLen == 0 || message.bufLen > bufferSize || !isNoticesOnly())
             {
-                fail(seed, "composed, but not silently or with a length that cannot be");
+                fail(seed, "composed, but with an error line or a length that cannot be");
             }
             print(seed, octets.data(), message.bufLen, meaning);
             ++composed;

@@ -25,8 +25,8 @@ std::string meant(const RrcCellGroupCfg_t& record)
     members.add("cellGroupId", record.cellGroupId);
     if (record.rlcBearerAddModNum != 0)
     {
-        members.add("rlc-BearerToAddModList",
-                    list(record.rlcBearerAddModNum, [&](unsigned i) { return meant(record.rlcBearerCfg[i]); }));
+        members.add("rlc-BearerToAddModList", list(record.rlcBearerAddModNum, record.rlcBearerCfg,
+                                                   [&](const auto& entry) { return meant(entry); }));
     }
     if (record.rlcBearerReleaseNum != 0)
     {
@@ -47,7 +47,7 @@ std::string meant(const RrcCellGroupCfg_t& record)
     if (record.sCellAddModNum != 0)
     {
         members.add("sCellToAddModList",
-                    list(record.sCellAddModNum, [&](unsigned i) { return meant(record.sCellAddMod[i]); }));
+                    list(record.sCellAddModNum, record.sCellAddMod, [&](const auto& entry) { return meant(entry); }));
     }
     if (record.sCellReleaseNum != 0)
     {
@@ -139,7 +139,7 @@ std::string meant(const RrcServingCellCfg_t& record)
     if (record.numDlBwpAddMod != 0)
     {
         members.add("downlinkBWP-ToAddModList",
-                    list(record.numDlBwpAddMod, [&](unsigned i) { return meant(record.dlBwp[i]); }));
+                    list(record.numDlBwpAddMod, record.dlBwp, [&](const auto& entry) { return meant(entry); }));
     }
     if (mask & RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE)
     {

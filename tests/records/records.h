@@ -94,6 +94,9 @@ void draw(Chance& chance, RrcCsiMeasCfg_t& record);
 // csiReport
 void draw(Chance& chance, RrcCsiReportCfg_t& record);
 
+// codebook
+void draw(Chance& chance, RrcCodebookCfg_t& record);
+
 // The JSON value that a record means; see Meaning.h.
 // cellGroup
 std::string meant(const RrcCellGroupCfg_t& record);
@@ -115,7 +118,6 @@ std::string meant(const RrcRaPrio_t& record);
 // servingCellCommon
 std::string meant(const RrcServingCellCfgCommon_t& record);
 std::string meant(const RrcSSBMTC_t& record);
-std::string meant(const RrcTddUlDlSlotCfg_t& record);
 std::string meant(const RrcRateMatchPattern_t& record);
 
 // distributedUnit
@@ -175,6 +177,9 @@ std::string meant(const RrcCsiMeasCfg_t& record);
 
 // csiReport
 std::string meant(const RrcCsiReportCfg_t& record);
+
+// codebook
+std::string meant(const RrcCodebookCfg_t& record);
 
 } // namespace records
 
