@@ -1,23 +1,40 @@
-// One composition from record to octets, its encoder and the decoder alone, beside the floor: the same message's fields
-// put through a 64-bit accumulator.
+// Of each example: the whole entry from record to octets, its encoder and the decoder alone, beside the floor: the same
+// message's fields put through a 64-bit accumulator.
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
+
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "NR-RRC-Definitions.h"
 #include "NR-RRC-Tables.h"
 #include "fields.h"
 #include "oneBearer.h"
-#include "rrcCodec/rrcCodec.h"
+#include "releases.h"
+#include "secondaryCells.h"
+#include "typicalCall.h"
 
 namespace
 {
 
 constexpr std::size_t capacity = 8192;
+
+using Fill = void (*)(RrcCellGroupCfg_t&);
+
+// What the program has asked of the system's heap.
+struct Heap
+{
+    std::size_t calls = 0;
+    std::size_t used = 0;
+    std::size_t peak = 0;
+};
+Heap heap;
 
 [[noreturn]] void fail(const char* what)
 {
@@ -25,19 +42,24 @@ constexpr std::size_t capacity = 8192;
     std::abort();
 }
 
-// The example's message as a record, as octets, as a tree and as fields.
+std::size_t compose(RrcCellGroupCfg_t& record, OSOCTET* buffer)
+{
+    Mbuf_t out = {0, buffer};
+    if (rrcComposeCellGroupCfg(&record, &out) != 0)
+    {
+        fail("compose");
+    }
+    return out.bufLen;
+}
+
+// An example's message as a record, as octets, as a tree and as fields.
 class Message
 {
 public:
-    Message() : record(std::make_unique<RrcCellGroupCfg_t>()), octets(capacity)
+    explicit Message(Fill fill) : record(std::make_unique_for_overwrite<RrcCellGroupCfg_t>()), octets(capacity)
     {
-        oneBearer(*record);
-        Mbuf_t out = {0, octets.data()};
-        if (rrcComposeCellGroupCfg(record.get(), &out) != 0)
-        {
-            fail("the message cannot be composed");
-        }
-        octets.resize(out.bufLen);
+        fill(*record);
+        octets.resize(compose(*record, octets.data()));
         rtxInitContext(&context);
         pu_setBuffer(&context, octets.data(), octets.size(), 0);
         if (asn1PD_CellGroupConfig(&context, &tree) != 0)
@@ -61,38 +83,21 @@ public:
     std::vector<bench::Field> fields;
 };
 
-Message& message()
+void runFloor(benchmark::State& state, const Message& m)
 {
-    static Message instance;
-    return instance;
-}
-
-void label(benchmark::State& state)
-{
-    state.counters["octets"] = static_cast<double>(message().octets.size());
-    state.counters["fields"] = static_cast<double>(message().fields.size());
-}
-
-void compose(benchmark::State& state)
-{
-    std::vector<OSOCTET> buffer(capacity);
-    Mbuf_t out = {0, buffer.data()};
+    std::vector<uint8_t> buffer(capacity);
     for (auto _ : state)
     {
-        if (rrcComposeCellGroupCfg(message().record.get(), &out) != 0)
-        {
-            fail("compose");
-        }
-        benchmark::DoNotOptimize(buffer.data());
+        benchmark::DoNotOptimize(bench::putAll(m.fields.data(), m.fields.size(), buffer.data()));
         benchmark::ClobberMemory();
     }
-    label(state);
+    state.counters["octets"] = static_cast<double>(m.octets.size());
+    state.counters["fields"] = static_cast<double>(m.fields.size());
 }
 
-void encode(benchmark::State& state)
+void runEncode(benchmark::State& state, Message& m)
 {
     std::vector<OSOCTET> buffer(capacity);
-    Message& m = message();
     for (auto _ : state)
     {
         pu_setBuffer(&m.context, buffer.data(), buffer.size(), 0);
@@ -103,24 +108,25 @@ void encode(benchmark::State& state)
         benchmark::DoNotOptimize(buffer.data());
         benchmark::ClobberMemory();
     }
-    label(state);
 }
 
-void floorOfEncode(benchmark::State& state)
+void runEntry(benchmark::State& state, RrcCellGroupCfg_t& record)
 {
-    std::vector<uint8_t> buffer(capacity);
-    const Message& m = message();
+    std::vector<OSOCTET> buffer(capacity);
     for (auto _ : state)
     {
-        benchmark::DoNotOptimize(bench::putAll(m.fields.data(), m.fields.size(), buffer.data()));
+        benchmark::DoNotOptimize(compose(record, buffer.data()));
         benchmark::ClobberMemory();
     }
-    label(state);
+    const Heap before = heap;
+    heap.peak = heap.used;
+    compose(record, buffer.data());
+    state.counters["mallocs"] = static_cast<double>(heap.calls - before.calls);
+    state.counters["heap"] = static_cast<double>(heap.peak - before.used);
 }
 
-void decode(benchmark::State& state)
+void runDecode(benchmark::State& state, Message& m)
 {
-    Message& m = message();
     for (auto _ : state)
     {
         OSCTXT context;
@@ -134,12 +140,64 @@ void decode(benchmark::State& state)
         benchmark::DoNotOptimize(tree);
         rtFreeContext(&context);
     }
-    label(state);
 }
 
-BENCHMARK(floorOfEncode);
-BENCHMARK(encode);
-BENCHMARK(compose);
-BENCHMARK(decode);
+// One bearer again, in a record that holds three secondary cells with all their parts and has them switched off.
+RrcCellGroupCfg_t& oneBearerOfMany()
+{
+    static const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    secondaryCells(*record);
+    record->sCellAddModNum = 0;
+    record->bitMask &= static_cast<UINT8>(~RRC_CELLGROUPCFG_SPCELL_PRESENCE);
+    return *record;
+}
+
+[[maybe_unused]] const bool registered = []
+{
+    static const struct
+    {
+        const char* name;
+        Fill fill;
+    } examples[] = {
+        {"one_bearer", oneBearer},
+        {"typical_call", typicalCall},
+        {"secondary_cells", secondaryCells},
+        {"releases", releases},
+    };
+    static std::vector<std::unique_ptr<Message>> messages;
+    for (const auto& example : examples)
+    {
+        messages.push_back(std::make_unique<Message>(example.fill));
+        Message& m = *messages.back();
+        const std::string name = example.name;
+        benchmark::RegisterBenchmark((name + "/floor").c_str(), [&m](auto& state) { runFloor(state, m); });
+        benchmark::RegisterBenchmark((name + "/encode").c_str(), [&m](auto& state) { runEncode(state, m); });
+        benchmark::RegisterBenchmark((name + "/entry").c_str(), [&m](auto& state) { runEntry(state, *m.record); });
+        benchmark::RegisterBenchmark((name + "/decode").c_str(), [&m](auto& state) { runDecode(state, m); });
+    }
+    benchmark::RegisterBenchmark("one_bearer/entry_of_many_switched_off",
+                                 [](auto& state) { runEntry(state, oneBearerOfMany()); });
+    return true;
+}();
 
 } // namespace
+
+extern "C" void* __real_malloc(size_t size);
+extern "C" void __real_free(void* p);
+extern "C" void* __wrap_malloc(size_t size);
+extern "C" void __wrap_free(void* p);
+
+extern "C" void* __wrap_malloc(size_t size)
+{
+    void* const p = __real_malloc(size);
+    ++heap.calls;
+    heap.used += malloc_usable_size(p);
+    heap.peak = std::max(heap.peak, heap.used);
+    return p;
+}
+
+extern "C" void __wrap_free(void* p)
+{
+    heap.used -= malloc_usable_size(p);
+    __real_free(p);
+}

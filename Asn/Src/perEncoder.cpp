@@ -9,14 +9,20 @@ constexpr uint64_t shortLength = 0x80;
 constexpr uint64_t fragment = 0x4000; // 16K
 constexpr uint64_t longestRun = 4;    // fragments under one header
 
+// Writes n bits, 1..24, over those at a position.
 void setBits(OSOCTET* data, uint64_t pos, uint64_t value, unsigned n)
 {
-    while (n-- != 0)
+    const auto shift = static_cast<unsigned>(32 - pos % 8 - n);
+    const uint64_t mask = ((uint64_t{1} << n) - 1) << shift;
+    value <<= shift;
+    OSOCTET* octet = data + pos / 8;
+    for (unsigned i = 0; i < 4; ++i)
     {
-        const auto mask = static_cast<OSOCTET>(0x80U >> (pos % 8));
-        OSOCTET& octet = data[pos / 8];
-        octet = static_cast<OSOCTET>((value >> n & 1) != 0 ? octet | mask : octet & ~mask);
-        ++pos;
+        const auto under = static_cast<OSOCTET>(mask >> (24 - 8 * i));
+        if (under != 0) // what lies beyond the bits may lie beyond the buffer
+        {
+            octet[i] = static_cast<OSOCTET>((octet[i] & ~under) | static_cast<OSOCTET>(value >> (24 - 8 * i)));
+        }
     }
 }
 
@@ -44,6 +50,14 @@ void moveUp(OSOCTET* data, uint64_t from, uint64_t octets, uint64_t by)
 Bits Encoder::put(Bits b, uint64_t v, unsigned n) const
 {
     return append(b, v, n);
+}
+
+Bits Encoder::appendAcross(Bits b, uint64_t v, unsigned n) const
+{
+    b.pos += n;
+    const auto rest = static_cast<unsigned>(b.pos % 64);
+    store(b.pos / 64 - 1, b.word << (n - rest) | v >> rest);
+    return {v, b.pos};
 }
 
 // X.691 11.6

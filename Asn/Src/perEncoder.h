@@ -153,17 +153,17 @@ public:
         return static_cast<const T*>(node->data);
     }
 
-    // Errors. Each returns what the caller returns.
-    Bits range(const char* member, int64_t value, int64_t lower, int64_t upper);
-    Bits rangeAt(uint32_t index, int64_t value, int64_t lower, int64_t upper);
-    Bits length(const char* member, uint32_t numbits, uint32_t wanted);
-    Bits size(uint32_t count, uint32_t lower, uint32_t upper);
-    Bits choice(uint32_t tag, uint32_t last);
-    Bits pointer(const char* member, const void* p);
-    Bits node(const OSRTDList& list, uint32_t index, const OSRTDListNode* node);
+    // Errors. Each returns what the caller returns. Cold, so that no code of theirs lies between that of the values.
+    [[gnu::cold]] Bits range(const char* member, int64_t value, int64_t lower, int64_t upper);
+    [[gnu::cold]] Bits rangeAt(uint32_t index, int64_t value, int64_t lower, int64_t upper);
+    [[gnu::cold]] Bits length(const char* member, uint32_t numbits, uint32_t wanted);
+    [[gnu::cold]] Bits size(uint32_t count, uint32_t lower, uint32_t upper);
+    [[gnu::cold]] Bits choice(uint32_t tag, uint32_t last);
+    [[gnu::cold]] Bits pointer(const char* member, const void* p);
+    [[gnu::cold]] Bits node(const OSRTDList& list, uint32_t index, const OSRTDListNode* node);
     // The element `member` or the list entry `index` failed, or did not fit.
-    Bits in(Bits b, const char* member);
-    Bits at(Bits b, uint32_t index);
+    [[gnu::cold]] Bits in(Bits b, const char* member);
+    [[gnu::cold]] Bits at(Bits b, uint32_t index);
 
     // Runs the encoder of a type on the context's buffer.
     template <typename T>
@@ -191,21 +191,19 @@ private:
         return __builtin_bswap32(v);
     }
 
-    // Always inline, so that a constant width is folded.
+    // Always inline, so that a constant width is folded, and as short as can be, because it stands at every value: the
+    // code of a typical message should fit the processor's cache.
     [[gnu::always_inline]] Bits append(Bits b, uint64_t v, unsigned n) const
     {
-        const auto used = static_cast<unsigned>(b.pos % 64);
-        b.pos += n;
-        if (used + n < 64)
+        if (b.pos % 64 + n < 64)
         {
-            b.word = b.word << n | v;
-            return b;
+            return {b.word << n | v, b.pos + n};
         }
-        const unsigned rest = used + n - 64;
-        store(b.pos / 64 - 1, b.word << (n - rest) | v >> rest);
-        b.word = v;
-        return b;
+        return appendAcross(b, v, n);
     }
+
+    // The same where the bits fill a word.
+    Bits appendAcross(Bits b, uint64_t v, unsigned n) const;
 
     void store(uint64_t index, uint64_t word) const
     {
