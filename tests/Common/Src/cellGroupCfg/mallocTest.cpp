@@ -8,6 +8,9 @@
 
 #include "oneBearer.h"
 #include "reconfigurationWithSync.h"
+#include "releases.h"
+#include "secondaryCells.h"
+#include "typicalCall.h"
 
 namespace
 {
@@ -16,7 +19,7 @@ unsigned calls = 0;
 
 unsigned callsOf(void (*fill)(RrcCellGroupCfg_t&))
 {
-    const auto record = std::make_unique<RrcCellGroupCfg_t>();
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
     fill(*record);
     std::vector<UINT8> octets(8192);
     Mbuf_t message = {0, octets.data()};
@@ -39,12 +42,11 @@ extern "C" void* __wrap_malloc(size_t size)
     return __real_malloc(size);
 }
 
-TEST(Malloc, OneBearerTakesOneBlock)
+TEST(Malloc, EachExampleTakesOneBlock)
 {
     EXPECT_EQ(callsOf(oneBearer), 1U);
-}
-
-TEST(Malloc, ReconfigurationWithSyncTakesOneBlock)
-{
     EXPECT_EQ(callsOf(reconfigurationWithSync), 1U);
+    EXPECT_EQ(callsOf(typicalCall), 1U);
+    EXPECT_EQ(callsOf(secondaryCells), 1U);
+    EXPECT_EQ(callsOf(releases), 1U);
 }
