@@ -14,6 +14,33 @@ expect()
 }
 
 expect "exported" "rrcComposeCellGroupCfg
+rrcInitBwpDl
+rrcInitBwpDlDedicated
+rrcInitBwpUl
+rrcInitBwpUlDedi
+rrcInitCellGroupCfg
+rrcInitCfra
+rrcInitCsiAperiodicTriggerStateList
+rrcInitCsiMeasCfg
+rrcInitCsiReportCfg
+rrcInitCsirsResource
+rrcInitPdcchCfg
+rrcInitPdcchServingCellCfg
+rrcInitPdschCfg
+rrcInitPortIndexFor8RanksList
+rrcInitPucchCfg
+rrcInitRachCfgDedi
+rrcInitReconfWithSync
+rrcInitScellCfg
+rrcInitServingCellCfg
+rrcInitServingCellCfgCommon
+rrcInitSlotFormatCombPerCell
+rrcInitSlotFormatInd
+rrcInitSpCellCfg
+rrcInitSrsCfg
+rrcInitSsirs
+rrcInitTddUlDlCfgDedi
+rrcInitUlCfg
 uint64ToBitString43bit
 uint64ToBitString48bit
 uint64ToBitString59bit

@@ -9,21 +9,33 @@ namespace
 // Standard output is captured while a test runs: GoogleTest's own printer would add its failures to what is compared.
 class ReportOnStderr : public testing::EmptyTestEventListener
 {
+    // GoogleTest holds its lock while it tells of a failure, so it cannot be asked for the test then.
+    void OnTestStart(const testing::TestInfo& info) override
+    {
+        info_ = &info;
+    }
+
     void OnTestPartResult(const testing::TestPartResult& result) override
     {
         if (result.failed())
         {
-            const testing::TestInfo* const info = testing::UnitTest::GetInstance()->current_test_info();
             std::fprintf(stderr, "%s:%d: %s.%s\n%s\n", result.file_name() != nullptr ? result.file_name() : "",
-                         result.line_number(), info != nullptr ? info->test_suite_name() : "",
-                         info != nullptr ? info->name() : "", result.message());
+                         result.line_number(), info_ != nullptr ? info_->test_suite_name() : "",
+                         info_ != nullptr ? info_->name() : "", result.message());
         }
+    }
+
+    void OnTestEnd(const testing::TestInfo&) override
+    {
+        info_ = nullptr;
     }
 
     void OnTestProgramEnd(const testing::UnitTest& tests) override
     {
         std::fprintf(stderr, "%d tests passed, %d failed\n", tests.successful_test_count(), tests.failed_test_count());
     }
+
+    const testing::TestInfo* info_ = nullptr;
 };
 
 [[maybe_unused]] const bool reporting = []
@@ -60,7 +72,7 @@ std::string ComposerTest::printed()
 
 // One line per message in the file that CELLGROUPCFG_ORACLE_FILE names; without it the test runs by hand and only
 // encodes.
-void ComposerTest::recordForOracle(const std::string& type, const std::string& hex, const std::string& json)
+void ComposerTest::expectDecoded(const std::string& type, const std::string& octets, const std::string& json)
 {
     const char* const name = std::getenv("CELLGROUPCFG_ORACLE_FILE");
     if (name == nullptr)
@@ -70,7 +82,7 @@ void ComposerTest::recordForOracle(const std::string& type, const std::string& h
     std::FILE* const file = std::fopen(name, "a");
     ASSERT_NE(file, nullptr) << name;
     const testing::TestInfo* const info = testing::UnitTest::GetInstance()->current_test_info();
-    std::fprintf(file, "%s.%s\t%s\t%s\t%s\n", info->test_suite_name(), info->name(), type.c_str(), hex.c_str(),
+    std::fprintf(file, "%s.%s\t%s\t%s\t%s\n", info->test_suite_name(), info->name(), type.c_str(), octets.c_str(),
                  json.c_str());
     std::fclose(file);
 }

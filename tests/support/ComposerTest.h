@@ -64,6 +64,18 @@ protected:
         return *static_cast<const T*>(node->data);
     }
 
+    static std::string hexOf(const OSOCTET* octets, size_t count)
+    {
+        std::string text;
+        for (size_t i = 0; i < count; ++i)
+        {
+            constexpr const char* digits = "0123456789abcdef";
+            text += digits[octets[i] >> 4];
+            text += digits[octets[i] & 15];
+        }
+        return text;
+    }
+
     // Octets of a named type's encoding, as hex; the error line where the encoder refuses it.
     template <typename T>
     std::string encode(int (*encodeType)(OSCTXT*, const T*), const T& value)
@@ -77,14 +89,7 @@ protected:
             rtxErrFormat(&context, line, sizeof line);
             return line;
         }
-        std::string hex;
-        for (size_t i = 0; i < pu_getMsgLen(&context); ++i)
-        {
-            constexpr const char* digits = "0123456789abcdef";
-            hex += digits[buffer[i] >> 4];
-            hex += digits[buffer[i] & 15];
-        }
-        return hex;
+        return hexOf(buffer.data(), pu_getMsgLen(&context));
     }
 
     // Encodes the value and leaves it to the independent decoder, which runs over all such messages after the tests:
@@ -93,16 +98,17 @@ protected:
     template <typename T>
     void expectDecoded(const char* type, int (*encodeType)(OSCTXT*, const T*), const T& value, const std::string& json)
     {
-        const std::string hex = encode(encodeType, value);
-        ASSERT_EQ(hex.find_first_not_of("0123456789abcdef"), std::string::npos) << hex;
-        recordForOracle(type, hex, json);
+        const std::string octets = encode(encodeType, value);
+        ASSERT_EQ(octets.find_first_not_of("0123456789abcdef"), std::string::npos) << octets;
+        expectDecoded(type, octets, json);
     }
+
+    // The same for an encoding, as hex.
+    static void expectDecoded(const std::string& type, const std::string& octets, const std::string& json);
 
     OSCTXT context;
 
 private:
-    static void recordForOracle(const std::string& type, const std::string& hex, const std::string& json);
-
     CapturedOutput output_;
 };
 

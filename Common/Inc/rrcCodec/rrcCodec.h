@@ -38,8 +38,9 @@ extern "C"
 #define RRC_CELLGROUPCFG_REPORT_PRESENCE (1 << 3)
 
 /**
- * CellGroupConfig. A list is sent when its count is not 0; a count beyond its array makes the call fail. The record
- * takes some 10 MB: keep it off the stack, and clear it before filling in what the UE gets.
+ * CellGroupConfig. A list is sent when its count is not 0; a count beyond its array makes the call fail, except
+ * sCellAddModNum, which is cut. The record takes some 10 MB: keep it off the stack, and clear it before filling in what
+ * the UE gets.
  */
 typedef struct rrcCellGroupCfg_s
 {
@@ -52,7 +53,7 @@ typedef struct rrcCellGroupCfg_s
     RrcMacCellGrpCfg_t macCellGrpCfg;              /**< mac-CellGroupConfig */
     RrcPhyCellGrpCfg_t phyCellGrpCfg;              /**< physicalCellGroupConfig */
     RrcSpCellCfg_t spCellCfg;                      /**< spCellConfig */
-    UINT8 sCellAddModNum;                          /**< entries used of sCellAddMod, 0..3 */
+    UINT8 sCellAddModNum;                          /**< entries used of sCellAddMod, 0..3; above 3 it becomes 3 */
     RrcScellCfg_t sCellAddMod[MAX_NROF_SCellS];    /**< sCellToAddModList */
     UINT8 sCellReleaseNum;                         /**< entries used of sCellIdx, 0..3 */
     UINT8 sCellIdx[MAX_NROF_SCellS];               /**< sCellToReleaseList, each 1..31 */
@@ -62,7 +63,7 @@ typedef struct rrcCellGroupCfg_s
 /**
  * Composes the CellGroupConfig and encodes it with unaligned PER. Calls on different threads are independent as long as
  * each has its own record and buffer.
- * @param rrcRrcCellGroupCfgInfo  the cell group, never null; only read
+ * @param rrcRrcCellGroupCfgInfo  the cell group, never null; only read, but for sCellAddModNum: above 3 it becomes 3
  * @param pBuf                    never null; buf points at at least 8192 octets of the caller's, which get the
  * encoding; bufLen gets its length on success and is left alone otherwise. After a failure the octets at buf may hold
  * part of an encoding.

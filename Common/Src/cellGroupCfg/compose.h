@@ -204,8 +204,8 @@ struct ListTexts
     const char* failed; // the element's composer fails; null: its result is not looked at
 };
 
-// An element list: per entry one block from the heap with the node and, behind it, the cleared element. Entries that
-// the record's array does not have stay cleared; a count beyond the list's bound is refused by the encoder.
+// An element list: per entry one block from the heap with the node and, behind it, the cleared element. The count goes
+// on as given: one beyond the record's array, for which there are no nodes, is refused by the encoder.
 template <typename Element, typename Record, std::size_t N, typename Composer>
 INT32 list(OSCTXT* pAsnCxt, OSRTDList* pList, std::size_t count, Record (&records)[N], Composer composer,
            ListTexts texts)
@@ -215,7 +215,8 @@ INT32 list(OSCTXT* pAsnCxt, OSRTDList* pList, std::size_t count, Record (&record
         OSRTDListNode node;
         Element element;
     };
-    for (std::size_t i = 0; i < count; ++i)
+    const std::size_t used = std::min(count, N);
+    for (std::size_t i = 0; i < used; ++i)
     {
         auto* const pBlock = allocate<Block>(pAsnCxt);
         if (pBlock == nullptr)
@@ -224,13 +225,14 @@ INT32 list(OSCTXT* pAsnCxt, OSRTDList* pList, std::size_t count, Record (&record
             return VOS_ERROR;
         }
         pBlock->node.data = &pBlock->element;
-        if (i < N && call(pAsnCxt, composer, &pBlock->element, &records[i]) != VOS_OK && texts.failed != nullptr)
+        if (call(pAsnCxt, composer, &pBlock->element, &records[i]) != VOS_OK && texts.failed != nullptr)
         {
             VOS_Printf("%s", texts.failed);
             return VOS_ERROR;
         }
         rtxDListAppendNode(pList, &pBlock->node);
     }
+    pList->count = static_cast<OSUINT32>(count);
     return VOS_OK;
 }
 

@@ -208,10 +208,14 @@ TEST_F(cellGroupCfg, EachMemberAlone)
     expectMessage(R"({"cellGroupId":0,"spCellConfig":{}})");
     *record = *all;
     record->bitMask |= RRC_CELLGROUPCFG_SPCELL_PRESENCE;
+    record->sCellAddModNum = 1;
+    record->sCellAddMod[0].scellIdx = 31;
+    record->sCellReleaseNum = 1;
+    record->sCellIdx[0] = 1;
     expectMessage(
         R"({"cellGroupId":0,"rlc-BearerToAddModList":[{"logicalChannelIdentity":4}],"rlc-BearerToReleaseList":[1,32],)"
         R"("mac-CellGroupConfig":{"skipUplinkTxDynamic":false},"physicalCellGroupConfig":{"pdsch-HARQ-ACK-Codebook":"dynamic"},)"
-        R"("spCellConfig":{}})");
+        R"("spCellConfig":{},"sCellToAddModList":[{"sCellIndex":31}],"sCellToReleaseList":[1]})");
 }
 
 TEST_F(cellGroupCfg, ReportUplinkTxDirectIsInTheTreeUnchangedAndNotSent)
@@ -277,6 +281,55 @@ TEST_F(cellGroupCfg, FullBearerListsAndOnePastThem)
     }
 }
 
+TEST_F(cellGroupCfg, SecondaryCellsAreSentAtMostThree)
+{
+    const std::string cells[] = {R"({"sCellIndex":31})", R"({"sCellIndex":1,"sCellConfigDedicated":{"tag-Id":2}})",
+                                 R"({"sCellIndex":2})"};
+    record->sCellAddMod[0].scellIdx = 31;
+    record->sCellAddMod[1].scellIdx = 1;
+    record->sCellAddMod[1].bitMask = RRC_SCELLADDMOD_CELLDEDI_PRESENCE;
+    record->sCellAddMod[1].sCellCfgDedi.tagId = 2;
+    record->sCellAddMod[2].scellIdx = 2;
+    record->sCellAddMod[2].bitMask = RRC_SCELLADDMOD_SMTC_PRESENCE;
+    std::string list;
+    for (unsigned count = 1; count <= 3; ++count)
+    {
+        list += (count == 1 ? "" : ",") + cells[count - 1];
+        record->sCellAddModNum = static_cast<UINT8>(count);
+        expectMessage(R"({"cellGroupId":0,"sCellToAddModList":[)" + list + "]}");
+        EXPECT_EQ(record->sCellAddModNum, count);
+    }
+    for (const unsigned count : {4U, 5U, 255U})
+    {
+        record->sCellAddModNum = static_cast<UINT8>(count);
+        expectMessage(R"({"cellGroupId":0,"sCellToAddModList":[)" + list + "]}");
+        EXPECT_EQ(record->sCellAddModNum, 3) << "cut in the caller's record, too";
+    }
+}
+
+TEST_F(cellGroupCfg, SecondaryCellsToRelease)
+{
+    record->sCellIdx[0] = 1;
+    record->sCellIdx[1] = 4;
+    record->sCellIdx[2] = 31;
+    record->sCellReleaseNum = 2;
+    expectMessage(R"({"cellGroupId":0,"sCellToReleaseList":[1,4]})");
+    record->sCellReleaseNum = 3;
+    record->sCellAddModNum = 1;
+    record->sCellAddMod[0].scellIdx = 7;
+    expectMessage(R"({"cellGroupId":0,"sCellToAddModList":[{"sCellIndex":7}],"sCellToReleaseList":[1,4,31]})");
+    for (const unsigned count : {4U, 31U})
+    {
+        record->sCellReleaseNum = static_cast<UINT8>(count);
+        expectRefused("CellGroupConfig.sCellToReleaseList[3]: 0 is not in 1..31");
+    }
+    for (const unsigned count : {32U, 255U})
+    {
+        record->sCellReleaseNum = static_cast<UINT8>(count);
+        expectRefused("CellGroupConfig.sCellToReleaseList: " + std::to_string(count) + " elements, not 1..31");
+    }
+}
+
 // Failures on the way
 
 TEST_F(cellGroupCfg, ContextThatCannotBeInitialised)
@@ -300,12 +353,24 @@ TEST_F(cellGroupCfg, FailureInTheBearerListStopsBeforeTheMac)
     expectNoMessage("pNode Or pRlc_BearCfg is NULL\r\nrrcComposeRlc_BearerToAddModList Error\r\n");
 }
 
-TEST_F(cellGroupCfg, SecondaryCellsAreRefused)
+TEST_F(cellGroupCfg, FailureInTheSecondaryCellsEndsTheCall)
 {
+    record->sCellAddModNum = 2;
     record->sCellReleaseNum = 1;
-    expectNoMessage("rrcComposeCellGroupCfg_sCellToRel Error\r\n");
-    record->sCellAddModNum = 1;
-    expectNoMessage("rrcComposeCellGroupCfg_sCellToAddMod Error\r\n");
+    const HeapFault fault(2); // the cell group and the first secondary cell
+    expectNoMessage("pNode Or pItem is NULL\r\nrrcComposeCellGroupCfg_sCellToAddMod Error\r\n");
+}
+
+TEST_F(cellGroupCfg, FailureInTheSpecialCellStopsBeforeTheSecondaryCells)
+{
+    record->bitMask = RRC_CELLGROUPCFG_SPCELL_PRESENCE;
+    record->spCellCfg.bitMask = RRC_SPCELLCFG_DEDICFG_PRESENCE;
+    record->spCellCfg.spCellDedicated.numDlBwpAddMod = 1;
+    record->sCellAddModNum = 5;
+    const HeapFault fault(1);
+    expectNoMessage("pNode Or pItem is NULL\r\nrrcComposedownlinkBWP_ToADDMod Error\r\n"
+                    "rrcComposespCellConfigDedicated Error\r\nrrcComposeSP_CellGroupCfg Error\r\n");
+    EXPECT_EQ(record->sCellAddModNum, 5) << "not reached";
 }
 
 TEST_F(cellGroupCfg, HeapExhaustionAtEveryRequest)

@@ -8,6 +8,7 @@
 #include "cellGroupCfg/macCellGroup.h"
 #include "cellGroupCfg/physicalCellGroup.h"
 #include "cellGroupCfg/rlcBearer.h"
+#include "cellGroupCfg/sCell.h"
 #include "cellGroupCfg/spCell.h"
 #include "oneBearer.h"
 #include "rrcCodec/rrcCodec.h"
@@ -26,6 +27,7 @@ namespace
 {
 
 unsigned freedContexts = 0;
+unsigned releasedCells = 0; // calls of the last composer of the cell group
 
 class cellGroupFailures : public test::ComposerTest
 {
@@ -67,6 +69,15 @@ INT32 rrcComposeSP_CellGroupCfg(OSCTXT* c, SpCellConfig* e, RrcSpCellCfg_t* r)
 {
     return passOn(rrcComposeSP_CellGroupCfg, c, e, r);
 }
+INT32 rrcComposeCellGroupCfg_sCellToAddMod(OSCTXT* c, CellGroupConfig_sCellToAddModList* e, RrcCellGroupCfg_t* r)
+{
+    return passOn(rrcComposeCellGroupCfg_sCellToAddMod, c, e, r);
+}
+INT32 rrcComposeCellGroupCfg_sCellToRel(CellGroupConfig_sCellToReleaseList* e, RrcCellGroupCfg_t* r)
+{
+    ++releasedCells;
+    return passOn(rrcComposeCellGroupCfg_sCellToRel, e, r);
+}
 
 TEST_F(cellGroupFailures, EachMemberEndsTheCall)
 {
@@ -77,6 +88,7 @@ TEST_F(cellGroupFailures, EachMemberEndsTheCall)
     record->rlcBearerReleaseNum = 2;
     record->bitMask |= RRC_CELLGROUPCFG_SPCELL_PRESENCE;
     record->sCellAddModNum = 1;
+    record->sCellReleaseNum = 1;
     const struct
     {
         const void* composer;
@@ -86,12 +98,15 @@ TEST_F(cellGroupFailures, EachMemberEndsTheCall)
         {address(rrcComposeMac_CellGroupCfg), "rrcComposeMac_CellGroupCfg Error\r\n"},
         {address(rrcComposePhysical_CellGroupCfg), "rrcComposePhysical_CellGroupCfg Error\r\n"},
         {address(rrcComposeSP_CellGroupCfg), "rrcComposeSP_CellGroupCfg Error\r\n"},
+        {address(rrcComposeCellGroupCfg_sCellToAddMod), "rrcComposeCellGroupCfg_sCellToAddMod Error\r\n"},
+        {address(rrcComposeCellGroupCfg_sCellToRel), "rrcComposeCellGroupCfg_sCellToRel Error\r\n"},
     };
     for (const auto& [composer, line] : cases)
     {
         std::vector<UINT8> octets(8192 + 64, guard);
         Mbuf_t message = {noLength, octets.data()};
         freedContexts = 0;
+        releasedCells = 0;
         const Failing failing(composer);
         EXPECT_EQ(rrcComposeCellGroupCfg(record.get(), &message), VOS_ERROR);
         EXPECT_EQ(printed(), line);
@@ -99,6 +114,7 @@ TEST_F(cellGroupFailures, EachMemberEndsTheCall)
         EXPECT_EQ(message.bufLen, noLength) << line;
         EXPECT_EQ(message.buf, octets.data()) << line;
         EXPECT_THAT(octets, Each(guard)) << line;
+        EXPECT_EQ(releasedCells, composer == address(rrcComposeCellGroupCfg_sCellToRel) ? 1U : 0U) << line;
     }
 }
 

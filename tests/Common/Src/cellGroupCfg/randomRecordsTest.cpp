@@ -7,6 +7,8 @@
 #include "TestPdus.h"
 #include "cellGroupCfg/csiMeas.h"
 #include "cellGroupCfg/downlinkBwp.h"
+#include "cellGroupCfg/sCell.h"
+#include "cellGroupCfg/servingCell.h"
 #include "cellGroupCfg/servingCellCommon.h"
 #include "cellGroupCfg/servingCellLevel.h"
 #include "cellGroupCfg/spCell.h"
@@ -116,6 +118,16 @@ TEST_F(randomRecords, DedicatedDownlinkBwp)
 TEST_F(randomRecords, UplinkConfig)
 {
     RANDOM_RECORDS(rrcComposeUplinkConfig, UplinkConfig);
+}
+
+TEST_F(randomRecords, DedicatedServingCell)
+{
+    RANDOM_RECORDS(rrcComposespCellConfigDedicated, ServingCellConfig);
+}
+
+TEST_F(randomRecords, SecondaryCell)
+{
+    RANDOM_RECORDS(rrcCompose_sCellToAddModItem, SCellConfig);
 }
 
 TEST_F(randomRecords, CsiMeasConfig)

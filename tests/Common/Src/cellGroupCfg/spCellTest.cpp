@@ -8,11 +8,14 @@
 
 #include "TestPdus.h"
 #include "reconfigurationWithSync.h"
+#include "servingCellRecords.h"
 #include "support/ComposerTest.h"
 #include "support/RecordOrder.h"
 
+using test::fillServingCell;
 using test::HeapFault;
 using test::rising;
+using test::servingCellJson;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -113,6 +116,8 @@ TEST_F(spCell, EachMemberAloneAndAll)
     const std::string timers =
         R"("rlf-TimersAndConstants":{"setup":{"t310":"ms6000","n310":"n20","n311":"n8","t311-v1530":"ms20000"}})";
     const std::string threshold = R"("rlmInSyncOutOfSyncThreshold":"n1")";
+    fillServingCell(cfg->spCellDedicated, 0xFFFF, 2, 1);
+    const std::string dedicated = "\"spCellConfigDedicated\":" + servingCellJson(0xFFFF, 2, 1);
     cfg->bitMask = RRC_SPCELLCFG_CELLIDX_PRESENCE;
     expectSpCell(*cfg, "{" + index + "}");
     cfg->bitMask = RRC_SPCELLCFG_RECFG_PRESENCE;
@@ -121,8 +126,10 @@ TEST_F(spCell, EachMemberAloneAndAll)
     expectSpCell(*cfg, "{" + timers + "}");
     cfg->bitMask = RRC_SPCELLCFG_THRESHOLD_PRESENCE;
     expectSpCell(*cfg, "{" + threshold + "}");
-    cfg->bitMask = 0xF;
-    expectSpCell(*cfg, "{" + index + "," + sync + "," + timers + "," + threshold + "}");
+    cfg->bitMask = RRC_SPCELLCFG_DEDICFG_PRESENCE;
+    expectSpCell(*cfg, "{" + dedicated + "}");
+    cfg->bitMask = 0x1F;
+    expectSpCell(*cfg, "{" + index + "," + sync + "," + timers + "," + threshold + "," + dedicated + "}");
 }
 
 TEST_F(spCell, NullGuards)
@@ -408,6 +415,12 @@ TEST_F(spCell, RefusedByTheEncoder)
          {
              cfg.recfgWithSync.spCellConfigCommon.tddUlDlCfgComm.pattern1.nrofUplinkSlots = 321;
          }},
+        {"CellGroupConfig.spCellConfig.spCellConfigDedicated.servingCellMO: 0 is not in 1..64",
+         [](RrcSpCellCfg_t& cfg)
+         {
+             cfg.bitMask |= RRC_SPCELLCFG_DEDICFG_PRESENCE;
+             cfg.spCellDedicated.bitMask = RRC_SERVING_CELL_SERVING_CELL_MO_PRESENCE;
+         }},
         {"CellGroupConfig.spCellConfig.rlf-TimersAndConstants.setup.t311-v1530: 7 is not in 0..6",
          [](RrcSpCellCfg_t& cfg)
          {
@@ -438,18 +451,38 @@ TEST_F(spCell, RefusedByTheEncoder)
     }
 }
 
-TEST_F(spCell, DedicatedConfigurationIsAnError)
+TEST_F(spCell, DedicatedCell)
 {
     const auto record = cleared<RrcCellGroupCfg_t>();
-    reconfigurationWithSync(*record);
-    record->spCellCfg.bitMask |= RRC_SPCELLCFG_DEDICFG_PRESENCE;
-    EXPECT_EQ(compose(*record), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposespCellConfigDedicated Error\r\nrrcComposeSP_CellGroupCfg Error\r\n");
+    record->bitMask = RRC_CELLGROUPCFG_SPCELL_PRESENCE;
+    record->spCellCfg.bitMask = RRC_SPCELLCFG_DEDICFG_PRESENCE;
+    fillServingCell(record->spCellCfg.spCellDedicated, 0);
+    expectMessage(*record, R"({"cellGroupId":0,"spCellConfig":{"spCellConfigDedicated":{"tag-Id":3}}})");
+    fillServingCell(record->spCellCfg.spCellDedicated, 0xFFFF, 4, 4);
+    expectMessage(*record, R"({"cellGroupId":0,"spCellConfig":{"spCellConfigDedicated":)" +
+                               servingCellJson(0xFFFF, 4, 4) + "}}");
+}
+
+TEST_F(spCell, FailingDedicatedCellEndsTheCall)
+{
+    const std::string line = "pNode Or pItem is NULL\r\nrrcComposedownlinkBWP_ToADDMod Error\r\n"
+                             "rrcComposespCellConfigDedicated Error\r\n";
+    const auto record = cleared<RrcCellGroupCfg_t>();
+    record->bitMask = RRC_CELLGROUPCFG_SPCELL_PRESENCE;
+    record->spCellCfg.bitMask = RRC_SPCELLCFG_THRESHOLD_PRESENCE | RRC_SPCELLCFG_DEDICFG_PRESENCE;
+    record->spCellCfg.spCellDedicated.numDlBwpAddMod = 1;
+    {
+        const HeapFault fault(1); // the cell group
+        EXPECT_EQ(compose(*record), VOS_ERROR);
+    }
+    EXPECT_EQ(printed(), line + "rrcComposeSP_CellGroupCfg Error\r\n");
     EXPECT_EQ(message_.bufLen, noLength);
 
     const auto element = cleared<SpCellConfig>();
+    const HeapFault fault(0);
     EXPECT_EQ(rrcComposeSP_CellGroupCfg(&context, element.get(), &record->spCellCfg), VOS_ERROR);
-    EXPECT_EQ(printed(), "rrcComposespCellConfigDedicated Error\r\n");
+    EXPECT_EQ(printed(), line);
+    EXPECT_EQ(element->m.rlmInSyncOutOfSyncThresholdPresent, 1U);
     EXPECT_EQ(element->m.spCellConfigDedicatedPresent, 1U);
 }
 

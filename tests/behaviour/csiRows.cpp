@@ -1,0 +1,725 @@
+// Rows of CSI measurement.
+#include <algorithm>
+#include <iterator>
+
+#include "places.h"
+#include "support/Json.h"
+
+namespace behaviour
+{
+
+namespace
+{
+
+const auto resource = within(csiMeas, R"({"nzp-CSI-RS-ResourceToAddModList":[@]})",
+                             [](auto& config)
+                             {
+                                 config.numNzpCsiRsResourceAddMod = 1;
+                                 map(fresh(config.NzpCsiRsResourceAddMod[0]).resourceMapping);
+                                 return &config.NzpCsiRsResourceAddMod[0];
+                             });
+
+std::string resourceJson(const std::string& mapping = mappingJson(), const std::string& periodicity = "", int power = 0)
+{
+    return test::object({R"("nzp-CSI-RS-ResourceId":0,"resourceMapping":)" + mapping + R"(,"powerControlOffset":)" +
+                             std::to_string(power) + R"(,"scramblingID":0)",
+                         periodicity.empty() ? "" : R"("periodicityAndOffset":)" + periodicity});
+}
+
+const auto resourceSet = within(csiMeas, R"({"nzp-CSI-RS-ResourceSetToAddModList":[@]})",
+                                [](auto& config)
+                                {
+                                    config.numNzpCsiRsResourceSetAddMod = 1;
+                                    auto& set = fresh(config.NzpCsiRsResourceSetAddMod[0]);
+                                    set.numNzpCsiRsRes = 1;
+                                    return &set;
+                                });
+
+const auto interference = within(csiMeas, R"({"csi-IM-ResourceToAddModList":[@]})",
+                                 [](auto& config)
+                                 {
+                                     config.numCsiImResourceAddMod = 1;
+                                     return &fresh(config.csiImResourceAddMod[0]);
+                                 });
+
+const auto ssbSet = within(csiMeas, R"({"csi-SSB-ResourceSetToAddModList":[@]})",
+                           [](auto& config)
+                           {
+                               config.numCsiSsbResourceSetAddMod = 1;
+                               return &fresh(config.csiSsbResourceSet[0]);
+                           });
+
+const auto resourceConfig = within(csiMeas, R"({"csi-ResourceConfigToAddModList":[@]})",
+                                   [](auto& config)
+                                   {
+                                       config.numCsiResourceCfgAddMod = 1;
+                                       auto& made = fresh(config.csiResourceCfg[0]);
+                                       made.presence = RRC_CSI_RESOURCE_CFG_NZP_CSI_RS_SSB_PRESENCE;
+                                       return &made;
+                                   });
+
+std::string resourceConfigJson(const std::string& sets)
+{
+    return R"({"csi-ResourceConfigId":0,"csi-RS-ResourceSetList":)" + sets +
+           R"(,"bwp-Id":0,"resourceType":"aperiodic"})";
+}
+
+const auto report = within(csiMeas, R"({"csi-ReportConfigToAddModList":[@]})",
+                           [](auto& config)
+                           {
+                               config.numCsiReportCfgAddMod = 1;
+                               auto& made = fresh(config.csiReportCfg[0]);
+                               made.bitMask = RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE;
+                               made.groupBasedBeamReport.Presence = RRC_BASED_BEAM_REPORT_ENABLED;
+                               made.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_APERIODIC_PRESENCE;
+                               made.ReportCfgType_n.aperiodic.reportSlotOffsetNum = 1;
+                               made.rptQuBitMask = RRC_CSI_REPORT_QUANTITY_NONE_PRESENCE;
+                               return &made;
+                           });
+
+// A report configuration; optional members are given with their names.
+struct Report
+{
+    std::string type = R"({"aperiodic":{"reportSlotOffsetList":[0]}})";
+    std::string quantity = R"({"none":null})";
+    std::string frequency = "";
+    std::string codebook = "";
+    std::string dummy = "";
+    std::string group = R"({"enabled":null})";
+    std::string subband = "value1";
+    std::string ports = "";
+};
+
+std::string reportJson(const Report& parts)
+{
+    return test::object(
+        {R"("reportConfigId":0,"resourcesForChannelMeasurement":0,"reportConfigType":)" + parts.type +
+             R"(,"reportQuantity":)" + parts.quantity,
+         parts.frequency,
+         R"("timeRestrictionForChannelMeasurements":"configured","timeRestrictionForInterferenceMeasurements":"configured")",
+         parts.codebook, parts.dummy,
+         R"("groupBasedBeamReporting":)" + parts.group + R"(,"subbandSize":")" + parts.subband + '"', parts.ports});
+}
+
+const auto periodic = within(report, reportJson({.type = R"({"periodic":@})"}),
+                             [](auto& config)
+                             {
+                                 config.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_PERIODIC_PRESENCE;
+                                 auto& type = config.ReportCfgType_n.periodic;
+                                 type = {};
+                                 type.reportSlotCfg.periodicity = 1;
+                                 type.pucchCsiResourceNum = 1;
+                                 return &type;
+                             });
+
+std::string periodicJson(const std::string& slots)
+{
+    return R"({"reportSlotConfig":)" + slots +
+           R"(,"pucch-CSI-ResourceList":[{"uplinkBandwidthPartId":0,"pucch-Resource":0}]})";
+}
+
+const auto band = within(report, reportJson({.frequency = R"("reportFreqConfiguration":{"csi-ReportingBand":@})"}),
+                         [](auto& config)
+                         {
+                             config.bitMask |= RRC_CSI_REPORT_CFG_REPORT_FREQ_CFG_PRESENCE;
+                             config.reportFreqCfg.bitMask = RRC_REPORT_FREQ_CFG_CSI_REPORTINT_BAND_PRESENCE;
+                             return &config.reportFreqCfg;
+                         });
+
+const auto codebook = within(report, reportJson({.codebook = R"("codebookConfig":{"codebookType":@})"}),
+                             [](auto& config)
+                             {
+                                 config.bitMask |= RRC_CSI_REPORT_CFG_CODE_BOOK_CFG_PRESENCE;
+                                 return &fresh(config.codeBookCfg);
+                             });
+
+const auto type1 = within(codebook, R"({"type1":@})",
+                          [](auto& config)
+                          {
+                              config.Presence = RRC_CODE_BOOK_TYPE1_PRESENCE;
+                              config.CodeBookCfgType_u.codeBookType1.CodebookMode = 1;
+                              return &config.CodeBookCfgType_u.codeBookType1;
+                          });
+
+const auto singlePanel = within(type1, R"({"subType":{"typeI-SinglePanel":@},"codebookMode":1})",
+                                [](auto& type)
+                                {
+                                    type.codebookType1_Sub.Presence = RRC_CODE_BOOK_TYPE_SINGLE_PANEL;
+                                    auto& panel = type.codebookType1_Sub.CodeBookTypePanel_u.singlePanel;
+                                    panel.SinglePanel_nrOfAntennaPorts.Presence = RRC_NROF_ANTENNA_PORTS_TWO_PRESENCE;
+                                    return &panel;
+                                });
+
+const auto moreThanTwo =
+    within(singlePanel, R"({"nrOfAntennaPorts":{"moreThanTwo":@},"typeI-SinglePanel-ri-Restriction":"00000000"})",
+           [](auto& panel)
+           {
+               panel.SinglePanel_nrOfAntennaPorts.Presence = RRC_NROF_ANTENNA_PORTS_MORE_THANTWO_PRESENCE;
+               auto& ports = panel.SinglePanel_nrOfAntennaPorts.NrOfAntennaPorts_n.moreThanTwo;
+               ports.bitMask = RRC_MORE_THAN_TWO_N1_N2_PRESENCE;
+               return &ports;
+           });
+
+const auto multiPanel = within(type1, R"({"subType":{"typeI-MultiPanel":@},"codebookMode":1})",
+                               [](auto& type)
+                               {
+                                   type.codebookType1_Sub.Presence = RRC_CODE_BOOK_TYPE_MULTI_PANEL;
+                                   auto& panel = type.codebookType1_Sub.CodeBookTypePanel_u.multiPanel;
+                                   panel.bitMask = RRC_MULTI_PANEL_RESTRICT | RRC_RI_RESTRICTION;
+                                   panel.MultiPanel_Presence = RRC_TWO_TWO_ONE_TYPEI_MULTIPANEL_RESTRICT_PRESENCE;
+                                   panel.ri_Restriction = 1;
+                                   return &panel;
+                               });
+
+const auto type2 = within(codebook, R"({"type2":@})",
+                          [](auto& config)
+                          {
+                              config.Presence = RRC_CODE_BOOK_TYPE2_PRESENCE;
+                              auto& type = config.CodeBookCfgType_u.codeBookType2;
+                              type.bitMask = RRC_CODEBOOK_TYPE2_SUB;
+                              type.codebookType2_Sub.Presence = RRC_TYPEII_PORTSELECTION;
+                              return &type;
+                          });
+
+std::string
+type2Json(const std::string& phase = "n4", const std::string& amplitude = "false", const std::string& beams = "two",
+          const std::string& sub = R"({"typeII-PortSelection":{"typeII-PortSelectionRI-Restriction":"00"}})")
+{
+    return R"({"subType":)" + sub + R"(,"phaseAlphabetSize":")" + phase + R"(","subbandAmplitude":)" + amplitude +
+           R"(,"numberOfBeams":")" + beams + R"("})";
+}
+
+const auto typeII = within(type2, type2Json("n4", "false", "two", R"({"typeII":@})"),
+                           [](auto& type)
+                           {
+                               type.codebookType2_Sub.Presence = RRC_SUB_TYPE_TYPEII;
+                               auto& sub = type.codebookType2_Sub.Type2_subType_u.subType_typeII;
+                               sub.Restriction_Presence = RRC_TYPEII_RI_RESTRICTION_PRESENCE;
+                               return &sub;
+                           });
+
+std::string typeIIJson(const std::string& restriction)
+{
+    return R"({"n1-n2-codebookSubsetRestriction":)" + restriction + R"(,"typeII-RI-Restriction":"00"})";
+}
+
+const auto ports = within(report, reportJson({.ports = R"("non-PMI-PortIndication":[@])"}),
+                          [](auto& config)
+                          {
+                              config.bitMask |= RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE;
+                              fresh(config.RRCPortIndexFor8Ranks).numPortIndexFor8Ranks = 1;
+                              return &fresh(config.RRCPortIndexFor8Ranks.portIndexFor8Ranks[0]);
+                          });
+
+const auto triggerStates =
+    within(csiMeas, R"({"aperiodicTriggerStateList":{"setup":[{"associatedReportConfigInfoList":[@]}]}})",
+           [](auto& config)
+           {
+               config.bitMask = RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE;
+               fresh(config.aperiodicTriggerStateList).numState = 1;
+               auto& state = fresh(config.aperiodicTriggerStateList.state[0]);
+               state.numCfgInfo = 1;
+               state.info[0].prsence = RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_NZP_CSI_RS_PRESENCE;
+               state.info[0].resourceForChannel.nzpCsiRs.resourceSet = 1;
+               return &state.info[0];
+           });
+
+void resourceRows(Table& table)
+{
+    table.region("CSI resources (`RrcNzpCsiRsResource_t`, `RrcNzpCsiRsResourceSet_t`, `RrcCsiImResource_t`, "
+                 "`RrcCsiSsbResourceSet_t`, `RrcCsiResourceCfg_t`)");
+    table
+        .row("`numNzpCsiRsResources`, `numSsbResourceSet`",
+             "despite the names, the first is the list of ids, the second the count of `csiSsbIdx`",
+             "count the ids in `numNzpCsiRsRes`, the SSBs in `numSsbResourceSet`")
+        .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[191,7]})",
+              [](auto& r)
+              {
+                  r.numNzpCsiRsRes = 2;
+                  r.numNzpCsiRsResources[0] = 191;
+                  r.numNzpCsiRsResources[1] = 7;
+              })
+        .sent(ssbSet, R"({"csi-SSB-ResourceSetId":0,"csi-SSB-ResourceList":[63,0]})",
+              [](auto& r)
+              {
+                  r.numSsbResourceSet = 2;
+                  r.csiSsbIdx[0] = 63;
+              });
+    table
+        .row("`numNzpCsiRsRes`", "the low 8 of its 16 bits: 257 is sent as one resource; 65 to 256 are refused",
+             "store 1 to 64")
+        .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[5]})",
+              [](auto& r)
+              {
+                  r.numNzpCsiRsRes = 257;
+                  r.numNzpCsiRsResources[0] = 5;
+              })
+        .refused(resourceSet, ".nzp-CSI-RS-Resources: 0 elements, not 1..64", [](auto& r) { r.numNzpCsiRsRes = 256; })
+        .refused(resourceSet, ".nzp-CSI-RS-Resources: 65 elements, not 1..64", [](auto& r) { r.numNzpCsiRsRes = 65; });
+    table.row("`numCsiSsbResourceSet` above 1", "one id is sent, no error", "store 0 or 1")
+        .sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{"csi-SSB-ResourceSetList":[63]}})"),
+              [](auto& r)
+              {
+                  auto& sets = r.csiRsResourceSetList.nzpCsiRsResourceSetList;
+                  sets.numCsiSsbResourceSet = 2;
+                  sets.csiSsbResourceSetId[0] = 63;
+              });
+    table
+        .row("`numNzpCsiRsResourceSet`, `numCsiSsbResourceSet` both 0", "an empty nzp-CSI-RS-SSB, no error",
+             "list at least one set")
+        .sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{}})"));
+    table
+        .row("`RrcCsiResourceCfg_t.presence`, `RrcCsiImResource_t.presence` without exactly one bit",
+             "both: csi-IM-ResourceSetList or pattern1, with the union read as such; none: refused",
+             "set one bit of each")
+        .sent(resourceConfig, resourceConfigJson(R"({"csi-IM-ResourceSetList":[63]})"),
+              [](auto& r)
+              {
+                  r.presence |= RRC_CSI_RESOURCE_CFG_CSI_IM_RESOUECE_SET_LIST_PRESENCE;
+                  auto& sets = r.csiRsResourceSetList.nzpCsiRsResourceSetList;
+                  sets.numNzpCsiRsResourceSet = 1;
+                  sets.nzpCsiRsResourceSetId[0] = 63;
+              })
+        .refused(resourceConfig, ".csi-RS-ResourceSetList: tag 0 is not in 1..2", [](auto& r) { r.presence = 0; })
+        .sent(interference,
+              R"({"csi-IM-ResourceId":0,"csi-IM-ResourceElementPattern":{"pattern1":{"subcarrierLocation-p1":"s8",)"
+              R"("symbolLocation-p1":12}}})",
+              [](auto& r)
+              {
+                  r.bitMask = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE;
+                  r.presence =
+                      RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN0_PRESENCE | RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN1_PRESENCE;
+                  r.csiImResourceElementPattern.pattern0 = {2, 12};
+              })
+        .refused(interference, ".csi-IM-ResourceElementPattern: tag 0 is not in 1..2",
+                 [](auto& r) { r.bitMask = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE; });
+    table
+        .row("`RrcCsiRsResourceMapping_t`, `RrcCsiResourcePeriodictyAndOffset_t`",
+             "as in the PDSCH: lowest density, slots40 as slots32, unknown periods refused, low 8 bits of the offset",
+             "as there")
+        .sent(resource, resourceJson(mappingJson(R"({"row2":"000000000000"})"), R"({"slots32":31})"),
+              [](auto& r)
+              {
+                  r.resourceMapping.presenceFreqDomain = 3;
+                  r.resourceMapping.presenceDensity = 0x0E;
+                  r.bitMask = RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT;
+                  r.periodicityAndOffset = {8, 31};
+              })
+        .sent(interference, R"({"csi-IM-ResourceId":0,"periodicityAndOffset":{"slots4":1}})",
+              [](auto& r)
+              {
+                  r.bitMask = RRC_CSI_IM_RESOURCE_PERIODIC_OFFSET_PRESENCE;
+                  r.periodicityAndOffset = {1, 257};
+              })
+        .refused(resource, ".periodicityAndOffset: tag 0 is not in 1..13",
+                 [](auto& r) { r.bitMask = RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT; })
+        .printing("Have no CSI_ResourcePeriodicityAndOffset type\n");
+    table
+        .row("`RrcNzpCsiRsResource_t.powerControlOffset`", "the octet as a signed number: 248 is sent as -8 dB",
+             "add 256 to a negative number")
+        .sent(resource, resourceJson(mappingJson(), "", -8), [](auto& r) { r.powerControlOffset = 0xF8; });
+    table
+        .row("`numSsbResourceSet`, `numCsiImResources`, `numCsiImResourceSet` 0", "refused",
+             "list the entries, or leave set or configuration out")
+        .refused(ssbSet, ".csi-SSB-ResourceList: 0 elements, not 1..64")
+        .refused(csiMeas, ".csi-IM-ResourceSetToAddModList[0].csi-IM-Resources: 0 elements, not 1..8",
+                 [](auto& r)
+                 {
+                     r.numCsiImResourceSetAddMod = 1;
+                     rrcInit(&r.csiImResourceSetAddMod[0]);
+                 })
+        .refused(resourceConfig, ".csi-RS-ResourceSetList.csi-IM-ResourceSetList: 0 elements, not 1..16",
+                 [](auto& r) { r.presence = RRC_CSI_RESOURCE_CFG_CSI_IM_RESOUECE_SET_LIST_PRESENCE; });
+    table.row("`trsInfo`", "0 is sent as true, any other number is refused", "store 0: the bit alone says it")
+        .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[0],"trs-Info":"true"})",
+              [](auto& r) { r.bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE; })
+        .oneValue(resourceSet, RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE, &RrcNzpCsiRsResourceSet_t::trsInfo,
+                  "trs-Info");
+}
+
+void reportRows(Table& table)
+{
+    table.region("CSI reports (`RrcCsiReportCfg_t`)");
+    table
+        .row("`RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE` clear",
+             "refused: groupBasedBeamReporting is mandatory",
+             "always set it; for a report without groups choose `RRC_BASED_BEAM_REPORT_DISABLED`")
+        .refused(report, ".groupBasedBeamReporting: tag 0 is not in 1..2", [](auto& r) { r.bitMask = 0; });
+    table
+        .row("`RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE`, `nrofCQIsPerRep`",
+             "dummy: 0 is sent as n1, 1 as n2, any other number is refused",
+             "leave the bit clear: the UE does not read it")
+        .sent(report, reportJson({.dummy = R"("dummy":"n2")"}),
+              [](auto& r)
+              {
+                  r.bitMask |= RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE;
+                  r.nrofCQIsPerRep = 1;
+              })
+        .refused(report, ".dummy: 2 is not in 0..1",
+                 [](auto& r)
+                 {
+                     r.bitMask |= RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE;
+                     r.nrofCQIsPerRep = 2;
+                 });
+    table
+        .row("`CqisPerReportNum`, `BeamReporting_n.enabled`, `PortIndexFor8Ranks_n.portIndex1`", "not read",
+             "leave them 0")
+        .sent(report, reportJson({}),
+              [](auto& r)
+              {
+                  r.CqisPerReportNum = 255;
+                  r.groupBasedBeamReport.BeamReporting_n.enabled = 0xFFFF;
+              })
+        .sent(ports, R"({"portIndex1":null})",
+              [](auto& r)
+              {
+                  r.Presence = RRC_PORT_INDEX1_PRESENCE;
+                  r.PortIndexFor8Ranks_n.portIndex1 = 0xFFFF;
+              });
+    table
+        .row("`subBandSize`", "always sent, the BOOL as an enumeration: 0 value1, 1 value2, others refused",
+             "store 0 where the size does not matter")
+        .sent(report, reportJson({.subband = "value2"}), [](auto& r) { r.subBandSize = 1; })
+        .refused(report, ".subbandSize: 256 is not in 0..1", [](auto& r) { r.subBandSize = 256; });
+    table
+        .row("`RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE`, `ReportSlotConfig_v1530`",
+             "not sent, whatever the field holds",
+             "there is no way; choose a period of `SemiPersistentOnPuSch_t.reportSlotCfg`")
+        .sent(report, reportJson({}),
+              [](auto& r)
+              {
+                  r.bitMask |= RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE;
+                  r.semimPersistentOnPuschv1530_t.ReportSlotConfig_v1530 = 255;
+              });
+    table
+        .row("`cfgTypeBitMask`, `rptQuBitMask`, `csiRptBandBitMask`, `RrcgroupBasedBeamReport_t.Presence`, "
+             "`RrcPortIndexFor8Ranks_t.Presence` without exactly one bit",
+             "of several the highest, with the union read as its member; without one refused", "set one bit of each")
+        .sent(report, reportJson({.type = R"({"aperiodic":{"reportSlotOffsetList":[32]}})"}),
+              [](auto& r)
+              {
+                  r.cfgTypeBitMask |= RRC_CSI_REPORT_CFG_TYPE_PERIODIC_PRESENCE;
+                  r.ReportCfgType_n.aperiodic.reportSlotOffset[0] = 32;
+              })
+        .refused(report, ".reportConfigType: tag 0 is not in 1..4", [](auto& r) { r.cfgTypeBitMask = 0; })
+        .sent(report, reportJson({.quantity = R"({"cri-RI-CQI":null})"}), [](auto& r) { r.rptQuBitMask = 0x18; })
+        .sent(report, reportJson({.quantity = R"({"cri-RI-i1-CQI":{}})"}), [](auto& r) { r.rptQuBitMask = 0x09; })
+        .refused(report, ".reportQuantity: tag 0 is not in 1..8", [](auto& r) { r.rptQuBitMask = 0; })
+        .sent(band, R"({"subbands19-v1530":)" + test::bits(0x40005, 19) + "}",
+              [](auto& r)
+              {
+                  r.csiRptBandBitMask = RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS3 |
+                                        RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS19_V1530;
+                  r.CsiReportingBand_n.subbands19_v1530 = 0x40005;
+              })
+        .refused(band, ": tag 0 is not in 1..17")
+        .sent(report, reportJson({.group = R"({"disabled":{}})"}),
+              [](auto& r)
+              { r.groupBasedBeamReport.Presence = RRC_BASED_BEAM_REPORT_ENABLED | RRC_BASED_BEAM_REPORT_DISABLED; })
+        .refused(report, ".groupBasedBeamReporting: tag 0 is not in 1..2",
+                 [](auto& r) { r.groupBasedBeamReport.Presence = 0; })
+        .sent(ports, R"({"portIndex2":{"rank1-2":1}})",
+              [](auto& r)
+              {
+                  r.Presence = RRC_PORT_INDEX8_PRESENCE | RRC_PORT_INDEX2_PRESENCE;
+                  r.PortIndexFor8Ranks_n.portIndex8.bitMask = 1;
+                  r.PortIndexFor8Ranks_n.portIndex8.rank1_8 = 1;
+              })
+        .refused(ports, ": tag 0 is not in 1..4");
+    table
+        .row("`reportSlotCfg.periodicity` 0 or above 10",
+             "the line \"No T_CSI_ReportPeriodicityAndOffset\", then refused", "store 1 (slots4) to 10 (slots320)")
+        .refused(periodic, ".reportSlotConfig: tag 0 is not in 1..10", [](auto& r) { r.reportSlotCfg.periodicity = 0; })
+        .printing("No T_CSI_ReportPeriodicityAndOffset\n")
+        .refused(periodic, ".reportSlotConfig: tag 11 is not in 1..10",
+                 [](auto& r) { r.reportSlotCfg.periodicity = 11; })
+        .printing("No T_CSI_ReportPeriodicityAndOffset\n");
+    table
+        .row("`reportSlotCfg.offset`, slots320", "0 to 255: an octet cannot hold more",
+             "keep the offset of a period of 320 slots below 256")
+        .sent(periodic, periodicJson(R"({"slots320":255})"),
+              [](auto& r) {
+                  r.reportSlotCfg = {10, 255};
+              });
+    table
+        .row("`pucchCsiResourceNum`, `reportSlotOffsetNum`, `numPortIndexFor8Ranks` 0", "refused",
+             "list the entries; to leave port indices out, clear `RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE`")
+        .refused(periodic, ".pucch-CSI-ResourceList: 0 elements, not 1..4", [](auto& r) { r.pucchCsiResourceNum = 0; })
+        .refused(report, ".reportConfigType.aperiodic.reportSlotOffsetList: 0 elements, not 1..16",
+                 [](auto& r) { r.ReportCfgType_n.aperiodic.reportSlotOffsetNum = 0; })
+        .refused(report, ".non-PMI-PortIndication: 0 elements, not 1..128",
+                 [](auto& r)
+                 {
+                     r.bitMask |= RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE;
+                     rrcInit(&r.RRCPortIndexFor8Ranks);
+                 });
+    table
+        .row("`numRank2_8` to `numRank8_8`, `numRank2_4` to `numRank4_4`, `numRank2_2`",
+             "lists of fixed size: not 0 sends the list, with missing entries as 0 and surplus ones dropped, no error",
+             "store the rank, for ranks 3 and 4 of portIndex4 the 2 that there is room for")
+        .sent(ports, R"({"portIndex8":{"rank2-8":[7,7],"rank8-8":[7,0,0,0,0,0,0,0]}})",
+              [](auto& r)
+              {
+                  r.Presence = RRC_PORT_INDEX8_PRESENCE;
+                  auto& index = r.PortIndexFor8Ranks_n.portIndex8;
+                  index.numRank2_8 = 255;
+                  std::fill(std::begin(index.PortIndex2_8), std::end(index.PortIndex2_8), UINT8{7});
+                  index.numRank8_8 = 1;
+                  std::fill(std::begin(index.PortIndex8_8), std::end(index.PortIndex8_8), UINT8{7});
+              })
+        .sent(ports, R"({"portIndex2":{"rank2-2":[1,0]}})",
+              [](auto& r)
+              {
+                  r.Presence = RRC_PORT_INDEX2_PRESENCE;
+                  r.PortIndexFor8Ranks_n.portIndex2.numRank2_2 = 1;
+                  r.PortIndexFor8Ranks_n.portIndex2.PortIndex2_2[0] = 1;
+                  r.PortIndexFor8Ranks_n.portIndex2.PortIndex2_2[1] = 1;
+              });
+    table
+        .row("`PortIndex3_4`, `PortIndex4_4`",
+             "two entries each: the third of rank 3, the third and fourth of rank 4 are 0",
+             "there is no way to give other ports there; use such ranks only if port 0 is right")
+        .sent(ports, R"({"portIndex4":{"rank3-4":[3,3,0],"rank4-4":[2,2,0,0]}})",
+              [](auto& r)
+              {
+                  r.Presence = RRC_PORT_INDEX4_PRESENCE;
+                  auto& index = r.PortIndexFor8Ranks_n.portIndex4;
+                  index.numRank3_4 = 2;
+                  index.numRank4_4 = 4;
+                  std::fill(std::begin(index.PortIndex3_4), std::end(index.PortIndex3_4), UINT8{3});
+                  std::fill(std::begin(index.PortIndex4_4), std::end(index.PortIndex4_4), UINT8{2});
+              });
+}
+
+void codebookRows(Table& table)
+{
+    table.region("Codebooks (`RrcCodebookCfg_t`)");
+    table
+        .row("`RrcCodebookCfg_t.Presence`, `CodebookType1_Sub_t.Presence`, `SinglePanel_nrOfAntennaPorts_t.Presence`, "
+             "`N1_N2_Presence`, `Codebooktype2_Sub_t.Presence`, `Restriction_Presence` without exactly one bit",
+             "of several the highest, with the union read as its member; without one refused", "set one bit of each")
+        .sent(type2, type2Json())
+        .refused(codebook, ": tag 0 is not in 1..2")
+        .refused(type1, ".subType: tag 0 is not in 1..2")
+        .sent(singlePanel, R"({"nrOfAntennaPorts":{"two":{"twoTX-CodebookSubsetRestriction":"000000"}},)"
+                           R"("typeI-SinglePanel-ri-Restriction":"00000000"})")
+        .refused(singlePanel, ".nrOfAntennaPorts: tag 0 is not in 1..2",
+                 [](auto& r) { r.SinglePanel_nrOfAntennaPorts.Presence = 0; })
+        .sent(moreThanTwo, R"({"n1-n2":{"four-one-TypeI-SinglePanel-Restriction":"1000000000000001"}})",
+              [](auto& r)
+              {
+                  r.N1_N2_Presence = RRC_TWO_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE |
+                                     RRC_FOUR_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                  r.MoreThanTwo_n1_n2_u.four_one = 0x8001;
+              })
+        .refused(moreThanTwo, ".n1-n2: tag 0 is not in 1..13")
+        .sent(
+            type2,
+            type2Json("n4", "false", "two", R"({"typeII-PortSelection":{"typeII-PortSelectionRI-Restriction":"10"}})"),
+            [](auto& r)
+            {
+                r.codebookType2_Sub.Presence = RRC_SUB_TYPE_TYPEII | RRC_TYPEII_PORTSELECTION;
+                r.codebookType2_Sub.Type2_subType_u.typeII_PortSelection.typeII_PortSelectionRI_Restriction = 2;
+            })
+        .refused(type2, ".subType: tag 0 is not in 1..2", [](auto& r) { r.codebookType2_Sub.Presence = 0; })
+        .sent(typeII, typeIIJson(R"({"four-one":)" + test::bits(0x80000001, 32) + "}"),
+              [](auto& r)
+              {
+                  r.Restriction_Presence |=
+                      RRC_SUB_SET_RESTRICT_TWO_ONE_PRESENCE | RRC_SUB_SET_RESTRICT_FOUR_ONE_PRESENCE;
+                  r.SubsetRestriction_u.four_one = 0x80000001;
+              })
+        .refused(typeII, ".n1-n2-codebookSubsetRestriction: tag 0 is not in 1..13");
+    table
+        .row("`CodeBookTypeMultiPanel_t`",
+             "refused: ri-Restriction has 8 bits, or none without `RRC_RI_RESTRICTION`, where 4 are asked for",
+             "there is no way to send the multi-panel codebook; use the single-panel one")
+        .refused(multiPanel, ".ri-Restriction: a bit string of 8 bits, not 4")
+        .refused(multiPanel, ".ri-Restriction: a bit string of 0 bits, not 4",
+                 [](auto& r) { r.bitMask = RRC_MULTI_PANEL_RESTRICT; })
+        .refused(multiPanel, ".ng-n1-n2: tag 0 is not in 1..8", [](auto& r) { r.bitMask = RRC_RI_RESTRICTION; });
+    table
+        .row("`RRC_MORE_THAN_TWO_N1_N2_PRESENCE`, `RRC_CODEBOOK_TYPE2_SUB`, `RRC_TYPEII_RI_RESTRICTION_PRESENCE` clear",
+             "refused: each guards a mandatory member", "always set them")
+        .refused(moreThanTwo, ".n1-n2: tag 0 is not in 1..13",
+                 [](auto& r)
+                 {
+                     r.bitMask = 0;
+                     r.N1_N2_Presence = RRC_TWO_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                 })
+        .refused(type2, ".subType: tag 0 is not in 1..2", [](auto& r) { r.bitMask = 0; })
+        .refused(typeII, ".typeII-RI-Restriction: a bit string of 0 bits, not 2",
+                 [](auto& r) { r.Restriction_Presence = RRC_SUB_SET_RESTRICT_TWO_ONE_PRESENCE; });
+    table
+        .row("`RRC_PHASE_ALPHA_BET_SIZE`, `RRC_SUB_BAND_AMPLITUDE`, `RRC_NUM_BER_OFBEAMS` clear",
+             "the members are mandatory and go out as n4, false, two", "set the bit where another value is meant")
+        .sent(type2, type2Json(),
+              [](auto& r)
+              {
+                  r.phaseAlphabetSize = 1;
+                  r.subBandAmplitude = 1;
+                  r.numberOfBeams = 2;
+              });
+    table
+        .row("`phaseAlphabetSize`, `numberOfBeams`, `subBandAmplitude`",
+             "of their 64 bits the low 32, of `subBandAmplitude` the low 8: 2^32 is sent as n4 or two, 256 as false",
+             "store 0 or 1, of `numberOfBeams` 0 to 2")
+        .sent(type2, type2Json(),
+              [](auto& r)
+              {
+                  r.bitMask |= RRC_PHASE_ALPHA_BET_SIZE | RRC_SUB_BAND_AMPLITUDE | RRC_NUM_BER_OFBEAMS;
+                  r.phaseAlphabetSize = 1ULL << 32;
+                  r.subBandAmplitude = 256;
+                  r.numberOfBeams = 1ULL << 32;
+              })
+        .sent(type2, type2Json("n8", "true", "four"),
+              [](auto& r)
+              {
+                  r.bitMask |= RRC_PHASE_ALPHA_BET_SIZE | RRC_SUB_BAND_AMPLITUDE | RRC_NUM_BER_OFBEAMS;
+                  r.phaseAlphabetSize = (1ULL << 32) + 1;
+                  r.subBandAmplitude = 257;
+                  r.numberOfBeams = (1ULL << 32) + 2;
+              });
+    table
+        .row("`MoreThanTwo_n1_n2_u.two_two`, `MoreThanTwo_n1_n2_u.sixteen_one`",
+             "the octets as they lie in memory, on x86-64 the low one first", "fill the number octet by octet")
+        .sent(moreThanTwo,
+              R"({"n1-n2":{"two-two-TypeI-SinglePanel-Restriction":)" + test::bits(0xEFCDAB8967452301, 64) + "}}",
+              [](auto& r)
+              {
+                  r.N1_N2_Presence = RRC_TWO_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                  r.MoreThanTwo_n1_n2_u.two_two = 0x0123456789ABCDEF;
+              })
+        .sent(moreThanTwo,
+              R"({"n1-n2":{"sixteen-one-TypeI-SinglePanel-Restriction":"1)" + std::string(63, '0') + "\"}}",
+              [](auto& r)
+              {
+                  r.N1_N2_Presence = RRC_SIXTEEN_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                  r.MoreThanTwo_n1_n2_u.sixteen_one = 0x80;
+              });
+    table
+        .row("the arrays of `MoreThanTwo_n1_n2_u` and `SubsetRestriction_u`, such as `four_two`",
+             "the octets in their order, of the last one the most significant bits as far as the string goes",
+             "store the first bit in bit 7 of the first octet")
+        .sent(moreThanTwo, R"({"n1-n2":{"three-two-TypeI-SinglePanel-Restriction":"1)" + std::string(94, '0') + "1\"}}",
+              [](auto& r)
+              {
+                  r.N1_N2_Presence = RRC_THREE_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                  r.MoreThanTwo_n1_n2_u.three_two[0] = 0x80;
+                  r.MoreThanTwo_n1_n2_u.three_two[11] = 0x01;
+              })
+        .sent(typeII, typeIIJson(R"({"four-two":"1)" + std::string(73, '0') + R"(1"})"),
+              [](auto& r)
+              {
+                  r.Restriction_Presence |= RRC_SUB_SET_RESTRICT_FOUR_TWO_PRESENCE;
+                  r.SubsetRestriction_u.four_two[0] = 0x80;
+                  r.SubsetRestriction_u.four_two[9] = 0x3F;
+              })
+        .sent(typeII, typeIIJson(R"({"sixteen-one":")" + std::string(127, '0') + R"(1"})"),
+              [](auto& r)
+              {
+                  r.Restriction_Presence |= RRC_SUB_SET_RESTRICT_SIXTEEN_ONE_PRESENCE;
+                  r.SubsetRestriction_u.sixteen_one[15] = 0x01;
+              });
+    table
+        .row("`MoreThanTwo_n1_n2_u.six_one`, `MoreThanTwo_n1_n2_u.twelve_one`, `SubsetRestriction_u.two_two`, "
+             "`SubsetRestriction_u.three_two`, `SubsetRestriction_u.six_one`",
+             "the low bits, as many as the string has; higher ones are dropped",
+             "store the first bit in the highest bit of the string")
+        .sent(moreThanTwo, R"({"n1-n2":{"six-one-TypeI-SinglePanel-Restriction":)" + test::bits(1, 24) + "}}",
+              [](auto& r)
+              {
+                  r.N1_N2_Presence = RRC_SIX_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                  r.MoreThanTwo_n1_n2_u.six_one = 0xFF000001;
+              })
+        .sent(moreThanTwo, R"({"n1-n2":{"twelve-one-TypeI-SinglePanel-Restriction":)" + test::bits(1, 48) + "}}",
+              [](auto& r)
+              {
+                  r.N1_N2_Presence = RRC_TWELVE_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
+                  r.MoreThanTwo_n1_n2_u.twelve_one = 0xFFFF000000000001;
+              })
+        .sent(typeII, typeIIJson(R"({"two-two":)" + test::bits(1, 43) + "}"),
+              [](auto& r)
+              {
+                  r.Restriction_Presence |= RRC_SUB_SET_RESTRICT_TWO_TWO_PRESENCE;
+                  r.SubsetRestriction_u.two_two = (1ULL << 43) + 1;
+              })
+        .sent(typeII, typeIIJson(R"({"three-two":)" + test::bits(1, 59) + "}"),
+              [](auto& r)
+              {
+                  r.Restriction_Presence |= RRC_SUB_SET_RESTRICT_THREE_TWO_PRESENCE;
+                  r.SubsetRestriction_u.three_two = (1ULL << 59) + 1;
+              })
+        .sent(typeII, typeIIJson(R"({"six-one":)" + test::bits(1, 48) + "}"),
+              [](auto& r)
+              {
+                  r.Restriction_Presence |= RRC_SUB_SET_RESTRICT_SIX_ONE_PRESENCE;
+                  r.SubsetRestriction_u.six_one = (1ULL << 48) + 1;
+              });
+}
+
+void measurementRows(Table& table)
+{
+    table.region("CSI measurement and trigger states (`RrcCsiMeasCfg_t`)");
+    table
+        .row("`RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE` with `numState` 0, "
+             "`RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE` with `numTriggeState` 0",
+             "refused: neither setup nor release", "clear the bit; such a list cannot be released")
+        .refused(csiMeas, ".aperiodicTriggerStateList: tag 0 is not in 1..2",
+                 [](auto& r)
+                 {
+                     r.bitMask = RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE;
+                     rrcInit(&r.aperiodicTriggerStateList);
+                 })
+        .refused(csiMeas, ".semiPersistentOnPUSCH-TriggerStateList: tag 0 is not in 1..2",
+                 [](auto& r) { r.bitMask = RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE; });
+    table.row("`numCfgInfo` 0", "refused", "give each trigger state at least one report")
+        .refused(csiMeas, ".aperiodicTriggerStateList.setup[0].associatedReportConfigInfoList: 0 elements, not 1..16",
+                 [](auto& r)
+                 {
+                     r.bitMask = RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE;
+                     fresh(r.aperiodicTriggerStateList).numState = 1;
+                     rrcInit(&r.aperiodicTriggerStateList.state[0]);
+                 });
+    table
+        .row("`resourceForChannel.csiSsbResourceSet.csiImResourceSet`",
+             "csi-SSB-ResourceSet, despite the name: nothing of CSI-IM", "store 1, the number of the one CSI-SSB set")
+        .sent(triggerStates, R"({"reportConfigId":0,"resourcesForChannel":{"csi-SSB-ResourceSet":1}})",
+              [](auto& r)
+              {
+                  r.prsence = RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_CSI_SSB_SET_PRESENCE;
+                  r.resourceForChannel.csiSsbResourceSet.csiImResourceSet = 1;
+              });
+    table
+        .row("`prsence` without exactly one bit",
+             "both: csi-SSB-ResourceSet, from the octet of `resourceForChannel.nzpCsiRs.resourceSet`; none: refused",
+             "set one bit")
+        .sent(triggerStates, R"({"reportConfigId":0,"resourcesForChannel":{"csi-SSB-ResourceSet":1}})",
+              [](auto& r) { r.prsence |= RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_CSI_SSB_SET_PRESENCE; })
+        .refused(triggerStates, ".resourcesForChannel: tag 0 is not in 1..2", [](auto& r) { r.prsence = 0; });
+    table
+        .row("no field: csi-IM-ResourcesForInterference and nzp-CSI-RS-ResourcesForInterference of a trigger state",
+             "not sent",
+             "in reports that are triggered, clear "
+             "`RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE` and "
+             "`RRC_CSI_REPORT_CFG_NZP_CSI_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE`")
+        .sent(triggerStates,
+              R"({"reportConfigId":0,"resourcesForChannel":{"nzp-CSI-RS":{"resourceSet":1,"qcl-info":[0]}}})",
+              [](auto& r)
+              {
+                  r.prsence = 0xFF & ~RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_CSI_SSB_SET_PRESENCE;
+                  r.resourceForChannel.nzpCsiRs.numQciInfo = 1;
+              });
+}
+
+} // namespace
+
+void csiRows(Table& table)
+{
+    resourceRows(table);
+    reportRows(table);
+    codebookRows(table);
+    measurementRows(table);
+}
+
+} // namespace behaviour

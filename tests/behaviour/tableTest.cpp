@@ -1,0 +1,247 @@
+// The rows of docs/behaviour.md, each composed through the entry, and the document's table against the rows.
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <vector>
+
+#include "behaviour.h"
+#include "gnbCommon/duCompose.h"
+#include "support/ComposerTest.h"
+
+extern "C"
+{
+INT32 __real_duComposeSCS_SpecificCarrier(OSCTXT*, SCS_SpecificCarrier*, SpecificCarrier_t*);
+INT32 __real_duComposeBWP_DownlinkCommon(OSCTXT*, BWP_DownlinkCommon*, NrBwpDownLinkCommon_t*);
+INT32 __real_duComposeBWP_UplinkCommon(OSCTXT*, BWP_UplinkCommon*, InitialUlBwp_t*);
+INT32 __real_duComposeTDD_UL_DL_ConfigCommon(OSCTXT*, TDD_UL_DL_ConfigCommon*, TddUlDlCfgCom_t*);
+
+INT32 __wrap_duComposeSCS_SpecificCarrier(OSCTXT* pAsnCxt, SCS_SpecificCarrier* pCarrier, SpecificCarrier_t* pRecord)
+{
+    (void)__real_duComposeSCS_SpecificCarrier(pAsnCxt, pCarrier, pRecord);
+    return VOS_ERROR;
+}
+
+INT32 __wrap_duComposeBWP_DownlinkCommon(OSCTXT* pAsnCxt, BWP_DownlinkCommon* pBwp, NrBwpDownLinkCommon_t* pRecord)
+{
+    (void)__real_duComposeBWP_DownlinkCommon(pAsnCxt, pBwp, pRecord);
+    return VOS_ERROR;
+}
+
+INT32 __wrap_duComposeBWP_UplinkCommon(OSCTXT* pAsnCxt, BWP_UplinkCommon* pBwp, InitialUlBwp_t* pRecord)
+{
+    (void)__real_duComposeBWP_UplinkCommon(pAsnCxt, pBwp, pRecord);
+    return VOS_ERROR;
+}
+
+INT32 __wrap_duComposeTDD_UL_DL_ConfigCommon(OSCTXT* pAsnCxt, TDD_UL_DL_ConfigCommon* pTdd, TddUlDlCfgCom_t* pRecord)
+{
+    (void)__real_duComposeTDD_UL_DL_ConfigCommon(pAsnCxt, pTdd, pRecord);
+    return VOS_ERROR;
+}
+}
+
+namespace
+{
+
+using behaviour::Row;
+
+constexpr const char* documentName = "docs/behaviour.md";
+constexpr const char* tableBegin = "<!-- The table: tests/behaviour -->\n";
+constexpr const char* tableEnd = "<!-- End of the table -->\n";
+
+std::string contents(const std::filesystem::path& name)
+{
+    std::ifstream file(name, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return file ? text.str() : "";
+}
+
+// C without its comments.
+std::string code(std::string text)
+{
+    for (size_t begin = text.find("/*"); begin != std::string::npos; begin = text.find("/*", begin))
+    {
+        text.erase(begin, text.find("*/", begin) + 2 - begin);
+    }
+    return std::regex_replace(text, std::regex("//[^\n]*"), "");
+}
+
+struct Document
+{
+    std::string before;
+    std::string table;
+    std::string after;
+};
+
+// The document, parted at the two marks; all of it is `before` when they are not there.
+Document document()
+{
+    const std::string text = contents(documentName);
+    const size_t begin = text.find(tableBegin);
+    const size_t end = text.find(tableEnd);
+    if (begin == std::string::npos || end == std::string::npos || end < begin)
+    {
+        return {text, "", ""};
+    }
+    const size_t first = begin + std::strlen(tableBegin);
+    return {text.substr(0, first), text.substr(first, end - first), text.substr(end)};
+}
+
+class rows : public test::ComposerTest, public testing::WithParamInterface<const Row*>
+{
+protected:
+    void expect(const behaviour::Run& run)
+    {
+        // What the runs before have left in it must not matter, nor what it held at first.
+        static const std::unique_ptr<RrcCellGroupCfg_t> record = []
+        {
+            auto junk = std::make_unique<RrcCellGroupCfg_t>();
+            std::memset(junk.get(), 0xA5, sizeof *junk);
+            return junk;
+        }();
+        constexpr UINT32 untouched = 0xA5A5A5A5;
+        std::vector<UINT8> octets(8192);
+        Mbuf_t message = {untouched, octets.data()};
+        run.fill(*record);
+        const INT32 result = rrcComposeCellGroupCfg(record.get(), &message);
+        const std::string lines = printed();
+        if (run.message.empty())
+        {
+            EXPECT_EQ(result, VOS_ERROR) << run.refusal;
+            EXPECT_EQ(message.bufLen, untouched) << run.refusal;
+            EXPECT_EQ(lines.substr(0, lines.find("\nCELL GROUP")),
+                      run.notice + "rrcComposeCellGroupCfg Error\r\n" + run.refusal);
+        }
+        else
+        {
+            ASSERT_EQ(result, VOS_OK) << run.message << "\n" << lines.substr(0, lines.find("\nCELL GROUP"));
+            EXPECT_EQ(lines, "");
+            expectDecoded("CellGroupConfig", hexOf(octets.data(), message.bufLen), run.message);
+        }
+        EXPECT_TRUE(!run.holds || run.holds(*record)) << "the record afterwards";
+    }
+};
+
+TEST_P(rows, hold)
+{
+    const Row& row = *GetParam();
+    SCOPED_TRACE(row.region + ": " + row.field);
+    EXPECT_EQ(row.runs.empty(), !row.untested.empty());
+    for (const behaviour::Run& run : row.runs)
+    {
+        expect(run);
+    }
+}
+
+std::vector<const Row*> each()
+{
+    std::vector<const Row*> all;
+    for (const Row& row : behaviour::table().rows())
+    {
+        all.push_back(&row);
+    }
+    return all;
+}
+
+// The region's letters and the row's number within the table.
+std::string rowName(const testing::TestParamInfo<const Row*>& info)
+{
+    std::string name;
+    for (const char c : info.param->region.substr(0, info.param->region.find(" (")))
+    {
+        name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? std::string(1, c) : "";
+    }
+    return name + std::to_string(info.index + 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(behaviour, rows, testing::ValuesIn(each()), rowName);
+
+TEST(document, HasTheRows)
+{
+    std::istringstream is(document().table);
+    std::istringstream should(behaviour::table().markdown());
+    std::string line;
+    std::string meant;
+    while (std::getline(should, meant))
+    {
+        std::getline(is, line);
+        ASSERT_EQ(line, meant) << "behaviour.table --update brings " << documentName << " up to date";
+    }
+    EXPECT_FALSE(std::getline(is, line)) << line;
+    EXPECT_EQ(document().table, behaviour::table().markdown());
+}
+
+TEST(document, NamesFieldsThatExist)
+{
+    std::string headers;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator("Common/Inc"))
+    {
+        headers += entry.is_regular_file() ? code(contents(entry.path())) : "";
+    }
+    const std::regex word("[A-Za-z_][A-Za-z0-9_]*");
+    const std::set<std::string> known(std::sregex_token_iterator(headers.begin(), headers.end(), word), {});
+    ASSERT_GT(known.size(), 1000U);
+
+    // Between backquotes: names, "NAME_..." for all that begin so.
+    const std::regex quoted("`([^`]*)`");
+    const std::regex name("([A-Za-z_][A-Za-z0-9_]*)(\\.\\.\\.)?");
+    for (const Row& row : behaviour::table().rows())
+    {
+        EXPECT_NE(row.field.find('`'), row.field.find("no field: ")) << row.field; // one of them is there
+        const std::string cells = row.region + row.field + row.goesOut + row.instead;
+        EXPECT_EQ(std::count(cells.begin(), cells.end(), '`') % 2, 0) << cells;
+        EXPECT_EQ(cells.find('|'), std::string::npos) << cells;
+        for (std::sregex_iterator quote(cells.begin(), cells.end(), quoted), none; quote != none; ++quote)
+        {
+            const std::string text = (*quote)[1];
+            for (std::sregex_iterator found(text.begin(), text.end(), name); found != none; ++found)
+            {
+                const std::string wanted = (*found)[1];
+                const auto at = known.lower_bound(wanted);
+                EXPECT_TRUE(at != known.end() &&
+                            ((*found)[2].matched ? at->compare(0, wanted.size(), wanted) == 0 : *at == wanted))
+                    << "'" << wanted << "' is not in Common/Inc: " << row.field;
+            }
+        }
+    }
+}
+
+// Writes the rows into the document.
+int update()
+{
+    const Document now = document();
+    if (now.after.empty())
+    {
+        std::fprintf(stderr, "%s is not here or does not have both marks\n", documentName);
+        return 1;
+    }
+    std::ofstream(documentName, std::ios::binary) << now.before << behaviour::table().markdown() << now.after;
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::string option = argc == 2 ? argv[1] : "";
+    if (option == "--table")
+    {
+        std::cout << behaviour::table().markdown();
+        return 0;
+    }
+    if (option == "--update")
+    {
+        return update();
+    }
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}
