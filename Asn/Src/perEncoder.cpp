@@ -52,12 +52,11 @@ Bits Encoder::put(Bits b, uint64_t v, unsigned n) const
     return append(b, v, n);
 }
 
-Bits Encoder::appendAcross(Bits b, uint64_t v, unsigned n) const
+Bits Encoder::startWord(Bits b, uint64_t v, unsigned n) const
 {
-    b.pos += n;
-    const auto rest = static_cast<unsigned>(b.pos % 64);
-    store(b.pos / 64 - 1, b.word << (n - rest) | v >> rest);
-    return {v, b.pos};
+    const auto rest = static_cast<uint32_t>(b.pos);
+    store((b.pos >> 32) - 1, b.word << (n - rest) | v >> rest);
+    return {v, b.pos + (Bits::full - 64)};
 }
 
 // X.691 11.6
@@ -166,52 +165,53 @@ Bits Encoder::unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, ui
 // Writes the bits that are still in the register.
 void Encoder::flush(Bits b) const
 {
-    const auto used = static_cast<unsigned>(b.pos % 64);
+    const auto used = static_cast<unsigned>(b.bits() % 64);
     if (used == 0)
     {
         return;
     }
     const uint64_t octets = __builtin_bswap64(b.word << (64 - used));
-    std::memcpy(data_ + b.pos / 64 * 8, &octets, (used + 7) / 8);
+    std::memcpy(data_ + b.bits() / 64 * 8, &octets, (used + 7) / 8);
 }
 
 // Reads back the bits behind the last whole word.
-Bits Encoder::resume(uint64_t pos) const
+Bits Encoder::resume(uint64_t end) const
 {
-    const auto used = static_cast<unsigned>(pos % 64);
+    const auto used = static_cast<unsigned>(end % 64);
     if (used == 0)
     {
-        return {0, pos};
+        return {0, Bits::place(end)};
     }
     uint64_t octets = 0;
-    std::memcpy(&octets, data_ + pos / 64 * 8, (used + 7) / 8);
-    return {__builtin_bswap64(octets) >> (64 - used), pos};
+    std::memcpy(&octets, data_ + end / 64 * 8, (used + 7) / 8);
+    return {__builtin_bswap64(octets) >> (64 - used), Bits::place(end)};
 }
 
 // X.691 11.2.1: the content is padded to whole octets, at least one; its length stands before it.
-Bits Encoder::closeOpenType(Bits b, uint64_t start) const
+Bits Encoder::closeOpenType(Bits b, uint64_t place) const
 {
     if (!ok(b))
     {
         return b;
     }
-    const uint64_t bits = b.pos - start - 8;
+    const uint64_t start = Bits::bits(place);
+    const uint64_t bits = b.bits() - start - 8;
     const auto padding = static_cast<unsigned>(bits == 0 ? 8 : (8 - bits % 8) % 8);
     if (padding != 0)
     {
         b = put(b, 0, padding);
     }
-    const uint64_t octets = (b.pos - start) / 8 - 1;
+    const uint64_t octets = (b.bits() - start) / 8 - 1;
 
     // 11.9.3.8: fragments of 16K, as many as four under one header, then the rest with a length of its own
     const uint64_t whole = octets / fragment;
     const uint64_t last = octets % fragment;
     const uint64_t runs = (whole + longestRun - 1) / longestRun;
     const uint64_t headers = runs + (last < shortLength ? 1 : 2);
-    const uint64_t end = b.pos + (headers - 1) * 8;
-    if (end > limit_)
+    const uint64_t end = b.bits() + (headers - 1) * 8;
+    if (Bits::place(end) > limit_)
     {
-        return {0, end};
+        return {0, Bits::place(end)};
     }
     flush(b);
     uint64_t from = start + 8 + whole * fragment * 8; // the last part moves first
@@ -257,7 +257,7 @@ int Encoder::ready(OSCTXT& ctxt, const char* name, const void* value)
 
 int Encoder::finish(Bits b, const char* name)
 {
-    if (ok(b) && b.pos == 0)
+    if (ok(b) && b.bits() == 0)
     {
         b = put<8>(b, 0); // X.691 11.1.3: an empty encoding is one zero octet
     }
@@ -267,7 +267,7 @@ int Encoder::finish(Bits b, const char* name)
         return ctxt_.error.status;
     }
     flush(b);
-    ctxt_.buffer.msgLen = (b.pos + 7) / 8;
+    ctxt_.buffer.msgLen = (b.bits() + 7) / 8;
     return RTX_OK;
 }
 
@@ -332,7 +332,7 @@ void Encoder::noteOverflow(Bits b)
 {
     if (b.pos != failed.pos)
     {
-        error(RTX_E_OVERFLOW, static_cast<int64_t>(limit_ / 8), 0, 0);
+        error(RTX_E_OVERFLOW, static_cast<int64_t>(capacity_), 0, 0);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "rtxHeap.h"
 #include "rtxType.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -29,8 +30,29 @@ inline constexpr auto reversedOctets = []
 // The encoder's position and the bits not written yet. Two registers: it travels by value.
 struct Bits
 {
-    uint64_t word; // the last pos % 64 bits in its low end; what lies above them is of no account
-    uint64_t pos;  // bits put so far; all ones after an error
+    uint64_t word; // the last bits() % 64 bits in its low end; what lies above them is of no account
+    // In the upper half the whole words put, in the lower half, with a sign, how many bits of the next one are left, as
+    // a negative number: the sign tells, after n bits have been added, whether the word is full.
+    uint64_t pos;
+
+    static constexpr uint64_t full = uint64_t{1} << 32; // minus this many: a word of which nothing is used is at -64
+    static constexpr uint64_t place(uint64_t bits)
+    {
+        return bits / 64 << 32 | (full - 64 + bits % 64);
+    }
+    static constexpr uint64_t bits(uint64_t place)
+    {
+        return (place >> 32) * 64 + static_cast<uint32_t>(place) - (full - 64);
+    }
+    uint64_t bits() const
+    {
+        return bits(pos);
+    }
+    // Whether the bits just added have filled the word.
+    bool isFull() const
+    {
+        return static_cast<int32_t>(static_cast<uint32_t>(pos)) >= 0;
+    }
 };
 
 class Encoder
@@ -39,8 +61,8 @@ public:
     explicit Encoder(OSCTXT& ctxt)
         : ctxt_(ctxt),
           data_(ctxt.buffer.data),
-          words_(ctxt.buffer.capacity / 8),
-          limit_(uint64_t{ctxt.buffer.capacity} * 8)
+          capacity_(std::min<uint64_t>(ctxt.buffer.capacity, largest)),
+          limit_(Bits::place(capacity_ * 8))
     {
         if (const RtxHeapBlock* const newest = ctxt.heap.blocks)
         {
@@ -125,7 +147,7 @@ public:
     {
         return put<8>(b, 0);
     }
-    Bits closeOpenType(Bits b, uint64_t start) const;
+    Bits closeOpenType(Bits b, uint64_t place) const;
     // An alternative that this release does not know; an unknown tag without its octets is an error. Of the
     // `alternatives` that the schema knows, the last `extensions` are extension additions.
     Bits unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, uint32_t extensions,
@@ -178,11 +200,12 @@ public:
             return status;
         }
         Encoder e(*pctxt);
-        return e.finish(encodeType(e, Bits{0, 0}, value), name);
+        return e.finish(encodeType(e, Bits{0, Bits::place(0)}, value), name);
     }
 
 private:
     static constexpr Bits failed{0, ~uint64_t{0}};
+    static constexpr uint64_t largest = uint64_t{1} << 34; // octets that a place can count
 
     static uint32_t load32(const OSOCTET* p)
     {
@@ -195,19 +218,21 @@ private:
     // code of a typical message should fit the processor's cache.
     [[gnu::always_inline]] Bits append(Bits b, uint64_t v, unsigned n) const
     {
-        if (b.pos % 64 + n < 64)
+        b.pos += n;
+        if (b.isFull())
         {
-            return {b.word << n | v, b.pos + n};
+            return startWord(b, v, n);
         }
-        return appendAcross(b, v, n);
+        b.word = b.word << n | v;
+        return b;
     }
 
-    // The same where the bits fill a word.
-    Bits appendAcross(Bits b, uint64_t v, unsigned n) const;
+    // The rest of that where the n bits fill a word: the place is behind them already, the word without them.
+    Bits startWord(Bits b, uint64_t v, unsigned n) const;
 
     void store(uint64_t index, uint64_t word) const
     {
-        if (index < words_)
+        if (index < capacity_ / 8)
         {
             const uint64_t octets = __builtin_bswap64(word);
             std::memcpy(data_ + index * 8, &octets, sizeof octets);
@@ -222,12 +247,12 @@ private:
     Bits content(Bits b, const OSOCTET* p, uint64_t octets) const;
     Bits unknownAddition(RtxStatus status, uint32_t index);
     void flush(Bits b) const;
-    Bits resume(uint64_t pos) const;
+    Bits resume(uint64_t end) const;
 
     OSCTXT& ctxt_;
     OSOCTET* data_;
-    uint64_t words_;     // whole words that the buffer holds
-    uint64_t limit_;     // bits that the buffer holds
+    uint64_t capacity_;  // octets that the buffer holds
+    uint64_t limit_;     // the place behind them
     uintptr_t heap_ = 0; // the heap's newest block, where nearly everything lies
     uintptr_t heapUsed_ = 0;
 };

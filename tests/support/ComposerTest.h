@@ -64,7 +64,7 @@ protected:
         return *static_cast<const T*>(node->data);
     }
 
-    static std::string hexOf(const OSOCTET* octets, size_t count)
+    static std::string hexDigits(const OSOCTET* octets, size_t count)
     {
         std::string text;
         for (size_t i = 0; i < count; ++i)
@@ -89,7 +89,7 @@ protected:
             rtxErrFormat(&context, line, sizeof line);
             return line;
         }
-        return hexOf(buffer.data(), pu_getMsgLen(&context));
+        return hexDigits(buffer.data(), pu_getMsgLen(&context));
     }
 
     // Encodes the value and leaves it to the independent decoder, which runs over all such messages after the tests:

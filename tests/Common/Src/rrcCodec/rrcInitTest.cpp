@@ -96,14 +96,7 @@ protected:
         {
             return printed();
         }
-        std::string hex;
-        for (UINT32 i = 0; i < message.bufLen; ++i)
-        {
-            constexpr const char* digits = "0123456789abcdef";
-            hex += digits[octets[i] >> 4];
-            hex += digits[octets[i] & 15];
-        }
-        return hex;
+        return hexDigits(octets.data(), message.bufLen);
     }
 
     void expectAnyMemory(void (*fill)(RrcCellGroupCfg_t&))
