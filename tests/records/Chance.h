@@ -115,6 +115,38 @@ public:
         return on;
     }
 
+    // An optional number, enumeration, BOOLEAN or bit string: the bit, and what the field holds when it is set.
+    template <typename Mask, typename Field>
+    void numberIf(Mask& mask, unsigned bit, Field& field, std::int64_t lower, std::int64_t upper,
+                  const char* file = __builtin_FILE(), int line = __builtin_LINE())
+    {
+        if (flag(mask, bit, file, line))
+        {
+            number(field, lower, upper, file, line);
+        }
+    }
+    template <typename Mask, typename Field>
+    void enumerationIf(Mask& mask, unsigned bit, Field& field, unsigned last, const char* file = __builtin_FILE(),
+                       int line = __builtin_LINE())
+    {
+        numberIf(mask, bit, field, 0, last, file, line);
+    }
+    template <typename Mask>
+    void booleanIf(Mask& mask, unsigned bit, BOOL& field, const char* file = __builtin_FILE(),
+                   int line = __builtin_LINE())
+    {
+        numberIf(mask, bit, field, 0, 1, file, line);
+    }
+    template <typename Mask, typename Field>
+    void bitsIf(Mask& mask, unsigned bit, Field& field, unsigned width, const char* file = __builtin_FILE(),
+                int line = __builtin_LINE())
+    {
+        if (flag(mask, bit, file, line))
+        {
+            bits(field, width);
+        }
+    }
+
     // The alternative, by its place among the bits, that the mask chooses as the highest of those set.
     template <typename Mask>
     unsigned alternative(Mask& mask, std::initializer_list<unsigned> bits, const char* file = __builtin_FILE(),

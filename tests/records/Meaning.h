@@ -34,6 +34,16 @@ public:
         add(name, std::to_string(+number));
     }
 
+    // An optional member.
+    template <typename Value>
+    void addIf(unsigned present, std::string_view name, const Value& value)
+    {
+        if (present != 0)
+        {
+            add(name, value);
+        }
+    }
+
     std::string json() const
     {
         return "{" + text_ + "}";

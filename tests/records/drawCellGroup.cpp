@@ -62,19 +62,13 @@ void draw(Chance& chance, RrcCellGroupCfg_t& record)
     };
     chance.inAnyOrder(bearers, mac, phy, spCell, sCells);
     // Never sent, so it may hold anything.
-    if (chance.flag(record.bitMask, RRC_CELLGROUPCFG_REPORT_PRESENCE))
-    {
-        chance.bits(record.reportUplinkTxDirect, 32);
-    }
+    chance.bitsIf(record.bitMask, RRC_CELLGROUPCFG_REPORT_PRESENCE, record.reportUplinkTxDirect, 32);
 }
 
 void draw(Chance& chance, RrcSpCellCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_SPCELLCFG_CELLIDX_PRESENCE))
-    {
-        chance.number(record.servCellIdx, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_SPCELLCFG_CELLIDX_PRESENCE, record.servCellIdx, 0, 31);
     const auto sync = [&]
     {
         if (chance.flag(record.bitMask, RRC_SPCELLCFG_RECFG_PRESENCE))
@@ -94,10 +88,7 @@ void draw(Chance& chance, RrcSpCellCfg_t& record)
     {
         draw(chance, record.rlfTimerConstants);
     }
-    if (chance.flag(record.bitMask, RRC_SPCELLCFG_THRESHOLD_PRESENCE))
-    {
-        chance.enumeration(record.rlmInSyncOutSyncThreshold, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_SPCELLCFG_THRESHOLD_PRESENCE, record.rlmInSyncOutSyncThreshold, 0);
 }
 
 void draw(Chance& chance, RrcReconfWithSync_t& record)
@@ -174,18 +165,9 @@ void draw(Chance& chance, RrcServingCellCfg_t& record)
         {
             draw(chance, record.dlBwp[i]);
         }
-        if (chance.flag(record.bitMask, RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE))
-        {
-            chance.number(record.firstActiveDlBwpId, 0, 4);
-        }
-        if (chance.flag(record.bitMask, RRC_SERVING_CELL_BWP_INACTIVE_TIMER_PRESENCE))
-        {
-            chance.enumeration(record.bwpInactiveTimer, 30);
-        }
-        if (chance.flag(record.bitMask, RRC_SERVING_CELL_DEFAULT_DL_BWP_ID_PRESENCE))
-        {
-            chance.number(record.defaultDlBwpId, 0, 4);
-        }
+        chance.numberIf(record.bitMask, RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE, record.firstActiveDlBwpId, 0, 4);
+        chance.enumerationIf(record.bitMask, RRC_SERVING_CELL_BWP_INACTIVE_TIMER_PRESENCE, record.bwpInactiveTimer, 30);
+        chance.numberIf(record.bitMask, RRC_SERVING_CELL_DEFAULT_DL_BWP_ID_PRESENCE, record.defaultDlBwpId, 0, 4);
     };
     const auto uplink = [&]
     {
@@ -220,24 +202,13 @@ void draw(Chance& chance, RrcServingCellCfg_t& record)
         }
     };
     chance.inAnyOrder(downlink, downlinkBwps, uplink, supplementaryUplink, cellLevel, csi);
-    if (chance.flag(record.bitMask, RRC_SERVING_CELL_SCELL_DEACTIVE_TIMER_PRESENCE))
-    {
-        chance.enumeration(record.sCellDeativationTimer, 15);
-    }
+    chance.enumerationIf(record.bitMask, RRC_SERVING_CELL_SCELL_DEACTIVE_TIMER_PRESENCE, record.sCellDeativationTimer,
+                         15);
     // Not looked at.
     chance.flag(record.bitMask, RRC_SERVING_CELL_CROSS_CARRIER_SCHD_CFG_PRESENCE);
-    if (chance.flag(record.bitMask, RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE))
-    {
-        chance.enumeration(record.dummy, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_SERVING_CELL_PATH_LOSS_REF_LINK_PRESENCE))
-    {
-        chance.enumeration(record.pathLossRefLinking, 1);
-    }
-    if (chance.flag(record.bitMask, RRC_SERVING_CELL_SERVING_CELL_MO_PRESENCE))
-    {
-        chance.number(record.servingCellMo, 1, 64);
-    }
+    chance.enumerationIf(record.bitMask, RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE, record.dummy, 0);
+    chance.enumerationIf(record.bitMask, RRC_SERVING_CELL_PATH_LOSS_REF_LINK_PRESENCE, record.pathLossRefLinking, 1);
+    chance.numberIf(record.bitMask, RRC_SERVING_CELL_SERVING_CELL_MO_PRESENCE, record.servingCellMo, 1, 64);
 }
 
 } // namespace records

@@ -78,10 +78,7 @@ void drawTypeII(Chance& chance, subType_typeII& record)
 
 void drawPortSelection(Chance& chance, typeII_PortSelection& record)
 {
-    if (chance.flag(record.bitMask, RRC_PORT_SELEXTION_SAMPLING_SIZE))
-    {
-        chance.enumeration(record.portSelectionSamplingSize, 3);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PORT_SELEXTION_SAMPLING_SIZE, record.portSelectionSamplingSize, 3);
     record.typeII_PortSelectionRI_Restriction = chance.bitField(2) & 3;
 }
 

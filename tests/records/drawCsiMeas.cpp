@@ -15,18 +15,14 @@ void draw(Chance& chance, RrcNzpCsiRsResource_t& record)
     draw(chance, record.resourceMapping);
     chance.number(record.powerControlOffset, -8, 15);
     chance.number(record.scramblingId, 0, 1023);
-    if (chance.flag(record.bitMask, RRC_NZP_CSI_RS_RESOURCE_POWER_CONTROL_OFFSET_SS_PRESENT))
-    {
-        chance.enumeration(record.powerControlOffsetSS, 3);
-    }
+    chance.enumerationIf(record.bitMask, RRC_NZP_CSI_RS_RESOURCE_POWER_CONTROL_OFFSET_SS_PRESENT,
+                         record.powerControlOffsetSS, 3);
     if (chance.flag(record.bitMask, RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT))
     {
         draw(chance, record.periodicityAndOffset);
     }
-    if (chance.flag(record.bitMask, RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT))
-    {
-        chance.number(record.qclInfoPeriodicCsiRs, 0, 127);
-    }
+    chance.numberIf(record.bitMask, RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT, record.qclInfoPeriodicCsiRs,
+                    0, 127);
 }
 
 void draw(Chance& chance, RrcNzpCsiRsResourceSet_t& record)
@@ -36,18 +32,10 @@ void draw(Chance& chance, RrcNzpCsiRsResourceSet_t& record)
     const unsigned resources = chance.count(record.numNzpCsiRsRes, 1, RRC_MAX_NROF_NZP_CSI_RS_RESOURCES_PER_SET, 8);
     chance.numbers(record.numNzpCsiRsResources, resources, 0, 191);
     chance.above(record.numNzpCsiRsRes, 8);
-    if (chance.flag(record.bitMask, RRC_NZP_CSI_RS_RESOUECE_SET_REPETITION_PRESENCE))
-    {
-        chance.enumeration(record.repetition, 1);
-    }
-    if (chance.flag(record.bitMask, RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE))
-    {
-        chance.number(record.aperidicTriggeringOffset, 0, 6);
-    }
-    if (chance.flag(record.bitMask, RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE))
-    {
-        chance.enumeration(record.trsInfo, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_NZP_CSI_RS_RESOUECE_SET_REPETITION_PRESENCE, record.repetition, 1);
+    chance.numberIf(record.bitMask, RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE,
+                    record.aperidicTriggeringOffset, 0, 6);
+    chance.enumerationIf(record.bitMask, RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE, record.trsInfo, 0);
 }
 
 void draw(Chance& chance, RrcCsiImResource_t& record)
@@ -249,10 +237,7 @@ void draw(Chance& chance, RrcCsiMeasCfg_t& record)
     };
     chance.inAnyOrder(nzpResources, nzpResourcesReleased, nzpSets, imResources, imSets, ssbSets, resourceConfigurations,
                       reports, aperiodicTriggers, semiPersistentTriggers);
-    if (chance.flag(record.bitMask, RRC_CSI_MEAS_CFG_REPORT_TRIGGER_SIZE_PRESENCE))
-    {
-        chance.number(record.reportTriggerSize, 0, 6);
-    }
+    chance.numberIf(record.bitMask, RRC_CSI_MEAS_CFG_REPORT_TRIGGER_SIZE_PRESENCE, record.reportTriggerSize, 0, 6);
 }
 
 } // namespace records

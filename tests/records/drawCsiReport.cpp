@@ -74,10 +74,8 @@ void drawReportQuantity(Chance& chance, RrcCsiReportCfg_t& record)
                             RRC_CSI_REPORT_QUANTITY_SSB_INDEX_RSRP_PRESENCE,
                             RRC_CSI_REPORT_QUANTITY_CRI_RI_LI_PMI_CQI_PRESENCE}) == 3)
     {
-        if (chance.flag(content.bitMask, RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE))
-        {
-            chance.enumeration(content.PdschBundleSizeForCsi, 1);
-        }
+        chance.enumerationIf(content.bitMask, RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE,
+                             content.PdschBundleSizeForCsi, 1);
     }
     else
     {
@@ -89,14 +87,8 @@ void drawReportQuantity(Chance& chance, RrcCsiReportCfg_t& record)
 
 void drawFrequency(Chance& chance, ReportFreqCfg_t& record)
 {
-    if (chance.flag(record.bitMask, RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE))
-    {
-        chance.enumeration(record.CqiFormatInd, 1);
-    }
-    if (chance.flag(record.bitMask, RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE))
-    {
-        chance.enumeration(record.PmiFormatInd, 1);
-    }
+    chance.enumerationIf(record.bitMask, RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE, record.CqiFormatInd, 1);
+    chance.enumerationIf(record.bitMask, RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE, record.PmiFormatInd, 1);
     if (chance.flag(record.bitMask, RRC_REPORT_FREQ_CFG_CSI_REPORTINT_BAND_PRESENCE))
     {
         chance.alternative(
@@ -146,10 +138,7 @@ void drawRank(Chance& chance, UINT8& count, UINT8 (&entries)[N], unsigned last, 
 
 void drawRanks(Chance& chance, portIndexFor8Ranks_portIndex8& record)
 {
-    if (chance.flag(record.bitMask, RRC_RANK1_8))
-    {
-        chance.number(record.rank1_8, 0, 7);
-    }
+    chance.numberIf(record.bitMask, RRC_RANK1_8, record.rank1_8, 0, 7);
     drawRank(chance, record.numRank2_8, record.PortIndex2_8, 7);
     drawRank(chance, record.numRank3_8, record.PortIndex3_8, 7);
     drawRank(chance, record.numRank4_8, record.PortIndex4_8, 7);
@@ -161,10 +150,7 @@ void drawRanks(Chance& chance, portIndexFor8Ranks_portIndex8& record)
 
 void drawRanks(Chance& chance, portIndexFor8Ranks_portIndex4& record)
 {
-    if (chance.flag(record.bitMask, RRC_RANK1_4))
-    {
-        chance.number(record.rank1_4, 0, 3);
-    }
+    chance.numberIf(record.bitMask, RRC_RANK1_4, record.rank1_4, 0, 3);
     drawRank(chance, record.numRank2_4, record.PortIndex2_4, 3);
     drawRank(chance, record.numRank3_4, record.PortIndex3_4, 3);
     drawRank(chance, record.numRank4_4, record.PortIndex4_4, 3);
@@ -172,10 +158,7 @@ void drawRanks(Chance& chance, portIndexFor8Ranks_portIndex4& record)
 
 void drawRanks(Chance& chance, portIndexFor8Ranks_portIndex2& record)
 {
-    if (chance.flag(record.bitMask, RRC_RANK1_2))
-    {
-        chance.number(record.rank1_2, 0, 1);
-    }
+    chance.numberIf(record.bitMask, RRC_RANK1_2, record.rank1_2, 0, 1);
     drawRank(chance, record.numRank2_2, record.PortIndex2_2, 1);
 }
 
@@ -207,19 +190,12 @@ void draw(Chance& chance, RrcCsiReportCfg_t& record)
 {
     rrcInit(&record);
     chance.number(record.csiReportCfgId, 0, 47);
-    if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_CERV_CELL_IDX_PRESENCE))
-    {
-        chance.number(record.servCellIndex, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_CSI_REPORT_CFG_CERV_CELL_IDX_PRESENCE, record.servCellIndex, 0, 31);
     chance.number(record.resourceCfgIdForChMeas, 0, 111);
-    if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE))
-    {
-        chance.number(record.CsiImresourceCfgIdForInterference, 0, 111);
-    }
-    if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_NZP_CSI_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE))
-    {
-        chance.number(record.nzpCsiRsresourceCfgIdForInterference, 0, 111);
-    }
+    chance.numberIf(record.bitMask, RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE,
+                    record.CsiImresourceCfgIdForInterference, 0, 111);
+    chance.numberIf(record.bitMask, RRC_CSI_REPORT_CFG_NZP_CSI_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE,
+                    record.nzpCsiRsresourceCfgIdForInterference, 0, 111);
     drawReportType(chance, record);
     drawReportQuantity(chance, record);
     chance.enumeration(record.subBandSize, 1);
@@ -235,19 +211,11 @@ void draw(Chance& chance, RrcCsiReportCfg_t& record)
         record.bitMask |= RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE;
         drawBeams(chance, record.groupBasedBeamReport);
     }
-    if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE))
-    {
-        chance.enumeration(record.nrofCQIsPerRep, 1);
-    }
-    if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE))
-    {
-        chance.enumeration(record.cqi_Table, 3);
-    }
+    chance.enumerationIf(record.bitMask, RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE, record.nrofCQIsPerRep, 1);
+    chance.enumerationIf(record.bitMask, RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE, record.cqi_Table, 3);
     // Its extension group is never sent, so it may hold anything.
-    if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE))
-    {
-        chance.bits(record.semimPersistentOnPuschv1530_t.ReportSlotConfig_v1530, 8);
-    }
+    chance.bitsIf(record.bitMask, RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE,
+                  record.semimPersistentOnPuschv1530_t.ReportSlotConfig_v1530, 8);
     const auto frequency = [&]
     {
         if (chance.flag(record.bitMask, RRC_CSI_REPORT_CFG_REPORT_FREQ_CFG_PRESENCE))

@@ -29,10 +29,8 @@ void draw(Chance& chance, RrcCsiRsResourceMapping_t& record)
         chance.bits(record.density.dots, 8);
     }
     draw(chance, record.freqBand);
-    if (chance.flag(record.bitMask, RRC_CSI_RS_RESOURCE_MAPPING_DOMAIN2_PRESENCE))
-    {
-        chance.number(record.firstOFDMSymbolInTimeDomain2, 2, 12);
-    }
+    chance.numberIf(record.bitMask, RRC_CSI_RS_RESOURCE_MAPPING_DOMAIN2_PRESENCE, record.firstOFDMSymbolInTimeDomain2,
+                    2, 12);
 }
 
 void draw(Chance& chance, RrcCsiResourcePeriodictyAndOffset_t& record)

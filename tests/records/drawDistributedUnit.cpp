@@ -20,10 +20,7 @@ void drawTimeDomain(Chance& chance, UINT8& count, NrTimeDomainAlloc_t (&allocati
     {
         NrTimeDomainAlloc_t& allocation = allocations[i];
         rrcInit(&allocation);
-        if (chance.flag(allocation.bitmask, NR_TIME_DOMAIN_ALLOC_SLOT_OFFSET_PRESENCE))
-        {
-            chance.number(allocation.slotOffset, 0, 32);
-        }
+        chance.numberIf(allocation.bitmask, NR_TIME_DOMAIN_ALLOC_SLOT_OFFSET_PRESENCE, allocation.slotOffset, 0, 32);
         chance.enumeration(allocation.mappingType, 1);
         chance.number(allocation.startSymbolAndLength, 0, 127);
     }
@@ -58,10 +55,7 @@ void drawControlResourceSet(Chance& chance, NrControlResourceSet_t& record)
     chance.numbers(record.tciStatesToRelease,
                    chance.optionalCount(record.numTciStatesToRelease, NR_MAX_NUM_TCI_STATES_PDCCH, 7), 0, 127);
     chance.flag(record.bitmask, NR_CORESET_TCI_PRESENT_IN_DCI);
-    if (chance.flag(record.bitmask, NR_CORESET_DMRS_SCRAMBLING_ID_PRESENCE))
-    {
-        chance.number(record.pdcchDmrsScramblingId, 0, 65535);
-    }
+    chance.numberIf(record.bitmask, NR_CORESET_DMRS_SCRAMBLING_ID_PRESENCE, record.pdcchDmrsScramblingId, 0, 65535);
 }
 
 void drawCommon(Chance& chance, NrSearchSpaceCommon_t& record)
@@ -71,26 +65,11 @@ void drawCommon(Chance& chance, NrSearchSpaceCommon_t& record)
     if (chance.flag(record.bitmask, NR_SEARCH_SPACE_DCI_FORMAT2_0))
     {
         NrNrofCandidatesSfi_t& candidates = record.nrofCandidatesSfi;
-        if (chance.flag(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL1_PRESENCE))
-        {
-            chance.enumeration(candidates.aggregationLevel1, 1);
-        }
-        if (chance.flag(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL2_PRESENCE))
-        {
-            chance.enumeration(candidates.aggregationLevel2, 1);
-        }
-        if (chance.flag(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL4_PRESENCE))
-        {
-            chance.enumeration(candidates.aggregationLevel4, 1);
-        }
-        if (chance.flag(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL8_PRESENCE))
-        {
-            chance.enumeration(candidates.aggregationLevel8, 1);
-        }
-        if (chance.flag(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL16_PRESENCE))
-        {
-            chance.enumeration(candidates.aggregationLevel16, 1);
-        }
+        chance.enumerationIf(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL1_PRESENCE, candidates.aggregationLevel1, 1);
+        chance.enumerationIf(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL2_PRESENCE, candidates.aggregationLevel2, 1);
+        chance.enumerationIf(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL4_PRESENCE, candidates.aggregationLevel4, 1);
+        chance.enumerationIf(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL8_PRESENCE, candidates.aggregationLevel8, 1);
+        chance.enumerationIf(candidates.bitmask, NR_SFI_AGGREGATION_LEVEL16_PRESENCE, candidates.aggregationLevel16, 1);
     }
     chance.flag(record.bitmask, NR_SEARCH_SPACE_DCI_FORMAT2_1);
     chance.flag(record.bitmask, NR_SEARCH_SPACE_DCI_FORMAT2_2);
@@ -129,18 +108,12 @@ void drawSearchSpace(Chance& chance, NrSearchSpace_t& record)
 {
     rrcInit(&record);
     chance.number(record.searchSpaceId, 0, 39);
-    if (chance.flag(record.bitmask, NR_SEARCH_SPACE_CORESET_ID_PRESENCE))
-    {
-        chance.number(record.controlResourceSetId, 0, 11);
-    }
+    chance.numberIf(record.bitmask, NR_SEARCH_SPACE_CORESET_ID_PRESENCE, record.controlResourceSetId, 0, 11);
     if (chance.flag(record.bitmask, NR_SEARCH_SPACE_MONITORING_SLOT_PRESENCE))
     {
         drawMonitoringSlot(chance, record);
     }
-    if (chance.flag(record.bitmask, NR_SEARCH_SPACE_DURATION_PRESENCE))
-    {
-        chance.number(record.duration, 2, 2559);
-    }
+    chance.numberIf(record.bitmask, NR_SEARCH_SPACE_DURATION_PRESENCE, record.duration, 2, 2559);
     if (chance.flag(record.bitmask, NR_SEARCH_SPACE_MONITORING_SYMBOLS_PRESENCE))
     {
         // The low 14 bits count.
@@ -179,30 +152,12 @@ void drawFirstOccasion(Chance& chance, NrFirstPdcchMonitoringOccasion_t& record)
 void drawPdcch(Chance& chance, PdcchCfgCommon_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitmask, NR_PDCCH_COMMON_CORESET_ZERO_PRESENCE))
-    {
-        chance.number(record.controlResourceSetZero, 0, 15);
-    }
-    if (chance.flag(record.bitmask, NR_PDCCH_COMMON_SEARCH_SPACE_ZERO_PRESENCE))
-    {
-        chance.number(record.searchSpaceZero, 0, 15);
-    }
-    if (chance.flag(record.bitmask, NR_PDCCH_COMMON_SEARCH_SPACE_SIB1_PRESENCE))
-    {
-        chance.number(record.searchSpaceSib1, 0, 39);
-    }
-    if (chance.flag(record.bitmask, NR_PDCCH_COMMON_SEARCH_SPACE_OTHER_SI_PRESENCE))
-    {
-        chance.number(record.searchSpaceOtherSi, 0, 39);
-    }
-    if (chance.flag(record.bitmask, NR_PDCCH_COMMON_PAGING_SEARCH_SPACE_PRESENCE))
-    {
-        chance.number(record.pagingSearchSpace, 0, 39);
-    }
-    if (chance.flag(record.bitmask, NR_PDCCH_COMMON_RA_SEARCH_SPACE_PRESENCE))
-    {
-        chance.number(record.raSearchSpace, 0, 39);
-    }
+    chance.numberIf(record.bitmask, NR_PDCCH_COMMON_CORESET_ZERO_PRESENCE, record.controlResourceSetZero, 0, 15);
+    chance.numberIf(record.bitmask, NR_PDCCH_COMMON_SEARCH_SPACE_ZERO_PRESENCE, record.searchSpaceZero, 0, 15);
+    chance.numberIf(record.bitmask, NR_PDCCH_COMMON_SEARCH_SPACE_SIB1_PRESENCE, record.searchSpaceSib1, 0, 39);
+    chance.numberIf(record.bitmask, NR_PDCCH_COMMON_SEARCH_SPACE_OTHER_SI_PRESENCE, record.searchSpaceOtherSi, 0, 39);
+    chance.numberIf(record.bitmask, NR_PDCCH_COMMON_PAGING_SEARCH_SPACE_PRESENCE, record.pagingSearchSpace, 0, 39);
+    chance.numberIf(record.bitmask, NR_PDCCH_COMMON_RA_SEARCH_SPACE_PRESENCE, record.raSearchSpace, 0, 39);
     if (chance.flag(record.bitmask, NR_PDCCH_COMMON_FIRST_MONITORING_OCCASION_PRESENCE))
     {
         drawFirstOccasion(chance, record.firstPdcchMonitoringOccasion);
@@ -253,10 +208,7 @@ void drawRach(Chance& chance, NrRachCfgCommon_t& record)
 {
     rrcInit(&record);
     drawRachGeneric(chance, record.rachCfgGeneric);
-    if (chance.flag(record.bitmask, NR_RACH_COMMON_TOTAL_PREAMBLES_PRESENCE))
-    {
-        chance.number(record.totalNumberOfRaPreambles, 1, 63);
-    }
+    chance.numberIf(record.bitmask, NR_RACH_COMMON_TOTAL_PREAMBLES_PRESENCE, record.totalNumberOfRaPreambles, 1, 63);
     if (chance.flag(record.bitmask, NR_RACH_COMMON_SSB_PER_RACH_OCCASION_PRESENCE))
     {
         drawPreamblesPerSsb(chance, record);
@@ -268,20 +220,12 @@ void drawRach(Chance& chance, NrRachCfgCommon_t& record)
         chance.number(record.numberOfRaPreamblesGroupA, 1, 64);
     }
     chance.enumeration(record.raContentionResolutionTimer, 7);
-    if (chance.flag(record.bitmask, NR_RACH_COMMON_RSRP_THRESHOLD_SSB_PRESENCE))
-    {
-        chance.number(record.rsrpThresholdSsb, 0, 127);
-    }
-    if (chance.flag(record.bitmask, NR_RACH_COMMON_RSRP_THRESHOLD_SSB_SUL_PRESENCE))
-    {
-        chance.number(record.rsrpThresholdSsbSul, 0, 127);
-    }
+    chance.numberIf(record.bitmask, NR_RACH_COMMON_RSRP_THRESHOLD_SSB_PRESENCE, record.rsrpThresholdSsb, 0, 127);
+    chance.numberIf(record.bitmask, NR_RACH_COMMON_RSRP_THRESHOLD_SSB_SUL_PRESENCE, record.rsrpThresholdSsbSul, 0, 127);
     chance.number(record.prachRootSequence, 1, 2);
     chance.number(record.prachRootSequenceIndex, 0, record.prachRootSequence == 1 ? 837 : 137);
-    if (chance.flag(record.bitmask, NR_RACH_COMMON_MSG1_SUBCARRIER_SPACING_PRESENCE))
-    {
-        chance.enumeration(record.msg1SubcarrierSpacing, 7);
-    }
+    chance.enumerationIf(record.bitmask, NR_RACH_COMMON_MSG1_SUBCARRIER_SPACING_PRESENCE, record.msg1SubcarrierSpacing,
+                         7);
     chance.enumeration(record.restrictedSetConfig, 2);
     chance.flag(record.bitmask, NR_RACH_COMMON_MSG3_TRANSFORM_PRECODER);
 }
@@ -291,32 +235,18 @@ void drawPusch(Chance& chance, NrPuschCfgCommon_t& record)
     rrcInit(&record);
     chance.flag(record.bitmask, NR_PUSCH_COMMON_GROUP_HOPPING);
     drawTimeDomain(chance, record.numTimeDomainAllocs, record.timeDomainAlloc);
-    if (chance.flag(record.bitmask, NR_PUSCH_COMMON_MSG3_DELTA_PREAMBLE_PRESENCE))
-    {
-        chance.number(record.msg3DeltaPreamble, -1, 6);
-    }
-    if (chance.flag(record.bitmask, NR_PUSCH_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE))
-    {
-        chance.number(record.p0NominalWithGrant, -202, 24);
-    }
+    chance.numberIf(record.bitmask, NR_PUSCH_COMMON_MSG3_DELTA_PREAMBLE_PRESENCE, record.msg3DeltaPreamble, -1, 6);
+    chance.numberIf(record.bitmask, NR_PUSCH_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE, record.p0NominalWithGrant, -202,
+                    24);
 }
 
 void drawPucch(Chance& chance, NrPucchCfgCommon_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitmask, NR_PUCCH_COMMON_RESOURCE_PRESENCE))
-    {
-        chance.number(record.pucchResourceCommon, 0, 15);
-    }
+    chance.numberIf(record.bitmask, NR_PUCCH_COMMON_RESOURCE_PRESENCE, record.pucchResourceCommon, 0, 15);
     chance.enumeration(record.pucchGroupHopping, 2);
-    if (chance.flag(record.bitmask, NR_PUCCH_COMMON_HOPPING_ID_PRESENCE))
-    {
-        chance.number(record.hoppingId, 0, 1023);
-    }
-    if (chance.flag(record.bitmask, NR_PUCCH_COMMON_P0_NOMINAL_PRESENCE))
-    {
-        chance.number(record.p0Nominal, -202, 24);
-    }
+    chance.numberIf(record.bitmask, NR_PUCCH_COMMON_HOPPING_ID_PRESENCE, record.hoppingId, 0, 1023);
+    chance.numberIf(record.bitmask, NR_PUCCH_COMMON_P0_NOMINAL_PRESENCE, record.p0Nominal, -202, 24);
 }
 
 void drawPattern(Chance& chance, TddUlDlPattern_t& record)
@@ -327,10 +257,8 @@ void drawPattern(Chance& chance, TddUlDlPattern_t& record)
     chance.number(record.nrofDownlinkSymbols, 0, 13);
     chance.number(record.nrofUplinkSlots, 0, 320);
     chance.number(record.nrofUplinkSymbols, 0, 13);
-    if (chance.flag(record.bitmask, NR_TDD_PATTERN_PERIODICITY_V1530_PRESENCE))
-    {
-        chance.enumeration(record.transmissionPeriodicityV1530, 1);
-    }
+    chance.enumerationIf(record.bitmask, NR_TDD_PATTERN_PERIODICITY_V1530_PRESENCE, record.transmissionPeriodicityV1530,
+                         1);
 }
 
 } // namespace

@@ -14,34 +14,18 @@ void drawPdcchCommon(Chance& chance, RrcPdcchCfgCommon_t& record)
     {
         draw(chance, record.commonSearchSpace[i]);
     }
-    if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_ZERO_PRESENCE))
-    {
-        chance.number(record.controlResourceSetZero, 0, 15);
-    }
+    chance.numberIf(record.bitMask, RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_ZERO_PRESENCE,
+                    record.controlResourceSetZero, 0, 15);
     if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_PRESENCE))
     {
         draw(chance, record.commonControlResourceSet);
     }
-    if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_ZERO_PRESENCE))
-    {
-        chance.number(record.searchSpaceZero, 0, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_SIB1_PRESENCE))
-    {
-        chance.number(record.searchSpaceSIB1, 0, 39);
-    }
-    if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_OTHER_SI_PRESENCE))
-    {
-        chance.number(record.searchSpaceOtherSi, 0, 39);
-    }
-    if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_PAGING_PRESENCE))
-    {
-        chance.number(record.searchSpacePaing, 0, 39);
-    }
-    if (chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_RA_PRESENCE))
-    {
-        chance.number(record.searchSpaceRa, 0, 39);
-    }
+    chance.numberIf(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_ZERO_PRESENCE, record.searchSpaceZero, 0, 15);
+    chance.numberIf(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_SIB1_PRESENCE, record.searchSpaceSIB1, 0, 39);
+    chance.numberIf(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_OTHER_SI_PRESENCE, record.searchSpaceOtherSi, 0,
+                    39);
+    chance.numberIf(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_PAGING_PRESENCE, record.searchSpacePaing, 0, 39);
+    chance.numberIf(record.bitMask, RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_RA_PRESENCE, record.searchSpaceRa, 0, 39);
     // Nothing is sent for it.
     chance.flag(record.bitMask, RRC_PDCCH_CFG_COMMON_FIRST_PDCCH_MONITIOR_OCCASION_PRESENCE);
 }
@@ -154,10 +138,7 @@ void draw(Chance& chance, RrcBwp_t& record)
     rrcInit(&record);
     chance.number(record.locationAndBandwidth, 0, 37949);
     chance.enumeration(record.subCarrierSpacing, 7);
-    if (chance.flag(record.bitMask, RRC_BWP_CYCLEPREFIX_PRESENCE))
-    {
-        chance.enumeration(record.cyclicPrefix, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_BWP_CYCLEPREFIX_PRESENCE, record.cyclicPrefix, 0);
 }
 
 } // namespace records

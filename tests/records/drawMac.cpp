@@ -54,10 +54,7 @@ void drawSchedulingRequest(Chance& chance, RrcSRCfg_t& record)
         rrcInit(&request);
         chance.number(request.srId, 0, 7);
         chance.enumeration(request.srTransMax, 7);
-        if (chance.flag(request.bitMask, RRC_SR_PROHIBITTIMER_PRESENCE))
-        {
-            chance.enumeration(request.srProhibitTimer, 7);
-        }
+        chance.enumerationIf(request.bitMask, RRC_SR_PROHIBITTIMER_PRESENCE, request.srProhibitTimer, 7);
     }
     chance.numbers(record.srId, chance.optionalCount(record.numSrRel, RRC_MAX_NROFSR_CONFIG_PER_CELL_GROUP, 3), 0, 7);
 }
@@ -67,10 +64,7 @@ void drawBsr(Chance& chance, RrcBsrCfg_t& record)
     rrcInit(&record);
     chance.enumeration(record.periodicBsrTimer, 15);
     chance.enumeration(record.retxBsrTimer, 15);
-    if (chance.flag(record.bitMask, RRC_BSR_SRDELAY_PRESENCE))
-    {
-        chance.enumeration(record.lcSRDelayTimer, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_BSR_SRDELAY_PRESENCE, record.lcSRDelayTimer, 7);
 }
 
 void drawTag(Chance& chance, RrcTagCfg_t& record)
@@ -124,61 +118,25 @@ void draw(Chance& chance, RrcMacCellGrpCfg_t& record)
         drawPhr(chance, record.phrCfg);
     }
     // These two are never sent, so they may hold anything.
-    if (chance.flag(record.bitMask, RRC_MAC_CELL_GRP_CFG_CSI_PRESENCE))
-    {
-        chance.bits(record.csiMaskV1530, 32);
-    }
-    if (chance.flag(record.bitMask, RRC_MAC_CELL_GRP_CFG_TIMER_PRESENCE))
-    {
-        chance.bits(record.inactivityTimer, 8);
-    }
+    chance.bitsIf(record.bitMask, RRC_MAC_CELL_GRP_CFG_CSI_PRESENCE, record.csiMaskV1530, 32);
+    chance.bitsIf(record.bitMask, RRC_MAC_CELL_GRP_CFG_TIMER_PRESENCE, record.inactivityTimer, 8);
 }
 
 void draw(Chance& chance, RrcPhyCellGrpCfg_t& record)
 {
     rrcInit(&record);
     chance.enumeration(record.pdschHarqAckCodeBook, 1);
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_HARQ_PUCCH_PRESENCE))
-    {
-        chance.enumeration(record.harqAckBundlingPucch, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_HARQ_PUSCH_PRESENCE))
-    {
-        chance.enumeration(record.harqAckBundlingPusch, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_NR_PMAX_PRESENCE))
-    {
-        chance.number(record.pNrFR1Pmax, -30, 33);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_TPC_SRS_RNTI_PRESENCE))
-    {
-        chance.number(record.tpcSrsRnti, 0, 65535);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_TPC_PUCCH_RNTI_PRESENCE))
-    {
-        chance.number(record.tpcPucchRnti, 0, 65535);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_TPC_PUSCH_RNTI_PRESENCE))
-    {
-        chance.number(record.tpcPuschRnti, 0, 65535);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_SP_CSI_RNTI_PRESENCE))
-    {
-        chance.number(record.spCsiRnti, 0, 65535);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_CS_RNTI_PRESENCE))
-    {
-        chance.number(record.csRnti, 0, 65535);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PHY_CGC_HARQ_PUCCH_PRESENCE, record.harqAckBundlingPucch, 0);
+    chance.enumerationIf(record.bitMask, RRC_PHY_CGC_HARQ_PUSCH_PRESENCE, record.harqAckBundlingPusch, 0);
+    chance.numberIf(record.bitMask, RRC_PHY_CGC_NR_PMAX_PRESENCE, record.pNrFR1Pmax, -30, 33);
+    chance.numberIf(record.bitMask, RRC_PHY_CGC_TPC_SRS_RNTI_PRESENCE, record.tpcSrsRnti, 0, 65535);
+    chance.numberIf(record.bitMask, RRC_PHY_CGC_TPC_PUCCH_RNTI_PRESENCE, record.tpcPucchRnti, 0, 65535);
+    chance.numberIf(record.bitMask, RRC_PHY_CGC_TPC_PUSCH_RNTI_PRESENCE, record.tpcPuschRnti, 0, 65535);
+    chance.numberIf(record.bitMask, RRC_PHY_CGC_SP_CSI_RNTI_PRESENCE, record.spCsiRnti, 0, 65535);
+    chance.numberIf(record.bitMask, RRC_PHY_CGC_CS_RNTI_PRESENCE, record.csRnti, 0, 65535);
     // These two are never sent, so they may hold anything.
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_MCS_CRNTI_PRESENCE))
-    {
-        chance.bits(record.mcsCRnti, 16);
-    }
-    if (chance.flag(record.bitMask, RRC_PHY_CGC_UE_PMAX_PRESENCE))
-    {
-        chance.bits(record.pUeFR1Pmax, 8);
-    }
+    chance.bitsIf(record.bitMask, RRC_PHY_CGC_MCS_CRNTI_PRESENCE, record.mcsCRnti, 16);
+    chance.bitsIf(record.bitMask, RRC_PHY_CGC_UE_PMAX_PRESENCE, record.pUeFR1Pmax, 8);
 }
 
 } // namespace records

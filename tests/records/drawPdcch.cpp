@@ -35,53 +35,26 @@ void drawCandidates(Chance& chance, nrofCadidate_s& record)
 
 void drawFormat20(Chance& chance, dciFormat2_0_s& record)
 {
-    if (chance.flag(record.presence, RRC_DCI2_0_AGGR_LEV1_PRESENCE))
-    {
-        chance.enumeration(record.aggrLev1, 1);
-    }
-    if (chance.flag(record.presence, RRC_DCI2_0_AGGR_LEV2_PRESENCE))
-    {
-        chance.enumeration(record.aggrLev2, 1);
-    }
-    if (chance.flag(record.presence, RRC_DCI2_0_AGGR_LEV4_PRESENCE))
-    {
-        chance.enumeration(record.aggrLev4, 1);
-    }
-    if (chance.flag(record.presence, RRC_DCI2_0_AGGR_LEV8_PRESENCE))
-    {
-        chance.enumeration(record.aggrLev8, 1);
-    }
-    if (chance.flag(record.presence, RRC_DCI2_0_AGGR_LEV16_PRESENCE))
-    {
-        chance.enumeration(record.aggrLev16, 1);
-    }
+    chance.enumerationIf(record.presence, RRC_DCI2_0_AGGR_LEV1_PRESENCE, record.aggrLev1, 1);
+    chance.enumerationIf(record.presence, RRC_DCI2_0_AGGR_LEV2_PRESENCE, record.aggrLev2, 1);
+    chance.enumerationIf(record.presence, RRC_DCI2_0_AGGR_LEV4_PRESENCE, record.aggrLev4, 1);
+    chance.enumerationIf(record.presence, RRC_DCI2_0_AGGR_LEV8_PRESENCE, record.aggrLev8, 1);
+    chance.enumerationIf(record.presence, RRC_DCI2_0_AGGR_LEV16_PRESENCE, record.aggrLev16, 1);
 }
 
 // The padding is not looked at.
 void drawCommon(Chance& chance, common_s& record)
 {
-    if (chance.flag(record.presence, RRC_SEARCH_TYPE_COMMON_DCI0_1_PRESENCE))
-    {
-        chance.bits(record.dci0AndDci1.padding, 8);
-    }
+    chance.bitsIf(record.presence, RRC_SEARCH_TYPE_COMMON_DCI0_1_PRESENCE, record.dci0AndDci1.padding, 8);
     if (chance.flag(record.presence, RRC_SEARCH_TYPE_COMMON_DCI2_0_PRESENCE))
     {
         drawFormat20(chance, record.dci0AndDci2_0);
     }
-    if (chance.flag(record.presence, RRC_SEARCH_TYPE_COMMON_DCI2_1_PRESENCE))
-    {
-        chance.bits(record.dci2_1.padding, 8);
-    }
-    if (chance.flag(record.presence, RRC_SEARCH_TYPE_COMMON_DCI2_2_PRESENCE))
-    {
-        chance.bits(record.dci2_2.padding, 8);
-    }
+    chance.bitsIf(record.presence, RRC_SEARCH_TYPE_COMMON_DCI2_1_PRESENCE, record.dci2_1.padding, 8);
+    chance.bitsIf(record.presence, RRC_SEARCH_TYPE_COMMON_DCI2_2_PRESENCE, record.dci2_2.padding, 8);
     if (chance.flag(record.presence, RRC_SEARCH_TYPE_COMMON_DCI2_3_PRESENCE))
     {
-        if (chance.flag(record.dci2_3.presence, RRC_DCI2_3_DUMMY1_PRESENCE))
-        {
-            chance.enumeration(record.dci2_3.dummy1, 7);
-        }
+        chance.enumerationIf(record.dci2_3.presence, RRC_DCI2_3_DUMMY1_PRESENCE, record.dci2_3.dummy1, 7);
         chance.enumeration(record.dci2_3.dummy2, 1);
     }
 }
@@ -103,44 +76,23 @@ void drawPreemption(Chance& chance, RrcDlPreemption_t& record)
 void drawTpcPusch(Chance& chance, RrcPuschTpcCmdCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUSCH_TPC_INDEX_PRESENCE))
-    {
-        chance.number(record.tpcIdx, 1, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_TPC_INDEX_SUL_PRESENCE))
-    {
-        chance.number(record.tpcIdxSul, 1, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_TPC_TARGET_CELL_PRESENCE))
-    {
-        chance.number(record.targetCellIdx, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_PUSCH_TPC_INDEX_PRESENCE, record.tpcIdx, 1, 15);
+    chance.numberIf(record.bitMask, RRC_PUSCH_TPC_INDEX_SUL_PRESENCE, record.tpcIdxSul, 1, 15);
+    chance.numberIf(record.bitMask, RRC_PUSCH_TPC_TARGET_CELL_PRESENCE, record.targetCellIdx, 0, 31);
 }
 
 void drawTpcPucch(Chance& chance, RrcPucchTpcCmdCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUCCH_TPC_PCELL_PRESENCE))
-    {
-        chance.number(record.tpcPcellIdx, 1, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_TPC_SCELL_PRESENCE))
-    {
-        chance.number(record.tpcScellIdx, 1, 15);
-    }
+    chance.numberIf(record.bitMask, RRC_PUCCH_TPC_PCELL_PRESENCE, record.tpcPcellIdx, 1, 15);
+    chance.numberIf(record.bitMask, RRC_PUCCH_TPC_SCELL_PRESENCE, record.tpcScellIdx, 1, 15);
 }
 
 void drawTpcSrs(Chance& chance, RrcSrsTpcCmdCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_SRS_TPC_STARTING_BIT_PRESENCE))
-    {
-        chance.number(record.startBitFormat2_3, 1, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_SRS_TPC_FIELD_TYPE_PRESENCE))
-    {
-        chance.number(record.feildTypeFormat2_3, 0, 1);
-    }
+    chance.numberIf(record.bitMask, RRC_SRS_TPC_STARTING_BIT_PRESENCE, record.startBitFormat2_3, 1, 31);
+    chance.numberIf(record.bitMask, RRC_SRS_TPC_FIELD_TYPE_PRESENCE, record.feildTypeFormat2_3, 0, 1);
     // The bit is not looked at, and the field is never sent.
     chance.flag(record.bitMask, RRC_SRS_TPC_STARTING_BIT_SUL_PRESENCE);
     chance.bits(record.startBitSulFormat2_3, 8);
@@ -209,10 +161,8 @@ void draw(Chance& chance, RrcControlResourceSet_t& record)
     {
         chance.enumeration(record.interLeaved.regBundleSize, 2);
         chance.enumeration(record.interLeaved.interleaveSize, 2);
-        if (chance.flag(record.interLeaved.bitMask, RRC_INTERLEACED_SHIFT_INDEX_PRESENCE))
-        {
-            chance.number(record.interLeaved.shiftIdx, 0, 274);
-        }
+        chance.numberIf(record.interLeaved.bitMask, RRC_INTERLEACED_SHIFT_INDEX_PRESENCE, record.interLeaved.shiftIdx,
+                        0, 274);
     }
     // Makes no difference.
     chance.flag(record.presence, RRC_CCE_MAP_TYPE_NON_INTERLEAVED);
@@ -221,32 +171,22 @@ void draw(Chance& chance, RrcControlResourceSet_t& record)
                    chance.optionalCount(record.numTciStatesPdcchAdd, RRC_MAX_NROF_TCI_STATES_PDCCH, 7), 0, 127);
     chance.numbers(record.tciStateRelId,
                    chance.optionalCount(record.numTciStatesPdcchRel, RRC_MAX_NROF_TCI_STATES_PDCCH, 7), 0, 127);
-    if (chance.flag(record.bitMask, RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE))
-    {
-        chance.enumeration(record.enTciPresentInDci, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_CONTROL_RESOURCE_SET_PDCCH_SCRAMBID_PRESENCE))
-    {
-        chance.number(record.pdcchDmrsScramblindId, 0, 65535);
-    }
+    chance.enumerationIf(record.bitMask, RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE, record.enTciPresentInDci, 0);
+    chance.numberIf(record.bitMask, RRC_CONTROL_RESOURCE_SET_PDCCH_SCRAMBID_PRESENCE, record.pdcchDmrsScramblindId, 0,
+                    65535);
 }
 
 void draw(Chance& chance, RrcSearchSpace_t& record)
 {
     rrcInit(&record);
     chance.number(record.searchSpaceId, 0, 39);
-    if (chance.flag(record.bitMask, RRC_SEARCH_SPACE_CONTROL_RESOURCE_SETID_PRESENCE))
-    {
-        chance.number(record.controlResourceSetId, 0, 11);
-    }
+    chance.numberIf(record.bitMask, RRC_SEARCH_SPACE_CONTROL_RESOURCE_SETID_PRESENCE, record.controlResourceSetId, 0,
+                    11);
     if (chance.flag(record.bitMask, RRC_SEARCH_SPACE_MON_SLOT_PERIOD_AND_OFFSET_PRESENCE))
     {
         drawPeriod(chance, record.monitoringSlotPeriodOffset);
     }
-    if (chance.flag(record.bitMask, RRC_SEARCH_SPACE_DURATION_PRESENCE))
-    {
-        chance.number(record.duration, 2, 2559);
-    }
+    chance.numberIf(record.bitMask, RRC_SEARCH_SPACE_DURATION_PRESENCE, record.duration, 2, 2559);
     if (chance.flag(record.bitMask, RRC_SEARCH_SPACE_MON_SYMBOL_WITH_SLOT_PRESENCE))
     {
         record.monitoringSysmblosWithSlot = chance.bitField(14) & 0x3FFF;

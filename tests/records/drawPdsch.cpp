@@ -72,39 +72,18 @@ void drawPtrs(Chance& chance, RrcPtrsDlCfg_t& record)
     {
         chance.numbers(record.timeDensity, 3, 0, 29);
     }
-    if (chance.flag(record.bitMask, RRC_PTRS_DL_CFG_EPRE_RATIO_PRESENCE))
-    {
-        chance.number(record.epreRatio, 0, 3);
-    }
-    if (chance.flag(record.bitMask, RRC_PTRS_DL_CFG_RESOURCE_ELE_OFFSET_PRESENCE))
-    {
-        chance.enumeration(record.resourceElementOffset, 2);
-    }
+    chance.numberIf(record.bitMask, RRC_PTRS_DL_CFG_EPRE_RATIO_PRESENCE, record.epreRatio, 0, 3);
+    chance.enumerationIf(record.bitMask, RRC_PTRS_DL_CFG_RESOURCE_ELE_OFFSET_PRESENCE, record.resourceElementOffset, 2);
 }
 
 void drawDmrs(Chance& chance, RrcDmrsDlCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_DMRS_DL_CFG_TYPE_PRESENCE))
-    {
-        chance.enumeration(record.dmrsType, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_DMRS_DL_CFG_ADDI_POSITION_PRESENCE))
-    {
-        chance.enumeration(record.dmrsAdditionalPos, 2);
-    }
-    if (chance.flag(record.bitMask, RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE))
-    {
-        chance.enumeration(record.maxLength, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_DMRS_DL_CFG_SCRAM_ID0_PRESENCE))
-    {
-        chance.number(record.scramblingID0, 0, 65535);
-    }
-    if (chance.flag(record.bitMask, RRC_DMRS_DL_CFG_SCRAM_ID1_PRESENCE))
-    {
-        chance.number(record.scramblingID1, 0, 65535);
-    }
+    chance.enumerationIf(record.bitMask, RRC_DMRS_DL_CFG_TYPE_PRESENCE, record.dmrsType, 0);
+    chance.enumerationIf(record.bitMask, RRC_DMRS_DL_CFG_ADDI_POSITION_PRESENCE, record.dmrsAdditionalPos, 2);
+    chance.enumerationIf(record.bitMask, RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE, record.maxLength, 0);
+    chance.numberIf(record.bitMask, RRC_DMRS_DL_CFG_SCRAM_ID0_PRESENCE, record.scramblingID0, 0, 65535);
+    chance.numberIf(record.bitMask, RRC_DMRS_DL_CFG_SCRAM_ID1_PRESENCE, record.scramblingID1, 0, 65535);
     if (chance.flag(record.bitMask, RRC_DMRS_DL_CFG_TRACKRS_PRESENCE))
     {
         drawPtrs(chance, record.phaseTrackingRS);
@@ -122,14 +101,8 @@ void drawQcl(Chance& chance, RrcQclInfo_t& record)
     {
         chance.number(record.refSignal.csiRsIdx, 0, 191);
     }
-    if (chance.flag(record.bitMask, RRC_QCI_INFO_CELL_PRESENCE))
-    {
-        chance.number(record.cellIdx, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_QCI_INFO_BWP_ID_PRESENCE))
-    {
-        chance.number(record.bwpId, 0, 4);
-    }
+    chance.numberIf(record.bitMask, RRC_QCI_INFO_CELL_PRESENCE, record.cellIdx, 0, 31);
+    chance.numberIf(record.bitMask, RRC_QCI_INFO_BWP_ID_PRESENCE, record.bwpId, 0, 4);
 }
 
 void drawTciState(Chance& chance, RrcTciState_t& record)
@@ -166,18 +139,12 @@ void drawZpResourceSet(Chance& chance, RrcZpCsiRsResourceSet_t& record)
 void drawBundling(Chance& chance, RrcPdschCfg_t& record)
 {
     chance.alternative(record.prbBitmask, {RRC_PDSCH_CFG_PRB_BUNDLING_STATIC, RRC_PDSCH_CFG_PRB_BUNDLING_DYNAMIC});
-    if (chance.flag(record.staticbundingtype.bitMask, RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE))
-    {
-        chance.enumeration(record.staticbundingtype.bundleSize, 1);
-    }
-    if (chance.flag(record.dynamicbundingtype.bitMask, RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET1_PRESENCE))
-    {
-        chance.enumeration(record.dynamicbundingtype.bundleSizeSet1, 3);
-    }
-    if (chance.flag(record.dynamicbundingtype.bitMask, RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET2_PRESENCE))
-    {
-        chance.enumeration(record.dynamicbundingtype.bundleSIzeSet2, 1);
-    }
+    chance.enumerationIf(record.staticbundingtype.bitMask, RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE,
+                         record.staticbundingtype.bundleSize, 1);
+    chance.enumerationIf(record.dynamicbundingtype.bitMask, RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET1_PRESENCE,
+                         record.dynamicbundingtype.bundleSizeSet1, 3);
+    chance.enumerationIf(record.dynamicbundingtype.bitMask, RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET2_PRESENCE,
+                         record.dynamicbundingtype.bundleSIzeSet2, 1);
 }
 
 void drawDetectionResource(Chance& chance, RrcRadioLinkMonitorRs_t& record)
@@ -205,26 +172,13 @@ void draw(Chance& chance, RrcPdschCfg_t& record)
     drawBundling(chance, record);
     const auto numbers = [&]
     {
-        if (chance.flag(record.bitMask, RRC_PDSCH_CFG_DATA_SCRAMBLING_ID_PRESENCE))
-        {
-            chance.number(record.dataScramblingIDPdsch, 0, 1023);
-        }
-        if (chance.flag(record.bitMask, RRC_PDSCH_CFG_INTERLEAVE_PRESENCE))
-        {
-            chance.enumeration(record.vrbToPrbInterleaver, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_PDSCH_CFG_AGGR_FACTOR_PRESENCE))
-        {
-            chance.enumeration(record.pdschAggregationFactor, 2);
-        }
-        if (chance.flag(record.bitMask, RRC_PDSCH_CFG_MCS_TABLE_PRESENCE))
-        {
-            chance.enumeration(record.mcsTable, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_PDSCH_CFG_CODEWORDS_BY_DCI_PRESENCE))
-        {
-            chance.enumeration(record.maxNrofCodeWordsScheduleByDCI, 1);
-        }
+        chance.numberIf(record.bitMask, RRC_PDSCH_CFG_DATA_SCRAMBLING_ID_PRESENCE, record.dataScramblingIDPdsch, 0,
+                        1023);
+        chance.enumerationIf(record.bitMask, RRC_PDSCH_CFG_INTERLEAVE_PRESENCE, record.vrbToPrbInterleaver, 1);
+        chance.enumerationIf(record.bitMask, RRC_PDSCH_CFG_AGGR_FACTOR_PRESENCE, record.pdschAggregationFactor, 2);
+        chance.enumerationIf(record.bitMask, RRC_PDSCH_CFG_MCS_TABLE_PRESENCE, record.mcsTable, 1);
+        chance.enumerationIf(record.bitMask, RRC_PDSCH_CFG_CODEWORDS_BY_DCI_PRESENCE,
+                             record.maxNrofCodeWordsScheduleByDCI, 1);
     };
     const auto dmrs = [&]
     {
@@ -308,14 +262,8 @@ void draw(Chance& chance, RrcSpsCfg_t& record)
     rrcInit(&record);
     chance.enumeration(record.periodicity, 15);
     chance.number(record.nrofHardProcess, 1, 8);
-    if (chance.flag(record.bitMask, RRC_SPS_CFG_N1_PUCCH_AN_PRESENCE))
-    {
-        chance.number(record.n1PucchAn, 0, 127);
-    }
-    if (chance.flag(record.bitMask, RRC_SPS_CFG_MCS_TABLE_PRESENCE))
-    {
-        chance.enumeration(record.mcsTable, 0);
-    }
+    chance.numberIf(record.bitMask, RRC_SPS_CFG_N1_PUCCH_AN_PRESENCE, record.n1PucchAn, 0, 127);
+    chance.enumerationIf(record.bitMask, RRC_SPS_CFG_MCS_TABLE_PRESENCE, record.mcsTable, 0);
 }
 
 void draw(Chance& chance, RrcRlmCfg_t& record)
@@ -329,14 +277,10 @@ void draw(Chance& chance, RrcRlmCfg_t& record)
     }
     chance.numbers(record.failDetectResourceId,
                    chance.optionalCount(record.numFailDetectResourceRel, RRC_MAX_NROF_FAIL_DETECT_RESOURCE, 4), 0, 9);
-    if (chance.flag(record.bitMask, RRC_RADIO_LINK_MONITOR_BEAM_FAIL_MAX_COUNT_PRESENCE))
-    {
-        chance.enumeration(record.beamFailureInstanceMaxCount, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_RADIO_LINK_MONITOR_BEAM_FAIL_DETECT_TIMER_PRESENCE))
-    {
-        chance.enumeration(record.beamFailureDetectionTimer, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_RADIO_LINK_MONITOR_BEAM_FAIL_MAX_COUNT_PRESENCE,
+                         record.beamFailureInstanceMaxCount, 7);
+    chance.enumerationIf(record.bitMask, RRC_RADIO_LINK_MONITOR_BEAM_FAIL_DETECT_TIMER_PRESENCE,
+                         record.beamFailureDetectionTimer, 7);
 }
 
 void draw(Chance& chance, RrcPdschTimeDomainResourceAllocList_t& record)
@@ -348,10 +292,7 @@ void draw(Chance& chance, RrcPdschTimeDomainResourceAllocList_t& record)
         RrcPdschTimeDomainResourceAlloc_t& allocation = record.alloc[i];
         chance.enumeration(allocation.mappingType, 1);
         chance.number(allocation.startSymAdnLen, 0, 127);
-        if (chance.flag(allocation.bitMask, RRC_PDSCH_TIMING_KO_PRESENCE))
-        {
-            chance.number(allocation.k0, 0, 32);
-        }
+        chance.numberIf(allocation.bitMask, RRC_PDSCH_TIMING_KO_PRESENCE, allocation.k0, 0, 32);
     }
 }
 
@@ -368,10 +309,8 @@ void draw(Chance& chance, RrcRateMatchPattern_t& record)
     {
         chance.number(record.patternType.controlResourceSetId, 0, 11);
     }
-    if (chance.flag(record.bitMask, RRC_RATE_MATCH_PATTERN_SUB_CARRIER_SPACING_PRESENCE))
-    {
-        chance.enumeration(record.subCarrierSapcing, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_RATE_MATCH_PATTERN_SUB_CARRIER_SPACING_PRESENCE, record.subCarrierSapcing,
+                         7);
 }
 
 } // namespace records

@@ -12,10 +12,8 @@ void draw(Chance& chance, RrcPucchResourceSet_t& record)
     chance.number(record.pucchResourceSetId, 0, 3);
     const unsigned resources = chance.count(record.numResourceList, 1, 32, 7);
     chance.numbers(record.pucchResourceId, resources, 0, 127);
-    if (chance.flag(record.bitMask, RRC_PUCCH_RESOURCE_SET_MAX_PAYLOAD_MINUS1_PRESENCE))
-    {
-        chance.number(record.maxPayloadMinus1, 4, 256);
-    }
+    chance.numberIf(record.bitMask, RRC_PUCCH_RESOURCE_SET_MAX_PAYLOAD_MINUS1_PRESENCE, record.maxPayloadMinus1, 4,
+                    256);
 }
 
 void draw(Chance& chance, RrcPucchFormat0_t& record)
@@ -81,43 +79,22 @@ void draw(Chance& chance, RrcPucchResource_t& record)
         draw(chance, record.format.format4);
         break;
     }
-    if (chance.flag(record.bitMask, RRC_PUCCH_RESOURCE_INTRA_SLOT_FREQ_HOPPING_PRESENCE))
-    {
-        chance.enumeration(record.intraSlotFreqHopping, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_RESOURCE_SECOND_HOPPING_PRB_PRESENCE))
-    {
-        chance.number(record.secondHopPRB, 0, 274);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_RESOURCE_INTRA_SLOT_FREQ_HOPPING_PRESENCE,
+                         record.intraSlotFreqHopping, 0);
+    chance.numberIf(record.bitMask, RRC_PUCCH_RESOURCE_SECOND_HOPPING_PRB_PRESENCE, record.secondHopPRB, 0, 274);
 }
 
 void draw(Chance& chance, RrcPucchFormatCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE))
-    {
-        chance.enumeration(record.interSlotFreqHopping, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE))
-    {
-        chance.enumeration(record.additionalDMRS, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_FORMAT_CFG_MAX_CODE_RATE_PRESENCE))
-    {
-        chance.enumeration(record.maxCodeRate, 6);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_FORMAT_CFG_NR_OF_SLOTS_PRESENCE))
-    {
-        chance.enumeration(record.nrofSlots, 2);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE))
-    {
-        chance.enumeration(record.sumultaneousHarqAckCsi, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_FORMAT_CFG_PI2BPSK_PRESENCE))
-    {
-        chance.enumeration(record.pi2BPSK, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE,
+                         record.interSlotFreqHopping, 0);
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE, record.additionalDMRS, 0);
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_FORMAT_CFG_MAX_CODE_RATE_PRESENCE, record.maxCodeRate, 6);
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_FORMAT_CFG_NR_OF_SLOTS_PRESENCE, record.nrofSlots, 2);
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE,
+                         record.sumultaneousHarqAckCsi, 0);
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_FORMAT_CFG_PI2BPSK_PRESENCE, record.pi2BPSK, 0);
 }
 
 // The periodicity by its place in the schema.
@@ -160,10 +137,8 @@ void draw(Chance& chance, RrcSchedReqResourceCfg_t& record)
              RRC_SCHED_REQ_RESOURCE_CFG_PERIODICITY_SL640});
         drawOffset(chance, record.periodAndOffset, place);
     }
-    if (chance.flag(record.bitMask, RRC_SCHED_REQ_RESOURCE_CFG_PUCCH_RESOURCE_ID_PRESENCE))
-    {
-        chance.number(record.pucchResourceId, 0, 127);
-    }
+    chance.numberIf(record.bitMask, RRC_SCHED_REQ_RESOURCE_CFG_PUCCH_RESOURCE_ID_PRESENCE, record.pucchResourceId, 0,
+                    127);
 }
 
 void draw(Chance& chance, RrcPucchSpatialRelationInfo_t& record)
@@ -188,10 +163,8 @@ void draw(Chance& chance, RrcPucchSpatialRelationInfo_t& record)
     chance.number(record.pucchPathLossRefRsId, 0, 3);
     chance.number(record.p0PucchId, 1, 8);
     chance.enumeration(record.closedLoodIdx, 1);
-    if (chance.flag(record.bitMask, RRC_PUCCH_SPATIAL_RELEATION_INFO_SERVING_CELLID_PRESENCE))
-    {
-        chance.number(record.servingCellId, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_PUCCH_SPATIAL_RELEATION_INFO_SERVING_CELLID_PRESENCE, record.servingCellId, 0,
+                    31);
 }
 
 void draw(Chance& chance, RrcP0Pucch_t& record)
@@ -219,26 +192,11 @@ void draw(Chance& chance, RrcPucchPathLossRefRs_t& record)
 void draw(Chance& chance, RrcPucchPowerControl_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_F0_PRESENCE))
-    {
-        chance.number(record.deltaFPucchF0, -16, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_F1_PRESENCE))
-    {
-        chance.number(record.deltaFPucchF1, -16, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_F2_PRESENCE))
-    {
-        chance.number(record.deltaFPucchF2, -16, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_F3_PRESENCE))
-    {
-        chance.number(record.deltaFPucchF3, -16, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_F4_PRESENCE))
-    {
-        chance.number(record.deltaFPucchF4, -16, 15);
-    }
+    chance.numberIf(record.bitMask, RRC_PUCCH_POWER_CONTROL_F0_PRESENCE, record.deltaFPucchF0, -16, 15);
+    chance.numberIf(record.bitMask, RRC_PUCCH_POWER_CONTROL_F1_PRESENCE, record.deltaFPucchF1, -16, 15);
+    chance.numberIf(record.bitMask, RRC_PUCCH_POWER_CONTROL_F2_PRESENCE, record.deltaFPucchF2, -16, 15);
+    chance.numberIf(record.bitMask, RRC_PUCCH_POWER_CONTROL_F3_PRESENCE, record.deltaFPucchF3, -16, 15);
+    chance.numberIf(record.bitMask, RRC_PUCCH_POWER_CONTROL_F4_PRESENCE, record.deltaFPucchF4, -16, 15);
     if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_P0_SET_PRESENCE))
     {
         const unsigned powers = chance.count(record.numP0Set, 1, RRC_MAX_NROF_PUCCH_P0_PER_SET, 8);
@@ -264,10 +222,8 @@ void draw(Chance& chance, RrcPucchPowerControl_t& record)
     {
         chance.bits(record.numPathLossRefRs, 8);
     }
-    if (chance.flag(record.bitMask, RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE))
-    {
-        chance.enumeration(record.twoPucchPcAdjStates, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE,
+                         record.twoPucchPcAdjStates, 0);
 }
 
 } // namespace

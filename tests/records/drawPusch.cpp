@@ -19,10 +19,8 @@ void draw(Chance& chance, RrcPtrsUlTransformPrecodeDisable_t& record)
     {
         chance.numbers(record.timeDensity, 3, 0, 29);
     }
-    if (chance.flag(record.bitMask, RRC_PTRS_UL_CFG_DISABLE_RESOURCE_ELE_OFFSET_PRESENCE))
-    {
-        chance.enumeration(record.resourceElementOffset, 2);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PTRS_UL_CFG_DISABLE_RESOURCE_ELE_OFFSET_PRESENCE,
+                         record.resourceElementOffset, 2);
 }
 
 void draw(Chance& chance, RrcPtrsUlTransformPrecodeEnable_t& record)
@@ -50,45 +48,24 @@ void draw(Chance& chance, RrcPtrsUlCfg_t& record)
 void draw(Chance& chance, RrcTransformPrecodDisable_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_TRANSFORM_PRECODE_DISABLE_ID0_PRESENCE))
-    {
-        chance.number(record.scramblingId0, 0, 65535);
-    }
-    if (chance.flag(record.bitMask, RRC_TRANSFORM_PRECODE_DISABLE_ID1_PRESENCE))
-    {
-        chance.number(record.scramblingId1, 0, 65535);
-    }
+    chance.numberIf(record.bitMask, RRC_TRANSFORM_PRECODE_DISABLE_ID0_PRESENCE, record.scramblingId0, 0, 65535);
+    chance.numberIf(record.bitMask, RRC_TRANSFORM_PRECODE_DISABLE_ID1_PRESENCE, record.scramblingId1, 0, 65535);
 }
 
 void draw(Chance& chance, RrcTransformPrecodEnable_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_TRANSFORM_PRECODE_ENABLE_ID_PRESENCE))
-    {
-        chance.number(record.nPuschId, 0, 1007);
-    }
-    if (chance.flag(record.bitMask, RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE))
-    {
-        chance.enumeration(record.seqGrpHopping, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE))
-    {
-        chance.enumeration(record.seqHopping, 0);
-    }
+    chance.numberIf(record.bitMask, RRC_TRANSFORM_PRECODE_ENABLE_ID_PRESENCE, record.nPuschId, 0, 1007);
+    chance.enumerationIf(record.bitMask, RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE, record.seqGrpHopping, 0);
+    chance.enumerationIf(record.bitMask, RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE, record.seqHopping, 0);
 }
 
 void draw(Chance& chance, RrcP0PuschAlphaSet_t& record)
 {
     rrcInit(&record);
     chance.number(record.p0PuschAlphaId, 0, 29);
-    if (chance.flag(record.bitMask, RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE))
-    {
-        chance.number(record.p0, -16, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_P0PUSCH_ALPHA_SET_ALPHA_PRESENCE))
-    {
-        chance.enumeration(record.alpha, 7);
-    }
+    chance.numberIf(record.bitMask, RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE, record.p0, -16, 15);
+    chance.enumerationIf(record.bitMask, RRC_P0PUSCH_ALPHA_SET_ALPHA_PRESENCE, record.alpha, 7);
 }
 
 void draw(Chance& chance, RrcPuschPathLossRefRs_t& record)
@@ -118,26 +95,13 @@ void draw(Chance& chance, RrcSriPuschPowerControl_t& record)
 void draw(Chance& chance, RrcPuschPowerControl_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUSCH_POWER_CONTROL_TCP_ACCUMULATION_PRESENCE))
-    {
-        chance.enumeration(record.tpcAccumulation, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_POWER_CONTROL_MSG3_ALPHA_PRESENCE))
-    {
-        chance.enumeration(record.msg3Alpha, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_POWER_CONTROL_P0_NOMINAL_WITHOUT_GRANT_PRESENCE))
-    {
-        chance.number(record.p0NominalWithOutGrant, -202, 24);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE))
-    {
-        chance.enumeration(record.twoPuschPcAdjStates, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE))
-    {
-        chance.enumeration(record.deltaMcs, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_POWER_CONTROL_TCP_ACCUMULATION_PRESENCE, record.tpcAccumulation, 0);
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_POWER_CONTROL_MSG3_ALPHA_PRESENCE, record.msg3Alpha, 7);
+    chance.numberIf(record.bitMask, RRC_PUSCH_POWER_CONTROL_P0_NOMINAL_WITHOUT_GRANT_PRESENCE,
+                    record.p0NominalWithOutGrant, -202, 24);
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE,
+                         record.twoPuschPcAdjStates, 0);
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE, record.deltaMcs, 0);
     const auto alphaSets = [&]
     {
         const unsigned sets = chance.optionalCount(record.numP0AlphaSets, RRC_MAX_NROF_P0_PUSCH_ALPHA_SETS, 7);
@@ -177,43 +141,19 @@ void draw(Chance& chance, RrcPuschTimeDomainResourceAlloc_t& record)
     rrcInit(&record);
     chance.enumeration(record.mappingType, 1);
     chance.number(record.startSymbolAndLen, 0, 127);
-    if (chance.flag(record.bitMask, RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE))
-    {
-        chance.number(record.k2, 0, 32);
-    }
+    chance.numberIf(record.bitMask, RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE, record.k2, 0, 32);
 }
 
 void draw(Chance& chance, RrcBetaOffsets_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_ACK_IDX1_PRESENCE))
-    {
-        chance.number(record.betaOffsetAckIdx1, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_ACK_IDX2_PRESENCE))
-    {
-        chance.number(record.betaOffsetAckIdx2, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_ACK_IDX3_PRESENCE))
-    {
-        chance.number(record.betaOffsetAckIdx3, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_CSI_PART1_IDX1_PRESENCE))
-    {
-        chance.number(record.betaOffsetCSIPart1Idx1, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_CSI_PART1_IDX2_PRESENCE))
-    {
-        chance.number(record.betaOffsetCSIPart1Idx2, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_CSI_PART2_IDX1_PRESENCE))
-    {
-        chance.number(record.betaOffsetCSIPart2Idx1, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_BETA_OFFSETS_CSI_PART2_IDX2_PRESENCE))
-    {
-        chance.number(record.betaOffsetCSIPart2Idx2, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_ACK_IDX1_PRESENCE, record.betaOffsetAckIdx1, 0, 31);
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_ACK_IDX2_PRESENCE, record.betaOffsetAckIdx2, 0, 31);
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_ACK_IDX3_PRESENCE, record.betaOffsetAckIdx3, 0, 31);
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_CSI_PART1_IDX1_PRESENCE, record.betaOffsetCSIPart1Idx1, 0, 31);
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_CSI_PART1_IDX2_PRESENCE, record.betaOffsetCSIPart1Idx2, 0, 31);
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_CSI_PART2_IDX1_PRESENCE, record.betaOffsetCSIPart2Idx1, 0, 31);
+    chance.numberIf(record.bitMask, RRC_BETA_OFFSETS_CSI_PART2_IDX2_PRESENCE, record.betaOffsetCSIPart2Idx2, 0, 31);
 }
 
 void draw(Chance& chance, RrcUciOnPusch_t& record)
@@ -269,18 +209,11 @@ void draw(Chance& chance, rrcCfgdUlGrant_s& record)
     chance.number(record.precodingAndNumberOfLayers, 0, 63);
     chance.number(record.mcsAndTBS, 0, 31);
     chance.number(record.pathLossRefIdx, 0, 3);
-    if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_UL_GRANT_DMRS_SEQ_INIT_PRESENCE))
-    {
-        chance.number(record.dmrsSeqInit, 0, 1);
-    }
-    if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_UL_GRANT_SRS_RESOURCE_IND_PRESENCE))
-    {
-        chance.number(record.srsResourceInd, 0, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_UL_GRANT_FREQ_HOPPING_OFFSET_PRESENCE))
-    {
-        chance.number(record.freqHoppingOffset, 1, 274);
-    }
+    chance.numberIf(record.bitMask, RRC_CFGD_GRANT_CFG_UL_GRANT_DMRS_SEQ_INIT_PRESENCE, record.dmrsSeqInit, 0, 1);
+    chance.numberIf(record.bitMask, RRC_CFGD_GRANT_CFG_UL_GRANT_SRS_RESOURCE_IND_PRESENCE, record.srsResourceInd, 0,
+                    15);
+    chance.numberIf(record.bitMask, RRC_CFGD_GRANT_CFG_UL_GRANT_FREQ_HOPPING_OFFSET_PRESENCE, record.freqHoppingOffset,
+                    1, 274);
 }
 
 } // namespace
@@ -291,14 +224,9 @@ void draw(Chance& chance, RrcPuschCfg_t& record)
     chance.enumeration(record.resourceAlloc, 2);
     const auto scrambling = [&]
     {
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_DATA_SCRAMBLING_ID_PUSCH_PRESENCE))
-        {
-            chance.number(record.dataScramblingIdPusch, 0, 1023);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_TX_CFG_PRESENCE))
-        {
-            chance.enumeration(record.txCfg, 1);
-        }
+        chance.numberIf(record.bitMask, RRC_PUSCH_CFG_DATA_SCRAMBLING_ID_PUSCH_PRESENCE, record.dataScramblingIdPusch,
+                        0, 1023);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_TX_CFG_PRESENCE, record.txCfg, 1);
     };
     const auto dmrs = [&]
     {
@@ -320,10 +248,7 @@ void draw(Chance& chance, RrcPuschCfg_t& record)
     };
     const auto frequencyHopping = [&]
     {
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE))
-        {
-            chance.enumeration(record.freqHopping, 1);
-        }
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE, record.freqHopping, 1);
         const unsigned offsets = chance.optionalCount(record.numFreqHoppingOffset, 4, 9);
         chance.numbers(record.freqHoppingOffset, offsets, 1, 274);
     };
@@ -341,38 +266,16 @@ void draw(Chance& chance, RrcPuschCfg_t& record)
     };
     const auto tables = [&]
     {
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_PUSCH_AGGREGATION_FACTOR_PRESENCE))
-        {
-            chance.enumeration(record.puschAggregationFactor, 2);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_MCS_TABLE_PRESENCE))
-        {
-            chance.enumeration(record.mcsTable, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_MCS_TABLE_TRANSFORM_PRECODER_PRESENCE))
-        {
-            chance.enumeration(record.mcsTableTransformPrecoder, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_TRANSFORM_PRECODER_PRESENCE))
-        {
-            chance.enumeration(record.transformPrecoder, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_CODE_BOOK_SUBSET_PRESENCE))
-        {
-            chance.enumeration(record.codebookSubSet, 2);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_MAX_RANK_PRESENCE))
-        {
-            chance.number(record.maxRank, 1, 4);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_RBG_SIZE_PRESENCE))
-        {
-            chance.enumeration(record.rbgSize, 0);
-        }
-        if (chance.flag(record.bitMask, RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE))
-        {
-            chance.enumeration(record.tpPi2Bpsk, 0);
-        }
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_PUSCH_AGGREGATION_FACTOR_PRESENCE,
+                             record.puschAggregationFactor, 2);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_MCS_TABLE_PRESENCE, record.mcsTable, 1);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_MCS_TABLE_TRANSFORM_PRECODER_PRESENCE,
+                             record.mcsTableTransformPrecoder, 1);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_TRANSFORM_PRECODER_PRESENCE, record.transformPrecoder, 1);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_CODE_BOOK_SUBSET_PRESENCE, record.codebookSubSet, 2);
+        chance.numberIf(record.bitMask, RRC_PUSCH_CFG_MAX_RANK_PRESENCE, record.maxRank, 1, 4);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_RBG_SIZE_PRESENCE, record.rbgSize, 0);
+        chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE, record.tpPi2Bpsk, 0);
     };
     const auto uci = [&]
     {
@@ -398,22 +301,13 @@ void draw(Chance& chance, RrcPuschTimeDomainResourceAllocList_t& record)
 void draw(Chance& chance, RrcDmrsUlCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_DMRS_UL_CFG_TYPE_PRESENCE))
-    {
-        chance.enumeration(record.dmrsType, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_DMRS_UL_CFG_ADDI_POS_PRESENCE))
-    {
-        chance.enumeration(record.dmrsAddiPos, 2);
-    }
+    chance.enumerationIf(record.bitMask, RRC_DMRS_UL_CFG_TYPE_PRESENCE, record.dmrsType, 0);
+    chance.enumerationIf(record.bitMask, RRC_DMRS_UL_CFG_ADDI_POS_PRESENCE, record.dmrsAddiPos, 2);
     if (chance.flag(record.bitMask, RRC_DMRS_UL_CFG_PHASE_TRACK_RS_PRESENCE))
     {
         draw(chance, record.phaseTrackRs);
     }
-    if (chance.flag(record.bitMask, RRC_DMRS_UL_CFG_MAX_LENGTH_PRESENCE))
-    {
-        chance.enumeration(record.maxLength, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_DMRS_UL_CFG_MAX_LENGTH_PRESENCE, record.maxLength, 0);
     if (chance.flag(record.bitMask, RRC_DMRS_UL_CFG_TRANSFORM_PRECODE_DISABLE_PRESENCE))
     {
         draw(chance, record.transformPrecodDisable);
@@ -439,34 +333,15 @@ void draw(Chance& chance, RrcCfgGrantCfg_t& record)
     };
     const auto tables = [&]
     {
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_FREQ_HOPPING_PRESENCE))
-        {
-            chance.enumeration(record.freqHopping, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_MCS_TABLE_PRESENCE))
-        {
-            chance.enumeration(record.mcsTable, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_MCS_TABLE_PRECODER_PRESENCE))
-        {
-            chance.enumeration(record.mcaTableTransformPrecoder, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE))
-        {
-            chance.enumeration(record.rbgSize, 0);
-        }
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_TRANSFORM_PRECODER_PRESENCE))
-        {
-            chance.enumeration(record.transformPrecoder, 1);
-        }
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_REPK_RV_PRESENCE))
-        {
-            chance.enumeration(record.repKRv, 2);
-        }
-        if (chance.flag(record.bitMask, RRC_CFGD_GRANT_CFG_CFGD_GRANT_TIMER_PRESENCE))
-        {
-            chance.number(record.cfgdGrantTimer, 1, 64);
-        }
+        chance.enumerationIf(record.bitMask, RRC_CFGD_GRANT_CFG_FREQ_HOPPING_PRESENCE, record.freqHopping, 1);
+        chance.enumerationIf(record.bitMask, RRC_CFGD_GRANT_CFG_MCS_TABLE_PRESENCE, record.mcsTable, 1);
+        chance.enumerationIf(record.bitMask, RRC_CFGD_GRANT_CFG_MCS_TABLE_PRECODER_PRESENCE,
+                             record.mcaTableTransformPrecoder, 1);
+        chance.enumerationIf(record.bitMask, RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE, record.rbgSize, 0);
+        chance.enumerationIf(record.bitMask, RRC_CFGD_GRANT_CFG_TRANSFORM_PRECODER_PRESENCE, record.transformPrecoder,
+                             1);
+        chance.enumerationIf(record.bitMask, RRC_CFGD_GRANT_CFG_REPK_RV_PRESENCE, record.repKRv, 2);
+        chance.numberIf(record.bitMask, RRC_CFGD_GRANT_CFG_CFGD_GRANT_TIMER_PRESENCE, record.cfgdGrantTimer, 1, 64);
     };
     const auto uci = [&]
     {

@@ -38,10 +38,7 @@ void drawOccasions(Chance& chance, RrcOccasions_t& record)
 {
     rrcInit(&record);
     draw(chance, record.rachCfgGen);
-    if (chance.flag(record.bitMask, RRC_OCCASION_SSB_PER_RACH_PRESENCE))
-    {
-        chance.enumeration(record.ssbPerRachOccasion, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_OCCASION_SSB_PER_RACH_PRESENCE, record.ssbPerRachOccasion, 7);
 }
 
 void drawCfra(Chance& chance, RrcCfra_t& record)
@@ -69,10 +66,7 @@ void drawCfra(Chance& chance, RrcCfra_t& record)
         }
     };
     chance.inAnyOrder(occasions, resources);
-    if (chance.flag(record.bitMask, RRC_CFRA_PREAMBLE_PRESENCE))
-    {
-        chance.number(record.totalNumOfRaPreableV1530, 1, 63);
-    }
+    chance.numberIf(record.bitMask, RRC_CFRA_PREAMBLE_PRESENCE, record.totalNumOfRaPreableV1530, 1, 63);
 }
 
 } // namespace
@@ -114,10 +108,7 @@ void draw(Chance& chance, RrcRaPrio_t& record)
 {
     rrcInit(&record);
     chance.enumeration(record.powerRampingStepHighPriority, 3);
-    if (chance.flag(record.bitMask, RRC_RA_PRIO_SCALINGFACTOR_PRESENCE))
-    {
-        chance.enumeration(record.scalingFactorBI, 3);
-    }
+    chance.enumerationIf(record.bitMask, RRC_RA_PRIO_SCALINGFACTOR_PRESENCE, record.scalingFactorBI, 3);
 }
 
 } // namespace records

@@ -72,28 +72,15 @@ void drawUplinkSpecific(Chance& chance, RrcUlSpecificParaCfg_t& record)
     {
         chance.numbers(record.subCarrierSpacing, chance.count(record.allowedSCSNum, 1, 5, 3), 0, 7);
     }
-    if (chance.flag(record.bitMask, RRC_UL_SPECIFICPARA_PUSCH_CFG_PRESENCE))
-    {
-        chance.enumeration(record.maxPuschDuration, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE))
-    {
-        chance.enumeration(record.configuredGrantType1Allowed, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_UL_SPECIFICPARA_LCG_CFG_PRESENCE))
-    {
-        chance.number(record.logicalChannelGroupId, 0, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_UL_SPECIFICPARA_SR_CFG_PRESENCE))
-    {
-        chance.number(record.schedReqId, 0, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_UL_SPECIFICPARA_PUSCH_CFG_PRESENCE, record.maxPuschDuration, 7);
+    chance.enumerationIf(record.bitMask, RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE,
+                         record.configuredGrantType1Allowed, 0);
+    chance.numberIf(record.bitMask, RRC_UL_SPECIFICPARA_LCG_CFG_PRESENCE, record.logicalChannelGroupId, 0, 7);
+    chance.numberIf(record.bitMask, RRC_UL_SPECIFICPARA_SR_CFG_PRESENCE, record.schedReqId, 0, 7);
     chance.boolean(record.logicalChannelSrMask);
     chance.boolean(record.logcalChannelSrDealyTimerApplied);
-    if (chance.flag(record.bitMask, RRC_UL_SPECIFICPARA_BITRATE_QUERY_PROHIBIT_TIMER))
-    {
-        chance.enumeration(record.bitRateQueryProhibitTimer, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_UL_SPECIFICPARA_BITRATE_QUERY_PROHIBIT_TIMER,
+                         record.bitRateQueryProhibitTimer, 7);
 }
 
 } // namespace
@@ -107,10 +94,7 @@ void draw(Chance& chance, RrcRlcBearerCfg_t& record)
         chance.enumeration(record.rbType, 1);
         chance.number(record.rbId, 1, record.rbType == RRC_SRB ? 3 : 32);
     }
-    if (chance.flag(record.bitMask, RRC_RLCBEARERCFG_REESTABRLC_PRESENCE))
-    {
-        chance.enumeration(record.reestablRlc, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_RLCBEARERCFG_REESTABRLC_PRESENCE, record.reestablRlc, 0);
     if (chance.flag(record.bitMask, RRC_RLCBEARERCFG_RLC_PRESENCE))
     {
         drawRlc(chance, record.rlcCfg);

@@ -19,10 +19,7 @@ void drawCarriers(Chance& chance, UINT8& scsNum, SpecificCarrier_t (&carriers)[N
 void drawFrequency(Chance& chance, RrcFreqInfoDl_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, FREQ_INFO_DL_ABS_FREQ_SSB))
-    {
-        chance.number(record.absFreqSsb, 0, 3279165);
-    }
+    chance.numberIf(record.bitMask, FREQ_INFO_DL_ABS_FREQ_SSB, record.absFreqSsb, 0, 3279165);
     chance.numbers(record.freqBandIndNr, chance.count(record.multiBandNum, 1, RRC_MAX_NROF_MULTI_BANDS, 10), 1, 1024);
     chance.number(record.absFreqPointA, 0, 3279165);
     drawCarriers(chance, record.scsNum, record.speCarrier);
@@ -35,22 +32,11 @@ void drawFrequency(Chance& chance, RrcFreqInfoUl_t& record)
                    1024);
     drawCarriers(chance, record.scsNum, record.speCarrier);
     // What the bits guard is never sent, so it may hold anything.
-    if (chance.flag(record.bitMask, FREQ_INFO_UL_ABS_FREQ_POINTEA_PRESENCE))
-    {
-        chance.bits(record.absFreqPointA, 32);
-    }
-    if (chance.flag(record.bitMask, FREQ_INFO_UL_ADDIRIONAL_SPECTRUM_EMISSION_PRESENCE))
-    {
-        chance.bits(record.additionSpectrumEmission, 8);
-    }
-    if (chance.flag(record.bitMask, FREQ_INFO_UL_PMAX_PRESENCE))
-    {
-        chance.bits(record.pMax, 8);
-    }
-    if (chance.flag(record.bitMask, FREQ_INFO_UL_FREQ_SHIFT_7P5KHZ))
-    {
-        chance.bits(record.freqShift7p5khz, 8);
-    }
+    chance.bitsIf(record.bitMask, FREQ_INFO_UL_ABS_FREQ_POINTEA_PRESENCE, record.absFreqPointA, 32);
+    chance.bitsIf(record.bitMask, FREQ_INFO_UL_ADDIRIONAL_SPECTRUM_EMISSION_PRESENCE, record.additionSpectrumEmission,
+                  8);
+    chance.bitsIf(record.bitMask, FREQ_INFO_UL_PMAX_PRESENCE, record.pMax, 8);
+    chance.bitsIf(record.bitMask, FREQ_INFO_UL_FREQ_SHIFT_7P5KHZ, record.freqShift7p5khz, 8);
 }
 
 void drawDownlink(Chance& chance, RrcDlCfgComm_t& record)
@@ -118,26 +104,14 @@ void draw(Chance& chance, RrcServingCellCfgCommon_t& record)
     chance.number(record.ssPbchBlockPower, -60, 50);
     const auto small = [&]
     {
-        if (chance.flag(record.bitMask, RRC_PHY_SCELL_Id))
-        {
-            chance.number(record.pci, 0, 1007);
-        }
-        if (chance.flag(record.bitMask, RRC_TIMING_ADVANCE_OFFSET))
-        {
-            chance.enumeration(record.nTimingAdvanceOffset, 2);
-        }
+        chance.numberIf(record.bitMask, RRC_PHY_SCELL_Id, record.pci, 0, 1007);
+        chance.enumerationIf(record.bitMask, RRC_TIMING_ADVANCE_OFFSET, record.nTimingAdvanceOffset, 2);
         if (chance.flag(record.bitMask, RRC_SSB_POSITION_IN_BURST))
         {
             drawSsbPositions(chance, record);
         }
-        if (chance.flag(record.bitMask, RRC_SSB_PERIOD_CITY_SERVING_CELL))
-        {
-            chance.enumeration(record.ssbPeriodicityServingCell, 7);
-        }
-        if (chance.flag(record.bitMask, RRC_SUB_CARRIER_SPACING))
-        {
-            chance.enumeration(record.subCarrierSpacing, 7);
-        }
+        chance.enumerationIf(record.bitMask, RRC_SSB_PERIOD_CITY_SERVING_CELL, record.ssbPeriodicityServingCell, 7);
+        chance.enumerationIf(record.bitMask, RRC_SUB_CARRIER_SPACING, record.subCarrierSpacing, 7);
         if (chance.flag(record.bitMask, RRC_TDD_UL_DL_CFG_COMMON))
         {
             draw(chance, record.tddUlDlCfgComm);

@@ -9,14 +9,8 @@ namespace
 void draw(Chance& chance, srsCcSetIdx_s& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_SRS_CC_SET_IDX))
-    {
-        chance.number(record.ccSetIdx, 0, 3);
-    }
-    if (chance.flag(record.bitMask, RRC_SRS_CC_SET_IDX_ONE_CC_SET))
-    {
-        chance.number(record.ccIdxInOneCcSet, 0, 7);
-    }
+    chance.numberIf(record.bitMask, RRC_SRS_CC_SET_IDX, record.ccSetIdx, 0, 3);
+    chance.numberIf(record.bitMask, RRC_SRS_CC_SET_IDX_ONE_CC_SET, record.ccIdxInOneCcSet, 0, 7);
 }
 
 void draw(Chance& chance, RrcSrsTpcPdcchCfg_t& record)
@@ -72,14 +66,10 @@ void draw(Chance& chance, RrcSlotFormatCombPerCell_t& record)
     {
         draw(chance, record.SlotFormatComb[i]);
     }
-    if (chance.flag(record.bitMask, RRC_SLOT_FORMAT_COMB_PER_CELL_SUB_CARRIER_SPACING2_PRESENCE))
-    {
-        chance.enumeration(record.subCarrierSpacing2, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_SLOT_FORMAT_COMB_PER_CELL_POSITION_IN_DCI_PRESENCE))
-    {
-        chance.number(record.positionInDci, 0, 127);
-    }
+    chance.enumerationIf(record.bitMask, RRC_SLOT_FORMAT_COMB_PER_CELL_SUB_CARRIER_SPACING2_PRESENCE,
+                         record.subCarrierSpacing2, 7);
+    chance.numberIf(record.bitMask, RRC_SLOT_FORMAT_COMB_PER_CELL_POSITION_IN_DCI_PRESENCE, record.positionInDci, 0,
+                    127);
 }
 
 void draw(Chance& chance, RrcSlotFormatInd_t& record)
@@ -108,18 +98,10 @@ void draw(Chance& chance, RrcSlotFormatInd_t& record)
 void draw(Chance& chance, RrcPuschServingCellCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_CODE_BLOCK_GROUP_TRANMISSION_PRESECE))
-    {
-        chance.enumeration(record.codeBlockGroupTransmission.maxCodeBlockGroupPerTansportBlock, 3);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE))
-    {
-        chance.enumeration(record.rateMatching, 0);
-    }
-    if (chance.flag(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_X_OVER_HEAD_PRESECE))
-    {
-        chance.enumeration(record.xOverhead, 2);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_CODE_BLOCK_GROUP_TRANMISSION_PRESECE,
+                         record.codeBlockGroupTransmission.maxCodeBlockGroupPerTansportBlock, 3);
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE, record.rateMatching, 0);
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_X_OVER_HEAD_PRESECE, record.xOverhead, 2);
     // Never sent.
     chance.flag(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS);
     chance.flag(record.bitMask, RRC_PUSCH_SERVING_CELL_CFG_PROCESS_TYPE_2ENABLE);
@@ -128,10 +110,8 @@ void draw(Chance& chance, RrcPuschServingCellCfg_t& record)
 void draw(Chance& chance, RrcSrsCarrierSwitching_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_SRS_CARRIER_SWITCH_SERV_CELL_IDX_PRESENCE))
-    {
-        chance.number(record.srsSwitchFromServCellIdx, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_SRS_CARRIER_SWITCH_SERV_CELL_IDX_PRESENCE, record.srsSwitchFromServCellIdx, 0,
+                    31);
     chance.enumeration(record.SwitchFromCarrier, 1);
     const auto group = [&]
     {
@@ -170,26 +150,12 @@ void draw(Chance& chance, RrcPdschServingCellCfg_t& record)
         chance.enumeration(record.codeBlockGroupTransmission.maxCodeBlockGroupsPerTransportBlock, 3);
         chance.boolean(record.codeBlockGroupTransmission.codeBlockGroupFlushInd);
     }
-    if (chance.flag(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_X_OVERHEAD_PRESENCE))
-    {
-        chance.enumeration(record.xOverHead, 2);
-    }
-    if (chance.flag(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_NROF_HARQ_PROCESS_FOR_PDSCH_PRESENCE))
-    {
-        chance.enumeration(record.nrofHarqProcessForPDSCH, 5);
-    }
-    if (chance.flag(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_PUCCH_CELL_PRESENCE))
-    {
-        chance.number(record.cellIdx, 0, 31);
-    }
-    if (chance.flag(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS))
-    {
-        chance.number(record.maxMIMO_Layer, 1, 8);
-    }
-    if (chance.flag(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED))
-    {
-        chance.boolean(record.Type2Enabled);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_X_OVERHEAD_PRESENCE, record.xOverHead, 2);
+    chance.enumerationIf(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_NROF_HARQ_PROCESS_FOR_PDSCH_PRESENCE,
+                         record.nrofHarqProcessForPDSCH, 5);
+    chance.numberIf(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_PUCCH_CELL_PRESENCE, record.cellIdx, 0, 31);
+    chance.numberIf(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS, record.maxMIMO_Layer, 1, 8);
+    chance.booleanIf(record.bitMask, RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED, record.Type2Enabled);
 }
 
 } // namespace records

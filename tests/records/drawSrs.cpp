@@ -16,32 +16,24 @@ void drawResourceType(Chance& chance, RrcSrsResourceSet_t& record)
     {
         aperiodic_s& aperiodic = record.resourceType.aperiodic;
         chance.number(aperiodic.aperiodicSrsResourceTrigger, 1, 3);
-        if (chance.flag(aperiodic.bitMask, RRC_SRS_RESOURCE_SET_APERIODIC_CSI_RS_PRESENCE))
-        {
-            chance.number(aperiodic.csiRsResourceId, 0, 191);
-        }
-        if (chance.flag(aperiodic.bitMask, RRC_SRS_RESOURCE_SET_APERIODIC_SLOT_OFFSET_PRESENCE))
-        {
-            chance.number(aperiodic.slotOffset, 1, 32);
-        }
+        chance.numberIf(aperiodic.bitMask, RRC_SRS_RESOURCE_SET_APERIODIC_CSI_RS_PRESENCE, aperiodic.csiRsResourceId, 0,
+                        191);
+        chance.numberIf(aperiodic.bitMask, RRC_SRS_RESOURCE_SET_APERIODIC_SLOT_OFFSET_PRESENCE, aperiodic.slotOffset, 1,
+                        32);
         break;
     }
     case 1:
     {
         semiPersistent_s& semiPersistent = record.resourceType.semiPersistent;
-        if (chance.flag(semiPersistent.bitMask, RRC_SRS_RESOURCE_SET_SEMI_PERSISTENT_CSI_RS_PRESENCE))
-        {
-            chance.number(semiPersistent.associatedCsiRsId, 0, 191);
-        }
+        chance.numberIf(semiPersistent.bitMask, RRC_SRS_RESOURCE_SET_SEMI_PERSISTENT_CSI_RS_PRESENCE,
+                        semiPersistent.associatedCsiRsId, 0, 191);
         break;
     }
     default:
     {
         periodic_s& periodic = record.resourceType.periodic;
-        if (chance.flag(periodic.bitMask, RRC_SRS_RESOURCE_SET_PERIODIC_CSI_RS_PRESENCE))
-        {
-            chance.number(periodic.associatedCsiRsId, 0, 191);
-        }
+        chance.numberIf(periodic.bitMask, RRC_SRS_RESOURCE_SET_PERIODIC_CSI_RS_PRESENCE, periodic.associatedCsiRsId, 0,
+                        191);
         break;
     }
     }
@@ -76,10 +68,7 @@ void draw(Chance& chance, RrcSrsResourceSet_t& record)
     chance.numbers(record.srsResourceId, resources, 0, 63);
     drawResourceType(chance, record);
     chance.enumeration(record.usage, 3);
-    if (chance.flag(record.presence, RRC_SRS_RESOURCE_SET_ALPHA_PERSENCE))
-    {
-        chance.enumeration(record.Alpha, 7);
-    }
+    chance.enumerationIf(record.presence, RRC_SRS_RESOURCE_SET_ALPHA_PERSENCE, record.Alpha, 7);
     if (chance.flag(record.presence, RRC_SRS_RESOURCE_SET_P0_PERSENCE))
     {
         drawP0(chance, record.p0);
@@ -88,10 +77,8 @@ void draw(Chance& chance, RrcSrsResourceSet_t& record)
     {
         draw(chance, record.pathLossRefRs);
     }
-    if (chance.flag(record.presence, RRC_SRS_RESOURCE_SET_POWER_CTL_ADJ_PERSENCE))
-    {
-        chance.enumeration(record.srsPowerControlAdjustmentStates, 1);
-    }
+    chance.enumerationIf(record.presence, RRC_SRS_RESOURCE_SET_POWER_CTL_ADJ_PERSENCE,
+                         record.srsPowerControlAdjustmentStates, 1);
 }
 
 // Semi-persistent or periodic.
@@ -118,10 +105,7 @@ void drawPeriodicity(Chance& chance, Type& record)
 void draw(Chance& chance, RrcSrsSpatialRelationInfo_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_SRS_SERVING_CELL_ID))
-    {
-        chance.number(record.servingCellId, 0, 31);
-    }
+    chance.numberIf(record.bitMask, RRC_SRS_SERVING_CELL_ID, record.servingCellId, 0, 31);
     switch (chance.alternative(record.presence, {RRC_SRS_SPATIAL_RELATION_INFO_SSB_PRESENCE,
                                                  RRC_SRS_SPATIAL_RELATION_INFO_CSI_RS_PRESENCE,
                                                  RRC_SRS_SPATIAL_RELATION_INFO_SRS_PRESENCE}))
@@ -180,10 +164,7 @@ void draw(Chance& chance, RrcSrsResource_t& record)
         break;
     }
     chance.number(record.seqId, 0, 1023);
-    if (chance.flag(record.bitMask, RRC_SRS_RESOURCE_PTRS_PORT_IDX_PRESENCE))
-    {
-        chance.enumeration(record.ptrsPortIdx, 1);
-    }
+    chance.enumerationIf(record.bitMask, RRC_SRS_RESOURCE_PTRS_PORT_IDX_PRESENCE, record.ptrsPortIdx, 1);
     if (chance.flag(record.bitMask, RRC_SRS_RESOURCE_PTRS_SPATIAL_RELATION_INFO_PRESENCE))
     {
         draw(chance, record.spatialRelationInfo);
@@ -220,10 +201,7 @@ void draw(Chance& chance, RrcSrsCfg_t& record)
         chance.numbers(record.srsResourceId, releasedResources, 0, 63);
     };
     chance.inAnyOrder(sets, resources, releases);
-    if (chance.flag(record.bitMask, RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE))
-    {
-        chance.enumeration(record.tpcAccumulation, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE, record.tpcAccumulation, 0);
 }
 
 } // namespace records

@@ -57,10 +57,7 @@ void drawRach(Chance& chance, RrcRachCfgComm_t& record)
         chance.number(record.prachRootSeqIdx.l139, 0, 137);
     }
     chance.enumeration(record.restritedSetCfg, 2);
-    if (chance.flag(record.bitMask, RRC_RACH_CFG_COMMON_TOTAL_NUM_RAPREAMBLES))
-    {
-        chance.number(record.totalNumOfRaPreambles, 1, 63);
-    }
+    chance.numberIf(record.bitMask, RRC_RACH_CFG_COMMON_TOTAL_NUM_RAPREAMBLES, record.totalNumOfRaPreambles, 1, 63);
     if (chance.flag(record.bitMask, RRC_RACH_CFG_COMMON_SSB_PER_RACH_OCCASION_PREAMBLE_PER_SSB_PRESENCE))
     {
         drawSsbPerOccasion(chance, record);
@@ -76,31 +73,19 @@ void drawRach(Chance& chance, RrcRachCfgComm_t& record)
         chance.enumeration(record.groupBCfgd.msgPowerOffsetGroupB, 7);
         chance.number(record.groupBCfgd.numOfRaPreambleGroupA, 1, 64);
     }
-    if (chance.flag(record.bitMask, RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_PRESENCE))
-    {
-        chance.number(record.rsrpThreshSsb, 0, 127);
-    }
-    if (chance.flag(record.bitMask, RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_SUL_PRESENCE))
-    {
-        chance.number(record.rsrpThreshSsbSul, 0, 127);
-    }
-    if (chance.flag(record.bitMask, RRC_RACH_CFG_COMMON_MSG1_SUB_CARRIER_SPACINT_PRESENCE))
-    {
-        chance.enumeration(record.msg1SubCarrierSpacing, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE))
-    {
-        chance.enumeration(record.msg3TransformPreCoder, 0);
-    }
+    chance.numberIf(record.bitMask, RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_PRESENCE, record.rsrpThreshSsb, 0, 127);
+    chance.numberIf(record.bitMask, RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_SUL_PRESENCE, record.rsrpThreshSsbSul, 0, 127);
+    chance.enumerationIf(record.bitMask, RRC_RACH_CFG_COMMON_MSG1_SUB_CARRIER_SPACINT_PRESENCE,
+                         record.msg1SubCarrierSpacing, 7);
+    chance.enumerationIf(record.bitMask, RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE,
+                         record.msg3TransformPreCoder, 0);
 }
 
 void drawPusch(Chance& chance, RrcPuschCfgComm_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE))
-    {
-        chance.enumeration(record.groupHoppingEnabledTransformPrecoding, 0);
-    }
+    chance.enumerationIf(record.bitMask, RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE,
+                         record.groupHoppingEnabledTransformPrecoding, 0);
     if (chance.flag(record.bitMask, RRC_PUSCH_CFG_COMMON_PUSCH_TIMING_DOMAIN_ALLOCATION_LIST_PRESENCE))
     {
         draw(chance, record.puschTimieDomainAllocList);
@@ -110,10 +95,7 @@ void drawPusch(Chance& chance, RrcPuschCfgComm_t& record)
         // A count without its bit is not read.
         chance.bits(record.puschTimieDomainAllocList.numPuschTimeDomainResourceAllocList, 8);
     }
-    if (chance.flag(record.bitMask, RRC_PUSCH_CFG_COMMON_MSG3_DELTA_PREABLE_PRESENCE))
-    {
-        chance.number(record.msg3DeltaPreable, -1, 6);
-    }
+    chance.numberIf(record.bitMask, RRC_PUSCH_CFG_COMMON_MSG3_DELTA_PREABLE_PRESENCE, record.msg3DeltaPreable, -1, 6);
     if (chance.flag(record.bitMask, RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE))
     {
         // Unsigned: the octet cannot hold what is below 0.
@@ -125,14 +107,9 @@ void drawPucch(Chance& chance, RrcPucchCfgComm_t& record)
 {
     rrcInit(&record);
     chance.enumeration(record.pucchGroupHopping, 2);
-    if (chance.flag(record.bitMask, RRC_PUCCH_CFG_COMMON_PUCCH_RESOURCE_COMMON_PRESENCE))
-    {
-        chance.number(record.pucchResourceComm, 0, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_PUCCH_CFG_COMMON_HOPPING_ID_PRESENCE))
-    {
-        chance.number(record.hoppingId, 0, 1023);
-    }
+    chance.numberIf(record.bitMask, RRC_PUCCH_CFG_COMMON_PUCCH_RESOURCE_COMMON_PRESENCE, record.pucchResourceComm, 0,
+                    15);
+    chance.numberIf(record.bitMask, RRC_PUCCH_CFG_COMMON_HOPPING_ID_PRESENCE, record.hoppingId, 0, 1023);
     if (chance.flag(record.bitMask, RRC_PUCCH_CFG_COMMON_P0_NOMINAL_PRESENCE))
     {
         // The octet cannot hold what is below -128.
@@ -189,10 +166,7 @@ void draw(Chance& chance, RrcUlCfg_t& record)
         {
             draw(chance, record.ulBwpAddMod[i]);
         }
-        if (chance.flag(record.bitMask, RRC_UL_CFG_FIRST_ACTICVE_UL_BWP_PRESENCE))
-        {
-            chance.number(record.firstActiveUlBwpId, 0, 4);
-        }
+        chance.numberIf(record.bitMask, RRC_UL_CFG_FIRST_ACTICVE_UL_BWP_PRESENCE, record.firstActiveUlBwpId, 0, 4);
     };
     const auto cellLevel = [&]
     {
@@ -276,38 +250,23 @@ void draw(Chance& chance, RrcBwpUlDedi_t& record)
 void draw(Chance& chance, RrcBeamFailRecoveryCfg_t& record)
 {
     rrcInit(&record);
-    if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_ROOT_SEQ_IDX_BFR_PRESENCE))
-    {
-        chance.number(record.rootSeqIdxBFR, 0, 137);
-    }
+    chance.numberIf(record.bitMask, RRC_BEAM_FAIL_RECOVERY_ROOT_SEQ_IDX_BFR_PRESENCE, record.rootSeqIdxBFR, 0, 137);
     if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RACH_CFG_GENERIC_PRESENCE))
     {
         draw(chance, record.rachCfgBFR);
     }
-    if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RSRP_RANGE_PRESENCE))
-    {
-        chance.number(record.rsrpThreshSSB, 0, 127);
-    }
-    if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_SSB_PER_RACH_OCCASION_PRESENCE))
-    {
-        chance.enumeration(record.ssbPerRachOccasion, 7);
-    }
-    if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RA_SSB_OCCASION_MASK_IDX_PRESENCE))
-    {
-        chance.number(record.raSsbOccasionMaskIdx, 0, 15);
-    }
-    if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RECOVERY_SEARCH_SPACE_ID_PRESENCE))
-    {
-        chance.number(record.recoverySearchSpaceId, 0, 39);
-    }
+    chance.numberIf(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RSRP_RANGE_PRESENCE, record.rsrpThreshSSB, 0, 127);
+    chance.enumerationIf(record.bitMask, RRC_BEAM_FAIL_RECOVERY_SSB_PER_RACH_OCCASION_PRESENCE,
+                         record.ssbPerRachOccasion, 7);
+    chance.numberIf(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RA_SSB_OCCASION_MASK_IDX_PRESENCE,
+                    record.raSsbOccasionMaskIdx, 0, 15);
+    chance.numberIf(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RECOVERY_SEARCH_SPACE_ID_PRESENCE,
+                    record.recoverySearchSpaceId, 0, 39);
     if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_RA_PRIORITYZATION_PRESENCE))
     {
         draw(chance, record.raPrio);
     }
-    if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_TIMER_PRESENCE))
-    {
-        chance.enumeration(record.beamFailRecoveryTimer, 7);
-    }
+    chance.enumerationIf(record.bitMask, RRC_BEAM_FAIL_RECOVERY_TIMER_PRESENCE, record.beamFailRecoveryTimer, 7);
     if (chance.flag(record.bitMask, RRC_BEAM_FAIL_RECOVERY_MSG1_SUB_CARRIER_SPACING_V1530_PRESENCE))
     {
         // Never sent.

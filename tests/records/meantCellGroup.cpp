@@ -59,10 +59,7 @@ std::string meant(const RrcCellGroupCfg_t& record)
 std::string meant(const RrcSpCellCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_SPCELLCFG_CELLIDX_PRESENCE)
-    {
-        members.add("servCellIndex", record.servCellIdx);
-    }
+    members.addIf(record.bitMask & RRC_SPCELLCFG_CELLIDX_PRESENCE, "servCellIndex", record.servCellIdx);
     if (record.bitMask & RRC_SPCELLCFG_RECFG_PRESENCE)
     {
         members.add("reconfigurationWithSync", meant(record.recfgWithSync));
@@ -71,10 +68,8 @@ std::string meant(const RrcSpCellCfg_t& record)
     {
         members.add("rlf-TimersAndConstants", setup(rlf(record.rlfTimerConstants)));
     }
-    if (record.bitMask & RRC_SPCELLCFG_THRESHOLD_PRESENCE)
-    {
-        members.add("rlmInSyncOutOfSyncThreshold", record.rlmInSyncOutSyncThreshold);
-    }
+    members.addIf(record.bitMask & RRC_SPCELLCFG_THRESHOLD_PRESENCE, "rlmInSyncOutOfSyncThreshold",
+                  record.rlmInSyncOutSyncThreshold);
     if (record.bitMask & RRC_SPCELLCFG_DEDICFG_PRESENCE)
     {
         members.add("spCellConfigDedicated", meant(record.spCellDedicated));
@@ -141,18 +136,10 @@ std::string meant(const RrcServingCellCfg_t& record)
         members.add("downlinkBWP-ToAddModList",
                     list(record.numDlBwpAddMod, record.dlBwp, [&](const auto& entry) { return meant(entry); }));
     }
-    if (mask & RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE)
-    {
-        members.add("firstActiveDownlinkBWP-Id", record.firstActiveDlBwpId);
-    }
-    if (mask & RRC_SERVING_CELL_BWP_INACTIVE_TIMER_PRESENCE)
-    {
-        members.add("bwp-InactivityTimer", record.bwpInactiveTimer);
-    }
-    if (mask & RRC_SERVING_CELL_DEFAULT_DL_BWP_ID_PRESENCE)
-    {
-        members.add("defaultDownlinkBWP-Id", record.defaultDlBwpId);
-    }
+    members.addIf(mask & RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE, "firstActiveDownlinkBWP-Id",
+                  record.firstActiveDlBwpId);
+    members.addIf(mask & RRC_SERVING_CELL_BWP_INACTIVE_TIMER_PRESENCE, "bwp-InactivityTimer", record.bwpInactiveTimer);
+    members.addIf(mask & RRC_SERVING_CELL_DEFAULT_DL_BWP_ID_PRESENCE, "defaultDownlinkBWP-Id", record.defaultDlBwpId);
     if (mask & RRC_SERVING_CELL_UL_CFG_PRESENCE)
     {
         members.add("uplinkConfig", meant(record.ulCfg));
@@ -173,23 +160,13 @@ std::string meant(const RrcServingCellCfg_t& record)
     {
         members.add("csi-MeasConfig", meant(record.csiMeasCfg));
     }
-    if (mask & RRC_SERVING_CELL_SCELL_DEACTIVE_TIMER_PRESENCE)
-    {
-        members.add("sCellDeactivationTimer", record.sCellDeativationTimer);
-    }
+    members.addIf(mask & RRC_SERVING_CELL_SCELL_DEACTIVE_TIMER_PRESENCE, "sCellDeactivationTimer",
+                  record.sCellDeativationTimer);
     members.add("tag-Id", record.tagId);
-    if (mask & RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE)
-    {
-        members.add("dummy", record.dummy);
-    }
-    if (mask & RRC_SERVING_CELL_PATH_LOSS_REF_LINK_PRESENCE)
-    {
-        members.add("pathlossReferenceLinking", record.pathLossRefLinking);
-    }
-    if (mask & RRC_SERVING_CELL_SERVING_CELL_MO_PRESENCE)
-    {
-        members.add("servingCellMO", record.servingCellMo);
-    }
+    members.addIf(mask & RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE, "dummy", record.dummy);
+    members.addIf(mask & RRC_SERVING_CELL_PATH_LOSS_REF_LINK_PRESENCE, "pathlossReferenceLinking",
+                  record.pathLossRefLinking);
+    members.addIf(mask & RRC_SERVING_CELL_SERVING_CELL_MO_PRESENCE, "servingCellMO", record.servingCellMo);
     return members.json();
 }
 

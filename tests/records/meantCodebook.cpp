@@ -55,11 +55,9 @@ std::string antennaPorts(const SinglePanel_nrOfAntennaPorts_t& record)
     {
         const nrOfAntennaPorts_moreThanTwo& ports = record.NrOfAntennaPorts_n.moreThanTwo;
         members.add("n1-n2", restriction(ports.N1_N2_Presence, &ports.MoreThanTwo_n1_n2_u, moreThanTwoRestrictions));
-        if (ports.bitMask & RRC_SINGLE_PANEL_CODEBOOK_SUBSET_RESTRICT_I2)
-        {
-            members.add("typeI-SinglePanel-codebookSubsetRestriction-i2",
-                        bits(ports.typeI_SinglePanel_CodebookSubsetRestriction_i2, 16));
-        }
+        members.addIf(ports.bitMask & RRC_SINGLE_PANEL_CODEBOOK_SUBSET_RESTRICT_I2,
+                      "typeI-SinglePanel-codebookSubsetRestriction-i2",
+                      bits(ports.typeI_SinglePanel_CodebookSubsetRestriction_i2, 16));
         return choice("moreThanTwo", members.json());
     }
     members.add("twoTX-CodebookSubsetRestriction", bits(record.NrOfAntennaPorts_n.two.twoTX_CodebookSubsetRestrict, 6));
@@ -86,10 +84,8 @@ std::string subType(const Codebooktype2_Sub_t& record)
     if (record.Presence & RRC_TYPEII_PORTSELECTION)
     {
         const typeII_PortSelection& selection = record.Type2_subType_u.typeII_PortSelection;
-        if (selection.bitMask & RRC_PORT_SELEXTION_SAMPLING_SIZE)
-        {
-            members.add("portSelectionSamplingSize", selection.portSelectionSamplingSize);
-        }
+        members.addIf(selection.bitMask & RRC_PORT_SELEXTION_SAMPLING_SIZE, "portSelectionSamplingSize",
+                      selection.portSelectionSamplingSize);
         members.add("typeII-PortSelectionRI-Restriction", bits(selection.typeII_PortSelectionRI_Restriction, 2));
         return choice("typeII-PortSelection", members.json());
     }

@@ -14,19 +14,15 @@ std::string meant(const RrcNzpCsiRsResource_t& record)
     members.add("nzp-CSI-RS-ResourceId", record.nzpCsiRsResourceId);
     members.add("resourceMapping", meant(record.resourceMapping));
     members.add("powerControlOffset", static_cast<INT8>(record.powerControlOffset));
-    if (record.bitMask & RRC_NZP_CSI_RS_RESOURCE_POWER_CONTROL_OFFSET_SS_PRESENT)
-    {
-        members.add("powerControlOffsetSS", record.powerControlOffsetSS);
-    }
+    members.addIf(record.bitMask & RRC_NZP_CSI_RS_RESOURCE_POWER_CONTROL_OFFSET_SS_PRESENT, "powerControlOffsetSS",
+                  record.powerControlOffsetSS);
     members.add("scramblingID", record.scramblingId);
     if (record.bitMask & RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT)
     {
         members.add("periodicityAndOffset", meant(record.periodicityAndOffset));
     }
-    if (record.bitMask & RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT)
-    {
-        members.add("qcl-InfoPeriodicCSI-RS", record.qclInfoPeriodicCsiRs);
-    }
+    members.addIf(record.bitMask & RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT, "qcl-InfoPeriodicCSI-RS",
+                  record.qclInfoPeriodicCsiRs);
     return members.json();
 }
 
@@ -36,18 +32,10 @@ std::string meant(const RrcNzpCsiRsResourceSet_t& record)
     members.add("nzp-CSI-ResourceSetId", record.nzpCsiResourceSetId);
     // Of the count, the low 8 bits are sent.
     members.add("nzp-CSI-RS-Resources", numbers(record.numNzpCsiRsRes & 0xFF, record.numNzpCsiRsResources));
-    if (record.bitMask & RRC_NZP_CSI_RS_RESOUECE_SET_REPETITION_PRESENCE)
-    {
-        members.add("repetition", record.repetition);
-    }
-    if (record.bitMask & RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE)
-    {
-        members.add("aperiodicTriggeringOffset", record.aperidicTriggeringOffset);
-    }
-    if (record.bitMask & RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE)
-    {
-        members.add("trs-Info", record.trsInfo);
-    }
+    members.addIf(record.bitMask & RRC_NZP_CSI_RS_RESOUECE_SET_REPETITION_PRESENCE, "repetition", record.repetition);
+    members.addIf(record.bitMask & RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE, "aperiodicTriggeringOffset",
+                  record.aperidicTriggeringOffset);
+    members.addIf(record.bitMask & RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE, "trs-Info", record.trsInfo);
     return members.json();
 }
 
@@ -223,10 +211,8 @@ std::string meant(const RrcCsiMeasCfg_t& record)
     addNumbers(members, "csi-ResourceConfigToReleaseList", record.numCsiResourceCfgRel, record.csiResourceCfgId);
     addEach(members, "csi-ReportConfigToAddModList", record.numCsiReportCfgAddMod, record.csiReportCfg);
     addNumbers(members, "csi-ReportConfigToReleaseList", record.numCsiReportCfgRel, record.csiReportCfgId);
-    if (record.bitMask & RRC_CSI_MEAS_CFG_REPORT_TRIGGER_SIZE_PRESENCE)
-    {
-        members.add("reportTriggerSize", record.reportTriggerSize);
-    }
+    members.addIf(record.bitMask & RRC_CSI_MEAS_CFG_REPORT_TRIGGER_SIZE_PRESENCE, "reportTriggerSize",
+                  record.reportTriggerSize);
     if (record.bitMask & RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE)
     {
         members.add("aperiodicTriggerStateList",

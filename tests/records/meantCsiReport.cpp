@@ -77,24 +77,18 @@ std::string reportQuantity(const RrcCsiReportCfg_t& record)
     }
     const CriRiI1Cqi_t& content = record.ReportQuantity_n.criRiI1Cqi;
     Members members;
-    if (content.bitMask & RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE)
-    {
-        members.add("pdsch-BundleSizeForCSI", content.PdschBundleSizeForCsi);
-    }
+    members.addIf(content.bitMask & RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE, "pdsch-BundleSizeForCSI",
+                  content.PdschBundleSizeForCsi);
     return choice("cri-RI-i1-CQI", members.json());
 }
 
 std::string frequency(const ReportFreqCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE)
-    {
-        members.add("cqi-FormatIndicator", record.CqiFormatInd);
-    }
-    if (record.bitMask & RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE)
-    {
-        members.add("pmi-FormatIndicator", record.PmiFormatInd);
-    }
+    members.addIf(record.bitMask & RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE, "cqi-FormatIndicator",
+                  record.CqiFormatInd);
+    members.addIf(record.bitMask & RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE, "pmi-FormatIndicator",
+                  record.PmiFormatInd);
     if (record.bitMask & RRC_REPORT_FREQ_CFG_CSI_REPORTINT_BAND_PRESENCE)
     {
         // The bits 0..16 stand for 3..19 subbands; the string is the low bits of what the union holds.
@@ -115,10 +109,9 @@ std::string beams(const RrcgroupBasedBeamReport_t& record)
         return choice("enabled", null());
     }
     Members members;
-    if (record.BeamReporting_n.Report_Disabled.bitMask & RRC_BASED_BEAM_REPORT_DISABLED_NROF_REPORTED_RS_PRESENCE)
-    {
-        members.add("nrofReportedRS", record.BeamReporting_n.Report_Disabled.NrofReportedRS);
-    }
+    members.addIf(record.BeamReporting_n.Report_Disabled.bitMask &
+                      RRC_BASED_BEAM_REPORT_DISABLED_NROF_REPORTED_RS_PRESENCE,
+                  "nrofReportedRS", record.BeamReporting_n.Report_Disabled.NrofReportedRS);
     return choice("disabled", members.json());
 }
 
@@ -135,10 +128,7 @@ void addRank(Members& members, std::string_view name, unsigned size, unsigned co
 std::string ranks(const portIndexFor8Ranks_portIndex8& record)
 {
     Members members;
-    if (record.bitMask & RRC_RANK1_8)
-    {
-        members.add("rank1-8", record.rank1_8);
-    }
+    members.addIf(record.bitMask & RRC_RANK1_8, "rank1-8", record.rank1_8);
     addRank(members, "rank2-8", 2, record.numRank2_8, record.PortIndex2_8);
     addRank(members, "rank3-8", 3, record.numRank3_8, record.PortIndex3_8);
     addRank(members, "rank4-8", 4, record.numRank4_8, record.PortIndex4_8);
@@ -152,10 +142,7 @@ std::string ranks(const portIndexFor8Ranks_portIndex8& record)
 std::string ranks(const portIndexFor8Ranks_portIndex4& record)
 {
     Members members;
-    if (record.bitMask & RRC_RANK1_4)
-    {
-        members.add("rank1-4", record.rank1_4);
-    }
+    members.addIf(record.bitMask & RRC_RANK1_4, "rank1-4", record.rank1_4);
     addRank(members, "rank2-4", 2, record.numRank2_4, record.PortIndex2_4);
     addRank(members, "rank3-4", 3, record.numRank3_4, record.PortIndex3_4);
     addRank(members, "rank4-4", 4, record.numRank4_4, record.PortIndex4_4);
@@ -165,10 +152,7 @@ std::string ranks(const portIndexFor8Ranks_portIndex4& record)
 std::string ranks(const portIndexFor8Ranks_portIndex2& record)
 {
     Members members;
-    if (record.bitMask & RRC_RANK1_2)
-    {
-        members.add("rank1-2", record.rank1_2);
-    }
+    members.addIf(record.bitMask & RRC_RANK1_2, "rank1-2", record.rank1_2);
     addRank(members, "rank2-2", 2, record.numRank2_2, record.PortIndex2_2);
     return members.json();
 }
@@ -195,19 +179,12 @@ std::string meant(const RrcCsiReportCfg_t& record)
 {
     Members members;
     members.add("reportConfigId", record.csiReportCfgId);
-    if (record.bitMask & RRC_CSI_REPORT_CFG_CERV_CELL_IDX_PRESENCE)
-    {
-        members.add("carrier", record.servCellIndex);
-    }
+    members.addIf(record.bitMask & RRC_CSI_REPORT_CFG_CERV_CELL_IDX_PRESENCE, "carrier", record.servCellIndex);
     members.add("resourcesForChannelMeasurement", record.resourceCfgIdForChMeas);
-    if (record.bitMask & RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE)
-    {
-        members.add("csi-IM-ResourcesForInterference", record.CsiImresourceCfgIdForInterference);
-    }
-    if (record.bitMask & RRC_CSI_REPORT_CFG_NZP_CSI_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE)
-    {
-        members.add("nzp-CSI-RS-ResourcesForInterference", record.nzpCsiRsresourceCfgIdForInterference);
-    }
+    members.addIf(record.bitMask & RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE,
+                  "csi-IM-ResourcesForInterference", record.CsiImresourceCfgIdForInterference);
+    members.addIf(record.bitMask & RRC_CSI_REPORT_CFG_NZP_CSI_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE,
+                  "nzp-CSI-RS-ResourcesForInterference", record.nzpCsiRsresourceCfgIdForInterference);
     members.add("reportConfigType", reportType(record));
     members.add("reportQuantity", reportQuantity(record));
     if (record.bitMask & RRC_CSI_REPORT_CFG_REPORT_FREQ_CFG_PRESENCE)
@@ -220,15 +197,9 @@ std::string meant(const RrcCsiReportCfg_t& record)
     {
         members.add("codebookConfig", meant(record.codeBookCfg));
     }
-    if (record.bitMask & RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE)
-    {
-        members.add("dummy", record.nrofCQIsPerRep);
-    }
+    members.addIf(record.bitMask & RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE, "dummy", record.nrofCQIsPerRep);
     members.add("groupBasedBeamReporting", beams(record.groupBasedBeamReport));
-    if (record.bitMask & RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE)
-    {
-        members.add("cqi-Table", record.cqi_Table);
-    }
+    members.addIf(record.bitMask & RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE, "cqi-Table", record.cqi_Table);
     members.add("subbandSize", record.subBandSize);
     if (record.bitMask & RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE)
     {

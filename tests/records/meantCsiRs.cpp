@@ -50,10 +50,8 @@ std::string meant(const RrcCsiRsResourceMapping_t& record)
     members.add("frequencyDomainAllocation", frequencyDomain(record));
     members.add("nrofPorts", record.nrofPorts);
     members.add("firstOFDMSymbolInTimeDomain", record.firstOFDMSymbolInTimeDomain);
-    if (record.bitMask & RRC_CSI_RS_RESOURCE_MAPPING_DOMAIN2_PRESENCE)
-    {
-        members.add("firstOFDMSymbolInTimeDomain2", record.firstOFDMSymbolInTimeDomain2);
-    }
+    members.addIf(record.bitMask & RRC_CSI_RS_RESOURCE_MAPPING_DOMAIN2_PRESENCE, "firstOFDMSymbolInTimeDomain2",
+                  record.firstOFDMSymbolInTimeDomain2);
     members.add("cdm-Type", record.cdmType);
     members.add("density", density(record));
     members.add("freqBand", meant(record.freqBand));

@@ -54,10 +54,7 @@ std::string mapping(const NrControlResourceSet_t& record)
     Members members;
     members.add("reg-BundleSize", record.regBundleSize);
     members.add("interleaverSize", record.interleaverSize);
-    if (record.bitmask & NR_CORESET_SHIFT_INDEX_PRESENCE)
-    {
-        members.add("shiftIndex", record.shiftIndex);
-    }
+    members.addIf(record.bitmask & NR_CORESET_SHIFT_INDEX_PRESENCE, "shiftIndex", record.shiftIndex);
     return choice("interleaved", members.json());
 }
 
@@ -77,14 +74,9 @@ std::string controlResourceSet(const NrControlResourceSet_t& record)
     {
         members.add("tci-StatesPDCCH-ToReleaseList", numbers(record.numTciStatesToRelease, record.tciStatesToRelease));
     }
-    if (record.bitmask & NR_CORESET_TCI_PRESENT_IN_DCI)
-    {
-        members.add("tci-PresentInDCI", on);
-    }
-    if (record.bitmask & NR_CORESET_DMRS_SCRAMBLING_ID_PRESENCE)
-    {
-        members.add("pdcch-DMRS-ScramblingID", record.pdcchDmrsScramblingId);
-    }
+    members.addIf(record.bitmask & NR_CORESET_TCI_PRESENT_IN_DCI, "tci-PresentInDCI", on);
+    members.addIf(record.bitmask & NR_CORESET_DMRS_SCRAMBLING_ID_PRESENCE, "pdcch-DMRS-ScramblingID",
+                  record.pdcchDmrsScramblingId);
     return members.json();
 }
 
@@ -102,26 +94,12 @@ std::string candidates(const NrNrofCandidates_t& record)
 std::string candidates(const NrNrofCandidatesSfi_t& record)
 {
     Members members;
-    if (record.bitmask & NR_SFI_AGGREGATION_LEVEL1_PRESENCE)
-    {
-        members.add("aggregationLevel1", record.aggregationLevel1);
-    }
-    if (record.bitmask & NR_SFI_AGGREGATION_LEVEL2_PRESENCE)
-    {
-        members.add("aggregationLevel2", record.aggregationLevel2);
-    }
-    if (record.bitmask & NR_SFI_AGGREGATION_LEVEL4_PRESENCE)
-    {
-        members.add("aggregationLevel4", record.aggregationLevel4);
-    }
-    if (record.bitmask & NR_SFI_AGGREGATION_LEVEL8_PRESENCE)
-    {
-        members.add("aggregationLevel8", record.aggregationLevel8);
-    }
-    if (record.bitmask & NR_SFI_AGGREGATION_LEVEL16_PRESENCE)
-    {
-        members.add("aggregationLevel16", record.aggregationLevel16);
-    }
+    members.addIf(record.bitmask & NR_SFI_AGGREGATION_LEVEL1_PRESENCE, "aggregationLevel1", record.aggregationLevel1);
+    members.addIf(record.bitmask & NR_SFI_AGGREGATION_LEVEL2_PRESENCE, "aggregationLevel2", record.aggregationLevel2);
+    members.addIf(record.bitmask & NR_SFI_AGGREGATION_LEVEL4_PRESENCE, "aggregationLevel4", record.aggregationLevel4);
+    members.addIf(record.bitmask & NR_SFI_AGGREGATION_LEVEL8_PRESENCE, "aggregationLevel8", record.aggregationLevel8);
+    members.addIf(record.bitmask & NR_SFI_AGGREGATION_LEVEL16_PRESENCE, "aggregationLevel16",
+                  record.aggregationLevel16);
     return members.json();
 }
 
@@ -129,31 +107,20 @@ std::string common(const NrSearchSpaceCommon_t& record)
 {
     const std::string nothing = Members().json();
     Members members;
-    if (record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT0_0_AND_1_0)
-    {
-        members.add("dci-Format0-0-AndFormat1-0", nothing);
-    }
+    members.addIf(record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT0_0_AND_1_0, "dci-Format0-0-AndFormat1-0", nothing);
     if (record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_0)
     {
         Members format;
         format.add("nrofCandidates-SFI", candidates(record.nrofCandidatesSfi));
         members.add("dci-Format2-0", format.json());
     }
-    if (record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_1)
-    {
-        members.add("dci-Format2-1", nothing);
-    }
-    if (record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_2)
-    {
-        members.add("dci-Format2-2", nothing);
-    }
+    members.addIf(record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_1, "dci-Format2-1", nothing);
+    members.addIf(record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_2, "dci-Format2-2", nothing);
     if (record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_3)
     {
         Members format;
-        if (record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_3_DUMMY1_PRESENCE)
-        {
-            format.add("dummy1", record.dciFormat23Dummy1);
-        }
+        format.addIf(record.bitmask & NR_SEARCH_SPACE_DCI_FORMAT2_3_DUMMY1_PRESENCE, "dummy1",
+                     record.dciFormat23Dummy1);
         format.add("dummy2", record.dciFormat23Dummy2);
         members.add("dci-Format2-3", format.json());
     }
@@ -184,22 +151,15 @@ std::string searchSpace(const NrSearchSpace_t& record)
 {
     Members members;
     members.add("searchSpaceId", record.searchSpaceId);
-    if (record.bitmask & NR_SEARCH_SPACE_CORESET_ID_PRESENCE)
-    {
-        members.add("controlResourceSetId", record.controlResourceSetId);
-    }
+    members.addIf(record.bitmask & NR_SEARCH_SPACE_CORESET_ID_PRESENCE, "controlResourceSetId",
+                  record.controlResourceSetId);
     if (record.bitmask & NR_SEARCH_SPACE_MONITORING_SLOT_PRESENCE)
     {
         members.add("monitoringSlotPeriodicityAndOffset", monitoringSlot(record));
     }
-    if (record.bitmask & NR_SEARCH_SPACE_DURATION_PRESENCE)
-    {
-        members.add("duration", record.duration);
-    }
-    if (record.bitmask & NR_SEARCH_SPACE_MONITORING_SYMBOLS_PRESENCE)
-    {
-        members.add("monitoringSymbolsWithinSlot", bits(record.monitoringSymbolsWithinSlot, 14));
-    }
+    members.addIf(record.bitmask & NR_SEARCH_SPACE_DURATION_PRESENCE, "duration", record.duration);
+    members.addIf(record.bitmask & NR_SEARCH_SPACE_MONITORING_SYMBOLS_PRESENCE, "monitoringSymbolsWithinSlot",
+                  bits(record.monitoringSymbolsWithinSlot, 14));
     if (record.bitmask & NR_SEARCH_SPACE_NROF_CANDIDATES_PRESENCE)
     {
         members.add("nrofCandidates", candidates(record.nrofCandidates));
@@ -228,39 +188,26 @@ std::string firstOccasion(const NrFirstPdcchMonitoringOccasion_t& record)
 std::string pdcch(const PdcchCfgCommon_t& record)
 {
     Members members;
-    if (record.bitmask & NR_PDCCH_COMMON_CORESET_ZERO_PRESENCE)
-    {
-        members.add("controlResourceSetZero", record.controlResourceSetZero);
-    }
+    members.addIf(record.bitmask & NR_PDCCH_COMMON_CORESET_ZERO_PRESENCE, "controlResourceSetZero",
+                  record.controlResourceSetZero);
     if (record.bitmask & NR_PDCCH_COMMON_CORESET_PRESENCE)
     {
         members.add("commonControlResourceSet", controlResourceSet(record.commonControlResourceSet));
     }
-    if (record.bitmask & NR_PDCCH_COMMON_SEARCH_SPACE_ZERO_PRESENCE)
-    {
-        members.add("searchSpaceZero", record.searchSpaceZero);
-    }
+    members.addIf(record.bitmask & NR_PDCCH_COMMON_SEARCH_SPACE_ZERO_PRESENCE, "searchSpaceZero",
+                  record.searchSpaceZero);
     if (record.numCommonSearchSpaces != 0)
     {
         members.add("commonSearchSpaceList", list(record.numCommonSearchSpaces, record.commonSearchSpace,
                                                   [&](const auto& entry) { return searchSpace(entry); }));
     }
-    if (record.bitmask & NR_PDCCH_COMMON_SEARCH_SPACE_SIB1_PRESENCE)
-    {
-        members.add("searchSpaceSIB1", record.searchSpaceSib1);
-    }
-    if (record.bitmask & NR_PDCCH_COMMON_SEARCH_SPACE_OTHER_SI_PRESENCE)
-    {
-        members.add("searchSpaceOtherSystemInformation", record.searchSpaceOtherSi);
-    }
-    if (record.bitmask & NR_PDCCH_COMMON_PAGING_SEARCH_SPACE_PRESENCE)
-    {
-        members.add("pagingSearchSpace", record.pagingSearchSpace);
-    }
-    if (record.bitmask & NR_PDCCH_COMMON_RA_SEARCH_SPACE_PRESENCE)
-    {
-        members.add("ra-SearchSpace", record.raSearchSpace);
-    }
+    members.addIf(record.bitmask & NR_PDCCH_COMMON_SEARCH_SPACE_SIB1_PRESENCE, "searchSpaceSIB1",
+                  record.searchSpaceSib1);
+    members.addIf(record.bitmask & NR_PDCCH_COMMON_SEARCH_SPACE_OTHER_SI_PRESENCE, "searchSpaceOtherSystemInformation",
+                  record.searchSpaceOtherSi);
+    members.addIf(record.bitmask & NR_PDCCH_COMMON_PAGING_SEARCH_SPACE_PRESENCE, "pagingSearchSpace",
+                  record.pagingSearchSpace);
+    members.addIf(record.bitmask & NR_PDCCH_COMMON_RA_SEARCH_SPACE_PRESENCE, "ra-SearchSpace", record.raSearchSpace);
     if (record.bitmask & NR_PDCCH_COMMON_FIRST_MONITORING_OCCASION_PRESENCE)
     {
         members.add("firstPDCCH-MonitoringOccasionOfPO", firstOccasion(record.firstPdcchMonitoringOccasion));
@@ -297,10 +244,8 @@ std::string rach(const NrRachCfgCommon_t& record)
 {
     Members members;
     members.add("rach-ConfigGeneric", rachGeneric(record.rachCfgGeneric));
-    if (record.bitmask & NR_RACH_COMMON_TOTAL_PREAMBLES_PRESENCE)
-    {
-        members.add("totalNumberOfRA-Preambles", record.totalNumberOfRaPreambles);
-    }
+    members.addIf(record.bitmask & NR_RACH_COMMON_TOTAL_PREAMBLES_PRESENCE, "totalNumberOfRA-Preambles",
+                  record.totalNumberOfRaPreambles);
     if (record.bitmask & NR_RACH_COMMON_SSB_PER_RACH_OCCASION_PRESENCE)
     {
         constexpr std::string_view alternatives[] = {"oneEighth", "oneFourth", "oneHalf", "one",
@@ -317,67 +262,43 @@ std::string rach(const NrRachCfgCommon_t& record)
         members.add("groupBconfigured", groupB.json());
     }
     members.add("ra-ContentionResolutionTimer", record.raContentionResolutionTimer);
-    if (record.bitmask & NR_RACH_COMMON_RSRP_THRESHOLD_SSB_PRESENCE)
-    {
-        members.add("rsrp-ThresholdSSB", record.rsrpThresholdSsb);
-    }
-    if (record.bitmask & NR_RACH_COMMON_RSRP_THRESHOLD_SSB_SUL_PRESENCE)
-    {
-        members.add("rsrp-ThresholdSSB-SUL", record.rsrpThresholdSsbSul);
-    }
+    members.addIf(record.bitmask & NR_RACH_COMMON_RSRP_THRESHOLD_SSB_PRESENCE, "rsrp-ThresholdSSB",
+                  record.rsrpThresholdSsb);
+    members.addIf(record.bitmask & NR_RACH_COMMON_RSRP_THRESHOLD_SSB_SUL_PRESENCE, "rsrp-ThresholdSSB-SUL",
+                  record.rsrpThresholdSsbSul);
     members.add("prach-RootSequenceIndex",
                 choice(record.prachRootSequence == 1 ? "l839" : "l139", record.prachRootSequenceIndex));
-    if (record.bitmask & NR_RACH_COMMON_MSG1_SUBCARRIER_SPACING_PRESENCE)
-    {
-        members.add("msg1-SubcarrierSpacing", record.msg1SubcarrierSpacing);
-    }
+    members.addIf(record.bitmask & NR_RACH_COMMON_MSG1_SUBCARRIER_SPACING_PRESENCE, "msg1-SubcarrierSpacing",
+                  record.msg1SubcarrierSpacing);
     members.add("restrictedSetConfig", record.restrictedSetConfig);
-    if (record.bitmask & NR_RACH_COMMON_MSG3_TRANSFORM_PRECODER)
-    {
-        members.add("msg3-transformPrecoder", on);
-    }
+    members.addIf(record.bitmask & NR_RACH_COMMON_MSG3_TRANSFORM_PRECODER, "msg3-transformPrecoder", on);
     return members.json();
 }
 
 std::string pusch(const NrPuschCfgCommon_t& record)
 {
     Members members;
-    if (record.bitmask & NR_PUSCH_COMMON_GROUP_HOPPING)
-    {
-        members.add("groupHoppingEnabledTransformPrecoding", on);
-    }
+    members.addIf(record.bitmask & NR_PUSCH_COMMON_GROUP_HOPPING, "groupHoppingEnabledTransformPrecoding", on);
     if (record.numTimeDomainAllocs != 0)
     {
         members.add("pusch-TimeDomainAllocationList",
                     timeDomain(record.numTimeDomainAllocs, record.timeDomainAlloc, "k2"));
     }
-    if (record.bitmask & NR_PUSCH_COMMON_MSG3_DELTA_PREAMBLE_PRESENCE)
-    {
-        members.add("msg3-DeltaPreamble", record.msg3DeltaPreamble);
-    }
-    if (record.bitmask & NR_PUSCH_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE)
-    {
-        members.add("p0-NominalWithGrant", record.p0NominalWithGrant);
-    }
+    members.addIf(record.bitmask & NR_PUSCH_COMMON_MSG3_DELTA_PREAMBLE_PRESENCE, "msg3-DeltaPreamble",
+                  record.msg3DeltaPreamble);
+    members.addIf(record.bitmask & NR_PUSCH_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE, "p0-NominalWithGrant",
+                  record.p0NominalWithGrant);
     return members.json();
 }
 
 std::string pucch(const NrPucchCfgCommon_t& record)
 {
     Members members;
-    if (record.bitmask & NR_PUCCH_COMMON_RESOURCE_PRESENCE)
-    {
-        members.add("pucch-ResourceCommon", record.pucchResourceCommon);
-    }
+    members.addIf(record.bitmask & NR_PUCCH_COMMON_RESOURCE_PRESENCE, "pucch-ResourceCommon",
+                  record.pucchResourceCommon);
     members.add("pucch-GroupHopping", record.pucchGroupHopping);
-    if (record.bitmask & NR_PUCCH_COMMON_HOPPING_ID_PRESENCE)
-    {
-        members.add("hoppingId", record.hoppingId);
-    }
-    if (record.bitmask & NR_PUCCH_COMMON_P0_NOMINAL_PRESENCE)
-    {
-        members.add("p0-nominal", record.p0Nominal);
-    }
+    members.addIf(record.bitmask & NR_PUCCH_COMMON_HOPPING_ID_PRESENCE, "hoppingId", record.hoppingId);
+    members.addIf(record.bitmask & NR_PUCCH_COMMON_P0_NOMINAL_PRESENCE, "p0-nominal", record.p0Nominal);
     return members.json();
 }
 
@@ -389,10 +310,8 @@ std::string pattern(const TddUlDlPattern_t& record)
     members.add("nrofDownlinkSymbols", record.nrofDownlinkSymbols);
     members.add("nrofUplinkSlots", record.nrofUplinkSlots);
     members.add("nrofUplinkSymbols", record.nrofUplinkSymbols);
-    if (record.bitmask & NR_TDD_PATTERN_PERIODICITY_V1530_PRESENCE)
-    {
-        members.add("dl-UL-TransmissionPeriodicity-v1530", record.transmissionPeriodicityV1530);
-    }
+    members.addIf(record.bitmask & NR_TDD_PATTERN_PERIODICITY_V1530_PRESENCE, "dl-UL-TransmissionPeriodicity-v1530",
+                  record.transmissionPeriodicityV1530);
     return members.json();
 }
 

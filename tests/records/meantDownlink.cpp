@@ -10,39 +10,27 @@ namespace
 std::string pdcchCommon(const RrcPdcchCfgCommon_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_ZERO_PRESENCE)
-    {
-        members.add("controlResourceSetZero", record.controlResourceSetZero);
-    }
+    members.addIf(record.bitMask & RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_ZERO_PRESENCE, "controlResourceSetZero",
+                  record.controlResourceSetZero);
     if (record.bitMask & RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_PRESENCE)
     {
         members.add("commonControlResourceSet", meant(record.commonControlResourceSet));
     }
-    if (record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_ZERO_PRESENCE)
-    {
-        members.add("searchSpaceZero", record.searchSpaceZero);
-    }
+    members.addIf(record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_ZERO_PRESENCE, "searchSpaceZero",
+                  record.searchSpaceZero);
     if (record.numCommonSearchSpace != 0)
     {
         members.add("commonSearchSpaceList", list(record.numCommonSearchSpace, record.commonSearchSpace,
                                                   [&](const auto& entry) { return meant(entry); }));
     }
-    if (record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_SIB1_PRESENCE)
-    {
-        members.add("searchSpaceSIB1", record.searchSpaceSIB1);
-    }
-    if (record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_OTHER_SI_PRESENCE)
-    {
-        members.add("searchSpaceOtherSystemInformation", record.searchSpaceOtherSi);
-    }
-    if (record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_PAGING_PRESENCE)
-    {
-        members.add("pagingSearchSpace", record.searchSpacePaing);
-    }
-    if (record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_RA_PRESENCE)
-    {
-        members.add("ra-SearchSpace", record.searchSpaceRa);
-    }
+    members.addIf(record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_SIB1_PRESENCE, "searchSpaceSIB1",
+                  record.searchSpaceSIB1);
+    members.addIf(record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SAPCE_OTHER_SI_PRESENCE,
+                  "searchSpaceOtherSystemInformation", record.searchSpaceOtherSi);
+    members.addIf(record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_PAGING_PRESENCE, "pagingSearchSpace",
+                  record.searchSpacePaing);
+    members.addIf(record.bitMask & RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_RA_PRESENCE, "ra-SearchSpace",
+                  record.searchSpaceRa);
     return members.json();
 }
 
@@ -121,10 +109,7 @@ std::string meant(const RrcBwp_t& record)
     Members members;
     members.add("locationAndBandwidth", record.locationAndBandwidth);
     members.add("subcarrierSpacing", record.subCarrierSpacing);
-    if (record.bitMask & RRC_BWP_CYCLEPREFIX_PRESENCE)
-    {
-        members.add("cyclicPrefix", record.cyclicPrefix);
-    }
+    members.addIf(record.bitMask & RRC_BWP_CYCLEPREFIX_PRESENCE, "cyclicPrefix", record.cyclicPrefix);
     return members.json();
 }
 

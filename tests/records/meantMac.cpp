@@ -46,10 +46,7 @@ std::string added(const RrcSrAddMod_t& record)
 {
     Members members;
     members.add("schedulingRequestId", record.srId);
-    if (record.bitMask & RRC_SR_PROHIBITTIMER_PRESENCE)
-    {
-        members.add("sr-ProhibitTimer", record.srProhibitTimer);
-    }
+    members.addIf(record.bitMask & RRC_SR_PROHIBITTIMER_PRESENCE, "sr-ProhibitTimer", record.srProhibitTimer);
     members.add("sr-TransMax", record.srTransMax);
     return members.json();
 }
@@ -74,10 +71,7 @@ std::string bsr(const RrcBsrCfg_t& record)
     Members members;
     members.add("periodicBSR-Timer", record.periodicBsrTimer);
     members.add("retxBSR-Timer", record.retxBsrTimer);
-    if (record.bitMask & RRC_BSR_SRDELAY_PRESENCE)
-    {
-        members.add("logicalChannelSR-DelayTimer", record.lcSRDelayTimer);
-    }
+    members.addIf(record.bitMask & RRC_BSR_SRDELAY_PRESENCE, "logicalChannelSR-DelayTimer", record.lcSRDelayTimer);
     return members.json();
 }
 
@@ -152,36 +146,18 @@ std::string meant(const RrcPhyCellGrpCfg_t& record)
 {
     const unsigned mask = record.bitMask;
     Members members;
-    if (mask & RRC_PHY_CGC_HARQ_PUCCH_PRESENCE)
-    {
-        members.add("harq-ACK-SpatialBundlingPUCCH", record.harqAckBundlingPucch);
-    }
-    if (mask & RRC_PHY_CGC_HARQ_PUSCH_PRESENCE)
-    {
-        members.add("harq-ACK-SpatialBundlingPUSCH", record.harqAckBundlingPusch);
-    }
+    members.addIf(mask & RRC_PHY_CGC_HARQ_PUCCH_PRESENCE, "harq-ACK-SpatialBundlingPUCCH", record.harqAckBundlingPucch);
+    members.addIf(mask & RRC_PHY_CGC_HARQ_PUSCH_PRESENCE, "harq-ACK-SpatialBundlingPUSCH", record.harqAckBundlingPusch);
     if (mask & RRC_PHY_CGC_NR_PMAX_PRESENCE)
     {
         // The octet of a signed number.
         members.add("p-NR-FR1", static_cast<INT8>(record.pNrFR1Pmax));
     }
     members.add("pdsch-HARQ-ACK-Codebook", record.pdschHarqAckCodeBook);
-    if (mask & RRC_PHY_CGC_TPC_SRS_RNTI_PRESENCE)
-    {
-        members.add("tpc-SRS-RNTI", record.tpcSrsRnti);
-    }
-    if (mask & RRC_PHY_CGC_TPC_PUCCH_RNTI_PRESENCE)
-    {
-        members.add("tpc-PUCCH-RNTI", record.tpcPucchRnti);
-    }
-    if (mask & RRC_PHY_CGC_TPC_PUSCH_RNTI_PRESENCE)
-    {
-        members.add("tpc-PUSCH-RNTI", record.tpcPuschRnti);
-    }
-    if (mask & RRC_PHY_CGC_SP_CSI_RNTI_PRESENCE)
-    {
-        members.add("sp-CSI-RNTI", record.spCsiRnti);
-    }
+    members.addIf(mask & RRC_PHY_CGC_TPC_SRS_RNTI_PRESENCE, "tpc-SRS-RNTI", record.tpcSrsRnti);
+    members.addIf(mask & RRC_PHY_CGC_TPC_PUCCH_RNTI_PRESENCE, "tpc-PUCCH-RNTI", record.tpcPucchRnti);
+    members.addIf(mask & RRC_PHY_CGC_TPC_PUSCH_RNTI_PRESENCE, "tpc-PUSCH-RNTI", record.tpcPuschRnti);
+    members.addIf(mask & RRC_PHY_CGC_SP_CSI_RNTI_PRESENCE, "sp-CSI-RNTI", record.spCsiRnti);
     if (mask & RRC_PHY_CGC_CS_RNTI_PRESENCE)
     {
         members.add("cs-RNTI", setup(record.csRnti));

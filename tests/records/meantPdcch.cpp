@@ -11,10 +11,7 @@ std::string interleaved(const RrcInterleaved_t& record)
     Members members;
     members.add("reg-BundleSize", record.regBundleSize);
     members.add("interleaverSize", record.interleaveSize);
-    if (record.bitMask & RRC_INTERLEACED_SHIFT_INDEX_PRESENCE)
-    {
-        members.add("shiftIndex", record.shiftIdx);
-    }
+    members.addIf(record.bitMask & RRC_INTERLEACED_SHIFT_INDEX_PRESENCE, "shiftIndex", record.shiftIdx);
     return members.json();
 }
 
@@ -70,26 +67,11 @@ std::string candidates(const nrofCadidate_s& record)
 std::string format20(const dciFormat2_0_s& record)
 {
     Members levels;
-    if (record.presence & RRC_DCI2_0_AGGR_LEV1_PRESENCE)
-    {
-        levels.add("aggregationLevel1", record.aggrLev1);
-    }
-    if (record.presence & RRC_DCI2_0_AGGR_LEV2_PRESENCE)
-    {
-        levels.add("aggregationLevel2", record.aggrLev2);
-    }
-    if (record.presence & RRC_DCI2_0_AGGR_LEV4_PRESENCE)
-    {
-        levels.add("aggregationLevel4", record.aggrLev4);
-    }
-    if (record.presence & RRC_DCI2_0_AGGR_LEV8_PRESENCE)
-    {
-        levels.add("aggregationLevel8", record.aggrLev8);
-    }
-    if (record.presence & RRC_DCI2_0_AGGR_LEV16_PRESENCE)
-    {
-        levels.add("aggregationLevel16", record.aggrLev16);
-    }
+    levels.addIf(record.presence & RRC_DCI2_0_AGGR_LEV1_PRESENCE, "aggregationLevel1", record.aggrLev1);
+    levels.addIf(record.presence & RRC_DCI2_0_AGGR_LEV2_PRESENCE, "aggregationLevel2", record.aggrLev2);
+    levels.addIf(record.presence & RRC_DCI2_0_AGGR_LEV4_PRESENCE, "aggregationLevel4", record.aggrLev4);
+    levels.addIf(record.presence & RRC_DCI2_0_AGGR_LEV8_PRESENCE, "aggregationLevel8", record.aggrLev8);
+    levels.addIf(record.presence & RRC_DCI2_0_AGGR_LEV16_PRESENCE, "aggregationLevel16", record.aggrLev16);
     Members members;
     members.add("nrofCandidates-SFI", levels.json());
     return members.json();
@@ -98,10 +80,7 @@ std::string format20(const dciFormat2_0_s& record)
 std::string format23(const dciFormat2_3_s& record)
 {
     Members members;
-    if (record.presence & RRC_DCI2_3_DUMMY1_PRESENCE)
-    {
-        members.add("dummy1", record.dummy1);
-    }
+    members.addIf(record.presence & RRC_DCI2_3_DUMMY1_PRESENCE, "dummy1", record.dummy1);
     members.add("dummy2", record.dummy2);
     return members.json();
 }
@@ -110,22 +89,13 @@ std::string common(const common_s& record)
 {
     const std::string empty = Members().json();
     Members members;
-    if (record.presence & RRC_SEARCH_TYPE_COMMON_DCI0_1_PRESENCE)
-    {
-        members.add("dci-Format0-0-AndFormat1-0", empty);
-    }
+    members.addIf(record.presence & RRC_SEARCH_TYPE_COMMON_DCI0_1_PRESENCE, "dci-Format0-0-AndFormat1-0", empty);
     if (record.presence & RRC_SEARCH_TYPE_COMMON_DCI2_0_PRESENCE)
     {
         members.add("dci-Format2-0", format20(record.dci0AndDci2_0));
     }
-    if (record.presence & RRC_SEARCH_TYPE_COMMON_DCI2_1_PRESENCE)
-    {
-        members.add("dci-Format2-1", empty);
-    }
-    if (record.presence & RRC_SEARCH_TYPE_COMMON_DCI2_2_PRESENCE)
-    {
-        members.add("dci-Format2-2", empty);
-    }
+    members.addIf(record.presence & RRC_SEARCH_TYPE_COMMON_DCI2_1_PRESENCE, "dci-Format2-1", empty);
+    members.addIf(record.presence & RRC_SEARCH_TYPE_COMMON_DCI2_2_PRESENCE, "dci-Format2-2", empty);
     if (record.presence & RRC_SEARCH_TYPE_COMMON_DCI2_3_PRESENCE)
     {
         members.add("dci-Format2-3", format23(record.dci2_3));
@@ -166,32 +136,17 @@ std::string preemption(const RrcDlPreemption_t& record)
 std::string tpcPusch(const RrcPuschTpcCmdCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUSCH_TPC_INDEX_PRESENCE)
-    {
-        members.add("tpc-Index", record.tpcIdx);
-    }
-    if (record.bitMask & RRC_PUSCH_TPC_INDEX_SUL_PRESENCE)
-    {
-        members.add("tpc-IndexSUL", record.tpcIdxSul);
-    }
-    if (record.bitMask & RRC_PUSCH_TPC_TARGET_CELL_PRESENCE)
-    {
-        members.add("targetCell", record.targetCellIdx);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_TPC_INDEX_PRESENCE, "tpc-Index", record.tpcIdx);
+    members.addIf(record.bitMask & RRC_PUSCH_TPC_INDEX_SUL_PRESENCE, "tpc-IndexSUL", record.tpcIdxSul);
+    members.addIf(record.bitMask & RRC_PUSCH_TPC_TARGET_CELL_PRESENCE, "targetCell", record.targetCellIdx);
     return members.json();
 }
 
 std::string tpcPucch(const RrcPucchTpcCmdCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUCCH_TPC_PCELL_PRESENCE)
-    {
-        members.add("tpc-IndexPCell", record.tpcPcellIdx);
-    }
-    if (record.bitMask & RRC_PUCCH_TPC_SCELL_PRESENCE)
-    {
-        members.add("tpc-IndexPUCCH-SCell", record.tpcScellIdx);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_TPC_PCELL_PRESENCE, "tpc-IndexPCell", record.tpcPcellIdx);
+    members.addIf(record.bitMask & RRC_PUCCH_TPC_SCELL_PRESENCE, "tpc-IndexPUCCH-SCell", record.tpcScellIdx);
     return members.json();
 }
 
@@ -199,14 +154,9 @@ std::string tpcPucch(const RrcPucchTpcCmdCfg_t& record)
 std::string tpcSrs(const RrcSrsTpcCmdCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_SRS_TPC_STARTING_BIT_PRESENCE)
-    {
-        members.add("startingBitOfFormat2-3", record.startBitFormat2_3);
-    }
-    if (record.bitMask & RRC_SRS_TPC_FIELD_TYPE_PRESENCE)
-    {
-        members.add("fieldTypeFormat2-3", record.feildTypeFormat2_3);
-    }
+    members.addIf(record.bitMask & RRC_SRS_TPC_STARTING_BIT_PRESENCE, "startingBitOfFormat2-3",
+                  record.startBitFormat2_3);
+    members.addIf(record.bitMask & RRC_SRS_TPC_FIELD_TYPE_PRESENCE, "fieldTypeFormat2-3", record.feildTypeFormat2_3);
     return members.json();
 }
 
@@ -272,14 +222,10 @@ std::string meant(const RrcControlResourceSet_t& record)
     {
         members.add("tci-StatesPDCCH-ToReleaseList", numbers(record.numTciStatesPdcchRel, record.tciStateRelId));
     }
-    if (record.bitMask & RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE)
-    {
-        members.add("tci-PresentInDCI", record.enTciPresentInDci);
-    }
-    if (record.bitMask & RRC_CONTROL_RESOURCE_SET_PDCCH_SCRAMBID_PRESENCE)
-    {
-        members.add("pdcch-DMRS-ScramblingID", record.pdcchDmrsScramblindId);
-    }
+    members.addIf(record.bitMask & RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE, "tci-PresentInDCI",
+                  record.enTciPresentInDci);
+    members.addIf(record.bitMask & RRC_CONTROL_RESOURCE_SET_PDCCH_SCRAMBID_PRESENCE, "pdcch-DMRS-ScramblingID",
+                  record.pdcchDmrsScramblindId);
     return members.json();
 }
 
@@ -287,22 +233,15 @@ std::string meant(const RrcSearchSpace_t& record)
 {
     Members members;
     members.add("searchSpaceId", record.searchSpaceId);
-    if (record.bitMask & RRC_SEARCH_SPACE_CONTROL_RESOURCE_SETID_PRESENCE)
-    {
-        members.add("controlResourceSetId", record.controlResourceSetId);
-    }
+    members.addIf(record.bitMask & RRC_SEARCH_SPACE_CONTROL_RESOURCE_SETID_PRESENCE, "controlResourceSetId",
+                  record.controlResourceSetId);
     if (record.bitMask & RRC_SEARCH_SPACE_MON_SLOT_PERIOD_AND_OFFSET_PRESENCE)
     {
         members.add("monitoringSlotPeriodicityAndOffset", period(record.monitoringSlotPeriodOffset));
     }
-    if (record.bitMask & RRC_SEARCH_SPACE_DURATION_PRESENCE)
-    {
-        members.add("duration", record.duration);
-    }
-    if (record.bitMask & RRC_SEARCH_SPACE_MON_SYMBOL_WITH_SLOT_PRESENCE)
-    {
-        members.add("monitoringSymbolsWithinSlot", bits(record.monitoringSysmblosWithSlot, 14));
-    }
+    members.addIf(record.bitMask & RRC_SEARCH_SPACE_DURATION_PRESENCE, "duration", record.duration);
+    members.addIf(record.bitMask & RRC_SEARCH_SPACE_MON_SYMBOL_WITH_SLOT_PRESENCE, "monitoringSymbolsWithinSlot",
+                  bits(record.monitoringSysmblosWithSlot, 14));
     if (record.bitMask & RRC_SEARCH_SPACE_NROF_CADIDATE_PRESENCE)
     {
         members.add("nrofCandidates", candidates(record.nrofCadidates));

@@ -79,40 +79,21 @@ std::string ptrs(const RrcPtrsDlCfg_t& record)
     {
         members.add("timeDensity", numbers(3, record.timeDensity));
     }
-    if (record.bitMask & RRC_PTRS_DL_CFG_EPRE_RATIO_PRESENCE)
-    {
-        members.add("epre-Ratio", record.epreRatio);
-    }
-    if (record.bitMask & RRC_PTRS_DL_CFG_RESOURCE_ELE_OFFSET_PRESENCE)
-    {
-        members.add("resourceElementOffset", record.resourceElementOffset);
-    }
+    members.addIf(record.bitMask & RRC_PTRS_DL_CFG_EPRE_RATIO_PRESENCE, "epre-Ratio", record.epreRatio);
+    members.addIf(record.bitMask & RRC_PTRS_DL_CFG_RESOURCE_ELE_OFFSET_PRESENCE, "resourceElementOffset",
+                  record.resourceElementOffset);
     return members.json();
 }
 
 std::string dmrs(const RrcDmrsDlCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_DMRS_DL_CFG_TYPE_PRESENCE)
-    {
-        members.add("dmrs-Type", record.dmrsType);
-    }
-    if (record.bitMask & RRC_DMRS_DL_CFG_ADDI_POSITION_PRESENCE)
-    {
-        members.add("dmrs-AdditionalPosition", record.dmrsAdditionalPos);
-    }
-    if (record.bitMask & RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE)
-    {
-        members.add("maxLength", record.maxLength);
-    }
-    if (record.bitMask & RRC_DMRS_DL_CFG_SCRAM_ID0_PRESENCE)
-    {
-        members.add("scramblingID0", record.scramblingID0);
-    }
-    if (record.bitMask & RRC_DMRS_DL_CFG_SCRAM_ID1_PRESENCE)
-    {
-        members.add("scramblingID1", record.scramblingID1);
-    }
+    members.addIf(record.bitMask & RRC_DMRS_DL_CFG_TYPE_PRESENCE, "dmrs-Type", record.dmrsType);
+    members.addIf(record.bitMask & RRC_DMRS_DL_CFG_ADDI_POSITION_PRESENCE, "dmrs-AdditionalPosition",
+                  record.dmrsAdditionalPos);
+    members.addIf(record.bitMask & RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE, "maxLength", record.maxLength);
+    members.addIf(record.bitMask & RRC_DMRS_DL_CFG_SCRAM_ID0_PRESENCE, "scramblingID0", record.scramblingID0);
+    members.addIf(record.bitMask & RRC_DMRS_DL_CFG_SCRAM_ID1_PRESENCE, "scramblingID1", record.scramblingID1);
     if (record.bitMask & RRC_DMRS_DL_CFG_TRACKRS_PRESENCE)
     {
         members.add("phaseTrackingRS", setup(ptrs(record.phaseTrackingRS)));
@@ -123,14 +104,8 @@ std::string dmrs(const RrcDmrsDlCfg_t& record)
 std::string qcl(const RrcQclInfo_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_QCI_INFO_CELL_PRESENCE)
-    {
-        members.add("cell", record.cellIdx);
-    }
-    if (record.bitMask & RRC_QCI_INFO_BWP_ID_PRESENCE)
-    {
-        members.add("bwp-Id", record.bwpId);
-    }
+    members.addIf(record.bitMask & RRC_QCI_INFO_CELL_PRESENCE, "cell", record.cellIdx);
+    members.addIf(record.bitMask & RRC_QCI_INFO_BWP_ID_PRESENCE, "bwp-Id", record.bwpId);
     members.add("referenceSignal", record.Presence & RRC_QCI_INFO_SSB_IDX_PRESENCE
                                        ? choice("ssb", record.refSignal.ssbIdx)
                                        : choice("csi-rs", record.refSignal.csiRsIdx));
@@ -157,20 +132,14 @@ std::string bundling(const RrcPdschCfg_t& record)
     if (record.prbBitmask & RRC_PDSCH_CFG_PRB_BUNDLING_DYNAMIC)
     {
         const dynamicBundingType& sizes = record.dynamicbundingtype;
-        if (sizes.bitMask & RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET1_PRESENCE)
-        {
-            members.add("bundleSizeSet1", sizes.bundleSizeSet1);
-        }
-        if (sizes.bitMask & RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET2_PRESENCE)
-        {
-            members.add("bundleSizeSet2", sizes.bundleSIzeSet2);
-        }
+        members.addIf(sizes.bitMask & RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET1_PRESENCE, "bundleSizeSet1",
+                      sizes.bundleSizeSet1);
+        members.addIf(sizes.bitMask & RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET2_PRESENCE, "bundleSizeSet2",
+                      sizes.bundleSIzeSet2);
         return choice("dynamicBundling", members.json());
     }
-    if (record.staticbundingtype.bitMask & RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE)
-    {
-        members.add("bundleSize", record.staticbundingtype.bundleSize);
-    }
+    members.addIf(record.staticbundingtype.bitMask & RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE, "bundleSize",
+                  record.staticbundingtype.bundleSize);
     return choice("staticBundling", members.json());
 }
 
@@ -209,10 +178,7 @@ std::string detectionResource(const RrcRadioLinkMonitorRs_t& record)
 std::string allocation(const RrcPdschTimeDomainResourceAlloc_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PDSCH_TIMING_KO_PRESENCE)
-    {
-        members.add("k0", record.k0);
-    }
+    members.addIf(record.bitMask & RRC_PDSCH_TIMING_KO_PRESENCE, "k0", record.k0);
     members.add("mappingType", record.mappingType);
     members.add("startSymbolAndLength", record.startSymAdnLen);
     return members.json();
@@ -225,10 +191,8 @@ std::string meant(const RrcPdschCfg_t& record)
 {
     const unsigned mask = record.bitMask;
     Members members;
-    if (mask & RRC_PDSCH_CFG_DATA_SCRAMBLING_ID_PRESENCE)
-    {
-        members.add("dataScramblingIdentityPDSCH", record.dataScramblingIDPdsch);
-    }
+    members.addIf(mask & RRC_PDSCH_CFG_DATA_SCRAMBLING_ID_PRESENCE, "dataScramblingIdentityPDSCH",
+                  record.dataScramblingIDPdsch);
     if (mask & RRC_PDSCH_CFG_MAPPING_TYPEA_PRESENCE)
     {
         members.add("dmrs-DownlinkForPDSCH-MappingTypeA", setup(dmrs(record.dmrsDlPdschMappingTypeA)));
@@ -245,19 +209,13 @@ std::string meant(const RrcPdschCfg_t& record)
     {
         members.add("tci-StatesToReleaseList", numbers(record.numTciStatesRel, record.tciStateId));
     }
-    if (mask & RRC_PDSCH_CFG_INTERLEAVE_PRESENCE)
-    {
-        members.add("vrb-ToPRB-Interleaver", record.vrbToPrbInterleaver);
-    }
+    members.addIf(mask & RRC_PDSCH_CFG_INTERLEAVE_PRESENCE, "vrb-ToPRB-Interleaver", record.vrbToPrbInterleaver);
     members.add("resourceAllocation", record.resourceAllocation);
     if (mask & RRC_PDSCH_CFG_TIMING_ALLOC_PRESENCE)
     {
         members.add("pdsch-TimeDomainAllocationList", setup(meant(record.pdschTimeDomainAllocList)));
     }
-    if (mask & RRC_PDSCH_CFG_AGGR_FACTOR_PRESENCE)
-    {
-        members.add("pdsch-AggregationFactor", record.pdschAggregationFactor);
-    }
+    members.addIf(mask & RRC_PDSCH_CFG_AGGR_FACTOR_PRESENCE, "pdsch-AggregationFactor", record.pdschAggregationFactor);
     if (record.numRateMatchPatternAddMod != 0)
     {
         members.add("rateMatchPatternToAddModList",
@@ -277,14 +235,9 @@ std::string meant(const RrcPdschCfg_t& record)
         members.add("rateMatchPatternGroup2", group(record.rateMatchPatternGroup2));
     }
     members.add("rbg-Size", record.rbgSize);
-    if (mask & RRC_PDSCH_CFG_MCS_TABLE_PRESENCE)
-    {
-        members.add("mcs-Table", record.mcsTable);
-    }
-    if (mask & RRC_PDSCH_CFG_CODEWORDS_BY_DCI_PRESENCE)
-    {
-        members.add("maxNrofCodeWordsScheduledByDCI", record.maxNrofCodeWordsScheduleByDCI);
-    }
+    members.addIf(mask & RRC_PDSCH_CFG_MCS_TABLE_PRESENCE, "mcs-Table", record.mcsTable);
+    members.addIf(mask & RRC_PDSCH_CFG_CODEWORDS_BY_DCI_PRESENCE, "maxNrofCodeWordsScheduledByDCI",
+                  record.maxNrofCodeWordsScheduleByDCI);
     members.add("prb-BundlingType", bundling(record));
     if (record.numZpCsiRsResouceAddMod != 0)
     {
@@ -317,14 +270,8 @@ std::string meant(const RrcSpsCfg_t& record)
     Members members;
     members.add("periodicity", record.periodicity);
     members.add("nrofHARQ-Processes", record.nrofHardProcess);
-    if (record.bitMask & RRC_SPS_CFG_N1_PUCCH_AN_PRESENCE)
-    {
-        members.add("n1PUCCH-AN", record.n1PucchAn);
-    }
-    if (record.bitMask & RRC_SPS_CFG_MCS_TABLE_PRESENCE)
-    {
-        members.add("mcs-Table", record.mcsTable);
-    }
+    members.addIf(record.bitMask & RRC_SPS_CFG_N1_PUCCH_AN_PRESENCE, "n1PUCCH-AN", record.n1PucchAn);
+    members.addIf(record.bitMask & RRC_SPS_CFG_MCS_TABLE_PRESENCE, "mcs-Table", record.mcsTable);
     return members.json();
 }
 
@@ -341,14 +288,10 @@ std::string meant(const RrcRlmCfg_t& record)
         members.add("failureDetectionResourcesToReleaseList",
                     numbers(record.numFailDetectResourceRel, record.failDetectResourceId));
     }
-    if (record.bitMask & RRC_RADIO_LINK_MONITOR_BEAM_FAIL_MAX_COUNT_PRESENCE)
-    {
-        members.add("beamFailureInstanceMaxCount", record.beamFailureInstanceMaxCount);
-    }
-    if (record.bitMask & RRC_RADIO_LINK_MONITOR_BEAM_FAIL_DETECT_TIMER_PRESENCE)
-    {
-        members.add("beamFailureDetectionTimer", record.beamFailureDetectionTimer);
-    }
+    members.addIf(record.bitMask & RRC_RADIO_LINK_MONITOR_BEAM_FAIL_MAX_COUNT_PRESENCE, "beamFailureInstanceMaxCount",
+                  record.beamFailureInstanceMaxCount);
+    members.addIf(record.bitMask & RRC_RADIO_LINK_MONITOR_BEAM_FAIL_DETECT_TIMER_PRESENCE, "beamFailureDetectionTimer",
+                  record.beamFailureDetectionTimer);
     return members.json();
 }
 
@@ -365,10 +308,8 @@ std::string meant(const RrcRateMatchPattern_t& record)
     members.add("patternType", record.Presence & RRC_PATTERN_TYPE_SETID
                                    ? choice("controlResourceSet", record.patternType.controlResourceSetId)
                                    : choice("bitmaps", bitmaps(record.patternType.bitmaps)));
-    if (record.bitMask & RRC_RATE_MATCH_PATTERN_SUB_CARRIER_SPACING_PRESENCE)
-    {
-        members.add("subcarrierSpacing", record.subCarrierSapcing);
-    }
+    members.addIf(record.bitMask & RRC_RATE_MATCH_PATTERN_SUB_CARRIER_SPACING_PRESENCE, "subcarrierSpacing",
+                  record.subCarrierSapcing);
     members.add("dummy", record.dummy);
     return members.json();
 }

@@ -11,10 +11,8 @@ std::string meant(const RrcPucchResourceSet_t& record)
     Members members;
     members.add("pucch-ResourceSetId", record.pucchResourceSetId);
     members.add("resourceList", numbers(record.numResourceList, record.pucchResourceId));
-    if (record.bitMask & RRC_PUCCH_RESOURCE_SET_MAX_PAYLOAD_MINUS1_PRESENCE)
-    {
-        members.add("maxPayloadMinus1", record.maxPayloadMinus1);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_RESOURCE_SET_MAX_PAYLOAD_MINUS1_PRESENCE, "maxPayloadMinus1",
+                  record.maxPayloadMinus1);
     return members.json();
 }
 
@@ -68,14 +66,9 @@ std::string meant(const RrcPucchResource_t& record)
     Members members;
     members.add("pucch-ResourceId", record.pucchResourceId);
     members.add("startingPRB", record.startingPRB);
-    if (record.bitMask & RRC_PUCCH_RESOURCE_INTRA_SLOT_FREQ_HOPPING_PRESENCE)
-    {
-        members.add("intraSlotFrequencyHopping", record.intraSlotFreqHopping);
-    }
-    if (record.bitMask & RRC_PUCCH_RESOURCE_SECOND_HOPPING_PRB_PRESENCE)
-    {
-        members.add("secondHopPRB", record.secondHopPRB);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_RESOURCE_INTRA_SLOT_FREQ_HOPPING_PRESENCE, "intraSlotFrequencyHopping",
+                  record.intraSlotFreqHopping);
+    members.addIf(record.bitMask & RRC_PUCCH_RESOURCE_SECOND_HOPPING_PRB_PRESENCE, "secondHopPRB", record.secondHopPRB);
     members.add("format", format(record));
     return members.json();
 }
@@ -84,30 +77,15 @@ std::string meant(const RrcPucchResource_t& record)
 std::string meant(const RrcPucchFormatCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE)
-    {
-        members.add("interslotFrequencyHopping", record.interSlotFreqHopping);
-    }
-    if (record.bitMask & RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE)
-    {
-        members.add("additionalDMRS", record.additionalDMRS);
-    }
-    if (record.bitMask & RRC_PUCCH_FORMAT_CFG_MAX_CODE_RATE_PRESENCE)
-    {
-        members.add("maxCodeRate", record.maxCodeRate);
-    }
-    if (record.bitMask & RRC_PUCCH_FORMAT_CFG_NR_OF_SLOTS_PRESENCE)
-    {
-        members.add("nrofSlots", record.nrofSlots);
-    }
-    if (record.bitMask & RRC_PUCCH_FORMAT_CFG_PI2BPSK_PRESENCE)
-    {
-        members.add("pi2BPSK", record.pi2BPSK);
-    }
-    if (record.bitMask & RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE)
-    {
-        members.add("simultaneousHARQ-ACK-CSI", record.sumultaneousHarqAckCsi);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE, "interslotFrequencyHopping",
+                  record.interSlotFreqHopping);
+    members.addIf(record.bitMask & RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE, "additionalDMRS",
+                  record.additionalDMRS);
+    members.addIf(record.bitMask & RRC_PUCCH_FORMAT_CFG_MAX_CODE_RATE_PRESENCE, "maxCodeRate", record.maxCodeRate);
+    members.addIf(record.bitMask & RRC_PUCCH_FORMAT_CFG_NR_OF_SLOTS_PRESENCE, "nrofSlots", record.nrofSlots);
+    members.addIf(record.bitMask & RRC_PUCCH_FORMAT_CFG_PI2BPSK_PRESENCE, "pi2BPSK", record.pi2BPSK);
+    members.addIf(record.bitMask & RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE, "simultaneousHARQ-ACK-CSI",
+                  record.sumultaneousHarqAckCsi);
     return members.json();
 }
 
@@ -138,10 +116,8 @@ std::string meant(const RrcSchedReqResourceCfg_t& record)
     {
         members.add("periodicityAndOffset", periodicityAndOffset(record));
     }
-    if (record.bitMask & RRC_SCHED_REQ_RESOURCE_CFG_PUCCH_RESOURCE_ID_PRESENCE)
-    {
-        members.add("resource", record.pucchResourceId);
-    }
+    members.addIf(record.bitMask & RRC_SCHED_REQ_RESOURCE_CFG_PUCCH_RESOURCE_ID_PRESENCE, "resource",
+                  record.pucchResourceId);
     return members.json();
 }
 
@@ -165,10 +141,8 @@ std::string meant(const RrcPucchSpatialRelationInfo_t& record)
 {
     Members members;
     members.add("pucch-SpatialRelationInfoId", record.pucchSpatialRelationInfoId);
-    if (record.bitMask & RRC_PUCCH_SPATIAL_RELEATION_INFO_SERVING_CELLID_PRESENCE)
-    {
-        members.add("servingCellId", record.servingCellId);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_SPATIAL_RELEATION_INFO_SERVING_CELLID_PRESENCE, "servingCellId",
+                  record.servingCellId);
     members.add("referenceSignal", referenceSignal(record));
     members.add("pucch-PathlossReferenceRS-Id", record.pucchPathLossRefRsId);
     members.add("p0-PUCCH-Id", record.p0PucchId);
@@ -198,26 +172,16 @@ std::string meant(const RrcPucchPathLossRefRs_t& record)
 std::string meant(const RrcPucchPowerControl_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUCCH_POWER_CONTROL_F0_PRESENCE)
-    {
-        members.add("deltaF-PUCCH-f0", static_cast<INT8>(record.deltaFPucchF0));
-    }
-    if (record.bitMask & RRC_PUCCH_POWER_CONTROL_F1_PRESENCE)
-    {
-        members.add("deltaF-PUCCH-f1", static_cast<INT8>(record.deltaFPucchF1));
-    }
-    if (record.bitMask & RRC_PUCCH_POWER_CONTROL_F2_PRESENCE)
-    {
-        members.add("deltaF-PUCCH-f2", static_cast<INT8>(record.deltaFPucchF2));
-    }
-    if (record.bitMask & RRC_PUCCH_POWER_CONTROL_F3_PRESENCE)
-    {
-        members.add("deltaF-PUCCH-f3", static_cast<INT8>(record.deltaFPucchF3));
-    }
-    if (record.bitMask & RRC_PUCCH_POWER_CONTROL_F4_PRESENCE)
-    {
-        members.add("deltaF-PUCCH-f4", static_cast<INT8>(record.deltaFPucchF4));
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_POWER_CONTROL_F0_PRESENCE, "deltaF-PUCCH-f0",
+                  static_cast<INT8>(record.deltaFPucchF0));
+    members.addIf(record.bitMask & RRC_PUCCH_POWER_CONTROL_F1_PRESENCE, "deltaF-PUCCH-f1",
+                  static_cast<INT8>(record.deltaFPucchF1));
+    members.addIf(record.bitMask & RRC_PUCCH_POWER_CONTROL_F2_PRESENCE, "deltaF-PUCCH-f2",
+                  static_cast<INT8>(record.deltaFPucchF2));
+    members.addIf(record.bitMask & RRC_PUCCH_POWER_CONTROL_F3_PRESENCE, "deltaF-PUCCH-f3",
+                  static_cast<INT8>(record.deltaFPucchF3));
+    members.addIf(record.bitMask & RRC_PUCCH_POWER_CONTROL_F4_PRESENCE, "deltaF-PUCCH-f4",
+                  static_cast<INT8>(record.deltaFPucchF4));
     if (record.bitMask & RRC_PUCCH_POWER_CONTROL_P0_SET_PRESENCE)
     {
         members.add("p0-Set", list(record.numP0Set, record.p0Set, [&](const auto& entry) { return meant(entry); }));
@@ -227,10 +191,8 @@ std::string meant(const RrcPucchPowerControl_t& record)
         members.add("pathlossReferenceRSs", list(record.numPathLossRefRs, record.pathLossRefRs,
                                                  [&](const auto& entry) { return meant(entry); }));
     }
-    if (record.bitMask & RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE)
-    {
-        members.add("twoPUCCH-PC-AdjustmentStates", record.twoPucchPcAdjStates);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE,
+                  "twoPUCCH-PC-AdjustmentStates", record.twoPucchPcAdjStates);
     return members.json();
 }
 

@@ -18,10 +18,8 @@ std::string meant(const RrcPtrsUlTransformPrecodeDisable_t& record)
         members.add("timeDensity", numbers(3, record.timeDensity));
     }
     members.add("maxNrofPorts", record.maxNrofPorts);
-    if (record.bitMask & RRC_PTRS_UL_CFG_DISABLE_RESOURCE_ELE_OFFSET_PRESENCE)
-    {
-        members.add("resourceElementOffset", record.resourceElementOffset);
-    }
+    members.addIf(record.bitMask & RRC_PTRS_UL_CFG_DISABLE_RESOURCE_ELE_OFFSET_PRESENCE, "resourceElementOffset",
+                  record.resourceElementOffset);
     members.add("ptrs-Power", record.ptrsPower);
     return members.json();
 }
@@ -55,32 +53,18 @@ std::string meant(const RrcPtrsUlCfg_t& record)
 std::string meant(const RrcTransformPrecodDisable_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_TRANSFORM_PRECODE_DISABLE_ID0_PRESENCE)
-    {
-        members.add("scramblingID0", record.scramblingId0);
-    }
-    if (record.bitMask & RRC_TRANSFORM_PRECODE_DISABLE_ID1_PRESENCE)
-    {
-        members.add("scramblingID1", record.scramblingId1);
-    }
+    members.addIf(record.bitMask & RRC_TRANSFORM_PRECODE_DISABLE_ID0_PRESENCE, "scramblingID0", record.scramblingId0);
+    members.addIf(record.bitMask & RRC_TRANSFORM_PRECODE_DISABLE_ID1_PRESENCE, "scramblingID1", record.scramblingId1);
     return members.json();
 }
 
 std::string meant(const RrcTransformPrecodEnable_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_TRANSFORM_PRECODE_ENABLE_ID_PRESENCE)
-    {
-        members.add("nPUSCH-Identity", record.nPuschId);
-    }
-    if (record.bitMask & RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE)
-    {
-        members.add("sequenceGroupHopping", record.seqGrpHopping);
-    }
-    if (record.bitMask & RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE)
-    {
-        members.add("sequenceHopping", record.seqHopping);
-    }
+    members.addIf(record.bitMask & RRC_TRANSFORM_PRECODE_ENABLE_ID_PRESENCE, "nPUSCH-Identity", record.nPuschId);
+    members.addIf(record.bitMask & RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE, "sequenceGroupHopping",
+                  record.seqGrpHopping);
+    members.addIf(record.bitMask & RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE, "sequenceHopping", record.seqHopping);
     return members.json();
 }
 
@@ -88,14 +72,8 @@ std::string meant(const RrcP0PuschAlphaSet_t& record)
 {
     Members members;
     members.add("p0-PUSCH-AlphaSetId", record.p0PuschAlphaId);
-    if (record.bitMask & RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE)
-    {
-        members.add("p0", static_cast<INT8>(record.p0));
-    }
-    if (record.bitMask & RRC_P0PUSCH_ALPHA_SET_ALPHA_PRESENCE)
-    {
-        members.add("alpha", record.alpha);
-    }
+    members.addIf(record.bitMask & RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE, "p0", static_cast<INT8>(record.p0));
+    members.addIf(record.bitMask & RRC_P0PUSCH_ALPHA_SET_ALPHA_PRESENCE, "alpha", record.alpha);
     return members.json();
 }
 
@@ -122,18 +100,11 @@ std::string meant(const RrcSriPuschPowerControl_t& record)
 std::string meant(const RrcPuschPowerControl_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUSCH_POWER_CONTROL_TCP_ACCUMULATION_PRESENCE)
-    {
-        members.add("tpc-Accumulation", record.tpcAccumulation);
-    }
-    if (record.bitMask & RRC_PUSCH_POWER_CONTROL_MSG3_ALPHA_PRESENCE)
-    {
-        members.add("msg3-Alpha", record.msg3Alpha);
-    }
-    if (record.bitMask & RRC_PUSCH_POWER_CONTROL_P0_NOMINAL_WITHOUT_GRANT_PRESENCE)
-    {
-        members.add("p0-NominalWithoutGrant", record.p0NominalWithOutGrant);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_POWER_CONTROL_TCP_ACCUMULATION_PRESENCE, "tpc-Accumulation",
+                  record.tpcAccumulation);
+    members.addIf(record.bitMask & RRC_PUSCH_POWER_CONTROL_MSG3_ALPHA_PRESENCE, "msg3-Alpha", record.msg3Alpha);
+    members.addIf(record.bitMask & RRC_PUSCH_POWER_CONTROL_P0_NOMINAL_WITHOUT_GRANT_PRESENCE, "p0-NominalWithoutGrant",
+                  record.p0NominalWithOutGrant);
     if (record.numP0AlphaSets != 0)
     {
         members.add("p0-AlphaSets",
@@ -148,14 +119,9 @@ std::string meant(const RrcPuschPowerControl_t& record)
     {
         members.add("pathlossReferenceRSToReleaseList", numbers(record.numPathLossRefRsRel, record.pathLossRefRsRelId));
     }
-    if (record.bitMask & RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE)
-    {
-        members.add("twoPUSCH-PC-AdjustmentStates", record.twoPuschPcAdjStates);
-    }
-    if (record.bitMask & RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE)
-    {
-        members.add("deltaMCS", record.deltaMcs);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE,
+                  "twoPUSCH-PC-AdjustmentStates", record.twoPuschPcAdjStates);
+    members.addIf(record.bitMask & RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE, "deltaMCS", record.deltaMcs);
     if (record.numSriPuschMappingAddMod != 0)
     {
         members.add("sri-PUSCH-MappingToAddModList", list(record.numSriPuschMappingAddMod, record.sriPuschMapping,
@@ -171,10 +137,7 @@ std::string meant(const RrcPuschPowerControl_t& record)
 std::string meant(const RrcPuschTimeDomainResourceAlloc_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE)
-    {
-        members.add("k2", record.k2);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE, "k2", record.k2);
     members.add("mappingType", record.mappingType);
     members.add("startSymbolAndLength", record.startSymbolAndLen);
     return members.json();
@@ -183,34 +146,20 @@ std::string meant(const RrcPuschTimeDomainResourceAlloc_t& record)
 std::string meant(const RrcBetaOffsets_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_BETA_OFFSETS_ACK_IDX1_PRESENCE)
-    {
-        members.add("betaOffsetACK-Index1", record.betaOffsetAckIdx1);
-    }
-    if (record.bitMask & RRC_BETA_OFFSETS_ACK_IDX2_PRESENCE)
-    {
-        members.add("betaOffsetACK-Index2", record.betaOffsetAckIdx2);
-    }
-    if (record.bitMask & RRC_BETA_OFFSETS_ACK_IDX3_PRESENCE)
-    {
-        members.add("betaOffsetACK-Index3", record.betaOffsetAckIdx3);
-    }
-    if (record.bitMask & RRC_BETA_OFFSETS_CSI_PART1_IDX1_PRESENCE)
-    {
-        members.add("betaOffsetCSI-Part1-Index1", record.betaOffsetCSIPart1Idx1);
-    }
-    if (record.bitMask & RRC_BETA_OFFSETS_CSI_PART1_IDX2_PRESENCE)
-    {
-        members.add("betaOffsetCSI-Part1-Index2", record.betaOffsetCSIPart1Idx2);
-    }
-    if (record.bitMask & RRC_BETA_OFFSETS_CSI_PART2_IDX1_PRESENCE)
-    {
-        members.add("betaOffsetCSI-Part2-Index1", record.betaOffsetCSIPart2Idx1);
-    }
-    if (record.bitMask & RRC_BETA_OFFSETS_CSI_PART2_IDX2_PRESENCE)
-    {
-        members.add("betaOffsetCSI-Part2-Index2", record.betaOffsetCSIPart2Idx2);
-    }
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_ACK_IDX1_PRESENCE, "betaOffsetACK-Index1",
+                  record.betaOffsetAckIdx1);
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_ACK_IDX2_PRESENCE, "betaOffsetACK-Index2",
+                  record.betaOffsetAckIdx2);
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_ACK_IDX3_PRESENCE, "betaOffsetACK-Index3",
+                  record.betaOffsetAckIdx3);
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_CSI_PART1_IDX1_PRESENCE, "betaOffsetCSI-Part1-Index1",
+                  record.betaOffsetCSIPart1Idx1);
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_CSI_PART1_IDX2_PRESENCE, "betaOffsetCSI-Part1-Index2",
+                  record.betaOffsetCSIPart1Idx2);
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_CSI_PART2_IDX1_PRESENCE, "betaOffsetCSI-Part2-Index1",
+                  record.betaOffsetCSIPart2Idx1);
+    members.addIf(record.bitMask & RRC_BETA_OFFSETS_CSI_PART2_IDX2_PRESENCE, "betaOffsetCSI-Part2-Index2",
+                  record.betaOffsetCSIPart2Idx2);
     return members.json();
 }
 
@@ -246,20 +195,14 @@ std::string meant(const rrcCfgdUlGrant_s& record)
     members.add("timeDomainAllocation", record.timeDomainAllocation);
     members.add("frequencyDomainAllocation", bits(record.freqDomainAllocation, 18));
     members.add("antennaPort", record.antennaPort);
-    if (record.bitMask & RRC_CFGD_GRANT_CFG_UL_GRANT_DMRS_SEQ_INIT_PRESENCE)
-    {
-        members.add("dmrs-SeqInitialization", record.dmrsSeqInit);
-    }
+    members.addIf(record.bitMask & RRC_CFGD_GRANT_CFG_UL_GRANT_DMRS_SEQ_INIT_PRESENCE, "dmrs-SeqInitialization",
+                  record.dmrsSeqInit);
     members.add("precodingAndNumberOfLayers", record.precodingAndNumberOfLayers);
-    if (record.bitMask & RRC_CFGD_GRANT_CFG_UL_GRANT_SRS_RESOURCE_IND_PRESENCE)
-    {
-        members.add("srs-ResourceIndicator", record.srsResourceInd);
-    }
+    members.addIf(record.bitMask & RRC_CFGD_GRANT_CFG_UL_GRANT_SRS_RESOURCE_IND_PRESENCE, "srs-ResourceIndicator",
+                  record.srsResourceInd);
     members.add("mcsAndTBS", record.mcsAndTBS);
-    if (record.bitMask & RRC_CFGD_GRANT_CFG_UL_GRANT_FREQ_HOPPING_OFFSET_PRESENCE)
-    {
-        members.add("frequencyHoppingOffset", record.freqHoppingOffset);
-    }
+    members.addIf(record.bitMask & RRC_CFGD_GRANT_CFG_UL_GRANT_FREQ_HOPPING_OFFSET_PRESENCE, "frequencyHoppingOffset",
+                  record.freqHoppingOffset);
     members.add("pathlossReferenceIndex", record.pathLossRefIdx);
     return members.json();
 }
@@ -270,14 +213,9 @@ std::string meant(const RrcPuschCfg_t& record)
 {
     const unsigned mask = record.bitMask;
     Members members;
-    if (mask & RRC_PUSCH_CFG_DATA_SCRAMBLING_ID_PUSCH_PRESENCE)
-    {
-        members.add("dataScramblingIdentityPUSCH", record.dataScramblingIdPusch);
-    }
-    if (mask & RRC_PUSCH_CFG_TX_CFG_PRESENCE)
-    {
-        members.add("txConfig", record.txCfg);
-    }
+    members.addIf(mask & RRC_PUSCH_CFG_DATA_SCRAMBLING_ID_PUSCH_PRESENCE, "dataScramblingIdentityPUSCH",
+                  record.dataScramblingIdPusch);
+    members.addIf(mask & RRC_PUSCH_CFG_TX_CFG_PRESENCE, "txConfig", record.txCfg);
     if (mask & RRC_PUSCH_CFG_DMRS_MAPPING_TYPEA_PRESENCE)
     {
         members.add("dmrs-UplinkForPUSCH-MappingTypeA", setup(meant(record.dmrsUlPuschTypeA)));
@@ -290,10 +228,7 @@ std::string meant(const RrcPuschCfg_t& record)
     {
         members.add("pusch-PowerControl", meant(record.puschPowerContol));
     }
-    if (mask & RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE)
-    {
-        members.add("frequencyHopping", record.freqHopping);
-    }
+    members.addIf(mask & RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE, "frequencyHopping", record.freqHopping);
     if (record.numFreqHoppingOffset != 0)
     {
         members.add("frequencyHoppingOffsetLists", numbers(record.numFreqHoppingOffset, record.freqHoppingOffset));
@@ -303,42 +238,20 @@ std::string meant(const RrcPuschCfg_t& record)
     {
         members.add("pusch-TimeDomainAllocationList", setup(meant(record.puschTimeDomainAllocList)));
     }
-    if (mask & RRC_PUSCH_CFG_PUSCH_AGGREGATION_FACTOR_PRESENCE)
-    {
-        members.add("pusch-AggregationFactor", record.puschAggregationFactor);
-    }
-    if (mask & RRC_PUSCH_CFG_MCS_TABLE_PRESENCE)
-    {
-        members.add("mcs-Table", record.mcsTable);
-    }
-    if (mask & RRC_PUSCH_CFG_MCS_TABLE_TRANSFORM_PRECODER_PRESENCE)
-    {
-        members.add("mcs-TableTransformPrecoder", record.mcsTableTransformPrecoder);
-    }
-    if (mask & RRC_PUSCH_CFG_TRANSFORM_PRECODER_PRESENCE)
-    {
-        members.add("transformPrecoder", record.transformPrecoder);
-    }
-    if (mask & RRC_PUSCH_CFG_CODE_BOOK_SUBSET_PRESENCE)
-    {
-        members.add("codebookSubset", record.codebookSubSet);
-    }
-    if (mask & RRC_PUSCH_CFG_MAX_RANK_PRESENCE)
-    {
-        members.add("maxRank", record.maxRank);
-    }
-    if (mask & RRC_PUSCH_CFG_RBG_SIZE_PRESENCE)
-    {
-        members.add("rbg-Size", record.rbgSize);
-    }
+    members.addIf(mask & RRC_PUSCH_CFG_PUSCH_AGGREGATION_FACTOR_PRESENCE, "pusch-AggregationFactor",
+                  record.puschAggregationFactor);
+    members.addIf(mask & RRC_PUSCH_CFG_MCS_TABLE_PRESENCE, "mcs-Table", record.mcsTable);
+    members.addIf(mask & RRC_PUSCH_CFG_MCS_TABLE_TRANSFORM_PRECODER_PRESENCE, "mcs-TableTransformPrecoder",
+                  record.mcsTableTransformPrecoder);
+    members.addIf(mask & RRC_PUSCH_CFG_TRANSFORM_PRECODER_PRESENCE, "transformPrecoder", record.transformPrecoder);
+    members.addIf(mask & RRC_PUSCH_CFG_CODE_BOOK_SUBSET_PRESENCE, "codebookSubset", record.codebookSubSet);
+    members.addIf(mask & RRC_PUSCH_CFG_MAX_RANK_PRESENCE, "maxRank", record.maxRank);
+    members.addIf(mask & RRC_PUSCH_CFG_RBG_SIZE_PRESENCE, "rbg-Size", record.rbgSize);
     if (mask & RRC_PUSCH_CFG_UCI_ON_PUSCH_PRESENCE)
     {
         members.add("uci-OnPUSCH", setup(meant(record.uciOnPusch)));
     }
-    if (mask & RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE)
-    {
-        members.add("tp-pi2BPSK", record.tpPi2Bpsk);
-    }
+    members.addIf(mask & RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE, "tp-pi2BPSK", record.tpPi2Bpsk);
     return members.json();
 }
 
@@ -351,22 +264,13 @@ std::string meant(const RrcPuschTimeDomainResourceAllocList_t& record)
 std::string meant(const RrcDmrsUlCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_DMRS_UL_CFG_TYPE_PRESENCE)
-    {
-        members.add("dmrs-Type", record.dmrsType);
-    }
-    if (record.bitMask & RRC_DMRS_UL_CFG_ADDI_POS_PRESENCE)
-    {
-        members.add("dmrs-AdditionalPosition", record.dmrsAddiPos);
-    }
+    members.addIf(record.bitMask & RRC_DMRS_UL_CFG_TYPE_PRESENCE, "dmrs-Type", record.dmrsType);
+    members.addIf(record.bitMask & RRC_DMRS_UL_CFG_ADDI_POS_PRESENCE, "dmrs-AdditionalPosition", record.dmrsAddiPos);
     if (record.bitMask & RRC_DMRS_UL_CFG_PHASE_TRACK_RS_PRESENCE)
     {
         members.add("phaseTrackingRS", setup(meant(record.phaseTrackRs)));
     }
-    if (record.bitMask & RRC_DMRS_UL_CFG_MAX_LENGTH_PRESENCE)
-    {
-        members.add("maxLength", record.maxLength);
-    }
+    members.addIf(record.bitMask & RRC_DMRS_UL_CFG_MAX_LENGTH_PRESENCE, "maxLength", record.maxLength);
     if (record.bitMask & RRC_DMRS_UL_CFG_TRANSFORM_PRECODE_DISABLE_PRESENCE)
     {
         members.add("transformPrecodingDisabled", meant(record.transformPrecodDisable));
@@ -382,45 +286,25 @@ std::string meant(const RrcCfgGrantCfg_t& record)
 {
     const unsigned mask = record.bitMask;
     Members members;
-    if (mask & RRC_CFGD_GRANT_CFG_FREQ_HOPPING_PRESENCE)
-    {
-        members.add("frequencyHopping", record.freqHopping);
-    }
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_FREQ_HOPPING_PRESENCE, "frequencyHopping", record.freqHopping);
     members.add("cg-DMRS-Configuration", meant(record.cgDmrsCfg));
-    if (mask & RRC_CFGD_GRANT_CFG_MCS_TABLE_PRESENCE)
-    {
-        members.add("mcs-Table", record.mcsTable);
-    }
-    if (mask & RRC_CFGD_GRANT_CFG_MCS_TABLE_PRECODER_PRESENCE)
-    {
-        members.add("mcs-TableTransformPrecoder", record.mcaTableTransformPrecoder);
-    }
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_MCS_TABLE_PRESENCE, "mcs-Table", record.mcsTable);
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_MCS_TABLE_PRECODER_PRESENCE, "mcs-TableTransformPrecoder",
+                  record.mcaTableTransformPrecoder);
     if (mask & RRC_CFGD_GRANT_CFG_UCI_ON_PUSCH_PRESENCE)
     {
         members.add("uci-OnPUSCH", setup(meant(record.uciOnPusch)));
     }
     members.add("resourceAllocation", record.resourceAlloction);
-    if (mask & RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE)
-    {
-        members.add("rbg-Size", record.rbgSize);
-    }
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE, "rbg-Size", record.rbgSize);
     members.add("powerControlLoopToUse", record.powerControlLoopToUse);
     members.add("p0-PUSCH-Alpha", record.p0PuschAlpha);
-    if (mask & RRC_CFGD_GRANT_CFG_TRANSFORM_PRECODER_PRESENCE)
-    {
-        members.add("transformPrecoder", record.transformPrecoder);
-    }
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_TRANSFORM_PRECODER_PRESENCE, "transformPrecoder", record.transformPrecoder);
     members.add("nrofHARQ-Processes", record.nrofHarqProcess);
     members.add("repK", record.repK);
-    if (mask & RRC_CFGD_GRANT_CFG_REPK_RV_PRESENCE)
-    {
-        members.add("repK-RV", record.repKRv);
-    }
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_REPK_RV_PRESENCE, "repK-RV", record.repKRv);
     members.add("periodicity", record.periodcity);
-    if (mask & RRC_CFGD_GRANT_CFG_CFGD_GRANT_TIMER_PRESENCE)
-    {
-        members.add("configuredGrantTimer", record.cfgdGrantTimer);
-    }
+    members.addIf(mask & RRC_CFGD_GRANT_CFG_CFGD_GRANT_TIMER_PRESENCE, "configuredGrantTimer", record.cfgdGrantTimer);
     if (mask & RRC_CFGD_GRANT_CFG_RRC_CFGD_UL_GRANT_PRESENCE)
     {
         members.add("rrc-ConfiguredUplinkGrant", meant(record.rrcCfgdUlGrant));

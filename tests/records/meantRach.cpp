@@ -43,10 +43,8 @@ std::string occasions(const RrcOccasions_t& record)
 {
     Members members;
     members.add("rach-ConfigGeneric", meant(record.rachCfgGen));
-    if (record.bitMask & RRC_OCCASION_SSB_PER_RACH_PRESENCE)
-    {
-        members.add("ssb-perRACH-Occasion", record.ssbPerRachOccasion);
-    }
+    members.addIf(record.bitMask & RRC_OCCASION_SSB_PER_RACH_PRESENCE, "ssb-perRACH-Occasion",
+                  record.ssbPerRachOccasion);
     return members.json();
 }
 
@@ -60,10 +58,8 @@ std::string cfra(const RrcCfra_t& record)
     }
     members.add("resources", record.bitMask & RRC_SSB ? choice("ssb", ssb(record.resources.ssb))
                                                       : choice("csirs", csiRs(record.resources.scirs)));
-    if (record.bitMask & RRC_CFRA_PREAMBLE_PRESENCE)
-    {
-        members.add("totalNumberOfRA-Preambles-v1530", record.totalNumOfRaPreableV1530);
-    }
+    members.addIf(record.bitMask & RRC_CFRA_PREAMBLE_PRESENCE, "totalNumberOfRA-Preambles-v1530",
+                  record.totalNumOfRaPreableV1530);
     return members.json();
 }
 
@@ -101,10 +97,7 @@ std::string meant(const RrcRaPrio_t& record)
 {
     Members members;
     members.add("powerRampingStepHighPriority", record.powerRampingStepHighPriority);
-    if (record.bitMask & RRC_RA_PRIO_SCALINGFACTOR_PRESENCE)
-    {
-        members.add("scalingFactorBI", record.scalingFactorBI);
-    }
+    members.addIf(record.bitMask & RRC_RA_PRIO_SCALINGFACTOR_PRESENCE, "scalingFactorBI", record.scalingFactorBI);
     return members.json();
 }
 

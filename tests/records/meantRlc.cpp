@@ -89,28 +89,17 @@ std::string uplinkSpecific(const RrcUlSpecificParaCfg_t& record)
     {
         members.add("allowedSCS-List", numbers(record.allowedSCSNum, record.subCarrierSpacing));
     }
-    if (record.bitMask & RRC_UL_SPECIFICPARA_PUSCH_CFG_PRESENCE)
-    {
-        members.add("maxPUSCH-Duration", record.maxPuschDuration);
-    }
-    if (record.bitMask & RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE)
-    {
-        members.add("configuredGrantType1Allowed", record.configuredGrantType1Allowed);
-    }
-    if (record.bitMask & RRC_UL_SPECIFICPARA_LCG_CFG_PRESENCE)
-    {
-        members.add("logicalChannelGroup", record.logicalChannelGroupId);
-    }
-    if (record.bitMask & RRC_UL_SPECIFICPARA_SR_CFG_PRESENCE)
-    {
-        members.add("schedulingRequestID", record.schedReqId);
-    }
+    members.addIf(record.bitMask & RRC_UL_SPECIFICPARA_PUSCH_CFG_PRESENCE, "maxPUSCH-Duration",
+                  record.maxPuschDuration);
+    members.addIf(record.bitMask & RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE, "configuredGrantType1Allowed",
+                  record.configuredGrantType1Allowed);
+    members.addIf(record.bitMask & RRC_UL_SPECIFICPARA_LCG_CFG_PRESENCE, "logicalChannelGroup",
+                  record.logicalChannelGroupId);
+    members.addIf(record.bitMask & RRC_UL_SPECIFICPARA_SR_CFG_PRESENCE, "schedulingRequestID", record.schedReqId);
     members.add("logicalChannelSR-Mask", boolean(record.logicalChannelSrMask));
     members.add("logicalChannelSR-DelayTimerApplied", boolean(record.logcalChannelSrDealyTimerApplied));
-    if (record.bitMask & RRC_UL_SPECIFICPARA_BITRATE_QUERY_PROHIBIT_TIMER)
-    {
-        members.add("bitRateQueryProhibitTimer", record.bitRateQueryProhibitTimer);
-    }
+    members.addIf(record.bitMask & RRC_UL_SPECIFICPARA_BITRATE_QUERY_PROHIBIT_TIMER, "bitRateQueryProhibitTimer",
+                  record.bitRateQueryProhibitTimer);
     return members.json();
 }
 
@@ -125,10 +114,7 @@ std::string meant(const RrcRlcBearerCfg_t& record)
         members.add("servedRadioBearer",
                     choice(record.rbType == RRC_SRB ? "srb-Identity" : "drb-Identity", record.rbId));
     }
-    if (record.bitMask & RRC_RLCBEARERCFG_REESTABRLC_PRESENCE)
-    {
-        members.add("reestablishRLC", record.reestablRlc);
-    }
+    members.addIf(record.bitMask & RRC_RLCBEARERCFG_REESTABRLC_PRESENCE, "reestablishRLC", record.reestablRlc);
     if (record.bitMask & RRC_RLCBEARERCFG_RLC_PRESENCE)
     {
         members.add("rlc-Config", rlc(record.rlcCfg));

@@ -15,10 +15,7 @@ std::string carriers(unsigned count, const SpecificCarrier_t (&carriers)[N])
 std::string frequency(const RrcFreqInfoDl_t& record)
 {
     Members members;
-    if (record.bitMask & FREQ_INFO_DL_ABS_FREQ_SSB)
-    {
-        members.add("absoluteFrequencySSB", record.absFreqSsb);
-    }
+    members.addIf(record.bitMask & FREQ_INFO_DL_ABS_FREQ_SSB, "absoluteFrequencySSB", record.absFreqSsb);
     members.add("frequencyBandList", numbers(record.multiBandNum, record.freqBandIndNr));
     members.add("absoluteFrequencyPointA", record.absFreqPointA);
     members.add("scs-SpecificCarrierList", carriers(record.scsNum, record.speCarrier));
@@ -83,10 +80,7 @@ std::string meant(const RrcServingCellCfgCommon_t& record)
 {
     const unsigned mask = record.bitMask;
     Members members;
-    if (mask & RRC_PHY_SCELL_Id)
-    {
-        members.add("physCellId", record.pci);
-    }
+    members.addIf(mask & RRC_PHY_SCELL_Id, "physCellId", record.pci);
     if (mask & RRC_DOWNLINK_CFG_COMMON)
     {
         members.add("downlinkConfigCommon", downlink(record.dlCfgComm));
@@ -99,18 +93,13 @@ std::string meant(const RrcServingCellCfgCommon_t& record)
     {
         members.add("supplementaryUplinkConfig", uplink(record.suppUlCfg));
     }
-    if (mask & RRC_TIMING_ADVANCE_OFFSET)
-    {
-        members.add("n-TimingAdvanceOffset", record.nTimingAdvanceOffset);
-    }
+    members.addIf(mask & RRC_TIMING_ADVANCE_OFFSET, "n-TimingAdvanceOffset", record.nTimingAdvanceOffset);
     if (mask & RRC_SSB_POSITION_IN_BURST)
     {
         members.add("ssb-PositionsInBurst", ssbPositions(record));
     }
-    if (mask & RRC_SSB_PERIOD_CITY_SERVING_CELL)
-    {
-        members.add("ssb-periodicityServingCell", record.ssbPeriodicityServingCell);
-    }
+    members.addIf(mask & RRC_SSB_PERIOD_CITY_SERVING_CELL, "ssb-periodicityServingCell",
+                  record.ssbPeriodicityServingCell);
     members.add("dmrs-TypeA-Position", record.dmrsTypeAPosition);
     if (record.numRateMatchPatternAddMod != 0)
     {
@@ -123,10 +112,7 @@ std::string meant(const RrcServingCellCfgCommon_t& record)
         members.add("rateMatchPatternToReleaseList",
                     numbers(record.numRateMatchPatternRelease, record.rateMatchPatternId));
     }
-    if (mask & RRC_SUB_CARRIER_SPACING)
-    {
-        members.add("ssbSubcarrierSpacing", record.subCarrierSpacing);
-    }
+    members.addIf(mask & RRC_SUB_CARRIER_SPACING, "ssbSubcarrierSpacing", record.subCarrierSpacing);
     if (mask & RRC_TDD_UL_DL_CFG_COMMON)
     {
         members.add("tdd-UL-DL-ConfigurationCommon", meant(record.tddUlDlCfgComm));

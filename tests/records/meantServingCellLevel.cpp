@@ -9,14 +9,8 @@ namespace
 std::string meant(const srsCcSetIdx_s& record)
 {
     Members members;
-    if (record.bitMask & RRC_SRS_CC_SET_IDX)
-    {
-        members.add("cc-SetIndex", record.ccSetIdx);
-    }
-    if (record.bitMask & RRC_SRS_CC_SET_IDX_ONE_CC_SET)
-    {
-        members.add("cc-IndexInOneCC-Set", record.ccIdxInOneCcSet);
-    }
+    members.addIf(record.bitMask & RRC_SRS_CC_SET_IDX, "cc-SetIndex", record.ccSetIdx);
+    members.addIf(record.bitMask & RRC_SRS_CC_SET_IDX_ONE_CC_SET, "cc-IndexInOneCC-Set", record.ccIdxInOneCcSet);
     return members.json();
 }
 
@@ -54,19 +48,15 @@ std::string meant(const RrcSlotFormatCombPerCell_t& record)
     Members members;
     members.add("servingCellId", record.servingCellIdx);
     members.add("subcarrierSpacing", record.subCarrierSpacing);
-    if (record.bitMask & RRC_SLOT_FORMAT_COMB_PER_CELL_SUB_CARRIER_SPACING2_PRESENCE)
-    {
-        members.add("subcarrierSpacing2", record.subCarrierSpacing2);
-    }
+    members.addIf(record.bitMask & RRC_SLOT_FORMAT_COMB_PER_CELL_SUB_CARRIER_SPACING2_PRESENCE, "subcarrierSpacing2",
+                  record.subCarrierSpacing2);
     if (record.numSlotFormatComb != 0)
     {
         members.add("slotFormatCombinations", list(record.numSlotFormatComb, record.SlotFormatComb,
                                                    [&](const auto& entry) { return meant(entry); }));
     }
-    if (record.bitMask & RRC_SLOT_FORMAT_COMB_PER_CELL_POSITION_IN_DCI_PRESENCE)
-    {
-        members.add("positionInDCI", record.positionInDci);
-    }
+    members.addIf(record.bitMask & RRC_SLOT_FORMAT_COMB_PER_CELL_POSITION_IN_DCI_PRESENCE, "positionInDCI",
+                  record.positionInDci);
     return members.json();
 }
 
@@ -102,24 +92,17 @@ std::string meant(const RrcPuschServingCellCfg_t& record)
                          record.codeBlockGroupTransmission.maxCodeBlockGroupPerTansportBlock);
         members.add("codeBlockGroupTransmission", setup(transmission.json()));
     }
-    if (record.bitMask & RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE)
-    {
-        members.add("rateMatching", record.rateMatching);
-    }
-    if (record.bitMask & RRC_PUSCH_SERVING_CELL_CFG_X_OVER_HEAD_PRESECE)
-    {
-        members.add("xOverhead", record.xOverhead);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE, "rateMatching",
+                  record.rateMatching);
+    members.addIf(record.bitMask & RRC_PUSCH_SERVING_CELL_CFG_X_OVER_HEAD_PRESECE, "xOverhead", record.xOverhead);
     return setup(members.json());
 }
 
 std::string meant(const RrcSrsCarrierSwitching_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_SRS_CARRIER_SWITCH_SERV_CELL_IDX_PRESENCE)
-    {
-        members.add("srs-SwitchFromServCellIndex", record.srsSwitchFromServCellIdx);
-    }
+    members.addIf(record.bitMask & RRC_SRS_CARRIER_SWITCH_SERV_CELL_IDX_PRESENCE, "srs-SwitchFromServCellIndex",
+                  record.srsSwitchFromServCellIdx);
     members.add("srs-SwitchFromCarrier", record.SwitchFromCarrier);
     if (record.bitMask & RRC_SRS_CARRIER_SWITCH_SRS_TPC_PDCCH_GROUP_PRESENCE)
     {
@@ -154,26 +137,13 @@ std::string meant(const RrcPdschServingCellCfg_t& record)
         transmission.add("codeBlockGroupFlushIndicator", boolean(groups.codeBlockGroupFlushInd));
         members.add("codeBlockGroupTransmission", setup(transmission.json()));
     }
-    if (record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_X_OVERHEAD_PRESENCE)
-    {
-        members.add("xOverhead", record.xOverHead);
-    }
-    if (record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_NROF_HARQ_PROCESS_FOR_PDSCH_PRESENCE)
-    {
-        members.add("nrofHARQ-ProcessesForPDSCH", record.nrofHarqProcessForPDSCH);
-    }
-    if (record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_PUCCH_CELL_PRESENCE)
-    {
-        members.add("pucch-Cell", record.cellIdx);
-    }
-    if (record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS)
-    {
-        members.add("maxMIMO-Layers", record.maxMIMO_Layer);
-    }
-    if (record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED)
-    {
-        members.add("processingType2Enabled", boolean(record.Type2Enabled));
-    }
+    members.addIf(record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_X_OVERHEAD_PRESENCE, "xOverhead", record.xOverHead);
+    members.addIf(record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_NROF_HARQ_PROCESS_FOR_PDSCH_PRESENCE,
+                  "nrofHARQ-ProcessesForPDSCH", record.nrofHarqProcessForPDSCH);
+    members.addIf(record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_PUCCH_CELL_PRESENCE, "pucch-Cell", record.cellIdx);
+    members.addIf(record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS, "maxMIMO-Layers", record.maxMIMO_Layer);
+    members.addIf(record.bitMask & RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED, "processingType2Enabled",
+                  boolean(record.Type2Enabled));
     return setup(members.json());
 }
 

@@ -13,31 +13,23 @@ std::string resourceType(const RrcSrsResourceSet_t& record)
     if (record.presence & RRC_SRS_RESOURCE_SET_TYPE_PERIODIC_PERSENCE)
     {
         const periodic_s& periodic = record.resourceType.periodic;
-        if (periodic.bitMask & RRC_SRS_RESOURCE_SET_PERIODIC_CSI_RS_PRESENCE)
-        {
-            members.add("associatedCSI-RS", periodic.associatedCsiRsId);
-        }
+        members.addIf(periodic.bitMask & RRC_SRS_RESOURCE_SET_PERIODIC_CSI_RS_PRESENCE, "associatedCSI-RS",
+                      periodic.associatedCsiRsId);
         return choice("periodic", members.json());
     }
     if (record.presence & RRC_SRS_RESOURCE_SET_TYPE_SEMI_PERSISTENT_PERSENCE)
     {
         const semiPersistent_s& semiPersistent = record.resourceType.semiPersistent;
-        if (semiPersistent.bitMask & RRC_SRS_RESOURCE_SET_SEMI_PERSISTENT_CSI_RS_PRESENCE)
-        {
-            members.add("associatedCSI-RS", semiPersistent.associatedCsiRsId);
-        }
+        members.addIf(semiPersistent.bitMask & RRC_SRS_RESOURCE_SET_SEMI_PERSISTENT_CSI_RS_PRESENCE, "associatedCSI-RS",
+                      semiPersistent.associatedCsiRsId);
         return choice("semi-persistent", members.json());
     }
     const aperiodic_s& aperiodic = record.resourceType.aperiodic;
     members.add("aperiodicSRS-ResourceTrigger", aperiodic.aperiodicSrsResourceTrigger);
-    if (aperiodic.bitMask & RRC_SRS_RESOURCE_SET_APERIODIC_CSI_RS_PRESENCE)
-    {
-        members.add("csi-RS", aperiodic.csiRsResourceId);
-    }
-    if (aperiodic.bitMask & RRC_SRS_RESOURCE_SET_APERIODIC_SLOT_OFFSET_PRESENCE)
-    {
-        members.add("slotOffset", aperiodic.slotOffset);
-    }
+    members.addIf(aperiodic.bitMask & RRC_SRS_RESOURCE_SET_APERIODIC_CSI_RS_PRESENCE, "csi-RS",
+                  aperiodic.csiRsResourceId);
+    members.addIf(aperiodic.bitMask & RRC_SRS_RESOURCE_SET_APERIODIC_SLOT_OFFSET_PRESENCE, "slotOffset",
+                  aperiodic.slotOffset);
     return choice("aperiodic", members.json());
 }
 
@@ -57,10 +49,7 @@ std::string resourceSet(const RrcSrsResourceSet_t& record)
     }
     members.add("resourceType", resourceType(record));
     members.add("usage", record.usage);
-    if (record.presence & RRC_SRS_RESOURCE_SET_ALPHA_PERSENCE)
-    {
-        members.add("alpha", record.Alpha);
-    }
+    members.addIf(record.presence & RRC_SRS_RESOURCE_SET_ALPHA_PERSENCE, "alpha", record.Alpha);
     if (record.presence & RRC_SRS_RESOURCE_SET_P0_PERSENCE)
     {
         // The member has 16 bits.
@@ -70,10 +59,8 @@ std::string resourceSet(const RrcSrsResourceSet_t& record)
     {
         members.add("pathlossReferenceRS", pathLossReference(record.pathLossRefRs));
     }
-    if (record.presence & RRC_SRS_RESOURCE_SET_POWER_CTL_ADJ_PERSENCE)
-    {
-        members.add("srs-PowerControlAdjustmentStates", record.srsPowerControlAdjustmentStates);
-    }
+    members.addIf(record.presence & RRC_SRS_RESOURCE_SET_POWER_CTL_ADJ_PERSENCE, "srs-PowerControlAdjustmentStates",
+                  record.srsPowerControlAdjustmentStates);
     return members.json();
 }
 
@@ -159,10 +146,7 @@ std::string referenceSignal(const RrcSrsSpatialRelationInfo_t& record)
 std::string spatialRelation(const RrcSrsSpatialRelationInfo_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_SRS_SERVING_CELL_ID)
-    {
-        members.add("servingCellId", record.servingCellId);
-    }
+    members.addIf(record.bitMask & RRC_SRS_SERVING_CELL_ID, "servingCellId", record.servingCellId);
     members.add("referenceSignal", referenceSignal(record));
     return members.json();
 }
@@ -172,10 +156,7 @@ std::string resource(const RrcSrsResource_t& record)
     Members members;
     members.add("srs-ResourceId", record.srsResourceId);
     members.add("nrofSRS-Ports", record.nrofSrsPotrs);
-    if (record.bitMask & RRC_SRS_RESOURCE_PTRS_PORT_IDX_PRESENCE)
-    {
-        members.add("ptrs-PortIndex", record.ptrsPortIdx);
-    }
+    members.addIf(record.bitMask & RRC_SRS_RESOURCE_PTRS_PORT_IDX_PRESENCE, "ptrs-PortIndex", record.ptrsPortIdx);
     members.add("transmissionComb", transmissionComb(record));
     members.add("resourceMapping", resourceMapping(record.resourceMapping));
     members.add("freqDomainPosition", record.freqDomainPostion);
@@ -214,10 +195,7 @@ std::string meant(const RrcSrsCfg_t& record)
         members.add("srs-ResourceToAddModList", list(record.numSrsResourceAddMod, record.srsResource,
                                                      [&](const auto& entry) { return resource(entry); }));
     }
-    if (record.bitMask & RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE)
-    {
-        members.add("tpc-Accumulation", record.tpcAccumulation);
-    }
+    members.addIf(record.bitMask & RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE, "tpc-Accumulation", record.tpcAccumulation);
     return members.json();
 }
 

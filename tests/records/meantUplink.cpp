@@ -48,10 +48,8 @@ std::string rach(const RrcRachCfgComm_t& record)
 {
     Members members;
     members.add("rach-ConfigGeneric", meant(record.rachCfgGeneric));
-    if (record.bitMask & RRC_RACH_CFG_COMMON_TOTAL_NUM_RAPREAMBLES)
-    {
-        members.add("totalNumberOfRA-Preambles", record.totalNumOfRaPreambles);
-    }
+    members.addIf(record.bitMask & RRC_RACH_CFG_COMMON_TOTAL_NUM_RAPREAMBLES, "totalNumberOfRA-Preambles",
+                  record.totalNumOfRaPreambles);
     if (record.bitMask & RRC_RACH_CFG_COMMON_SSB_PER_RACH_OCCASION_PREAMBLE_PER_SSB_PRESENCE)
     {
         members.add("ssb-perRACH-OccasionAndCB-PreamblesPerSSB", ssbPerOccasion(record));
@@ -65,34 +63,24 @@ std::string rach(const RrcRachCfgComm_t& record)
         members.add("groupBconfigured", groupB.json());
     }
     members.add("ra-ContentionResolutionTimer", record.raContentionResolutionTimer);
-    if (record.bitMask & RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_PRESENCE)
-    {
-        members.add("rsrp-ThresholdSSB", record.rsrpThreshSsb);
-    }
-    if (record.bitMask & RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_SUL_PRESENCE)
-    {
-        members.add("rsrp-ThresholdSSB-SUL", record.rsrpThreshSsbSul);
-    }
+    members.addIf(record.bitMask & RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_PRESENCE, "rsrp-ThresholdSSB",
+                  record.rsrpThreshSsb);
+    members.addIf(record.bitMask & RRC_RACH_CFG_COMMON_RSRP_THRESH_SSB_SUL_PRESENCE, "rsrp-ThresholdSSB-SUL",
+                  record.rsrpThreshSsbSul);
     members.add("prach-RootSequenceIndex", rootSequence(record));
-    if (record.bitMask & RRC_RACH_CFG_COMMON_MSG1_SUB_CARRIER_SPACINT_PRESENCE)
-    {
-        members.add("msg1-SubcarrierSpacing", record.msg1SubCarrierSpacing);
-    }
+    members.addIf(record.bitMask & RRC_RACH_CFG_COMMON_MSG1_SUB_CARRIER_SPACINT_PRESENCE, "msg1-SubcarrierSpacing",
+                  record.msg1SubCarrierSpacing);
     members.add("restrictedSetConfig", record.restritedSetCfg);
-    if (record.bitMask & RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE)
-    {
-        members.add("msg3-transformPrecoder", record.msg3TransformPreCoder);
-    }
+    members.addIf(record.bitMask & RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE, "msg3-transformPrecoder",
+                  record.msg3TransformPreCoder);
     return members.json();
 }
 
 std::string pusch(const RrcPuschCfgComm_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE)
-    {
-        members.add("groupHoppingEnabledTransformPrecoding", record.groupHoppingEnabledTransformPrecoding);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE,
+                  "groupHoppingEnabledTransformPrecoding", record.groupHoppingEnabledTransformPrecoding);
     if (record.bitMask & RRC_PUSCH_CFG_COMMON_PUSCH_TIMING_DOMAIN_ALLOCATION_LIST_PRESENCE)
     {
         members.add("pusch-TimeDomainAllocationList", meant(record.puschTimieDomainAllocList));
@@ -102,29 +90,19 @@ std::string pusch(const RrcPuschCfgComm_t& record)
         // The octet is a two's complement, unlike the next.
         members.add("msg3-DeltaPreamble", static_cast<INT8>(record.msg3DeltaPreable));
     }
-    if (record.bitMask & RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE)
-    {
-        members.add("p0-NominalWithGrant", record.p0NominalWithGrant);
-    }
+    members.addIf(record.bitMask & RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE, "p0-NominalWithGrant",
+                  record.p0NominalWithGrant);
     return members.json();
 }
 
 std::string pucch(const RrcPucchCfgComm_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_PUCCH_CFG_COMMON_PUCCH_RESOURCE_COMMON_PRESENCE)
-    {
-        members.add("pucch-ResourceCommon", record.pucchResourceComm);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_CFG_COMMON_PUCCH_RESOURCE_COMMON_PRESENCE, "pucch-ResourceCommon",
+                  record.pucchResourceComm);
     members.add("pucch-GroupHopping", record.pucchGroupHopping);
-    if (record.bitMask & RRC_PUCCH_CFG_COMMON_HOPPING_ID_PRESENCE)
-    {
-        members.add("hoppingId", record.hoppingId);
-    }
-    if (record.bitMask & RRC_PUCCH_CFG_COMMON_P0_NOMINAL_PRESENCE)
-    {
-        members.add("p0-nominal", record.p0Nominal);
-    }
+    members.addIf(record.bitMask & RRC_PUCCH_CFG_COMMON_HOPPING_ID_PRESENCE, "hoppingId", record.hoppingId);
+    members.addIf(record.bitMask & RRC_PUCCH_CFG_COMMON_P0_NOMINAL_PRESENCE, "p0-nominal", record.p0Nominal);
     return members.json();
 }
 
@@ -166,10 +144,8 @@ std::string meant(const RrcUlCfg_t& record)
         members.add("uplinkBWP-ToAddModList",
                     list(record.numUlBwpAddMod, record.ulBwpAddMod, [&](const auto& entry) { return meant(entry); }));
     }
-    if (record.bitMask & RRC_UL_CFG_FIRST_ACTICVE_UL_BWP_PRESENCE)
-    {
-        members.add("firstActiveUplinkBWP-Id", record.firstActiveUlBwpId);
-    }
+    members.addIf(record.bitMask & RRC_UL_CFG_FIRST_ACTICVE_UL_BWP_PRESENCE, "firstActiveUplinkBWP-Id",
+                  record.firstActiveUlBwpId);
     if (record.bitMask & RRC_UL_CFG_PUSCH_SERVING_CELL_CFG_PRESENCE)
     {
         members.add("pusch-ServingCellConfig", meant(record.PuschServingCellCfg));
@@ -226,38 +202,26 @@ std::string meant(const RrcBwpUlDedi_t& record)
 std::string meant(const RrcBeamFailRecoveryCfg_t& record)
 {
     Members members;
-    if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_ROOT_SEQ_IDX_BFR_PRESENCE)
-    {
-        members.add("rootSequenceIndex-BFR", record.rootSeqIdxBFR);
-    }
+    members.addIf(record.bitMask & RRC_BEAM_FAIL_RECOVERY_ROOT_SEQ_IDX_BFR_PRESENCE, "rootSequenceIndex-BFR",
+                  record.rootSeqIdxBFR);
     if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_RACH_CFG_GENERIC_PRESENCE)
     {
         members.add("rach-ConfigBFR", meant(record.rachCfgBFR));
     }
-    if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_RSRP_RANGE_PRESENCE)
-    {
-        members.add("rsrp-ThresholdSSB", record.rsrpThreshSSB);
-    }
-    if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_SSB_PER_RACH_OCCASION_PRESENCE)
-    {
-        members.add("ssb-perRACH-Occasion", record.ssbPerRachOccasion);
-    }
-    if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_RA_SSB_OCCASION_MASK_IDX_PRESENCE)
-    {
-        members.add("ra-ssb-OccasionMaskIndex", record.raSsbOccasionMaskIdx);
-    }
-    if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_RECOVERY_SEARCH_SPACE_ID_PRESENCE)
-    {
-        members.add("recoverySearchSpaceId", record.recoverySearchSpaceId);
-    }
+    members.addIf(record.bitMask & RRC_BEAM_FAIL_RECOVERY_RSRP_RANGE_PRESENCE, "rsrp-ThresholdSSB",
+                  record.rsrpThreshSSB);
+    members.addIf(record.bitMask & RRC_BEAM_FAIL_RECOVERY_SSB_PER_RACH_OCCASION_PRESENCE, "ssb-perRACH-Occasion",
+                  record.ssbPerRachOccasion);
+    members.addIf(record.bitMask & RRC_BEAM_FAIL_RECOVERY_RA_SSB_OCCASION_MASK_IDX_PRESENCE, "ra-ssb-OccasionMaskIndex",
+                  record.raSsbOccasionMaskIdx);
+    members.addIf(record.bitMask & RRC_BEAM_FAIL_RECOVERY_RECOVERY_SEARCH_SPACE_ID_PRESENCE, "recoverySearchSpaceId",
+                  record.recoverySearchSpaceId);
     if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_RA_PRIORITYZATION_PRESENCE)
     {
         members.add("ra-Prioritization", meant(record.raPrio));
     }
-    if (record.bitMask & RRC_BEAM_FAIL_RECOVERY_TIMER_PRESENCE)
-    {
-        members.add("beamFailureRecoveryTimer", record.beamFailRecoveryTimer);
-    }
+    members.addIf(record.bitMask & RRC_BEAM_FAIL_RECOVERY_TIMER_PRESENCE, "beamFailureRecoveryTimer",
+                  record.beamFailRecoveryTimer);
     return members.json();
 }
 
