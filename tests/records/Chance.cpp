@@ -40,7 +40,7 @@ Chance::Cases& Chance::casesOf(const Place& place, std::initializer_list<std::in
 
 std::int64_t Chance::between(std::int64_t lower, std::int64_t upper, const Place& place)
 {
-    spend(std::bit_width(static_cast<std::uint64_t>(upper - lower)));
+    spend(static_cast<std::int64_t>(std::bit_width(static_cast<std::uint64_t>(upper - lower))));
     Cases& cases = casesOf(place, {lower, upper});
     std::int64_t chosen = lower + static_cast<std::int64_t>(any() % static_cast<std::uint64_t>(upper - lower + 1));
     for (const std::int64_t end : {lower, upper})
