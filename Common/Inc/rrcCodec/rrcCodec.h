@@ -39,8 +39,8 @@ extern "C"
 
 /**
  * CellGroupConfig. A list is sent when its count is not 0; a count beyond its array makes the call fail, except
- * sCellAddModNum, which is cut. The record takes some 10 MB: keep it off the stack, and clear it before filling in what
- * the UE gets.
+ * sCellAddModNum, which is cut. The record takes some 10 MB: keep it off the stack, and initialise it with
+ * rrcInit (rrcInit.h) before filling in what the UE gets.
  */
 typedef struct rrcCellGroupCfg_s
 {
