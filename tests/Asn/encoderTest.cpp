@@ -10,14 +10,7 @@ namespace
 
 std::string hexOf(const std::vector<OSOCTET>& octets)
 {
-    std::string hex;
-    for (const OSOCTET octet : octets)
-    {
-        constexpr const char* digits = "0123456789abcdef";
-        hex += digits[octet >> 4];
-        hex += digits[octet & 15];
-    }
-    return hex;
+    return test::hexDigits(octets.data(), octets.size());
 }
 
 std::string hex(const std::string& bits)

@@ -125,7 +125,7 @@ protected:
         {
             ASSERT_EQ(result, VOS_OK) << run.message << "\n" << lines.substr(0, lines.find("\nCELL GROUP"));
             EXPECT_EQ(lines, "");
-            expectDecoded("CellGroupConfig", hexDigits(octets.data(), message.bufLen), run.message);
+            expectDecoded("CellGroupConfig", test::hexDigits(octets.data(), message.bufLen), run.message);
         }
         EXPECT_TRUE(!run.holds || run.holds(*record)) << "the record afterwards";
     }

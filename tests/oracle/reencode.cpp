@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "support/Hex.h"
+
 namespace
 {
 
@@ -26,18 +28,6 @@ bool octetsOf(const std::string& hex, Octets& octets)
         octets.push_back(static_cast<OSOCTET>(std::stoi(hex.substr(i, 2), nullptr, 16)));
     }
     return true;
-}
-
-std::string hexOf(const Octets& octets, std::size_t count)
-{
-    constexpr const char* digits = "0123456789abcdef";
-    std::string hex;
-    for (std::size_t i = 0; i < count; ++i)
-    {
-        hex += digits[octets[i] >> 4];
-        hex += digits[octets[i] & 15];
-    }
-    return hex;
 }
 
 std::string errorOf(const OSCTXT& context)
@@ -63,7 +53,8 @@ std::string reencode(Octets octets)
     {
         Octets again(octets.size() + 16);
         pu_setBuffer(&context, again.data(), again.size(), 0);
-        result = encode(&context, value.get()) != 0 ? errorOf(context) : "ok " + hexOf(again, pu_getMsgLen(&context));
+        result = encode(&context, value.get()) != 0 ? errorOf(context)
+                                                    : "ok " + test::hexDigits(again.data(), pu_getMsgLen(&context));
     }
     rtFreeContext(&context);
     return result;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "records.h"
+#include "support/Hex.h"
 #include "vos_lib.h"
 
 namespace
@@ -59,14 +60,7 @@ bool isNoticesOnly()
 
 void print(std::uint32_t seed, const UINT8* octets, UINT32 length, const std::string& meaning)
 {
-    std::string hex;
-    for (UINT32 i = 0; i < length; ++i)
-    {
-        constexpr const char* digits = "0123456789abcdef";
-        hex += digits[octets[i] >> 4];
-        hex += digits[octets[i] & 15];
-    }
-    std::printf("%u %s %s\n", seed, hex.c_str(), meaning.c_str());
+    std::printf("%u %s %s\n", seed, test::hexDigits(octets, length).c_str(), meaning.c_str());
 }
 
 } // namespace

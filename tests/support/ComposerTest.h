@@ -12,6 +12,7 @@
 #include "NR-RRC-Definitions.h"
 #include "support/CapturedOutput.h"
 #include "support/HeapFault.h"
+#include "support/Hex.h"
 
 namespace test
 {
@@ -62,18 +63,6 @@ protected:
             return none;
         }
         return *static_cast<const T*>(node->data);
-    }
-
-    static std::string hexDigits(const OSOCTET* octets, size_t count)
-    {
-        std::string text;
-        for (size_t i = 0; i < count; ++i)
-        {
-            constexpr const char* digits = "0123456789abcdef";
-            text += digits[octets[i] >> 4];
-            text += digits[octets[i] & 15];
-        }
-        return text;
     }
 
     // Octets of a named type's encoding, as hex; the error line where the encoder refuses it.

@@ -54,13 +54,7 @@ protected:
         ASSERT_EQ(asn1PD_CellGroupConfig(&context, tree.get()), 0);
         expectDecoded("CellGroupConfig", asn1PE_CellGroupConfig, *tree, json);
         ASSERT_EQ(pu_getMsgLen(&context), message_.bufLen);
-        std::string hex;
-        for (UINT32 i = 0; i < message_.bufLen; ++i)
-        {
-            hex += "0123456789abcdef"[octets_[i] >> 4];
-            hex += "0123456789abcdef"[octets_[i] & 15];
-        }
-        EXPECT_EQ(encode(asn1PE_CellGroupConfig, *tree), hex);
+        EXPECT_EQ(encode(asn1PE_CellGroupConfig, *tree), test::hexDigits(octets_.data(), message_.bufLen));
     }
 
     INT32 compose(RrcCellGroupCfg_t& record)

@@ -96,7 +96,7 @@ protected:
         {
             return printed();
         }
-        return hexDigits(octets.data(), message.bufLen);
+        return test::hexDigits(octets.data(), message.bufLen);
     }
 
     void expectAnyMemory(void (*fill)(RrcCellGroupCfg_t&))
