@@ -98,7 +98,7 @@ private:
             put(load<OSRTDList>(p).count - static_cast<uint32_t>(type.lower), width);
             for (const OSRTDListNode* node = load<OSRTDList>(p).head; node != nullptr; node = node->next)
             {
-                walk(*type.element, static_cast<const uint8_t*>(node->data));
+                walk(type.element(), static_cast<const uint8_t*>(node->data));
             }
             break;
         }
@@ -120,7 +120,7 @@ private:
         put(int64_t{count} - type.lower, width);
         for (uint32_t i = 0; i < count; ++i)
         {
-            walk(*type.element, p + type.elements + i * type.element->size);
+            walk(type.element(), p + type.members->offset + i * type.element().size);
         }
     }
 
@@ -133,8 +133,8 @@ private:
             put(0, 1); // the benchmark's messages choose root alternatives
         }
         put(tag - 1, rtx::bitsFor(type.rootCount - 1U));
-        const uint8_t* const content = p + type.elements;
-        walk(*member.type, member.pointer ? load<const uint8_t*>(content) : content);
+        const uint8_t* const content = p + member.offset;
+        walk(*member.type, member.step == rtx::Step::Pointer ? load<const uint8_t*>(content) : content);
     }
 
     bool sent(const rtx::Type& type, const rtx::Addition& addition, const uint8_t* p) const

@@ -1,6 +1,8 @@
 // The descriptors that the decoder and the printer walk.
 #include "emitter.h"
 
+#include <algorithm>
+
 namespace asncomp
 {
 namespace
@@ -55,34 +57,45 @@ std::string size(const Type& type)
     }
 }
 
-bool hasStorage(const Type& choice)
+// The union of a choice has no storage where every alternative is NULL.
+std::string unionOffset(const Type& choice)
 {
-    for (const Member& member : choice.members)
-    {
-        if (member.type->kind != Kind::Null)
-        {
-            return true;
-        }
-    }
-    return choice.extensible;
+    const bool stored =
+        choice.extensible || std::any_of(choice.members.begin(), choice.members.end(),
+                                         [](const Member& member) { return member.type->kind != Kind::Null; });
+    return stored ? "offsetof(" + choice.cName + ", u)" : "0";
 }
 
 std::string memberTable(const Type& type)
 {
-    std::string out = "const Member members_" + type.cName + "[] = {\n";
+    std::string out = "constexpr Member members_" + type.cName + "[] = {\n";
+    const auto row = [&](const Type& of, const std::string& rest)
+    {
+        out += "    member(type_" + of.cName + ", " + rest + "),\n";
+    };
     for (const Member& member : type.members)
     {
-        const bool stored = type.kind == Kind::Sequence && member.type->kind != Kind::Null;
-        out += "    {\"" + member.asnName + "\", &type_" + member.type->cName + ", " +
-               (stored ? "offsetof(" + type.cName + ", " + member.cName + ")" : std::string("0")) + ", " +
-               std::to_string(member.flag) + ", " + (member.pointer ? "true" : "false") + "},\n";
+        if (type.kind == Kind::Choice)
+        {
+            row(*member.type, unionOffset(type) + (member.pointer ? ", -1, true" : ""));
+        }
+        else
+        {
+            row(*member.type,
+                (member.type->kind != Kind::Null ? "offsetof(" + type.cName + ", " + member.cName + ")" : "0") +
+                    (member.flag >= 0 ? ", " + std::to_string(member.flag) : ""));
+        }
+    }
+    if (type.element != nullptr)
+    {
+        row(*type.element, type.kind == Kind::Array ? "offsetof(" + type.cName + ", elem)" : "0");
     }
     return out + "};\n";
 }
 
 std::string additionTable(const Type& type)
 {
-    std::string out = "const Addition additions_" + type.cName + "[] = {";
+    std::string out = "constexpr Addition additions_" + type.cName + "[] = {";
     for (const Addition& addition : type.additions)
     {
         out += "{" + std::to_string(addition.flag) + ", " + std::to_string(addition.first) + ", " +
@@ -91,59 +104,92 @@ std::string additionTable(const Type& type)
     return out + "};\n";
 }
 
-std::string nameTable(const Type& type)
+// The names of the values or of the members.
+std::vector<std::string> namesOf(const Type& type)
+{
+    std::vector<std::string> names = type.values;
+    for (const Member& member : type.members)
+    {
+        names.push_back(member.asnName);
+    }
+    return names;
+}
+
+std::string nameTable(const Type& type, const std::vector<std::string>& names)
 {
     std::string out = "const char* const names_" + type.cName + "[] = {";
-    for (const std::string& value : type.values)
+    for (const std::string& name : names)
     {
-        out += "\"" + value + "\", ";
+        out += "\"" + name + "\", ";
     }
     return out + "};\n";
+}
+
+// What a sequence, a choice, a list or an array puts before its content.
+std::size_t bits(const Type& type)
+{
+    switch (type.kind)
+    {
+    case Kind::Sequence:
+        return static_cast<std::size_t>(
+            std::count_if(type.members.begin(), type.members.begin() + static_cast<std::ptrdiff_t>(type.rootCount),
+                          [](const Member& member) { return member.optional; }));
+    case Kind::Choice:
+        return bitsFor(static_cast<std::int64_t>(type.rootCount) - 1);
+    case Kind::Array:
+    case Kind::List:
+        return bitsFor(type.upper - type.lower);
+    default:
+        return 0;
+    }
 }
 
 std::string table(const Type& type)
 {
     std::string before;
-    std::string fields =
-        ".name = \"" + type.asnName + "\", .kind = Kind::" + kindName(type.kind) + ", .width = " +
-        std::to_string(type.kind == Kind::Integer || (type.kind == Kind::Array && !type.fixedSize()) ? type.width()
-                                                                                                     : 0) +
-        ", .extensible = " + (type.extensible ? "true" : "false") + ", .size = " + size(type) +
-        ", .lower = " + std::to_string(type.lower) + ", .upper = " + std::to_string(type.upper);
-    switch (type.kind)
+    std::string fields = ".name = \"" + type.asnName + "\", .kind = Kind::" + kindName(type.kind);
+    const auto field = [&](const char* name, const std::string& value)
     {
-    case Kind::Array:
-        fields += ", .elements = offsetof(" + type.cName + ", elem)";
-        break;
-    case Kind::Choice:
-        fields += ", .elements = " + (hasStorage(type) ? "offsetof(" + type.cName + ", u)" : std::string("0"));
-        break;
-    default:
-        fields += ", .elements = 0";
-        break;
-    }
-    fields += ", .element = " + (type.element != nullptr ? "&type_" + type.element->cName : std::string("nullptr"));
-    if (type.kind == Kind::Enumerated)
+        fields += std::string(", .") + name + " = " + value;
+    };
+    if (type.kind == Kind::Integer || (type.kind == Kind::Array && !type.fixedSize()))
     {
-        before += nameTable(type);
+        field("width", std::to_string(type.width()));
     }
-    fields += ", .names = " + (type.kind == Kind::Enumerated ? "names_" + type.cName : std::string("nullptr"));
-    if (!type.members.empty())
+    if (type.extensible)
+    {
+        field("extensible", "true");
+    }
+    field("size", size(type));
+    field("lower", std::to_string(type.lower));
+    field("upper", std::to_string(type.upper));
+    if (const std::vector<std::string> names = namesOf(type); !names.empty())
+    {
+        before += nameTable(type, names);
+        field("names", "names_" + type.cName);
+    }
+    if (!type.members.empty() || type.element != nullptr)
     {
         before += memberTable(type);
+        field("members", "members_" + type.cName);
+        field("memberCount", std::to_string(type.element != nullptr ? 1 : type.members.size()));
+        field("rootCount", std::to_string(type.element != nullptr ? 1 : type.rootCount));
     }
-    fields += ", .members = " + (type.members.empty() ? std::string("nullptr") : "members_" + type.cName) +
-              ", .memberCount = " + std::to_string(type.members.size()) +
-              ", .rootCount = " + std::to_string(type.rootCount);
     if (!type.additions.empty())
     {
         before += additionTable(type);
+        field("additions", "additions_" + type.cName);
+        field("additionCount", std::to_string(type.additions.size()));
     }
-    fields +=
-        ", .additions = " + (type.additions.empty() ? std::string("nullptr") : "additions_" + type.cName) +
-        ", .additionCount = " + std::to_string(type.additions.size()) + ", .extElem = " +
-        (type.kind == Kind::Sequence && type.extensible ? "offsetof(" + type.cName + ", extElem1)" : std::string("0"));
-    return "\n" + (before.empty() ? "" : "namespace\n{\n" + before + "} // namespace\n") + "const Type type_" +
+    if (const std::size_t count = bits(type); count != 0)
+    {
+        field("bits", std::to_string(count));
+    }
+    if (type.extensible)
+    {
+        field("extElem", type.kind == Kind::Sequence ? "offsetof(" + type.cName + ", extElem1)" : unionOffset(type));
+    }
+    return "\n" + (before.empty() ? "" : "namespace\n{\n" + before + "} // namespace\n") + "constexpr Type type_" +
            type.cName + " = {" + fields + "};\n";
 }
 
@@ -163,8 +209,7 @@ std::string emitTables(const Model& model, const Origin& origin, const std::stri
 {
     std::string out = generatedMark(origin) + "#include \"NR-RRC-Tables.h\"\n#include \"" + typesHeader +
                       "\"\n\n#include <cstddef>\n\nnamespace nr_rrc\n{\n\nusing rtx::Addition;\nusing "
-                      "rtx::Kind;\nusing rtx::Member;\nusing "
-                      "rtx::Type;\n";
+                      "rtx::Kind;\nusing rtx::Member;\nusing rtx::member;\nusing rtx::Type;\n";
     for (const Type* type : model.types)
     {
         out += table(*type);

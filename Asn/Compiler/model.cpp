@@ -125,8 +125,8 @@ std::string cIdentifier(std::string name)
 
 constexpr std::int64_t maxListCount = 65535;
 constexpr std::int64_t maxBits = 65535;
-constexpr unsigned maxNesting = 40; // below the runtime's RTX_MAX_DEPTH
-constexpr std::size_t maxFlags = 256;
+constexpr unsigned maxNesting = 40;      // below the runtime's RTX_MAX_DEPTH
+constexpr std::size_t maxFlags = 56;     // so that the decoder loads a bitmap with one word
 constexpr std::size_t maxAdditions = 32; // so that their presence fits into one word
 constexpr std::size_t maxTypes = 20000;
 constexpr std::size_t maxNameText = std::size_t{4} * 1024 * 1024; // octets, of all C names together

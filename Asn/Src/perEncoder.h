@@ -3,29 +3,15 @@
 #ifndef PERENCODER_H
 #define PERENCODER_H
 
+#include "rtxBits.h"
 #include "rtxHeap.h"
 #include "rtxType.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace rtx
 {
-
-// Each octet with its bits in the opposite order.
-inline constexpr auto reversedOctets = []
-{
-    std::array<uint8_t, 256> table{};
-    for (unsigned i = 0; i < 256; ++i)
-    {
-        for (unsigned bit = 0; bit < 8; ++bit)
-        {
-            table[i] = static_cast<uint8_t>(table[i] | (i >> bit & 1U) << (7 - bit));
-        }
-    }
-    return table;
-}();
 
 // The encoder's position and the bits not written yet. Two registers: it travels by value.
 struct Bits

@@ -250,7 +250,7 @@ private:
     {
         for (unsigned i = 0; i < type.rootCount; ++i)
         {
-            member(type.members[i], value);
+            member(type, i, value);
         }
         for (unsigned a = 0; a < type.additionCount; ++a)
         {
@@ -260,12 +260,12 @@ private:
             {
                 if (sent)
                 {
-                    member(type.members[i], value);
+                    member(type, i, value);
                 }
                 else if (type.members[i].flag >= 0 && hasFlag(value, type.members[i].flag))
                 {
-                    note(type.members[i].name, "not sent, as its extension group is not");
-                    member(type.members[i], value);
+                    note(type.names[i], "not sent, as its extension group is not");
+                    member(type, i, value);
                 }
             }
         }
@@ -279,36 +279,37 @@ private:
         }
     }
 
-    void member(const Member& member, const void* structure)
+    void member(const Type& type, unsigned index, const void* structure)
     {
+        const Member& member = type.members[index];
         if (member.flag < 0 || hasFlag(structure, member.flag))
         {
-            element(member.name, *member.type, static_cast<const OSOCTET*>(structure) + member.offset);
+            element(type.names[index], *member.type, static_cast<const OSOCTET*>(structure) + member.offset);
         }
     }
 
     void choice(const Type& type, const void* value)
     {
         const auto tag = load<OSUINT32>(value);
-        const OSOCTET* const storage = static_cast<const OSOCTET*>(value) + type.elements;
+        const OSOCTET* const storage = static_cast<const OSOCTET*>(value);
         if (tag >= 1 && tag <= type.memberCount)
         {
             out_.put('\n');
             const Member& alternative = type.members[tag - 1];
-            if (alternative.pointer)
+            if (alternative.step == Step::Pointer)
             {
-                pointed(alternative.name, *alternative.type, load<const void*>(storage));
+                pointed(type.names[tag - 1], *alternative.type, load<const void*>(value, alternative.offset));
             }
             else
             {
-                element(alternative.name, *alternative.type, storage);
+                element(type.names[tag - 1], *alternative.type, storage + alternative.offset);
             }
             return;
         }
         out_.format(": tag %" PRIu32 " is not in 1..%u\n", tag, unsigned{type.memberCount});
         if (tag != 0 && type.extensible)
         {
-            const auto* const open = load<const ASN1OpenType*>(storage);
+            const auto* const open = load<const ASN1OpenType*>(value, type.extElem);
             if (const char* const reason = refuse(open, sizeof *open))
             {
                 note("unknown alternative", reason);
@@ -370,10 +371,10 @@ private:
             number = static_cast<uint32_t>(loadInteger(value, type.width, false));
         }
         number = count(type, number);
-        const OSOCTET* const elements = static_cast<const OSOCTET*>(value) + type.elements;
+        const OSOCTET* const elements = static_cast<const OSOCTET*>(value) + type.members->offset;
         for (uint32_t i = 0; i < number; ++i)
         {
-            element(Index(i).text, *type.element, elements + size_t{i} * type.element->size);
+            element(Index(i).text, type.element(), elements + size_t{i} * type.element().size);
         }
     }
 
@@ -381,7 +382,7 @@ private:
     {
         const auto print = [&](const char* name, const void* data)
         {
-            pointed(name, *type.element, data);
+            pointed(name, type.element(), data);
         };
         const uint32_t number = count(type, value.count);
         nodes(value, number, print);

@@ -3,6 +3,7 @@
 #define RTXTYPE_H
 
 #include "asn1Runtime.h"
+#include "rtxBits.h"
 
 namespace rtx
 {
@@ -16,20 +17,41 @@ enum class Kind : uint8_t
     BitStr32,   // ASN1BitStr32 of exactly `upper` bits
     BitOctets,  // bare octets holding exactly `upper` bits
     Sequence,   // presence flags from the structure's first octet on, members at their offsets
-    Choice,     // tag `t` at offset 0 (32 bits), union at `elements`
-    Array,      // count of `width` octets at offset 0 (none where lower == upper), elements from `elements` on
+    Choice,     // tag `t` at offset 0 (32 bits), union behind it
+    Array,      // count of `width` octets at offset 0 (none where lower == upper), elements behind it
     List        // OSRTDList of element
 };
 
 struct Type;
 
+// How the decoder stores what a member holds.
+enum class Step : uint8_t
+{
+    None,   // no bits and no storage, or a value that a cleared structure holds already
+    Value1, // a whole number of `bits` bits, stored in 1, 2 or 4 octets
+    Value2,
+    Value4,
+    Only, // an integer's only value: no bits
+    BitStr32,
+    BitOctets,
+    Sequence,
+    Choice,
+    Array,
+    List,
+    Pointer // an alternative of a choice that the union holds a pointer to
+};
+
+// A member of a sequence, an alternative of a choice or the element of a list or array, with what the decoder needs of
+// its type: 24 octets, so that the types of a message stay in the cache.
 struct Member
 {
-    const char* name; // ASN.1 name
     const Type* type;
-    uint32_t offset; // in the structure; 0 in a choice
+    uint32_t offset; // in the structure; in a choice that of the union, in an array that of its first element
     int16_t flag;    // bit number of its presence flag, -1 for a mandatory member
-    bool pointer;    // choice: the union holds a pointer to the alternative
+    Step step;
+    uint8_t bits;  // Value1..Value4: on the wire
+    int32_t lower; // Value1..Value4: the least value and how many follow it
+    uint32_t range;
 };
 
 // An extension addition of a sequence: a group [[ ]] with its own flag, or a lone member (flag -1).
@@ -44,31 +66,71 @@ struct Type
 {
     const char* name; // ASN.1 name, or the C name of a type nested in another
     Kind kind;
-    uint8_t width = 0;
+    uint8_t width = 0; // octets of an integer, of an array's count
     bool extensible = false;
     uint32_t size = 0; // octets of storage
     int32_t lower = 0; // of an integer's value, or of a list's count
     int32_t upper = 0;
-    uint32_t elements = 0;              // Array: offset of elem; Choice: offset of u
-    const Type* element = nullptr;      // Array, List
-    const char* const* names = nullptr; // Enumerated
-    const Member* members = nullptr;    // Sequence, Choice: root members first, then additions in order
+    const char* const* names = nullptr; // of the members, of the values of an enumeration
+    const Member* members = nullptr; // Sequence, Choice: root members first, then additions in order; Array, List: the
+                                     // element
     uint16_t memberCount = 0;
     uint16_t rootCount = 0;
     const Addition* additions = nullptr; // Sequence
     uint16_t additionCount = 0;
-    uint32_t extElem = 0; // extensible Sequence: offset of extElem1
+    uint8_t bits =
+        0; // on the wire: Sequence: root presence flags, Choice: index of a root alternative, Array, List: count
+    uint32_t extElem = 0; // extensible: offset of extElem1, in a choice that of the union
+
+    // Of an array's or a list's elements.
+    constexpr const Type& element() const
+    {
+        return *members->type;
+    }
 };
 
-// Bits that hold a value of 0..range.
-constexpr unsigned bitsFor(uint32_t range)
+constexpr Step stepOf(const Type& type)
 {
-    unsigned bits = 0;
-    for (; range != 0; range >>= 1)
+    const bool only = type.lower == type.upper;
+    switch (type.kind)
     {
-        ++bits;
+    case Kind::Boolean:
+        return Step::Value1;
+    case Kind::Null:
+        return Step::None;
+    case Kind::Integer:
+        return only ? Step::Only : type.width == 1 ? Step::Value1 : type.width == 2 ? Step::Value2 : Step::Value4;
+    case Kind::Enumerated:
+        return only ? Step::None : Step::Value4;
+    case Kind::BitStr32:
+        return Step::BitStr32;
+    case Kind::BitOctets:
+        return Step::BitOctets;
+    case Kind::Sequence:
+        return Step::Sequence;
+    case Kind::Choice:
+        return Step::Choice;
+    case Kind::Array:
+        return Step::Array;
+    case Kind::List:
+        return Step::List;
     }
-    return bits;
+    return Step::None;
+}
+
+// A member of the type at an offset; what the decoder needs besides follows from the type.
+constexpr Member member(const Type& type, size_t offset, int flag = -1, bool pointer = false)
+{
+    const bool number = type.kind <= Kind::Enumerated;
+    const uint32_t range =
+        type.kind == Kind::Boolean ? 1 : static_cast<uint32_t>(type.upper) - static_cast<uint32_t>(type.lower);
+    return {.type = &type,
+            .offset = static_cast<uint32_t>(offset),
+            .flag = static_cast<int16_t>(flag),
+            .step = pointer ? Step::Pointer : stepOf(type),
+            .bits = static_cast<uint8_t>(number ? bitsFor(range) : 0),
+            .lower = number ? type.lower : 0,
+            .range = number ? range : 0};
 }
 
 // A choice's tag for an alternative this release does not know: alternatives + 1 + its number among the unknown ones;

@@ -527,13 +527,16 @@ TEST_F(Decode, AListGrowsOnlyAsItsInputIsRead)
 {
     // Three elements are announced and none is there: one node at most.
     rtxMemHeapSetLimit(&ctxt, 48);
-    EXPECT_EQ("Items[0].id: the input ends before 3 more bits (at bit 8)", refused({.name = "Items",
-                                                                                    .kind = Kind::List,
-                                                                                    .size = sizeof(OSRTDList),
-                                                                                    .lower = 1,
-                                                                                    .upper = 128,
-                                                                                    .element = &itemType},
-                                                                                   "1111111 0"));
+    static constexpr Type longItems = {.name = "Items",
+                                       .kind = Kind::List,
+                                       .size = sizeof(OSRTDList),
+                                       .lower = 1,
+                                       .upper = 128,
+                                       .members = &itemsElement,
+                                       .memberCount = 1,
+                                       .rootCount = 1,
+                                       .bits = 7};
+    EXPECT_EQ("Items[0].id: the input ends before 3 more bits (at bit 8)", refused(longItems, "1111111 0"));
 }
 
 TEST_F(Decode, DepthIsBounded)

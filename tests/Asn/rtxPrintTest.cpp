@@ -207,8 +207,14 @@ TEST_F(Print, ListThatFormsALoop)
 
 TEST_F(Print, ALoopWithoutBoundEnds)
 {
-    const Type open = {
-        .name = "Open", .kind = Kind::List, .size = sizeof(OSRTDList), .upper = INT32_MAX, .element = &itemType};
+    const Type open = {.name = "Open",
+                       .kind = Kind::List,
+                       .size = sizeof(OSRTDList),
+                       .upper = INT32_MAX,
+                       .members = &itemsElement,
+                       .memberCount = 1,
+                       .rootCount = 1,
+                       .bits = 31};
     OSRTDList list = {};
     for (OSUINT8 id = 1; id <= 5; ++id)
     {

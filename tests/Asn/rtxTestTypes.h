@@ -14,6 +14,7 @@ namespace test
 
 using rtx::Addition;
 using rtx::Kind;
+using rtx::member;
 using rtx::Member;
 using rtx::Type;
 
@@ -52,28 +53,31 @@ inline std::string octet(unsigned value)
     return text;
 }
 
-inline const Type flagType = {.name = "Flag", .kind = Kind::Boolean, .size = 1};
-inline const Type nothingType = {.name = "Nothing", .kind = Kind::Null};
+inline constexpr Type flagType = {.name = "Flag", .kind = Kind::Boolean, .size = 1};
+inline constexpr Type nothingType = {.name = "Nothing", .kind = Kind::Null};
 // INTEGER (-3..4)
-inline const Type levelType = {.name = "Level", .kind = Kind::Integer, .width = 1, .size = 1, .lower = -3, .upper = 4};
+inline constexpr Type levelType = {
+    .name = "Level", .kind = Kind::Integer, .width = 1, .size = 1, .lower = -3, .upper = 4};
 // INTEGER (1..5)
-inline const Type oddType = {.name = "Odd", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 5};
+inline constexpr Type oddType = {.name = "Odd", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 5};
 // INTEGER (0..65535), (-400..400), the whole of 32 bits
-inline const Type wideType = {.name = "Wide", .kind = Kind::Integer, .width = 2, .size = 2, .lower = 0, .upper = 65535};
-inline const Type biasType = {
+inline constexpr Type wideType = {
+    .name = "Wide", .kind = Kind::Integer, .width = 2, .size = 2, .lower = 0, .upper = 65535};
+inline constexpr Type biasType = {
     .name = "Bias", .kind = Kind::Integer, .width = 2, .size = 2, .lower = -400, .upper = 400};
-inline const Type wholeType = {
+inline constexpr Type wholeType = {
     .name = "Whole", .kind = Kind::Integer, .width = 4, .size = 4, .lower = INT32_MIN, .upper = INT32_MAX};
 
 inline const char* const colours[] = {"red", "green", "blue"};
-inline const Type colourType = {.name = "Colour", .kind = Kind::Enumerated, .size = 4, .upper = 2, .names = colours};
+inline constexpr Type colourType = {
+    .name = "Colour", .kind = Kind::Enumerated, .size = 4, .upper = 2, .names = colours};
 inline const char* const onlyNames[] = {"true"};
-inline const Type onlyType = {.name = "Only", .kind = Kind::Enumerated, .size = 4, .upper = 0, .names = onlyNames};
+inline constexpr Type onlyType = {.name = "Only", .kind = Kind::Enumerated, .size = 4, .upper = 0, .names = onlyNames};
 
 // BIT STRING (SIZE (5)), (SIZE (43))
-inline const Type mapType = {
+inline constexpr Type mapType = {
     .name = "Map", .kind = Kind::BitStr32, .size = sizeof(ASN1BitStr32), .lower = 5, .upper = 5};
-inline const Type longMapType = {.name = "LongMap", .kind = Kind::BitOctets, .size = 6, .lower = 43, .upper = 43};
+inline constexpr Type longMapType = {.name = "LongMap", .kind = Kind::BitOctets, .size = 6, .lower = 43, .upper = 43};
 
 // Item ::= SEQUENCE { id Odd, shade Colour OPTIONAL }
 struct Item
@@ -85,20 +89,31 @@ struct Item
     OSUINT8 id;
     OSUINT32 shade;
 };
-inline const Member itemMembers[] = {
-    {"id", &oddType, offsetof(Item, id), -1, false},
-    {"shade", &colourType, offsetof(Item, shade), 0, false},
+inline const char* const itemNames[] = {"id", "shade"};
+inline constexpr Member itemMembers[] = {
+    member(oddType, offsetof(Item, id)),
+    member(colourType, offsetof(Item, shade), 0),
 };
-inline const Type itemType = {.name = "Item",
-                              .kind = Kind::Sequence,
-                              .size = sizeof(Item),
-                              .members = itemMembers,
-                              .memberCount = 2,
-                              .rootCount = 2};
+inline constexpr Type itemType = {.name = "Item",
+                                  .kind = Kind::Sequence,
+                                  .size = sizeof(Item),
+                                  .names = itemNames,
+                                  .members = itemMembers,
+                                  .memberCount = 2,
+                                  .rootCount = 2,
+                                  .bits = 1};
 
 // Items ::= SEQUENCE (SIZE (1..3)) OF Item
-inline const Type itemsType = {
-    .name = "Items", .kind = Kind::List, .size = sizeof(OSRTDList), .lower = 1, .upper = 3, .element = &itemType};
+inline constexpr Member itemsElement = member(itemType, 0);
+inline constexpr Type itemsType = {.name = "Items",
+                                   .kind = Kind::List,
+                                   .size = sizeof(OSRTDList),
+                                   .lower = 1,
+                                   .upper = 3,
+                                   .members = &itemsElement,
+                                   .memberCount = 1,
+                                   .rootCount = 1,
+                                   .bits = 2};
 
 // Numbers ::= SEQUENCE (SIZE (1..5)) OF Odd
 struct Numbers
@@ -106,27 +121,32 @@ struct Numbers
     OSUINT8 n;
     OSUINT8 elem[5];
 };
-inline const Type numbersType = {.name = "Numbers",
-                                 .kind = Kind::Array,
-                                 .width = 1,
-                                 .size = sizeof(Numbers),
-                                 .lower = 1,
-                                 .upper = 5,
-                                 .elements = offsetof(Numbers, elem),
-                                 .element = &oddType};
+inline constexpr Member numbersElement = member(oddType, offsetof(Numbers, elem));
+inline constexpr Type numbersType = {.name = "Numbers",
+                                     .kind = Kind::Array,
+                                     .width = 1,
+                                     .size = sizeof(Numbers),
+                                     .lower = 1,
+                                     .upper = 5,
+                                     .members = &numbersElement,
+                                     .memberCount = 1,
+                                     .rootCount = 1,
+                                     .bits = 3};
 
 // Pair ::= SEQUENCE (SIZE (2)) OF Level
 struct Pair
 {
     OSINT8 elem[2];
 };
-inline const Type pairType = {.name = "Pair",
-                              .kind = Kind::Array,
-                              .size = sizeof(Pair),
-                              .lower = 2,
-                              .upper = 2,
-                              .elements = 0,
-                              .element = &levelType};
+inline constexpr Member pairElement = member(levelType, 0);
+inline constexpr Type pairType = {.name = "Pair",
+                                  .kind = Kind::Array,
+                                  .size = sizeof(Pair),
+                                  .lower = 2,
+                                  .upper = 2,
+                                  .members = &pairElement,
+                                  .memberCount = 1,
+                                  .rootCount = 1};
 
 // Many ::= SEQUENCE (SIZE (0..300)) OF Flag
 struct Many
@@ -134,14 +154,17 @@ struct Many
     OSUINT16 n;
     OSBOOL elem[300];
 };
-inline const Type manyType = {.name = "Many",
-                              .kind = Kind::Array,
-                              .width = 2,
-                              .size = sizeof(Many),
-                              .lower = 0,
-                              .upper = 300,
-                              .elements = offsetof(Many, elem),
-                              .element = &flagType};
+inline constexpr Member manyElement = member(flagType, offsetof(Many, elem));
+inline constexpr Type manyType = {.name = "Many",
+                                  .kind = Kind::Array,
+                                  .width = 2,
+                                  .size = sizeof(Many),
+                                  .lower = 0,
+                                  .upper = 300,
+                                  .members = &manyElement,
+                                  .memberCount = 1,
+                                  .rootCount = 1,
+                                  .bits = 9};
 
 // Three ::= CHOICE { none NULL, level Level, wide Wide }
 struct Three
@@ -153,18 +176,20 @@ struct Three
         OSUINT16 wide;
     } u;
 };
-inline const Member threeMembers[] = {
-    {"none", &nothingType, 0, -1, false},
-    {"level", &levelType, 0, -1, false},
-    {"wide", &wideType, 0, -1, false},
+inline const char* const threeNames[] = {"none", "level", "wide"};
+inline constexpr Member threeMembers[] = {
+    member(nothingType, offsetof(Three, u)),
+    member(levelType, offsetof(Three, u)),
+    member(wideType, offsetof(Three, u)),
 };
-inline const Type threeType = {.name = "Three",
-                               .kind = Kind::Choice,
-                               .size = sizeof(Three),
-                               .elements = offsetof(Three, u),
-                               .members = threeMembers,
-                               .memberCount = 3,
-                               .rootCount = 3};
+inline constexpr Type threeType = {.name = "Three",
+                                   .kind = Kind::Choice,
+                                   .size = sizeof(Three),
+                                   .names = threeNames,
+                                   .members = threeMembers,
+                                   .memberCount = 3,
+                                   .rootCount = 3,
+                                   .bits = 2};
 
 // Pick ::= CHOICE { none NULL, level Level, item Item, map Map, ..., late Item }
 struct Pick
@@ -179,18 +204,22 @@ struct Pick
         ASN1OpenType* extElem1;
     } u;
 };
-inline const Member pickMembers[] = {
-    {"none", &nothingType, 0, -1, false}, {"level", &levelType, 0, -1, false}, {"item", &itemType, 0, -1, true},
-    {"map", &mapType, 0, -1, true},       {"late", &itemType, 0, -1, true},
+inline const char* const pickNames[] = {"none", "level", "item", "map", "late"};
+inline constexpr Member pickMembers[] = {
+    member(nothingType, offsetof(Pick, u)),        member(levelType, offsetof(Pick, u)),
+    member(itemType, offsetof(Pick, u), -1, true), member(mapType, offsetof(Pick, u), -1, true),
+    member(itemType, offsetof(Pick, u), -1, true),
 };
-inline const Type pickType = {.name = "Pick",
-                              .kind = Kind::Choice,
-                              .extensible = true,
-                              .size = sizeof(Pick),
-                              .elements = offsetof(Pick, u),
-                              .members = pickMembers,
-                              .memberCount = 5,
-                              .rootCount = 4};
+inline constexpr Type pickType = {.name = "Pick",
+                                  .kind = Kind::Choice,
+                                  .extensible = true,
+                                  .size = sizeof(Pick),
+                                  .names = pickNames,
+                                  .members = pickMembers,
+                                  .memberCount = 5,
+                                  .rootCount = 4,
+                                  .bits = 2,
+                                  .extElem = offsetof(Pick, u)};
 
 // Box ::= SEQUENCE { level Level, pick Pick OPTIONAL, ..., [[ a Flag OPTIONAL, b Odd OPTIONAL ]],
 //                    lone Wide OPTIONAL, [[ must Odd ]] }
@@ -213,37 +242,42 @@ struct Box
     OSUINT8 must;
     OSRTDList extElem1;
 };
-inline const Member boxMembers[] = {
-    {"level", &levelType, offsetof(Box, level), -1, false}, {"pick", &pickType, offsetof(Box, pick), 0, false},
-    {"a", &flagType, offsetof(Box, a), 2, false},           {"b", &oddType, offsetof(Box, b), 3, false},
-    {"lone", &wideType, offsetof(Box, lone), 4, false},     {"must", &oddType, offsetof(Box, must), -1, false},
+inline const char* const boxNames[] = {"level", "pick", "a", "b", "lone", "must"};
+inline constexpr Member boxMembers[] = {
+    member(levelType, offsetof(Box, level)),  member(pickType, offsetof(Box, pick), 0),
+    member(flagType, offsetof(Box, a), 2),    member(oddType, offsetof(Box, b), 3),
+    member(wideType, offsetof(Box, lone), 4), member(oddType, offsetof(Box, must)),
 };
-inline const Addition boxAdditions[] = {{1, 2, 2}, {-1, 4, 1}, {5, 5, 1}};
-inline const Type boxType = {.name = "Box",
-                             .kind = Kind::Sequence,
-                             .extensible = true,
-                             .size = sizeof(Box),
-                             .members = boxMembers,
-                             .memberCount = 6,
-                             .rootCount = 2,
-                             .additions = boxAdditions,
-                             .additionCount = 3,
-                             .extElem = offsetof(Box, extElem1)};
+inline constexpr Addition boxAdditions[] = {{1, 2, 2}, {-1, 4, 1}, {5, 5, 1}};
+inline constexpr Type boxType = {.name = "Box",
+                                 .kind = Kind::Sequence,
+                                 .extensible = true,
+                                 .size = sizeof(Box),
+                                 .names = boxNames,
+                                 .members = boxMembers,
+                                 .memberCount = 6,
+                                 .rootCount = 2,
+                                 .additions = boxAdditions,
+                                 .additionCount = 3,
+                                 .bits = 1,
+                                 .extElem = offsetof(Box, extElem1)};
 
 // Samples ::= SEQUENCE (SIZE (17000)) OF INTEGER (0..40000): 34000 octets
-inline const Type sampleType = {
+inline constexpr Type sampleType = {
     .name = "Sample", .kind = Kind::Integer, .width = 2, .size = 2, .lower = 0, .upper = 40000};
 struct Samples
 {
     OSUINT16 elem[17000];
 };
-inline const Type samplesType = {.name = "Samples",
-                                 .kind = Kind::Array,
-                                 .size = sizeof(Samples),
-                                 .lower = 17000,
-                                 .upper = 17000,
-                                 .elements = 0,
-                                 .element = &sampleType};
+inline constexpr Member samplesElement = member(sampleType, 0);
+inline constexpr Type samplesType = {.name = "Samples",
+                                     .kind = Kind::Array,
+                                     .size = sizeof(Samples),
+                                     .lower = 17000,
+                                     .upper = 17000,
+                                     .members = &samplesElement,
+                                     .memberCount = 1,
+                                     .rootCount = 1};
 
 // Trace ::= SEQUENCE { ..., samples Samples OPTIONAL }
 struct Trace
@@ -255,18 +289,24 @@ struct Trace
     Samples samples;
     OSRTDList extElem1;
 };
-inline const Member traceMembers[] = {{"samples", &samplesType, offsetof(Trace, samples), 0, false}};
-inline const Addition traceAdditions[] = {{-1, 0, 1}};
-inline const Type traceType = {.name = "Trace",
-                               .kind = Kind::Sequence,
-                               .extensible = true,
-                               .size = sizeof(Trace),
-                               .members = traceMembers,
-                               .memberCount = 1,
-                               .rootCount = 0,
-                               .additions = traceAdditions,
-                               .additionCount = 1,
-                               .extElem = offsetof(Trace, extElem1)};
+inline const char* const traceNames[] = {"samples"};
+inline constexpr Member traceMembers[] = {
+    member(samplesType, offsetof(Trace, samples), 0),
+};
+inline constexpr Addition traceAdditions[] = {{-1, 0, 1}};
+inline constexpr Type traceType = {.name = "Trace",
+                                   .kind = Kind::Sequence,
+                                   .extensible = true,
+                                   .size = sizeof(Trace),
+                                   .names = traceNames,
+                                   .members = traceMembers,
+                                   .memberCount = 1,
+                                   .rootCount = 0,
+                                   .additions = traceAdditions,
+                                   .additionCount = 1,
+                                   .extElem = offsetof(Trace, extElem1)};
+
+inline const char* const nestNames[] = {"in"};
 
 // `depth` sequences, one inside the other, around a Flag; each is the next one's only member "in".
 class Nested
@@ -276,13 +316,17 @@ public:
     {
         for (unsigned i = 0; i < depth; ++i)
         {
-            members_[i] = {"in", i + 1 < depth ? &types_[i + 1] : &flagType, 0, -1, false};
             types_[i] = {.name = "Nest",
                          .kind = Kind::Sequence,
                          .size = 1,
+                         .names = nestNames,
                          .members = &members_[i],
                          .memberCount = 1,
                          .rootCount = 1};
+        }
+        for (unsigned i = 0; i < depth; ++i)
+        {
+            members_[i] = member(i + 1 < depth ? types_[i + 1] : flagType, 0);
         }
     }
 
