@@ -105,8 +105,10 @@ typedef struct OSCTXT
     {
         struct RtxHeapBlock* blocks; // newest first
         OSOCTET* next;               // free octets of the newest block
-        OSOCTET* end;
-        size_t left; // octets that may still be handed out
+        OSOCTET* end;                // where they, or what the limit allows of them, end
+        size_t left;                 // octets that the limit allows beyond them
+        struct RtxHeapBlock* memory; // the caller's; becomes the first block
+        OSBOOL failed;
     } heap;
     struct
     {
@@ -117,19 +119,37 @@ typedef struct OSCTXT
     RtxError error;
 } OSCTXT;
 
-// Makes *pctxt an empty context without a limit. Allocates nothing. Returns 0, or RTX_E_NULL.
+// Makes *pctxt an empty context without a limit and without memory of the caller's. Allocates nothing. Returns 0, or
+// RTX_E_NULL.
 int rtxInitContext(OSCTXT* pctxt);
 
-// Releases everything that was allocated from the context's heap and ends its limit. The context may be used again; its
-// error, message length and buffer stay. Null is left alone.
+// Releases everything that was allocated from the context's heap and ends its limit. The context may be used again, the
+// caller's memory with it; its error, message length and buffer stay. Null is left alone.
 void rtFreeContext(OSCTXT* pctxt);
 
-// Limits what the heap hands out from now on to `octets` (each request rounded up to 16).
+// Lets the heap take what it hands out from the `octets` octets at `memory`, of any alignment, before it asks malloc
+// for more. The memory stays the caller's: the runtime never frees it, and it may go or serve another context after
+// rtFreeContext of this one, which then is initialised anew or given other memory before its next request. Returns how
+// many octets of it requests can have, somewhat less than `octets`, so that nothing is ever asked of malloc after
+//     rtxMemHeapSetLimit(&ctxt, rtxMemHeapSetMemory(&ctxt, memory, octets));
+// 0 when the memory is null or too small for a request, which leaves the context without any, and when the heap has
+// handed out something already, which changes nothing.
+size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets);
+
+// Limits what the heap hands out from now on to `octets` (each request rounded up to 16) until the next call or
+// rtFreeContext.
 void rtxMemHeapSetLimit(OSCTXT* pctxt, size_t octets);
 
 // Returns `size` octets, aligned to 16, not cleared, that live until rtFreeContext; null when memory or the limit is
 // exhausted.
 void* rtxMemHeapAlloc(OSCTXT* pctxt, size_t size);
+
+// The same, cleared.
+void* rtxMemHeapAllocZ(OSCTXT* pctxt, size_t size);
+
+// Nonzero when the heap has refused a request since rtxInitContext or rtFreeContext: what was built from it may be
+// incomplete.
+int rtxMemHeapFailed(const OSCTXT* pctxt);
 
 // Nonzero when all `size` octets at `p` lie in memory that the context's heap has handed out.
 int rtxMemHeapOwns(const OSCTXT* pctxt, const void* p, size_t size);

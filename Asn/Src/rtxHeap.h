@@ -4,6 +4,8 @@
 
 #include "asn1Runtime.h"
 
+#include <cstring>
+
 // Head of a block; its payload follows it.
 struct alignas(16) RtxHeapBlock
 {
@@ -14,6 +16,45 @@ struct alignas(16) RtxHeapBlock
 
 namespace rtx
 {
+
+constexpr size_t granule = 16; // requests are aligned to it and rounded up to it
+
+void initHeap(OSCTXT& ctxt, RtxHeapBlock* memory);
+void freeHeap(OSCTXT& ctxt);
+
+// Octets that the newest block still hands out: a multiple of the granule.
+inline size_t room(const OSCTXT& ctxt)
+{
+    return static_cast<size_t>(ctxt.heap.end - ctxt.heap.next);
+}
+
+inline size_t rounded(size_t size)
+{
+    return (size + granule - 1) / granule * granule;
+}
+
+inline void* take(OSCTXT& ctxt, size_t octets)
+{
+    OSOCTET* const p = ctxt.heap.next;
+    ctxt.heap.next += octets;
+    return p;
+}
+
+// rtxMemHeapAlloc, inline where the newest block has room: that is nearly always.
+inline void* allocate(OSCTXT& ctxt, size_t size)
+{
+    return size - 1 < room(ctxt) ? take(ctxt, rounded(size)) : rtxMemHeapAlloc(&ctxt, size);
+}
+
+inline void* allocateCleared(OSCTXT& ctxt, size_t size)
+{
+    void* const p = allocate(ctxt, size);
+    if (p != nullptr)
+    {
+        std::memset(p, 0, size);
+    }
+    return p;
+}
 
 // Whether all `size` octets at `p` were handed out by the context's heap.
 inline bool owns(const OSCTXT& ctxt, const void* p, size_t size)

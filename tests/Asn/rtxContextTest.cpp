@@ -127,6 +127,40 @@ TEST_F(Context, LaterBlocksGrow)
     }
 }
 
+// The check of a pointer's owner looks at every block.
+TEST_F(Context, ManyRequestsMakeFewBlocks)
+{
+    constexpr size_t size = 1024;
+    for (size_t taken = 0; taken < 100'000'000; taken += size)
+    {
+        ASSERT_NE(nullptr, alloc(size));
+    }
+    EXPECT_LE(blockCount(ctxt), 11U) << "64 KiB doubled ten times hold them";
+}
+
+TEST_F(Context, ABlockIsNotLargerThanTheLimit)
+{
+    constexpr size_t limit = 3 * 64 * 1024;
+    rtxMemHeapSetLimit(&ctxt, limit);
+    size_t taken = 0;
+    while (alloc(16) != nullptr)
+    {
+        taken += 16;
+    }
+    EXPECT_EQ(limit, taken);
+    EXPECT_EQ(2U, blockCount(ctxt));
+    EXPECT_EQ(limit - 64 * 1024, ctxt.heap.blocks->size);
+}
+
+TEST_F(Context, OctetsLeftInAnOlderBlockStayWithinTheLimit)
+{
+    rtxMemHeapSetLimit(&ctxt, 160 * 1024);
+    ASSERT_NE(nullptr, alloc(16));
+    ASSERT_NE(nullptr, alloc(100 * 1024)); // leaves most of the first block unused
+    EXPECT_NE(nullptr, alloc(60 * 1024 - 16));
+    EXPECT_EQ(nullptr, alloc(1));
+}
+
 TEST_F(Context, ALargeRequestGetsABlockOfItsSize)
 {
     ASSERT_NE(nullptr, alloc(1));
@@ -228,6 +262,175 @@ TEST_F(Context, OwnsNothingOfAnotherContext)
     EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, p, 16));
     EXPECT_NE(0, rtxMemHeapOwns(&other, p, 16));
     rtFreeContext(&other);
+}
+
+TEST_F(Context, ClearsWhatIsAskedForCleared)
+{
+    OSOCTET* const dirty = alloc(1000);
+    ASSERT_NE(nullptr, dirty);
+    std::memset(dirty, 0xEE, 1000);
+    rtFreeContext(&ctxt);
+    const std::vector<OSOCTET> zeros(1000);
+    for (const size_t size : {0U, 1U, 16U, 33U, 1000U})
+    {
+        auto* const p = static_cast<OSOCTET*>(rtxMemHeapAllocZ(&ctxt, size));
+        ASSERT_NE(nullptr, p);
+        EXPECT_EQ(0, std::memcmp(p, zeros.data(), size));
+        EXPECT_EQ(0U, reinterpret_cast<uintptr_t>(p) % 16);
+    }
+    EXPECT_EQ(nullptr, rtxMemHeapAllocZ(&ctxt, SIZE_MAX));
+    EXPECT_EQ(nullptr, rtxMemHeapAllocZ(&ctxt, SIZE_MAX - 40));
+}
+
+TEST_F(Context, RemembersThatARequestWasRefused)
+{
+    EXPECT_EQ(0, rtxMemHeapFailed(&ctxt));
+    ASSERT_NE(nullptr, alloc(100));
+    EXPECT_EQ(0, rtxMemHeapFailed(&ctxt));
+    rtxMemHeapSetLimit(&ctxt, 16);
+    EXPECT_EQ(nullptr, alloc(17));
+    EXPECT_NE(0, rtxMemHeapFailed(&ctxt));
+    EXPECT_NE(nullptr, alloc(16));
+    EXPECT_NE(0, rtxMemHeapFailed(&ctxt)) << "a later request that is served changes nothing";
+    rtFreeContext(&ctxt);
+    EXPECT_EQ(0, rtxMemHeapFailed(&ctxt));
+    EXPECT_EQ(nullptr, alloc(SIZE_MAX));
+    EXPECT_NE(0, rtxMemHeapFailed(&ctxt));
+    ASSERT_EQ(RTX_OK, rtxInitContext(&ctxt));
+    EXPECT_EQ(0, rtxMemHeapFailed(&ctxt));
+}
+
+// Memory of the caller's, with octets around it that nobody may touch.
+class CallersMemory : public Context
+{
+protected:
+    static constexpr size_t size = 4096;
+
+    bool within(const OSOCTET* p, size_t count) const
+    {
+        return p >= memory && p + count <= memory + size;
+    }
+
+    size_t octetsTaken(size_t request)
+    {
+        size_t taken = 0;
+        for (OSOCTET* p = alloc(request); p != nullptr; p = alloc(request))
+        {
+            EXPECT_TRUE(within(p, request));
+            EXPECT_EQ(0U, reinterpret_cast<uintptr_t>(p) % 16);
+            std::memset(p, 0x55, request);
+            taken += request;
+        }
+        return taken;
+    }
+
+    alignas(16) OSOCTET memory[size];
+};
+
+TEST_F(CallersMemory, IsTakenFirst)
+{
+    EXPECT_GE(rtxMemHeapSetMemory(&ctxt, memory, size), size - 64);
+    EXPECT_TRUE(within(alloc(1000), 1000));
+    EXPECT_TRUE(within(alloc(1000), 1000));
+    OSOCTET* const beyond = alloc(3000);
+    ASSERT_NE(nullptr, beyond);
+    EXPECT_FALSE(within(beyond, 3000));
+    std::memset(beyond, 0x55, 3000);
+    EXPECT_NE(nullptr, alloc(60 * 1024));
+    EXPECT_EQ(2U, blockCount(ctxt)) << "the next block is one as without memory of the caller's";
+}
+
+TEST_F(CallersMemory, HoldsEverythingUnderALimit)
+{
+    for (size_t shift = 0; shift < 16; ++shift)
+    {
+        for (size_t cut = 0; cut < 16; ++cut)
+        {
+            std::memset(memory, 0xA5, size);
+            const size_t given = rtxMemHeapSetMemory(&ctxt, memory + shift, size - 16 - cut - shift);
+            EXPECT_GE(given, size - 16 - 16 - 64);
+            rtxMemHeapSetLimit(&ctxt, given);
+            EXPECT_EQ(given, octetsTaken(16));
+            EXPECT_EQ(1U, blockCount(ctxt));
+            for (size_t i = 0; i < shift; ++i)
+            {
+                EXPECT_EQ(0xA5, memory[i]);
+            }
+            for (size_t i = size - 16 - cut; i < size; ++i)
+            {
+                EXPECT_EQ(0xA5, memory[i]);
+            }
+            rtFreeContext(&ctxt);
+        }
+    }
+}
+
+TEST_F(CallersMemory, IsUsedAgainAfterFree)
+{
+    const size_t given = rtxMemHeapSetMemory(&ctxt, memory, size);
+    for (int i = 0; i < 3; ++i)
+    {
+        rtxMemHeapSetLimit(&ctxt, given);
+        EXPECT_EQ(given, octetsTaken(16));
+        rtFreeContext(&ctxt);
+        EXPECT_TRUE(within(alloc(16), 16));
+        EXPECT_NE(nullptr, alloc(100'000)) << "the limit has ended";
+        rtFreeContext(&ctxt);
+    }
+}
+
+TEST_F(CallersMemory, EndsWithTheContext)
+{
+    ASSERT_NE(0U, rtxMemHeapSetMemory(&ctxt, memory, size));
+    ASSERT_EQ(RTX_OK, rtxInitContext(&ctxt));
+    OSOCTET* const p = alloc(16);
+    ASSERT_NE(nullptr, p);
+    EXPECT_FALSE(within(p, 16));
+}
+
+TEST_F(CallersMemory, IsRefusedTooSmallOrTooLate)
+{
+    EXPECT_EQ(0U, rtxMemHeapSetMemory(&ctxt, nullptr, size));
+    EXPECT_EQ(0U, rtxMemHeapSetMemory(&ctxt, memory, 0));
+    EXPECT_EQ(0U, rtxMemHeapSetMemory(&ctxt, memory + 1, 1));
+    EXPECT_EQ(0U, rtxMemHeapSetMemory(&ctxt, memory, sizeof(RtxHeapBlock) + 15));
+    EXPECT_EQ(16U, rtxMemHeapSetMemory(&ctxt, memory, sizeof(RtxHeapBlock) + 16));
+    EXPECT_EQ(0U, rtxMemHeapSetMemory(&ctxt, memory, 8)) << "and ends the memory before";
+    OSOCTET* const p = alloc(16);
+    ASSERT_NE(nullptr, p);
+    EXPECT_FALSE(within(p, 16));
+    EXPECT_EQ(0U, rtxMemHeapSetMemory(&ctxt, memory, size)) << "the heap is in use";
+    EXPECT_FALSE(within(alloc(16), 16));
+}
+
+TEST_F(CallersMemory, IsOwnedAsFarAsItIsHandedOut)
+{
+    ASSERT_NE(0U, rtxMemHeapSetMemory(&ctxt, memory, size));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, memory, 1));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, memory + sizeof(RtxHeapBlock), 1));
+    OSOCTET* const first = alloc(100);
+    ASSERT_NE(nullptr, first);
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, first, 112));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, first, 113));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, memory, 1)) << "the block's head";
+    OSOCTET* const beyond = alloc(100'000);
+    ASSERT_NE(nullptr, beyond);
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, first, 112));
+    EXPECT_NE(0, rtxMemHeapOwns(&ctxt, beyond, 100'000));
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, first + 112, 1));
+    rtFreeContext(&ctxt);
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, first, 1));
+}
+
+TEST_F(CallersMemory, ALimitBelowItHolds)
+{
+    ASSERT_NE(0U, rtxMemHeapSetMemory(&ctxt, memory, size));
+    rtxMemHeapSetLimit(&ctxt, 40);
+    EXPECT_EQ(32U, octetsTaken(16));
+    rtxMemHeapSetLimit(&ctxt, 48);
+    EXPECT_EQ(48U, octetsTaken(16));
+    rtxMemHeapSetLimit(&ctxt, SIZE_MAX);
+    EXPECT_NE(nullptr, alloc(100'000)) << "no limit any more";
 }
 
 TEST(List, AppendsAtTheTail)

@@ -85,12 +85,7 @@ void assign(Member& member, Value value)
 template <typename Element>
 Element* allocate(OSCTXT* pAsnCxt)
 {
-    void* const p = rtxMemHeapAlloc(pAsnCxt, sizeof(Element));
-    if (p != nullptr)
-    {
-        std::memset(p, 0, sizeof(Element));
-    }
-    return static_cast<Element*>(p);
+    return static_cast<Element*>(rtxMemHeapAllocZ(pAsnCxt, sizeof(Element)));
 }
 
 // Chooses an alternative that is held by pointer, with the element given. Without one the choice is left without an

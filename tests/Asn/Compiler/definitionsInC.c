@@ -8,7 +8,10 @@ int main(void)
     OSCTXT context;
     OSOCTET octets[8];
     CellGroupConfig group;
+    OSOCTET memory[256];
     int failed = rtxInitContext(&context);
+    rtxMemHeapSetLimit(&context, rtxMemHeapSetMemory(&context, memory, sizeof memory));
+    failed |= rtxMemHeapAllocZ(&context, 128) == NULL || rtxMemHeapFailed(&context);
     asn1Init_CellGroupConfig(&group);
     group.cellGroupId = maxSecondaryCellGroups;
     failed |= pu_setBuffer(&context, octets, sizeof octets, 0);

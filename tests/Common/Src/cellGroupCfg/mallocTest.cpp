@@ -1,15 +1,20 @@
-// What a composition asks of the system's heap.
+// What a composition asks of the system's heap and of the stack.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <vector>
 
+#include "NR-RRC-Definitions.h"
 #include "oneBearer.h"
 #include "reconfigurationWithSync.h"
 #include "releases.h"
 #include "secondaryCells.h"
+#include "support/CapturedOutput.h"
 #include "typicalCall.h"
 
 namespace
@@ -31,6 +36,49 @@ unsigned callsOf(void (*fill)(RrcCellGroupCfg_t&))
     return counted;
 }
 
+// The sanitizers put room between the variables of a function.
+#ifdef __has_feature
+constexpr bool sanitized = __has_feature(address_sanitizer) || __has_feature(thread_sanitizer);
+#elif defined(__SANITIZE_ADDRESS__)
+constexpr bool sanitized = true;
+#else
+constexpr bool sanitized = false;
+#endif
+
+constexpr OSOCTET untouched = 0xA5;
+
+// Octets of its stack that a thread has touched when it has run.
+size_t touchedBy(void* (*run)(void*), void* arg)
+{
+    constexpr size_t page = 4096;
+    constexpr size_t size = 64 * page;
+    auto* const stack = static_cast<OSOCTET*>(std::aligned_alloc(page, size));
+    std::fill_n(stack, size, untouched);
+    pthread_attr_t attributes;
+    pthread_t thread;
+    EXPECT_EQ(pthread_attr_init(&attributes), 0);
+    EXPECT_EQ(pthread_attr_setstack(&attributes, stack, size), 0);
+    EXPECT_EQ(pthread_create(&thread, &attributes, run, arg), 0);
+    EXPECT_EQ(pthread_join(thread, nullptr), 0);
+    pthread_attr_destroy(&attributes);
+    const auto rest = std::find_if(stack, stack + size, [](OSOCTET octet) { return octet != untouched; }) - stack;
+    std::free(stack);
+    return size - static_cast<size_t>(rest);
+}
+
+void* nothing(void* record)
+{
+    return record;
+}
+
+void* composed(void* record)
+{
+    static UINT8 octets[8192];
+    Mbuf_t message = {0, octets};
+    (void)rrcComposeCellGroupCfg(static_cast<RrcCellGroupCfg_t*>(record), &message);
+    return record;
+}
+
 } // namespace
 
 extern "C" void* __real_malloc(size_t size);
@@ -42,11 +90,61 @@ extern "C" void* __wrap_malloc(size_t size)
     return __real_malloc(size);
 }
 
-TEST(Malloc, EachExampleTakesOneBlock)
+// The tree of a typical call lies on the entry's stack, a larger one takes one block beside it.
+TEST(Malloc, LargeMessagesOnlyTakeABlock)
 {
-    EXPECT_EQ(callsOf(oneBearer), 1U);
-    EXPECT_EQ(callsOf(reconfigurationWithSync), 1U);
-    EXPECT_EQ(callsOf(typicalCall), 1U);
+    EXPECT_EQ(callsOf(oneBearer), 0U);
+    EXPECT_EQ(callsOf(reconfigurationWithSync), 0U);
+    EXPECT_EQ(callsOf(typicalCall), 0U);
     EXPECT_EQ(callsOf(secondaryCells), 1U);
-    EXPECT_EQ(callsOf(releases), 1U);
+    EXPECT_EQ(callsOf(releases), 0U);
+}
+
+// What the caller's memory holds is composed, encoded, decoded and printed without malloc.
+TEST(Malloc, NoneWithTheCallersMemory)
+{
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    secondaryCells(*record);
+    std::vector<OSOCTET> octets(8192);
+    std::vector<OSOCTET> memory(256 * 1024);
+    Mbuf_t message = {0, octets.data()};
+    ASSERT_EQ(rrcComposeCellGroupCfg(record.get(), &message), 0);
+
+    OSCTXT context;
+    rtxInitContext(&context);
+    rtxMemHeapSetLimit(&context, rtxMemHeapSetMemory(&context, memory.data(), memory.size()));
+    std::vector<OSOCTET> again(message.bufLen);
+    CellGroupConfig tree;
+    calls = 0;
+    for (int i = 0; i < 2; ++i)
+    {
+        pu_setBuffer(&context, octets.data(), message.bufLen, 0);
+        EXPECT_EQ(asn1PD_CellGroupConfig(&context, &tree), 0);
+        pu_setBuffer(&context, again.data(), again.size(), 0);
+        EXPECT_EQ(asn1PE_CellGroupConfig(&context, &tree), 0);
+        rtFreeContext(&context);
+        rtxMemHeapSetLimit(&context, rtxMemHeapSetMemory(&context, memory.data(), memory.size()));
+    }
+    EXPECT_EQ(calls, 0U);
+    EXPECT_EQ(again, std::vector<OSOCTET>(octets.begin(), octets.begin() + message.bufLen));
+    rtFreeContext(&context);
+}
+
+// A refusal, which prints the tree, is the deepest call.
+TEST(Stack, TheEntryStaysWithin32Kibioctets)
+{
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    secondaryCells(*record);
+    const size_t start = touchedBy(nothing, record.get());
+    const size_t success = touchedBy(composed, record.get()) - start;
+    record->cellGroupId = 9;
+    test::CapturedOutput output;
+    const size_t refusal = touchedBy(composed, record.get()) - start;
+    EXPECT_THAT(output.take(), testing::HasSubstr("CellGroupConfig.cellGroupId: 9 is not in 0..3"));
+    EXPECT_GE(success, 20U * 1024);
+    if (!sanitized)
+    {
+        EXPECT_LE(success, 32U * 1024);
+        EXPECT_LE(refusal, 32U * 1024);
+    }
 }

@@ -1,0 +1,142 @@
+#include "rtxHeap.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace
+{
+
+using rtx::granule;
+
+constexpr size_t firstBlock = 64 * 1024; // holds the composition of all but the largest messages
+
+OSOCTET* payload(RtxHeapBlock* block)
+{
+    return reinterpret_cast<OSOCTET*>(block + 1);
+}
+
+// Lets the newest block hand out `left` octets, or what it has, and keeps the rest for blocks to come.
+void allow(OSCTXT& ctxt, size_t left)
+{
+    auto& heap = ctxt.heap;
+    size_t room = 0;
+    if (heap.blocks != nullptr)
+    {
+        room = std::min(left, static_cast<size_t>(payload(heap.blocks) + heap.blocks->size - heap.next));
+    }
+    heap.end = heap.next + room;
+    heap.left = left - room;
+}
+
+void makeNewest(OSCTXT& ctxt, RtxHeapBlock* block)
+{
+    auto& heap = ctxt.heap;
+    if (heap.blocks != nullptr)
+    {
+        heap.blocks->used = static_cast<size_t>(heap.next - payload(heap.blocks));
+    }
+    block->link = heap.blocks;
+    heap.blocks = block;
+    heap.next = heap.end = payload(block);
+}
+
+// Each block is at least twice as large as the one before it, or takes all that the limit allows, so that there are few
+// whatever is asked for: owns() looks at every one.
+bool addBlock(OSCTXT& ctxt, size_t octets, size_t left)
+{
+    const RtxHeapBlock* const older = ctxt.heap.blocks;
+    const size_t twice = older == nullptr ? 0 : std::min(older->size, SIZE_MAX / 4) * 2;
+    const size_t size = std::max({firstBlock, octets, std::min(twice, left)});
+    if (size > SIZE_MAX - sizeof(RtxHeapBlock))
+    {
+        return false;
+    }
+    auto* const block = static_cast<RtxHeapBlock*>(std::malloc(sizeof(RtxHeapBlock) + size));
+    if (block == nullptr)
+    {
+        return false;
+    }
+    block->size = size;
+    makeNewest(ctxt, block);
+    return true;
+}
+
+// Sees to it that the newest block hands out `octets` octets. Out of line, as most requests need none of it.
+[[gnu::noinline, gnu::cold]] bool makeRoom(OSCTXT& ctxt, size_t octets)
+{
+    auto& heap = ctxt.heap;
+    const size_t left = heap.left + rtx::room(ctxt);
+    if (octets <= left && heap.blocks == nullptr && heap.memory != nullptr)
+    {
+        makeNewest(ctxt, heap.memory);
+    }
+    allow(ctxt, left);
+    if (octets <= left && octets > rtx::room(ctxt) && addBlock(ctxt, octets, left))
+    {
+        allow(ctxt, left);
+    }
+    return octets <= rtx::room(ctxt);
+}
+
+} // namespace
+
+void rtx::initHeap(OSCTXT& ctxt, RtxHeapBlock* memory)
+{
+    ctxt.heap = {nullptr, nullptr, nullptr, SIZE_MAX / granule * granule, memory, 0};
+}
+
+void rtx::freeHeap(OSCTXT& ctxt)
+{
+    for (RtxHeapBlock* block = ctxt.heap.blocks; block != nullptr && block != ctxt.heap.memory;)
+    {
+        RtxHeapBlock* const older = block->link;
+        std::free(block);
+        block = older;
+    }
+    initHeap(ctxt, ctxt.heap.memory);
+}
+
+size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets)
+{
+    if (pctxt->heap.blocks != nullptr)
+    {
+        return 0;
+    }
+    pctxt->heap.memory = nullptr;
+    const size_t surplus = (granule - reinterpret_cast<uintptr_t>(memory) % granule) % granule;
+    constexpr size_t least = sizeof(RtxHeapBlock) + granule;
+    if (memory == nullptr || octets < surplus || octets - surplus < least)
+    {
+        return 0;
+    }
+    pctxt->heap.memory = reinterpret_cast<RtxHeapBlock*>(static_cast<OSOCTET*>(memory) + surplus);
+    pctxt->heap.memory->size = (octets - surplus - sizeof(RtxHeapBlock)) / granule * granule;
+    return pctxt->heap.memory->size;
+}
+
+void rtxMemHeapSetLimit(OSCTXT* pctxt, size_t octets)
+{
+    allow(*pctxt, octets / granule * granule);
+}
+
+void* rtxMemHeapAlloc(OSCTXT* pctxt, size_t size)
+{
+    // Each request gets octets of its own, also an empty one.
+    const size_t octets = size == 0 ? granule : rtx::rounded(size);
+    if (octets < size || (octets > rtx::room(*pctxt) && !makeRoom(*pctxt, octets)))
+    {
+        pctxt->heap.failed = 1;
+        return nullptr;
+    }
+    return rtx::take(*pctxt, octets);
+}
+
+int rtxMemHeapFailed(const OSCTXT* pctxt)
+{
+    return pctxt->heap.failed;
+}
+
+int rtxMemHeapOwns(const OSCTXT* pctxt, const void* p, size_t size)
+{
+    return rtx::owns(*pctxt, p, size) ? 1 : 0;
+}
