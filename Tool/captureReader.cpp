@@ -67,6 +67,26 @@ Capture openCapture(Source& source, std::string& error)
     return capture;
 }
 
+// The precision asked for has nanoseconds in the field of microseconds. A file may hold any 32 bits there, which
+// libpcap reads as signed.
+Packet packetOf(std::uint64_t number, pcap_t* capture, const pcap_pkthdr& header, const unsigned char* octets)
+{
+    constexpr std::int64_t second = 1'000'000'000;
+    std::int64_t seconds = header.ts.tv_sec + header.ts.tv_usec / second;
+    std::int64_t nanoseconds = header.ts.tv_usec % second;
+    if (nanoseconds < 0)
+    {
+        nanoseconds += second;
+        --seconds;
+    }
+    return {number,
+            seconds,
+            static_cast<std::uint32_t>(nanoseconds),
+            pcap_datalink(capture),
+            header.len,
+            {octets, header.caplen}};
+}
+
 bool beginsWith(std::span<const std::uint8_t> octets, std::array<std::uint8_t, 4> magic)
 {
     return octets.size() >= magic.size() && std::equal(magic.begin(), magic.end(), octets.begin());
@@ -82,10 +102,14 @@ bool beginsWithEither(std::span<const std::uint8_t> octets, std::array<std::uint
 
 bool isCapture(std::span<const std::uint8_t> begin)
 {
-    const bool section = beginsWith(begin, {0x0A, 0x0D, 0x0D, 0x0A}) && begin.size() >= 12 &&
-                         beginsWithEither(begin.subspan(8), {0x1A, 0x2B, 0x3C, 0x4D});
-    return section || beginsWithEither(begin, {0xA1, 0xB2, 0xC3, 0xD4}) ||
-           beginsWithEither(begin, {0xA1, 0xB2, 0x3C, 0x4D});
+    if (beginsWith(begin, {0x0A, 0x0D, 0x0D, 0x0A}))
+    {
+        return begin.size() >= 12 && beginsWithEither(begin.subspan(8), {0x1A, 0x2B, 0x3C, 0x4D});
+    }
+    // Microseconds, nanoseconds, and two old forms that libpcap reads, too.
+    constexpr std::array<std::array<std::uint8_t, 4>, 4> magics{
+        {{0xA1, 0xB2, 0xC3, 0xD4}, {0xA1, 0xB2, 0x3C, 0x4D}, {0xA1, 0xB2, 0xCD, 0x34}, {0xA1, 0x2B, 0x3C, 0x4D}}};
+    return std::any_of(magics.begin(), magics.end(), [&](auto magic) { return beginsWithEither(begin, magic); });
 }
 
 std::optional<std::string> readCapture(std::span<const std::uint8_t> begin, std::FILE* rest,
@@ -111,15 +135,7 @@ std::optional<std::string> readCapture(std::span<const std::uint8_t> begin, std:
         {
             return "packet " + std::to_string(number) + ": " + pcap_geterr(capture.get());
         }
-        // The precision asked for has nanoseconds in the field of microseconds; a file may hold a second of them and
-        // more.
-        constexpr auto second = 1'000'000'000;
-        visitor({number,
-                 header->ts.tv_sec + header->ts.tv_usec / second,
-                 static_cast<std::uint32_t>(header->ts.tv_usec % second),
-                 pcap_datalink(capture.get()),
-                 header->len,
-                 {octets, header->caplen}});
+        visitor(packetOf(number, capture.get(), *header, octets));
     }
 }
 

@@ -23,18 +23,18 @@ struct Packet
 
 using PacketVisitor = std::function<void(const Packet&)>;
 
-// Whether a file that begins with these octets is a capture: pcap of either byte order, with microseconds or
-// nanoseconds, or pcapng. Twelve octets are enough to know.
+// Whether a file that begins with these octets is a capture: pcap or pcapng of either byte order. Twelve octets are
+// enough to know.
 bool isCapture(std::span<const std::uint8_t> begin);
 
 // Gives the visitor every packet of the capture that consists of `begin` and of what can still be read from `rest`,
 // null for no more. `rest` stays open. What the visitor throws is passed on.
 //
 // Nothing, or why reading ended early, with the number of the packet that could not be read; all packets before it have
-// been given. Beside what the format demands, libpcap refuses
-// - a packet of more than 262,144 octets (8 MiB of EBHSCR, 128 MiB of D-Bus and USBPcap), a block of more than 16 MiB
-//   (of these link types: of their packet's size and 128 KiB for its options), and so memory stays below these bounds;
-// - interfaces of different link types or snapshot lengths, and sections of different byte orders, in one pcapng file.
+// been given. Beside what the format forbids, libpcap refuses
+// - a packet of more than 262,144 octets (USBPcap 1 MiB, EBHSCR 8 MiB, D-Bus 128 MiB) and a pcapng block of more than
+//   16 MiB (D-Bus 129 MiB): memory never exceeds what such a packet or block takes;
+// - interfaces of different link types or snapshot lengths and sections of different byte orders in one pcapng file.
 std::optional<std::string> readCapture(std::span<const std::uint8_t> begin, std::FILE* rest,
                                        const PacketVisitor& visitor);
 

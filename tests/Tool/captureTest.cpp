@@ -310,12 +310,16 @@ TEST(CaptureReader, WhatTheWriterWrites)
     EXPECT_EQ(readAll(writer.file()), expected);
 }
 
-// A second's fraction of more than a second is carried.
+// A fraction of more than a second is carried, also a negative one: libpcap reads 32 bits as signed.
 TEST(CaptureReader, TimesBeyondTheSecond)
 {
-    const Octets file =
-        File(false).header(microseconds, 65535, 1).record(10, 1000000, 0, {}).record(10, 0x7FFFFFFF, 0, {}).octets;
-    EXPECT_EQ(readAll(file), (Read{{"1 11.000000000 1 0: ", "2 2157.483647000 1 0: "}, ""}));
+    const Octets file = File(false)
+                            .header(microseconds, 65535, 1)
+                            .record(10, 1000000, 0, {})
+                            .record(10, 0x7FFFFFFF, 0, {})
+                            .record(10, 0xFFFFFFFF, 0, {})
+                            .octets;
+    EXPECT_EQ(readAll(file), (Read{{"1 11.000000000 1 0: ", "2 2157.483647000 1 0: ", "3 9.999999000 1 0: "}, ""}));
 }
 
 using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
@@ -490,6 +494,8 @@ TEST(IsCapture, ByTheMagic)
     {
         EXPECT_TRUE(tool::isCapture(File(bigEndian).put(microseconds, 4).octets));
         EXPECT_TRUE(tool::isCapture(File(bigEndian).put(nanoseconds, 4).octets));
+        EXPECT_TRUE(tool::isCapture(File(bigEndian).put(0xA1B2CD34, 4).octets));
+        EXPECT_TRUE(tool::isCapture(File(bigEndian).put(0xA12B3C4D, 4).octets));
         EXPECT_TRUE(tool::isCapture(File(bigEndian).section().octets));
     }
     EXPECT_TRUE(tool::isCapture(pcap(false, microseconds)));
