@@ -1,6 +1,7 @@
 // Packets of a capture file, read with libpcap.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <functional>

@@ -3,8 +3,10 @@
 
 #include "rrcNesting.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,5 +1,7 @@
 #include "rrcNesting.h"
 
+#include <utility>
+
 namespace tool
 {
 namespace
