@@ -1,20 +1,25 @@
-// Of each example: the whole entry from record to octets, its encoder and the decoder alone, beside the floor: the same
-// message's fields put through a 64-bit accumulator.
+// Of messages of 30 to 8,000 octets: the whole entry from record to octets, the encoder and the decoder alone, beside
+// the floor (floor.h); of the typical call also what other code does to them between two calls. README.md says what
+// each benchmark measures.
 #include <benchmark/benchmark.h>
 
-#include <malloc.h>
-
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "NR-RRC-Definitions.h"
 #include "NR-RRC-Tables.h"
-#include "fields.h"
+#include "disturb.h"
+#include "floor.h"
+#include "grown.h"
+#include "heap.h"
 #include "oneBearer.h"
 #include "releases.h"
 #include "secondaryCells.h"
@@ -25,21 +30,19 @@ namespace
 
 constexpr std::size_t capacity = 8192;
 
-using Fill = void (*)(RrcCellGroupCfg_t&);
-
-// What the program has asked of the system's heap.
-struct Heap
-{
-    std::size_t calls = 0;
-    std::size_t used = 0;
-    std::size_t peak = 0;
-};
-Heap heap;
+using Fill = std::function<void(RrcCellGroupCfg_t&)>;
 
 [[noreturn]] void fail(const char* what)
 {
     std::fprintf(stderr, "cellGroupBench: %s\n", what);
     std::abort();
+}
+
+std::unique_ptr<RrcCellGroupCfg_t> filled(const Fill& fill)
+{
+    auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    fill(*record);
+    return record;
 }
 
 std::size_t compose(RrcCellGroupCfg_t& record, OSOCTET* buffer)
@@ -52,87 +55,69 @@ std::size_t compose(RrcCellGroupCfg_t& record, OSOCTET* buffer)
     return out.bufLen;
 }
 
-// An example's message as a record, as octets, as a tree and as fields.
+// Fills the record with an example and lets it grow until its message has so many octets.
+Fill grownFrom(void (*example)(RrcCellGroupCfg_t&), std::size_t octets)
+{
+    return [example, octets](RrcCellGroupCfg_t& record)
+    {
+        example(record);
+        std::vector<OSOCTET> buffer(capacity);
+        while (compose(record, buffer.data()) < octets)
+        {
+            if (!bench::grow(record))
+            {
+                fail("the message cannot grow");
+            }
+        }
+    };
+}
+
+// A message as a record, as octets, as a tree and as fields, and what is measured of it.
 class Message
 {
 public:
-    explicit Message(Fill fill) : record(std::make_unique_for_overwrite<RrcCellGroupCfg_t>()), octets(capacity)
+    explicit Message(const Fill& fill) : record_(filled(fill)), octets_(capacity), buffer_(capacity)
     {
-        fill(*record);
-        octets.resize(compose(*record, octets.data()));
-        rtxInitContext(&context);
-        pu_setBuffer(&context, octets.data(), octets.size(), 0);
-        if (asn1PD_CellGroupConfig(&context, &tree) != 0)
+        octets_.resize(compose(*record_, octets_.data()));
+        rtxInitContext(&context_);
+        pu_setBuffer(&context_, octets_.data(), octets_.size(), 0);
+        if (asn1PD_CellGroupConfig(&context_, &tree_) != 0)
         {
             fail("the message cannot be decoded");
         }
-        fields = bench::Fields::of(nr_rrc::type_CellGroupConfig, &tree);
-
-        std::vector<uint8_t> again(capacity);
-        if (bench::putAll(fields.data(), fields.size(), again.data()) != octets.size() ||
-            std::memcmp(again.data(), octets.data(), octets.size()) != 0)
+        fields_ = bench::Fields::of(nr_rrc::type_CellGroupConfig, &tree_);
+        put_ = bench::fastestPut(fields_);
+        if (putAll() != octets_.size() || std::memcmp(buffer_.data(), octets_.data(), octets_.size()) != 0)
         {
             fail("the floor writes another message");
         }
     }
 
-    std::unique_ptr<RrcCellGroupCfg_t> record;
-    std::vector<OSOCTET> octets;
-    OSCTXT context;
-    CellGroupConfig tree;
-    std::vector<bench::Field> fields;
-};
-
-void runFloor(benchmark::State& state, const Message& m)
-{
-    std::vector<uint8_t> buffer(capacity);
-    for (auto _ : state)
+    std::size_t putAll()
     {
-        benchmark::DoNotOptimize(bench::putAll(m.fields.data(), m.fields.size(), buffer.data()));
-        benchmark::ClobberMemory();
+        return put_(fields_.data(), fields_.size(), buffer_.data());
     }
-    state.counters["octets"] = static_cast<double>(m.octets.size());
-    state.counters["fields"] = static_cast<double>(m.fields.size());
-}
 
-void runEncode(benchmark::State& state, Message& m)
-{
-    std::vector<OSOCTET> buffer(capacity);
-    for (auto _ : state)
+    void encode()
     {
-        pu_setBuffer(&m.context, buffer.data(), buffer.size(), 0);
-        if (asn1PE_CellGroupConfig(&m.context, &m.tree) != 0)
+        pu_setBuffer(&context_, buffer_.data(), buffer_.size(), 0);
+        if (asn1PE_CellGroupConfig(&context_, &tree_) != 0)
         {
             fail("encode");
         }
-        benchmark::DoNotOptimize(buffer.data());
-        benchmark::ClobberMemory();
     }
-}
 
-void runEntry(benchmark::State& state, RrcCellGroupCfg_t& record)
-{
-    std::vector<OSOCTET> buffer(capacity);
-    for (auto _ : state)
+    void entry()
     {
-        benchmark::DoNotOptimize(compose(record, buffer.data()));
-        benchmark::ClobberMemory();
+        compose(*record_, buffer_.data());
     }
-    const Heap before = heap;
-    heap.peak = heap.used;
-    compose(record, buffer.data());
-    state.counters["mallocs"] = static_cast<double>(heap.calls - before.calls);
-    state.counters["heap"] = static_cast<double>(heap.peak - before.used);
-}
 
-void runDecode(benchmark::State& state, Message& m)
-{
-    for (auto _ : state)
+    void decode()
     {
         OSCTXT context;
         CellGroupConfig tree;
         rtxInitContext(&context);
-        pu_setBuffer(&context, m.octets.data(), m.octets.size(), 0);
+        pu_setBuffer(&context, octets_.data(), octets_.size(), 0);
         if (asn1PD_CellGroupConfig(&context, &tree) != 0)
         {
             fail("decode");
@@ -140,25 +125,160 @@ void runDecode(benchmark::State& state, Message& m)
         benchmark::DoNotOptimize(tree);
         rtFreeContext(&context);
     }
+
+    double octets() const
+    {
+        return static_cast<double>(octets_.size());
+    }
+
+    double fields() const
+    {
+        return static_cast<double>(fields_.size());
+    }
+
+private:
+    std::unique_ptr<RrcCellGroupCfg_t> record_;
+    std::vector<OSOCTET> octets_;
+    std::vector<OSOCTET> buffer_; // what is written
+    OSCTXT context_;
+    CellGroupConfig tree_;
+    std::vector<bench::Field> fields_;
+    bench::Put put_;
+};
+
+// One call after the other. With them, what one asks of malloc.
+template <typename Call>
+void runWarm(benchmark::State& state, Call call)
+{
+    for (auto _ : state)
+    {
+        call();
+        benchmark::ClobberMemory();
+    }
+    using bench::heap;
+    const bench::Heap before = heap;
+    heap.peak = heap.used;
+    call();
+    state.counters["mallocs"] = static_cast<double>(heap.calls - before.calls);
+    state.counters["heap"] = static_cast<double>(heap.peak - before.used);
 }
 
-// One bearer again, in a record that holds three secondary cells with all their parts and has them switched off.
-RrcCellGroupCfg_t& oneBearerOfMany()
+// Each call after `disturb`, which is not measured: the median of a few calls.
+template <typename Disturb, typename Call>
+void runDisturbed(benchmark::State& state, Disturb& disturb, Call call, double parts = 1)
 {
-    static const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
-    secondaryCells(*record);
-    record->sCellAddModNum = 0;
-    record->bitMask &= static_cast<UINT8>(~RRC_CELLGROUPCFG_SPCELL_PRESENCE);
-    return *record;
+    std::array<double, 5> times;
+    for (auto _ : state)
+    {
+        for (double& time : times)
+        {
+            disturb();
+            time = bench::timeOf(call);
+        }
+        std::sort(times.begin(), times.end());
+        state.SetIterationTime(times[times.size() / 2] / parts);
+    }
 }
 
 // The least of the repetitions is what other load on the machine disturbs the least.
 template <typename Run>
-void add(const std::string& name, Run run)
+benchmark::internal::Benchmark* add(const std::string& name, Run run)
 {
-    benchmark::RegisterBenchmark(name.c_str(), run)
+    return benchmark::RegisterBenchmark(name.c_str(), run)
         ->ComputeStatistics("min", [](const std::vector<double>& times)
                             { return *std::min_element(times.begin(), times.end()); });
+}
+
+template <typename Run>
+void addDisturbed(const std::string& name, int iterations, Run run)
+{
+    add(name, run)->Iterations(iterations)->UseManualTime();
+}
+
+template <typename Call>
+void addCold(const std::string& name, const bench::Walk& walk, Call call)
+{
+    addDisturbed(name, 1, [&walk, call](auto& state) { runDisturbed(state, walk, call); });
+}
+
+void addMessage(const std::string& name, Message& m, const bench::Walk& walk)
+{
+    add(name + "/floor",
+        [&m](auto& state)
+        {
+            runWarm(state, [&m] { benchmark::DoNotOptimize(m.putAll()); });
+            state.counters["octets"] = m.octets();
+            state.counters["fields"] = m.fields();
+        });
+    add(name + "/encode", [&m](auto& state) { runWarm(state, [&m] { m.encode(); }); });
+    add(name + "/entry", [&m](auto& state) { runWarm(state, [&m] { m.entry(); }); });
+    add(name + "/decode", [&m](auto& state) { runWarm(state, [&m] { m.decode(); }); });
+    addCold(name + "/encode_cold", walk, [&m] { m.encode(); });
+    addCold(name + "/entry_cold", walk, [&m] { m.entry(); });
+    addCold(name + "/decode_cold", walk, [&m] { m.decode(); });
+}
+
+// What a line costs: the next one of a walk, and one that a walk has driven out.
+void addLine(const std::string& name, const bench::Walk& walk)
+{
+    static const bench::Chain chain;
+    addDisturbed(name + "/walked", 1,
+                 [&walk](auto& state)
+                 {
+                     const auto nothing = [] {
+                     };
+                     runDisturbed(
+                         state, nothing, [&walk] { walk(); }, static_cast<double>(walk.lines()));
+                 });
+    addDisturbed(name + "/driven_out", 1,
+                 [&walk](auto& state)
+                 {
+                     const auto disturb = [&walk]
+                     {
+                         chain();
+                         walk();
+                     };
+                     runDisturbed(
+                         state, disturb, [] { chain(); }, bench::Chain::lines);
+                 });
+}
+
+void addTypicalCall(Message& m)
+{
+    static const bench::Walk walk(std::size_t{6} << 20);
+    static bench::ForeignHeap foreign;
+    addCold("typical_call/entry_after_6MB", walk, [&m] { m.entry(); });
+    addCold("typical_call/decode_after_6MB", walk, [&m] { m.decode(); });
+    addLine("line_6MB", walk);
+    addDisturbed("typical_call/entry_after_nothing", 20,
+                 [&m](auto& state)
+                 {
+                     const auto nothing = [] {
+                     };
+                     runDisturbed(state, nothing, [&m] { m.entry(); });
+                 });
+    addDisturbed("typical_call/entry_after_malloc", 20,
+                 [&m](auto& state) { runDisturbed(state, foreign, [&m] { m.entry(); }); });
+    for (const int threads : {1, 2})
+    {
+        add("typical_call/entry_on_" + std::to_string(threads),
+            [](auto& state)
+            {
+                const auto record = filled(typicalCall);
+                std::vector<OSOCTET> buffer(capacity);
+                runWarm(state, [&] { compose(*record, buffer.data()); });
+            })
+            ->Threads(threads)
+            ->UseRealTime();
+    }
+}
+
+// One bearer again, in a record that holds three secondary cells with all their parts and has them switched off.
+void oneBearerOfMany(RrcCellGroupCfg_t& record)
+{
+    secondaryCells(record);
+    record.sCellAddModNum = 0;
+    record.bitMask &= static_cast<UINT8>(~RRC_CELLGROUPCFG_SPCELL_PRESENCE);
 }
 
 [[maybe_unused]] const bool registered = []
@@ -169,43 +289,26 @@ void add(const std::string& name, Run run)
         Fill fill;
     } examples[] = {
         {"one_bearer", oneBearer},
+        {"grown_100", grownFrom(oneBearer, 100)},
+        {"releases", releases},
         {"typical_call", typicalCall},
         {"secondary_cells", secondaryCells},
-        {"releases", releases},
+        {"grown_2500", grownFrom(secondaryCells, 2500)},
+        {"grown_5000", grownFrom(secondaryCells, 5000)},
+        {"grown_8000", grownFrom(secondaryCells, 8000)},
     };
-    static std::vector<std::unique_ptr<Message>> messages;
+    benchmark::AddCustomContext("compiler", "g++ " __VERSION__);
+    static const bench::Walk walk(std::size_t{64} << 20);
+    static std::map<std::string, Message> messages;
     for (const auto& example : examples)
     {
-        messages.push_back(std::make_unique<Message>(example.fill));
-        Message& m = *messages.back();
-        const std::string name = example.name;
-        add(name + "/floor", [&m](auto& state) { runFloor(state, m); });
-        add(name + "/encode", [&m](auto& state) { runEncode(state, m); });
-        add(name + "/entry", [&m](auto& state) { runEntry(state, *m.record); });
-        add(name + "/decode", [&m](auto& state) { runDecode(state, m); });
+        addMessage(example.name, messages.emplace(example.name, example.fill).first->second, walk);
     }
-    add("one_bearer/entry_of_many_switched_off", [](auto& state) { runEntry(state, oneBearerOfMany()); });
+    addLine("line", walk);
+    addTypicalCall(messages.at("typical_call"));
+    static Message switchedOff(oneBearerOfMany);
+    add("one_bearer/entry_of_many_switched_off", [](auto& state) { runWarm(state, [] { switchedOff.entry(); }); });
     return true;
 }();
 
 } // namespace
-
-extern "C" void* __real_malloc(size_t size);
-extern "C" void __real_free(void* p);
-extern "C" void* __wrap_malloc(size_t size);
-extern "C" void __wrap_free(void* p);
-
-extern "C" void* __wrap_malloc(size_t size)
-{
-    void* const p = __real_malloc(size);
-    ++heap.calls;
-    heap.used += malloc_usable_size(p);
-    heap.peak = std::max(heap.peak, heap.used);
-    return p;
-}
-
-extern "C" void __wrap_free(void* p)
-{
-    heap.used -= malloc_usable_size(p);
-    __real_free(p);
-}

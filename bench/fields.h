@@ -219,38 +219,6 @@ private:
     std::vector<Field> out_;
 };
 
-// The floor: a 64-bit accumulator over a flat buffer, nothing checked. Returns the octets written.
-inline std::size_t putAll(const Field* fields, std::size_t count, uint8_t* buffer)
-{
-    uint64_t word = 0;
-    unsigned used = 0;
-    uint8_t* p = buffer;
-    for (std::size_t i = 0; i < count; ++i)
-    {
-        const uint64_t value = fields[i].value;
-        const unsigned width = fields[i].width;
-        if (used + width < 64)
-        {
-            word = word << width | value;
-            used += width;
-            continue;
-        }
-        const unsigned rest = used + width - 64;
-        const uint64_t full = __builtin_bswap64(word << (width - rest) | value >> rest);
-        std::memcpy(p, &full, sizeof full);
-        p += sizeof full;
-        word = value;
-        used = rest;
-    }
-    if (used != 0)
-    {
-        const uint64_t last = __builtin_bswap64(word << (64 - used));
-        std::memcpy(p, &last, (used + 7) / 8);
-        p += (used + 7) / 8;
-    }
-    return static_cast<std::size_t>(p - buffer);
-}
-
 } // namespace bench
 
 #endif

@@ -1,10 +1,11 @@
-"""check_tshark.py <oracle folder> messages FOLDER [EXAMPLE ...] | random COUNT: Wireshark shows of each CellGroupConfig the
-values that its test meant; of an example's message those of <example>.json here or else, as of random ones, those that the
-oracle reads."""
+"""check_tshark.py <oracle folder> messages FOLDER [EXAMPLE ...] | random COUNT | captures WRITER COUNT [EXAMPLE ...]:
+Wireshark shows of each CellGroupConfig the values that its test meant; of an example's message those of <example>.json here
+or else, as of random ones, those that the oracle reads. WRITER makes captures of the messages, bare and in RRC messages."""
 
 import json
 import pathlib
 import re
+import subprocess
 import sys
 
 import oracle_run
@@ -44,8 +45,61 @@ def examples(oracle, programs):
     return found
 
 
+def random(oracle, count):
+    lines = oracle.sample("CellGroupConfig", count, oracle_run.seed())
+    return with_values(oracle, [(f"value {number}", line.split()[1]) for number, line in enumerate(lines, 1)])
+
+
+def in_reconfiguration(octets, value):
+    cell_group = tshark_tree.Containing(octets, "CellGroupConfig", value)
+    members = {"secondaryCellGroup": cell_group} if value["cellGroupId"] else \
+        {"nonCriticalExtension": {"masterCellGroup": cell_group}}
+    return {"message": {"c1": {"rrcReconfiguration": {
+        "rrc-TransactionIdentifier": 0, "criticalExtensions": {"rrcReconfiguration": members}}}}}
+
+
+def in_setup(octets, value):
+    return {"message": {"c1": {"rrcSetup": {"rrc-TransactionIdentifier": 0, "criticalExtensions": {"rrcSetup": {
+        "radioBearerConfig": {"srb-ToAddModList": [{"srb-Identity": 1}]},
+        "masterCellGroup": tshark_tree.Containing(octets, "CellGroupConfig", value)}}}}}}
+
+
+# What the writer calls it, the type at its top, and what is meant by a cell group's octets and value in it.
+NESTINGS = (("bare", "CellGroupConfig", lambda octets, value: value),
+            ("rrc-reconfiguration", "DL-DCCH-Message", in_reconfiguration),
+            ("rrc-setup", "DL-CCCH-Message", in_setup))
+
+
+def check_captures(writer, messages):
+    """The failures of a writer: all that it makes of each message is shown as meant, with all of its octets."""
+    packets = [(nesting, message) for message in messages for nesting in NESTINGS]
+    lines = [f"{name} {octets} {name} {number}\n"
+             for number, ((name, _, _), (_, octets, _)) in enumerate(packets, 1)]
+    capture = subprocess.run([writer, "write"], input="".join(lines).encode("ascii"), stdout=subprocess.PIPE,
+                             check=True).stdout
+    shown = tshark_tree.trees(capture)
+    fields = tshark_tree.fields(capture, ("frame.comment", "nr-rrc.masterCellGroup", "nr-rrc.secondaryCellGroup"))
+    if len(shown) != len(packets) or len(fields) != len(packets):
+        sys.exit(f"tshark shows {len(shown)} frames and fields of {len(fields)}, of {len(packets)} packets")
+
+    failures = []
+    for number, (((name, top, meaning), (message, octets, value)), nodes, (comment, master, secondary)) \
+            in enumerate(zip(packets, shown, fields), 1):
+        found = tshark_tree.message_differences(meaning(octets, value), nodes, top)
+        if comment != f"{name} {number}":
+            found.append(f"comment '{comment}'")
+        if master + secondary != ("" if name == "bare" else octets):
+            found.append(f"octets shown: {master} {secondary}")
+        if found:
+            failures.append("\n  ".join([f"{message} {name}: {octets}"] + found))
+    return failures
+
+
 def main():
     oracle = oracle_run.Oracle(sys.argv[1])
+    if sys.argv[2] == "captures":
+        messages = examples(oracle, sys.argv[5:]) + random(oracle, sys.argv[4])
+        oracle_run.conclude(check_captures(sys.argv[3], messages), f"{len(messages)} cell groups in captures")
     if sys.argv[2] == "messages":
         messages = [(message.test, message.hex, message.meant) for message in oracle_run.messages(sys.argv[3])
                     if message.type == "CellGroupConfig"]
@@ -53,8 +107,7 @@ def main():
             sys.exit("no test has left a CellGroupConfig")
         messages += examples(oracle, sys.argv[4:])
     else:
-        lines = oracle.sample("CellGroupConfig", sys.argv[3], oracle_run.seed())
-        messages = with_values(oracle, [(f"value {number}", line.split()[1]) for number, line in enumerate(lines, 1)])
+        messages = random(oracle, sys.argv[3])
 
     shown = tshark_tree.dissect([octets for _, octets, _ in messages])
     if len(shown) != len(messages):

@@ -16,6 +16,15 @@ RENAMED = {
 }
 
 
+class Containing:
+    """What was meant by an OCTET STRING: the octets, in hex, of a value of this type."""
+
+    def __init__(self, octets, type_name, value):
+        self.octets = octets
+        self.type_name = type_name
+        self.value = value
+
+
 class Node:
     """One line of tshark's tree, 'name: value' or 'name', with the lines below it."""
 
@@ -28,20 +37,18 @@ class Node:
         self.below = []
 
 
-def dissect(messages):
-    """What tshark shows of messages given as hex: per message the nodes below the protocol's name."""
+def run(command, capture=b""):
+    """What a program of Wireshark prints, as of a user who has set nothing."""
     with tempfile.TemporaryDirectory() as folder:
-        dump = os.path.join(folder, "dump")
-        capture = os.path.join(folder, "capture")
-        with open(dump, "w", encoding="ascii") as file:
-            for message in messages:
-                file.write("000000 " + bytes.fromhex(message).hex(" ") + "\n")
-        subprocess.run(["text2pcap", "-q", "-P", DISSECTOR, dump, capture], check=True)
-        lines = subprocess.run(["tshark", "-V", "-r", capture], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                               encoding="utf-8", check=True).stdout.splitlines()
+        return subprocess.run(command, input=capture, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=True,
+                              env={**os.environ, "HOME": folder, "XDG_CONFIG_HOME": folder}).stdout
+
+
+def trees(capture):
+    """What tshark shows of a capture's exported PDUs: per frame the nodes below the protocol's name."""
     shown = []
     path = []
-    for line in lines:
+    for line in run(["tshark", "-V", "-r", "-"], capture).decode("utf-8").splitlines():
         text = line.lstrip(" ")
         if not text:
             continue
@@ -52,10 +59,30 @@ def dissect(messages):
             path[-1].below.append(node)
         elif text.startswith("Frame "):
             shown.append([])
-        elif text != "EXPORTED_PDU":
+        elif text not in ("EXPORTED_PDU", "Packet comments"):
             shown[-1].append(node)
         path.append(node)
     return shown
+
+
+def fields(capture, names):
+    """Per frame the list of these fields' values."""
+    options = [word for name in names for word in ("-e", name)]
+    text = run(["tshark", "-r", "-", "-T", "fields"] + options, capture).decode("utf-8")
+    return [line.split("\t") for line in text.splitlines()]
+
+
+def dissect(messages):
+    """The trees of CellGroupConfig messages given as hex."""
+    with tempfile.TemporaryDirectory() as folder:
+        dump = os.path.join(folder, "dump")
+        capture = os.path.join(folder, "capture")
+        with open(dump, "w", encoding="ascii") as file:
+            for message in messages:
+                file.write("000000 " + bytes.fromhex(message).hex(" ") + "\n")
+        run(["text2pcap", "-q", "-P", DISSECTOR, dump, capture])
+        with open(capture, "rb") as file:
+            return trees(file.read())
 
 
 def plain(name):
@@ -103,6 +130,13 @@ def leaf_agrees(meant, shown):
 def differences(meant, node, path):
     """Lines that say where tshark's tree is not the value that was meant, members in the same order."""
     here = f"{path}.{node.name}" if path else node.name
+    if isinstance(meant, Containing):
+        # Of many octets only the first are shown.
+        if not node.value or not meant.octets.startswith(node.value.rstrip("…")) or \
+                [item.text for item in node.below] != [meant.type_name]:
+            return [f"{here}: {meant.type_name} in {meant.octets} meant, shown '{node.text}' with "
+                    f"{[item.text for item in node.below]}"]
+        return differences(meant.value, node.below[0], here)
     if isinstance(meant, list):
         items = f"{len(meant)} item" + ("" if len(meant) == 1 else "s")
         names = [f"Item {index}" for index in range(len(meant))]
@@ -125,8 +159,8 @@ def differences(meant, node, path):
     return []
 
 
-def message_differences(meant, shown):
+def message_differences(meant, shown, type_name="CellGroupConfig"):
     """The same for all that tshark shows of one message."""
-    if [node.text for node in shown] != [PROTOCOL] or [node.text for node in shown[0].below] != ["CellGroupConfig"]:
-        return [f"shown {[node.text for node in shown]}, not one CellGroupConfig"]
+    if [node.text for node in shown] != [PROTOCOL] or [node.text for node in shown[0].below] != [type_name]:
+        return [f"shown {[node.text for node in shown]}, not one {type_name}"]
     return differences(meant, shown[0].below[0], "")

@@ -12,6 +12,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "records.h"
@@ -24,38 +25,84 @@ namespace
 constexpr std::size_t bufferSize = 8192;
 constexpr UINT32 untouched = 0xA5A5A5A5;
 
-// The beginning of what has been printed: the lines that matter come before the element tree.
-std::string console;
-constexpr std::size_t consoleSize = 4096;
+// What has been printed for one cell group, up to the element tree's title: however many notices come first, the
+// refusal is among it.
+class Console
+{
+public:
+    const std::string& lines() const
+    {
+        return lines_;
+    }
+
+    void clear()
+    {
+        lines_.clear();
+        atTree_ = false;
+    }
+
+    INT32 print(const char* format, va_list args)
+    {
+        va_list again;
+        va_copy(again, args);
+        const int length = std::vsnprintf(nullptr, 0, format, again);
+        va_end(again);
+        if (atTree_ || length < 0)
+        {
+            return length;
+        }
+        const std::size_t before = lines_.size();
+        lines_.resize(before + static_cast<std::size_t>(length) + 1);
+        (void)std::vsnprintf(&lines_[before], static_cast<std::size_t>(length) + 1, format, args);
+        lines_.pop_back();
+        atTree_ = lines_.compare(before, title.size(), title) == 0;
+        if (lines_.size() > endless)
+        {
+            std::fprintf(stderr, "a cell group prints without end, at last\n%s\n", &lines_[before]);
+            std::exit(1);
+        }
+        return length;
+    }
+
+    static constexpr std::string_view title = "CELL GROUP";
+
+private:
+    // Some thousand elements have a notice each, of less than 100 characters.
+    static constexpr std::size_t endless = std::size_t{4} << 20;
+
+    std::string lines_;
+    bool atTree_ = false;
+};
+Console console;
 
 [[noreturn]] void fail(std::uint32_t seed, const char* what)
 {
-    std::fprintf(stderr, "cell group %u: %s\n%s\n", seed, what, console.substr(0, console.find("CELL GROUP")).c_str());
+    std::fprintf(stderr, "cell group %u: %s\n%s\n", seed, what, console.lines().c_str());
     std::exit(1);
 }
 
 // A composer that failed is named, up to the entry. A refusal names path, value and bound before the element tree.
-bool isClear()
+bool isClear(const std::string& lines)
 {
     const std::string refused = "rrcComposeCellGroupCfg Error\r\n";
-    const std::size_t entry = console.find(refused);
+    const std::size_t entry = lines.find(refused);
     if (entry == std::string::npos)
     {
         const std::string end = " Error\r\n";
-        return console.size() > end.size() && console.compare(console.size() - end.size(), end.size(), end) == 0;
+        return lines.size() > end.size() && lines.compare(lines.size() - end.size(), end.size(), end) == 0;
     }
     const std::size_t line = entry + refused.size();
-    const std::size_t end = console.find('\n', line);
-    const std::size_t reason = console.find(": ", line);
-    return console.compare(line, 16, "CellGroupConfig.") == 0 && reason < end &&
-           console.compare(end + 1, 10, "CELL GROUP") == 0;
+    const std::size_t end = lines.find('\n', line);
+    const std::size_t reason = lines.find(": ", line);
+    return lines.compare(line, 16, "CellGroupConfig.") == 0 && reason < end &&
+           lines.compare(end + 1, Console::title.size(), Console::title) == 0;
 }
 
 // Of several alternatives that a mask names, one that is not sent may have a period that no message knows.
-bool isNoticesOnly()
+bool isNoticesOnly(const std::string& lines)
 {
-    return console.find("rror") == std::string::npos && console.find("NULL") == std::string::npos &&
-           console.find("null") == std::string::npos;
+    return lines.find("rror") == std::string::npos && lines.find("NULL") == std::string::npos &&
+           lines.find("null") == std::string::npos;
 }
 
 void print(std::uint32_t seed, const UINT8* octets, UINT32 length, const std::string& meaning)
@@ -68,15 +115,10 @@ void print(std::uint32_t seed, const UINT8* octets, UINT32 length, const std::st
 // Stands in place of the platform's.
 INT32 VOS_Printf(const char* format, ...)
 {
-    char text[1024];
     va_list args;
     va_start(args, format);
-    const int length = std::vsnprintf(text, sizeof text, format, args);
+    const INT32 length = console.print(format, args);
     va_end(args);
-    if (console.size() < consoleSize)
-    {
-        console += text;
-    }
     return length;
 }
 
@@ -120,7 +162,7 @@ int main(int argc, char** argv)
         }
         if (result == VOS_OK)
         {
-            if (message.bufLen == 0 || message.bufLen > bufferSize || !isNoticesOnly())
+            if (message.bufLen == 0 || message.bufLen > bufferSize || !isNoticesOnly(console.lines()))
             {
                 fail(seed, "composed, but with an error line or a length that cannot be");
             }
@@ -133,7 +175,7 @@ int main(int argc, char** argv)
         {
             fail(seed, "not composed");
         }
-        else if (result != VOS_ERROR || message.bufLen != untouched || !isClear())
+        else if (result != VOS_ERROR || message.bufLen != untouched || !isClear(console.lines()))
         {
             fail(seed, "not refused clearly");
         }
