@@ -95,6 +95,9 @@ typedef struct RtxError
     RtxPathStep path[RTX_MAX_DEPTH];
 } RtxError;
 
+// A type of the schema, for the calls that serve them all. Made by the compiler; lives as long as the program.
+typedef struct RtxType RtxType;
+
 struct RtxHeapBlock;
 
 // A context owns a heap and the binding of a PER buffer. Its fields are the runtime's own; initialise it with

@@ -90,8 +90,7 @@ private:
     // Cleared octets of the context's heap; null when it is exhausted.
     OSOCTET* allocate(size_t size)
     {
-        void* const p = rtxMemHeapAlloc(&ctxt_, size);
-        return p == nullptr ? nullptr : static_cast<OSOCTET*>(std::memset(p, 0, size));
+        return static_cast<OSOCTET*>(allocateCleared(ctxt_, size));
     }
 
     [[gnu::cold, gnu::noinline]] Position ends(Position at, uint64_t count)

@@ -22,7 +22,7 @@ enum class Kind : uint8_t
     List        // OSRTDList of element
 };
 
-struct Type;
+using Type = ::RtxType;
 
 // How the decoder stores what a member holds.
 enum class Step : uint8_t
@@ -62,32 +62,36 @@ struct Addition
     uint16_t count;
 };
 
-struct Type
+} // namespace rtx
+
+struct RtxType
 {
     const char* name; // ASN.1 name, or the C name of a type nested in another
-    Kind kind;
+    rtx::Kind kind;
     uint8_t width = 0; // octets of an integer, of an array's count
     bool extensible = false;
     uint32_t size = 0; // octets of storage
     int32_t lower = 0; // of an integer's value, or of a list's count
     int32_t upper = 0;
     const char* const* names = nullptr; // of the members, of the values of an enumeration
-    const Member* members = nullptr; // Sequence, Choice: root members first, then additions in order; Array, List: the
-                                     // element
+    // Sequence, Choice: root members first, then additions in order; Array, List: the element.
+    const rtx::Member* members = nullptr;
     uint16_t memberCount = 0;
     uint16_t rootCount = 0;
-    const Addition* additions = nullptr; // Sequence
+    const rtx::Addition* additions = nullptr; // Sequence
     uint16_t additionCount = 0;
-    uint8_t bits =
-        0; // on the wire: Sequence: root presence flags, Choice: index of a root alternative, Array, List: count
+    uint8_t bits = 0;     // on the wire before the content: presence flags, index of the alternative, count of elements
     uint32_t extElem = 0; // extensible: offset of extElem1, in a choice that of the union
 
     // Of an array's or a list's elements.
-    constexpr const Type& element() const
+    constexpr const RtxType& element() const
     {
         return *members->type;
     }
 };
+
+namespace rtx
+{
 
 constexpr Step stepOf(const Type& type)
 {
