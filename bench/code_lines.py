@@ -1,5 +1,5 @@
-"""code_lines.py <oneCall>: the distinct lines of 64 octets that hold the code of one encode, entry and decode of the typical
-call, as valgrind sees it run. Prints them as JSON."""
+"""code_lines.py <oneCall>: the distinct lines of 64 octets that hold the code of one encode, entry and decode of the
+typical call, as valgrind sees it run. Prints them as JSON."""
 
 import json
 import re
@@ -26,8 +26,8 @@ def lines_of(profile):
 
 def code_lines(program, call):
     with tempfile.NamedTemporaryFile("r") as profile:
-        subprocess.run(["valgrind", "--tool=callgrind", "--dump-instr=yes", "--compress-pos=no", "--compress-strings=no",
-                        "--toggle-collect=measuredCall", f"--callgrind-out-file={profile.name}", program, call],
+        subprocess.run(["valgrind", "--tool=callgrind", "--dump-instr=yes", "--compress-pos=no",
+                        "--compress-strings=no", "--toggle-collect=measuredCall", f"--callgrind-out-file={profile.name}", program, call],
                        check=True, capture_output=True, text=True)
         with open(profile.name, encoding="utf-8") as written:
             return len(lines_of(written))

@@ -107,8 +107,8 @@ typedef struct OSCTXT
     struct
     {
         struct RtxHeapBlock* blocks; // newest first
-        OSOCTET* next;               // free octets of the newest block
-        OSOCTET* end;                // where they, or what the limit allows of them, end
+        OSOCTET* next;               // cleared octets that can be handed out at once
+        OSOCTET* end;                // where they end
         size_t left;                 // octets that the limit allows beyond them
         struct RtxHeapBlock* memory; // the caller's; becomes the first block
         OSBOOL failed;
@@ -143,12 +143,9 @@ size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets);
 // rtFreeContext.
 void rtxMemHeapSetLimit(OSCTXT* pctxt, size_t octets);
 
-// Returns `size` octets, aligned to 16, not cleared, that live until rtFreeContext; null when memory or the limit is
+// Returns `size` octets, aligned to 16 and cleared, that live until rtFreeContext; null when memory or the limit is
 // exhausted.
 void* rtxMemHeapAlloc(OSCTXT* pctxt, size_t size);
-
-// The same, cleared.
-void* rtxMemHeapAllocZ(OSCTXT* pctxt, size_t size);
 
 // Nonzero when the heap has refused a request since rtxInitContext or rtFreeContext: what was built from it may be
 // incomplete.

@@ -47,12 +47,6 @@ void rtFreeContext(OSCTXT* pctxt)
     rtx::freeHeap(*pctxt);
 }
 
-// Not beside rtxMemHeapAlloc, so that a test that replaces that function when it links replaces it here, too.
-void* rtxMemHeapAllocZ(OSCTXT* pctxt, size_t size)
-{
-    return rtx::allocateCleared(*pctxt, size);
-}
-
 void rtxDListAppendNode(OSRTDList* pList, OSRTDListNode* pNode)
 {
     pNode->next = nullptr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 namespace
 {
@@ -10,22 +11,18 @@ using rtx::granule;
 
 constexpr size_t firstBlock = 64 * 1024; // holds the composition of all but the largest messages
 
+constexpr size_t step = 1024; // what is cleared in one go: cheaper than request by request
+
 OSOCTET* payload(RtxHeapBlock* block)
 {
     return reinterpret_cast<OSOCTET*>(block + 1);
 }
 
-// Lets the newest block hand out `left` octets, or what it has, and keeps the rest for blocks to come.
-void allow(OSCTXT& ctxt, size_t left)
+// Octets of the newest block that have not been handed out.
+size_t rest(const OSCTXT& ctxt)
 {
-    auto& heap = ctxt.heap;
-    size_t room = 0;
-    if (heap.blocks != nullptr)
-    {
-        room = std::min(left, static_cast<size_t>(payload(heap.blocks) + heap.blocks->size - heap.next));
-    }
-    heap.end = heap.next + room;
-    heap.left = left - room;
+    RtxHeapBlock* const block = ctxt.heap.blocks;
+    return block == nullptr ? 0 : static_cast<size_t>(payload(block) + block->size - ctxt.heap.next);
 }
 
 void makeNewest(OSCTXT& ctxt, RtxHeapBlock* block)
@@ -61,21 +58,28 @@ bool addBlock(OSCTXT& ctxt, size_t octets, size_t left)
     return true;
 }
 
-// Sees to it that the newest block hands out `octets` octets. Out of line, as most requests need none of it.
-[[gnu::noinline, gnu::cold]] bool makeRoom(OSCTXT& ctxt, size_t octets)
+// Sees to it that `octets` cleared octets can be handed out at once. Out of line, as most requests need none of it.
+[[gnu::noinline]] bool makeRoom(OSCTXT& ctxt, size_t octets)
 {
     auto& heap = ctxt.heap;
     const size_t left = heap.left + rtx::room(ctxt);
-    if (octets <= left && heap.blocks == nullptr && heap.memory != nullptr)
+    if (octets > left)
+    {
+        return false;
+    }
+    if (heap.blocks == nullptr && heap.memory != nullptr)
     {
         makeNewest(ctxt, heap.memory);
     }
-    allow(ctxt, left);
-    if (octets <= left && octets > rtx::room(ctxt) && addBlock(ctxt, octets, left))
+    if (octets > rest(ctxt) && !addBlock(ctxt, octets, left))
     {
-        allow(ctxt, left);
+        return false;
     }
-    return octets <= rtx::room(ctxt);
+    const size_t room = std::min({std::max(octets, step), rest(ctxt), left});
+    std::memset(heap.end, 0, room - rtx::room(ctxt));
+    heap.end = heap.next + room;
+    heap.left = left - room;
+    return true;
 }
 
 } // namespace
@@ -116,7 +120,10 @@ size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets)
 
 void rtxMemHeapSetLimit(OSCTXT* pctxt, size_t octets)
 {
-    allow(*pctxt, octets / granule * granule);
+    octets = octets / granule * granule;
+    const size_t room = std::min(octets, rtx::room(*pctxt));
+    pctxt->heap.end = pctxt->heap.next + room;
+    pctxt->heap.left = octets - room;
 }
 
 void* rtxMemHeapAlloc(OSCTXT* pctxt, size_t size)

@@ -4,8 +4,6 @@
 
 #include "asn1Runtime.h"
 
-#include <cstring>
-
 // Head of a block; its payload follows it.
 struct alignas(16) RtxHeapBlock
 {
@@ -22,7 +20,7 @@ constexpr size_t granule = 16; // requests are aligned to it and rounded up to i
 void initHeap(OSCTXT& ctxt, RtxHeapBlock* memory);
 void freeHeap(OSCTXT& ctxt);
 
-// Octets that the newest block still hands out: a multiple of the granule.
+// Octets that requests can have at once: a multiple of the granule.
 inline size_t room(const OSCTXT& ctxt)
 {
     return static_cast<size_t>(ctxt.heap.end - ctxt.heap.next);
@@ -40,20 +38,10 @@ inline void* take(OSCTXT& ctxt, size_t octets)
     return p;
 }
 
-// rtxMemHeapAlloc, inline where the newest block has room: that is nearly always.
+// rtxMemHeapAlloc, inline where there is room: that is nearly always.
 inline void* allocate(OSCTXT& ctxt, size_t size)
 {
     return size - 1 < room(ctxt) ? take(ctxt, rounded(size)) : rtxMemHeapAlloc(&ctxt, size);
-}
-
-inline void* allocateCleared(OSCTXT& ctxt, size_t size)
-{
-    void* const p = allocate(ctxt, size);
-    if (p != nullptr)
-    {
-        std::memset(p, 0, size);
-    }
-    return p;
 }
 
 // Whether all `size` octets at `p` were handed out by the context's heap.

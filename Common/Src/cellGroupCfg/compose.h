@@ -85,7 +85,7 @@ void assign(Member& member, Value value)
 template <typename Element>
 Element* allocate(OSCTXT* pAsnCxt)
 {
-    return static_cast<Element*>(rtxMemHeapAllocZ(pAsnCxt, sizeof(Element)));
+    return static_cast<Element*>(rtxMemHeapAlloc(pAsnCxt, sizeof(Element)));
 }
 
 // Chooses an alternative that is held by pointer, with the element given. Without one the choice is left without an

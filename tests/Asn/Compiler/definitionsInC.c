@@ -11,7 +11,7 @@ int main(void)
     OSOCTET memory[256];
     int failed = rtxInitContext(&context);
     rtxMemHeapSetLimit(&context, rtxMemHeapSetMemory(&context, memory, sizeof memory));
-    failed |= rtxMemHeapAllocZ(&context, 128) == NULL || rtxMemHeapFailed(&context);
+    failed |= rtxMemHeapAlloc(&context, 128) == NULL || rtxMemHeapFailed(&context);
     asn1Init_CellGroupConfig(&group);
     group.cellGroupId = maxSecondaryCellGroups;
     failed |= pu_setBuffer(&context, octets, sizeof octets, 0);
