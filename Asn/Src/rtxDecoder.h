@@ -90,7 +90,7 @@ private:
     // Cleared octets of the context's heap; null when it is exhausted.
     OSOCTET* allocate(size_t size)
     {
-        return static_cast<OSOCTET*>(allocateCleared(ctxt_, size));
+        return static_cast<OSOCTET*>(rtx::allocate(ctxt_, size));
     }
 
     [[gnu::cold, gnu::noinline]] Position ends(Position at, uint64_t count)
