@@ -59,6 +59,16 @@ Bits Encoder::startWord(Bits b, uint64_t v, unsigned n) const
     return {v, b.pos + (Bits::full - 64)};
 }
 
+bool Encoder::reachableElsewhere(const void* p, size_t octets)
+{
+    const Owned owned = owner(ctxt_, p, octets);
+    if (owned.size != 0)
+    {
+        owned_ = owned;
+    }
+    return owned.size != 0;
+}
+
 // X.691 11.6
 Bits Encoder::smallNumber(Bits b, uint64_t value) const
 {
@@ -131,7 +141,7 @@ Bits Encoder::unknownAdditions(Bits b, const OSRTDList& unknown)
         {
             continue;
         }
-        if (addition->numocts == 0 || !owns(ctxt_, addition->data, addition->numocts))
+        if (addition->numocts == 0 || !reachable(addition->data, addition->numocts))
         {
             return unknownAddition(addition->numocts == 0 ? RTX_E_EXTENSION : RTX_E_FOREIGN, i);
         }
@@ -153,7 +163,7 @@ Bits Encoder::unknownAlternative(Bits b, uint32_t tag, uint32_t alternatives, ui
                                  const ASN1OpenType* unknown)
 {
     if (tag <= alternatives || !reachable(unknown) || unknown->numocts == 0 ||
-        !owns(ctxt_, unknown->data, unknown->numocts))
+        !reachable(unknown->data, unknown->numocts))
     {
         return choice(tag, alternatives);
     }

@@ -48,13 +48,9 @@ public:
         : ctxt_(ctxt),
           data_(ctxt.buffer.data),
           capacity_(std::min<uint64_t>(ctxt.buffer.capacity, largest)),
-          limit_(Bits::place(capacity_ * 8))
+          limit_(Bits::place(capacity_ * 8)),
+          owned_(owned(ctxt, ctxt.heap.blocks))
     {
-        if (const RtxHeapBlock* const newest = ctxt.heap.blocks)
-        {
-            heap_ = reinterpret_cast<uintptr_t>(newest + 1);
-            heapUsed_ = reinterpret_cast<uintptr_t>(ctxt.heap.next) - heap_;
-        }
     }
 
     // False once an error has occurred or more has been put than the buffer holds. Callers ask after every element, so
@@ -143,16 +139,14 @@ public:
 
     // Whether the pointer may be followed.
     template <typename T>
-    bool reachable(const T* p) const
+    bool reachable(const T* p)
     {
-        const uintptr_t offset = reinterpret_cast<uintptr_t>(p) - heap_;
-        return ((offset < heapUsed_ && sizeof(T) <= heapUsed_ - offset) || owns(ctxt_, p, sizeof(T))) &&
-               reinterpret_cast<uintptr_t>(p) % alignof(T) == 0;
+        return reachable(p, sizeof(T)) && reinterpret_cast<uintptr_t>(p) % alignof(T) == 0;
     }
 
     // A list's element, or null when the node or its data may not be followed.
     template <typename T>
-    const T* element(const OSRTDListNode* node) const
+    const T* element(const OSRTDListNode* node)
     {
         if (!reachable(node) || !reachable(static_cast<const T*>(node->data)))
         {
@@ -225,6 +219,12 @@ private:
         }
     }
 
+    bool reachable(const void* p, size_t octets)
+    {
+        return owned_.holds(p, octets) || reachableElsewhere(p, octets);
+    }
+    bool reachableElsewhere(const void* p, size_t octets);
+
     static int ready(OSCTXT& ctxt, const char* name, const void* value);
     int finish(Bits b, const char* name);
     Bits error(RtxStatus status, int64_t value, int64_t lower, int64_t upper);
@@ -237,10 +237,9 @@ private:
 
     OSCTXT& ctxt_;
     OSOCTET* data_;
-    uint64_t capacity_;  // octets that the buffer holds
-    uint64_t limit_;     // the place behind them
-    uintptr_t heap_ = 0; // the heap's newest block, where nearly everything lies
-    uintptr_t heapUsed_ = 0;
+    uint64_t capacity_; // octets that the buffer holds
+    uint64_t limit_;    // the place behind them
+    Owned owned_{0, 0}; // of the heap, where the pointer before lay: nearly always the next one lies there, too
 };
 
 } // namespace rtx

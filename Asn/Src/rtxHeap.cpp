@@ -58,8 +58,8 @@ bool addBlock(OSCTXT& ctxt, size_t octets, size_t left)
     return true;
 }
 
-// Sees to it that `octets` cleared octets can be handed out at once. Out of line, as most requests need none of it.
-[[gnu::noinline]] bool makeRoom(OSCTXT& ctxt, size_t octets)
+// Sees to it that `octets` cleared octets can be handed out at once.
+bool makeRoom(OSCTXT& ctxt, size_t octets)
 {
     auto& heap = ctxt.heap;
     const size_t left = heap.left + rtx::room(ctxt);
@@ -82,6 +82,19 @@ bool addBlock(OSCTXT& ctxt, size_t octets, size_t left)
     return true;
 }
 
+// Out of line, as most requests need none of it.
+[[gnu::noinline]] void* takeNewRoom(OSCTXT& ctxt, size_t size)
+{
+    // Each request gets octets of its own, also an empty one.
+    const size_t wanted = size == 0 ? 1 : size;
+    if (rtx::rounded(wanted) < wanted || (!rtx::fits(ctxt, wanted) && !makeRoom(ctxt, rtx::rounded(wanted))))
+    {
+        ctxt.heap.failed = 1;
+        return nullptr;
+    }
+    return rtx::take(ctxt, wanted);
+}
+
 } // namespace
 
 void rtx::initHeap(OSCTXT& ctxt, RtxHeapBlock* memory)
@@ -98,6 +111,19 @@ void rtx::freeHeap(OSCTXT& ctxt)
         block = older;
     }
     initHeap(ctxt, ctxt.heap.memory);
+}
+
+rtx::Owned rtx::owner(const OSCTXT& ctxt, const void* p, size_t octets)
+{
+    for (const RtxHeapBlock* block = ctxt.heap.blocks; block != nullptr; block = block->link)
+    {
+        const Owned all = owned(ctxt, block);
+        if (all.holds(p, octets))
+        {
+            return all;
+        }
+    }
+    return {0, 0};
 }
 
 size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets)
@@ -128,14 +154,7 @@ void rtxMemHeapSetLimit(OSCTXT* pctxt, size_t octets)
 
 void* rtxMemHeapAlloc(OSCTXT* pctxt, size_t size)
 {
-    // Each request gets octets of its own, also an empty one.
-    const size_t octets = size == 0 ? granule : rtx::rounded(size);
-    if (octets < size || (octets > rtx::room(*pctxt) && !makeRoom(*pctxt, octets)))
-    {
-        pctxt->heap.failed = 1;
-        return nullptr;
-    }
-    return rtx::take(*pctxt, octets);
+    return rtx::fits(*pctxt, size) ? rtx::take(*pctxt, size) : takeNewRoom(*pctxt, size);
 }
 
 int rtxMemHeapFailed(const OSCTXT* pctxt)

@@ -31,35 +31,55 @@ inline size_t rounded(size_t size)
     return (size + granule - 1) / granule * granule;
 }
 
-inline void* take(OSCTXT& ctxt, size_t octets)
+// Whether a request finds room; an empty one is told that it does not.
+inline bool fits(const OSCTXT& ctxt, size_t size)
+{
+    return size - 1 < room(ctxt);
+}
+
+inline void* take(OSCTXT& ctxt, size_t size)
 {
     OSOCTET* const p = ctxt.heap.next;
-    ctxt.heap.next += octets;
+    ctxt.heap.next += rounded(size);
     return p;
 }
 
 // rtxMemHeapAlloc, inline where there is room: that is nearly always.
 inline void* allocate(OSCTXT& ctxt, size_t size)
 {
-    return size - 1 < room(ctxt) ? take(ctxt, rounded(size)) : rtxMemHeapAlloc(&ctxt, size);
+    return fits(ctxt, size) ? take(ctxt, size) : rtxMemHeapAlloc(&ctxt, size);
 }
+
+// The octets of one block that were handed out.
+struct Owned
+{
+    uintptr_t begin;
+    uintptr_t size;
+
+    bool holds(const void* p, size_t octets) const
+    {
+        const uintptr_t offset = reinterpret_cast<uintptr_t>(p) - begin; // huge where `p` lies before the block
+        return offset < size && octets <= size - offset;
+    }
+};
+
+inline Owned owned(const OSCTXT& ctxt, const RtxHeapBlock* block)
+{
+    if (block == nullptr)
+    {
+        return {0, 0};
+    }
+    const auto begin = reinterpret_cast<uintptr_t>(block + 1);
+    return {begin, block == ctxt.heap.blocks ? reinterpret_cast<uintptr_t>(ctxt.heap.next) - begin : block->used};
+}
+
+// Those of the block in which all `octets` octets at `p` lie; none of a foreign pointer.
+Owned owner(const OSCTXT& ctxt, const void* p, size_t octets);
 
 // Whether all `size` octets at `p` were handed out by the context's heap.
 inline bool owns(const OSCTXT& ctxt, const void* p, size_t size)
 {
-    const auto at = reinterpret_cast<uintptr_t>(p);
-    for (const RtxHeapBlock* block = ctxt.heap.blocks; block != nullptr; block = block->link)
-    {
-        const auto begin = reinterpret_cast<uintptr_t>(block + 1);
-        const size_t used =
-            block == ctxt.heap.blocks ? reinterpret_cast<uintptr_t>(ctxt.heap.next) - begin : block->used;
-        const size_t offset = at - begin; // huge where `at` lies before the block
-        if (offset < used && size <= used - offset)
-        {
-            return true;
-        }
-    }
-    return false;
+    return owner(ctxt, p, size).size != 0;
 }
 
 // The context that rtxPrintSetContext named on this thread, or null.
