@@ -10,6 +10,7 @@
  */
 #define vos_err_print(text) vosErrLine(__FILE__, __LINE__, __func__, (text))
 
-void vosErrLine(const char* file, INT32 line, const char* func, const char* text);
+/* Cold, so that no code of an error lies between that of the values. */
+__attribute__((cold)) void vosErrLine(const char* file, INT32 line, const char* func, const char* text);
 
 #endif

@@ -31,8 +31,7 @@
     {                                                                                                                  \
         if ((call) != VOS_OK)                                                                                          \
         {                                                                                                              \
-            VOS_Printf("%s", text);                                                                                    \
-            return VOS_ERROR;                                                                                          \
+            return compose::fail(text);                                                                                \
         }                                                                                                              \
     } while (0)
 
@@ -71,6 +70,13 @@
 
 namespace compose
 {
+
+// Prints a line about a failure. Cold, so that no code of a failure lies between that of the values.
+[[gnu::cold]] inline INT32 fail(const char* text)
+{
+    VOS_Printf("%s", text);
+    return VOS_ERROR;
+}
 
 // Copies a record's value into a member of another width: octet for octet into a signed member, the low octet of a BOOL
 // into a BOOLEAN, unchanged into an enumeration. Ranges are the encoder's to check.
@@ -216,14 +222,12 @@ INT32 list(OSCTXT* pAsnCxt, OSRTDList* pList, std::size_t count, Record (&record
         auto* const pBlock = allocate<Block>(pAsnCxt);
         if (pBlock == nullptr)
         {
-            VOS_Printf("%s", texts.noNode);
-            return VOS_ERROR;
+            return fail(texts.noNode);
         }
         pBlock->node.data = &pBlock->element;
         if (call(pAsnCxt, composer, &pBlock->element, &records[i]) != VOS_OK && texts.failed != nullptr)
         {
-            VOS_Printf("%s", texts.failed);
-            return VOS_ERROR;
+            return fail(texts.failed);
         }
         rtxDListAppendNode(pList, &pBlock->node);
     }
