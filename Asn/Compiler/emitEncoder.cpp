@@ -514,9 +514,11 @@ std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pd
         out += "\nint asn1PE_" + name + "(OSCTXT* pctxt, const " + name +
                "* pvalue)\n{\n    return Encoder::run(pctxt, " + quoted(type->asnName) + ", pvalue, pe_" + name +
                ");\n}\n";
-        out += "\nint asn1PD_" + name + "(OSCTXT* pctxt, " + name +
-               "* pvalue)\n{\n    return pctxt == nullptr ? int{RTX_E_NULL} : rtx::decode(*pctxt, " + table +
-               ", pvalue);\n}\n";
+        out += "\nint asn1PD_" + name + "(OSCTXT* pctxt, " + name + "* pvalue)\n{\n    return rtxDecode(pctxt, &" +
+               table + ", pvalue, 0);\n}\n";
+        out += "\nint asn1Trace_" + name + "(OSCTXT* pctxt, " + name +
+               "* pvalue, RtxFieldSink sink, void* arg)\n{\n    return rtxTrace(pctxt, &" + table +
+               ", pvalue, 0, sink, arg);\n}\n";
         out += "\nvoid asn1Print_" + name + "(const char* name, const " + name + "* pvalue)\n{\n    rtx::print(" +
                table + ", name, pvalue);\n}\n";
         out += "\nvoid asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +

@@ -30,6 +30,8 @@ std::string pduPrototypes(const Pdus& pdus)
         out += "\n// " + type->asnName + ": encode into and decode from the bound buffer, print. 0 or an RtxStatus.\n";
         out += "int asn1PE_" + name + "(OSCTXT* pctxt, const " + name + "* pvalue);\n";
         out += "int asn1PD_" + name + "(OSCTXT* pctxt, " + name + "* pvalue);\n";
+        out += "// Decodes and gives every field on the wire to the sink.\n";
+        out += "int asn1Trace_" + name + "(OSCTXT* pctxt, " + name + "* pvalue, RtxFieldSink sink, void* arg);\n";
         out += "void asn1Print_" + name + "(const char* name, const " + name + "* pvalue);\n";
         out += "// Prints to a sink, following the pointers of *pctxt's heap only.\n";
         out += "void asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +

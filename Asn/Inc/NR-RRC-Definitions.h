@@ -8760,6 +8760,8 @@ static inline void asn1Init_CellGroupConfig(CellGroupConfig* pvalue) { if (pvalu
 // CellGroupConfig: encode into and decode from the bound buffer, print. 0 or an RtxStatus.
 int asn1PE_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue);
 int asn1PD_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue);
+// Decodes and gives every field on the wire to the sink.
+int asn1Trace_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue, RtxFieldSink sink, void* arg);
 void asn1Print_CellGroupConfig(const char* name, const CellGroupConfig* pvalue);
 // Prints to a sink, following the pointers of *pctxt's heap only.
 void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const CellGroupConfig* pvalue, RtxPrintSink sink, void* arg);

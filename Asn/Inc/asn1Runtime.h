@@ -27,11 +27,13 @@ typedef struct ASN1BitStr32
     OSOCTET data[4];
 } ASN1BitStr32;
 
-// The octets of one extension addition that this schema's release does not know; data is null where the addition is
-// absent. numocts counts octets; the octets lie in the context's heap.
+// The octets of one extension addition that this schema's release does not know. numocts counts octets; the octets lie
+// in the context's heap. A list of them, extElem1, holds those present; index is the addition's place behind those that
+// the schema knows, the first is 0, and ascends. It means nothing in an unknown alternative of a choice.
 typedef struct ASN1OpenType
 {
     OSUINT32 numocts;
+    OSUINT32 index;
     OSOCTET* data;
 } ASN1OpenType;
 
@@ -75,11 +77,13 @@ typedef enum RtxStatus
 
 #define RTX_MAX_DEPTH 48
 
-// One step of a path: a member's ASN.1 name, or (name null) the index of a list's element.
+// One step of a path: a member's ASN.1 name, or (name null) the index of a list's element or, where group is set, the
+// number of an extension group, the first is 1: "[[1]]".
 typedef struct RtxPathStep
 {
     const char* name;
     OSUINT32 index;
+    OSBOOL group;
 } RtxPathStep;
 
 // The first error of a context. The path is kept from the innermost step outwards.
@@ -97,6 +101,25 @@ typedef struct RtxError
 
 // A type of the schema, for the calls that serve them all. Made by the compiler; lives as long as the program.
 typedef struct RtxType RtxType;
+
+// Why encoding a decoded message again would not give the same octets.
+typedef enum RtxNote
+{
+    RTX_NOTE_NONE = 0,            // it would
+    RTX_NOTE_EMPTY_EXTENSION = 1, // an extension is announced and no addition is there
+    RTX_NOTE_BITMAP = 2,          // the bitmap of the additions is shorter or longer than this release's
+    RTX_NOTE_EMPTY_GROUP = 3,     // an extension group without any member
+    RTX_NOTE_SURPLUS = 4          // zero octets behind the content of an open type
+} RtxNote;
+
+// What the last decoding of a context has found besides the value.
+typedef struct RtxDecoded
+{
+    size_t octets;       // of the message, up to its last; 0 after an error
+    OSUINT32 unknown;    // additions and alternatives that this release does not know
+    OSUINT8 note;        // RtxNote: the first one
+    uint64_t noteOffset; // its bit
+} RtxDecoded;
 
 struct RtxHeapBlock;
 
@@ -119,6 +142,7 @@ typedef struct OSCTXT
         size_t capacity; // octets
         size_t msgLen;   // octets
     } buffer;
+    RtxDecoded decoded;
     RtxError error;
 } OSCTXT;
 
@@ -175,6 +199,56 @@ void rtxErrPrint(const OSCTXT* pctxt);
 
 // Forgets the context's error.
 void rtxErrReset(OSCTXT* pctxt);
+
+// Flags of rtxDecode and rtxTrace.
+#define RTX_DECODE_PREFIX 1U // other octets may follow the message: decoded.octets tells how many are its own
+#define RTX_DECODE_STRICT                                                                                              \
+    2U // an announced extension without additions and octets behind an open type's content are errors
+
+// Decodes the bound buffer into *value, a structure of the type, and clears it first. Whatever an error leaves in it
+// may be read as far as the error's path. Returns 0 or an RtxStatus; the context's `decoded` tells more.
+int rtxDecode(OSCTXT* pctxt, const RtxType* type, void* value, unsigned flags);
+
+// What a field on the wire is.
+typedef enum RtxFieldKind
+{
+    RTX_FIELD_EXTENSION, // X.691 19.1, 23.5: the extension bit of a sequence or a choice
+    RTX_FIELD_PRESENCE,  // 19.2: one bit for each optional member of a sequence's root or of an extension group
+    RTX_FIELD_ADDITIONS, // 19.8: one bit for each extension addition
+    RTX_FIELD_CHOICE,    // 23.6, 23.8: the number of the alternative
+    RTX_FIELD_COUNT,     // 20.5: how many elements there are
+    RTX_FIELD_LENGTH,    // 11.9: of an open type or of the bitmap of the additions
+    RTX_FIELD_VALUE,     // of a simple type
+    RTX_FIELD_PADDING,   // up to a whole octet, and zero octets behind it
+    RTX_FIELD_UNKNOWN,   // octets of an addition or an alternative that this release does not know
+    RTX_FIELD_SURPLUS,   // octets behind the message
+    RTX_FIELD_UNREAD     // what an error has left
+} RtxFieldKind;
+
+// A field as the decoder comes to it. Everything in it lives until the sink returns, the value until rtFreeContext.
+typedef struct RtxField
+{
+    OSUINT8 kind;            // RtxFieldKind
+    OSUINT8 note;            // RtxNote that was raised since the field before
+    uint64_t offset;         // its first bit in the message
+    uint64_t width;          // in bits, 0 for a value that takes none
+    uint64_t bits;           // its first 57 bits at most, as a number
+    const RtxType* type;     // of the value, or of the sequence, choice or list that the field belongs to; or null
+    const void* value;       // of that type; UNKNOWN: its ASN1OpenType; or null
+    OSUINT32 group;          // PRESENCE: 0 for the root, else the number of the extension group
+    OSUINT32 depth;          // steps of the path
+    const RtxPathStep* path; // outermost step first; the type decoded is not one of them
+} RtxField;
+
+typedef void (*RtxFieldSink)(void* arg, const RtxField* field);
+
+// rtxDecode that gives every field to the sink, in the order of the wire; the widths of all fields are the message, bit
+// for bit, also after an error.
+int rtxTrace(OSCTXT* pctxt, const RtxType* type, void* value, unsigned flags, RtxFieldSink sink, void* arg);
+
+// The ASN.1 name of what bit `bit` of a presence or additions field announces, the first is 0: a member's, null for an
+// extension group and for an addition that this release does not know.
+const char* rtxFieldBitName(const RtxField* field, OSUINT32 bit);
 
 // Where printed lines go: called with each piece of text in order, terminated.
 typedef void (*RtxPrintSink)(void* arg, const char* text);

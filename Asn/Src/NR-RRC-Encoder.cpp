@@ -16102,7 +16102,12 @@ int asn1PE_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue)
 
 int asn1PD_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue)
 {
-    return pctxt == nullptr ? int{RTX_E_NULL} : rtx::decode(*pctxt, nr_rrc::type_CellGroupConfig, pvalue);
+    return rtxDecode(pctxt, &nr_rrc::type_CellGroupConfig, pvalue, 0);
+}
+
+int asn1Trace_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue, RtxFieldSink sink, void* arg)
+{
+    return rtxTrace(pctxt, &nr_rrc::type_CellGroupConfig, pvalue, 0, sink, arg);
 }
 
 void asn1Print_CellGroupConfig(const char* name, const CellGroupConfig* pvalue)

@@ -97,20 +97,12 @@ Bits Encoder::content(Bits b, const OSOCTET* p, uint64_t octets) const
     return b;
 }
 
+// The unknown additions of a list are sent at their places behind the `count` known ones; those between are absent.
 Bits Encoder::extensionBitmap(Bits b, uint64_t known, unsigned count, const OSRTDList& unknown)
 {
     constexpr uint64_t small = 64;
     constexpr uint64_t most = fragment - 1;
-    const uint64_t all = uint64_t{count} + unknown.count;
-    if (all > most)
-    {
-        const Bits result = error(RTX_E_SIZE, unknown.count, 0, static_cast<int64_t>(most - count));
-        in(result, "extElem1");
-        return result;
-    }
-    // 11.9.3.4: the number of additions is a normally small length
-    b = all <= small ? put<7>(b, all - 1) : length(put<1>(b, 1), all);
-    b = put(b, known, count);
+    uint64_t all = count;
     const OSRTDListNode* node = unknown.head;
     for (uint32_t i = 0; i < unknown.count; ++i, node = node->next)
     {
@@ -121,12 +113,32 @@ Bits Encoder::extensionBitmap(Bits b, uint64_t known, unsigned count, const OSRT
             in(result, "extElem1");
             return result;
         }
-        if (addition->data == nullptr && i + 1 == unknown.count)
+        if (count + uint64_t{addition->index} < all) // not behind the one before
         {
-            // an absent addition at the end would make the bitmap longer for nothing
             return unknownAddition(RTX_E_EXTENSION, i);
         }
-        b = put<1>(b, addition->data != nullptr ? 1 : 0);
+        all = count + uint64_t{addition->index} + 1;
+        if (all > most)
+        {
+            const Bits result = error(RTX_E_SIZE, static_cast<int64_t>(all), 0, static_cast<int64_t>(most));
+            in(result, "extElem1");
+            return result;
+        }
+    }
+    // 11.9.3.4: the number of additions is a normally small length
+    b = all <= small ? put<7>(b, all - 1) : length(put<1>(b, 1), all);
+    b = put(b, known, count);
+    uint64_t next = 0;
+    node = unknown.head;
+    for (uint32_t i = 0; i < unknown.count; ++i, node = node->next)
+    {
+        const uint64_t index = static_cast<const ASN1OpenType*>(node->data)->index;
+        for (; next < index; ++next)
+        {
+            b = put<1>(b, 0);
+        }
+        b = put<1>(b, 1);
+        ++next;
     }
     return b;
 }
@@ -137,13 +149,10 @@ Bits Encoder::unknownAdditions(Bits b, const OSRTDList& unknown)
     for (uint32_t i = 0; i < unknown.count; ++i, node = node->next)
     {
         const auto* const addition = static_cast<const ASN1OpenType*>(node->data);
-        if (addition->data == nullptr)
+        if (addition->numocts == 0 || !owns(ctxt_, addition->data, addition->numocts))
         {
-            continue;
-        }
-        if (addition->numocts == 0 || !reachable(addition->data, addition->numocts))
-        {
-            return unknownAddition(addition->numocts == 0 ? RTX_E_EXTENSION : RTX_E_FOREIGN, i);
+            const RtxStatus status = addition->data == nullptr ? RTX_E_NULL : RTX_E_FOREIGN;
+            return unknownAddition(addition->numocts == 0 ? RTX_E_EXTENSION : status, i);
         }
         const uint64_t start = b.pos;
         b = closeOpenType(content(openType(b), addition->data, addition->numocts), start);

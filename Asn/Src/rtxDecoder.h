@@ -37,9 +37,11 @@ struct UnknownAddition
     ASN1OpenType open;
 };
 
-// Sees nothing and costs nothing.
+// Sees nothing and costs nothing. An active observer is told of every field in the order of the wire and of the way
+// down to it: see Tracer in rtxTrace.cpp.
 struct NoObserver
 {
+    static constexpr bool active = false;
 };
 
 template <typename Observer>
@@ -50,14 +52,22 @@ public:
     using Position = uint64_t;
     static constexpr Position failed = UINT64_MAX;
 
-    explicit Decoder(OSCTXT& ctxt) : ctxt_(ctxt) {}
+    Decoder(OSCTXT& ctxt, unsigned flags, Observer& observer)
+        : ctxt_(ctxt), strict_((flags & RTX_DECODE_STRICT) != 0), observer_(observer)
+    {
+    }
 
-    // 11.1: the encoding of a value, padded with zero bits to whole octets, at least one.
+    // 11.1: the encoding of a value, padded with zero bits to whole octets, at least one. Other octets may follow.
     Position complete(const Input& in, const Type& type, OSOCTET* to, Position at)
     {
         const Member whole = member(type, 0);
         const Position behind = value(in, whole, to, at);
-        return behind == failed ? failed : finish(in, at, behind);
+        return behind == failed ? failed : pad(in, at, behind);
+    }
+
+    Position surplus(const Input& in, Position at)
+    {
+        return fail(at, RTX_E_SURPLUS, static_cast<int64_t>((in.end - at) / 8));
     }
 
 private:
@@ -167,7 +177,8 @@ private:
         }
     }
 
-    Position finish(const Input& in, Position first, Position at)
+    // The zero bits up to a whole octet.
+    Position pad(const Input& in, Position first, Position at)
     {
         const uint64_t used = at - first;
         const auto padding = static_cast<unsigned>(used == 0 ? 8 : (8 - used % 8) % 8);
@@ -181,7 +192,71 @@ private:
         {
             return fail(behind - bitsFor(static_cast<uint32_t>(bits)), RTX_E_PADDING);
         }
-        return behind == in.end ? behind : fail(behind, RTX_E_SURPLUS, static_cast<int64_t>((in.end - behind) / 8));
+        if (padding != 0)
+        {
+            saw(RTX_FIELD_PADDING, at, padding, bits);
+        }
+        return behind;
+    }
+
+    // The end of an open type's content. Some senders leave zero octets behind it.
+    Position finish(const Input& in, Position first, Position at)
+    {
+        at = pad(in, first, at);
+        if (at == failed || at == in.end)
+        {
+            return at;
+        }
+        for (Position octet = at; octet < in.end; octet += 8)
+        {
+            if (strict_ || top(window(in, octet), 8) != 0)
+            {
+                return surplus(in, at);
+            }
+        }
+        note(RTX_NOTE_SURPLUS, at);
+        saw(RTX_FIELD_PADDING, at, in.end - at);
+        return in.end;
+    }
+
+    // The message is taken, but this encoder would have written other octets from here on.
+    [[gnu::cold, gnu::noinline]] void note(RtxNote note, Position at)
+    {
+        if (ctxt_.decoded.note == RTX_NOTE_NONE)
+        {
+            ctxt_.decoded.note = static_cast<OSUINT8>(note);
+            ctxt_.decoded.noteOffset = at;
+        }
+        if constexpr (Observer::active)
+        {
+            observer_.note(note);
+        }
+    }
+
+    // Tells the observer of a field.
+    void saw(RtxFieldKind kind, Position at, uint64_t width, uint64_t bits = 0, const Type* type = nullptr,
+             const void* value = nullptr, uint32_t group = 0)
+    {
+        if constexpr (Observer::active)
+        {
+            observer_.field(kind, at, width, bits, type, value, group);
+        }
+    }
+
+    // Tell the observer of a step down, and up again once it is done.
+    void enter(const RtxPathStep& step)
+    {
+        if constexpr (Observer::active)
+        {
+            observer_.enter(step);
+        }
+    }
+    void leave()
+    {
+        if constexpr (Observer::active)
+        {
+            observer_.leave();
+        }
     }
 
     static constexpr uint32_t fragmentUnit = 16 * 1024; // octets
@@ -300,6 +375,7 @@ private:
             if (start == field.start)
             {
                 field.content = static_cast<uint32_t>(at);
+                saw(RTX_FIELD_LENGTH, start, at - start, top(window(in, start), static_cast<unsigned>(at - start)));
             }
             at += uint64_t{count} * 8;
             field.octets += count;
@@ -353,6 +429,11 @@ private:
             const Position read = decodeContent(content, field.content);
             return read == failed || finish(content, field.content, read) == failed ? failed : behind;
         }
+        // Where a position in the assembled octets lies in the input.
+        const auto inInput = [&](uint64_t offset)
+        {
+            return offsetInInput(in, field, offset);
+        };
         OSOCTET* const octets = allocate(field.octets);
         if (octets == nullptr)
         {
@@ -360,13 +441,26 @@ private:
         }
         copyOpenField(in, field, octets);
         const Input content(octets, field.octets * 8);
-        const Position read = decodeContent(content, 0);
-        if (read == failed || finish(content, 0, read) == failed)
+        const bool noted = ctxt_.decoded.note != RTX_NOTE_NONE;
+        if constexpr (Observer::active)
         {
-            ctxt_.error.bitOffset = offsetInInput(in, field, ctxt_.error.bitOffset);
-            return failed;
+            observer_.enterFragments(inInput);
         }
-        return behind;
+        const Position read = decodeContent(content, 0);
+        const bool done = read != failed && finish(content, 0, read) != failed;
+        if constexpr (Observer::active)
+        {
+            observer_.leaveFragments();
+        }
+        if (!noted && ctxt_.decoded.note != RTX_NOTE_NONE)
+        {
+            ctxt_.decoded.noteOffset = inInput(ctxt_.decoded.noteOffset);
+        }
+        if (!done)
+        {
+            ctxt_.error.bitOffset = inInput(ctxt_.error.bitOffset);
+        }
+        return done ? behind : failed;
     }
 
     static void storePointer(OSOCTET* to, void* p)
@@ -397,6 +491,7 @@ private:
                         int64_t{m.lower} + m.range);
         }
         store<T>(to, static_cast<uint32_t>(m.lower) + static_cast<uint32_t>(offset));
+        saw(RTX_FIELD_VALUE, at, m.bits, offset, m.type, to);
         return at + m.bits;
     }
 
@@ -431,15 +526,16 @@ private:
             return list(in, *m.type, to, at);
         case Step::BitStr32:
             store<OSUINT32>(to, static_cast<uint32_t>(m.type->upper));
-            return bitString(in, static_cast<uint32_t>(m.type->upper), to + offsetof(ASN1BitStr32, data), at);
+            return bitString(in, *m.type, to + offsetof(ASN1BitStr32, data), to, at);
         case Step::BitOctets:
-            return bitString(in, static_cast<uint32_t>(m.type->upper), to, at);
+            return bitString(in, *m.type, to, to, at);
         case Step::Pointer:
             return pointed(in, m, to, at);
         case Step::Only:
             storeOnly(*m.type, to);
-            return at;
+            [[fallthrough]];
         default: // 18: no bits
+            saw(RTX_FIELD_VALUE, at, 0, 0, m.type, to);
             return at;
         }
     }
@@ -467,8 +563,10 @@ private:
     }
 
     // 16.9, 16.10: of fixed length
-    [[gnu::noinline]] Position bitString(const Input& in, uint32_t count, OSOCTET* to, Position at)
+    [[gnu::noinline]] Position bitString(const Input& in, const Type& type, OSOCTET* to, const OSOCTET* value,
+                                         Position at)
     {
+        const auto count = static_cast<uint32_t>(type.upper);
         if (count > in.end - at)
         {
             return ends(at, count);
@@ -478,6 +576,7 @@ private:
         {
             to[count / 8] = static_cast<OSOCTET>(top(window(in, at + count / 8 * 8), count % 8) << (8 - count % 8));
         }
+        saw(RTX_FIELD_VALUE, at, count, top(window(in, at), count < 57 ? count : 57), &type, value);
         return at + count;
     }
 
@@ -499,6 +598,14 @@ private:
         if (!look(in, at, extension + type.bits, bits)) [[unlikely]]
         {
             return ends(in.end, 1);
+        }
+        if (extension != 0)
+        {
+            saw(RTX_FIELD_EXTENSION, at, 1, bits >> 63, &type, to);
+        }
+        if (type.bits != 0)
+        {
+            saw(RTX_FIELD_PRESENCE, at + extension, type.bits, top(bits << extension, type.bits), &type, to);
         }
         at += extension + type.bits;
         const uint64_t present = setFlags(to, 0, bits << extension, type.bits);
@@ -553,7 +660,9 @@ private:
             {
                 continue;
             }
+            enter({type.names[m - type.members], 0, 0});
             at = value(in, *m, to + m->offset, at);
+            leave();
             if (at == failed) [[unlikely]]
             {
                 return inMember(type, *m);
@@ -565,18 +674,21 @@ private:
     // 19.7 to 19.9
     [[gnu::noinline]] Position additions(const Input& in, const Type& type, OSOCTET* to, Position at)
     {
+        const Position start = at;
         uint32_t count = 0;
         at = smallLength(in, at, count);
         if (at == failed)
         {
             return failed;
         }
+        saw(RTX_FIELD_LENGTH, start, at - start, top(window(in, start), static_cast<unsigned>(at - start)), &type, to);
         if (count > in.end - at)
         {
             return ends(at, count);
         }
         const Position bitmap = at;
         at += count;
+        saw(RTX_FIELD_ADDITIONS, bitmap, count, top(window(in, bitmap), count < 57 ? count : 57), &type, to);
         uint32_t announced = count; // bits up to the last one set
         while (announced != 0 && top(window(in, bitmap + announced - 1), 1) == 0)
         {
@@ -584,37 +696,36 @@ private:
         }
         if (announced == 0)
         {
-            return fail(bitmap, RTX_E_EXTENSION);
+            if (strict_)
+            {
+                return fail(bitmap, RTX_E_EXTENSION);
+            }
+            note(RTX_NOTE_EMPTY_EXTENSION, bitmap);
+        }
+        else if (count != (announced > type.additionCount ? announced : type.additionCount))
+        {
+            note(RTX_NOTE_BITMAP, bitmap);
         }
 
         for (uint32_t i = 0; i < announced; ++i)
         {
-            const bool present = top(window(in, bitmap + i), 1) != 0;
-            if (i >= type.additionCount)
+            if (top(window(in, bitmap + i), 1) == 0)
             {
-                const uint32_t index = i - type.additionCount;
-                at = unknownAddition(in, present, to + type.extElem, at);
-                if (at == failed)
-                {
-                    inElement(index);
-                    pushName(ctxt_, "extElem1");
-                    return failed;
-                }
+                continue;
             }
-            else if (present)
+            at = i < type.additionCount ? addition(in, type, i, to, at)
+                                        : unknownAddition(in, i - type.additionCount, to + type.extElem, at);
+            if (at == failed)
             {
-                at = addition(in, type, type.additions[i], to, at);
-                if (at == failed)
-                {
-                    return failed;
-                }
+                return failed;
             }
         }
         return at;
     }
 
-    Position addition(const Input& in, const Type& type, const Addition& addition, OSOCTET* to, Position at)
+    Position addition(const Input& in, const Type& type, uint32_t index, OSOCTET* to, Position at)
     {
+        const Addition& addition = type.additions[index];
         if (addition.flag < 0)
         {
             const Member& m = type.members[addition.first];
@@ -623,62 +734,121 @@ private:
             {
                 return value(field, m, to + m.offset, start);
             };
+            enter({type.names[addition.first], 0, 0});
             at = openType(in, at, content);
+            leave();
             return at == failed ? inMember(type, m) : at;
         }
-
-        bool any = false;
         const auto content = [&](const Input& field, Position start)
         {
-            const unsigned first = static_cast<unsigned>(addition.flag) + 1; // its members' flags follow its own
-            unsigned optional = 0;
-            for (unsigned i = 0; i < addition.count; ++i)
-            {
-                optional += type.members[addition.first + i].flag >= 0 ? 1 : 0;
-            }
-            uint64_t bits;
-            if (!look(field, start, optional, bits))
-            {
-                return ends(field.end, 1);
-            }
-            const uint64_t present = setFlags(to, first, bits, optional);
-            any = present != 0 || optional < addition.count;
-            return members(field, type, addition.first, addition.count, present, to, start + optional);
+            return group(field, type, index, to, start);
         };
+        enter({nullptr, index + 1, 1});
         at = openType(in, at, content);
-        // A group without any member is taken and not sent again.
-        if (at != failed && any)
+        leave();
+        // A member's path does without its group, except where the group ends before it: that is not the message's end.
+        if (at == failed && (ctxt_.error.depth == 0 || ctxt_.error.status == RTX_E_END))
         {
-            setFlag(to, addition.flag);
+            pushGroup(ctxt_, index + 1);
         }
         return at;
     }
 
-    Position unknownAddition(const Input& in, bool present, OSOCTET* list, Position at)
+    Position group(const Input& in, const Type& type, uint32_t index, OSOCTET* to, Position at)
     {
-        OpenField field = {0, 0, 0, false};
-        if (present)
+        const Addition& addition = type.additions[index];
+        unsigned optional = 0;
+        for (unsigned i = 0; i < addition.count; ++i)
         {
-            at = passOpenField(in, at, field);
-            if (at == failed)
-            {
-                return failed;
-            }
+            optional += type.members[addition.first + i].flag >= 0 ? 1 : 0;
         }
-        auto* const unknown = reinterpret_cast<UnknownAddition*>(allocate(sizeof(UnknownAddition) + field.octets));
-        if (unknown == nullptr)
+        uint64_t bits;
+        if (!look(in, at, optional, bits))
         {
-            return heapExhausted(at, sizeof(UnknownAddition) + field.octets);
+            return ends(in.end, 1);
         }
+        if (optional != 0)
+        {
+            saw(RTX_FIELD_PRESENCE, at, optional, top(bits, optional), &type, to, index + 1);
+        }
+        const auto first = static_cast<unsigned>(addition.flag) + 1; // its members' flags follow its own
+        const uint64_t present = setFlags(to, first, bits, optional);
+        if (present != 0 || optional < addition.count)
+        {
+            setFlag(to, addition.flag);
+        }
+        else
+        {
+            note(RTX_NOTE_EMPTY_GROUP, at); // taken and not sent again
+        }
+        return members(in, type, addition.first, addition.count, present, to, at + optional);
+    }
+
+    Position unknownAddition(const Input& in, uint32_t index, OSOCTET* list, Position at)
+    {
+        OSOCTET* block = nullptr;
+        enter({"extElem1", 0, 0});
+        enter({nullptr, index, 0});
+        at = openOctets(in, sizeof(UnknownAddition), block, at);
+        leave();
+        leave();
+        if (at == failed)
+        {
+            inElement(index);
+            pushName(ctxt_, "extElem1");
+            return failed;
+        }
+        auto* const unknown = reinterpret_cast<UnknownAddition*>(block);
+        unknown->open.index = index;
         unknown->node.data = &unknown->open;
-        if (present)
-        {
-            unknown->open.data = reinterpret_cast<OSOCTET*>(unknown + 1);
-            unknown->open.numocts = field.octets;
-            copyOpenField(in, field, unknown->open.data);
-        }
         rtxDListAppendNode(reinterpret_cast<OSRTDList*>(list), &unknown->node);
         return at;
+    }
+
+    // Keeps the octets of an open type field of unknown content behind a head that ends with their ASN1OpenType.
+    Position openOctets(const Input& in, size_t head, OSOCTET*& block, Position at)
+    {
+        OpenField field;
+        at = passOpenField(in, at, field);
+        if (at == failed)
+        {
+            return failed;
+        }
+        block = allocate(head + field.octets);
+        if (block == nullptr)
+        {
+            return heapExhausted(at, head + field.octets);
+        }
+        auto* const open = reinterpret_cast<ASN1OpenType*>(block + head) - 1;
+        open->data = block + head;
+        open->numocts = field.octets;
+        copyOpenField(in, field, open->data);
+        ++ctxt_.decoded.unknown;
+        sawOctets(in, field, open);
+        return at;
+    }
+
+    // The parts of an open type field of unknown content; passOpenField has told of the first length.
+    void sawOctets(const Input& in, const OpenField& field, const ASN1OpenType* open)
+    {
+        if constexpr (Observer::active)
+        {
+            uint32_t count = 0;
+            bool more = true;
+            for (Position start = field.start; more;)
+            {
+                const Position at = length(in, start, count, more);
+                if (start != field.start)
+                {
+                    saw(RTX_FIELD_LENGTH, start, at - start, top(window(in, start), static_cast<unsigned>(at - start)));
+                }
+                if (count != 0)
+                {
+                    saw(RTX_FIELD_UNKNOWN, at, uint64_t{count} * 8, 0, nullptr, open);
+                }
+                start = at + uint64_t{count} * 8;
+            }
+        }
     }
 
     // 23
@@ -692,9 +862,14 @@ private:
         {
             uint64_t extended = 0;
             at = read(in, at, 1, extended);
-            if (at == failed || extended != 0)
+            if (at == failed)
             {
-                return at == failed ? failed : extensionAlternative(in, type, to, at);
+                return failed;
+            }
+            saw(RTX_FIELD_EXTENSION, at - 1, 1, extended, &type, to);
+            if (extended != 0)
+            {
+                return extensionAlternative(in, type, to, at);
             }
         }
         uint64_t index; // 23.7
@@ -707,43 +882,44 @@ private:
         {
             return fail(at, RTX_E_CHOICE, static_cast<int64_t>(index) + 1, 1, type.rootCount);
         }
+        saw(RTX_FIELD_CHOICE, at, type.bits, index, &type, to);
+        enter({type.names[index], 0, 0});
         at = alternative(in, type, index, to, at + type.bits);
+        leave();
         return at == failed ? inMember(type, type.members[index]) : at;
     }
 
     // 23.8
     [[gnu::noinline]] Position extensionAlternative(const Input& in, const Type& type, OSOCTET* to, Position at)
     {
+        const Position start = at;
         uint64_t index = 0;
         at = smallNumber(in, at, index);
         if (at == failed)
         {
             return failed;
         }
+        saw(RTX_FIELD_CHOICE, start, at - start, top(window(in, start), static_cast<unsigned>(at - start)), &type, to);
         index += type.rootCount;
         if (index < type.memberCount)
         {
-            const auto content = [&](const Input& field, Position start)
+            const auto content = [&](const Input& field, Position first)
             {
-                return alternative(field, type, index, to, start);
+                return alternative(field, type, index, to, first);
             };
+            enter({type.names[index], 0, 0});
             at = openType(in, at, content);
+            leave();
             return at == failed ? inMember(type, type.members[index]) : at;
         }
-        OpenField field;
-        at = passOpenField(in, at, field);
+        OSOCTET* open = nullptr;
+        enter({"extElem1", 0, 0});
+        at = openOctets(in, sizeof(ASN1OpenType), open, at);
+        leave();
         if (at == failed)
         {
             return failed;
         }
-        auto* const open = reinterpret_cast<ASN1OpenType*>(allocate(sizeof(ASN1OpenType) + field.octets));
-        if (open == nullptr)
-        {
-            return heapExhausted(at, sizeof(ASN1OpenType) + field.octets);
-        }
-        open->data = reinterpret_cast<OSOCTET*>(open + 1);
-        open->numocts = field.octets;
-        copyOpenField(in, field, open->data);
         storePointer(to + type.extElem, open);
         store<OSUINT32>(to, index + 1);
         return at;
@@ -795,6 +971,7 @@ private:
         {
             return fail(at, RTX_E_SIZE, number, type.lower, type.upper);
         }
+        saw(RTX_FIELD_COUNT, at, type.bits, number, &type);
         return at + type.bits;
     }
 
@@ -811,7 +988,9 @@ private:
         OSOCTET* p = to + element.offset;
         for (uint32_t i = 0; i < number; ++i, p += element.type->size)
         {
+            enter({nullptr, i, 0});
             at = value(in, element, p, at);
+            leave();
             if (at == failed) [[unlikely]]
             {
                 return inElement(i);
@@ -842,7 +1021,9 @@ private:
             }
             node->data = node + 1;
             rtxDListAppendNode(list, node);
+            enter({nullptr, i, 0});
             at = value(in, *type.members, static_cast<OSOCTET*>(node->data), at);
+            leave();
             if (at == failed) [[unlikely]]
             {
                 return inElement(i);
@@ -856,7 +1037,51 @@ private:
 
     OSCTXT& ctxt_;
     unsigned depth_ = 0;
+    bool strict_;
+    Observer& observer_;
 };
+
+constexpr uint32_t largestInput = UINT32_MAX / 8; // octets, so that every bit offset has 32 bits
+
+// Decodes the bound buffer. An error that the buffer has is kept.
+template <typename Observer>
+int run(OSCTXT& ctxt, const Type& type, void* value, unsigned flags, Observer& observer)
+{
+    if (ctxt.buffer.data == nullptr)
+    {
+        return setError(ctxt, RTX_E_NOBUFFER);
+    }
+    rtxErrReset(&ctxt);
+    ctxt.decoded = {0, 0, RTX_NOTE_NONE, 0};
+    if (value == nullptr)
+    {
+        setError(ctxt, RTX_E_NULL);
+    }
+    else if (ctxt.buffer.capacity > largestInput)
+    {
+        setError(ctxt, RTX_E_RANGE, static_cast<int64_t>(ctxt.buffer.capacity), 0, largestInput);
+    }
+    else
+    {
+        std::memset(value, 0, type.size);
+        const Input whole(ctxt.buffer.data, static_cast<uint32_t>(ctxt.buffer.capacity * 8));
+        Decoder<Observer> decoder(ctxt, flags, observer);
+        uint64_t at = decoder.complete(whole, type, static_cast<OSOCTET*>(value), 0);
+        if (at != decoder.failed)
+        {
+            ctxt.decoded.octets = at / 8;
+            if (at != whole.end && (flags & RTX_DECODE_PREFIX) == 0)
+            {
+                decoder.surplus(whole, at);
+            }
+        }
+    }
+    if (ctxt.error.status != 0)
+    {
+        pushName(ctxt, type.name);
+    }
+    return ctxt.error.status;
+}
 
 } // namespace rtx
 

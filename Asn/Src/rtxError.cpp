@@ -43,7 +43,11 @@ void appendPath(Line& line, const RtxError& error)
     for (OSUINT32 i = depth; i-- != 0;)
     {
         const RtxPathStep& step = error.path[i];
-        if (step.name == nullptr)
+        if (step.group != 0)
+        {
+            append(line, "%s[[%" PRIu32 "]]", line.length != 0 ? "." : "", step.index);
+        }
+        else if (step.name == nullptr)
         {
             append(line, "[%" PRIu32 "]", step.index);
         }
@@ -128,7 +132,8 @@ void appendReason(Line& line, const RtxError& error)
     }
     if (error.hasOffset != 0)
     {
-        append(line, " (at bit %" PRIu64 ")", error.bitOffset);
+        append(line, " (at bit %" PRIu64 ": octet %" PRIu64 ", bit %" PRIu64 ")", error.bitOffset, error.bitOffset / 8,
+               error.bitOffset % 8);
     }
 }
 
@@ -163,12 +168,17 @@ static void push(RtxError& error, const RtxPathStep& step)
 
 void rtx::pushName(OSCTXT& ctxt, const char* name)
 {
-    push(ctxt.error, {name, 0});
+    push(ctxt.error, {name, 0, 0});
 }
 
 void rtx::pushIndex(OSCTXT& ctxt, uint32_t index)
 {
-    push(ctxt.error, {nullptr, index});
+    push(ctxt.error, {nullptr, index, 0});
+}
+
+void rtx::pushGroup(OSCTXT& ctxt, uint32_t number)
+{
+    push(ctxt.error, {nullptr, number, 1});
 }
 
 size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size)

@@ -146,8 +146,8 @@ int setError(OSCTXT& ctxt, RtxStatus status, int64_t value = 0, int64_t lower = 
 // Adds the next outer step to the error's path.
 void pushName(OSCTXT& ctxt, const char* name);
 void pushIndex(OSCTXT& ctxt, uint32_t index);
+void pushGroup(OSCTXT& ctxt, uint32_t number); // of an extension group, the first is 1
 
-int decode(OSCTXT& ctxt, const Type& type, void* value);
 void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg);
 // To standard output, following the pointers of the context that rtxPrintSetContext named.
 void print(const Type& type, const char* title, const void* value);

@@ -40,17 +40,15 @@ protected:
         return static_cast<T*>(node->data);
     }
 
-    // An unknown extension addition of these octets, an absent one where there are none.
-    void appendAddition(OSRTDList& list, const std::vector<OSOCTET>& octets)
+    // Unknown extension addition number `index` of these octets.
+    void appendAddition(OSRTDList& list, const std::vector<OSOCTET>& octets, size_t index = 0)
     {
         auto* const open = append<ASN1OpenType>(list);
-        if (!octets.empty())
-        {
-            open->data = static_cast<OSOCTET*>(rtxMemHeapAlloc(&context, octets.size()));
-            ASSERT_NE(open->data, nullptr);
-            std::copy(octets.begin(), octets.end(), open->data);
-            open->numocts = static_cast<OSUINT32>(octets.size());
-        }
+        open->data = static_cast<OSOCTET*>(rtxMemHeapAlloc(&context, octets.size()));
+        ASSERT_NE(open->data, nullptr);
+        std::copy(octets.begin(), octets.end(), open->data);
+        open->numocts = static_cast<OSUINT32>(octets.size());
+        open->index = static_cast<OSUINT32>(index);
     }
 
     std::string errorLine() const
@@ -331,7 +329,7 @@ TEST_F(Encoder, RefusesAnUnknownTagOfAnExtensibleChoiceWithoutItsOctets)
     EXPECT_EQ(encode(asn1PE_RLC_Config, rlc), "RLC-Config: tag 0 is not in 1..4");
     rlc.t = 5;
     EXPECT_EQ(encode(asn1PE_RLC_Config, rlc), "RLC-Config: tag 5 is not in 1..4") << "a null pointer";
-    ASN1OpenType foreign{1, nullptr};
+    ASN1OpenType foreign{1, 0, nullptr};
     rlc.u.extElem1 = &foreign;
     EXPECT_EQ(encode(asn1PE_RLC_Config, rlc), "RLC-Config: tag 5 is not in 1..4") << "out of the heap";
     rlc.u.extElem1 = make<ASN1OpenType>();
@@ -754,10 +752,15 @@ protected:
     {
         TAG tag{};
         size_t octets = 64;
-        for (const auto& addition : additions)
+        size_t present = 0;
+        for (size_t i = 0; i < additions.size(); ++i)
         {
-            appendAddition(tag.extElem1, addition);
-            octets += addition.size() + 8;
+            if (!additions[i].empty()) // what stands for an absent one
+            {
+                appendAddition(tag.extElem1, additions[i], i);
+                ++present;
+            }
+            octets += additions[i].size() + 8;
         }
         std::vector<OSOCTET> once = encodeInto(octets, asn1PE_TAG, tag);
         EXPECT_EQ(errorLine(), "");
@@ -767,17 +770,24 @@ protected:
         EXPECT_EQ(pu_setBuffer(&other, once.data(), once.size(), 0), RTX_OK);
         TAG back{};
         EXPECT_EQ(asn1PD_TAG(&other, &back), RTX_OK);
-        EXPECT_EQ(back.extElem1.count, additions.size());
+        EXPECT_EQ(back.extElem1.count, present);
+        EXPECT_EQ(other.decoded.unknown, present);
+        EXPECT_EQ(other.decoded.note, RTX_NOTE_NONE);
         const OSRTDListNode* node = back.extElem1.head;
-        for (const auto& addition : additions)
+        for (size_t i = 0; i < additions.size(); ++i)
         {
+            const auto& addition = additions[i];
+            if (addition.empty())
+            {
+                continue;
+            }
             if (node == nullptr)
             {
                 ADD_FAILURE() << "an addition is missing";
                 break;
             }
             const auto& open = *static_cast<const ASN1OpenType*>(node->data);
-            EXPECT_EQ(open.data != nullptr, !addition.empty());
+            EXPECT_EQ(open.index, i);
             EXPECT_EQ(open.numocts, addition.size());
             EXPECT_TRUE(open.numocts == addition.size() && std::equal(addition.begin(), addition.end(), open.data));
             node = node->next;
@@ -839,10 +849,7 @@ TEST_F(Unknown, MoreThanSixtyFourAdditionsHaveALengthOfTheirOwn)
 TEST_F(Unknown, RefusesMoreAdditionsThanABitmapHolds)
 {
     TAG tag{};
-    for (int i = 0; i < 16384; ++i)
-    {
-        appendAddition(tag.extElem1, {0x42});
-    }
+    appendAddition(tag.extElem1, {0x42}, 16383);
     EXPECT_EQ(encode(asn1PE_TAG, tag), "TAG.extElem1: 16384 elements, not 0..16383");
 }
 
@@ -883,11 +890,11 @@ TEST_F(Unknown, EveryCapacityThatIsTooSmallForAnAdditionIsRefusedAndKept)
     EXPECT_EQ(encodeInto(whole.size(), asn1PE_TAG, large), whole);
 }
 
-TEST_F(Unknown, RefusesAnAbsentAdditionAtTheEnd)
+TEST_F(Unknown, RefusesAnAdditionThatIsNotBehindTheOneBefore)
 {
     TAG tag{};
-    appendAddition(tag.extElem1, {0x01});
-    appendAddition(tag.extElem1, {});
+    appendAddition(tag.extElem1, {0x01}, 1);
+    appendAddition(tag.extElem1, {0x02}, 1);
     EXPECT_EQ(encode(asn1PE_TAG, tag), "TAG.extElem1[1]: an extension is announced and has no addition");
 }
 

@@ -107,7 +107,7 @@ TEST_F(Error, TheOffsetStandsLast)
     ctxt.error.hasOffset = 1;
     ctxt.error.bitOffset = 123;
     rtx::pushName(ctxt, "x");
-    EXPECT_EQ("x: a padding bit is set (at bit 123)", line());
+    EXPECT_EQ("x: a padding bit is set (at bit 123: octet 15, bit 3)", line());
 }
 
 TEST_F(Error, TheFirstOneStays)

@@ -304,7 +304,7 @@ TEST_F(Print, UnknownAlternative)
     EXPECT_EQ("x: tag 0 is not in 1..5\n", printed(pickType, &pick));
     pick.t = 6;
     EXPECT_EQ("x: tag 6 is not in 1..5\n  unknown alternative: a null pointer\n", printed(pickType, &pick));
-    ASN1OpenType foreign = {0, nullptr};
+    ASN1OpenType foreign = {0, 0, nullptr};
     pick.u.extElem1 = &foreign;
     EXPECT_EQ("x: tag 6 is not in 1..5\n  unknown alternative: a pointer out of the context's heap\n",
               printed(pickType, &pick));
