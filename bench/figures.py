@@ -43,7 +43,7 @@ def collect(folder):
         if not runs:
             continue
         context = runs[0]["context"]
-        times = measured.least(*runs)
+        times = measured.times(*runs)
         figures[build] = {"times": {name: times[name] | {"ns": round(times[name]["ns"], 2)} for name in sorted(times)},
                           "lines": load(f"{folder}/{build}.lines")}
         figures["machine"] = f"{processor()}, {context['num_cpus']} virtual processors at {context['mhz_per_cpu']} MHz"
@@ -140,7 +140,7 @@ def typical_table(figures):
 def text(figures):
     now = figures["now"]["times"]
     yield f"{figures['compiler']}, `release-test` preset, {figures['machine']}, {figures['date']}."
-    yield "Times are the least in ns; in parentheses the ratio to the floor of the same message."
+    yield "Times in ns; in parentheses the ratio to the floor of the same message."
     yield ""
     yield from warm_table(now)
     yield ""
