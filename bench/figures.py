@@ -120,6 +120,7 @@ def typical_call(build):
     after = ratio("entry_after_malloc", "typical_call/entry_after_nothing")
     yield "`entry_after_malloc`, over `entry_after_nothing`", after
     for call in ("entry", "decode"):
+        yield f"`{call}_cold`, µs", f"{times[f'typical_call/{call}_cold']['ns'] / 1000:.1f}"
         yield f"`{call}_cold`, in lines driven out", ratio(f"{call}_cold", "line/driven_out")
         yield f"`{call}_cold`, in lines walked", ratio(f"{call}_cold", "line/walked")
         yield f"`{call}_after_6MB`, in lines driven out", ratio(f"{call}_after_6MB", "line_6MB/driven_out")
