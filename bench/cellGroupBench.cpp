@@ -257,7 +257,7 @@ void addLine(const std::string& name, const bench::Walk& walk)
                      const auto nothing = [] {
                      };
                      runDisturbed(
-                         state, nothing, [&walk] { walk(); }, static_cast<double>(walk.lines()));
+                         state, nothing, [&walk] { walk.readData(); }, static_cast<double>(walk.lines()));
                  });
     addDisturbed(name + "/driven_out", 1,
                  [&walk](auto& state)

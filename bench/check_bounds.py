@@ -26,7 +26,7 @@ def bounds(found):
 
 
 def main():
-    found = measured.least(json.load(sys.stdin))
+    found = measured.times(json.load(sys.stdin))
     failed = False
     for what, unit, value, bound in bounds(found):
         beyond = value > ALLOWED * bound

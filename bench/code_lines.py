@@ -27,7 +27,8 @@ def lines_of(profile):
 def code_lines(program, call):
     with tempfile.NamedTemporaryFile("r") as profile:
         subprocess.run(["valgrind", "--tool=callgrind", "--dump-instr=yes", "--compress-pos=no",
-                        "--compress-strings=no", "--toggle-collect=measuredCall", f"--callgrind-out-file={profile.name}", program, call],
+                        "--compress-strings=no", "--toggle-collect=measuredCall",
+                        f"--callgrind-out-file={profile.name}", program, call],
                        check=True, capture_output=True, text=True)
         with open(profile.name, encoding="utf-8") as written:
             return len(lines_of(written))

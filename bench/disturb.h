@@ -13,6 +13,7 @@
 #include <vector>
 
 #include <benchmark/benchmark.h>
+#include <sys/mman.h>
 
 namespace bench
 {
@@ -28,29 +29,83 @@ double timeOf(Call call)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-// Reads so many octets line by line, so that the caches hold nothing else.
+// Reads so many octets line by line and calls 1 MB of functions of one line each, so that the caches hold nothing else:
+// without the latter, code that is run often stays in the innermost one.
 class Walk
 {
 public:
-    explicit Walk(std::size_t octets) : memory_(octets / sizeof(uint64_t), 1) {}
+    explicit Walk(std::size_t octets) : data_(octets / sizeof(uint64_t), 1) {}
 
     void operator()() const
     {
+        readData();
+        code().call();
+    }
+
+    void readData() const
+    {
         uint64_t sum = 0;
-        for (std::size_t i = 0; i < memory_.size(); i += lineSize / sizeof(uint64_t))
+        for (std::size_t i = 0; i < data_.size(); i += lineSize / sizeof(uint64_t))
         {
-            sum += memory_[i];
+            sum += data_[i];
         }
         benchmark::DoNotOptimize(sum);
     }
 
     std::size_t lines() const
     {
-        return memory_.size() * sizeof(uint64_t) / lineSize;
+        return data_.size() * sizeof(uint64_t) / lineSize;
     }
 
 private:
-    std::vector<uint64_t> memory_;
+    class Code
+    {
+    public:
+        Code() : begin_(mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))
+        {
+            if (begin_ == MAP_FAILED)
+            {
+                std::abort();
+            }
+            auto* const instructions = static_cast<Instruction*>(begin_);
+            std::fill_n(instructions, size / sizeof(Instruction), returnInstruction);
+            __builtin___clear_cache(static_cast<char*>(begin_), static_cast<char*>(begin_) + size);
+            if (mprotect(begin_, size, PROT_READ | PROT_EXEC) != 0)
+            {
+                std::abort();
+            }
+        }
+
+        void call() const
+        {
+            for (std::size_t i = 0; i < size; i += lineSize)
+            {
+                reinterpret_cast<void (*)()>(reinterpret_cast<uintptr_t>(begin_) + i)();
+            }
+        }
+
+    private:
+#if defined __x86_64__
+        using Instruction = uint8_t;
+        static constexpr Instruction returnInstruction = 0xC3;
+#elif defined __aarch64__
+        using Instruction = uint32_t;
+        static constexpr Instruction returnInstruction = 0xD65F03C0;
+#else
+#error "which instruction returns?"
+#endif
+        static constexpr std::size_t size = std::size_t{1} << 20;
+
+        void* begin_;
+    };
+
+    static const Code& code()
+    {
+        static const Code all; // lives as long as the program
+        return all;
+    }
+
+    std::vector<uint64_t> data_;
 };
 
 // Lines that are read one after the other, in an order that no prefetcher knows: what one costs after a walk is the

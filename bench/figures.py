@@ -43,7 +43,7 @@ def collect(folder):
         if not runs:
             continue
         context = runs[0]["context"]
-        times = measured.least(*runs)
+        times = measured.times(*runs)
         figures[build] = {"times": {name: times[name] | {"ns": round(times[name]["ns"], 2)} for name in sorted(times)},
                           "lines": load(f"{folder}/{build}.lines")}
         figures["machine"] = f"{processor()}, {context['num_cpus']} virtual processors at {context['mhz_per_cpu']} MHz"
@@ -120,6 +120,7 @@ def typical_call(build):
     after = ratio("entry_after_malloc", "typical_call/entry_after_nothing")
     yield "`entry_after_malloc`, over `entry_after_nothing`", after
     for call in ("entry", "decode"):
+        yield f"`{call}_cold`, µs", f"{times[f'typical_call/{call}_cold']['ns'] / 1000:.1f}"
         yield f"`{call}_cold`, in lines driven out", ratio(f"{call}_cold", "line/driven_out")
         yield f"`{call}_cold`, in lines walked", ratio(f"{call}_cold", "line/walked")
         yield f"`{call}_after_6MB`, in lines driven out", ratio(f"{call}_after_6MB", "line_6MB/driven_out")
@@ -140,7 +141,7 @@ def typical_table(figures):
 def text(figures):
     now = figures["now"]["times"]
     yield f"{figures['compiler']}, `release-test` preset, {figures['machine']}, {figures['date']}."
-    yield "Times are the least in ns; in parentheses the ratio to the floor of the same message."
+    yield "Times in ns; in parentheses the ratio to the floor of the same message."
     yield ""
     yield from warm_table(now)
     yield ""
