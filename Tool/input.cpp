@@ -41,7 +41,7 @@ bool isJer(const Piece& text)
         return text.at(next) == '{' || (text.at(next) == '[' && text.at(skipSpace(text, next + 1)) == '{');
     }
     const std::size_t behind = skipHexDigits(text, next);
-    const bool hex = behind != next && text.at(behind) != '"';
+    const bool hex = behind != next && !isWord(text.at(behind));
     const bool number = text.at(next) == '0' && text.at(next + 1) == 'x';
     const bool cast = text.at(next) == '(' || text.at(next) == '/';
     return open == '{' && !hex && !number && !cast;

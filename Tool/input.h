@@ -15,7 +15,8 @@
 //   that is also base64, hex wins, but for up to 32 digits of both cases.
 // - Base64: one word, or lines of one length, that are valid to the last bit, and that no plain word looks like.
 // - LogLine: the longest run of hex in the text, at least four octets (two when the form is said) and more than twice
-//   as long as the next one. Times, dates, UUIDs, decimal fractions and 0x numbers up to 16 digits are not runs.
+//   as long as the next one. Times, dates, UUIDs, fractions, 0x numbers and decimal numbers up to 16 digits, and parts
+//   of a path are no runs. A run goes on in the next line when that is nothing but hex.
 #pragma once
 
 #include "form.h"

@@ -340,7 +340,7 @@ private:
         if (!column.empty())
         {
             column_ = true;
-            columnAt_ = split.rest - previous_->offset;
+            columnAt_ = std::min(columnAt_, split.rest - previous_->offset);
             unlike += isAsciiColumn(column, all) ? 0 : 1;
         }
         width_ = width_ == 0 ? split.octets : width_;
@@ -404,7 +404,8 @@ private:
     void addLastLine()
     {
         auto all = octetsOf(*previous_);
-        if (lowFirst_ && previous_->groups.back().octets() > 1 && all.back() == 0)
+        const bool column = column_ || !columnOf(*previous_, splitsOf(text_, *previous_).back()).empty();
+        if (lowFirst_ && !column && previous_->groups.back().octets() > 1 && all.back() == 0)
         {
             refuse(text_, previous_->offset,
                    "the offset behind the last line is missing: its last word may be one octet or more");
@@ -432,7 +433,9 @@ private:
         {
             for (const auto& split : splits)
             {
-                if (split.rest - previous_->offset == columnAt_ && (width_ == 0 || split.octets <= width_))
+                // Behind the last octet only blanks lead to the column.
+                if (split.rest - previous_->offset >= columnAt_ && split.rest < previous_->end &&
+                    (width_ == 0 || split.octets <= width_))
                 {
                     return split;
                 }
@@ -459,9 +462,9 @@ private:
     std::uint64_t offset_ = 0; // of the previous line
     bool star_ = false;
     std::size_t starAt_ = 0;
-    std::uint64_t width_ = 0; // octets of a full line, once known
-    bool column_ = false;     // lines have an ASCII column
-    std::size_t columnAt_ = 0;
+    std::uint64_t width_ = 0;                                        // octets of a full line, once known
+    bool column_ = false;                                            // lines have an ASCII column
+    std::size_t columnAt_ = std::numeric_limits<std::size_t>::max(); // where it begins behind the offset
 };
 
 bool isZero(const Piece& text, const DumpLine& line)
@@ -517,11 +520,40 @@ bool isDoubtful(const Piece& text, const Start& start, std::size_t lines)
     }
     const std::size_t rest = skipSpace(text, line.groups.back().end);
     if (!start.inside && isZero(text, line) && line.groups.size() == 1 && rest >= text.end &&
-        line.offsetDigits() % 2 == 0)
+        line.offsetDigits() % 2 == 0 && line.groups[0].begin - line.digitsEnd == 1)
     {
         refuse(text, line.offset, "an offset and octets, or hex in groups", {Form::HexDump, Form::Hex});
     }
     return start.inside || !isZero(text, line);
+}
+
+// Character by character; blanks at the end may have been cut off.
+bool showsOctets(std::string_view column, Octets octets)
+{
+    if (column.empty() || column.size() > octets.size() ||
+        std::any_of(octets.begin() + static_cast<std::ptrdiff_t>(column.size()), octets.end(),
+                    [](auto octet) { return octet != ' '; }))
+    {
+        return false;
+    }
+    for (std::size_t i = 0; i < column.size(); ++i)
+    {
+        const bool printable = octets[i] > ' ' && octets[i] <= '~';
+        const char c = column[i];
+        if (printable ? c != static_cast<char>(octets[i]) : c != '.' && c != ' ' && c != foreign)
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+// od writes seven digits, octal or decimal, and no colon; xxd decimal with a colon when told so.
+bool isBase(unsigned base, const Start& start)
+{
+    const bool od = start.line.offsetDigits() == 7 && !start.line.colon;
+    const bool xxd = start.line.offsetDigits() == 8 && start.line.colon;
+    return base == 16 || (!start.inside && (od || (base == 10 && xxd)));
 }
 
 std::string noteOf(const DumpReader& dump, unsigned base, bool lowFirst, std::string_view start)
@@ -544,35 +576,33 @@ bool isAsciiColumn(std::string_view column, Octets octets)
     {
         column.remove_suffix(1);
     }
-    if (column.size() >= 2 && (column.front() == '|' || column.front() == '>'))
+    if (column.starts_with("; "))
     {
-        const bool closed = column.back() == (column.front() == '|' ? '|' : '<');
-        column.remove_prefix(closed ? 1 : 0);
-        column.remove_suffix(closed ? 1 : 0);
+        column.remove_prefix(2);
     }
-    constexpr std::size_t half = 8;
-    if (column.size() == octets.size() + 1 && column.size() > half && column[half] == ' ' && octets[half] != ' ')
+    else if (column.size() >= 2 && (column.front() == '|' || column.front() == '>') &&
+             column.back() == (column.front() == '|' ? '|' : '<'))
     {
-        return isAsciiColumn(column.substr(0, half), octets.first(half)) &&
-               isAsciiColumn(column.substr(half + 1), octets.subspan(half));
+        column.remove_prefix(1);
+        column.remove_suffix(1);
     }
-    // Blanks at the end may have been cut off.
-    if (column.empty() || column.size() > octets.size() ||
-        std::any_of(octets.begin() + static_cast<std::ptrdiff_t>(column.size()), octets.end(),
-                    [](auto octet) { return octet != ' '; }))
+    // Blanks at its start cannot be told from those before it.
+    while (!column.empty() && isBlank(column.front()))
     {
-        return false;
+        column.remove_prefix(1);
     }
-    for (std::size_t i = 0; i < column.size(); ++i)
+    std::size_t half = 8; // a blank may part the halves
+    while (!octets.empty() && octets.front() == ' ')
     {
-        const bool printable = octets[i] > ' ' && octets[i] <= '~';
-        const char c = column[i];
-        if (printable ? c != static_cast<char>(octets[i]) : c != '.' && c != ' ' && c != foreign)
-        {
-            return false;
-        }
+        octets = octets.subspan(1);
+        half -= half != 0 ? 1 : 0;
     }
-    return true;
+    if (half != 0 && column.size() == octets.size() + 1 && column.size() > half && column[half] == ' ')
+    {
+        const std::string joined = std::string(column.substr(0, half)) + std::string(column.substr(half + 1));
+        return showsOctets(joined, octets);
+    }
+    return showsOctets(column, octets);
 }
 
 std::optional<Input> readHexDump(const Piece& text, bool said)
@@ -602,12 +632,15 @@ std::optional<Input> readHexDump(const Piece& text, bool said)
     const bool lowFirst = words && !first.colon && first.offsetDigits() == 7;
 
     std::optional<Refusal> refusal; // of the reading that got furthest
-    std::optional<Input> second;    // a reading that its ASCII column contradicts
     for (const unsigned base : {16U, 8U, 10U})
     {
+        std::optional<DumpReader> best;
+        bool other = false; // the other order gives other octets, and nothing tells which is right
+        bool bestLow = false;
         for (const bool low : {lowFirst, !lowFirst})
         {
-            if ((low != lowFirst && !words) || (start->inside && base != 16))
+            // Only an ASCII column can tell that words with the high octet first are not.
+            if ((low != lowFirst && (!words || lowFirst)) || !isBase(base, *start))
             {
                 continue;
             }
@@ -624,25 +657,32 @@ std::optional<Input> readHexDump(const Piece& text, bool said)
                 }
                 continue;
             }
-            if (!said && isDoubtful(text, *start, dump.lines))
+            other = best && best->unlike == dump.unlike && best->octets != dump.octets;
+            if (!best || dump.unlike < best->unlike)
             {
-                return std::nullopt;
-            }
-            const bool agrees = dump.unlike == 0;
-            if (agrees || !second)
-            {
-                auto note = noteOf(dump, base, low, digits);
-                second = Input{Form::HexDump, std::move(dump.octets), {}, std::move(note)};
-            }
-            if (agrees)
-            {
-                return second;
+                best.emplace(std::move(dump));
+                bestLow = low;
             }
         }
-    }
-    if (second)
-    {
-        return second;
+        if (!best)
+        {
+            continue;
+        }
+        if (!said && isDoubtful(text, *start, best->lines))
+        {
+            return std::nullopt;
+        }
+        constexpr std::size_t mostSure = 4; // digits: words of two octets without a sign of the order are xxd's
+        if (!said && other && size > mostSure)
+        {
+            refuse(
+                text, first.groups[0].begin,
+                "the octets of a word may be in either order (xxd -g 4 or xxd -e): dump single octets (xxd -g 1), or "
+                "if the first comes first",
+                {Form::HexDump});
+        }
+        auto note = noteOf(*best, base, bestLow, digits);
+        return Input{Form::HexDump, std::move(best->octets), {}, std::move(note)};
     }
     if (!said && !isZero(text, first))
     {

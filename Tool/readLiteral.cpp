@@ -36,7 +36,8 @@ void questionRest(const Piece& text, std::size_t begin, std::size_t end, const I
 {
     const std::size_t rest =
         std::max(longestRun({text.all, text.begin, begin}), longestRun({text.all, std::min(end, text.end), text.end}));
-    if (rest >= 2 && 2 * rest >= input.octets.size())
+    constexpr std::size_t least = 4; // numbers are shorter
+    if (rest >= least && 2 * rest >= input.octets.size())
     {
         refuse(text, begin,
                counted(input.octets.size(), "octet") + " here, but also a run of hex of " + counted(rest, "octet"),

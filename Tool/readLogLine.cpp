@@ -134,7 +134,13 @@ private:
         const std::size_t end = skipHexDigits(text_, begin);
         const bool fraction = (text_.at(end) == '.' && isDigit(text_.at(end + 1))) ||
                               (i >= text_.begin + 2 && text_.all[i - 1] == '.' && isDigit(text_.all[i - 2]));
-        if (end == begin || isWord(text_.at(end)) || fraction)
+        // Paths and base64 have words of hex digits, too.
+        const auto isOf = [](std::string_view chars, char c)
+        {
+            return chars.find(c) != std::string_view::npos;
+        };
+        const bool part = isOf("/+=", text_.at(end)) || (i > text_.begin && isOf("/+", text_.all[i - 1]));
+        if (end == begin || isWord(text_.at(end)) || fraction || part)
         {
             return std::nullopt;
         }
@@ -213,7 +219,9 @@ private:
             back = joinLines(run);
         }
         constexpr std::size_t longestNumber = 16;
-        const bool number = run.prefixed && groups == 1 && run.digits <= longestNumber;
+        const auto digits = text_.all.substr(run.begin, run.end - run.begin);
+        const bool number = groups == 1 && run.digits <= longestNumber &&
+                            (run.prefixed || std::all_of(digits.begin(), digits.end(), isDigit));
         if (!number && run.digits % 2 == 0)
         {
             note(run);

@@ -242,7 +242,7 @@ TEST(Input, dumpsInOtherLayouts)
     expect({
         {"0x0000:  5ca0 0001 6162 20  \\...ab \n", "hexdump 5ca00001616220"}, // tcpdump -X
         {"0000:  5c a0\n0002:  00 01\n", "hexdump 5ca00001"},
-        {"00000000h: 5c a0 00 01 ; ....", "hexdump 5ca00001"},
+        {"00000000h: 5c a0 00 01 ; \\...", "hexdump 5ca00001"},
         {"0x7ffd5c20:\t0x5c\t0xa0\t0x00\t0x01\n0x7ffd5c24:\t0x02\n", "hexdump 5ca0000102"}, // a debugger
         {"0x7ffd5c20 <buffer+16>:\t0x5c\t0xa0\n0x7ffd5c22 <buffer+18>:\t0x02\n", "hexdump 5ca002"},
         {"0100  5c a0\n0102  00 01\n", "hexdump 5ca00001"}, // cut from a longer dump
@@ -264,7 +264,7 @@ TEST(Input, dumpsInOtherLayouts)
         // Its blanks are cut off.
         {"00000000: 5ca0  \\.\n00000002: 2020\n", "hexdump 5ca02020"},
         // The octets were edited, the ASCII column was not.
-        {"00000000: ffa0 6162  \\.ab\n00000004: ff    c\n", "hexdump ffa06162ff"},
+        {"00000000: ffa0 6162  \\.ab\n00000004: ff         c\n", "hexdump ffa06162ff"},
     });
     EXPECT_EQ(noteOf("0000  5c a0\n0002  00 01\n"), "hex dump, 4 octets in 2 lines");
     EXPECT_EQ(noteOf("0100  5c a0\n0102  00 01\n"), "hex dump, 4 octets in 2 lines, from offset 0100 on");
@@ -299,6 +299,11 @@ TEST(Input, dumpsThatAreBroken)
                                       "octets (x/xb)"},
         {"0000: 5c a0  xy\n", "refused 1:1: the line's end is neither octets nor the ASCII column of its octets"},
         {"0000 5c", "refused 1:1: an offset and octets, or hex in groups; say --as hexdump or --as hex"},
+        {"00000000: 5ca00001 02030405  ........\n",
+         "refused 1:1: the line's end is neither octets nor the ASCII column of its octets"},
+        {"00000000: 00a00001 02030405  ........\n", "refused 1:11: the octets of a word may be in either order (xxd -g "
+                                                    "4 or xxd -e): dump single octets (xxd -g 1), "
+                                                    "or if the first comes first; say --as hexdump"},
         {"0000: 36 31 20 36 32 20 36 33  61 62 63\n",
          "refused 1:1: the line's end may be octets or an ASCII column: cut it off"},
         {" 5c a0 00 01 02\n*\n 00 01\n", "refused 1:16: the hex is cut short here"},
@@ -315,7 +320,7 @@ TEST(Input, cArrays)
         {"/* Frame (4 bytes) */\nunsigned char x[4] = {0x5C,0XA0,0,255};", "c-array 5ca000ff"},
         {"uint8_t buf[8192] = { 0x5c, // first\n 0xa0, };", "c-array 5ca0"},
         {"unsigned char m_bin[] = {\n  0x5c, 0xa0\n};\nunsigned int m_bin_len = 2;\n", "c-array 5ca0"},
-        {"  0x5c, 0xa0, 0x61,\n  0x00\n", "hex 5ca06100"}, // xxd -i without a name
+        {"  0x5c, 0xa0, 0x61,\n  0x00\n", "c-array 5ca06100"}, // xxd -i without a name
         {"  0x5c, 0xa0, 0x00, /* \\.. */\n  0x01 // end\n", "c-array 5ca00001"},
         {"byte[] x = new byte[] { (byte) 0x5c, (byte)0xa0, 0 };", "c-array 5ca000"},
         {"{ 0x5c, 0xa0 }", "c-array 5ca0"},
@@ -381,9 +386,11 @@ TEST(Input, base64)
         // RFC 4648: the alphabets differ in their last two characters.
         {"+/+/AAAAAAAAAAAAAAAAab==", "refused 1:1: neither hex, a dump, an array, base64, JER, flat lines nor text "
                                      "with hex, unless it is a binary message that looks like text; say --as binary"},
-        {"+/+/AAAAAAAAAAAAAAAAaQ==", "base64 fbffbf00000000000000000000000000"
+        {"+/+/AAAAAAAAAAAAAAAAaQ==", "base64 fbffbf"
+                                     "000000000000000000000000"
                                      "69"},
-        {"-_-_AAAAAAAAAAAAAAAAaQ", "base64 fbffbf00000000000000000000000000"
+        {"-_-_AAAAAAAAAAAAAAAAaQ", "base64 fbffbf"
+                                   "000000000000000000000000"
                                    "69"},
         {"XKAAAQIDBAUGBwgJCgsM\nDQ4PEA==", "base64 5ca00001"
                                            "02030405060708090a0b0c0d0e0f10"},
@@ -392,7 +399,7 @@ TEST(Input, base64)
         // Words are not.
         {"Config", "refused 1:1: a word, or 6 base64 characters; say --as base64"},
         {"CellGroupConfig1", "refused 1:1: a word, or 16 base64 characters; say --as base64"},
-        {"XKAAAQIDBAUGBwgJCgsM\nXKAAAQIDBAUGBwgJCgsM12\n",
+        {"XKAAAQIDBAUGBwgJCgsM\nXKAAAQIDBAUGBwgJCgsM1234\n",
          "refused 2:1: lines of different lengths: several messages (--lines) or one in base64; say --as base64"},
     });
     EXPECT_EQ(outcome("Conf", Form::Base64), "base64 0a89df");
@@ -527,8 +534,8 @@ TEST(Input, tooLongIsRefused)
     ASSERT_TRUE(std::holds_alternative<Input>(recognition));
     EXPECT_EQ(std::get<Input>(recognition).octets.size(), tool::maxInputOctets);
     EXPECT_EQ(outcome(longest + '\x01'), "refused the input has more than 67108864 octets");
-    EXPECT_EQ(outcome("0000000 00\n*\n4000001\n"),
-              "refused 3:1: offset 4000001 is no whole number of repeated lines behind 0000000");
+    EXPECT_EQ(outcome("00000000  00\n*\n04000001\n"),
+              "refused 3:1: offset 04000001 is no whole number of repeated lines behind 00000000");
 }
 
 std::string linesOf(std::string_view raw)
@@ -731,12 +738,13 @@ TEST(Input, whatIsWrittenIsRecognised)
         EXPECT_EQ(outcome(joined(octets, "", " ")), "hex" + content);
         EXPECT_EQ(outcome(wrapped(joined(octets, "", " "), 48)), "hex" + content);
         EXPECT_EQ(outcome(joined(octets, "", ":")), "hex" + content);
-        EXPECT_EQ(outcome(joined(octets, "0x", ", ")), "hex" + content);
-        EXPECT_EQ(outcome(joined(octets, "0x", ",\n")), "hex" + content);
+        EXPECT_EQ(outcome(joined(octets, "0x", " ")), "hex" + content);
+        EXPECT_EQ(outcome(joined(octets, "0x", ", ") + ","), "c-array" + content);
+        EXPECT_EQ(outcome(joined(octets, "0x", ",\n") + ","), "c-array" + content);
         EXPECT_EQ(outcome(tool::toCArray(octets, "message")), "c-array" + content);
         EXPECT_EQ(outcome("\"" + joined(octets, "\\x", "") + "\""), "escaped" + content);
         EXPECT_EQ(outcome(wrapped(joined(octets, "\\x", ""), 64)), "escaped" + content);
-        if (octets.size() >= 4)
+        if (octets.size() > 8) // up to 16 decimal digits are a number
         {
             EXPECT_EQ(outcome("[2024-05-01 12:00:01.123] [RRC] pdu: " + joined(octets, "", " ")), "log" + content);
             EXPECT_EQ(outcome("\"masterCellGroup\": \"" + tool::toHex(octets) + "\","), "log" + content);
@@ -745,7 +753,13 @@ TEST(Input, whatIsWrittenIsRecognised)
         {
             const auto text = dumpOf(octets, layout);
             const auto result = outcome(text);
-            // A single line without ASCII column may end in octets that look like one.
+            if (layout.group > 2 && result.starts_with("refused"))
+            {
+                // No printable octet tells the order of those of a word.
+                EXPECT_THAT(result, testing::HasSubstr("in either order"));
+                EXPECT_LT(octets.size(), 12U) << text;
+                continue;
+            }
             EXPECT_EQ(result, "hexdump" + content) << layout.name << '\n' << text;
         }
 
