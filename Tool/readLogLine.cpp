@@ -2,6 +2,7 @@
 #include "readers.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tool
 {
@@ -50,8 +51,14 @@ bool isLike(const Piece& text, std::size_t i, std::string_view pattern)
 // data.
 std::size_t stampAt(const Piece& text, std::size_t i)
 {
-    for (const std::string_view pattern :
-         {"xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx", "dddd-dd-dd", "dddd-dd-ddTdd:dd:dd", "dddd-dd-ddTdd:dd:ddZ"})
+    static constexpr std::array<std::string_view, 4> patterns = {"xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx", "dddd-dd-dd",
+                                                                 "dddd-dd-ddTdd:dd:dd", "dddd-dd-ddTdd:dd:ddZ"};
+    static constexpr std::array<std::string_view, 2> times = {"dd:dd:dd", "dd:dd"};
+    if (hexValue(text.at(i)) < 0)
+    {
+        return 0;
+    }
+    for (const auto pattern : patterns)
     {
         if (isLike(text, i, pattern))
         {
@@ -62,7 +69,7 @@ std::size_t stampAt(const Piece& text, std::size_t i)
     {
         return (text.at(i + at) - '0') * 10 + (text.at(i + at + 1) - '0');
     };
-    for (const std::string_view time : {"dd:dd:dd", "dd:dd"})
+    for (const auto time : times)
     {
         if (isLike(text, i, time) && value(0) < 24 && value(3) < 60 && text.at(i + time.size()) != ':' &&
             (i == text.begin || text.all[i - 1] != ':'))
@@ -95,17 +102,17 @@ public:
     {
         for (std::size_t i = text_.begin; i < text_.end;)
         {
-            if (const std::size_t length = stampAt(text_, i))
+            if (!isWord(text_.all[i]))
+            {
+                ++i;
+            }
+            else if (const std::size_t length = stampAt(text_, i))
             {
                 i = skipFraction(text_, i + length);
             }
-            else if (isWord(text_.all[i]))
-            {
-                i = startRun(i);
-            }
             else
             {
-                ++i;
+                i = startRun(i);
             }
         }
     }

@@ -9,7 +9,6 @@
 
 #include <array>
 #include <chrono>
-#include <cstdlib>
 #include <random>
 
 namespace
@@ -842,11 +841,8 @@ TEST(Input, aMegabyteTakesNoTime)
         const auto start = std::chrono::steady_clock::now();
         (void)tool::recognise(text);
         const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-        EXPECT_LT(time.count(), 2000) << text.substr(0, 20); // 50 in a release build on an idle machine
-        if (std::getenv("CELLGROUPCFG_TIMES") != nullptr)
-        {
-            (void)std::printf("%7.1f ms  %s\n", time.count(), text.substr(0, 16).c_str());
-        }
+        // 50 in a release build on an idle machine; far more for a reader whose time is not linear.
+        EXPECT_LT(time.count(), 5000) << text.substr(0, 20);
     }
 }
 
