@@ -109,6 +109,16 @@ function(cgc_fuzzer name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzzers")
 endfunction()
 
+# cgc_corpus_test(<name> FUZZER <fuzzer> LIBS <library>...)
+# A fuzzer's function on each file of its corpus, with this build's compiler and checks.
+function(cgc_corpus_test name)
+    cmake_parse_arguments(arg "" "FUZZER" "LIBS" ${ARGN})
+    set(folder "${PROJECT_SOURCE_DIR}/fuzz")
+    cgc_program(${name} SOURCES "${folder}/${arg_FUZZER}Fuzz.cpp" "${folder}/replay.cpp" LIBS ${arg_LIBS})
+    add_test(NAME ${name} COMMAND ${name} "${folder}/corpus/${arg_FUZZER}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
 # cgc_composer_test(<name> SOURCES <file>...)
 # A test of composers: heap requests can be made to fail, any named type can be encoded, and the messages given to
 # expectDecoded() go to the independent decoder in the test oracle.messages.

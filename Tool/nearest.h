@@ -1,0 +1,15 @@
+// The known name that a mistyped one was likely meant to be.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace tool
+{
+
+// The name with the fewest letters inserted, dropped or replaced, if these are at most a third of the word (one at
+// least); the first of several. Upper and lower case count as the same letter.
+std::optional<std::string_view> nearest(std::string_view word, std::span<const std::string_view> names);
+
+} // namespace tool
