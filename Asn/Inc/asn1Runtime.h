@@ -250,6 +250,28 @@ int rtxTrace(OSCTXT* pctxt, const RtxType* type, void* value, unsigned flags, Rt
 // extension group and for an addition that this release does not know.
 const char* rtxFieldBitName(const RtxField* field, OSUINT32 bit);
 
+// A message within other octets: a length determinant (X.691 11.9) and behind it exactly that many octets.
+typedef struct RtxFound
+{
+    uint64_t bit;        // of the length determinant
+    uint64_t contentBit; // of the message's first octet; both may lie within an octet
+    OSUINT32 octets;     // of the message, 1..16383
+} RtxFound;
+
+typedef void (*RtxFoundSink)(void* arg, const RtxFound* found);
+// Called now and then with how many of the octets have been searched.
+typedef void (*RtxProgress)(void* arg, size_t octets);
+
+// Looks at every bit of `octets` octets, at most 512 MiB, for messages of the type: an octet string of at least `least`
+// octets that decodes completely, strictly and with zero padding. Of those that overlap the longest is taken, of equal
+// ones the first. Gives them to the sink in the order in which they lie. The context's heap holds the candidates and
+// one octet for each searched. Returns how many were found, or an RtxStatus. `progress` may be null.
+int64_t rtxFind(OSCTXT* pctxt, const RtxType* type, const OSOCTET* data, size_t octets, OSUINT32 least,
+                RtxFoundSink sink, RtxProgress progress, void* arg);
+
+// Copies the octets that begin at any bit to `to`.
+void rtxCopyBits(OSOCTET* to, const OSOCTET* data, uint64_t bit, size_t octets);
+
 // Where printed lines go: called with each piece of text in order, terminated.
 typedef void (*RtxPrintSink)(void* arg, const char* text);
 

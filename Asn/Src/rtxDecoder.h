@@ -21,6 +21,38 @@ struct Input
     Input(const OSOCTET* octets, uint32_t endBit) : data(octets), end(endBit), last(int64_t{endBit} - 64) {}
 };
 
+[[gnu::always_inline]] inline uint64_t load(const OSOCTET* data, uint64_t at)
+{
+    uint64_t word;
+    std::memcpy(&word, data + at / 8, sizeof word);
+    return __builtin_bswap64(word) << at % 8;
+}
+
+[[gnu::noinline]] inline uint64_t lastWindow(const Input& in, uint64_t at)
+{
+    uint64_t word = 0;
+    unsigned shift = 64;
+    for (uint64_t i = at / 8; i * 8 < in.end && shift != 0; ++i)
+    {
+        shift -= 8;
+        word |= uint64_t{in.data[i]} << shift;
+    }
+    return word << at % 8;
+}
+
+// The bits from a position on, the first 57 of them as they are in the input; what lies behind its end is not to be
+// used.
+inline uint64_t window(const Input& in, uint64_t at)
+{
+    return static_cast<int64_t>(at) <= in.last ? load(in.data, at) : lastWindow(in, at);
+}
+
+// The first `count` bits of a window, 0..57.
+inline uint64_t top(uint64_t window, unsigned count)
+{
+    return window >> 1 >> (63 - count);
+}
+
 // An open type field as it lies in the input.
 struct OpenField
 {
@@ -42,6 +74,14 @@ struct UnknownAddition
 struct NoObserver
 {
     static constexpr bool active = false;
+    static constexpr bool skims = false;
+};
+
+// Only whether there is a message: nothing is stored, nothing is said of an error, and no memory is used.
+struct Skimmer
+{
+    static constexpr bool active = false;
+    static constexpr bool skims = true;
 };
 
 template <typename Observer>
@@ -71,24 +111,35 @@ public:
     }
 
 private:
+    static constexpr bool skims = Observer::skims;
+
     [[gnu::cold, gnu::noinline]] Position fail(Position at, RtxStatus status, int64_t value = 0, int64_t lower = 0,
                                                int64_t upper = 0)
     {
-        setError(ctxt_, status, value, lower, upper);
-        ctxt_.error.hasOffset = 1;
-        ctxt_.error.bitOffset = at;
+        if constexpr (!skims)
+        {
+            setError(ctxt_, status, value, lower, upper);
+            ctxt_.error.hasOffset = 1;
+            ctxt_.error.bitOffset = at;
+        }
         return failed;
     }
 
     [[gnu::cold, gnu::noinline]] Position inMember(const Type& type, const Member& member)
     {
-        pushName(ctxt_, type.names[&member - type.members]);
+        if constexpr (!skims)
+        {
+            pushName(ctxt_, type.names[&member - type.members]);
+        }
         return failed;
     }
 
     [[gnu::cold, gnu::noinline]] Position inElement(uint32_t index)
     {
-        pushIndex(ctxt_, index);
+        if constexpr (!skims)
+        {
+            pushIndex(ctxt_, index);
+        }
         return failed;
     }
 
@@ -100,43 +151,17 @@ private:
     // Cleared octets of the context's heap; null when it is exhausted.
     OSOCTET* allocate(size_t size)
     {
+        if constexpr (skims)
+        {
+            static OSOCTET unused;
+            return &unused;
+        }
         return static_cast<OSOCTET*>(rtx::allocate(ctxt_, size));
     }
 
     [[gnu::cold, gnu::noinline]] Position ends(Position at, uint64_t count)
     {
         return fail(at, RTX_E_END, static_cast<int64_t>(count));
-    }
-
-    // The 64 bits from a position on, as many as it says are sure to be in the input; what lies behind its end is 0.
-    static uint64_t window(const Input& in, Position at)
-    {
-        return static_cast<int64_t>(at) <= in.last ? load(in.data, at) : lastWindow(in, at);
-    }
-
-    [[gnu::always_inline]] static uint64_t load(const OSOCTET* data, Position at)
-    {
-        uint64_t word;
-        std::memcpy(&word, data + at / 8, sizeof word);
-        return __builtin_bswap64(word) << at % 8;
-    }
-
-    [[gnu::noinline]] static uint64_t lastWindow(const Input& in, Position at)
-    {
-        uint64_t word = 0;
-        unsigned shift = 64;
-        for (Position i = at / 8; i * 8 < in.end && shift != 0; ++i)
-        {
-            shift -= 8;
-            word |= uint64_t{in.data[i]} << shift;
-        }
-        return word << at % 8;
-    }
-
-    // The first `count` bits of a window, 0..57; the rest of it was loaded with them.
-    static uint64_t top(uint64_t window, unsigned count)
-    {
-        return window >> 1 >> (63 - count);
     }
 
     // The window at a position from which `count` bits, at most 57, are to be read; false when the input ends before.
@@ -171,7 +196,7 @@ private:
     // Copies octets that are known to be there.
     static void copyOctets(const Input& in, Position at, OSOCTET* to, uint32_t count)
     {
-        for (; count != 0; --count, at += 8)
+        for (count = skims ? 0 : count; count != 0; --count, at += 8)
         {
             *to++ = static_cast<OSOCTET>(top(window(in, at), 8));
         }
@@ -222,7 +247,7 @@ private:
     // The message is taken, but this encoder would have written other octets from here on.
     [[gnu::cold, gnu::noinline]] void note(RtxNote note, Position at)
     {
-        if (ctxt_.decoded.note == RTX_NOTE_NONE)
+        if (!skims && ctxt_.decoded.note == RTX_NOTE_NONE)
         {
             ctxt_.decoded.note = static_cast<OSUINT8>(note);
             ctxt_.decoded.noteOffset = at;
@@ -429,6 +454,10 @@ private:
             const Position read = decodeContent(content, field.content);
             return read == failed || finish(content, field.content, read) == failed ? failed : behind;
         }
+        if constexpr (skims)
+        {
+            return failed; // it would have to be put together
+        }
         // Where a position in the assembled octets lies in the input.
         const auto inInput = [&](uint64_t offset)
         {
@@ -465,14 +494,20 @@ private:
 
     static void storePointer(OSOCTET* to, void* p)
     {
-        std::memcpy(to, &p, sizeof p);
+        if constexpr (!skims)
+        {
+            std::memcpy(to, &p, sizeof p);
+        }
     }
 
     template <typename T>
     static void store(OSOCTET* to, uint64_t value)
     {
-        const auto stored = static_cast<T>(value);
-        std::memcpy(to, &stored, sizeof stored);
+        if constexpr (!skims)
+        {
+            const auto stored = static_cast<T>(value);
+            std::memcpy(to, &stored, sizeof stored);
+        }
     }
 
     // 11.5: a whole number of a range, in as few bits as hold it.
@@ -572,7 +607,7 @@ private:
             return ends(at, count);
         }
         copyOctets(in, at, to, count / 8);
-        if (count % 8 != 0)
+        if (!skims && count % 8 != 0)
         {
             to[count / 8] = static_cast<OSOCTET>(top(window(in, at + count / 8 * 8), count % 8) << (8 - count % 8));
         }
@@ -629,7 +664,7 @@ private:
             flags |= uint64_t{reversedOctets[window >> 56]} << i;
         }
         flags = (flags & ((uint64_t{1} << count) - 1)) << first;
-        for (uint64_t left = flags; left != 0; left >>= 32, structure += 4)
+        for (uint64_t left = skims ? 0 : flags; left != 0; left >>= 32, structure += 4)
         {
             store<OSUINT32>(structure, load32(structure) | static_cast<uint32_t>(left));
         }
@@ -645,7 +680,10 @@ private:
 
     static void setFlag(OSOCTET* structure, int flag)
     {
-        structure[flag / 8] = static_cast<OSOCTET>(structure[flag / 8] | 1U << flag % 8);
+        if constexpr (!skims)
+        {
+            structure[flag / 8] = static_cast<OSOCTET>(structure[flag / 8] | 1U << flag % 8);
+        }
     }
 
     // 19.4: those present among `count` members; `present` has the flags of the structure at their places.
@@ -747,7 +785,7 @@ private:
         at = openType(in, at, content);
         leave();
         // A member's path does without its group, except where the group ends before it: that is not the message's end.
-        if (at == failed && (ctxt_.error.depth == 0 || ctxt_.error.status == RTX_E_END))
+        if (!skims && at == failed && (ctxt_.error.depth == 0 || ctxt_.error.status == RTX_E_END))
         {
             pushGroup(ctxt_, index + 1);
         }
@@ -795,8 +833,15 @@ private:
         if (at == failed)
         {
             inElement(index);
-            pushName(ctxt_, "extElem1");
+            if constexpr (!skims)
+            {
+                pushName(ctxt_, "extElem1");
+            }
             return failed;
+        }
+        if constexpr (skims)
+        {
+            return at;
         }
         auto* const unknown = reinterpret_cast<UnknownAddition*>(block);
         unknown->open.index = index;
@@ -810,9 +855,9 @@ private:
     {
         OpenField field;
         at = passOpenField(in, at, field);
-        if (at == failed)
+        if (at == failed || skims)
         {
-            return failed;
+            return at;
         }
         block = allocate(head + field.octets);
         if (block == nullptr)
@@ -1013,16 +1058,14 @@ private:
         ++depth_;
         for (uint32_t i = 0; i < number; ++i)
         {
-            auto* const node = reinterpret_cast<OSRTDListNode*>(allocate(size));
-            if (node == nullptr) [[unlikely]]
+            OSOCTET* const data = appendNode(list, size);
+            if (data == nullptr) [[unlikely]]
             {
                 heapExhausted(at, size);
                 return inElement(i);
             }
-            node->data = node + 1;
-            rtxDListAppendNode(list, node);
             enter({nullptr, i, 0});
-            at = value(in, *type.members, static_cast<OSOCTET*>(node->data), at);
+            at = value(in, *type.members, data, at);
             leave();
             if (at == failed) [[unlikely]]
             {
@@ -1031,6 +1074,20 @@ private:
         }
         --depth_;
         return at;
+    }
+
+    // A node of `size` octets with its element at the end of a list; the element is returned, null without memory.
+    OSOCTET* appendNode(OSRTDList* list, size_t size)
+    {
+        OSOCTET* const block = allocate(size);
+        if (skims || block == nullptr)
+        {
+            return block;
+        }
+        auto* const node = reinterpret_cast<OSRTDListNode*>(block);
+        node->data = node + 1;
+        rtxDListAppendNode(list, node);
+        return block + sizeof(OSRTDListNode);
     }
 
     static constexpr uint64_t mandatory = uint64_t{1} << 63; // of flag -1

@@ -93,11 +93,7 @@ class Search
 {
 public:
     Search(OSCTXT& ctxt, const Type& type, const OSOCTET* data, uint32_t octets, uint32_t least)
-        : type_(type),
-          whole_(data, octets * 8),
-          least_(least),
-          ctxt_(ctxt),
-          found_(ctxt)
+        : type_(type), whole_(data, octets * 8), least_(least), ctxt_(ctxt), found_(ctxt)
     {
     }
 
@@ -152,7 +148,7 @@ int64_t rtxFind(OSCTXT* pctxt, const RtxType* type, const OSOCTET* data, size_t 
                 RtxFoundSink sink, RtxProgress progress, void* arg)
 {
     using namespace rtx;
-    if (pctxt == nullptr || data == nullptr)
+    if (pctxt == nullptr || (data == nullptr && octets != 0))
     {
         return RTX_E_NULL;
     }

@@ -10,6 +10,7 @@ class Tracer
 {
 public:
     static constexpr bool active = true;
+    static constexpr bool skims = false;
 
     Tracer(RtxFieldSink sink, void* arg) : sink_(sink), arg_(arg) {}
 

@@ -58,11 +58,6 @@ constexpr Type blockType = {.name = "Block",
                             .memberCount = 1,
                             .rootCount = 1};
 
-std::string zeros(size_t bits)
-{
-    return std::string(bits, '0');
-}
-
 TEST_F(Find, AMessageAtAnyBit)
 {
     // 0x8258 is 600 octets; each number is 1, which is below the upper bound of 40000.
