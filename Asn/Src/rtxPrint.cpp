@@ -1,13 +1,9 @@
 // The printer: a walker over the type descriptors that takes nothing in the tree for granted, as it also shows trees
 // that the encoder has refused.
-#include "rtxHeap.h"
-#include "rtxType.h"
+#include "rtxTree.h"
 #include "vos_lib.h"
 
 #include <cinttypes>
-#include <cstdarg>
-#include <cstdio>
-#include <cstring>
 
 namespace rtx
 {
@@ -17,74 +13,10 @@ namespace
 constexpr const char* notFollowed = "a pointer that is not followed, as no context is named";
 constexpr const char* foreign = "a pointer out of the context's heap";
 
-bool hasFlag(const void* structure, int flag)
+const char* refusal(const OSCTXT* ctxt, RtxStatus status)
 {
-    return (static_cast<const OSOCTET*>(structure)[flag / 8] >> (flag % 8) & 1) != 0;
+    return status == RTX_E_NULL ? "a null pointer" : ctxt == nullptr ? notFollowed : foreign;
 }
-
-template <typename T>
-T load(const void* from, size_t offset = 0)
-{
-    T value;
-    std::memcpy(&value, static_cast<const OSOCTET*>(from) + offset, sizeof value);
-    return value;
-}
-
-int64_t loadInteger(const void* from, unsigned width, bool isSigned)
-{
-    switch (width)
-    {
-    case 1:
-        return isSigned ? int64_t{load<OSINT8>(from)} : load<OSUINT8>(from);
-    case 2:
-        return isSigned ? int64_t{load<OSINT16>(from)} : load<OSUINT16>(from);
-    default:
-        return isSigned ? int64_t{load<OSINT32>(from)} : load<OSUINT32>(from);
-    }
-}
-
-// Collects lines for the sink.
-class Output
-{
-public:
-    Output(RtxPrintSink sink, void* arg) : sink_(sink), arg_(arg) {}
-
-    void put(const char* text)
-    {
-        for (; *text != '\0'; ++text)
-        {
-            put(*text);
-        }
-    }
-
-    void put(char c)
-    {
-        text_[length_++] = c;
-        if (c == '\n' || length_ == sizeof text_ - 1)
-        {
-            text_[length_] = '\0';
-            length_ = 0;
-            sink_(arg_, text_);
-        }
-    }
-
-    // For numbers and fixed words only: what is longer than `piece` would be cut.
-    __attribute__((format(printf, 2, 3))) void format(const char* format, ...)
-    {
-        char piece[160];
-        va_list args;
-        va_start(args, format);
-        (void)std::vsnprintf(piece, sizeof piece, format, args);
-        va_end(args);
-        put(piece);
-    }
-
-private:
-    RtxPrintSink sink_;
-    void* arg_;
-    char text_[512];
-    size_t length_ = 0;
-};
 
 class Printer
 {
@@ -121,19 +53,8 @@ private:
     // Why a pointer to `size` octets is not followed; null when it is.
     const char* refuse(const void* p, size_t size) const
     {
-        if (p == nullptr)
-        {
-            return "a null pointer";
-        }
-        if (ctxt_ == nullptr)
-        {
-            return notFollowed;
-        }
-        // A type's alignment divides its size.
-        const size_t divisor = size & (~size + 1);
-        const size_t alignment = divisor < alignof(void*) ? divisor : alignof(void*);
-        const bool aligned = alignment == 0 || reinterpret_cast<uintptr_t>(p) % alignment == 0;
-        return aligned && owns(*ctxt_, p, size) ? nullptr : foreign;
+        const RtxStatus status = rtx::refuse(ctxt_, p, size);
+        return status == RTX_OK ? nullptr : refusal(ctxt_, status);
     }
 
     void indent()
@@ -323,16 +244,9 @@ private:
 
     void openType(const char* name, const ASN1OpenType& open)
     {
-        if (open.data == nullptr)
+        if (const RtxStatus status = rtx::refuse(ctxt_, open))
         {
-            note(name, "absent");
-            return;
-        }
-        // Single octets need no alignment.
-        const bool owned = ctxt_ != nullptr && owns(*ctxt_, open.data, open.numocts);
-        if (!owned)
-        {
-            note(name, ctxt_ == nullptr ? notFollowed : foreign);
+            note(name, status == RTX_E_NULL ? "absent" : refusal(ctxt_, status));
             return;
         }
         indent();
@@ -412,36 +326,28 @@ private:
     template <typename Print>
     void nodes(const OSRTDList& value, uint32_t number, const Print& print)
     {
-        const OSRTDListNode* node = value.head;
-        const OSRTDListNode* mark = nullptr; // an earlier node: the list is a loop when it comes again
-        for (uint32_t i = 0; i < number; ++i)
+        const auto each = [&](uint32_t index, const void* data)
         {
-            if (node == nullptr)
-            {
-                listEnds(value.count, i);
-                return;
-            }
-            const char* reason = refuse(node, sizeof *node);
-            if (node == mark)
-            {
-                reason = "the list goes back to an earlier element";
-            }
-            if (reason != nullptr)
-            {
-                note(Index(i).text, reason);
-                return;
-            }
-            if ((i & (i - 1)) == 0) // moves on at each power of 2, so that it gets into any loop
-            {
-                mark = node;
-            }
-            print(Index(i).text, node->data);
-            node = node->next;
-        }
-        if (node != nullptr && number == value.count)
+            print(Index(index).text, data);
+        };
+        uint32_t reached = 0;
+        switch (forNodes(ctxt_, value, number, reached, each))
         {
+        case ListEnd::Asked:
+            break;
+        case ListEnd::Early:
+            listEnds(value.count, reached);
+            break;
+        case ListEnd::Foreign:
+            note(Index(reached).text, refusal(ctxt_, RTX_E_FOREIGN));
+            break;
+        case ListEnd::Loop:
+            note(Index(reached).text, "the list goes back to an earlier element");
+            break;
+        case ListEnd::GoesOn:
             indent();
             out_.put("the list goes on behind its last element\n");
+            break;
         }
     }
 
