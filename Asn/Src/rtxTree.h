@@ -6,6 +6,7 @@
 #include "rtxHeap.h"
 #include "rtxType.h"
 
+#include <cinttypes>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
@@ -37,6 +38,56 @@ inline int64_t loadInteger(const void* from, unsigned width, bool isSigned)
     default:
         return isSigned ? int64_t{load<OSINT32>(from)} : load<OSUINT32>(from);
     }
+}
+
+// What is wrong with the value of an integer or an enumeration.
+inline Reason outside(const Type& type, int64_t value)
+{
+    const bool in = value >= type.lower && value <= type.upper;
+    return in ? Reason{} : Reason{RTX_E_RANGE, value, type.lower, type.upper};
+}
+
+// What is wrong with the number of a list's or an array's elements.
+inline Reason wrongSize(const Type& type, uint32_t number)
+{
+    const bool right = number >= static_cast<uint32_t>(type.lower) && number <= static_cast<uint32_t>(type.upper);
+    return right ? Reason{} : Reason{RTX_E_SIZE, number, type.lower, type.upper};
+}
+
+inline Reason wrongLength(const Type& type, uint32_t bits)
+{
+    const bool right = bits == static_cast<uint32_t>(type.upper);
+    return right ? Reason{} : Reason{RTX_E_BITS, bits, type.upper, type.upper};
+}
+
+// What is wrong with a choice's tag, where it is not that of an alternative that this release knows.
+inline Reason wrongTag(const Type& type, uint32_t tag)
+{
+    const bool known = tag >= 1 && tag <= type.memberCount;
+    return known ? Reason{} : Reason{RTX_E_CHOICE, tag, 1, type.memberCount};
+}
+
+// Whether a null pointer to such an element stands for the empty one: a sequence all of whose members may be absent.
+inline bool mayBeEmpty(const Type& type)
+{
+    bool empty = type.kind == Kind::Sequence;
+    for (unsigned i = 0; i < type.rootCount; ++i)
+    {
+        empty = empty && type.members[i].flag >= 0;
+    }
+    return empty;
+}
+
+// The number of an array's elements.
+inline uint32_t countOf(const Type& type, const void* array)
+{
+    return static_cast<uint32_t>(type.lower == type.upper ? type.upper : loadInteger(array, type.width, false));
+}
+
+// The number of an unknown addition, that a list holds at an index, among those of its sequence.
+inline uint32_t additionNumber(uint32_t index, const ASN1OpenType& /*open*/)
+{
+    return index;
 }
 
 // Why a pointer to `size` octets of a type's storage is not followed: RTX_E_NULL, RTX_E_FOREIGN; RTX_OK when it is.
@@ -105,6 +156,100 @@ ListEnd forNodes(const OSCTXT* ctxt, const OSRTDList& list, uint32_t number, uin
     return node != nullptr && number == list.count ? ListEnd::GoesOn : ListEnd::Asked;
 }
 
+// A reason as text.
+struct ReasonText
+{
+    explicit ReasonText(const Reason& reason)
+    {
+        (void)formatReason(reason, text, sizeof text);
+    }
+
+    char text[160];
+};
+
+// Follows a walk in the order of the wire and tells what a decoder that gave up had read before: it stopped at the path
+// of its context's error. Nothing is left out without such an error, and none of another type's tree.
+class Reading
+{
+public:
+    explicit Reading(const OSCTXT* ctxt)
+    {
+        if (ctxt != nullptr && ctxt->error.status != RTX_OK && ctxt->error.hasOffset != 0 &&
+            ctxt->error.depth <= RTX_MAX_DEPTH)
+        {
+            path_ = ctxt->error.path;
+            length_ = ctxt->error.depth;
+            // What is wrong behind a value, not with it.
+            behind_ = ctxt->error.status == RTX_E_PADDING || ctxt->error.status == RTX_E_SURPLUS;
+        }
+    }
+
+    void enter(const RtxPathStep& step)
+    {
+        if (isNext(step))
+        {
+            ++matched_;
+            stopped_ = matched_ == length_ && !behind_;
+        }
+        ++depth_;
+    }
+
+    void leave()
+    {
+        stopped_ = stopped_ || matched_ == depth_;
+        --depth_;
+    }
+
+    // Whether nothing from here on was read.
+    bool stopped() const
+    {
+        return stopped_;
+    }
+
+    // Whether it stops in this place, perhaps behind all that is known of it.
+    bool stopsHere() const
+    {
+        return stopped_ || (matched_ == depth_ && matched_ < length_);
+    }
+
+    // Whether nothing from this step on was read.
+    bool stopsAt(const RtxPathStep& step) const
+    {
+        return stopped_ || (!behind_ && matched_ + 1 == length_ && isNext(step));
+    }
+
+    // Whether it stops at this step or below it.
+    bool isNext(const RtxPathStep& step) const
+    {
+        return !stopped_ && matched_ == depth_ && matched_ < length_ && same(next(), step);
+    }
+
+    // The name of the alternative at or below which it stops in this choice, else null.
+    const char* nextName() const
+    {
+        return !stopped_ && stopsHere() ? next().name : nullptr;
+    }
+
+private:
+    static bool same(const RtxPathStep& a, const RtxPathStep& b)
+    {
+        return a.name != nullptr && b.name != nullptr ? std::strcmp(a.name, b.name) == 0
+                                                      : a.name == b.name && a.index == b.index;
+    }
+
+    const RtxPathStep& next() const
+    {
+        return path_[length_ - 1 - matched_];
+    }
+
+    const RtxPathStep* path_ = nullptr; // innermost step first
+    uint32_t length_ = 0;
+    uint32_t matched_ = 0; // steps of the path that the walk has taken
+    uint32_t depth_ = 0;   // steps that lead to where the walk is
+    bool behind_ = false;
+    bool stopped_ = false;
+};
+
 // Collects pieces of text for a sink: a line, or what fits.
 class Output
 {
@@ -139,6 +284,46 @@ public:
         (void)std::vsnprintf(piece, sizeof piece, format, args);
         va_end(args);
         put(piece);
+    }
+
+    // A member's name, or the index of an element in brackets.
+    void put(const RtxPathStep& step)
+    {
+        if (step.name != nullptr)
+        {
+            put(step.name);
+        }
+        else
+        {
+            format("[%" PRIu32 "]", step.index);
+        }
+    }
+
+    void binary(const OSOCTET* data, uint32_t count)
+    {
+        for (uint32_t i = 0; i < count; ++i)
+        {
+            put((data[i / 8] >> (7 - i % 8) & 1) != 0 ? '1' : '0');
+        }
+    }
+
+    // The first `count` bits as hexadecimal digits; what lies behind them counts as zero bits.
+    void hex(const OSOCTET* data, uint64_t count, uint64_t digits)
+    {
+        for (uint64_t i = 0; i < digits; ++i)
+        {
+            unsigned digit = data[i / 2] >> (i % 2 == 0 ? 4 : 0) & 0xFU;
+            if (4 * i + 4 > count)
+            {
+                digit &= 4 * i < count ? 0xFU << (4 * i + 4 - count) : 0;
+            }
+            put("0123456789ABCDEF"[digit]);
+        }
+    }
+
+    void octets(const OSOCTET* data, uint64_t count)
+    {
+        hex(data, 8 * count, 2 * count);
     }
 
 private:
