@@ -1,4 +1,4 @@
-#include "rtxType.h"
+#include "rtxTree.h"
 #include "vos_lib.h"
 
 #include <cinttypes>
@@ -201,17 +201,10 @@ size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size)
 
 void rtxErrPrint(const OSCTXT* pctxt)
 {
-    char text[4096];
-    const size_t length = rtxErrFormat(pctxt, text, sizeof text);
-    if (length == 0)
+    if (pctxt->error.status != RTX_OK)
     {
-        return;
+        VOS_Printf("%s\n", rtx::ErrorText(*pctxt).text);
     }
-    if (length >= sizeof text)
-    {
-        std::memcpy(text + sizeof text - 4, "...", 4);
-    }
-    VOS_Printf("%s\n", text);
 }
 
 void rtxErrReset(OSCTXT* pctxt)

@@ -12,6 +12,8 @@ class Printer
 public:
     Printer(RtxPrintSink sink, void* arg) : out_(sink, arg) {}
 
+    void stopped(const OSCTXT&, const Type&) {}
+
     void begin(const RtxPathStep& step)
     {
         indent();
@@ -95,7 +97,7 @@ public:
         ++depth_;
     }
 
-    void closeList()
+    void closeList(const Type&)
     {
         --depth_;
     }
@@ -123,10 +125,15 @@ public:
         out_.put('\n');
     }
 
-    void notRead(const char* what)
+    void notRead(const char* name)
     {
-        begin({what, 0});
+        begin({name, 0});
         invalid("not read");
+    }
+
+    void notReadElements(const char* text)
+    {
+        notRead(text);
     }
 
     bool unsent(const RtxPathStep& step)
@@ -193,7 +200,7 @@ private:
     void octets(const ASN1OpenType& open)
     {
         out_.format(": %" PRIu32 " octet%s ", open.numocts, open.numocts == 1 ? "" : "s");
-        out_.octets(open.data, open.numocts);
+        out_.octets(open);
         out_.put('\n');
     }
 

@@ -167,6 +167,20 @@ struct ReasonText
     char text[160];
 };
 
+// A context's error as text.
+struct ErrorText
+{
+    explicit ErrorText(const OSCTXT& ctxt)
+    {
+        if (rtxErrFormat(&ctxt, text, sizeof text) >= sizeof text)
+        {
+            std::memcpy(text + sizeof text - 4, "...", 4);
+        }
+    }
+
+    char text[4096];
+};
+
 // Follows a walk in the order of the wire and tells what a decoder that gave up had read before: it stopped at the path
 // of its context's error. Nothing is left out without such an error, and none of another type's tree.
 class Reading
@@ -321,9 +335,15 @@ public:
         }
     }
 
-    void octets(const OSOCTET* data, uint64_t count)
+    // Whole octets, two digits each.
+    void octets(const OSOCTET* data, uint64_t bits)
     {
-        hex(data, 8 * count, 2 * count);
+        hex(data, bits, (bits + 7) / 8 * 2);
+    }
+
+    void octets(const ASN1OpenType& open)
+    {
+        octets(open.data, uint64_t{8} * open.numocts);
     }
 
 private:

@@ -1,15 +1,19 @@
 // The walk over an element tree, in the order of the wire, that all writers share. It takes nothing in the tree for
 // granted and knows what was never read; a writer says how things look. The walk calls of it:
 //
+// stopped(ctxt, type)    first, when a decoder gave up in this tree
 // begin(step) ... end()  around each value with its name or index; between them one of
 //   boolean(value), null(), integer(type, value, wrong), enumerated(type, value, wrong)
 //   bits(data, count, wrong)
 //   open(type) ... close(type)                       a sequence's members, a choice's only alternative
-//   openList(type, number, wrong) ... closeList()    at most as many elements as the type allows
+//   openList(type, number, wrong) ... closeList(type)  at most as many elements as the type allows
 //   unknownAlternative(type, tag, wrong, open, refusal)  `refusal` says why `open` is not shown, null when it is
 //   invalid(text)                                    there is no value
 // and inside of a sequence, a choice or a list
-//   notRead(what)                                    a name, "[2]", "[2..4]", "[2..]", or "..." for extension additions
+//   notRead(name), notReadElements(text)             a member, an alternative, "..." for the extension additions;
+//   elements
+//                                                    "[2]", "[2..4]" or, where no end is known, "[2..]". Nothing but
+//                                                    these follows. notRead() alone when it is the root.
 //   unsent(step)                                     a member of a group that is not present: is it to be shown?
 //   openUnknown(count) ... closeUnknown()            around the unknown additions: unknown(type, index, open),
 //                                                    absent(index), or a value that is invalid
@@ -38,6 +42,7 @@ public:
         if (reading_.isNext(root))
         {
             status_ = ctxt_->error.status;
+            writer_.stopped(*ctxt_, type);
         }
         // The root is the caller's and need not lie in the heap.
         const auto content = [&]
@@ -208,7 +213,10 @@ private:
         }
         if (type.extensible)
         {
-            unknownAdditions(type, load<OSRTDList>(value, type.extElem));
+            if (!reading_.stopped())
+            {
+                unknownAdditions(type, load<OSRTDList>(value, type.extElem));
+            }
             if (reading_.stopsHere())
             {
                 writer_.notRead("...");
@@ -331,9 +339,9 @@ private:
         }
         if (i < number)
         {
-            notRead(i, number - 1, number - 1);
+            notReadElements(i, number - 1, number - 1);
         }
-        writer_.closeList();
+        writer_.closeList(type);
     }
 
     void list(const Type& type, const OSRTDList& value)
@@ -355,13 +363,13 @@ private:
         nodes(value, number, each);
         if (reading_.stopsHere() && read < static_cast<uint32_t>(type.upper))
         {
-            notRead(read, none, static_cast<uint32_t>(type.upper) - 1); // how many were announced is not known
+            notReadElements(read, none, static_cast<uint32_t>(type.upper) - 1); // how many were announced is not known
         }
-        writer_.closeList();
+        writer_.closeList(type);
     }
 
     // The elements from one to another were not read, up to `most` where the last one is not known.
-    void notRead(uint32_t first, uint32_t last, uint32_t most)
+    void notReadElements(uint32_t first, uint32_t last, uint32_t most)
     {
         char text[32];
         if (first == most)
@@ -376,7 +384,7 @@ private:
         {
             (void)std::snprintf(text, sizeof text, "[%" PRIu32 "..%" PRIu32 "]", first, last);
         }
-        writer_.notRead(text);
+        writer_.notReadElements(text);
     }
 
     void unknownAdditions(const Type& type, const OSRTDList& value)
@@ -443,6 +451,26 @@ private:
     int status_ = RTX_OK;
     unsigned depth_ = 0;
 };
+
+// The index on the wire of an alternative that this release does not know, among the choice's extension additions.
+inline uint32_t extensionIndex(const Type& type, uint32_t tag)
+{
+    return tag - 1 - type.rootCount;
+}
+
+// Writes a tree with Writer(options..., sink, arg).
+template <typename Writer, typename... Options>
+int write(const OSCTXT* ctxt, const Type* type, const void* value, RtxPrintSink sink, void* arg, Options... options)
+{
+    if (type == nullptr || sink == nullptr)
+    {
+        return RTX_E_NULL;
+    }
+    Writer writer(options..., sink, arg);
+    const int status = Walk(ctxt, writer).run(*type, type->name, value);
+    writer.finish();
+    return status;
+}
 
 } // namespace rtx
 
