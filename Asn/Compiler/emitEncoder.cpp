@@ -524,6 +524,7 @@ std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pd
         out += "\nvoid asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +
                "* pvalue, RtxPrintSink sink, void* arg)\n{\n    rtx::print(pctxt, " + table +
                ", name, pvalue, sink, arg);\n}\n";
+        out += "\nconst RtxType* asn1Type_" + name + "(void)\n{\n    return &" + table + ";\n}\n";
     }
     return out;
 }

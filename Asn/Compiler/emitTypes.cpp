@@ -21,6 +21,14 @@ std::string guard(const std::string& header)
     return result;
 }
 
+// A typed call of the runtime's writer. Inline, so that a program that does not call it does not hold the writer.
+static std::string writer(const std::string& form, const std::string& type, bool hasLayout)
+{
+    return "static inline int asn1To" + form + "_" + type + "(const OSCTXT* pctxt, const " + type + "* pvalue, " +
+           (hasLayout ? "RtxLayout layout, " : "") + "RtxPrintSink sink, void* arg) { return rtxTo" + form +
+           "(pctxt, asn1Type_" + type + "(), pvalue, " + (hasLayout ? "layout, " : "") + "sink, arg); }\n";
+}
+
 std::string pduPrototypes(const Pdus& pdus)
 {
     std::string out;
@@ -36,6 +44,9 @@ std::string pduPrototypes(const Pdus& pdus)
         out += "// Prints to a sink, following the pointers of *pctxt's heap only.\n";
         out += "void asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +
                "* pvalue, RtxPrintSink sink, void* arg);\n";
+        out += "// The type for the calls that take any, and the writers of trees with this one.\n";
+        out += "const RtxType* asn1Type_" + name + "(void);\n";
+        out += writer("Json", name, true) + writer("ValueNotation", name, true) + writer("Flat", name, false);
     }
     return out;
 }

@@ -108,10 +108,10 @@ constexpr std::array keywords = std::to_array<std::string_view>({"alignas",
                                                                  "xor_eq"});
 
 // What the runtime's header has taken.
-constexpr std::array runtimeNames =
-    std::to_array<std::string_view>({"ASN1BitStr32", "ASN1OpenType", "OSBOOL", "OSCTXT", "OSINT16", "OSINT32", "OSINT8",
-                                     "OSOCTET", "OSRTDList", "OSRTDListNode", "OSUINT16", "OSUINT32", "OSUINT8",
-                                     "RtxError", "RtxHeapBlock", "RtxPathStep", "RtxPrintSink", "RtxStatus"});
+constexpr std::array runtimeNames = std::to_array<std::string_view>(
+    {"ASN1BitStr32", "ASN1OpenType", "OSBOOL",        "OSCTXT",       "OSINT16",   "OSINT32", "OSINT8",
+     "OSOCTET",      "OSRTDList",    "OSRTDListNode", "OSUINT16",     "OSUINT32",  "OSUINT8", "RtxError",
+     "RtxHeapBlock", "RtxLayout",    "RtxPathStep",   "RtxPrintSink", "RtxStatus", "RtxType"});
 
 std::string cIdentifier(std::string name)
 {

@@ -8765,6 +8765,10 @@ int asn1Trace_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue, RtxFieldSi
 void asn1Print_CellGroupConfig(const char* name, const CellGroupConfig* pvalue);
 // Prints to a sink, following the pointers of *pctxt's heap only.
 void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const CellGroupConfig* pvalue, RtxPrintSink sink, void* arg);
+const RtxType* asn1Type_CellGroupConfig(void);
+static inline int asn1ToJson_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxLayout layout, RtxPrintSink sink, void* arg) { return rtxToJson(pctxt, asn1Type_CellGroupConfig(), pvalue, layout, sink, arg); }
+static inline int asn1ToValueNotation_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxLayout layout, RtxPrintSink sink, void* arg) { return rtxToValueNotation(pctxt, asn1Type_CellGroupConfig(), pvalue, layout, sink, arg); }
+static inline int asn1ToFlat_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxPrintSink sink, void* arg) { return rtxToFlat(pctxt, asn1Type_CellGroupConfig(), pvalue, sink, arg); }
 
 #ifdef __cplusplus
 }

@@ -275,6 +275,30 @@ void rtxCopyBits(OSOCTET* to, const OSOCTET* data, uint64_t bit, size_t octets);
 // Where printed lines go: called with each piece of text in order, terminated.
 typedef void (*RtxPrintSink)(void* arg, const char* text);
 
+typedef enum RtxLayout
+{
+    RTX_COMPACT = 0, // on one line
+    RTX_INDENTED = 1 // a line for each value, two blanks for each level
+} RtxLayout;
+
+// Writers of element trees. `value` is a tree of `type`: the root is the caller's, everything that it points to has to
+// lie in *pctxt's heap, which may be null where there is no pointer; other pointers are not followed and said to be
+// there. When pctxt's error is that of the decoder which has filled this very tree, what was never read is shown as not
+// read. The text ends with a line end.
+// Returns 0; or the status of the first thing that is not a value of its type, or RTX_E_NULL for a null argument. Also
+// then everything is written, what has no notation as a text that says so; docs/asn1.md has the forms.
+
+// JER (X.697). The text is valid JSON whatever the tree holds.
+int rtxToJson(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxLayout layout, RtxPrintSink sink,
+              void* arg);
+
+// The value notation of X.680.
+int rtxToValueNotation(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxLayout layout, RtxPrintSink sink,
+                       void* arg);
+
+// Flat lines: `path = value`, one for each value without members or elements.
+int rtxToFlat(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxPrintSink sink, void* arg);
+
 // Names the context whose trees asn1Print_<Type> prints on this thread: the printer follows no pointer that is not in
 // this context's heap. Null ends it; so does rtFreeContext of that context on this thread.
 void rtxPrintSetContext(const OSCTXT* pctxt);

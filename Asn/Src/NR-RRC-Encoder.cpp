@@ -16119,3 +16119,8 @@ void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const Ce
 {
     rtx::print(pctxt, nr_rrc::type_CellGroupConfig, name, pvalue, sink, arg);
 }
+
+const RtxType* asn1Type_CellGroupConfig(void)
+{
+    return &nr_rrc::type_CellGroupConfig;
+}

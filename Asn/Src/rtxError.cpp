@@ -1,4 +1,4 @@
-#include "rtxType.h"
+#include "rtxTree.h"
 #include "vos_lib.h"
 
 #include <cinttypes>
@@ -16,6 +16,15 @@ struct Line
     size_t size;
     size_t length;
 };
+
+Line emptyLine(char* text, size_t size)
+{
+    if (size != 0)
+    {
+        text[0] = '\0';
+    }
+    return {text, size, 0};
+}
 
 __attribute__((format(printf, 2, 3))) void append(Line& line, const char* format, ...)
 {
@@ -59,32 +68,32 @@ void appendPath(Line& line, const RtxError& error)
     append(line, "%s", line.length != 0 ? ": " : "");
 }
 
-void appendBounds(Line& line, const RtxError& error)
+void appendBounds(Line& line, const rtx::Reason& reason)
 {
-    append(line, "%" PRId64, error.lower);
-    if (error.upper != error.lower)
+    append(line, "%" PRId64, reason.lower);
+    if (reason.upper != reason.lower)
     {
-        append(line, "..%" PRId64, error.upper);
+        append(line, "..%" PRId64, reason.upper);
     }
 }
 
-void appendReason(Line& line, const RtxError& error)
+void appendReason(Line& line, const rtx::Reason& reason)
 {
-    const int64_t value = error.value;
-    switch (error.status)
+    const int64_t value = reason.value;
+    switch (reason.status)
     {
     case RTX_E_RANGE:
-        append(line, "%" PRId64 " is not in %" PRId64 "..%" PRId64, value, error.lower, error.upper);
+        append(line, "%" PRId64 " is not in %" PRId64 "..%" PRId64, value, reason.lower, reason.upper);
         break;
     case RTX_E_SIZE:
         append(line, "%" PRId64 " element%s, not ", value, plural(value));
-        appendBounds(line, error);
+        appendBounds(line, reason);
         break;
     case RTX_E_CHOICE:
-        append(line, "tag %" PRId64 " is not in %" PRId64 "..%" PRId64, value, error.lower, error.upper);
+        append(line, "tag %" PRId64 " is not in %" PRId64 "..%" PRId64, value, reason.lower, reason.upper);
         break;
     case RTX_E_BITS:
-        append(line, "a bit string of %" PRId64 " bit%s, not %" PRId64, value, plural(value), error.lower);
+        append(line, "a bit string of %" PRId64 " bit%s, not %" PRId64, value, plural(value), reason.lower);
         break;
     case RTX_E_NULL:
         append(line, "a null pointer");
@@ -94,7 +103,7 @@ void appendReason(Line& line, const RtxError& error)
         break;
     case RTX_E_LIST:
         append(line, "the list counts %" PRId64 " element%s and ends after %" PRId64, value, plural(value),
-               error.lower);
+               reason.lower);
         break;
     case RTX_E_OVERFLOW:
         append(line, "the encoding does not fit into %" PRId64 " octet%s", value, plural(value));
@@ -127,13 +136,8 @@ void appendReason(Line& line, const RtxError& error)
         append(line, "the element tree is deeper than %d", RTX_MAX_DEPTH);
         break;
     default:
-        append(line, "error %" PRId32, error.status);
+        append(line, "error %" PRId32, reason.status);
         break;
-    }
-    if (error.hasOffset != 0)
-    {
-        append(line, " (at bit %" PRIu64 ": octet %" PRIu64 ", bit %" PRIu64 ")", error.bitOffset, error.bitOffset / 8,
-               error.bitOffset % 8);
     }
 }
 
@@ -181,34 +185,36 @@ void rtx::pushGroup(OSCTXT& ctxt, uint32_t number)
     push(ctxt.error, {nullptr, number, 1});
 }
 
+size_t rtx::formatReason(const Reason& reason, char* text, size_t size)
+{
+    Line line = emptyLine(text, size);
+    appendReason(line, reason);
+    return line.length;
+}
+
 size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size)
 {
-    Line line{text, size, 0};
-    if (size != 0)
+    Line line = emptyLine(text, size);
+    const RtxError& error = pctxt->error;
+    if (error.status != RTX_OK)
     {
-        text[0] = '\0';
-    }
-    if (pctxt->error.status != RTX_OK)
-    {
-        appendPath(line, pctxt->error);
-        appendReason(line, pctxt->error);
+        appendPath(line, error);
+        appendReason(line, {static_cast<RtxStatus>(error.status), error.value, error.lower, error.upper});
+        if (error.hasOffset != 0)
+        {
+            append(line, " (at bit %" PRIu64 ": octet %" PRIu64 ", bit %" PRIu64 ")", error.bitOffset,
+                   error.bitOffset / 8, error.bitOffset % 8);
+        }
     }
     return line.length;
 }
 
 void rtxErrPrint(const OSCTXT* pctxt)
 {
-    char text[4096];
-    const size_t length = rtxErrFormat(pctxt, text, sizeof text);
-    if (length == 0)
+    if (pctxt->error.status != RTX_OK)
     {
-        return;
+        VOS_Printf("%s\n", rtx::ErrorText(*pctxt).text);
     }
-    if (length >= sizeof text)
-    {
-        std::memcpy(text + sizeof text - 4, "...", 4);
-    }
-    VOS_Printf("%s\n", text);
 }
 
 void rtxErrReset(OSCTXT* pctxt)

@@ -1,196 +1,26 @@
-// The printer: a walker over the type descriptors that takes nothing in the tree for granted, as it also shows trees
-// that the encoder has refused.
-#include "rtxHeap.h"
-#include "rtxType.h"
+// The printer.
+#include "rtxWalk.h"
 #include "vos_lib.h"
-
-#include <cinttypes>
-#include <cstdarg>
-#include <cstdio>
-#include <cstring>
 
 namespace rtx
 {
 namespace
 {
 
-constexpr const char* notFollowed = "a pointer that is not followed, as no context is named";
-constexpr const char* foreign = "a pointer out of the context's heap";
-
-bool hasFlag(const void* structure, int flag)
-{
-    return (static_cast<const OSOCTET*>(structure)[flag / 8] >> (flag % 8) & 1) != 0;
-}
-
-template <typename T>
-T load(const void* from, size_t offset = 0)
-{
-    T value;
-    std::memcpy(&value, static_cast<const OSOCTET*>(from) + offset, sizeof value);
-    return value;
-}
-
-int64_t loadInteger(const void* from, unsigned width, bool isSigned)
-{
-    switch (width)
-    {
-    case 1:
-        return isSigned ? int64_t{load<OSINT8>(from)} : load<OSUINT8>(from);
-    case 2:
-        return isSigned ? int64_t{load<OSINT16>(from)} : load<OSUINT16>(from);
-    default:
-        return isSigned ? int64_t{load<OSINT32>(from)} : load<OSUINT32>(from);
-    }
-}
-
-// Collects lines for the sink.
-class Output
-{
-public:
-    Output(RtxPrintSink sink, void* arg) : sink_(sink), arg_(arg) {}
-
-    void put(const char* text)
-    {
-        for (; *text != '\0'; ++text)
-        {
-            put(*text);
-        }
-    }
-
-    void put(char c)
-    {
-        text_[length_++] = c;
-        if (c == '\n' || length_ == sizeof text_ - 1)
-        {
-            text_[length_] = '\0';
-            length_ = 0;
-            sink_(arg_, text_);
-        }
-    }
-
-    // For numbers and fixed words only: what is longer than `piece` would be cut.
-    __attribute__((format(printf, 2, 3))) void format(const char* format, ...)
-    {
-        char piece[160];
-        va_list args;
-        va_start(args, format);
-        (void)std::vsnprintf(piece, sizeof piece, format, args);
-        va_end(args);
-        put(piece);
-    }
-
-private:
-    RtxPrintSink sink_;
-    void* arg_;
-    char text_[512];
-    size_t length_ = 0;
-};
-
 class Printer
 {
 public:
-    Printer(const OSCTXT* ctxt, RtxPrintSink sink, void* arg) : ctxt_(ctxt), out_(sink, arg) {}
+    Printer(RtxPrintSink sink, void* arg) : out_(sink, arg) {}
 
-    void element(const char* name, const Type& type, const void* value)
+    void stopped(const OSCTXT&, const Type&) {}
+
+    void begin(const RtxPathStep& step)
     {
         indent();
-        out_.put(name);
-        if (depth_ == RTX_MAX_DEPTH)
-        {
-            out_.put(": deeper elements are left out\n");
-            return;
-        }
-        ++depth_;
-        content(type, value);
-        --depth_;
+        out_.put(step);
     }
 
-    void pointed(const char* name, const Type& type, const void* p)
-    {
-        if (const char* const reason = refuse(p, type.size))
-        {
-            note(name, reason);
-        }
-        else
-        {
-            element(name, type, p);
-        }
-    }
-
-private:
-    // Why a pointer to `size` octets is not followed; null when it is.
-    const char* refuse(const void* p, size_t size) const
-    {
-        if (p == nullptr)
-        {
-            return "a null pointer";
-        }
-        if (ctxt_ == nullptr)
-        {
-            return notFollowed;
-        }
-        // A type's alignment divides its size.
-        const size_t divisor = size & (~size + 1);
-        const size_t alignment = divisor < alignof(void*) ? divisor : alignof(void*);
-        const bool aligned = alignment == 0 || reinterpret_cast<uintptr_t>(p) % alignment == 0;
-        return aligned && owns(*ctxt_, p, size) ? nullptr : foreign;
-    }
-
-    void indent()
-    {
-        for (unsigned i = 0; i < depth_; ++i)
-        {
-            out_.put("  ");
-        }
-    }
-
-    void note(const char* name, const char* text)
-    {
-        indent();
-        out_.put(name);
-        out_.put(": ");
-        out_.put(text);
-        out_.put('\n');
-    }
-
-    void content(const Type& type, const void* value)
-    {
-        switch (type.kind)
-        {
-        case Kind::Boolean:
-            boolean(load<OSBOOL>(value));
-            break;
-        case Kind::Null:
-            out_.put('\n');
-            break;
-        case Kind::Integer:
-            integer(type, loadInteger(value, type.width, type.lower < 0));
-            break;
-        case Kind::Enumerated:
-            enumerated(type, load<OSUINT32>(value));
-            break;
-        case Kind::BitStr32:
-            bitString32(type, load<ASN1BitStr32>(value));
-            break;
-        case Kind::BitOctets:
-            bits(static_cast<const OSOCTET*>(value), static_cast<uint32_t>(type.upper));
-            out_.format(" (%" PRId32 " bits)\n", type.upper);
-            break;
-        case Kind::Sequence:
-            out_.put('\n');
-            sequence(type, value);
-            break;
-        case Kind::Choice:
-            choice(type, value);
-            break;
-        case Kind::Array:
-            array(type, value);
-            break;
-        case Kind::List:
-            list(type, load<OSRTDList>(value));
-            break;
-        }
-    }
+    void end() {}
 
     void boolean(OSBOOL value)
     {
@@ -202,21 +32,23 @@ private:
         out_.put('\n');
     }
 
-    void integer(const Type& type, int64_t value)
+    void null()
     {
-        out_.format(" %" PRId64, value);
-        if (value < type.lower || value > type.upper)
-        {
-            out_.format(" (not in %" PRId32 "..%" PRId32 ")", type.lower, type.upper);
-        }
         out_.put('\n');
     }
 
-    void enumerated(const Type& type, uint32_t value)
+    void integer(const Type&, int64_t value, const Reason& wrong)
     {
-        if (value > static_cast<uint32_t>(type.upper))
+        out_.format(" %" PRId64, value);
+        notIn(wrong);
+    }
+
+    void enumerated(const Type& type, uint32_t value, const Reason& wrong)
+    {
+        if (wrong.status != RTX_OK)
         {
-            out_.format(" %" PRIu32 " (not in 0..%" PRId32 ")\n", value, type.upper);
+            out_.format(" %" PRIu32, value);
+            notIn(wrong);
             return;
         }
         out_.put(' ');
@@ -224,244 +56,154 @@ private:
         out_.format(" (%" PRIu32 ")\n", value);
     }
 
-    void bits(const OSOCTET* data, uint32_t count)
+    void bits(const OSOCTET* data, uint32_t count, const Reason& wrong)
     {
         out_.put(" '");
-        for (uint32_t i = 0; i < count; ++i)
-        {
-            out_.put((data[i / 8] >> (7 - i % 8) & 1) != 0 ? '1' : '0');
-        }
+        out_.binary(data, count);
         out_.put("'B");
-    }
-
-    void bitString32(const Type& type, const ASN1BitStr32& value)
-    {
-        constexpr uint32_t most = 8 * sizeof value.data;
-        bits(value.data, value.numbits < most ? value.numbits : most);
-        out_.format(" (%" PRIu32 " bits", value.numbits);
-        if (value.numbits != static_cast<uint32_t>(type.upper))
+        if (wrong.status == RTX_OK)
         {
-            out_.format(", not %" PRId32, type.upper);
+            out_.format(" (%" PRIu32 " bits)\n", count);
         }
-        out_.put(")\n");
-    }
-
-    void sequence(const Type& type, const void* value)
-    {
-        for (unsigned i = 0; i < type.rootCount; ++i)
+        else
         {
-            member(type, i, value);
-        }
-        for (unsigned a = 0; a < type.additionCount; ++a)
-        {
-            const Addition& addition = type.additions[a];
-            const bool sent = addition.flag < 0 || hasFlag(value, addition.flag);
-            for (unsigned i = addition.first; i < addition.first + addition.count; ++i)
-            {
-                if (sent)
-                {
-                    member(type, i, value);
-                }
-                else if (type.members[i].flag >= 0 && hasFlag(value, type.members[i].flag))
-                {
-                    note(type.names[i], "not sent, as its extension group is not");
-                    member(type, i, value);
-                }
-            }
-        }
-        if (type.extensible)
-        {
-            const auto unknown = load<OSRTDList>(value, type.extElem);
-            if (unknown.count != 0)
-            {
-                unknownAdditions(unknown);
-            }
+            out_.format(" (%" PRId64 " bits, not %" PRId64 ")\n", wrong.value, wrong.lower);
         }
     }
 
-    void member(const Type& type, unsigned index, const void* structure)
+    void open(const Type&)
     {
-        const Member& member = type.members[index];
-        if (member.flag < 0 || hasFlag(structure, member.flag))
-        {
-            element(type.names[index], *member.type, static_cast<const OSOCTET*>(structure) + member.offset);
-        }
-    }
-
-    void choice(const Type& type, const void* value)
-    {
-        const auto tag = load<OSUINT32>(value);
-        const OSOCTET* const storage = static_cast<const OSOCTET*>(value);
-        if (tag >= 1 && tag <= type.memberCount)
-        {
-            out_.put('\n');
-            const Member& alternative = type.members[tag - 1];
-            if (alternative.step == Step::Pointer)
-            {
-                pointed(type.names[tag - 1], *alternative.type, load<const void*>(value, alternative.offset));
-            }
-            else
-            {
-                element(type.names[tag - 1], *alternative.type, storage + alternative.offset);
-            }
-            return;
-        }
-        out_.format(": tag %" PRIu32 " is not in 1..%u\n", tag, unsigned{type.memberCount});
-        if (tag != 0 && type.extensible)
-        {
-            const auto* const open = load<const ASN1OpenType*>(value, type.extElem);
-            if (const char* const reason = refuse(open, sizeof *open))
-            {
-                note("unknown alternative", reason);
-            }
-            else
-            {
-                openType("unknown alternative", *open);
-            }
-        }
-    }
-
-    void openType(const char* name, const ASN1OpenType& open)
-    {
-        if (open.data == nullptr)
-        {
-            note(name, "absent");
-            return;
-        }
-        // Single octets need no alignment.
-        const bool owned = ctxt_ != nullptr && owns(*ctxt_, open.data, open.numocts);
-        if (!owned)
-        {
-            note(name, ctxt_ == nullptr ? notFollowed : foreign);
-            return;
-        }
-        indent();
-        out_.put(name);
-        out_.format(": %" PRIu32 " octet%s ", open.numocts, open.numocts == 1 ? "" : "s");
-        for (uint32_t i = 0; i < open.numocts; ++i)
-        {
-            out_.format("%02X", unsigned{open.data[i]});
-        }
         out_.put('\n');
-    }
-
-    // Says how many elements there are and returns how many to print.
-    uint32_t count(const Type& type, uint32_t number)
-    {
-        out_.format(": %" PRIu32 " element%s", number, number == 1 ? "" : "s");
-        const auto lower = static_cast<uint32_t>(type.lower);
-        const auto upper = static_cast<uint32_t>(type.upper);
-        if (number < lower || number > upper)
-        {
-            out_.format(", not %" PRIu32 "..%" PRIu32, lower, upper);
-        }
-        if (number > upper)
-        {
-            out_.format("; the first %" PRIu32 ":", upper);
-        }
-        out_.put('\n');
-        return number < upper ? number : upper;
-    }
-
-    void array(const Type& type, const void* value)
-    {
-        uint32_t number = static_cast<uint32_t>(type.upper);
-        if (type.lower != type.upper)
-        {
-            number = static_cast<uint32_t>(loadInteger(value, type.width, false));
-        }
-        number = count(type, number);
-        const OSOCTET* const elements = static_cast<const OSOCTET*>(value) + type.members->offset;
-        for (uint32_t i = 0; i < number; ++i)
-        {
-            element(Index(i).text, type.element(), elements + size_t{i} * type.element().size);
-        }
-    }
-
-    void list(const Type& type, const OSRTDList& value)
-    {
-        const auto print = [&](const char* name, const void* data)
-        {
-            pointed(name, type.element(), data);
-        };
-        const uint32_t number = count(type, value.count);
-        nodes(value, number, print);
-    }
-
-    void unknownAdditions(const OSRTDList& value)
-    {
-        indent();
-        out_.format("extElem1: %" PRIu32 " unknown addition%s\n", value.count, value.count == 1 ? "" : "s");
-        const auto print = [&](const char* name, const void* data)
-        {
-            if (const char* const reason = refuse(data, sizeof(ASN1OpenType)))
-            {
-                note(name, reason);
-            }
-            else
-            {
-                openType(name, *static_cast<const ASN1OpenType*>(data));
-            }
-        };
         ++depth_;
-        nodes(value, value.count, print);
+    }
+
+    void close(const Type&)
+    {
         --depth_;
     }
 
-    // Calls `print` for the first `number` nodes, as far as they can be followed.
-    template <typename Print>
-    void nodes(const OSRTDList& value, uint32_t number, const Print& print)
+    void openList(const Type& type, uint32_t number, const Reason& wrong)
     {
-        const OSRTDListNode* node = value.head;
-        const OSRTDListNode* mark = nullptr; // an earlier node: the list is a loop when it comes again
-        for (uint32_t i = 0; i < number; ++i)
+        out_.format(": %" PRIu32 " element%s", number, number == 1 ? "" : "s");
+        if (wrong.status != RTX_OK)
         {
-            if (node == nullptr)
-            {
-                listEnds(value.count, i);
-                return;
-            }
-            const char* reason = refuse(node, sizeof *node);
-            if (node == mark)
-            {
-                reason = "the list goes back to an earlier element";
-            }
-            if (reason != nullptr)
-            {
-                note(Index(i).text, reason);
-                return;
-            }
-            if ((i & (i - 1)) == 0) // moves on at each power of 2, so that it gets into any loop
-            {
-                mark = node;
-            }
-            print(Index(i).text, node->data);
-            node = node->next;
+            out_.format(", not %" PRId64 "..%" PRId64, wrong.lower, wrong.upper);
         }
-        if (node != nullptr && number == value.count)
+        if (number > static_cast<uint32_t>(type.upper))
         {
-            indent();
-            out_.put("the list goes on behind its last element\n");
+            out_.format("; the first %" PRId32 ":", type.upper);
         }
+        out_.put('\n');
+        ++depth_;
     }
 
-    void listEnds(uint32_t count, uint32_t after)
+    void closeList(const Type&)
+    {
+        --depth_;
+    }
+
+    void unknownAlternative(const Type&, uint32_t, const Reason& wrong, const ASN1OpenType* open, const char* refusal)
+    {
+        invalid(ReasonText(wrong).text);
+        ++depth_;
+        begin({"unknown alternative", 0});
+        if (refusal != nullptr)
+        {
+            invalid(refusal);
+        }
+        else
+        {
+            octets(*open);
+        }
+        --depth_;
+    }
+
+    void invalid(const char* text)
+    {
+        out_.put(": ");
+        out_.put(text);
+        out_.put('\n');
+    }
+
+    void notRead(const char* name)
+    {
+        begin({name, 0});
+        invalid("not read");
+    }
+
+    void notReadElements(const char* text)
+    {
+        notRead(text);
+    }
+
+    bool unsent(const RtxPathStep& step)
+    {
+        begin(step);
+        invalid("not sent, as its extension group is not");
+        return true;
+    }
+
+    void openUnknown(uint32_t count)
     {
         indent();
-        out_.format("the list counts %" PRIu32 " element%s and ends after %" PRIu32 "\n", count, count == 1 ? "" : "s",
-                    after);
+        out_.format("extElem1: %" PRIu32 " unknown addition%s\n", count, count == 1 ? "" : "s");
+        ++depth_;
     }
 
-    struct Index
+    void closeUnknown()
     {
-        explicit Index(uint32_t index)
-        {
-            (void)std::snprintf(text, sizeof text, "[%" PRIu32 "]", index);
-        }
-        char text[16];
-    };
+        --depth_;
+    }
 
-    const OSCTXT* ctxt_;
+    void unknown(const Type&, uint32_t index, const ASN1OpenType& open)
+    {
+        begin({nullptr, index});
+        octets(open);
+    }
+
+    void absent(uint32_t index)
+    {
+        begin({nullptr, index});
+        invalid("absent");
+    }
+
+    void broken(const char* text)
+    {
+        remark(text);
+    }
+
+    void remark(const char* text)
+    {
+        indent();
+        out_.put(text);
+        out_.put('\n');
+    }
+
+private:
+    void indent()
+    {
+        for (unsigned i = 0; i < depth_; ++i)
+        {
+            out_.put("  ");
+        }
+    }
+
+    void notIn(const Reason& wrong)
+    {
+        if (wrong.status != RTX_OK)
+        {
+            out_.format(" (not in %" PRId64 "..%" PRId64 ")", wrong.lower, wrong.upper);
+        }
+        out_.put('\n');
+    }
+
+    void octets(const ASN1OpenType& open)
+    {
+        out_.format(": %" PRIu32 " octet%s ", open.numocts, open.numocts == 1 ? "" : "s");
+        out_.octets(open);
+        out_.put('\n');
+    }
+
     Output out_;
     unsigned depth_ = 0;
 };
@@ -475,19 +217,8 @@ void toConsole(void*, const char* text)
 
 void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg)
 {
-    Output out(sink, arg);
-    if (title == nullptr)
-    {
-        title = type.name;
-    }
-    if (value == nullptr)
-    {
-        out.put(title);
-        out.put(": a null pointer\n");
-        return;
-    }
-    // The tree's root is the caller's and need not lie in the heap.
-    Printer(ctxt, sink, arg).element(title, type, value);
+    Printer printer(sink, arg);
+    (void)Walk(ctxt, printer).run(type, title != nullptr ? title : type.name, value);
 }
 
 void print(const Type& type, const char* title, const void* value)

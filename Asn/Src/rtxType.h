@@ -140,6 +140,18 @@ constexpr Member member(const Type& type, size_t offset, int flag = -1, bool poi
 // A choice's tag for an alternative this release does not know: alternatives + 1 + its number among the unknown ones;
 // its union holds a pointer to an ASN1OpenType.
 
+// What is wrong with a value, as the members of RtxError say it.
+struct Reason
+{
+    RtxStatus status = RTX_OK;
+    int64_t value = 0;
+    int64_t lower = 0;
+    int64_t upper = 0;
+};
+
+// Writes a reason as text to text[0..size-1], always terminated. Returns the length of the whole text.
+size_t formatReason(const Reason& reason, char* text, size_t size);
+
 // Records the first error of a context; the path is empty then.
 int setError(OSCTXT& ctxt, RtxStatus status, int64_t value = 0, int64_t lower = 0, int64_t upper = 0);
 

@@ -1,10 +1,7 @@
-#include "rtxTestTypes.h"
 #include "support/CapturedOutput.h"
-
-#include <gtest/gtest.h>
+#include "treeTest.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 namespace
@@ -12,24 +9,9 @@ namespace
 
 using namespace test;
 
-void collect(void* arg, const char* text)
-{
-    *static_cast<std::string*>(arg) += text;
-}
-
-class Print : public testing::Test
+class Print : public testing::Test, protected Trees
 {
 protected:
-    Print()
-    {
-        EXPECT_EQ(RTX_OK, rtxInitContext(&ctxt));
-    }
-
-    ~Print() override
-    {
-        rtFreeContext(&ctxt);
-    }
-
     std::string printed(const Type& type, const void* value) const
     {
         return printedBy(&ctxt, type, value);
@@ -41,32 +23,6 @@ protected:
         rtx::print(context, type, "x", value, collect, &text);
         return text;
     }
-
-    // A cleared T in the context's heap.
-    template <typename T>
-    T* make()
-    {
-        void* const p = rtxMemHeapAlloc(&ctxt, sizeof(T));
-        EXPECT_NE(nullptr, p);
-        std::memset(p, 0, sizeof(T));
-        return static_cast<T*>(p);
-    }
-
-    void append(OSRTDList& list, void* data)
-    {
-        auto* const node = make<OSRTDListNode>();
-        node->data = data;
-        rtxDListAppendNode(&list, node);
-    }
-
-    Item* item(OSUINT8 id)
-    {
-        auto* const value = make<Item>();
-        value->id = id;
-        return value;
-    }
-
-    OSCTXT ctxt;
 };
 
 TEST_F(Print, Boolean)
