@@ -12,13 +12,15 @@ namespace
 {
 
 constexpr const char* usage =
-    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...] [--base NAME]\n"
+    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...]\n"
+    "               [--base NAME [--table]]\n"
     "  --schema  the ASN.1 module\n"
     "  --inc     folder for the public header\n"
     "  --src     folder for the other files\n"
     "  --pdu     a type that gets an encoder, a decoder and a printer; 'all' for every named one\n"
     "  --except  a type that 'all' leaves out\n"
-    "  --base    write only NAME.h and NAME.cpp with the functions of these types\n";
+    "  --base    write only NAME.h and NAME.cpp with the functions of these types\n"
+    "  --table   with a table of these types, those that 'all' leaves out included\n";
 
 int fail(const std::string& message)
 {
@@ -41,6 +43,11 @@ int main(int argc, char** argv)
         {
             std::cout << usage;
             return 0;
+        }
+        if (option == "--table")
+        {
+            options.table = true;
+            continue;
         }
         if (i + 1 == argc)
         {
@@ -78,7 +85,7 @@ int main(int argc, char** argv)
             return 2;
         }
     }
-    if (schema.empty() || inc.empty() || src.empty() || options.pdus.empty())
+    if (schema.empty() || inc.empty() || src.empty() || options.pdus.empty() || (options.table && options.base.empty()))
     {
         std::cerr << usage;
         return 2;

@@ -172,7 +172,10 @@ static void push(RtxError& error, const RtxPathStep& step)
 
 void rtx::pushName(OSCTXT& ctxt, const char* name)
 {
-    push(ctxt.error, {name, 0, 0});
+    if (name != nullptr)
+    {
+        push(ctxt.error, {name, 0, 0});
+    }
 }
 
 void rtx::pushIndex(OSCTXT& ctxt, uint32_t index)

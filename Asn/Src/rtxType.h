@@ -155,7 +155,7 @@ size_t formatReason(const Reason& reason, char* text, size_t size);
 // Records the first error of a context; the path is empty then.
 int setError(OSCTXT& ctxt, RtxStatus status, int64_t value = 0, int64_t lower = 0, int64_t upper = 0);
 
-// Adds the next outer step to the error's path.
+// Adds the next outer step to the error's path. A null name, of what is no member, is no step.
 void pushName(OSCTXT& ctxt, const char* name);
 void pushIndex(OSCTXT& ctxt, uint32_t index);
 void pushGroup(OSCTXT& ctxt, uint32_t number); // of an extension group, the first is 1
