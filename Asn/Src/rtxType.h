@@ -62,6 +62,9 @@ struct Addition
     uint16_t count;
 };
 
+constexpr int8_t noIdentity = -1;
+constexpr int8_t ownIdentity = -2; // an element identifies itself
+
 } // namespace rtx
 
 struct RtxType
@@ -70,6 +73,7 @@ struct RtxType
     rtx::Kind kind;
     uint8_t width = 0; // octets of an integer, of an array's count
     bool extensible = false;
+    uint8_t align = 1; // of the storage
     uint32_t size = 0; // octets of storage
     int32_t lower = 0; // of an integer's value, or of a list's count
     int32_t upper = 0;
@@ -80,7 +84,8 @@ struct RtxType
     uint16_t rootCount = 0;
     const rtx::Addition* additions = nullptr; // Sequence
     uint16_t additionCount = 0;
-    uint8_t bits = 0;     // on the wire before the content: presence flags, index of the alternative, count of elements
+    uint8_t bits = 0; // on the wire before the content: presence flags, index of the alternative, count of elements
+    int8_t identity = rtx::noIdentity; // Array, List: index of the element's member that identifies it
     uint32_t extElem = 0; // extensible: offset of extElem1, in a choice that of the union
 
     // Of an array's or a list's elements.
