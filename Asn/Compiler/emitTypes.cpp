@@ -34,6 +34,11 @@ std::string pduPrototypes(const Pdus& pdus)
         out += "// Prints to a sink, following the pointers of *pctxt's heap only.\n";
         out += "void asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +
                "* pvalue, RtxPrintSink sink, void* arg);\n";
+        out += "// rtxCheck, rtxCompare.\n";
+        out += "int64_t asn1Check_" + name + "(const OSCTXT* pctxt, const " + name +
+               "* pvalue, RtxFindingSink sink, void* arg);\n";
+        out += "int64_t asn1Compare_" + name + "(OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name + "* pa, const " +
+               name + "* pb, RtxDifferenceSink sink, void* arg);\n";
     }
     return out;
 }

@@ -108,10 +108,30 @@ constexpr std::array keywords = std::to_array<std::string_view>({"alignas",
                                                                  "xor_eq"});
 
 // What the runtime's header has taken.
-constexpr std::array runtimeNames =
-    std::to_array<std::string_view>({"ASN1BitStr32", "ASN1OpenType", "OSBOOL", "OSCTXT", "OSINT16", "OSINT32", "OSINT8",
-                                     "OSOCTET", "OSRTDList", "OSRTDListNode", "OSUINT16", "OSUINT32", "OSUINT8",
-                                     "RtxError", "RtxHeapBlock", "RtxPathStep", "RtxPrintSink", "RtxStatus"});
+constexpr std::array runtimeNames = std::to_array<std::string_view>({"ASN1BitStr32",
+                                                                     "ASN1OpenType",
+                                                                     "OSBOOL",
+                                                                     "OSCTXT",
+                                                                     "OSINT16",
+                                                                     "OSINT32",
+                                                                     "OSINT8",
+                                                                     "OSOCTET",
+                                                                     "OSRTDList",
+                                                                     "OSRTDListNode",
+                                                                     "OSUINT16",
+                                                                     "OSUINT32",
+                                                                     "OSUINT8",
+                                                                     "RtxDifference",
+                                                                     "RtxDifferenceKind",
+                                                                     "RtxDifferenceSink",
+                                                                     "RtxDifferenceStep",
+                                                                     "RtxError",
+                                                                     "RtxFindingSink",
+                                                                     "RtxHeapBlock",
+                                                                     "RtxPathStep",
+                                                                     "RtxPrintSink",
+                                                                     "RtxStatus",
+                                                                     "RtxType"});
 
 std::string cIdentifier(std::string name)
 {
@@ -125,9 +145,9 @@ std::string cIdentifier(std::string name)
 
 constexpr std::int64_t maxListCount = 65535;
 constexpr std::int64_t maxBits = 65535;
-constexpr unsigned maxNesting = 40;      // below the runtime's RTX_MAX_DEPTH
-constexpr std::size_t maxFlags = 56;     // so that the decoder loads a bitmap with one word
-constexpr std::size_t maxAdditions = 32; // so that their presence fits into one word
+constexpr unsigned maxNesting = 40;         // below the runtime's RTX_MAX_DEPTH
+constexpr std::size_t maxFlags = 56;        // so that the decoder loads a bitmap with one word
+constexpr std::size_t maxAdditions = 32;    // so that their presence fits into one word
 constexpr std::ptrdiff_t maxIdentity = 128; // so that its index fits into an octet
 constexpr std::size_t maxTypes = 20000;
 constexpr std::size_t maxNameText = std::size_t{4} * 1024 * 1024; // octets, of all C names together
@@ -453,8 +473,8 @@ private:
         {
             if (source.name != element.asnName)
             {
-                diagnostics_.error(source.at, "the elements are of type '" + element.asnName + "', not '" +
-                                                  source.name + "'");
+                diagnostics_.error(source.at,
+                                   "the elements are of type '" + element.asnName + "', not '" + source.name + "'");
             }
             list.identity = ownIdentity;
             return;
@@ -463,16 +483,17 @@ private:
                                         [&](const Member& m) { return m.asnName == source.name; });
         if (element.kind != Kind::Sequence || found == element.members.end())
         {
-            diagnostics_.error(source.at, "the elements, of type '" + element.asnName + "', have no member '" +
-                                              source.name + "'");
+            diagnostics_.error(source.at,
+                               "the elements, of type '" + element.asnName + "', have no member '" + source.name + "'");
             return;
         }
         const std::ptrdiff_t index = found - element.members.begin();
         const bool number = found->type->kind == Kind::Integer || found->type->kind == Kind::Enumerated;
         if (!number || found->optional || index >= std::min<std::ptrdiff_t>(maxIdentity, element.rootCount))
         {
-            diagnostics_.error(source.at, "the member '" + source.name + "' is no identity: that is a mandatory INTEGER "
-                                          "or ENUMERATED among the first " +
+            diagnostics_.error(source.at, "the member '" + source.name +
+                                              "' is no identity: that is a mandatory INTEGER "
+                                              "or ENUMERATED among the first " +
                                               std::to_string(maxIdentity) + " members");
             return;
         }
@@ -500,9 +521,10 @@ private:
             }
             else if (release->element != wanted)
             {
-                diagnostics_.error(source.at,
-                                   "'" + source.name + "' is not a list of '" + wanted->asnName + "', which identifies"
-                                   " the elements of '" + m.name + "'");
+                diagnostics_.error(source.at, "'" + source.name + "' is not a list of '" + wanted->asnName +
+                                                  "', which identifies"
+                                                  " the elements of '" +
+                                                  m.name + "'");
             }
         }
     }

@@ -63,7 +63,7 @@ struct Type
     bool extensible = false;
     Type* element = nullptr;
     int identity = noIdentity; // Array, List: the index of the element's member that identifies it
-    unsigned depth = 0; // of the tree of types below it
+    unsigned depth = 0;        // of the tree of types below it
 
     // Has a structure or a list of its own in memory.
     bool constructed() const

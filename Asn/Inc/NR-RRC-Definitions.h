@@ -8763,6 +8763,9 @@ int asn1PD_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue);
 void asn1Print_CellGroupConfig(const char* name, const CellGroupConfig* pvalue);
 // Prints to a sink, following the pointers of *pctxt's heap only.
 void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const CellGroupConfig* pvalue, RtxPrintSink sink, void* arg);
+// rtxCheck, rtxCompare.
+int64_t asn1Check_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxFindingSink sink, void* arg);
+int64_t asn1Compare_CellGroupConfig(OSCTXT* pctxtA, const OSCTXT* pctxtB, const CellGroupConfig* pa, const CellGroupConfig* pb, RtxDifferenceSink sink, void* arg);
 
 #ifdef __cplusplus
 }

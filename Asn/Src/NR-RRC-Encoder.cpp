@@ -16114,3 +16114,13 @@ void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const Ce
 {
     rtx::print(pctxt, nr_rrc::type_CellGroupConfig, name, pvalue, sink, arg);
 }
+
+int64_t asn1Check_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxFindingSink sink, void* arg)
+{
+    return rtxCheck(pctxt, &nr_rrc::type_CellGroupConfig, pvalue, sink, arg);
+}
+
+int64_t asn1Compare_CellGroupConfig(OSCTXT* pctxtA, const OSCTXT* pctxtB, const CellGroupConfig* pa, const CellGroupConfig* pb, RtxDifferenceSink sink, void* arg)
+{
+    return rtxCompare(pctxtA, pctxtB, &nr_rrc::type_CellGroupConfig, pa, pb, sink, arg);
+}

@@ -44,6 +44,28 @@ inline void* allocate(OSCTXT& ctxt, size_t size)
     return size - 1 < room(ctxt) ? take(ctxt, rounded(size)) : rtxMemHeapAlloc(&ctxt, size);
 }
 
+// While it lives, what the heap hands out; when it goes, that is the heap's again, unless a block was added for it.
+// Marks end in the reverse order of their beginning, and nothing that outlives one is asked for beside it.
+class HeapMark
+{
+public:
+    explicit HeapMark(OSCTXT& ctxt) : ctxt_(ctxt), block_(ctxt.heap.blocks), next_(ctxt.heap.next) {}
+    ~HeapMark()
+    {
+        if (ctxt_.heap.blocks == block_)
+        {
+            ctxt_.heap.next = next_;
+        }
+    }
+    HeapMark(const HeapMark&) = delete;
+    HeapMark& operator=(const HeapMark&) = delete;
+
+private:
+    OSCTXT& ctxt_;
+    const RtxHeapBlock* block_;
+    OSOCTET* next_;
+};
+
 // Whether all `size` octets at `p` were handed out by the context's heap.
 inline bool owns(const OSCTXT& ctxt, const void* p, size_t size)
 {

@@ -86,7 +86,7 @@ struct RtxType
     uint16_t additionCount = 0;
     uint8_t bits = 0; // on the wire before the content: presence flags, index of the alternative, count of elements
     int8_t identity = rtx::noIdentity; // Array, List: index of the element's member that identifies it
-    uint32_t extElem = 0; // extensible: offset of extElem1, in a choice that of the union
+    uint32_t extElem = 0;              // extensible: offset of extElem1, in a choice that of the union
 
     // Of an array's or a list's elements.
     constexpr const RtxType& element() const

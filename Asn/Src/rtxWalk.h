@@ -127,7 +127,7 @@ private:
 
     void pointed(const Type& type, const void* p)
     {
-        if (const RtxStatus status = refuse(ctxt_, p, type.size))
+        if (const RtxStatus status = refuse(ctxt_, p, type))
         {
             invalidPointer(status);
         }
@@ -149,7 +149,7 @@ private:
             break;
         case Kind::Integer:
         {
-            const int64_t number = loadInteger(value, type.width, type.lower < 0);
+            const int64_t number = loadNumber(type, value);
             writer_.integer(type, number, noted(outside(type, number)));
             break;
         }
@@ -162,9 +162,7 @@ private:
         case Kind::BitStr32:
         {
             const auto string = load<ASN1BitStr32>(value);
-            constexpr uint32_t most = 8 * sizeof string.data;
-            const uint32_t count = string.numbits < most ? string.numbits : most;
-            writer_.bits(string.data, count, noted(wrongLength(type, string.numbits)));
+            writer_.bits(string.data, bitCount(string), noted(wrongLength(type, string.numbits)));
             break;
         }
         case Kind::BitOctets:
@@ -230,7 +228,7 @@ private:
     void member(const Type& type, unsigned index, const void* structure)
     {
         const Member& member = type.members[index];
-        if (member.flag < 0 || hasFlag(structure, member.flag))
+        if (isPresent(member, structure))
         {
             const auto content = [&]
             {
@@ -291,7 +289,7 @@ private:
     void unknownAlternative(const Type& type, uint32_t tag, const Reason& wrong, const ASN1OpenType* open)
     {
         const char* reason = nullptr;
-        if (const RtxStatus status = refuse(ctxt_, open, sizeof *open))
+        if (const RtxStatus status = refuse(ctxt_, open))
         {
             reason = refusal(status);
         }
@@ -388,7 +386,7 @@ private:
         const auto each = [&](uint32_t i, const void* data)
         {
             const auto* const open = static_cast<const ASN1OpenType*>(data);
-            RtxStatus status = refuse(ctxt_, open, sizeof *open);
+            RtxStatus status = refuse(ctxt_, open);
             if (status == RTX_OK)
             {
                 status = refuse(ctxt_, *open);
