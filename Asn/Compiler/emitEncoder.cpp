@@ -525,6 +525,13 @@ std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pd
                "* pvalue, RtxPrintSink sink, void* arg)\n{\n    rtx::print(pctxt, " + table +
                ", name, pvalue, sink, arg);\n}\n";
         out += "\nconst RtxType* asn1Type_" + name + "(void)\n{\n    return &" + table + ";\n}\n";
+        out += "\nint64_t asn1Check_" + name + "(const OSCTXT* pctxt, const " + name +
+               "* pvalue, RtxFindingSink sink, void* arg)\n{\n    return rtxCheck(pctxt, &" + table +
+               ", pvalue, sink, arg);\n}\n";
+        out += "\nint64_t asn1Compare_" + name + "(OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name +
+               "* pa, const " + name +
+               "* pb, RtxDifferenceSink sink, void* arg)\n{\n    return rtxCompare(pctxtA, pctxtB, &" + table +
+               ", pa, pb, sink, arg);\n}\n";
     }
     return out;
 }

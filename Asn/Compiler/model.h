@@ -43,6 +43,9 @@ struct Addition
     std::size_t count = 0;
 };
 
+constexpr int noIdentity = -1;
+constexpr int ownIdentity = -2; // an element identifies itself
+
 struct Type
 {
     Kind kind = Kind::Null;
@@ -59,7 +62,8 @@ struct Type
     std::vector<std::string> flags; // in the order of their bits, without "Present"
     bool extensible = false;
     Type* element = nullptr;
-    unsigned depth = 0; // of the tree of types below it
+    int identity = noIdentity; // Array, List: the index of the element's member that identifies it
+    unsigned depth = 0;        // of the tree of types below it
 
     // Has a structure or a list of its own in memory.
     bool constructed() const
