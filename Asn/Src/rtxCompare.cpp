@@ -62,7 +62,12 @@ void match(Element* a, uint32_t numberA, Element* b, uint32_t numberB)
 class Comparer
 {
 public:
-    Comparer(OSCTXT& a, const OSCTXT& b, RtxDifferenceSink sink, void* arg) : a_(a), b_(b), sink_(sink), arg_(arg) {}
+    // `b` is null where both trees lie in one heap.
+    Comparer(OSCTXT& a, const OSCTXT* b, RtxDifferenceSink sink, void* arg)
+        : memory_(a), b_(b != nullptr && b != &a ? *b : a_), sink_(sink), arg_(arg)
+    {
+        a_.heap = a.heap;
+    }
 
     int64_t run(const Type& type, const void* a, const void* b)
     {
@@ -346,9 +351,9 @@ private:
         {
             return;
         }
-        const HeapMark mark(a_);
+        const HeapMark mark(memory_);
         auto* const elementsA =
-            static_cast<Element*>(rtxMemHeapAlloc(&a_, (size_t{numberA} + numberB) * sizeof(Element)));
+            static_cast<Element*>(rtxMemHeapAlloc(&memory_, (size_t{numberA} + numberB) * sizeof(Element)));
         if (elementsA == nullptr)
         {
             status_ = RTX_E_HEAP;
@@ -444,7 +449,8 @@ private:
         return true;
     }
 
-    OSCTXT& a_;
+    OSCTXT& memory_;
+    OSCTXT a_{}; // the heap as it was: what the comparison takes of it belongs to no tree
     const OSCTXT& b_;
     RtxDifferenceSink sink_;
     void* arg_;
@@ -584,7 +590,7 @@ int64_t rtxCompare(OSCTXT* pctxtA, const OSCTXT* pctxtB, const RtxType* type, co
     {
         return RTX_E_NULL;
     }
-    return rtx::Comparer(*pctxtA, pctxtB != nullptr ? *pctxtB : *pctxtA, sink, arg).run(*type, a, b);
+    return rtx::Comparer(*pctxtA, pctxtB, sink, arg).run(*type, a, b);
 }
 
 size_t rtxDifferenceFormat(const RtxDifference* difference, char* text, size_t size)
