@@ -34,7 +34,8 @@ void markUsual(Model& model, const std::vector<std::string>& names, Diagnostics&
     {
         for (Member& member : type->members)
         {
-            member.usual = left.erase(type->asnName + "." + member.asnName) != 0;
+            const bool listed = left.erase(type->asnName + "." + member.asnName) != 0;
+            member.usual = listed || (type->kind == Kind::Sequence && !member.optional);
         }
     }
     for (const std::string& name : left)

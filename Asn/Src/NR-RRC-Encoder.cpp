@@ -4724,14 +4724,14 @@ static Bits pe_RLF_TimersAndConstants(Encoder& e, Bits b, const RLF_TimersAndCon
         return e.range("n311", v->n311, 0, 7);
     }
     b = e.put<11>(b, (((uint64_t{extended}) << 4 | uint64_t{v->t310}) << 3 | uint64_t{v->n310}) << 3 | uint64_t{v->n311});
-    if (extended) [[unlikely]]
+    if (extended)
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0) [[unlikely]]
+        if (addition0 != 0)
         {
             const uint64_t start = b.pos;
             b = e.openType(b);

@@ -352,6 +352,7 @@ TEST(Options, WhatIsNotUsualIsUnlikely)
         A ::= SEQUENCE { x BOOLEAN OPTIONAL, y BOOLEAN OPTIONAL, ..., [[ z BOOLEAN OPTIONAL ]], [[ w BOOLEAN OPTIONAL ]] }
         B ::= CHOICE { x BOOLEAN, y BOOLEAN }
         C ::= SEQUENCE { ..., [[ x BOOLEAN OPTIONAL ]] }
+        D ::= SEQUENCE { ..., [[ x BOOLEAN ]] }
         END)";
     const auto encoder = [&](const std::vector<std::string>& usual)
     {
@@ -367,6 +368,7 @@ TEST(Options, WhatIsNotUsualIsUnlikely)
     EXPECT_THAT(some, HasSubstr("if (addition0 != 0)\n")) << "A";
     EXPECT_THAT(some, HasSubstr("if (addition1 != 0) [[unlikely]]\n"));
     EXPECT_THAT(some, HasSubstr("if (extended) [[unlikely]]\n")) << "C";
+    EXPECT_THAT(some.substr(some.find("pe_D")), Not(HasSubstr("!= 0) [[unlikely]]"))) << "which the list cannot tell";
     EXPECT_THAT(some, HasSubstr("        case T_B_x:\n"));
     EXPECT_THAT(some, HasSubstr("        [[unlikely]] case T_B_y:\n"));
     EXPECT_THAT(encoder({}), Not(HasSubstr("Present) [[unlikely]]")));
