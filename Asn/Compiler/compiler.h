@@ -22,6 +22,8 @@ struct Options
                                      // every named constructed type
     std::vector<std::string> except; // names that "all" leaves out
     std::string base; // not empty: only <base>.h and <base>.cpp come out, with the functions of these types
+    // "Type.member" of the optional members and alternatives that usual messages carry; empty: all.
+    std::vector<std::string> usual = {};
 };
 
 // Compiles the schema. On failure the diagnostics say why and nothing comes out.

@@ -246,6 +246,19 @@ private:
         check(body, "!e.ok(b)", "e.in(b, " + quoted(name) + ")");
     }
 
+    // Keeps the code of what usual messages do not carry out of their way.
+    static std::string unusual(bool yes)
+    {
+        return yes ? " [[unlikely]]" : "";
+    }
+
+    static bool usual(const Type& type, const Addition& addition)
+    {
+        const auto first = type.members.begin() + static_cast<std::ptrdiff_t>(addition.first);
+        return std::any_of(first, first + static_cast<std::ptrdiff_t>(addition.count),
+                           [](const Member& member) { return member.usual; });
+    }
+
     static void members(Body& body, const Type& type, std::size_t first, std::size_t count)
     {
         for (std::size_t i = first; i < first + count; ++i)
@@ -257,7 +270,7 @@ private:
                 continue;
             }
             body.flush();
-            body.line("if (v->m." + member.cName + "Present)");
+            body.line("if (v->m." + member.cName + "Present)" + unusual(!member.usual));
             body.open();
             value(body, *member.type, "v->" + member.cName, member.asnName);
             body.close();
@@ -342,7 +355,9 @@ private:
         {
             known = i == 0 ? "addition0" : "(" + known + ") << 1 | addition" + std::to_string(i);
         }
-        body.line("if (extended)");
+        const bool anyUsual = std::any_of(type.additions.begin(), type.additions.end(),
+                                          [&](const Addition& addition) { return usual(type, addition); });
+        body.line("if (extended)" + unusual(!anyUsual));
         body.open();
         body.line("b = e.extensionBitmap(b, " + known + ", " + std::to_string(type.additions.size()) +
                   ", v->extElem1);");
@@ -350,7 +365,7 @@ private:
         for (std::size_t i = 0; i < type.additions.size(); ++i)
         {
             const Addition& addition = type.additions[i];
-            body.line("if (addition" + std::to_string(i) + " != 0)");
+            body.line("if (addition" + std::to_string(i) + " != 0)" + unusual(!usual(type, addition)));
             body.open();
             body.line("const uint64_t start = b.pos;");
             body.line("b = e.openType(b);");
@@ -379,7 +394,8 @@ private:
         body.openPlain();
         for (std::size_t i = 0; i < type.members.size(); ++i)
         {
-            body.line("case T_" + type.cName + "_" + type.members[i].cName + ":");
+            body.line((type.members[i].usual ? "case T_" : "[[unlikely]] case T_") + type.cName + "_" +
+                      type.members[i].cName + ":");
             body.open();
             if (i < type.rootCount)
             {

@@ -33,6 +33,7 @@ struct Member
     bool optional = false;
     bool pointer = false; // alternative of a choice held by pointer
     int flag = -1;        // number of its presence flag
+    bool usual = true;    // optional member, alternative: carried by usual messages
 };
 
 struct Addition

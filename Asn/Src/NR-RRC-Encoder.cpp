@@ -12,7 +12,7 @@ static Bits pe_RLC_BearerConfig_servedRadioBearer(Encoder& e, Bits b, const RLC_
 {
     switch (v->t)
     {
-        case T_RLC_BearerConfig_servedRadioBearer_srb_Identity:
+        [[unlikely]] case T_RLC_BearerConfig_servedRadioBearer_srb_Identity:
         {
             if (v->u.srb_Identity < 1 || v->u.srb_Identity > 3) [[unlikely]]
             {
@@ -112,7 +112,7 @@ static Bits pe_RLC_Config_am(Encoder& e, Bits b, const RLC_Config_am* v)
 static Bits pe_UL_UM_RLC(Encoder& e, Bits b, const UL_UM_RLC* v)
 {
     b = e.put<1>(b, uint64_t{v->m.sn_FieldLengthPresent});
-    if (v->m.sn_FieldLengthPresent)
+    if (v->m.sn_FieldLengthPresent) [[unlikely]]
     {
         if (v->sn_FieldLength > 1u) [[unlikely]]
         {
@@ -127,7 +127,7 @@ static Bits pe_UL_UM_RLC(Encoder& e, Bits b, const UL_UM_RLC* v)
 static Bits pe_DL_UM_RLC(Encoder& e, Bits b, const DL_UM_RLC* v)
 {
     b = e.put<1>(b, uint64_t{v->m.sn_FieldLengthPresent});
-    if (v->m.sn_FieldLengthPresent)
+    if (v->m.sn_FieldLengthPresent) [[unlikely]]
     {
         if (v->sn_FieldLength > 1u) [[unlikely]]
         {
@@ -201,7 +201,7 @@ static Bits pe_RLC_Config(Encoder& e, Bits b, const RLC_Config* v)
             }
             break;
         }
-        case T_RLC_Config_um_Bi_Directional:
+        [[unlikely]] case T_RLC_Config_um_Bi_Directional:
         {
             const auto* const p = v->u.um_Bi_Directional;
             if (!e.reachable(p)) [[unlikely]]
@@ -216,7 +216,7 @@ static Bits pe_RLC_Config(Encoder& e, Bits b, const RLC_Config* v)
             }
             break;
         }
-        case T_RLC_Config_um_Uni_Directional_UL:
+        [[unlikely]] case T_RLC_Config_um_Uni_Directional_UL:
         {
             const auto* const p = v->u.um_Uni_Directional_UL;
             if (!e.reachable(p)) [[unlikely]]
@@ -231,7 +231,7 @@ static Bits pe_RLC_Config(Encoder& e, Bits b, const RLC_Config* v)
             }
             break;
         }
-        case T_RLC_Config_um_Uni_Directional_DL:
+        [[unlikely]] case T_RLC_Config_um_Uni_Directional_DL:
         {
             const auto* const p = v->u.um_Uni_Directional_DL;
             if (!e.reachable(p)) [[unlikely]]
@@ -310,7 +310,7 @@ static Bits pe_LogicalChannelConfig_ul_SpecificParameters(Encoder& e, Bits b, co
         return e.range("bucketSizeDuration", v->bucketSizeDuration, 0, 15);
     }
     b = e.put<19>(b, ((((uint64_t{extended}) << 6 | e.flags<0, 6>(v->m)) << 4 | (uint64_t{v->priority} - 1)) << 4 | uint64_t{v->prioritisedBitRate}) << 4 | uint64_t{v->bucketSizeDuration});
-    if (v->m.allowedServingCellsPresent)
+    if (v->m.allowedServingCellsPresent) [[unlikely]]
     {
         b = pe_LogicalChannelConfig_ul_SpecificParameters_allowedServingCells(e, b, &v->allowedServingCells);
         if (!e.ok(b)) [[unlikely]]
@@ -318,7 +318,7 @@ static Bits pe_LogicalChannelConfig_ul_SpecificParameters(Encoder& e, Bits b, co
             return e.in(b, "allowedServingCells");
         }
     }
-    if (v->m.allowedSCS_ListPresent)
+    if (v->m.allowedSCS_ListPresent) [[unlikely]]
     {
         b = pe_LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List(e, b, &v->allowedSCS_List);
         if (!e.ok(b)) [[unlikely]]
@@ -326,7 +326,7 @@ static Bits pe_LogicalChannelConfig_ul_SpecificParameters(Encoder& e, Bits b, co
             return e.in(b, "allowedSCS-List");
         }
     }
-    if (v->m.maxPUSCH_DurationPresent)
+    if (v->m.maxPUSCH_DurationPresent) [[unlikely]]
     {
         if (v->maxPUSCH_Duration > 7u) [[unlikely]]
         {
@@ -334,7 +334,7 @@ static Bits pe_LogicalChannelConfig_ul_SpecificParameters(Encoder& e, Bits b, co
         }
         b = e.put<3>(b, uint64_t{v->maxPUSCH_Duration});
     }
-    if (v->m.configuredGrantType1AllowedPresent)
+    if (v->m.configuredGrantType1AllowedPresent) [[unlikely]]
     {
         if (v->configuredGrantType1Allowed > 0u) [[unlikely]]
         {
@@ -358,14 +358,14 @@ static Bits pe_LogicalChannelConfig_ul_SpecificParameters(Encoder& e, Bits b, co
         b = e.put<3>(b, uint64_t{v->schedulingRequestID});
     }
     b = e.put<2>(b, (uint64_t{v->logicalChannelSR_Mask != 0}) << 1 | uint64_t{v->logicalChannelSR_DelayTimerApplied != 0});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
@@ -394,7 +394,7 @@ static Bits pe_LogicalChannelConfig(Encoder& e, Bits b, const LogicalChannelConf
             return e.in(b, "ul-SpecificParameters");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -423,7 +423,7 @@ static Bits pe_RLC_BearerConfig(Encoder& e, Bits b, const RLC_BearerConfig* v)
             return e.in(b, "servedRadioBearer");
         }
     }
-    if (v->m.reestablishRLCPresent)
+    if (v->m.reestablishRLCPresent) [[unlikely]]
     {
         if (v->reestablishRLC > 0u) [[unlikely]]
         {
@@ -446,7 +446,7 @@ static Bits pe_RLC_BearerConfig(Encoder& e, Bits b, const RLC_BearerConfig* v)
             return e.in(b, "mac-LogicalChannelConfig");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -508,7 +508,7 @@ static Bits pe_DRX_Config_drx_onDurationTimer(Encoder& e, Bits b, const DRX_Conf
 {
     switch (v->t)
     {
-        case T_DRX_Config_drx_onDurationTimer_subMilliSeconds:
+        [[unlikely]] case T_DRX_Config_drx_onDurationTimer_subMilliSeconds:
         {
             if (v->u.subMilliSeconds < 1 || v->u.subMilliSeconds > 31) [[unlikely]]
             {
@@ -537,7 +537,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
 {
     switch (v->t)
     {
-        case T_DRX_Config_drx_LongCycleStartOffset_ms10:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms10:
         {
             if (v->u.ms10 > 9) [[unlikely]]
             {
@@ -546,7 +546,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<9>(b, (uint64_t{0}) << 4 | uint64_t{v->u.ms10});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms20:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms20:
         {
             if (v->u.ms20 > 19) [[unlikely]]
             {
@@ -555,7 +555,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<10>(b, (uint64_t{1}) << 5 | uint64_t{v->u.ms20});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms32:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms32:
         {
             if (v->u.ms32 > 31) [[unlikely]]
             {
@@ -564,7 +564,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<10>(b, (uint64_t{2}) << 5 | uint64_t{v->u.ms32});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms40:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms40:
         {
             if (v->u.ms40 > 39) [[unlikely]]
             {
@@ -573,7 +573,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<11>(b, (uint64_t{3}) << 6 | uint64_t{v->u.ms40});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms60:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms60:
         {
             if (v->u.ms60 > 59) [[unlikely]]
             {
@@ -582,7 +582,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<11>(b, (uint64_t{4}) << 6 | uint64_t{v->u.ms60});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms64:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms64:
         {
             if (v->u.ms64 > 63) [[unlikely]]
             {
@@ -591,7 +591,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<11>(b, (uint64_t{5}) << 6 | uint64_t{v->u.ms64});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms70:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms70:
         {
             if (v->u.ms70 > 69) [[unlikely]]
             {
@@ -600,7 +600,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<12>(b, (uint64_t{6}) << 7 | uint64_t{v->u.ms70});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms80:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms80:
         {
             if (v->u.ms80 > 79) [[unlikely]]
             {
@@ -609,7 +609,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<12>(b, (uint64_t{7}) << 7 | uint64_t{v->u.ms80});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms128:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms128:
         {
             if (v->u.ms128 > 127) [[unlikely]]
             {
@@ -618,7 +618,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<12>(b, (uint64_t{8}) << 7 | uint64_t{v->u.ms128});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms160:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms160:
         {
             if (v->u.ms160 > 159) [[unlikely]]
             {
@@ -627,7 +627,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<13>(b, (uint64_t{9}) << 8 | uint64_t{v->u.ms160});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms256:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms256:
         {
             b = e.put<13>(b, (uint64_t{10}) << 8 | uint64_t{v->u.ms256});
             break;
@@ -641,7 +641,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<14>(b, (uint64_t{11}) << 9 | uint64_t{v->u.ms320});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms512:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms512:
         {
             if (v->u.ms512 > 511) [[unlikely]]
             {
@@ -650,7 +650,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<14>(b, (uint64_t{12}) << 9 | uint64_t{v->u.ms512});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms640:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms640:
         {
             if (v->u.ms640 > 639) [[unlikely]]
             {
@@ -659,7 +659,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<15>(b, (uint64_t{13}) << 10 | uint64_t{v->u.ms640});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms1024:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms1024:
         {
             if (v->u.ms1024 > 1023) [[unlikely]]
             {
@@ -668,7 +668,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<15>(b, (uint64_t{14}) << 10 | uint64_t{v->u.ms1024});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms1280:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms1280:
         {
             if (v->u.ms1280 > 1279) [[unlikely]]
             {
@@ -677,7 +677,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<16>(b, (uint64_t{15}) << 11 | uint64_t{v->u.ms1280});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms2048:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms2048:
         {
             if (v->u.ms2048 > 2047) [[unlikely]]
             {
@@ -686,7 +686,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<16>(b, (uint64_t{16}) << 11 | uint64_t{v->u.ms2048});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms2560:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms2560:
         {
             if (v->u.ms2560 > 2559) [[unlikely]]
             {
@@ -695,7 +695,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<17>(b, (uint64_t{17}) << 12 | uint64_t{v->u.ms2560});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms5120:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms5120:
         {
             if (v->u.ms5120 > 5119) [[unlikely]]
             {
@@ -704,7 +704,7 @@ static Bits pe_DRX_Config_drx_LongCycleStartOffset(Encoder& e, Bits b, const DRX
             b = e.put<18>(b, (uint64_t{18}) << 13 | uint64_t{v->u.ms5120});
             break;
         }
-        case T_DRX_Config_drx_LongCycleStartOffset_ms10240:
+        [[unlikely]] case T_DRX_Config_drx_LongCycleStartOffset_ms10240:
         {
             if (v->u.ms10240 > 10239) [[unlikely]]
             {
@@ -790,7 +790,7 @@ static Bits pe_MAC_CellGroupConfig_drx_Config(Encoder& e, Bits b, const MAC_Cell
 {
     switch (v->t)
     {
-        case T_MAC_CellGroupConfig_drx_Config_release:
+        [[unlikely]] case T_MAC_CellGroupConfig_drx_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -921,7 +921,7 @@ static Bits pe_BSR_Config(Encoder& e, Bits b, const BSR_Config* v)
         return e.range("retxBSR-Timer", v->retxBSR_Timer, 0, 15);
     }
     b = e.put<10>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.logicalChannelSR_DelayTimerPresent}) << 4 | uint64_t{v->periodicBSR_Timer}) << 4 | uint64_t{v->retxBSR_Timer});
-    if (v->m.logicalChannelSR_DelayTimerPresent)
+    if (v->m.logicalChannelSR_DelayTimerPresent) [[unlikely]]
     {
         if (v->logicalChannelSR_DelayTimer > 7u) [[unlikely]]
         {
@@ -929,7 +929,7 @@ static Bits pe_BSR_Config(Encoder& e, Bits b, const BSR_Config* v)
         }
         b = e.put<3>(b, uint64_t{v->logicalChannelSR_DelayTimer});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -974,7 +974,7 @@ static Bits pe_TAG(Encoder& e, Bits b, const TAG* v)
         return e.range("timeAlignmentTimer", v->timeAlignmentTimer, 0, 7);
     }
     b = e.put<6>(b, ((uint64_t{extended}) << 2 | uint64_t{v->tag_Id}) << 3 | uint64_t{v->timeAlignmentTimer});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1055,7 +1055,7 @@ static Bits pe_PHR_Config(Encoder& e, Bits b, const PHR_Config* v)
         return e.range("phr-ModeOtherCG", v->phr_ModeOtherCG, 0, 1);
     }
     b = e.put<13>(b, (((((((uint64_t{extended}) << 3 | uint64_t{v->phr_PeriodicTimer}) << 3 | uint64_t{v->phr_ProhibitTimer}) << 2 | uint64_t{v->phr_Tx_PowerFactorChange}) << 1 | uint64_t{v->multiplePHR != 0}) << 1 | uint64_t{v->dummy != 0}) << 1 | uint64_t{v->phr_Type2OtherCell != 0}) << 1 | uint64_t{v->phr_ModeOtherCG});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1072,7 +1072,7 @@ static Bits pe_MAC_CellGroupConfig_phr_Config(Encoder& e, Bits b, const MAC_Cell
 {
     switch (v->t)
     {
-        case T_MAC_CellGroupConfig_phr_Config_release:
+        [[unlikely]] case T_MAC_CellGroupConfig_phr_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -1103,12 +1103,12 @@ static Bits pe_MAC_CellGroupConfig_dataInactivityTimer(Encoder& e, Bits b, const
 {
     switch (v->t)
     {
-        case T_MAC_CellGroupConfig_dataInactivityTimer_release:
+        [[unlikely]] case T_MAC_CellGroupConfig_dataInactivityTimer_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_MAC_CellGroupConfig_dataInactivityTimer_setup:
+        [[unlikely]] case T_MAC_CellGroupConfig_dataInactivityTimer_setup:
         {
             if (v->u.setup > 15u) [[unlikely]]
             {
@@ -1170,23 +1170,23 @@ static Bits pe_MAC_CellGroupConfig(Encoder& e, Bits b, const MAC_CellGroupConfig
         }
     }
     b = e.put<1>(b, uint64_t{v->skipUplinkTxDynamic != 0});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<2>(b, (uint64_t{v->m.csi_MaskPresent}) << 1 | uint64_t{v->m.dataInactivityTimerPresent});
-            if (v->m.csi_MaskPresent)
+            if (v->m.csi_MaskPresent) [[unlikely]]
             {
                 b = e.put<1>(b, uint64_t{v->csi_Mask != 0});
             }
-            if (v->m.dataInactivityTimerPresent)
+            if (v->m.dataInactivityTimerPresent) [[unlikely]]
             {
                 b = pe_MAC_CellGroupConfig_dataInactivityTimer(e, b, &v->dataInactivityTimer);
                 if (!e.ok(b)) [[unlikely]]
@@ -1206,12 +1206,12 @@ static Bits pe_PhysicalCellGroupConfig_cs_RNTI(Encoder& e, Bits b, const Physica
 {
     switch (v->t)
     {
-        case T_PhysicalCellGroupConfig_cs_RNTI_release:
+        [[unlikely]] case T_PhysicalCellGroupConfig_cs_RNTI_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PhysicalCellGroupConfig_cs_RNTI_setup:
+        [[unlikely]] case T_PhysicalCellGroupConfig_cs_RNTI_setup:
         {
             b = e.put<17>(b, (uint64_t{1}) << 16 | uint64_t{v->u.setup});
             break;
@@ -1227,12 +1227,12 @@ static Bits pe_PhysicalCellGroupConfig_pdcch_BlindDetection(Encoder& e, Bits b, 
 {
     switch (v->t)
     {
-        case T_PhysicalCellGroupConfig_pdcch_BlindDetection_release:
+        [[unlikely]] case T_PhysicalCellGroupConfig_pdcch_BlindDetection_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PhysicalCellGroupConfig_pdcch_BlindDetection_setup:
+        [[unlikely]] case T_PhysicalCellGroupConfig_pdcch_BlindDetection_setup:
         {
             if (v->u.setup < 1 || v->u.setup > 15) [[unlikely]]
             {
@@ -1255,14 +1255,14 @@ static Bits pe_PhysicalCellGroupConfig(Encoder& e, Bits b, const PhysicalCellGro
     const unsigned addition2 = v->m._v4ExtPresent & (v->m.pdcch_BlindDetectionPresent);
     const bool extended = addition0 != 0 || addition1 != 0 || addition2 != 0 || v->extElem1.count != 0;
     b = e.put<9>(b, (uint64_t{extended}) << 8 | e.flags<0, 8>(v->m));
-    if (v->m.harq_ACK_SpatialBundlingPUCCHPresent)
+    if (v->m.harq_ACK_SpatialBundlingPUCCHPresent) [[unlikely]]
     {
         if (v->harq_ACK_SpatialBundlingPUCCH > 0u) [[unlikely]]
         {
             return e.range("harq-ACK-SpatialBundlingPUCCH", v->harq_ACK_SpatialBundlingPUCCH, 0, 0);
         }
     }
-    if (v->m.harq_ACK_SpatialBundlingPUSCHPresent)
+    if (v->m.harq_ACK_SpatialBundlingPUSCHPresent) [[unlikely]]
     {
         if (v->harq_ACK_SpatialBundlingPUSCH > 0u) [[unlikely]]
         {
@@ -1282,23 +1282,23 @@ static Bits pe_PhysicalCellGroupConfig(Encoder& e, Bits b, const PhysicalCellGro
         return e.range("pdsch-HARQ-ACK-Codebook", v->pdsch_HARQ_ACK_Codebook, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->pdsch_HARQ_ACK_Codebook});
-    if (v->m.tpc_SRS_RNTIPresent)
+    if (v->m.tpc_SRS_RNTIPresent) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->tpc_SRS_RNTI});
     }
-    if (v->m.tpc_PUCCH_RNTIPresent)
+    if (v->m.tpc_PUCCH_RNTIPresent) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->tpc_PUCCH_RNTI});
     }
-    if (v->m.tpc_PUSCH_RNTIPresent)
+    if (v->m.tpc_PUSCH_RNTIPresent) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->tpc_PUSCH_RNTI});
     }
-    if (v->m.sp_CSI_RNTIPresent)
+    if (v->m.sp_CSI_RNTIPresent) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->sp_CSI_RNTI});
     }
-    if (v->m.cs_RNTIPresent)
+    if (v->m.cs_RNTIPresent) [[unlikely]]
     {
         b = pe_PhysicalCellGroupConfig_cs_RNTI(e, b, &v->cs_RNTI);
         if (!e.ok(b)) [[unlikely]]
@@ -1306,23 +1306,23 @@ static Bits pe_PhysicalCellGroupConfig(Encoder& e, Bits b, const PhysicalCellGro
             return e.in(b, "cs-RNTI");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, ((addition0) << 1 | addition1) << 1 | addition2, 3, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<2>(b, (uint64_t{v->m.mcs_C_RNTIPresent}) << 1 | uint64_t{v->m.p_UE_FR1Present});
-            if (v->m.mcs_C_RNTIPresent)
+            if (v->m.mcs_C_RNTIPresent) [[unlikely]]
             {
                 b = e.put<16>(b, uint64_t{v->mcs_C_RNTI});
             }
-            if (v->m.p_UE_FR1Present)
+            if (v->m.p_UE_FR1Present) [[unlikely]]
             {
                 if (v->p_UE_FR1 < -30 || v->p_UE_FR1 > 33) [[unlikely]]
                 {
@@ -1332,12 +1332,12 @@ static Bits pe_PhysicalCellGroupConfig(Encoder& e, Bits b, const PhysicalCellGro
             }
             b = e.closeOpenType(b, start);
         }
-        if (addition1 != 0)
+        if (addition1 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.xScalePresent});
-            if (v->m.xScalePresent)
+            if (v->m.xScalePresent) [[unlikely]]
             {
                 if (v->xScale > 3u) [[unlikely]]
                 {
@@ -1347,12 +1347,12 @@ static Bits pe_PhysicalCellGroupConfig(Encoder& e, Bits b, const PhysicalCellGro
             }
             b = e.closeOpenType(b, start);
         }
-        if (addition2 != 0)
+        if (addition2 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.pdcch_BlindDetectionPresent});
-            if (v->m.pdcch_BlindDetectionPresent)
+            if (v->m.pdcch_BlindDetectionPresent) [[unlikely]]
             {
                 b = pe_PhysicalCellGroupConfig_pdcch_BlindDetection(e, b, &v->pdcch_BlindDetection);
                 if (!e.ok(b)) [[unlikely]]
@@ -1405,19 +1405,19 @@ static Bits pe_SCS_SpecificCarrier(Encoder& e, Bits b, const SCS_SpecificCarrier
         return e.range("carrierBandwidth", v->carrierBandwidth, 1, 275);
     }
     b = e.put<25>(b, (((uint64_t{extended}) << 12 | uint64_t{v->offsetToCarrier}) << 3 | uint64_t{v->subcarrierSpacing}) << 9 | (uint64_t{v->carrierBandwidth} - 1));
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.txDirectCurrentLocation_v1530Present});
-            if (v->m.txDirectCurrentLocation_v1530Present)
+            if (v->m.txDirectCurrentLocation_v1530Present) [[unlikely]]
             {
                 if (v->txDirectCurrentLocation_v1530 > 4095) [[unlikely]]
                 {
@@ -1485,7 +1485,7 @@ static Bits pe_FrequencyInfoDL(Encoder& e, Bits b, const FrequencyInfoDL* v)
     {
         return e.in(b, "scs-SpecificCarrierList");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1509,7 +1509,7 @@ static Bits pe_BWP(Encoder& e, Bits b, const BWP* v)
         return e.range("subcarrierSpacing", v->subcarrierSpacing, 0, 7);
     }
     b = e.put<20>(b, ((uint64_t{v->m.cyclicPrefixPresent}) << 16 | uint64_t{v->locationAndBandwidth}) << 3 | uint64_t{v->subcarrierSpacing});
-    if (v->m.cyclicPrefixPresent)
+    if (v->m.cyclicPrefixPresent) [[unlikely]]
     {
         if (v->cyclicPrefix > 0u) [[unlikely]]
         {
@@ -1531,7 +1531,7 @@ static Bits pe_ControlResourceSet_cce_REG_MappingType_interleaved(Encoder& e, Bi
         return e.range("interleaverSize", v->interleaverSize, 0, 2);
     }
     b = e.put<5>(b, ((uint64_t{v->m.shiftIndexPresent}) << 2 | uint64_t{v->reg_BundleSize}) << 2 | uint64_t{v->interleaverSize});
-    if (v->m.shiftIndexPresent)
+    if (v->m.shiftIndexPresent) [[unlikely]]
     {
         if (v->shiftIndex > 274) [[unlikely]]
         {
@@ -1654,7 +1654,7 @@ static Bits pe_ControlResourceSet(Encoder& e, Bits b, const ControlResourceSet* 
             return e.in(b, "tci-StatesPDCCH-ToReleaseList");
         }
     }
-    if (v->m.tci_PresentInDCIPresent)
+    if (v->m.tci_PresentInDCIPresent) [[unlikely]]
     {
         if (v->tci_PresentInDCI > 0u) [[unlikely]]
         {
@@ -1665,7 +1665,7 @@ static Bits pe_ControlResourceSet(Encoder& e, Bits b, const ControlResourceSet* 
     {
         b = e.put<16>(b, uint64_t{v->pdcch_DMRS_ScramblingID});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1687,7 +1687,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<4>(b, uint64_t{0});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl2:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl2:
         {
             if (v->u.sl2 > 1) [[unlikely]]
             {
@@ -1696,7 +1696,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<5>(b, (uint64_t{1}) << 1 | uint64_t{v->u.sl2});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl4:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl4:
         {
             if (v->u.sl4 > 3) [[unlikely]]
             {
@@ -1705,7 +1705,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<6>(b, (uint64_t{2}) << 2 | uint64_t{v->u.sl4});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl5:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl5:
         {
             if (v->u.sl5 > 4) [[unlikely]]
             {
@@ -1714,7 +1714,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<7>(b, (uint64_t{3}) << 3 | uint64_t{v->u.sl5});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl8:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl8:
         {
             if (v->u.sl8 > 7) [[unlikely]]
             {
@@ -1723,7 +1723,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<7>(b, (uint64_t{4}) << 3 | uint64_t{v->u.sl8});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl10:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl10:
         {
             if (v->u.sl10 > 9) [[unlikely]]
             {
@@ -1732,7 +1732,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<8>(b, (uint64_t{5}) << 4 | uint64_t{v->u.sl10});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl16:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl16:
         {
             if (v->u.sl16 > 15) [[unlikely]]
             {
@@ -1750,7 +1750,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<9>(b, (uint64_t{7}) << 5 | uint64_t{v->u.sl20});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl40:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl40:
         {
             if (v->u.sl40 > 39) [[unlikely]]
             {
@@ -1759,7 +1759,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<10>(b, (uint64_t{8}) << 6 | uint64_t{v->u.sl40});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl80:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl80:
         {
             if (v->u.sl80 > 79) [[unlikely]]
             {
@@ -1768,7 +1768,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<11>(b, (uint64_t{9}) << 7 | uint64_t{v->u.sl80});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl160:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl160:
         {
             if (v->u.sl160 > 159) [[unlikely]]
             {
@@ -1777,7 +1777,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<12>(b, (uint64_t{10}) << 8 | uint64_t{v->u.sl160});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl320:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl320:
         {
             if (v->u.sl320 > 319) [[unlikely]]
             {
@@ -1786,7 +1786,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<13>(b, (uint64_t{11}) << 9 | uint64_t{v->u.sl320});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl640:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl640:
         {
             if (v->u.sl640 > 639) [[unlikely]]
             {
@@ -1795,7 +1795,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<14>(b, (uint64_t{12}) << 10 | uint64_t{v->u.sl640});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl1280:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl1280:
         {
             if (v->u.sl1280 > 1279) [[unlikely]]
             {
@@ -1804,7 +1804,7 @@ static Bits pe_SearchSpace_monitoringSlotPeriodicityAndOffset(Encoder& e, Bits b
             b = e.put<15>(b, (uint64_t{13}) << 11 | uint64_t{v->u.sl1280});
             break;
         }
-        case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl2560:
+        [[unlikely]] case T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl2560:
         {
             if (v->u.sl2560 > 2559) [[unlikely]]
             {
@@ -1851,7 +1851,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0(Enc
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<1>(b, uint64_t{extended});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1867,7 +1867,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0(Enc
 static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI(Encoder& e, Bits b, const SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI* v)
 {
     b = e.put<5>(b, e.flags<0, 5>(v->m));
-    if (v->m.aggregationLevel1Present)
+    if (v->m.aggregationLevel1Present) [[unlikely]]
     {
         if (v->aggregationLevel1 > 1u) [[unlikely]]
         {
@@ -1875,7 +1875,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_S
         }
         b = e.put<1>(b, uint64_t{v->aggregationLevel1});
     }
-    if (v->m.aggregationLevel2Present)
+    if (v->m.aggregationLevel2Present) [[unlikely]]
     {
         if (v->aggregationLevel2 > 1u) [[unlikely]]
         {
@@ -1883,7 +1883,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_S
         }
         b = e.put<1>(b, uint64_t{v->aggregationLevel2});
     }
-    if (v->m.aggregationLevel4Present)
+    if (v->m.aggregationLevel4Present) [[unlikely]]
     {
         if (v->aggregationLevel4 > 1u) [[unlikely]]
         {
@@ -1891,7 +1891,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_S
         }
         b = e.put<1>(b, uint64_t{v->aggregationLevel4});
     }
-    if (v->m.aggregationLevel8Present)
+    if (v->m.aggregationLevel8Present) [[unlikely]]
     {
         if (v->aggregationLevel8 > 1u) [[unlikely]]
         {
@@ -1899,7 +1899,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_S
         }
         b = e.put<1>(b, uint64_t{v->aggregationLevel8});
     }
-    if (v->m.aggregationLevel16Present)
+    if (v->m.aggregationLevel16Present) [[unlikely]]
     {
         if (v->aggregationLevel16 > 1u) [[unlikely]]
         {
@@ -1920,7 +1920,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_0(Encoder& e, Bits
     {
         return e.in(b, "nrofCandidates-SFI");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1937,7 +1937,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_1(Encoder& e, Bits
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<1>(b, uint64_t{extended});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1954,7 +1954,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_2(Encoder& e, Bits
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<1>(b, uint64_t{extended});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -1971,7 +1971,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_3(Encoder& e, Bits
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<2>(b, (uint64_t{extended}) << 1 | uint64_t{v->m.dummy1Present});
-    if (v->m.dummy1Present)
+    if (v->m.dummy1Present) [[unlikely]]
     {
         if (v->dummy1 > 7u) [[unlikely]]
         {
@@ -1984,7 +1984,7 @@ static Bits pe_SearchSpace_searchSpaceType_common_dci_Format2_3(Encoder& e, Bits
         return e.range("dummy2", v->dummy2, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->dummy2});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2008,7 +2008,7 @@ static Bits pe_SearchSpace_searchSpaceType_common(Encoder& e, Bits b, const Sear
             return e.in(b, "dci-Format0-0-AndFormat1-0");
         }
     }
-    if (v->m.dci_Format2_0Present)
+    if (v->m.dci_Format2_0Present) [[unlikely]]
     {
         b = pe_SearchSpace_searchSpaceType_common_dci_Format2_0(e, b, &v->dci_Format2_0);
         if (!e.ok(b)) [[unlikely]]
@@ -2016,7 +2016,7 @@ static Bits pe_SearchSpace_searchSpaceType_common(Encoder& e, Bits b, const Sear
             return e.in(b, "dci-Format2-0");
         }
     }
-    if (v->m.dci_Format2_1Present)
+    if (v->m.dci_Format2_1Present) [[unlikely]]
     {
         b = pe_SearchSpace_searchSpaceType_common_dci_Format2_1(e, b, &v->dci_Format2_1);
         if (!e.ok(b)) [[unlikely]]
@@ -2024,7 +2024,7 @@ static Bits pe_SearchSpace_searchSpaceType_common(Encoder& e, Bits b, const Sear
             return e.in(b, "dci-Format2-1");
         }
     }
-    if (v->m.dci_Format2_2Present)
+    if (v->m.dci_Format2_2Present) [[unlikely]]
     {
         b = pe_SearchSpace_searchSpaceType_common_dci_Format2_2(e, b, &v->dci_Format2_2);
         if (!e.ok(b)) [[unlikely]]
@@ -2032,7 +2032,7 @@ static Bits pe_SearchSpace_searchSpaceType_common(Encoder& e, Bits b, const Sear
             return e.in(b, "dci-Format2-2");
         }
     }
-    if (v->m.dci_Format2_3Present)
+    if (v->m.dci_Format2_3Present) [[unlikely]]
     {
         b = pe_SearchSpace_searchSpaceType_common_dci_Format2_3(e, b, &v->dci_Format2_3);
         if (!e.ok(b)) [[unlikely]]
@@ -2052,7 +2052,7 @@ static Bits pe_SearchSpace_searchSpaceType_ue_Specific(Encoder& e, Bits b, const
         return e.range("dci-Formats", v->dci_Formats, 0, 1);
     }
     b = e.put<2>(b, (uint64_t{extended}) << 1 | uint64_t{v->dci_Formats});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2130,7 +2130,7 @@ static Bits pe_SearchSpace(Encoder& e, Bits b, const SearchSpace* v)
             return e.in(b, "monitoringSlotPeriodicityAndOffset");
         }
     }
-    if (v->m.durationPresent)
+    if (v->m.durationPresent) [[unlikely]]
     {
         if (v->duration < 2 || v->duration > 2559) [[unlikely]]
         {
@@ -2355,7 +2355,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
 {
     switch (v->t)
     {
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT:
         {
             const auto* const p = v->u.sCS15KHZoneT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2370,7 +2370,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT:
         {
             const auto* const p = v->u.sCS30KHZoneT_SCS15KHZhalfT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2385,7 +2385,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT:
         {
             const auto* const p = v->u.sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2400,7 +2400,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT:
         {
             const auto* const p = v->u.sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2415,7 +2415,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT:
         {
             const auto* const p = v->u.sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2430,7 +2430,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT:
         {
             const auto* const p = v->u.sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2445,7 +2445,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT:
         {
             const auto* const p = v->u.sCS120KHZoneEighthT_SCS60KHZoneSixteenthT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2460,7 +2460,7 @@ static Bits pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(Encoder& e, 
             }
             break;
         }
-        case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT:
+        [[unlikely]] case T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT:
         {
             const auto* const p = v->u.sCS120KHZoneSixteenthT;
             if (!e.reachable(p)) [[unlikely]]
@@ -2519,7 +2519,7 @@ static Bits pe_PDCCH_ConfigCommon(Encoder& e, Bits b, const PDCCH_ConfigCommon* 
             return e.in(b, "commonSearchSpaceList");
         }
     }
-    if (v->m.searchSpaceSIB1Present)
+    if (v->m.searchSpaceSIB1Present) [[unlikely]]
     {
         if (v->searchSpaceSIB1 > 39) [[unlikely]]
         {
@@ -2527,7 +2527,7 @@ static Bits pe_PDCCH_ConfigCommon(Encoder& e, Bits b, const PDCCH_ConfigCommon* 
         }
         b = e.put<6>(b, uint64_t{v->searchSpaceSIB1});
     }
-    if (v->m.searchSpaceOtherSystemInformationPresent)
+    if (v->m.searchSpaceOtherSystemInformationPresent) [[unlikely]]
     {
         if (v->searchSpaceOtherSystemInformation > 39) [[unlikely]]
         {
@@ -2535,7 +2535,7 @@ static Bits pe_PDCCH_ConfigCommon(Encoder& e, Bits b, const PDCCH_ConfigCommon* 
         }
         b = e.put<6>(b, uint64_t{v->searchSpaceOtherSystemInformation});
     }
-    if (v->m.pagingSearchSpacePresent)
+    if (v->m.pagingSearchSpacePresent) [[unlikely]]
     {
         if (v->pagingSearchSpace > 39) [[unlikely]]
         {
@@ -2551,19 +2551,19 @@ static Bits pe_PDCCH_ConfigCommon(Encoder& e, Bits b, const PDCCH_ConfigCommon* 
         }
         b = e.put<6>(b, uint64_t{v->ra_SearchSpace});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.firstPDCCH_MonitoringOccasionOfPOPresent});
-            if (v->m.firstPDCCH_MonitoringOccasionOfPOPresent)
+            if (v->m.firstPDCCH_MonitoringOccasionOfPOPresent) [[unlikely]]
             {
                 b = pe_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO(e, b, &v->firstPDCCH_MonitoringOccasionOfPO);
                 if (!e.ok(b)) [[unlikely]]
@@ -2583,7 +2583,7 @@ static Bits pe_BWP_DownlinkCommon_pdcch_ConfigCommon(Encoder& e, Bits b, const B
 {
     switch (v->t)
     {
-        case T_BWP_DownlinkCommon_pdcch_ConfigCommon_release:
+        [[unlikely]] case T_BWP_DownlinkCommon_pdcch_ConfigCommon_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -2614,7 +2614,7 @@ static Bits pe_BWP_DownlinkCommon_pdcch_ConfigCommon(Encoder& e, Bits b, const B
 static Bits pe_PDSCH_TimeDomainResourceAllocation(Encoder& e, Bits b, const PDSCH_TimeDomainResourceAllocation* v)
 {
     b = e.put<1>(b, uint64_t{v->m.k0Present});
-    if (v->m.k0Present)
+    if (v->m.k0Present) [[unlikely]]
     {
         if (v->k0 > 32) [[unlikely]]
         {
@@ -2672,7 +2672,7 @@ static Bits pe_PDSCH_ConfigCommon(Encoder& e, Bits b, const PDSCH_ConfigCommon* 
             return e.in(b, "pdsch-TimeDomainAllocationList");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2689,7 +2689,7 @@ static Bits pe_BWP_DownlinkCommon_pdsch_ConfigCommon(Encoder& e, Bits b, const B
 {
     switch (v->t)
     {
-        case T_BWP_DownlinkCommon_pdsch_ConfigCommon_release:
+        [[unlikely]] case T_BWP_DownlinkCommon_pdsch_ConfigCommon_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -2742,7 +2742,7 @@ static Bits pe_BWP_DownlinkCommon(Encoder& e, Bits b, const BWP_DownlinkCommon* 
             return e.in(b, "pdsch-ConfigCommon");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2775,7 +2775,7 @@ static Bits pe_DownlinkConfigCommon(Encoder& e, Bits b, const DownlinkConfigComm
             return e.in(b, "initialDownlinkBWP");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2825,7 +2825,7 @@ static Bits pe_FrequencyInfoUL(Encoder& e, Bits b, const FrequencyInfoUL* v)
             return e.in(b, "frequencyBandList");
         }
     }
-    if (v->m.absoluteFrequencyPointAPresent)
+    if (v->m.absoluteFrequencyPointAPresent) [[unlikely]]
     {
         if (v->absoluteFrequencyPointA > 3279165) [[unlikely]]
         {
@@ -2838,7 +2838,7 @@ static Bits pe_FrequencyInfoUL(Encoder& e, Bits b, const FrequencyInfoUL* v)
     {
         return e.in(b, "scs-SpecificCarrierList");
     }
-    if (v->m.additionalSpectrumEmissionPresent)
+    if (v->m.additionalSpectrumEmissionPresent) [[unlikely]]
     {
         if (v->additionalSpectrumEmission > 7) [[unlikely]]
         {
@@ -2846,7 +2846,7 @@ static Bits pe_FrequencyInfoUL(Encoder& e, Bits b, const FrequencyInfoUL* v)
         }
         b = e.put<3>(b, uint64_t{v->additionalSpectrumEmission});
     }
-    if (v->m.p_MaxPresent)
+    if (v->m.p_MaxPresent) [[unlikely]]
     {
         if (v->p_Max < -30 || v->p_Max > 33) [[unlikely]]
         {
@@ -2854,14 +2854,14 @@ static Bits pe_FrequencyInfoUL(Encoder& e, Bits b, const FrequencyInfoUL* v)
         }
         b = e.put<6>(b, static_cast<uint64_t>(v->p_Max + int64_t{30}));
     }
-    if (v->m.frequencyShift7p5khzPresent)
+    if (v->m.frequencyShift7p5khzPresent) [[unlikely]]
     {
         if (v->frequencyShift7p5khz > 0u) [[unlikely]]
         {
             return e.range("frequencyShift7p5khz", v->frequencyShift7p5khz, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2906,7 +2906,7 @@ static Bits pe_RACH_ConfigGeneric(Encoder& e, Bits b, const RACH_ConfigGeneric* 
         return e.range("ra-ResponseWindow", v->ra_ResponseWindow, 0, 7);
     }
     b = e.put<41>(b, ((((((((uint64_t{extended}) << 8 | uint64_t{v->prach_ConfigurationIndex}) << 2 | uint64_t{v->msg1_FDM}) << 9 | uint64_t{v->msg1_FrequencyStart}) << 4 | uint64_t{v->zeroCorrelationZoneConfig}) << 8 | static_cast<uint64_t>(v->preambleReceivedTargetPower + int64_t{202})) << 4 | uint64_t{v->preambleTransMax}) << 2 | uint64_t{v->powerRampingStep}) << 3 | uint64_t{v->ra_ResponseWindow});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -2923,7 +2923,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
 {
     switch (v->t)
     {
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_oneEighth:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_oneEighth:
         {
             if (v->u.oneEighth > 15u) [[unlikely]]
             {
@@ -2932,7 +2932,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
             b = e.put<7>(b, (uint64_t{0}) << 4 | uint64_t{v->u.oneEighth});
             break;
         }
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_oneFourth:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_oneFourth:
         {
             if (v->u.oneFourth > 15u) [[unlikely]]
             {
@@ -2941,7 +2941,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
             b = e.put<7>(b, (uint64_t{1}) << 4 | uint64_t{v->u.oneFourth});
             break;
         }
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_oneHalf:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_oneHalf:
         {
             if (v->u.oneHalf > 15u) [[unlikely]]
             {
@@ -2959,7 +2959,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
             b = e.put<7>(b, (uint64_t{3}) << 4 | uint64_t{v->u.one});
             break;
         }
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_two:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_two:
         {
             if (v->u.two > 7u) [[unlikely]]
             {
@@ -2968,7 +2968,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
             b = e.put<6>(b, (uint64_t{4}) << 3 | uint64_t{v->u.two});
             break;
         }
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_four:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_four:
         {
             if (v->u.four < 1 || v->u.four > 16) [[unlikely]]
             {
@@ -2977,7 +2977,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
             b = e.put<7>(b, (uint64_t{5}) << 4 | (uint64_t{v->u.four} - 1));
             break;
         }
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_eight:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_eight:
         {
             if (v->u.eight < 1 || v->u.eight > 8) [[unlikely]]
             {
@@ -2986,7 +2986,7 @@ static Bits pe_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB(Encod
             b = e.put<6>(b, (uint64_t{6}) << 3 | (uint64_t{v->u.eight} - 1));
             break;
         }
-        case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_sixteen:
+        [[unlikely]] case T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_sixteen:
         {
             if (v->u.sixteen < 1 || v->u.sixteen > 4) [[unlikely]]
             {
@@ -3025,7 +3025,7 @@ static Bits pe_RACH_ConfigCommon_prach_RootSequenceIndex(Encoder& e, Bits b, con
 {
     switch (v->t)
     {
-        case T_RACH_ConfigCommon_prach_RootSequenceIndex_l839:
+        [[unlikely]] case T_RACH_ConfigCommon_prach_RootSequenceIndex_l839:
         {
             if (v->u.l839 > 837) [[unlikely]]
             {
@@ -3059,7 +3059,7 @@ static Bits pe_RACH_ConfigCommon(Encoder& e, Bits b, const RACH_ConfigCommon* v)
     {
         return e.in(b, "rach-ConfigGeneric");
     }
-    if (v->m.totalNumberOfRA_PreamblesPresent)
+    if (v->m.totalNumberOfRA_PreamblesPresent) [[unlikely]]
     {
         if (v->totalNumberOfRA_Preambles < 1 || v->totalNumberOfRA_Preambles > 63) [[unlikely]]
         {
@@ -3075,7 +3075,7 @@ static Bits pe_RACH_ConfigCommon(Encoder& e, Bits b, const RACH_ConfigCommon* v)
             return e.in(b, "ssb-perRACH-OccasionAndCB-PreamblesPerSSB");
         }
     }
-    if (v->m.groupBconfiguredPresent)
+    if (v->m.groupBconfiguredPresent) [[unlikely]]
     {
         b = pe_RACH_ConfigCommon_groupBconfigured(e, b, &v->groupBconfigured);
         if (!e.ok(b)) [[unlikely]]
@@ -3096,7 +3096,7 @@ static Bits pe_RACH_ConfigCommon(Encoder& e, Bits b, const RACH_ConfigCommon* v)
         }
         b = e.put<7>(b, uint64_t{v->rsrp_ThresholdSSB});
     }
-    if (v->m.rsrp_ThresholdSSB_SULPresent)
+    if (v->m.rsrp_ThresholdSSB_SULPresent) [[unlikely]]
     {
         if (v->rsrp_ThresholdSSB_SUL > 127) [[unlikely]]
         {
@@ -3122,14 +3122,14 @@ static Bits pe_RACH_ConfigCommon(Encoder& e, Bits b, const RACH_ConfigCommon* v)
         return e.range("restrictedSetConfig", v->restrictedSetConfig, 0, 2);
     }
     b = e.put<2>(b, uint64_t{v->restrictedSetConfig});
-    if (v->m.msg3_transformPrecoderPresent)
+    if (v->m.msg3_transformPrecoderPresent) [[unlikely]]
     {
         if (v->msg3_transformPrecoder > 0u) [[unlikely]]
         {
             return e.range("msg3-transformPrecoder", v->msg3_transformPrecoder, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -3146,7 +3146,7 @@ static Bits pe_BWP_UplinkCommon_rach_ConfigCommon(Encoder& e, Bits b, const BWP_
 {
     switch (v->t)
     {
-        case T_BWP_UplinkCommon_rach_ConfigCommon_release:
+        [[unlikely]] case T_BWP_UplinkCommon_rach_ConfigCommon_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -3226,7 +3226,7 @@ static Bits pe_PUSCH_ConfigCommon(Encoder& e, Bits b, const PUSCH_ConfigCommon* 
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
-    if (v->m.groupHoppingEnabledTransformPrecodingPresent)
+    if (v->m.groupHoppingEnabledTransformPrecodingPresent) [[unlikely]]
     {
         if (v->groupHoppingEnabledTransformPrecoding > 0u) [[unlikely]]
         {
@@ -3257,7 +3257,7 @@ static Bits pe_PUSCH_ConfigCommon(Encoder& e, Bits b, const PUSCH_ConfigCommon* 
         }
         b = e.put<8>(b, static_cast<uint64_t>(v->p0_NominalWithGrant + int64_t{202}));
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -3274,7 +3274,7 @@ static Bits pe_BWP_UplinkCommon_pusch_ConfigCommon(Encoder& e, Bits b, const BWP
 {
     switch (v->t)
     {
-        case T_BWP_UplinkCommon_pusch_ConfigCommon_release:
+        [[unlikely]] case T_BWP_UplinkCommon_pusch_ConfigCommon_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -3335,7 +3335,7 @@ static Bits pe_PUCCH_ConfigCommon(Encoder& e, Bits b, const PUCCH_ConfigCommon* 
         }
         b = e.put<8>(b, static_cast<uint64_t>(v->p0_nominal + int64_t{202}));
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -3352,7 +3352,7 @@ static Bits pe_BWP_UplinkCommon_pucch_ConfigCommon(Encoder& e, Bits b, const BWP
 {
     switch (v->t)
     {
-        case T_BWP_UplinkCommon_pucch_ConfigCommon_release:
+        [[unlikely]] case T_BWP_UplinkCommon_pucch_ConfigCommon_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -3412,7 +3412,7 @@ static Bits pe_BWP_UplinkCommon(Encoder& e, Bits b, const BWP_UplinkCommon* v)
             return e.in(b, "pucch-ConfigCommon");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -3457,7 +3457,7 @@ static Bits pe_ServingCellConfigCommon_ssb_PositionsInBurst(Encoder& e, Bits b, 
 {
     switch (v->t)
     {
-        case T_ServingCellConfigCommon_ssb_PositionsInBurst_shortBitmap:
+        [[unlikely]] case T_ServingCellConfigCommon_ssb_PositionsInBurst_shortBitmap:
         {
             const auto* const p = v->u.shortBitmap;
             if (!e.reachable(p)) [[unlikely]]
@@ -3485,7 +3485,7 @@ static Bits pe_ServingCellConfigCommon_ssb_PositionsInBurst(Encoder& e, Bits b, 
             b = e.put<10>(b, (uint64_t{1}) << 8 | uint64_t{e.bits<8>((*p))});
             break;
         }
-        case T_ServingCellConfigCommon_ssb_PositionsInBurst_longBitmap:
+        [[unlikely]] case T_ServingCellConfigCommon_ssb_PositionsInBurst_longBitmap:
         {
             b = e.put<2>(b, uint64_t{2});
             b = e.octets<64>(b, v->u.longBitmap);
@@ -3502,7 +3502,7 @@ static Bits pe_EUTRA_MBSFN_SubframeConfig_subframeAllocation1(Encoder& e, Bits b
 {
     switch (v->t)
     {
-        case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation1_oneFrame:
+        [[unlikely]] case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation1_oneFrame:
         {
             const auto* const p = v->u.oneFrame;
             if (!e.reachable(p)) [[unlikely]]
@@ -3516,7 +3516,7 @@ static Bits pe_EUTRA_MBSFN_SubframeConfig_subframeAllocation1(Encoder& e, Bits b
             b = e.put<7>(b, (uint64_t{0}) << 6 | uint64_t{e.bits<6>((*p))});
             break;
         }
-        case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation1_fourFrames:
+        [[unlikely]] case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation1_fourFrames:
         {
             const auto* const p = v->u.fourFrames;
             if (!e.reachable(p)) [[unlikely]]
@@ -3541,7 +3541,7 @@ static Bits pe_EUTRA_MBSFN_SubframeConfig_subframeAllocation2(Encoder& e, Bits b
 {
     switch (v->t)
     {
-        case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation2_oneFrame:
+        [[unlikely]] case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation2_oneFrame:
         {
             const auto* const p = v->u.oneFrame;
             if (!e.reachable(p)) [[unlikely]]
@@ -3555,7 +3555,7 @@ static Bits pe_EUTRA_MBSFN_SubframeConfig_subframeAllocation2(Encoder& e, Bits b
             b = e.put<3>(b, (uint64_t{0}) << 2 | uint64_t{e.bits<2>((*p))});
             break;
         }
-        case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation2_fourFrames:
+        [[unlikely]] case T_EUTRA_MBSFN_SubframeConfig_subframeAllocation2_fourFrames:
         {
             const auto* const p = v->u.fourFrames;
             if (!e.reachable(p)) [[unlikely]]
@@ -3593,7 +3593,7 @@ static Bits pe_EUTRA_MBSFN_SubframeConfig(Encoder& e, Bits b, const EUTRA_MBSFN_
     {
         return e.in(b, "subframeAllocation1");
     }
-    if (v->m.subframeAllocation2Present)
+    if (v->m.subframeAllocation2Present) [[unlikely]]
     {
         b = pe_EUTRA_MBSFN_SubframeConfig_subframeAllocation2(e, b, &v->subframeAllocation2);
         if (!e.ok(b)) [[unlikely]]
@@ -3601,7 +3601,7 @@ static Bits pe_EUTRA_MBSFN_SubframeConfig(Encoder& e, Bits b, const EUTRA_MBSFN_
             return e.in(b, "subframeAllocation2");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -3650,7 +3650,7 @@ static Bits pe_RateMatchPatternLTE_CRS(Encoder& e, Bits b, const RateMatchPatter
         return e.range("carrierBandwidthDL", v->carrierBandwidthDL, 0, 7);
     }
     b = e.put<18>(b, ((uint64_t{v->m.mbsfn_SubframeConfigListPresent}) << 14 | uint64_t{v->carrierFreqDL}) << 3 | uint64_t{v->carrierBandwidthDL});
-    if (v->m.mbsfn_SubframeConfigListPresent)
+    if (v->m.mbsfn_SubframeConfigListPresent) [[unlikely]]
     {
         b = pe_EUTRA_MBSFN_SubframeConfigList(e, b, &v->mbsfn_SubframeConfigList);
         if (!e.ok(b)) [[unlikely]]
@@ -3675,12 +3675,12 @@ static Bits pe_ServingCellConfigCommon_lte_CRS_ToMatchAround(Encoder& e, Bits b,
 {
     switch (v->t)
     {
-        case T_ServingCellConfigCommon_lte_CRS_ToMatchAround_release:
+        [[unlikely]] case T_ServingCellConfigCommon_lte_CRS_ToMatchAround_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_ServingCellConfigCommon_lte_CRS_ToMatchAround_setup:
+        [[unlikely]] case T_ServingCellConfigCommon_lte_CRS_ToMatchAround_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -3706,7 +3706,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock(Encod
 {
     switch (v->t)
     {
-        case T_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock_oneSlot:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock_oneSlot:
         {
             const auto* const p = v->u.oneSlot;
             if (!e.reachable(p)) [[unlikely]]
@@ -3720,7 +3720,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock(Encod
             b = e.put<15>(b, (uint64_t{0}) << 14 | uint64_t{e.bits<14>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock_twoSlots:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock_twoSlots:
         {
             const auto* const p = v->u.twoSlots;
             if (!e.reachable(p)) [[unlikely]]
@@ -3745,7 +3745,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
 {
     switch (v->t)
     {
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n2:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n2:
         {
             const auto* const p = v->u.n2;
             if (!e.reachable(p)) [[unlikely]]
@@ -3759,7 +3759,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
             b = e.put<5>(b, (uint64_t{0}) << 2 | uint64_t{e.bits<2>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n4:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n4:
         {
             const auto* const p = v->u.n4;
             if (!e.reachable(p)) [[unlikely]]
@@ -3773,7 +3773,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
             b = e.put<7>(b, (uint64_t{1}) << 4 | uint64_t{e.bits<4>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n5:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n5:
         {
             const auto* const p = v->u.n5;
             if (!e.reachable(p)) [[unlikely]]
@@ -3787,7 +3787,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
             b = e.put<8>(b, (uint64_t{2}) << 5 | uint64_t{e.bits<5>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n8:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n8:
         {
             const auto* const p = v->u.n8;
             if (!e.reachable(p)) [[unlikely]]
@@ -3801,7 +3801,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
             b = e.put<11>(b, (uint64_t{3}) << 8 | uint64_t{e.bits<8>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n10:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n10:
         {
             const auto* const p = v->u.n10;
             if (!e.reachable(p)) [[unlikely]]
@@ -3815,7 +3815,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
             b = e.put<13>(b, (uint64_t{4}) << 10 | uint64_t{e.bits<10>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n20:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n20:
         {
             const auto* const p = v->u.n20;
             if (!e.reachable(p)) [[unlikely]]
@@ -3829,7 +3829,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(Encode
             b = e.put<23>(b, (uint64_t{5}) << 20 | uint64_t{e.bits<20>((*p))});
             break;
         }
-        case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n40:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n40:
         {
             b = e.put<3>(b, uint64_t{6});
             b = e.octets<40>(b, v->u.n40);
@@ -3852,7 +3852,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps(Encoder& e, Bits b, const Ra
     {
         return e.in(b, "symbolsInResourceBlock");
     }
-    if (v->m.periodicityAndPatternPresent)
+    if (v->m.periodicityAndPatternPresent) [[unlikely]]
     {
         b = pe_RateMatchPattern_patternType_bitmaps_periodicityAndPattern(e, b, &v->periodicityAndPattern);
         if (!e.ok(b)) [[unlikely]]
@@ -3860,7 +3860,7 @@ static Bits pe_RateMatchPattern_patternType_bitmaps(Encoder& e, Bits b, const Ra
             return e.in(b, "periodicityAndPattern");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -3877,7 +3877,7 @@ static Bits pe_RateMatchPattern_patternType(Encoder& e, Bits b, const RateMatchP
 {
     switch (v->t)
     {
-        case T_RateMatchPattern_patternType_bitmaps:
+        [[unlikely]] case T_RateMatchPattern_patternType_bitmaps:
         {
             const auto* const p = v->u.bitmaps;
             if (!e.reachable(p)) [[unlikely]]
@@ -3892,7 +3892,7 @@ static Bits pe_RateMatchPattern_patternType(Encoder& e, Bits b, const RateMatchP
             }
             break;
         }
-        case T_RateMatchPattern_patternType_controlResourceSet:
+        [[unlikely]] case T_RateMatchPattern_patternType_controlResourceSet:
         {
             if (v->u.controlResourceSet > 11) [[unlikely]]
             {
@@ -3921,7 +3921,7 @@ static Bits pe_RateMatchPattern(Encoder& e, Bits b, const RateMatchPattern* v)
     {
         return e.in(b, "patternType");
     }
-    if (v->m.subcarrierSpacingPresent)
+    if (v->m.subcarrierSpacingPresent) [[unlikely]]
     {
         if (v->subcarrierSpacing > 7u) [[unlikely]]
         {
@@ -3934,7 +3934,7 @@ static Bits pe_RateMatchPattern(Encoder& e, Bits b, const RateMatchPattern* v)
         return e.range("dummy", v->dummy, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->dummy});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4017,19 +4017,19 @@ static Bits pe_TDD_UL_DL_Pattern(Encoder& e, Bits b, const TDD_UL_DL_Pattern* v)
         return e.range("nrofUplinkSymbols", v->nrofUplinkSymbols, 0, 13);
     }
     b = e.put<30>(b, (((((uint64_t{extended}) << 3 | uint64_t{v->dl_UL_TransmissionPeriodicity}) << 9 | uint64_t{v->nrofDownlinkSlots}) << 4 | uint64_t{v->nrofDownlinkSymbols}) << 9 | uint64_t{v->nrofUplinkSlots}) << 4 | uint64_t{v->nrofUplinkSymbols});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.dl_UL_TransmissionPeriodicity_v1530Present});
-            if (v->m.dl_UL_TransmissionPeriodicity_v1530Present)
+            if (v->m.dl_UL_TransmissionPeriodicity_v1530Present) [[unlikely]]
             {
                 if (v->dl_UL_TransmissionPeriodicity_v1530 > 1u) [[unlikely]]
                 {
@@ -4058,7 +4058,7 @@ static Bits pe_TDD_UL_DL_ConfigCommon(Encoder& e, Bits b, const TDD_UL_DL_Config
     {
         return e.in(b, "pattern1");
     }
-    if (v->m.pattern2Present)
+    if (v->m.pattern2Present) [[unlikely]]
     {
         b = pe_TDD_UL_DL_Pattern(e, b, &v->pattern2);
         if (!e.ok(b)) [[unlikely]]
@@ -4066,7 +4066,7 @@ static Bits pe_TDD_UL_DL_ConfigCommon(Encoder& e, Bits b, const TDD_UL_DL_Config
             return e.in(b, "pattern2");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4107,7 +4107,7 @@ static Bits pe_ServingCellConfigCommon(Encoder& e, Bits b, const ServingCellConf
             return e.in(b, "uplinkConfigCommon");
         }
     }
-    if (v->m.supplementaryUplinkConfigPresent)
+    if (v->m.supplementaryUplinkConfigPresent) [[unlikely]]
     {
         b = pe_UplinkConfigCommon(e, b, &v->supplementaryUplinkConfig);
         if (!e.ok(b)) [[unlikely]]
@@ -4144,7 +4144,7 @@ static Bits pe_ServingCellConfigCommon(Encoder& e, Bits b, const ServingCellConf
         return e.range("dmrs-TypeA-Position", v->dmrs_TypeA_Position, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->dmrs_TypeA_Position});
-    if (v->m.lte_CRS_ToMatchAroundPresent)
+    if (v->m.lte_CRS_ToMatchAroundPresent) [[unlikely]]
     {
         b = pe_ServingCellConfigCommon_lte_CRS_ToMatchAround(e, b, &v->lte_CRS_ToMatchAround);
         if (!e.ok(b)) [[unlikely]]
@@ -4152,7 +4152,7 @@ static Bits pe_ServingCellConfigCommon(Encoder& e, Bits b, const ServingCellConf
             return e.in(b, "lte-CRS-ToMatchAround");
         }
     }
-    if (v->m.rateMatchPatternToAddModListPresent)
+    if (v->m.rateMatchPatternToAddModListPresent) [[unlikely]]
     {
         b = pe_ServingCellConfigCommon_rateMatchPatternToAddModList(e, b, &v->rateMatchPatternToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -4189,7 +4189,7 @@ static Bits pe_ServingCellConfigCommon(Encoder& e, Bits b, const ServingCellConf
         return e.range("ss-PBCH-BlockPower", v->ss_PBCH_BlockPower, -60, 50);
     }
     b = e.put<7>(b, static_cast<uint64_t>(v->ss_PBCH_BlockPower + int64_t{60}));
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4234,7 +4234,7 @@ static Bits pe_CFRA_SSB_Resource(Encoder& e, Bits b, const CFRA_SSB_Resource* v)
         return e.range("ra-PreambleIndex", v->ra_PreambleIndex, 0, 63);
     }
     b = e.put<13>(b, ((uint64_t{extended}) << 6 | uint64_t{v->ssb}) << 6 | uint64_t{v->ra_PreambleIndex});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4326,7 +4326,7 @@ static Bits pe_CFRA_CSIRS_Resource(Encoder& e, Bits b, const CFRA_CSIRS_Resource
         return e.range("ra-PreambleIndex", v->ra_PreambleIndex, 0, 63);
     }
     b = e.put<6>(b, uint64_t{v->ra_PreambleIndex});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4399,7 +4399,7 @@ static Bits pe_CFRA_resources(Encoder& e, Bits b, const CFRA_resources* v)
             }
             break;
         }
-        case T_CFRA_resources_csirs:
+        [[unlikely]] case T_CFRA_resources_csirs:
         {
             const auto* const p = v->u.csirs;
             if (!e.reachable(p)) [[unlikely]]
@@ -4439,19 +4439,19 @@ static Bits pe_CFRA(Encoder& e, Bits b, const CFRA* v)
     {
         return e.in(b, "resources");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.totalNumberOfRA_Preambles_v1530Present});
-            if (v->m.totalNumberOfRA_Preambles_v1530Present)
+            if (v->m.totalNumberOfRA_Preambles_v1530Present) [[unlikely]]
             {
                 if (v->totalNumberOfRA_Preambles_v1530 < 1 || v->totalNumberOfRA_Preambles_v1530 > 63) [[unlikely]]
                 {
@@ -4475,7 +4475,7 @@ static Bits pe_RA_Prioritization(Encoder& e, Bits b, const RA_Prioritization* v)
         return e.range("powerRampingStepHighPriority", v->powerRampingStepHighPriority, 0, 3);
     }
     b = e.put<4>(b, ((uint64_t{extended}) << 1 | uint64_t{v->m.scalingFactorBIPresent}) << 2 | uint64_t{v->powerRampingStepHighPriority});
-    if (v->m.scalingFactorBIPresent)
+    if (v->m.scalingFactorBIPresent) [[unlikely]]
     {
         if (v->scalingFactorBI > 3u) [[unlikely]]
         {
@@ -4483,7 +4483,7 @@ static Bits pe_RA_Prioritization(Encoder& e, Bits b, const RA_Prioritization* v)
         }
         b = e.put<2>(b, uint64_t{v->scalingFactorBI});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4508,7 +4508,7 @@ static Bits pe_RACH_ConfigDedicated(Encoder& e, Bits b, const RACH_ConfigDedicat
             return e.in(b, "cfra");
         }
     }
-    if (v->m.ra_PrioritizationPresent)
+    if (v->m.ra_PrioritizationPresent) [[unlikely]]
     {
         b = pe_RA_Prioritization(e, b, &v->ra_Prioritization);
         if (!e.ok(b)) [[unlikely]]
@@ -4516,7 +4516,7 @@ static Bits pe_RACH_ConfigDedicated(Encoder& e, Bits b, const RACH_ConfigDedicat
             return e.in(b, "ra-Prioritization");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -4549,7 +4549,7 @@ static Bits pe_ReconfigurationWithSync_rach_ConfigDedicated(Encoder& e, Bits b, 
             }
             break;
         }
-        case T_ReconfigurationWithSync_rach_ConfigDedicated_supplementaryUplink:
+        [[unlikely]] case T_ReconfigurationWithSync_rach_ConfigDedicated_supplementaryUplink:
         {
             static const RACH_ConfigDedicated empty{};
             const RACH_ConfigDedicated* const p = v->u.supplementaryUplink == nullptr ? &empty : v->u.supplementaryUplink;
@@ -4576,7 +4576,7 @@ static Bits pe_SSB_MTC_periodicityAndOffset(Encoder& e, Bits b, const SSB_MTC_pe
 {
     switch (v->t)
     {
-        case T_SSB_MTC_periodicityAndOffset_sf5:
+        [[unlikely]] case T_SSB_MTC_periodicityAndOffset_sf5:
         {
             if (v->u.sf5 > 4) [[unlikely]]
             {
@@ -4585,7 +4585,7 @@ static Bits pe_SSB_MTC_periodicityAndOffset(Encoder& e, Bits b, const SSB_MTC_pe
             b = e.put<6>(b, (uint64_t{0}) << 3 | uint64_t{v->u.sf5});
             break;
         }
-        case T_SSB_MTC_periodicityAndOffset_sf10:
+        [[unlikely]] case T_SSB_MTC_periodicityAndOffset_sf10:
         {
             if (v->u.sf10 > 9) [[unlikely]]
             {
@@ -4603,7 +4603,7 @@ static Bits pe_SSB_MTC_periodicityAndOffset(Encoder& e, Bits b, const SSB_MTC_pe
             b = e.put<8>(b, (uint64_t{2}) << 5 | uint64_t{v->u.sf20});
             break;
         }
-        case T_SSB_MTC_periodicityAndOffset_sf40:
+        [[unlikely]] case T_SSB_MTC_periodicityAndOffset_sf40:
         {
             if (v->u.sf40 > 39) [[unlikely]]
             {
@@ -4612,7 +4612,7 @@ static Bits pe_SSB_MTC_periodicityAndOffset(Encoder& e, Bits b, const SSB_MTC_pe
             b = e.put<9>(b, (uint64_t{3}) << 6 | uint64_t{v->u.sf40});
             break;
         }
-        case T_SSB_MTC_periodicityAndOffset_sf80:
+        [[unlikely]] case T_SSB_MTC_periodicityAndOffset_sf80:
         {
             if (v->u.sf80 > 79) [[unlikely]]
             {
@@ -4621,7 +4621,7 @@ static Bits pe_SSB_MTC_periodicityAndOffset(Encoder& e, Bits b, const SSB_MTC_pe
             b = e.put<10>(b, (uint64_t{4}) << 7 | uint64_t{v->u.sf80});
             break;
         }
-        case T_SSB_MTC_periodicityAndOffset_sf160:
+        [[unlikely]] case T_SSB_MTC_periodicityAndOffset_sf160:
         {
             if (v->u.sf160 > 159) [[unlikely]]
             {
@@ -4752,7 +4752,7 @@ static Bits pe_SpCellConfig_rlf_TimersAndConstants(Encoder& e, Bits b, const SpC
 {
     switch (v->t)
     {
-        case T_SpCellConfig_rlf_TimersAndConstants_release:
+        [[unlikely]] case T_SpCellConfig_rlf_TimersAndConstants_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -4782,7 +4782,7 @@ static Bits pe_SpCellConfig_rlf_TimersAndConstants(Encoder& e, Bits b, const SpC
 static Bits pe_TDD_UL_DL_SlotConfig_symbols_explicit_(Encoder& e, Bits b, const TDD_UL_DL_SlotConfig_symbols_explicit_* v)
 {
     b = e.put<2>(b, (uint64_t{v->m.nrofDownlinkSymbolsPresent}) << 1 | uint64_t{v->m.nrofUplinkSymbolsPresent});
-    if (v->m.nrofDownlinkSymbolsPresent)
+    if (v->m.nrofDownlinkSymbolsPresent) [[unlikely]]
     {
         if (v->nrofDownlinkSymbols < 1 || v->nrofDownlinkSymbols > 13) [[unlikely]]
         {
@@ -4790,7 +4790,7 @@ static Bits pe_TDD_UL_DL_SlotConfig_symbols_explicit_(Encoder& e, Bits b, const 
         }
         b = e.put<4>(b, (uint64_t{v->nrofDownlinkSymbols} - 1));
     }
-    if (v->m.nrofUplinkSymbolsPresent)
+    if (v->m.nrofUplinkSymbolsPresent) [[unlikely]]
     {
         if (v->nrofUplinkSymbols < 1 || v->nrofUplinkSymbols > 13) [[unlikely]]
         {
@@ -4806,17 +4806,17 @@ static Bits pe_TDD_UL_DL_SlotConfig_symbols(Encoder& e, Bits b, const TDD_UL_DL_
 {
     switch (v->t)
     {
-        case T_TDD_UL_DL_SlotConfig_symbols_allDownlink:
+        [[unlikely]] case T_TDD_UL_DL_SlotConfig_symbols_allDownlink:
         {
             b = e.put<2>(b, uint64_t{0});
             break;
         }
-        case T_TDD_UL_DL_SlotConfig_symbols_allUplink:
+        [[unlikely]] case T_TDD_UL_DL_SlotConfig_symbols_allUplink:
         {
             b = e.put<2>(b, uint64_t{1});
             break;
         }
-        case T_TDD_UL_DL_SlotConfig_symbols_explicit_:
+        [[unlikely]] case T_TDD_UL_DL_SlotConfig_symbols_explicit_:
         {
             static const TDD_UL_DL_SlotConfig_symbols_explicit_ empty{};
             const TDD_UL_DL_SlotConfig_symbols_explicit_* const p = v->u.explicit_ == nullptr ? &empty : v->u.explicit_;
@@ -4904,7 +4904,7 @@ static Bits pe_TDD_UL_DL_ConfigDedicated(Encoder& e, Bits b, const TDD_UL_DL_Con
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<3>(b, ((uint64_t{extended}) << 1 | uint64_t{v->m.slotSpecificConfigurationsToAddModListPresent}) << 1 | uint64_t{v->m.slotSpecificConfigurationsToreleaseListPresent});
-    if (v->m.slotSpecificConfigurationsToAddModListPresent)
+    if (v->m.slotSpecificConfigurationsToAddModListPresent) [[unlikely]]
     {
         b = pe_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToAddModList(e, b, &v->slotSpecificConfigurationsToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -4912,7 +4912,7 @@ static Bits pe_TDD_UL_DL_ConfigDedicated(Encoder& e, Bits b, const TDD_UL_DL_Con
             return e.in(b, "slotSpecificConfigurationsToAddModList");
         }
     }
-    if (v->m.slotSpecificConfigurationsToreleaseListPresent)
+    if (v->m.slotSpecificConfigurationsToreleaseListPresent) [[unlikely]]
     {
         b = pe_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList(e, b, &v->slotSpecificConfigurationsToreleaseList);
         if (!e.ok(b)) [[unlikely]]
@@ -4920,7 +4920,7 @@ static Bits pe_TDD_UL_DL_ConfigDedicated(Encoder& e, Bits b, const TDD_UL_DL_Con
             return e.in(b, "slotSpecificConfigurationsToreleaseList");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5080,7 +5080,7 @@ static Bits pe_DownlinkPreemption(Encoder& e, Bits b, const DownlinkPreemption* 
     {
         return e.in(b, "int-ConfigurationPerServingCell");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5097,12 +5097,12 @@ static Bits pe_PDCCH_Config_downlinkPreemption(Encoder& e, Bits b, const PDCCH_C
 {
     switch (v->t)
     {
-        case T_PDCCH_Config_downlinkPreemption_release:
+        [[unlikely]] case T_PDCCH_Config_downlinkPreemption_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDCCH_Config_downlinkPreemption_setup:
+        [[unlikely]] case T_PDCCH_Config_downlinkPreemption_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -5128,7 +5128,7 @@ static Bits pe_PUSCH_TPC_CommandConfig(Encoder& e, Bits b, const PUSCH_TPC_Comma
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
-    if (v->m.tpc_IndexPresent)
+    if (v->m.tpc_IndexPresent) [[unlikely]]
     {
         if (v->tpc_Index < 1 || v->tpc_Index > 15) [[unlikely]]
         {
@@ -5136,7 +5136,7 @@ static Bits pe_PUSCH_TPC_CommandConfig(Encoder& e, Bits b, const PUSCH_TPC_Comma
         }
         b = e.put<4>(b, (uint64_t{v->tpc_Index} - 1));
     }
-    if (v->m.tpc_IndexSULPresent)
+    if (v->m.tpc_IndexSULPresent) [[unlikely]]
     {
         if (v->tpc_IndexSUL < 1 || v->tpc_IndexSUL > 15) [[unlikely]]
         {
@@ -5144,7 +5144,7 @@ static Bits pe_PUSCH_TPC_CommandConfig(Encoder& e, Bits b, const PUSCH_TPC_Comma
         }
         b = e.put<4>(b, (uint64_t{v->tpc_IndexSUL} - 1));
     }
-    if (v->m.targetCellPresent)
+    if (v->m.targetCellPresent) [[unlikely]]
     {
         if (v->targetCell > 31) [[unlikely]]
         {
@@ -5152,7 +5152,7 @@ static Bits pe_PUSCH_TPC_CommandConfig(Encoder& e, Bits b, const PUSCH_TPC_Comma
         }
         b = e.put<5>(b, uint64_t{v->targetCell});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5169,12 +5169,12 @@ static Bits pe_PDCCH_Config_tpc_PUSCH(Encoder& e, Bits b, const PDCCH_Config_tpc
 {
     switch (v->t)
     {
-        case T_PDCCH_Config_tpc_PUSCH_release:
+        [[unlikely]] case T_PDCCH_Config_tpc_PUSCH_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDCCH_Config_tpc_PUSCH_setup:
+        [[unlikely]] case T_PDCCH_Config_tpc_PUSCH_setup:
         {
             static const PUSCH_TPC_CommandConfig empty{};
             const PUSCH_TPC_CommandConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -5201,7 +5201,7 @@ static Bits pe_PUCCH_TPC_CommandConfig(Encoder& e, Bits b, const PUCCH_TPC_Comma
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<3>(b, ((uint64_t{extended}) << 1 | uint64_t{v->m.tpc_IndexPCellPresent}) << 1 | uint64_t{v->m.tpc_IndexPUCCH_SCellPresent});
-    if (v->m.tpc_IndexPCellPresent)
+    if (v->m.tpc_IndexPCellPresent) [[unlikely]]
     {
         if (v->tpc_IndexPCell < 1 || v->tpc_IndexPCell > 15) [[unlikely]]
         {
@@ -5209,7 +5209,7 @@ static Bits pe_PUCCH_TPC_CommandConfig(Encoder& e, Bits b, const PUCCH_TPC_Comma
         }
         b = e.put<4>(b, (uint64_t{v->tpc_IndexPCell} - 1));
     }
-    if (v->m.tpc_IndexPUCCH_SCellPresent)
+    if (v->m.tpc_IndexPUCCH_SCellPresent) [[unlikely]]
     {
         if (v->tpc_IndexPUCCH_SCell < 1 || v->tpc_IndexPUCCH_SCell > 15) [[unlikely]]
         {
@@ -5217,7 +5217,7 @@ static Bits pe_PUCCH_TPC_CommandConfig(Encoder& e, Bits b, const PUCCH_TPC_Comma
         }
         b = e.put<4>(b, (uint64_t{v->tpc_IndexPUCCH_SCell} - 1));
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5234,12 +5234,12 @@ static Bits pe_PDCCH_Config_tpc_PUCCH(Encoder& e, Bits b, const PDCCH_Config_tpc
 {
     switch (v->t)
     {
-        case T_PDCCH_Config_tpc_PUCCH_release:
+        [[unlikely]] case T_PDCCH_Config_tpc_PUCCH_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDCCH_Config_tpc_PUCCH_setup:
+        [[unlikely]] case T_PDCCH_Config_tpc_PUCCH_setup:
         {
             static const PUCCH_TPC_CommandConfig empty{};
             const PUCCH_TPC_CommandConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -5267,7 +5267,7 @@ static Bits pe_SRS_TPC_CommandConfig(Encoder& e, Bits b, const SRS_TPC_CommandCo
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.startingBitOfFormat2_3SUL_v1530Present);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
     b = e.put<3>(b, ((uint64_t{extended}) << 1 | uint64_t{v->m.startingBitOfFormat2_3Present}) << 1 | uint64_t{v->m.fieldTypeFormat2_3Present});
-    if (v->m.startingBitOfFormat2_3Present)
+    if (v->m.startingBitOfFormat2_3Present) [[unlikely]]
     {
         if (v->startingBitOfFormat2_3 < 1 || v->startingBitOfFormat2_3 > 31) [[unlikely]]
         {
@@ -5275,7 +5275,7 @@ static Bits pe_SRS_TPC_CommandConfig(Encoder& e, Bits b, const SRS_TPC_CommandCo
         }
         b = e.put<5>(b, (uint64_t{v->startingBitOfFormat2_3} - 1));
     }
-    if (v->m.fieldTypeFormat2_3Present)
+    if (v->m.fieldTypeFormat2_3Present) [[unlikely]]
     {
         if (v->fieldTypeFormat2_3 > 1) [[unlikely]]
         {
@@ -5283,19 +5283,19 @@ static Bits pe_SRS_TPC_CommandConfig(Encoder& e, Bits b, const SRS_TPC_CommandCo
         }
         b = e.put<1>(b, uint64_t{v->fieldTypeFormat2_3});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.startingBitOfFormat2_3SUL_v1530Present});
-            if (v->m.startingBitOfFormat2_3SUL_v1530Present)
+            if (v->m.startingBitOfFormat2_3SUL_v1530Present) [[unlikely]]
             {
                 if (v->startingBitOfFormat2_3SUL_v1530 < 1 || v->startingBitOfFormat2_3SUL_v1530 > 31) [[unlikely]]
                 {
@@ -5315,12 +5315,12 @@ static Bits pe_PDCCH_Config_tpc_SRS(Encoder& e, Bits b, const PDCCH_Config_tpc_S
 {
     switch (v->t)
     {
-        case T_PDCCH_Config_tpc_SRS_release:
+        [[unlikely]] case T_PDCCH_Config_tpc_SRS_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDCCH_Config_tpc_SRS_setup:
+        [[unlikely]] case T_PDCCH_Config_tpc_SRS_setup:
         {
             static const SRS_TPC_CommandConfig empty{};
             const SRS_TPC_CommandConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -5379,7 +5379,7 @@ static Bits pe_PDCCH_Config(Encoder& e, Bits b, const PDCCH_Config* v)
             return e.in(b, "searchSpacesToReleaseList");
         }
     }
-    if (v->m.downlinkPreemptionPresent)
+    if (v->m.downlinkPreemptionPresent) [[unlikely]]
     {
         b = pe_PDCCH_Config_downlinkPreemption(e, b, &v->downlinkPreemption);
         if (!e.ok(b)) [[unlikely]]
@@ -5387,7 +5387,7 @@ static Bits pe_PDCCH_Config(Encoder& e, Bits b, const PDCCH_Config* v)
             return e.in(b, "downlinkPreemption");
         }
     }
-    if (v->m.tpc_PUSCHPresent)
+    if (v->m.tpc_PUSCHPresent) [[unlikely]]
     {
         b = pe_PDCCH_Config_tpc_PUSCH(e, b, &v->tpc_PUSCH);
         if (!e.ok(b)) [[unlikely]]
@@ -5395,7 +5395,7 @@ static Bits pe_PDCCH_Config(Encoder& e, Bits b, const PDCCH_Config* v)
             return e.in(b, "tpc-PUSCH");
         }
     }
-    if (v->m.tpc_PUCCHPresent)
+    if (v->m.tpc_PUCCHPresent) [[unlikely]]
     {
         b = pe_PDCCH_Config_tpc_PUCCH(e, b, &v->tpc_PUCCH);
         if (!e.ok(b)) [[unlikely]]
@@ -5403,7 +5403,7 @@ static Bits pe_PDCCH_Config(Encoder& e, Bits b, const PDCCH_Config* v)
             return e.in(b, "tpc-PUCCH");
         }
     }
-    if (v->m.tpc_SRSPresent)
+    if (v->m.tpc_SRSPresent) [[unlikely]]
     {
         b = pe_PDCCH_Config_tpc_SRS(e, b, &v->tpc_SRS);
         if (!e.ok(b)) [[unlikely]]
@@ -5411,7 +5411,7 @@ static Bits pe_PDCCH_Config(Encoder& e, Bits b, const PDCCH_Config* v)
             return e.in(b, "tpc-SRS");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5428,7 +5428,7 @@ static Bits pe_BWP_DownlinkDedicated_pdcch_Config(Encoder& e, Bits b, const BWP_
 {
     switch (v->t)
     {
-        case T_BWP_DownlinkDedicated_pdcch_Config_release:
+        [[unlikely]] case T_BWP_DownlinkDedicated_pdcch_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -5490,7 +5490,7 @@ static Bits pe_PTRS_DownlinkConfig(Encoder& e, Bits b, const PTRS_DownlinkConfig
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
-    if (v->m.frequencyDensityPresent)
+    if (v->m.frequencyDensityPresent) [[unlikely]]
     {
         b = pe_PTRS_DownlinkConfig_frequencyDensity(e, b, &v->frequencyDensity);
         if (!e.ok(b)) [[unlikely]]
@@ -5498,7 +5498,7 @@ static Bits pe_PTRS_DownlinkConfig(Encoder& e, Bits b, const PTRS_DownlinkConfig
             return e.in(b, "frequencyDensity");
         }
     }
-    if (v->m.timeDensityPresent)
+    if (v->m.timeDensityPresent) [[unlikely]]
     {
         b = pe_PTRS_DownlinkConfig_timeDensity(e, b, &v->timeDensity);
         if (!e.ok(b)) [[unlikely]]
@@ -5506,7 +5506,7 @@ static Bits pe_PTRS_DownlinkConfig(Encoder& e, Bits b, const PTRS_DownlinkConfig
             return e.in(b, "timeDensity");
         }
     }
-    if (v->m.epre_RatioPresent)
+    if (v->m.epre_RatioPresent) [[unlikely]]
     {
         if (v->epre_Ratio > 3) [[unlikely]]
         {
@@ -5514,7 +5514,7 @@ static Bits pe_PTRS_DownlinkConfig(Encoder& e, Bits b, const PTRS_DownlinkConfig
         }
         b = e.put<2>(b, uint64_t{v->epre_Ratio});
     }
-    if (v->m.resourceElementOffsetPresent)
+    if (v->m.resourceElementOffsetPresent) [[unlikely]]
     {
         if (v->resourceElementOffset > 2u) [[unlikely]]
         {
@@ -5522,7 +5522,7 @@ static Bits pe_PTRS_DownlinkConfig(Encoder& e, Bits b, const PTRS_DownlinkConfig
         }
         b = e.put<2>(b, uint64_t{v->resourceElementOffset});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5539,12 +5539,12 @@ static Bits pe_DMRS_DownlinkConfig_phaseTrackingRS(Encoder& e, Bits b, const DMR
 {
     switch (v->t)
     {
-        case T_DMRS_DownlinkConfig_phaseTrackingRS_release:
+        [[unlikely]] case T_DMRS_DownlinkConfig_phaseTrackingRS_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_DMRS_DownlinkConfig_phaseTrackingRS_setup:
+        [[unlikely]] case T_DMRS_DownlinkConfig_phaseTrackingRS_setup:
         {
             static const PTRS_DownlinkConfig empty{};
             const PTRS_DownlinkConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -5571,7 +5571,7 @@ static Bits pe_DMRS_DownlinkConfig(Encoder& e, Bits b, const DMRS_DownlinkConfig
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<7>(b, (uint64_t{extended}) << 6 | e.flags<0, 6>(v->m));
-    if (v->m.dmrs_TypePresent)
+    if (v->m.dmrs_TypePresent) [[unlikely]]
     {
         if (v->dmrs_Type > 0u) [[unlikely]]
         {
@@ -5586,22 +5586,22 @@ static Bits pe_DMRS_DownlinkConfig(Encoder& e, Bits b, const DMRS_DownlinkConfig
         }
         b = e.put<2>(b, uint64_t{v->dmrs_AdditionalPosition});
     }
-    if (v->m.maxLengthPresent)
+    if (v->m.maxLengthPresent) [[unlikely]]
     {
         if (v->maxLength > 0u) [[unlikely]]
         {
             return e.range("maxLength", v->maxLength, 0, 0);
         }
     }
-    if (v->m.scramblingID0Present)
+    if (v->m.scramblingID0Present) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->scramblingID0});
     }
-    if (v->m.scramblingID1Present)
+    if (v->m.scramblingID1Present) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->scramblingID1});
     }
-    if (v->m.phaseTrackingRSPresent)
+    if (v->m.phaseTrackingRSPresent) [[unlikely]]
     {
         b = pe_DMRS_DownlinkConfig_phaseTrackingRS(e, b, &v->phaseTrackingRS);
         if (!e.ok(b)) [[unlikely]]
@@ -5609,7 +5609,7 @@ static Bits pe_DMRS_DownlinkConfig(Encoder& e, Bits b, const DMRS_DownlinkConfig
             return e.in(b, "phaseTrackingRS");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5626,7 +5626,7 @@ static Bits pe_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeA(Encoder& e, Bits 
 {
     switch (v->t)
     {
-        case T_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeA_release:
+        [[unlikely]] case T_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeA_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -5658,12 +5658,12 @@ static Bits pe_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeB(Encoder& e, Bits 
 {
     switch (v->t)
     {
-        case T_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeB_release:
+        [[unlikely]] case T_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeB_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeB_setup:
+        [[unlikely]] case T_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeB_setup:
         {
             static const DMRS_DownlinkConfig empty{};
             const DMRS_DownlinkConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -5719,7 +5719,7 @@ static Bits pe_QCL_Info(Encoder& e, Bits b, const QCL_Info* v)
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<3>(b, ((uint64_t{extended}) << 1 | uint64_t{v->m.cellPresent}) << 1 | uint64_t{v->m.bwp_IdPresent});
-    if (v->m.cellPresent)
+    if (v->m.cellPresent) [[unlikely]]
     {
         if (v->cell > 31) [[unlikely]]
         {
@@ -5745,7 +5745,7 @@ static Bits pe_QCL_Info(Encoder& e, Bits b, const QCL_Info* v)
         return e.range("qcl-Type", v->qcl_Type, 0, 3);
     }
     b = e.put<2>(b, uint64_t{v->qcl_Type});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5771,7 +5771,7 @@ static Bits pe_TCI_State(Encoder& e, Bits b, const TCI_State* v)
     {
         return e.in(b, "qcl-Type1");
     }
-    if (v->m.qcl_Type2Present)
+    if (v->m.qcl_Type2Present) [[unlikely]]
     {
         b = pe_QCL_Info(e, b, &v->qcl_Type2);
         if (!e.ok(b)) [[unlikely]]
@@ -5779,7 +5779,7 @@ static Bits pe_TCI_State(Encoder& e, Bits b, const TCI_State* v)
             return e.in(b, "qcl-Type2");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -5841,7 +5841,7 @@ static Bits pe_PDSCH_Config_pdsch_TimeDomainAllocationList(Encoder& e, Bits b, c
 {
     switch (v->t)
     {
-        case T_PDSCH_Config_pdsch_TimeDomainAllocationList_release:
+        [[unlikely]] case T_PDSCH_Config_pdsch_TimeDomainAllocationList_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -5917,7 +5917,7 @@ static Bits pe_RateMatchPatternGroup_element(Encoder& e, Bits b, const RateMatch
 {
     switch (v->t)
     {
-        case T_RateMatchPatternGroup_element_cellLevel:
+        [[unlikely]] case T_RateMatchPatternGroup_element_cellLevel:
         {
             if (v->u.cellLevel > 3) [[unlikely]]
             {
@@ -5926,7 +5926,7 @@ static Bits pe_RateMatchPatternGroup_element(Encoder& e, Bits b, const RateMatch
             b = e.put<3>(b, (uint64_t{0}) << 2 | uint64_t{v->u.cellLevel});
             break;
         }
-        case T_RateMatchPatternGroup_element_bwpLevel:
+        [[unlikely]] case T_RateMatchPatternGroup_element_bwpLevel:
         {
             if (v->u.bwpLevel > 3) [[unlikely]]
             {
@@ -5985,7 +5985,7 @@ static Bits pe_PDSCH_Config_prb_BundlingType_staticBundling(Encoder& e, Bits b, 
 static Bits pe_PDSCH_Config_prb_BundlingType_dynamicBundling(Encoder& e, Bits b, const PDSCH_Config_prb_BundlingType_dynamicBundling* v)
 {
     b = e.put<2>(b, (uint64_t{v->m.bundleSizeSet1Present}) << 1 | uint64_t{v->m.bundleSizeSet2Present});
-    if (v->m.bundleSizeSet1Present)
+    if (v->m.bundleSizeSet1Present) [[unlikely]]
     {
         if (v->bundleSizeSet1 > 3u) [[unlikely]]
         {
@@ -5993,7 +5993,7 @@ static Bits pe_PDSCH_Config_prb_BundlingType_dynamicBundling(Encoder& e, Bits b,
         }
         b = e.put<2>(b, uint64_t{v->bundleSizeSet1});
     }
-    if (v->m.bundleSizeSet2Present)
+    if (v->m.bundleSizeSet2Present) [[unlikely]]
     {
         if (v->bundleSizeSet2 > 1u) [[unlikely]]
         {
@@ -6025,7 +6025,7 @@ static Bits pe_PDSCH_Config_prb_BundlingType(Encoder& e, Bits b, const PDSCH_Con
             }
             break;
         }
-        case T_PDSCH_Config_prb_BundlingType_dynamicBundling:
+        [[unlikely]] case T_PDSCH_Config_prb_BundlingType_dynamicBundling:
         {
             static const PDSCH_Config_prb_BundlingType_dynamicBundling empty{};
             const PDSCH_Config_prb_BundlingType_dynamicBundling* const p = v->u.dynamicBundling == nullptr ? &empty : v->u.dynamicBundling;
@@ -6066,7 +6066,7 @@ static Bits pe_CSI_RS_ResourceMapping_frequencyDomainAllocation(Encoder& e, Bits
             b = e.put<6>(b, (uint64_t{0}) << 4 | uint64_t{e.bits<4>((*p))});
             break;
         }
-        case T_CSI_RS_ResourceMapping_frequencyDomainAllocation_row2:
+        [[unlikely]] case T_CSI_RS_ResourceMapping_frequencyDomainAllocation_row2:
         {
             const auto* const p = v->u.row2;
             if (!e.reachable(p)) [[unlikely]]
@@ -6094,7 +6094,7 @@ static Bits pe_CSI_RS_ResourceMapping_frequencyDomainAllocation(Encoder& e, Bits
             b = e.put<5>(b, (uint64_t{2}) << 3 | uint64_t{e.bits<3>((*p))});
             break;
         }
-        case T_CSI_RS_ResourceMapping_frequencyDomainAllocation_other:
+        [[unlikely]] case T_CSI_RS_ResourceMapping_frequencyDomainAllocation_other:
         {
             const auto* const p = v->u.other;
             if (!e.reachable(p)) [[unlikely]]
@@ -6119,7 +6119,7 @@ static Bits pe_CSI_RS_ResourceMapping_density(Encoder& e, Bits b, const CSI_RS_R
 {
     switch (v->t)
     {
-        case T_CSI_RS_ResourceMapping_density_dot5:
+        [[unlikely]] case T_CSI_RS_ResourceMapping_density_dot5:
         {
             if (v->u.dot5 > 1u) [[unlikely]]
             {
@@ -6138,7 +6138,7 @@ static Bits pe_CSI_RS_ResourceMapping_density(Encoder& e, Bits b, const CSI_RS_R
             b = e.put<2>(b, uint64_t{2});
             break;
         }
-        case T_CSI_RS_ResourceMapping_density_spare:
+        [[unlikely]] case T_CSI_RS_ResourceMapping_density_spare:
         {
             b = e.put<2>(b, uint64_t{3});
             break;
@@ -6162,7 +6162,7 @@ static Bits pe_CSI_FrequencyOccupation(Encoder& e, Bits b, const CSI_FrequencyOc
         return e.range("nrofRBs", v->nrofRBs, 24, 276);
     }
     b = e.put<18>(b, ((uint64_t{extended}) << 9 | uint64_t{v->startingRB}) << 8 | (uint64_t{v->nrofRBs} - 24));
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -6193,7 +6193,7 @@ static Bits pe_CSI_RS_ResourceMapping(Encoder& e, Bits b, const CSI_RS_ResourceM
         return e.range("firstOFDMSymbolInTimeDomain", v->firstOFDMSymbolInTimeDomain, 0, 13);
     }
     b = e.put<7>(b, (uint64_t{v->nrofPorts}) << 4 | uint64_t{v->firstOFDMSymbolInTimeDomain});
-    if (v->m.firstOFDMSymbolInTimeDomain2Present)
+    if (v->m.firstOFDMSymbolInTimeDomain2Present) [[unlikely]]
     {
         if (v->firstOFDMSymbolInTimeDomain2 < 2 || v->firstOFDMSymbolInTimeDomain2 > 12) [[unlikely]]
         {
@@ -6216,7 +6216,7 @@ static Bits pe_CSI_RS_ResourceMapping(Encoder& e, Bits b, const CSI_RS_ResourceM
     {
         return e.in(b, "freqBand");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -6233,7 +6233,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
 {
     switch (v->t)
     {
-        case T_CSI_ResourcePeriodicityAndOffset_slots4:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots4:
         {
             if (v->u.slots4 > 3) [[unlikely]]
             {
@@ -6242,7 +6242,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<6>(b, (uint64_t{0}) << 2 | uint64_t{v->u.slots4});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots5:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots5:
         {
             if (v->u.slots5 > 4) [[unlikely]]
             {
@@ -6251,7 +6251,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<7>(b, (uint64_t{1}) << 3 | uint64_t{v->u.slots5});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots8:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots8:
         {
             if (v->u.slots8 > 7) [[unlikely]]
             {
@@ -6260,7 +6260,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<7>(b, (uint64_t{2}) << 3 | uint64_t{v->u.slots8});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots10:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots10:
         {
             if (v->u.slots10 > 9) [[unlikely]]
             {
@@ -6269,7 +6269,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<8>(b, (uint64_t{3}) << 4 | uint64_t{v->u.slots10});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots16:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots16:
         {
             if (v->u.slots16 > 15) [[unlikely]]
             {
@@ -6278,7 +6278,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<8>(b, (uint64_t{4}) << 4 | uint64_t{v->u.slots16});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots20:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots20:
         {
             if (v->u.slots20 > 19) [[unlikely]]
             {
@@ -6287,7 +6287,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<9>(b, (uint64_t{5}) << 5 | uint64_t{v->u.slots20});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots32:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots32:
         {
             if (v->u.slots32 > 31) [[unlikely]]
             {
@@ -6296,7 +6296,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<9>(b, (uint64_t{6}) << 5 | uint64_t{v->u.slots32});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots40:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots40:
         {
             if (v->u.slots40 > 39) [[unlikely]]
             {
@@ -6305,7 +6305,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<10>(b, (uint64_t{7}) << 6 | uint64_t{v->u.slots40});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots64:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots64:
         {
             if (v->u.slots64 > 63) [[unlikely]]
             {
@@ -6323,7 +6323,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<11>(b, (uint64_t{9}) << 7 | uint64_t{v->u.slots80});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots160:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots160:
         {
             if (v->u.slots160 > 159) [[unlikely]]
             {
@@ -6332,7 +6332,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<12>(b, (uint64_t{10}) << 8 | uint64_t{v->u.slots160});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots320:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots320:
         {
             if (v->u.slots320 > 319) [[unlikely]]
             {
@@ -6341,7 +6341,7 @@ static Bits pe_CSI_ResourcePeriodicityAndOffset(Encoder& e, Bits b, const CSI_Re
             b = e.put<13>(b, (uint64_t{11}) << 9 | uint64_t{v->u.slots320});
             break;
         }
-        case T_CSI_ResourcePeriodicityAndOffset_slots640:
+        [[unlikely]] case T_CSI_ResourcePeriodicityAndOffset_slots640:
         {
             if (v->u.slots640 > 639) [[unlikely]]
             {
@@ -6370,7 +6370,7 @@ static Bits pe_ZP_CSI_RS_Resource(Encoder& e, Bits b, const ZP_CSI_RS_Resource* 
     {
         return e.in(b, "resourceMapping");
     }
-    if (v->m.periodicityAndOffsetPresent)
+    if (v->m.periodicityAndOffsetPresent) [[unlikely]]
     {
         b = pe_CSI_ResourcePeriodicityAndOffset(e, b, &v->periodicityAndOffset);
         if (!e.ok(b)) [[unlikely]]
@@ -6378,7 +6378,7 @@ static Bits pe_ZP_CSI_RS_Resource(Encoder& e, Bits b, const ZP_CSI_RS_Resource* 
             return e.in(b, "periodicityAndOffset");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -6469,7 +6469,7 @@ static Bits pe_ZP_CSI_RS_ResourceSet(Encoder& e, Bits b, const ZP_CSI_RS_Resourc
     {
         return e.in(b, "zp-CSI-RS-ResourceIdList");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -6576,12 +6576,12 @@ static Bits pe_PDSCH_Config_p_ZP_CSI_RS_ResourceSet(Encoder& e, Bits b, const PD
 {
     switch (v->t)
     {
-        case T_PDSCH_Config_p_ZP_CSI_RS_ResourceSet_release:
+        [[unlikely]] case T_PDSCH_Config_p_ZP_CSI_RS_ResourceSet_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDSCH_Config_p_ZP_CSI_RS_ResourceSet_setup:
+        [[unlikely]] case T_PDSCH_Config_p_ZP_CSI_RS_ResourceSet_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -6623,7 +6623,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "dmrs-DownlinkForPDSCH-MappingTypeA");
         }
     }
-    if (v->m.dmrs_DownlinkForPDSCH_MappingTypeBPresent)
+    if (v->m.dmrs_DownlinkForPDSCH_MappingTypeBPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_dmrs_DownlinkForPDSCH_MappingTypeB(e, b, &v->dmrs_DownlinkForPDSCH_MappingTypeB);
         if (!e.ok(b)) [[unlikely]]
@@ -6647,7 +6647,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "tci-StatesToReleaseList");
         }
     }
-    if (v->m.vrb_ToPRB_InterleaverPresent)
+    if (v->m.vrb_ToPRB_InterleaverPresent) [[unlikely]]
     {
         if (v->vrb_ToPRB_Interleaver > 1u) [[unlikely]]
         {
@@ -6668,7 +6668,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "pdsch-TimeDomainAllocationList");
         }
     }
-    if (v->m.pdsch_AggregationFactorPresent)
+    if (v->m.pdsch_AggregationFactorPresent) [[unlikely]]
     {
         if (v->pdsch_AggregationFactor > 2u) [[unlikely]]
         {
@@ -6676,7 +6676,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
         }
         b = e.put<2>(b, uint64_t{v->pdsch_AggregationFactor});
     }
-    if (v->m.rateMatchPatternToAddModListPresent)
+    if (v->m.rateMatchPatternToAddModListPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_rateMatchPatternToAddModList(e, b, &v->rateMatchPatternToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -6692,7 +6692,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "rateMatchPatternToReleaseList");
         }
     }
-    if (v->m.rateMatchPatternGroup1Present)
+    if (v->m.rateMatchPatternGroup1Present) [[unlikely]]
     {
         b = pe_RateMatchPatternGroup(e, b, &v->rateMatchPatternGroup1);
         if (!e.ok(b)) [[unlikely]]
@@ -6700,7 +6700,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "rateMatchPatternGroup1");
         }
     }
-    if (v->m.rateMatchPatternGroup2Present)
+    if (v->m.rateMatchPatternGroup2Present) [[unlikely]]
     {
         b = pe_RateMatchPatternGroup(e, b, &v->rateMatchPatternGroup2);
         if (!e.ok(b)) [[unlikely]]
@@ -6734,7 +6734,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
     {
         return e.in(b, "prb-BundlingType");
     }
-    if (v->m.zp_CSI_RS_ResourceToAddModListPresent)
+    if (v->m.zp_CSI_RS_ResourceToAddModListPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_zp_CSI_RS_ResourceToAddModList(e, b, &v->zp_CSI_RS_ResourceToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -6750,7 +6750,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "zp-CSI-RS-ResourceToReleaseList");
         }
     }
-    if (v->m.aperiodic_ZP_CSI_RS_ResourceSetsToAddModListPresent)
+    if (v->m.aperiodic_ZP_CSI_RS_ResourceSetsToAddModListPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToAddModList(e, b, &v->aperiodic_ZP_CSI_RS_ResourceSetsToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -6766,7 +6766,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "aperiodic-ZP-CSI-RS-ResourceSetsToReleaseList");
         }
     }
-    if (v->m.sp_ZP_CSI_RS_ResourceSetsToAddModListPresent)
+    if (v->m.sp_ZP_CSI_RS_ResourceSetsToAddModListPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToAddModList(e, b, &v->sp_ZP_CSI_RS_ResourceSetsToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -6774,7 +6774,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "sp-ZP-CSI-RS-ResourceSetsToAddModList");
         }
     }
-    if (v->m.sp_ZP_CSI_RS_ResourceSetsToReleaseListPresent)
+    if (v->m.sp_ZP_CSI_RS_ResourceSetsToReleaseListPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList(e, b, &v->sp_ZP_CSI_RS_ResourceSetsToReleaseList);
         if (!e.ok(b)) [[unlikely]]
@@ -6782,7 +6782,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "sp-ZP-CSI-RS-ResourceSetsToReleaseList");
         }
     }
-    if (v->m.p_ZP_CSI_RS_ResourceSetPresent)
+    if (v->m.p_ZP_CSI_RS_ResourceSetPresent) [[unlikely]]
     {
         b = pe_PDSCH_Config_p_ZP_CSI_RS_ResourceSet(e, b, &v->p_ZP_CSI_RS_ResourceSet);
         if (!e.ok(b)) [[unlikely]]
@@ -6790,7 +6790,7 @@ static Bits pe_PDSCH_Config(Encoder& e, Bits b, const PDSCH_Config* v)
             return e.in(b, "p-ZP-CSI-RS-ResourceSet");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -6807,7 +6807,7 @@ static Bits pe_BWP_DownlinkDedicated_pdsch_Config(Encoder& e, Bits b, const BWP_
 {
     switch (v->t)
     {
-        case T_BWP_DownlinkDedicated_pdsch_Config_release:
+        [[unlikely]] case T_BWP_DownlinkDedicated_pdsch_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -6846,7 +6846,7 @@ static Bits pe_SPS_Config(Encoder& e, Bits b, const SPS_Config* v)
         return e.range("nrofHARQ-Processes", v->nrofHARQ_Processes, 1, 8);
     }
     b = e.put<10>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.n1PUCCH_ANPresent}) << 1 | uint64_t{v->m.mcs_TablePresent}) << 4 | uint64_t{v->periodicity}) << 3 | (uint64_t{v->nrofHARQ_Processes} - 1));
-    if (v->m.n1PUCCH_ANPresent)
+    if (v->m.n1PUCCH_ANPresent) [[unlikely]]
     {
         if (v->n1PUCCH_AN > 127) [[unlikely]]
         {
@@ -6854,14 +6854,14 @@ static Bits pe_SPS_Config(Encoder& e, Bits b, const SPS_Config* v)
         }
         b = e.put<7>(b, uint64_t{v->n1PUCCH_AN});
     }
-    if (v->m.mcs_TablePresent)
+    if (v->m.mcs_TablePresent) [[unlikely]]
     {
         if (v->mcs_Table > 0u) [[unlikely]]
         {
             return e.range("mcs-Table", v->mcs_Table, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -6878,12 +6878,12 @@ static Bits pe_BWP_DownlinkDedicated_sps_Config(Encoder& e, Bits b, const BWP_Do
 {
     switch (v->t)
     {
-        case T_BWP_DownlinkDedicated_sps_Config_release:
+        [[unlikely]] case T_BWP_DownlinkDedicated_sps_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_BWP_DownlinkDedicated_sps_Config_setup:
+        [[unlikely]] case T_BWP_DownlinkDedicated_sps_Config_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -6918,7 +6918,7 @@ static Bits pe_RadioLinkMonitoringRS_detectionResource(Encoder& e, Bits b, const
             b = e.put<7>(b, (uint64_t{0}) << 6 | uint64_t{v->u.ssb_Index});
             break;
         }
-        case T_RadioLinkMonitoringRS_detectionResource_csi_RS_Index:
+        [[unlikely]] case T_RadioLinkMonitoringRS_detectionResource_csi_RS_Index:
         {
             if (v->u.csi_RS_Index > 191) [[unlikely]]
             {
@@ -6951,7 +6951,7 @@ static Bits pe_RadioLinkMonitoringRS(Encoder& e, Bits b, const RadioLinkMonitori
     {
         return e.in(b, "detectionResource");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -7029,7 +7029,7 @@ static Bits pe_RadioLinkMonitoringConfig(Encoder& e, Bits b, const RadioLinkMoni
             return e.in(b, "failureDetectionResourcesToReleaseList");
         }
     }
-    if (v->m.beamFailureInstanceMaxCountPresent)
+    if (v->m.beamFailureInstanceMaxCountPresent) [[unlikely]]
     {
         if (v->beamFailureInstanceMaxCount > 7u) [[unlikely]]
         {
@@ -7037,7 +7037,7 @@ static Bits pe_RadioLinkMonitoringConfig(Encoder& e, Bits b, const RadioLinkMoni
         }
         b = e.put<3>(b, uint64_t{v->beamFailureInstanceMaxCount});
     }
-    if (v->m.beamFailureDetectionTimerPresent)
+    if (v->m.beamFailureDetectionTimerPresent) [[unlikely]]
     {
         if (v->beamFailureDetectionTimer > 7u) [[unlikely]]
         {
@@ -7045,7 +7045,7 @@ static Bits pe_RadioLinkMonitoringConfig(Encoder& e, Bits b, const RadioLinkMoni
         }
         b = e.put<3>(b, uint64_t{v->beamFailureDetectionTimer});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -7062,7 +7062,7 @@ static Bits pe_BWP_DownlinkDedicated_radioLinkMonitoringConfig(Encoder& e, Bits 
 {
     switch (v->t)
     {
-        case T_BWP_DownlinkDedicated_radioLinkMonitoringConfig_release:
+        [[unlikely]] case T_BWP_DownlinkDedicated_radioLinkMonitoringConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -7110,7 +7110,7 @@ static Bits pe_BWP_DownlinkDedicated(Encoder& e, Bits b, const BWP_DownlinkDedic
             return e.in(b, "pdsch-Config");
         }
     }
-    if (v->m.sps_ConfigPresent)
+    if (v->m.sps_ConfigPresent) [[unlikely]]
     {
         b = pe_BWP_DownlinkDedicated_sps_Config(e, b, &v->sps_Config);
         if (!e.ok(b)) [[unlikely]]
@@ -7126,7 +7126,7 @@ static Bits pe_BWP_DownlinkDedicated(Encoder& e, Bits b, const BWP_DownlinkDedic
             return e.in(b, "radioLinkMonitoringConfig");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -7183,7 +7183,7 @@ static Bits pe_BWP_Downlink(Encoder& e, Bits b, const BWP_Downlink* v)
             return e.in(b, "bwp-Dedicated");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -7253,7 +7253,7 @@ static Bits pe_PUCCH_ResourceSet(Encoder& e, Bits b, const PUCCH_ResourceSet* v)
     {
         return e.in(b, "resourceList");
     }
-    if (v->m.maxPayloadMinus1Present)
+    if (v->m.maxPayloadMinus1Present) [[unlikely]]
     {
         if (v->maxPayloadMinus1 < 4 || v->maxPayloadMinus1 > 256) [[unlikely]]
         {
@@ -7417,7 +7417,7 @@ static Bits pe_PUCCH_Resource_format(Encoder& e, Bits b, const PUCCH_Resource_fo
 {
     switch (v->t)
     {
-        case T_PUCCH_Resource_format_format0:
+        [[unlikely]] case T_PUCCH_Resource_format_format0:
         {
             const auto* const p = v->u.format0;
             if (!e.reachable(p)) [[unlikely]]
@@ -7462,7 +7462,7 @@ static Bits pe_PUCCH_Resource_format(Encoder& e, Bits b, const PUCCH_Resource_fo
             }
             break;
         }
-        case T_PUCCH_Resource_format_format3:
+        [[unlikely]] case T_PUCCH_Resource_format_format3:
         {
             const auto* const p = v->u.format3;
             if (!e.reachable(p)) [[unlikely]]
@@ -7477,7 +7477,7 @@ static Bits pe_PUCCH_Resource_format(Encoder& e, Bits b, const PUCCH_Resource_fo
             }
             break;
         }
-        case T_PUCCH_Resource_format_format4:
+        [[unlikely]] case T_PUCCH_Resource_format_format4:
         {
             const auto* const p = v->u.format4;
             if (!e.reachable(p)) [[unlikely]]
@@ -7582,14 +7582,14 @@ static Bits pe_PUCCH_Config_resourceToReleaseList(Encoder& e, Bits b, const PUCC
 static Bits pe_PUCCH_FormatConfig(Encoder& e, Bits b, const PUCCH_FormatConfig* v)
 {
     b = e.put<6>(b, e.flags<0, 6>(v->m));
-    if (v->m.interslotFrequencyHoppingPresent)
+    if (v->m.interslotFrequencyHoppingPresent) [[unlikely]]
     {
         if (v->interslotFrequencyHopping > 0u) [[unlikely]]
         {
             return e.range("interslotFrequencyHopping", v->interslotFrequencyHopping, 0, 0);
         }
     }
-    if (v->m.additionalDMRSPresent)
+    if (v->m.additionalDMRSPresent) [[unlikely]]
     {
         if (v->additionalDMRS > 0u) [[unlikely]]
         {
@@ -7604,7 +7604,7 @@ static Bits pe_PUCCH_FormatConfig(Encoder& e, Bits b, const PUCCH_FormatConfig* 
         }
         b = e.put<3>(b, uint64_t{v->maxCodeRate});
     }
-    if (v->m.nrofSlotsPresent)
+    if (v->m.nrofSlotsPresent) [[unlikely]]
     {
         if (v->nrofSlots > 2u) [[unlikely]]
         {
@@ -7612,7 +7612,7 @@ static Bits pe_PUCCH_FormatConfig(Encoder& e, Bits b, const PUCCH_FormatConfig* 
         }
         b = e.put<2>(b, uint64_t{v->nrofSlots});
     }
-    if (v->m.pi2BPSKPresent)
+    if (v->m.pi2BPSKPresent) [[unlikely]]
     {
         if (v->pi2BPSK > 0u) [[unlikely]]
         {
@@ -7634,12 +7634,12 @@ static Bits pe_PUCCH_Config_format1(Encoder& e, Bits b, const PUCCH_Config_forma
 {
     switch (v->t)
     {
-        case T_PUCCH_Config_format1_release:
+        [[unlikely]] case T_PUCCH_Config_format1_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PUCCH_Config_format1_setup:
+        [[unlikely]] case T_PUCCH_Config_format1_setup:
         {
             static const PUCCH_FormatConfig empty{};
             const PUCCH_FormatConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -7666,7 +7666,7 @@ static Bits pe_PUCCH_Config_format2(Encoder& e, Bits b, const PUCCH_Config_forma
 {
     switch (v->t)
     {
-        case T_PUCCH_Config_format2_release:
+        [[unlikely]] case T_PUCCH_Config_format2_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -7698,12 +7698,12 @@ static Bits pe_PUCCH_Config_format3(Encoder& e, Bits b, const PUCCH_Config_forma
 {
     switch (v->t)
     {
-        case T_PUCCH_Config_format3_release:
+        [[unlikely]] case T_PUCCH_Config_format3_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PUCCH_Config_format3_setup:
+        [[unlikely]] case T_PUCCH_Config_format3_setup:
         {
             static const PUCCH_FormatConfig empty{};
             const PUCCH_FormatConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -7730,12 +7730,12 @@ static Bits pe_PUCCH_Config_format4(Encoder& e, Bits b, const PUCCH_Config_forma
 {
     switch (v->t)
     {
-        case T_PUCCH_Config_format4_release:
+        [[unlikely]] case T_PUCCH_Config_format4_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PUCCH_Config_format4_setup:
+        [[unlikely]] case T_PUCCH_Config_format4_setup:
         {
             static const PUCCH_FormatConfig empty{};
             const PUCCH_FormatConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -7762,22 +7762,22 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
 {
     switch (v->t)
     {
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sym2:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sym2:
         {
             b = e.put<4>(b, uint64_t{0});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sym6or7:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sym6or7:
         {
             b = e.put<4>(b, uint64_t{1});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl1:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl1:
         {
             b = e.put<4>(b, uint64_t{2});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl2:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl2:
         {
             if (v->u.sl2 > 1) [[unlikely]]
             {
@@ -7786,7 +7786,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<5>(b, (uint64_t{3}) << 1 | uint64_t{v->u.sl2});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl4:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl4:
         {
             if (v->u.sl4 > 3) [[unlikely]]
             {
@@ -7795,7 +7795,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<6>(b, (uint64_t{4}) << 2 | uint64_t{v->u.sl4});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl5:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl5:
         {
             if (v->u.sl5 > 4) [[unlikely]]
             {
@@ -7804,7 +7804,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<7>(b, (uint64_t{5}) << 3 | uint64_t{v->u.sl5});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl8:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl8:
         {
             if (v->u.sl8 > 7) [[unlikely]]
             {
@@ -7813,7 +7813,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<7>(b, (uint64_t{6}) << 3 | uint64_t{v->u.sl8});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl10:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl10:
         {
             if (v->u.sl10 > 9) [[unlikely]]
             {
@@ -7822,7 +7822,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<8>(b, (uint64_t{7}) << 4 | uint64_t{v->u.sl10});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl16:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl16:
         {
             if (v->u.sl16 > 15) [[unlikely]]
             {
@@ -7840,7 +7840,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<9>(b, (uint64_t{9}) << 5 | uint64_t{v->u.sl20});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl40:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl40:
         {
             if (v->u.sl40 > 39) [[unlikely]]
             {
@@ -7849,7 +7849,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<10>(b, (uint64_t{10}) << 6 | uint64_t{v->u.sl40});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl80:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl80:
         {
             if (v->u.sl80 > 79) [[unlikely]]
             {
@@ -7858,7 +7858,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<11>(b, (uint64_t{11}) << 7 | uint64_t{v->u.sl80});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl160:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl160:
         {
             if (v->u.sl160 > 159) [[unlikely]]
             {
@@ -7867,7 +7867,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<12>(b, (uint64_t{12}) << 8 | uint64_t{v->u.sl160});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl320:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl320:
         {
             if (v->u.sl320 > 319) [[unlikely]]
             {
@@ -7876,7 +7876,7 @@ static Bits pe_SchedulingRequestResourceConfig_periodicityAndOffset(Encoder& e, 
             b = e.put<13>(b, (uint64_t{13}) << 9 | uint64_t{v->u.sl320});
             break;
         }
-        case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl640:
+        [[unlikely]] case T_SchedulingRequestResourceConfig_periodicityAndOffset_sl640:
         {
             if (v->u.sl640 > 639) [[unlikely]]
             {
@@ -8027,7 +8027,7 @@ static Bits pe_PUCCH_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, con
 {
     switch (v->t)
     {
-        case T_PUCCH_SpatialRelationInfo_referenceSignal_ssb_Index:
+        [[unlikely]] case T_PUCCH_SpatialRelationInfo_referenceSignal_ssb_Index:
         {
             if (v->u.ssb_Index > 63) [[unlikely]]
             {
@@ -8036,7 +8036,7 @@ static Bits pe_PUCCH_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, con
             b = e.put<8>(b, (uint64_t{0}) << 6 | uint64_t{v->u.ssb_Index});
             break;
         }
-        case T_PUCCH_SpatialRelationInfo_referenceSignal_csi_RS_Index:
+        [[unlikely]] case T_PUCCH_SpatialRelationInfo_referenceSignal_csi_RS_Index:
         {
             if (v->u.csi_RS_Index > 191) [[unlikely]]
             {
@@ -8045,7 +8045,7 @@ static Bits pe_PUCCH_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, con
             b = e.put<10>(b, (uint64_t{1}) << 8 | uint64_t{v->u.csi_RS_Index});
             break;
         }
-        case T_PUCCH_SpatialRelationInfo_referenceSignal_srs:
+        [[unlikely]] case T_PUCCH_SpatialRelationInfo_referenceSignal_srs:
         {
             const auto* const p = v->u.srs;
             if (!e.reachable(p)) [[unlikely]]
@@ -8074,7 +8074,7 @@ static Bits pe_PUCCH_SpatialRelationInfo(Encoder& e, Bits b, const PUCCH_Spatial
         return e.range("pucch-SpatialRelationInfoId", v->pucch_SpatialRelationInfoId, 1, 8);
     }
     b = e.put<4>(b, (uint64_t{v->m.servingCellIdPresent}) << 3 | (uint64_t{v->pucch_SpatialRelationInfoId} - 1));
-    if (v->m.servingCellIdPresent)
+    if (v->m.servingCellIdPresent) [[unlikely]]
     {
         if (v->servingCellId > 31) [[unlikely]]
         {
@@ -8202,7 +8202,7 @@ static Bits pe_PUCCH_PathlossReferenceRS_referenceSignal(Encoder& e, Bits b, con
             b = e.put<7>(b, (uint64_t{0}) << 6 | uint64_t{v->u.ssb_Index});
             break;
         }
-        case T_PUCCH_PathlossReferenceRS_referenceSignal_csi_RS_Index:
+        [[unlikely]] case T_PUCCH_PathlossReferenceRS_referenceSignal_csi_RS_Index:
         {
             if (v->u.csi_RS_Index > 191) [[unlikely]]
             {
@@ -8263,7 +8263,7 @@ static Bits pe_PUCCH_PowerControl(Encoder& e, Bits b, const PUCCH_PowerControl* 
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<9>(b, (uint64_t{extended}) << 8 | e.flags<0, 8>(v->m));
-    if (v->m.deltaF_PUCCH_f0Present)
+    if (v->m.deltaF_PUCCH_f0Present) [[unlikely]]
     {
         if (v->deltaF_PUCCH_f0 < -16 || v->deltaF_PUCCH_f0 > 15) [[unlikely]]
         {
@@ -8287,7 +8287,7 @@ static Bits pe_PUCCH_PowerControl(Encoder& e, Bits b, const PUCCH_PowerControl* 
         }
         b = e.put<5>(b, static_cast<uint64_t>(v->deltaF_PUCCH_f2 + int64_t{16}));
     }
-    if (v->m.deltaF_PUCCH_f3Present)
+    if (v->m.deltaF_PUCCH_f3Present) [[unlikely]]
     {
         if (v->deltaF_PUCCH_f3 < -16 || v->deltaF_PUCCH_f3 > 15) [[unlikely]]
         {
@@ -8295,7 +8295,7 @@ static Bits pe_PUCCH_PowerControl(Encoder& e, Bits b, const PUCCH_PowerControl* 
         }
         b = e.put<5>(b, static_cast<uint64_t>(v->deltaF_PUCCH_f3 + int64_t{16}));
     }
-    if (v->m.deltaF_PUCCH_f4Present)
+    if (v->m.deltaF_PUCCH_f4Present) [[unlikely]]
     {
         if (v->deltaF_PUCCH_f4 < -16 || v->deltaF_PUCCH_f4 > 15) [[unlikely]]
         {
@@ -8319,14 +8319,14 @@ static Bits pe_PUCCH_PowerControl(Encoder& e, Bits b, const PUCCH_PowerControl* 
             return e.in(b, "pathlossReferenceRSs");
         }
     }
-    if (v->m.twoPUCCH_PC_AdjustmentStatesPresent)
+    if (v->m.twoPUCCH_PC_AdjustmentStatesPresent) [[unlikely]]
     {
         if (v->twoPUCCH_PC_AdjustmentStates > 0u) [[unlikely]]
         {
             return e.range("twoPUCCH-PC-AdjustmentStates", v->twoPUCCH_PC_AdjustmentStates, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -8375,7 +8375,7 @@ static Bits pe_PUCCH_Config(Encoder& e, Bits b, const PUCCH_Config* v)
             return e.in(b, "resourceToReleaseList");
         }
     }
-    if (v->m.format1Present)
+    if (v->m.format1Present) [[unlikely]]
     {
         b = pe_PUCCH_Config_format1(e, b, &v->format1);
         if (!e.ok(b)) [[unlikely]]
@@ -8391,7 +8391,7 @@ static Bits pe_PUCCH_Config(Encoder& e, Bits b, const PUCCH_Config* v)
             return e.in(b, "format2");
         }
     }
-    if (v->m.format3Present)
+    if (v->m.format3Present) [[unlikely]]
     {
         b = pe_PUCCH_Config_format3(e, b, &v->format3);
         if (!e.ok(b)) [[unlikely]]
@@ -8399,7 +8399,7 @@ static Bits pe_PUCCH_Config(Encoder& e, Bits b, const PUCCH_Config* v)
             return e.in(b, "format3");
         }
     }
-    if (v->m.format4Present)
+    if (v->m.format4Present) [[unlikely]]
     {
         b = pe_PUCCH_Config_format4(e, b, &v->format4);
         if (!e.ok(b)) [[unlikely]]
@@ -8439,7 +8439,7 @@ static Bits pe_PUCCH_Config(Encoder& e, Bits b, const PUCCH_Config* v)
             return e.in(b, "dl-DataToUL-ACK");
         }
     }
-    if (v->m.spatialRelationInfoToAddModListPresent)
+    if (v->m.spatialRelationInfoToAddModListPresent) [[unlikely]]
     {
         b = pe_PUCCH_Config_spatialRelationInfoToAddModList(e, b, &v->spatialRelationInfoToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -8463,7 +8463,7 @@ static Bits pe_PUCCH_Config(Encoder& e, Bits b, const PUCCH_Config* v)
             return e.in(b, "pucch-PowerControl");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -8480,7 +8480,7 @@ static Bits pe_BWP_UplinkDedicated_pucch_Config(Encoder& e, Bits b, const BWP_Up
 {
     switch (v->t)
     {
-        case T_BWP_UplinkDedicated_pucch_Config_release:
+        [[unlikely]] case T_BWP_UplinkDedicated_pucch_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -8541,7 +8541,7 @@ static Bits pe_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity(Encoder& 
 static Bits pe_PTRS_UplinkConfig_transformPrecoderDisabled(Encoder& e, Bits b, const PTRS_UplinkConfig_transformPrecoderDisabled* v)
 {
     b = e.put<3>(b, e.flags<0, 3>(v->m));
-    if (v->m.frequencyDensityPresent)
+    if (v->m.frequencyDensityPresent) [[unlikely]]
     {
         b = pe_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity(e, b, &v->frequencyDensity);
         if (!e.ok(b)) [[unlikely]]
@@ -8549,7 +8549,7 @@ static Bits pe_PTRS_UplinkConfig_transformPrecoderDisabled(Encoder& e, Bits b, c
             return e.in(b, "frequencyDensity");
         }
     }
-    if (v->m.timeDensityPresent)
+    if (v->m.timeDensityPresent) [[unlikely]]
     {
         b = pe_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity(e, b, &v->timeDensity);
         if (!e.ok(b)) [[unlikely]]
@@ -8562,7 +8562,7 @@ static Bits pe_PTRS_UplinkConfig_transformPrecoderDisabled(Encoder& e, Bits b, c
         return e.range("maxNrofPorts", v->maxNrofPorts, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->maxNrofPorts});
-    if (v->m.resourceElementOffsetPresent)
+    if (v->m.resourceElementOffsetPresent) [[unlikely]]
     {
         if (v->resourceElementOffset > 2u) [[unlikely]]
         {
@@ -8602,7 +8602,7 @@ static Bits pe_PTRS_UplinkConfig_transformPrecoderEnabled(Encoder& e, Bits b, co
     {
         return e.in(b, "sampleDensity");
     }
-    if (v->m.timeDensityTransformPrecodingPresent)
+    if (v->m.timeDensityTransformPrecodingPresent) [[unlikely]]
     {
         if (v->timeDensityTransformPrecoding > 0u) [[unlikely]]
         {
@@ -8617,7 +8617,7 @@ static Bits pe_PTRS_UplinkConfig(Encoder& e, Bits b, const PTRS_UplinkConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<3>(b, ((uint64_t{extended}) << 1 | uint64_t{v->m.transformPrecoderDisabledPresent}) << 1 | uint64_t{v->m.transformPrecoderEnabledPresent});
-    if (v->m.transformPrecoderDisabledPresent)
+    if (v->m.transformPrecoderDisabledPresent) [[unlikely]]
     {
         b = pe_PTRS_UplinkConfig_transformPrecoderDisabled(e, b, &v->transformPrecoderDisabled);
         if (!e.ok(b)) [[unlikely]]
@@ -8625,7 +8625,7 @@ static Bits pe_PTRS_UplinkConfig(Encoder& e, Bits b, const PTRS_UplinkConfig* v)
             return e.in(b, "transformPrecoderDisabled");
         }
     }
-    if (v->m.transformPrecoderEnabledPresent)
+    if (v->m.transformPrecoderEnabledPresent) [[unlikely]]
     {
         b = pe_PTRS_UplinkConfig_transformPrecoderEnabled(e, b, &v->transformPrecoderEnabled);
         if (!e.ok(b)) [[unlikely]]
@@ -8633,7 +8633,7 @@ static Bits pe_PTRS_UplinkConfig(Encoder& e, Bits b, const PTRS_UplinkConfig* v)
             return e.in(b, "transformPrecoderEnabled");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -8650,12 +8650,12 @@ static Bits pe_DMRS_UplinkConfig_phaseTrackingRS(Encoder& e, Bits b, const DMRS_
 {
     switch (v->t)
     {
-        case T_DMRS_UplinkConfig_phaseTrackingRS_release:
+        [[unlikely]] case T_DMRS_UplinkConfig_phaseTrackingRS_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_DMRS_UplinkConfig_phaseTrackingRS_setup:
+        [[unlikely]] case T_DMRS_UplinkConfig_phaseTrackingRS_setup:
         {
             static const PTRS_UplinkConfig empty{};
             const PTRS_UplinkConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -8686,11 +8686,11 @@ static Bits pe_DMRS_UplinkConfig_transformPrecodingDisabled(Encoder& e, Bits b, 
     {
         b = e.put<16>(b, uint64_t{v->scramblingID0});
     }
-    if (v->m.scramblingID1Present)
+    if (v->m.scramblingID1Present) [[unlikely]]
     {
         b = e.put<16>(b, uint64_t{v->scramblingID1});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -8707,7 +8707,7 @@ static Bits pe_DMRS_UplinkConfig_transformPrecodingEnabled(Encoder& e, Bits b, c
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
-    if (v->m.nPUSCH_IdentityPresent)
+    if (v->m.nPUSCH_IdentityPresent) [[unlikely]]
     {
         if (v->nPUSCH_Identity > 1007) [[unlikely]]
         {
@@ -8715,21 +8715,21 @@ static Bits pe_DMRS_UplinkConfig_transformPrecodingEnabled(Encoder& e, Bits b, c
         }
         b = e.put<10>(b, uint64_t{v->nPUSCH_Identity});
     }
-    if (v->m.sequenceGroupHoppingPresent)
+    if (v->m.sequenceGroupHoppingPresent) [[unlikely]]
     {
         if (v->sequenceGroupHopping > 0u) [[unlikely]]
         {
             return e.range("sequenceGroupHopping", v->sequenceGroupHopping, 0, 0);
         }
     }
-    if (v->m.sequenceHoppingPresent)
+    if (v->m.sequenceHoppingPresent) [[unlikely]]
     {
         if (v->sequenceHopping > 0u) [[unlikely]]
         {
             return e.range("sequenceHopping", v->sequenceHopping, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -8746,7 +8746,7 @@ static Bits pe_DMRS_UplinkConfig(Encoder& e, Bits b, const DMRS_UplinkConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<7>(b, (uint64_t{extended}) << 6 | e.flags<0, 6>(v->m));
-    if (v->m.dmrs_TypePresent)
+    if (v->m.dmrs_TypePresent) [[unlikely]]
     {
         if (v->dmrs_Type > 0u) [[unlikely]]
         {
@@ -8761,7 +8761,7 @@ static Bits pe_DMRS_UplinkConfig(Encoder& e, Bits b, const DMRS_UplinkConfig* v)
         }
         b = e.put<2>(b, uint64_t{v->dmrs_AdditionalPosition});
     }
-    if (v->m.phaseTrackingRSPresent)
+    if (v->m.phaseTrackingRSPresent) [[unlikely]]
     {
         b = pe_DMRS_UplinkConfig_phaseTrackingRS(e, b, &v->phaseTrackingRS);
         if (!e.ok(b)) [[unlikely]]
@@ -8769,7 +8769,7 @@ static Bits pe_DMRS_UplinkConfig(Encoder& e, Bits b, const DMRS_UplinkConfig* v)
             return e.in(b, "phaseTrackingRS");
         }
     }
-    if (v->m.maxLengthPresent)
+    if (v->m.maxLengthPresent) [[unlikely]]
     {
         if (v->maxLength > 0u) [[unlikely]]
         {
@@ -8784,7 +8784,7 @@ static Bits pe_DMRS_UplinkConfig(Encoder& e, Bits b, const DMRS_UplinkConfig* v)
             return e.in(b, "transformPrecodingDisabled");
         }
     }
-    if (v->m.transformPrecodingEnabledPresent)
+    if (v->m.transformPrecodingEnabledPresent) [[unlikely]]
     {
         b = pe_DMRS_UplinkConfig_transformPrecodingEnabled(e, b, &v->transformPrecodingEnabled);
         if (!e.ok(b)) [[unlikely]]
@@ -8792,7 +8792,7 @@ static Bits pe_DMRS_UplinkConfig(Encoder& e, Bits b, const DMRS_UplinkConfig* v)
             return e.in(b, "transformPrecodingEnabled");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -8809,7 +8809,7 @@ static Bits pe_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeA(Encoder& e, Bits b,
 {
     switch (v->t)
     {
-        case T_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeA_release:
+        [[unlikely]] case T_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeA_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -8841,12 +8841,12 @@ static Bits pe_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeB(Encoder& e, Bits b,
 {
     switch (v->t)
     {
-        case T_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeB_release:
+        [[unlikely]] case T_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeB_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeB_setup:
+        [[unlikely]] case T_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeB_setup:
         {
             static const DMRS_UplinkConfig empty{};
             const DMRS_UplinkConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -8934,7 +8934,7 @@ static Bits pe_PUSCH_PathlossReferenceRS_referenceSignal(Encoder& e, Bits b, con
             b = e.put<7>(b, (uint64_t{0}) << 6 | uint64_t{v->u.ssb_Index});
             break;
         }
-        case T_PUSCH_PathlossReferenceRS_referenceSignal_csi_RS_Index:
+        [[unlikely]] case T_PUSCH_PathlossReferenceRS_referenceSignal_csi_RS_Index:
         {
             if (v->u.csi_RS_Index > 191) [[unlikely]]
             {
@@ -9082,7 +9082,7 @@ static Bits pe_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList(Encoder& e, Bit
 static Bits pe_PUSCH_PowerControl(Encoder& e, Bits b, const PUSCH_PowerControl* v)
 {
     b = e.put<10>(b, e.flags<0, 10>(v->m));
-    if (v->m.tpc_AccumulationPresent)
+    if (v->m.tpc_AccumulationPresent) [[unlikely]]
     {
         if (v->tpc_Accumulation > 0u) [[unlikely]]
         {
@@ -9097,7 +9097,7 @@ static Bits pe_PUSCH_PowerControl(Encoder& e, Bits b, const PUSCH_PowerControl* 
         }
         b = e.put<3>(b, uint64_t{v->msg3_Alpha});
     }
-    if (v->m.p0_NominalWithoutGrantPresent)
+    if (v->m.p0_NominalWithoutGrantPresent) [[unlikely]]
     {
         if (v->p0_NominalWithoutGrant < -202 || v->p0_NominalWithoutGrant > 24) [[unlikely]]
         {
@@ -9129,14 +9129,14 @@ static Bits pe_PUSCH_PowerControl(Encoder& e, Bits b, const PUSCH_PowerControl* 
             return e.in(b, "pathlossReferenceRSToReleaseList");
         }
     }
-    if (v->m.twoPUSCH_PC_AdjustmentStatesPresent)
+    if (v->m.twoPUSCH_PC_AdjustmentStatesPresent) [[unlikely]]
     {
         if (v->twoPUSCH_PC_AdjustmentStates > 0u) [[unlikely]]
         {
             return e.range("twoPUSCH-PC-AdjustmentStates", v->twoPUSCH_PC_AdjustmentStates, 0, 0);
         }
     }
-    if (v->m.deltaMCSPresent)
+    if (v->m.deltaMCSPresent) [[unlikely]]
     {
         if (v->deltaMCS > 0u) [[unlikely]]
         {
@@ -9187,7 +9187,7 @@ static Bits pe_PUSCH_Config_pusch_TimeDomainAllocationList(Encoder& e, Bits b, c
 {
     switch (v->t)
     {
-        case T_PUSCH_Config_pusch_TimeDomainAllocationList_release:
+        [[unlikely]] case T_PUSCH_Config_pusch_TimeDomainAllocationList_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -9225,7 +9225,7 @@ static Bits pe_BetaOffsets(Encoder& e, Bits b, const BetaOffsets* v)
         }
         b = e.put<5>(b, uint64_t{v->betaOffsetACK_Index1});
     }
-    if (v->m.betaOffsetACK_Index2Present)
+    if (v->m.betaOffsetACK_Index2Present) [[unlikely]]
     {
         if (v->betaOffsetACK_Index2 > 31) [[unlikely]]
         {
@@ -9233,7 +9233,7 @@ static Bits pe_BetaOffsets(Encoder& e, Bits b, const BetaOffsets* v)
         }
         b = e.put<5>(b, uint64_t{v->betaOffsetACK_Index2});
     }
-    if (v->m.betaOffsetACK_Index3Present)
+    if (v->m.betaOffsetACK_Index3Present) [[unlikely]]
     {
         if (v->betaOffsetACK_Index3 > 31) [[unlikely]]
         {
@@ -9249,7 +9249,7 @@ static Bits pe_BetaOffsets(Encoder& e, Bits b, const BetaOffsets* v)
         }
         b = e.put<5>(b, uint64_t{v->betaOffsetCSI_Part1_Index1});
     }
-    if (v->m.betaOffsetCSI_Part1_Index2Present)
+    if (v->m.betaOffsetCSI_Part1_Index2Present) [[unlikely]]
     {
         if (v->betaOffsetCSI_Part1_Index2 > 31) [[unlikely]]
         {
@@ -9265,7 +9265,7 @@ static Bits pe_BetaOffsets(Encoder& e, Bits b, const BetaOffsets* v)
         }
         b = e.put<5>(b, uint64_t{v->betaOffsetCSI_Part2_Index1});
     }
-    if (v->m.betaOffsetCSI_Part2_Index2Present)
+    if (v->m.betaOffsetCSI_Part2_Index2Present) [[unlikely]]
     {
         if (v->betaOffsetCSI_Part2_Index2 > 31) [[unlikely]]
         {
@@ -9305,7 +9305,7 @@ static Bits pe_UCI_OnPUSCH_betaOffsets(Encoder& e, Bits b, const UCI_OnPUSCH_bet
 {
     switch (v->t)
     {
-        case T_UCI_OnPUSCH_betaOffsets_dynamic:
+        [[unlikely]] case T_UCI_OnPUSCH_betaOffsets_dynamic:
         {
             const auto* const p = v->u.dynamic;
             if (!e.reachable(p)) [[unlikely]]
@@ -9367,7 +9367,7 @@ static Bits pe_PUSCH_Config_uci_OnPUSCH(Encoder& e, Bits b, const PUSCH_Config_u
 {
     switch (v->t)
     {
-        case T_PUSCH_Config_uci_OnPUSCH_release:
+        [[unlikely]] case T_PUSCH_Config_uci_OnPUSCH_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -9422,7 +9422,7 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
             return e.in(b, "dmrs-UplinkForPUSCH-MappingTypeA");
         }
     }
-    if (v->m.dmrs_UplinkForPUSCH_MappingTypeBPresent)
+    if (v->m.dmrs_UplinkForPUSCH_MappingTypeBPresent) [[unlikely]]
     {
         b = pe_PUSCH_Config_dmrs_UplinkForPUSCH_MappingTypeB(e, b, &v->dmrs_UplinkForPUSCH_MappingTypeB);
         if (!e.ok(b)) [[unlikely]]
@@ -9438,7 +9438,7 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
             return e.in(b, "pusch-PowerControl");
         }
     }
-    if (v->m.frequencyHoppingPresent)
+    if (v->m.frequencyHoppingPresent) [[unlikely]]
     {
         if (v->frequencyHopping > 1u) [[unlikely]]
         {
@@ -9446,7 +9446,7 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
         }
         b = e.put<1>(b, uint64_t{v->frequencyHopping});
     }
-    if (v->m.frequencyHoppingOffsetListsPresent)
+    if (v->m.frequencyHoppingOffsetListsPresent) [[unlikely]]
     {
         b = pe_PUSCH_Config_frequencyHoppingOffsetLists(e, b, &v->frequencyHoppingOffsetLists);
         if (!e.ok(b)) [[unlikely]]
@@ -9467,7 +9467,7 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
             return e.in(b, "pusch-TimeDomainAllocationList");
         }
     }
-    if (v->m.pusch_AggregationFactorPresent)
+    if (v->m.pusch_AggregationFactorPresent) [[unlikely]]
     {
         if (v->pusch_AggregationFactor > 2u) [[unlikely]]
         {
@@ -9483,7 +9483,7 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
         }
         b = e.put<1>(b, uint64_t{v->mcs_Table});
     }
-    if (v->m.mcs_TableTransformPrecoderPresent)
+    if (v->m.mcs_TableTransformPrecoderPresent) [[unlikely]]
     {
         if (v->mcs_TableTransformPrecoder > 1u) [[unlikely]]
         {
@@ -9515,7 +9515,7 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
         }
         b = e.put<2>(b, (uint64_t{v->maxRank} - 1));
     }
-    if (v->m.rbg_SizePresent)
+    if (v->m.rbg_SizePresent) [[unlikely]]
     {
         if (v->rbg_Size > 0u) [[unlikely]]
         {
@@ -9530,14 +9530,14 @@ static Bits pe_PUSCH_Config(Encoder& e, Bits b, const PUSCH_Config* v)
             return e.in(b, "uci-OnPUSCH");
         }
     }
-    if (v->m.tp_pi2BPSKPresent)
+    if (v->m.tp_pi2BPSKPresent) [[unlikely]]
     {
         if (v->tp_pi2BPSK > 0u) [[unlikely]]
         {
             return e.range("tp-pi2BPSK", v->tp_pi2BPSK, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -9554,7 +9554,7 @@ static Bits pe_BWP_UplinkDedicated_pusch_Config(Encoder& e, Bits b, const BWP_Up
 {
     switch (v->t)
     {
-        case T_BWP_UplinkDedicated_pusch_Config_release:
+        [[unlikely]] case T_BWP_UplinkDedicated_pusch_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -9610,7 +9610,7 @@ static Bits pe_CG_UCI_OnPUSCH(Encoder& e, Bits b, const CG_UCI_OnPUSCH* v)
 {
     switch (v->t)
     {
-        case T_CG_UCI_OnPUSCH_dynamic:
+        [[unlikely]] case T_CG_UCI_OnPUSCH_dynamic:
         {
             const auto* const p = v->u.dynamic;
             if (!e.reachable(p)) [[unlikely]]
@@ -9625,7 +9625,7 @@ static Bits pe_CG_UCI_OnPUSCH(Encoder& e, Bits b, const CG_UCI_OnPUSCH* v)
             }
             break;
         }
-        case T_CG_UCI_OnPUSCH_semiStatic:
+        [[unlikely]] case T_CG_UCI_OnPUSCH_semiStatic:
         {
             static const BetaOffsets empty{};
             const BetaOffsets* const p = v->u.semiStatic == nullptr ? &empty : v->u.semiStatic;
@@ -9652,12 +9652,12 @@ static Bits pe_ConfiguredGrantConfig_uci_OnPUSCH(Encoder& e, Bits b, const Confi
 {
     switch (v->t)
     {
-        case T_ConfiguredGrantConfig_uci_OnPUSCH_release:
+        [[unlikely]] case T_ConfiguredGrantConfig_uci_OnPUSCH_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_ConfiguredGrantConfig_uci_OnPUSCH_setup:
+        [[unlikely]] case T_ConfiguredGrantConfig_uci_OnPUSCH_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -9699,7 +9699,7 @@ static Bits pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(Encoder& e, Bits 
         return e.range("antennaPort", v->antennaPort, 0, 31);
     }
     b = e.put<44>(b, (((((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 13 | uint64_t{v->timeDomainOffset}) << 4 | uint64_t{v->timeDomainAllocation}) << 18 | uint64_t{e.bits<18>(v->frequencyDomainAllocation)}) << 5 | uint64_t{v->antennaPort});
-    if (v->m.dmrs_SeqInitializationPresent)
+    if (v->m.dmrs_SeqInitializationPresent) [[unlikely]]
     {
         if (v->dmrs_SeqInitialization > 1) [[unlikely]]
         {
@@ -9712,7 +9712,7 @@ static Bits pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(Encoder& e, Bits 
         return e.range("precodingAndNumberOfLayers", v->precodingAndNumberOfLayers, 0, 63);
     }
     b = e.put<6>(b, uint64_t{v->precodingAndNumberOfLayers});
-    if (v->m.srs_ResourceIndicatorPresent)
+    if (v->m.srs_ResourceIndicatorPresent) [[unlikely]]
     {
         if (v->srs_ResourceIndicator > 15) [[unlikely]]
         {
@@ -9725,7 +9725,7 @@ static Bits pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(Encoder& e, Bits 
         return e.range("mcsAndTBS", v->mcsAndTBS, 0, 31);
     }
     b = e.put<5>(b, uint64_t{v->mcsAndTBS});
-    if (v->m.frequencyHoppingOffsetPresent)
+    if (v->m.frequencyHoppingOffsetPresent) [[unlikely]]
     {
         if (v->frequencyHoppingOffset < 1 || v->frequencyHoppingOffset > 274) [[unlikely]]
         {
@@ -9738,7 +9738,7 @@ static Bits pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(Encoder& e, Bits 
         return e.range("pathlossReferenceIndex", v->pathlossReferenceIndex, 0, 3);
     }
     b = e.put<2>(b, uint64_t{v->pathlossReferenceIndex});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -9755,7 +9755,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<10>(b, (uint64_t{extended}) << 9 | e.flags<0, 9>(v->m));
-    if (v->m.frequencyHoppingPresent)
+    if (v->m.frequencyHoppingPresent) [[unlikely]]
     {
         if (v->frequencyHopping > 1u) [[unlikely]]
         {
@@ -9768,7 +9768,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
     {
         return e.in(b, "cg-DMRS-Configuration");
     }
-    if (v->m.mcs_TablePresent)
+    if (v->m.mcs_TablePresent) [[unlikely]]
     {
         if (v->mcs_Table > 1u) [[unlikely]]
         {
@@ -9776,7 +9776,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         }
         b = e.put<1>(b, uint64_t{v->mcs_Table});
     }
-    if (v->m.mcs_TableTransformPrecoderPresent)
+    if (v->m.mcs_TableTransformPrecoderPresent) [[unlikely]]
     {
         if (v->mcs_TableTransformPrecoder > 1u) [[unlikely]]
         {
@@ -9784,7 +9784,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         }
         b = e.put<1>(b, uint64_t{v->mcs_TableTransformPrecoder});
     }
-    if (v->m.uci_OnPUSCHPresent)
+    if (v->m.uci_OnPUSCHPresent) [[unlikely]]
     {
         b = pe_ConfiguredGrantConfig_uci_OnPUSCH(e, b, &v->uci_OnPUSCH);
         if (!e.ok(b)) [[unlikely]]
@@ -9797,7 +9797,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         return e.range("resourceAllocation", v->resourceAllocation, 0, 2);
     }
     b = e.put<2>(b, uint64_t{v->resourceAllocation});
-    if (v->m.rbg_SizePresent)
+    if (v->m.rbg_SizePresent) [[unlikely]]
     {
         if (v->rbg_Size > 0u) [[unlikely]]
         {
@@ -9813,7 +9813,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         return e.range("p0-PUSCH-Alpha", v->p0_PUSCH_Alpha, 0, 29);
     }
     b = e.put<6>(b, (uint64_t{v->powerControlLoopToUse}) << 5 | uint64_t{v->p0_PUSCH_Alpha});
-    if (v->m.transformPrecoderPresent)
+    if (v->m.transformPrecoderPresent) [[unlikely]]
     {
         if (v->transformPrecoder > 1u) [[unlikely]]
         {
@@ -9830,7 +9830,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         return e.range("repK", v->repK, 0, 3);
     }
     b = e.put<6>(b, ((uint64_t{v->nrofHARQ_Processes} - 1)) << 2 | uint64_t{v->repK});
-    if (v->m.repK_RVPresent)
+    if (v->m.repK_RVPresent) [[unlikely]]
     {
         if (v->repK_RV > 2u) [[unlikely]]
         {
@@ -9843,7 +9843,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         return e.range("periodicity", v->periodicity, 0, 44);
     }
     b = e.put<6>(b, uint64_t{v->periodicity});
-    if (v->m.configuredGrantTimerPresent)
+    if (v->m.configuredGrantTimerPresent) [[unlikely]]
     {
         if (v->configuredGrantTimer < 1 || v->configuredGrantTimer > 64) [[unlikely]]
         {
@@ -9851,7 +9851,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
         }
         b = e.put<6>(b, (uint64_t{v->configuredGrantTimer} - 1));
     }
-    if (v->m.rrc_ConfiguredUplinkGrantPresent)
+    if (v->m.rrc_ConfiguredUplinkGrantPresent) [[unlikely]]
     {
         b = pe_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant(e, b, &v->rrc_ConfiguredUplinkGrant);
         if (!e.ok(b)) [[unlikely]]
@@ -9859,7 +9859,7 @@ static Bits pe_ConfiguredGrantConfig(Encoder& e, Bits b, const ConfiguredGrantCo
             return e.in(b, "rrc-ConfiguredUplinkGrant");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -9876,12 +9876,12 @@ static Bits pe_BWP_UplinkDedicated_configuredGrantConfig(Encoder& e, Bits b, con
 {
     switch (v->t)
     {
-        case T_BWP_UplinkDedicated_configuredGrantConfig_release:
+        [[unlikely]] case T_BWP_UplinkDedicated_configuredGrantConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_BWP_UplinkDedicated_configuredGrantConfig_setup:
+        [[unlikely]] case T_BWP_UplinkDedicated_configuredGrantConfig_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -9972,7 +9972,7 @@ static Bits pe_SRS_ResourceSet_resourceType_aperiodic(Encoder& e, Bits b, const 
         return e.range("aperiodicSRS-ResourceTrigger", v->aperiodicSRS_ResourceTrigger, 1, 3);
     }
     b = e.put<5>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.csi_RSPresent}) << 1 | uint64_t{v->m.slotOffsetPresent}) << 2 | (uint64_t{v->aperiodicSRS_ResourceTrigger} - 1));
-    if (v->m.csi_RSPresent)
+    if (v->m.csi_RSPresent) [[unlikely]]
     {
         if (v->csi_RS > 191) [[unlikely]]
         {
@@ -9980,7 +9980,7 @@ static Bits pe_SRS_ResourceSet_resourceType_aperiodic(Encoder& e, Bits b, const 
         }
         b = e.put<8>(b, uint64_t{v->csi_RS});
     }
-    if (v->m.slotOffsetPresent)
+    if (v->m.slotOffsetPresent) [[unlikely]]
     {
         if (v->slotOffset < 1 || v->slotOffset > 32) [[unlikely]]
         {
@@ -9988,19 +9988,19 @@ static Bits pe_SRS_ResourceSet_resourceType_aperiodic(Encoder& e, Bits b, const 
         }
         b = e.put<5>(b, (uint64_t{v->slotOffset} - 1));
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.aperiodicSRS_ResourceTriggerList_v1530Present});
-            if (v->m.aperiodicSRS_ResourceTriggerList_v1530Present)
+            if (v->m.aperiodicSRS_ResourceTriggerList_v1530Present) [[unlikely]]
             {
                 b = pe_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530(e, b, &v->aperiodicSRS_ResourceTriggerList_v1530);
                 if (!e.ok(b)) [[unlikely]]
@@ -10020,7 +10020,7 @@ static Bits pe_SRS_ResourceSet_resourceType_semi_persistent(Encoder& e, Bits b, 
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<2>(b, (uint64_t{extended}) << 1 | uint64_t{v->m.associatedCSI_RSPresent});
-    if (v->m.associatedCSI_RSPresent)
+    if (v->m.associatedCSI_RSPresent) [[unlikely]]
     {
         if (v->associatedCSI_RS > 191) [[unlikely]]
         {
@@ -10028,7 +10028,7 @@ static Bits pe_SRS_ResourceSet_resourceType_semi_persistent(Encoder& e, Bits b, 
         }
         b = e.put<8>(b, uint64_t{v->associatedCSI_RS});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10045,7 +10045,7 @@ static Bits pe_SRS_ResourceSet_resourceType_periodic(Encoder& e, Bits b, const S
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<2>(b, (uint64_t{extended}) << 1 | uint64_t{v->m.associatedCSI_RSPresent});
-    if (v->m.associatedCSI_RSPresent)
+    if (v->m.associatedCSI_RSPresent) [[unlikely]]
     {
         if (v->associatedCSI_RS > 191) [[unlikely]]
         {
@@ -10053,7 +10053,7 @@ static Bits pe_SRS_ResourceSet_resourceType_periodic(Encoder& e, Bits b, const S
         }
         b = e.put<8>(b, uint64_t{v->associatedCSI_RS});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10070,7 +10070,7 @@ static Bits pe_SRS_ResourceSet_resourceType(Encoder& e, Bits b, const SRS_Resour
 {
     switch (v->t)
     {
-        case T_SRS_ResourceSet_resourceType_aperiodic:
+        [[unlikely]] case T_SRS_ResourceSet_resourceType_aperiodic:
         {
             const auto* const p = v->u.aperiodic;
             if (!e.reachable(p)) [[unlikely]]
@@ -10085,7 +10085,7 @@ static Bits pe_SRS_ResourceSet_resourceType(Encoder& e, Bits b, const SRS_Resour
             }
             break;
         }
-        case T_SRS_ResourceSet_resourceType_semi_persistent:
+        [[unlikely]] case T_SRS_ResourceSet_resourceType_semi_persistent:
         {
             static const SRS_ResourceSet_resourceType_semi_persistent empty{};
             const SRS_ResourceSet_resourceType_semi_persistent* const p = v->u.semi_persistent == nullptr ? &empty : v->u.semi_persistent;
@@ -10137,7 +10137,7 @@ static Bits pe_SRS_ResourceSet_pathlossReferenceRS(Encoder& e, Bits b, const SRS
             b = e.put<7>(b, (uint64_t{0}) << 6 | uint64_t{v->u.ssb_Index});
             break;
         }
-        case T_SRS_ResourceSet_pathlossReferenceRS_csi_RS_Index:
+        [[unlikely]] case T_SRS_ResourceSet_pathlossReferenceRS_csi_RS_Index:
         {
             if (v->u.csi_RS_Index > 191) [[unlikely]]
             {
@@ -10203,7 +10203,7 @@ static Bits pe_SRS_ResourceSet(Encoder& e, Bits b, const SRS_ResourceSet* v)
             return e.in(b, "pathlossReferenceRS");
         }
     }
-    if (v->m.srs_PowerControlAdjustmentStatesPresent)
+    if (v->m.srs_PowerControlAdjustmentStatesPresent) [[unlikely]]
     {
         if (v->srs_PowerControlAdjustmentStates > 1u) [[unlikely]]
         {
@@ -10211,7 +10211,7 @@ static Bits pe_SRS_ResourceSet(Encoder& e, Bits b, const SRS_ResourceSet* v)
         }
         b = e.put<1>(b, uint64_t{v->srs_PowerControlAdjustmentStates});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10318,7 +10318,7 @@ static Bits pe_SRS_Resource_transmissionComb(Encoder& e, Bits b, const SRS_Resou
             }
             break;
         }
-        case T_SRS_Resource_transmissionComb_n4:
+        [[unlikely]] case T_SRS_Resource_transmissionComb_n4:
         {
             const auto* const p = v->u.n4;
             if (!e.reachable(p)) [[unlikely]]
@@ -10382,7 +10382,7 @@ static Bits pe_SRS_Resource_resourceType_aperiodic(Encoder& e, Bits b, const SRS
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<1>(b, uint64_t{extended});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10399,12 +10399,12 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
 {
     switch (v->t)
     {
-        case T_SRS_PeriodicityAndOffset_sl1:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl1:
         {
             b = e.put<5>(b, uint64_t{0});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl2:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl2:
         {
             if (v->u.sl2 > 1) [[unlikely]]
             {
@@ -10413,7 +10413,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<6>(b, (uint64_t{1}) << 1 | uint64_t{v->u.sl2});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl4:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl4:
         {
             if (v->u.sl4 > 3) [[unlikely]]
             {
@@ -10422,7 +10422,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<7>(b, (uint64_t{2}) << 2 | uint64_t{v->u.sl4});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl5:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl5:
         {
             if (v->u.sl5 > 4) [[unlikely]]
             {
@@ -10431,7 +10431,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<8>(b, (uint64_t{3}) << 3 | uint64_t{v->u.sl5});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl8:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl8:
         {
             if (v->u.sl8 > 7) [[unlikely]]
             {
@@ -10440,7 +10440,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<8>(b, (uint64_t{4}) << 3 | uint64_t{v->u.sl8});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl10:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl10:
         {
             if (v->u.sl10 > 9) [[unlikely]]
             {
@@ -10449,7 +10449,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<9>(b, (uint64_t{5}) << 4 | uint64_t{v->u.sl10});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl16:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl16:
         {
             if (v->u.sl16 > 15) [[unlikely]]
             {
@@ -10458,7 +10458,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<9>(b, (uint64_t{6}) << 4 | uint64_t{v->u.sl16});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl20:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl20:
         {
             if (v->u.sl20 > 19) [[unlikely]]
             {
@@ -10467,7 +10467,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<10>(b, (uint64_t{7}) << 5 | uint64_t{v->u.sl20});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl32:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl32:
         {
             if (v->u.sl32 > 31) [[unlikely]]
             {
@@ -10485,7 +10485,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<11>(b, (uint64_t{9}) << 6 | uint64_t{v->u.sl40});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl64:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl64:
         {
             if (v->u.sl64 > 63) [[unlikely]]
             {
@@ -10494,7 +10494,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<11>(b, (uint64_t{10}) << 6 | uint64_t{v->u.sl64});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl80:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl80:
         {
             if (v->u.sl80 > 79) [[unlikely]]
             {
@@ -10503,7 +10503,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<12>(b, (uint64_t{11}) << 7 | uint64_t{v->u.sl80});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl160:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl160:
         {
             if (v->u.sl160 > 159) [[unlikely]]
             {
@@ -10512,7 +10512,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<13>(b, (uint64_t{12}) << 8 | uint64_t{v->u.sl160});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl320:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl320:
         {
             if (v->u.sl320 > 319) [[unlikely]]
             {
@@ -10521,7 +10521,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<14>(b, (uint64_t{13}) << 9 | uint64_t{v->u.sl320});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl640:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl640:
         {
             if (v->u.sl640 > 639) [[unlikely]]
             {
@@ -10530,7 +10530,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<15>(b, (uint64_t{14}) << 10 | uint64_t{v->u.sl640});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl1280:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl1280:
         {
             if (v->u.sl1280 > 1279) [[unlikely]]
             {
@@ -10539,7 +10539,7 @@ static Bits pe_SRS_PeriodicityAndOffset(Encoder& e, Bits b, const SRS_Periodicit
             b = e.put<16>(b, (uint64_t{15}) << 11 | uint64_t{v->u.sl1280});
             break;
         }
-        case T_SRS_PeriodicityAndOffset_sl2560:
+        [[unlikely]] case T_SRS_PeriodicityAndOffset_sl2560:
         {
             if (v->u.sl2560 > 2559) [[unlikely]]
             {
@@ -10564,7 +10564,7 @@ static Bits pe_SRS_Resource_resourceType_semi_persistent(Encoder& e, Bits b, con
     {
         return e.in(b, "periodicityAndOffset-sp");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10586,7 +10586,7 @@ static Bits pe_SRS_Resource_resourceType_periodic(Encoder& e, Bits b, const SRS_
     {
         return e.in(b, "periodicityAndOffset-p");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10603,7 +10603,7 @@ static Bits pe_SRS_Resource_resourceType(Encoder& e, Bits b, const SRS_Resource_
 {
     switch (v->t)
     {
-        case T_SRS_Resource_resourceType_aperiodic:
+        [[unlikely]] case T_SRS_Resource_resourceType_aperiodic:
         {
             static const SRS_Resource_resourceType_aperiodic empty{};
             const SRS_Resource_resourceType_aperiodic* const p = v->u.aperiodic == nullptr ? &empty : v->u.aperiodic;
@@ -10619,7 +10619,7 @@ static Bits pe_SRS_Resource_resourceType(Encoder& e, Bits b, const SRS_Resource_
             }
             break;
         }
-        case T_SRS_Resource_resourceType_semi_persistent:
+        [[unlikely]] case T_SRS_Resource_resourceType_semi_persistent:
         {
             const auto* const p = v->u.semi_persistent;
             if (!e.reachable(p)) [[unlikely]]
@@ -10675,7 +10675,7 @@ static Bits pe_SRS_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, const
 {
     switch (v->t)
     {
-        case T_SRS_SpatialRelationInfo_referenceSignal_ssb_Index:
+        [[unlikely]] case T_SRS_SpatialRelationInfo_referenceSignal_ssb_Index:
         {
             if (v->u.ssb_Index > 63) [[unlikely]]
             {
@@ -10684,7 +10684,7 @@ static Bits pe_SRS_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, const
             b = e.put<8>(b, (uint64_t{0}) << 6 | uint64_t{v->u.ssb_Index});
             break;
         }
-        case T_SRS_SpatialRelationInfo_referenceSignal_csi_RS_Index:
+        [[unlikely]] case T_SRS_SpatialRelationInfo_referenceSignal_csi_RS_Index:
         {
             if (v->u.csi_RS_Index > 191) [[unlikely]]
             {
@@ -10693,7 +10693,7 @@ static Bits pe_SRS_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, const
             b = e.put<10>(b, (uint64_t{1}) << 8 | uint64_t{v->u.csi_RS_Index});
             break;
         }
-        case T_SRS_SpatialRelationInfo_referenceSignal_srs:
+        [[unlikely]] case T_SRS_SpatialRelationInfo_referenceSignal_srs:
         {
             const auto* const p = v->u.srs;
             if (!e.reachable(p)) [[unlikely]]
@@ -10718,7 +10718,7 @@ static Bits pe_SRS_SpatialRelationInfo_referenceSignal(Encoder& e, Bits b, const
 static Bits pe_SRS_SpatialRelationInfo(Encoder& e, Bits b, const SRS_SpatialRelationInfo* v)
 {
     b = e.put<1>(b, uint64_t{v->m.servingCellIdPresent});
-    if (v->m.servingCellIdPresent)
+    if (v->m.servingCellIdPresent) [[unlikely]]
     {
         if (v->servingCellId > 31) [[unlikely]]
         {
@@ -10747,7 +10747,7 @@ static Bits pe_SRS_Resource(Encoder& e, Bits b, const SRS_Resource* v)
         return e.range("nrofSRS-Ports", v->nrofSRS_Ports, 0, 2);
     }
     b = e.put<11>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.ptrs_PortIndexPresent}) << 1 | uint64_t{v->m.spatialRelationInfoPresent}) << 6 | uint64_t{v->srs_ResourceId}) << 2 | uint64_t{v->nrofSRS_Ports});
-    if (v->m.ptrs_PortIndexPresent)
+    if (v->m.ptrs_PortIndexPresent) [[unlikely]]
     {
         if (v->ptrs_PortIndex > 1u) [[unlikely]]
         {
@@ -10794,7 +10794,7 @@ static Bits pe_SRS_Resource(Encoder& e, Bits b, const SRS_Resource* v)
         return e.range("sequenceId", v->sequenceId, 0, 1023);
     }
     b = e.put<10>(b, uint64_t{v->sequenceId});
-    if (v->m.spatialRelationInfoPresent)
+    if (v->m.spatialRelationInfoPresent) [[unlikely]]
     {
         b = pe_SRS_SpatialRelationInfo(e, b, &v->spatialRelationInfo);
         if (!e.ok(b)) [[unlikely]]
@@ -10802,7 +10802,7 @@ static Bits pe_SRS_Resource(Encoder& e, Bits b, const SRS_Resource* v)
             return e.in(b, "spatialRelationInfo");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10876,14 +10876,14 @@ static Bits pe_SRS_Config(Encoder& e, Bits b, const SRS_Config* v)
             return e.in(b, "srs-ResourceToAddModList");
         }
     }
-    if (v->m.tpc_AccumulationPresent)
+    if (v->m.tpc_AccumulationPresent) [[unlikely]]
     {
         if (v->tpc_Accumulation > 0u) [[unlikely]]
         {
             return e.range("tpc-Accumulation", v->tpc_Accumulation, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10900,7 +10900,7 @@ static Bits pe_BWP_UplinkDedicated_srs_Config(Encoder& e, Bits b, const BWP_Upli
 {
     switch (v->t)
     {
-        case T_BWP_UplinkDedicated_srs_Config_release:
+        [[unlikely]] case T_BWP_UplinkDedicated_srs_Config_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -10940,7 +10940,7 @@ static Bits pe_BFR_SSB_Resource(Encoder& e, Bits b, const BFR_SSB_Resource* v)
         return e.range("ra-PreambleIndex", v->ra_PreambleIndex, 0, 63);
     }
     b = e.put<13>(b, ((uint64_t{extended}) << 6 | uint64_t{v->ssb}) << 6 | uint64_t{v->ra_PreambleIndex});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -10981,7 +10981,7 @@ static Bits pe_BFR_CSIRS_Resource(Encoder& e, Bits b, const BFR_CSIRS_Resource* 
         return e.range("csi-RS", v->csi_RS, 0, 191);
     }
     b = e.put<11>(b, (((uint64_t{extended}) << 1 | uint64_t{v->m.ra_OccasionListPresent}) << 1 | uint64_t{v->m.ra_PreambleIndexPresent}) << 8 | uint64_t{v->csi_RS});
-    if (v->m.ra_OccasionListPresent)
+    if (v->m.ra_OccasionListPresent) [[unlikely]]
     {
         b = pe_BFR_CSIRS_Resource_ra_OccasionList(e, b, &v->ra_OccasionList);
         if (!e.ok(b)) [[unlikely]]
@@ -10989,7 +10989,7 @@ static Bits pe_BFR_CSIRS_Resource(Encoder& e, Bits b, const BFR_CSIRS_Resource* 
             return e.in(b, "ra-OccasionList");
         }
     }
-    if (v->m.ra_PreambleIndexPresent)
+    if (v->m.ra_PreambleIndexPresent) [[unlikely]]
     {
         if (v->ra_PreambleIndex > 63) [[unlikely]]
         {
@@ -10997,7 +10997,7 @@ static Bits pe_BFR_CSIRS_Resource(Encoder& e, Bits b, const BFR_CSIRS_Resource* 
         }
         b = e.put<6>(b, uint64_t{v->ra_PreambleIndex});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -11014,7 +11014,7 @@ static Bits pe_PRACH_ResourceDedicatedBFR(Encoder& e, Bits b, const PRACH_Resour
 {
     switch (v->t)
     {
-        case T_PRACH_ResourceDedicatedBFR_ssb:
+        [[unlikely]] case T_PRACH_ResourceDedicatedBFR_ssb:
         {
             const auto* const p = v->u.ssb;
             if (!e.reachable(p)) [[unlikely]]
@@ -11029,7 +11029,7 @@ static Bits pe_PRACH_ResourceDedicatedBFR(Encoder& e, Bits b, const PRACH_Resour
             }
             break;
         }
-        case T_PRACH_ResourceDedicatedBFR_csi_RS:
+        [[unlikely]] case T_PRACH_ResourceDedicatedBFR_csi_RS:
         {
             const auto* const p = v->u.csi_RS;
             if (!e.reachable(p)) [[unlikely]]
@@ -11081,7 +11081,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.msg1_SubcarrierSpacing_v1530Present);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
     b = e.put<10>(b, (uint64_t{extended}) << 9 | e.flags<0, 9>(v->m));
-    if (v->m.rootSequenceIndex_BFRPresent)
+    if (v->m.rootSequenceIndex_BFRPresent) [[unlikely]]
     {
         if (v->rootSequenceIndex_BFR > 137) [[unlikely]]
         {
@@ -11089,7 +11089,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
         }
         b = e.put<8>(b, uint64_t{v->rootSequenceIndex_BFR});
     }
-    if (v->m.rach_ConfigBFRPresent)
+    if (v->m.rach_ConfigBFRPresent) [[unlikely]]
     {
         b = pe_RACH_ConfigGeneric(e, b, &v->rach_ConfigBFR);
         if (!e.ok(b)) [[unlikely]]
@@ -11097,7 +11097,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
             return e.in(b, "rach-ConfigBFR");
         }
     }
-    if (v->m.rsrp_ThresholdSSBPresent)
+    if (v->m.rsrp_ThresholdSSBPresent) [[unlikely]]
     {
         if (v->rsrp_ThresholdSSB > 127) [[unlikely]]
         {
@@ -11105,7 +11105,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
         }
         b = e.put<7>(b, uint64_t{v->rsrp_ThresholdSSB});
     }
-    if (v->m.candidateBeamRSListPresent)
+    if (v->m.candidateBeamRSListPresent) [[unlikely]]
     {
         b = pe_BeamFailureRecoveryConfig_candidateBeamRSList(e, b, &v->candidateBeamRSList);
         if (!e.ok(b)) [[unlikely]]
@@ -11113,7 +11113,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
             return e.in(b, "candidateBeamRSList");
         }
     }
-    if (v->m.ssb_perRACH_OccasionPresent)
+    if (v->m.ssb_perRACH_OccasionPresent) [[unlikely]]
     {
         if (v->ssb_perRACH_Occasion > 7u) [[unlikely]]
         {
@@ -11121,7 +11121,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
         }
         b = e.put<3>(b, uint64_t{v->ssb_perRACH_Occasion});
     }
-    if (v->m.ra_ssb_OccasionMaskIndexPresent)
+    if (v->m.ra_ssb_OccasionMaskIndexPresent) [[unlikely]]
     {
         if (v->ra_ssb_OccasionMaskIndex > 15) [[unlikely]]
         {
@@ -11129,7 +11129,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
         }
         b = e.put<4>(b, uint64_t{v->ra_ssb_OccasionMaskIndex});
     }
-    if (v->m.recoverySearchSpaceIdPresent)
+    if (v->m.recoverySearchSpaceIdPresent) [[unlikely]]
     {
         if (v->recoverySearchSpaceId > 39) [[unlikely]]
         {
@@ -11137,7 +11137,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
         }
         b = e.put<6>(b, uint64_t{v->recoverySearchSpaceId});
     }
-    if (v->m.ra_PrioritizationPresent)
+    if (v->m.ra_PrioritizationPresent) [[unlikely]]
     {
         b = pe_RA_Prioritization(e, b, &v->ra_Prioritization);
         if (!e.ok(b)) [[unlikely]]
@@ -11145,7 +11145,7 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
             return e.in(b, "ra-Prioritization");
         }
     }
-    if (v->m.beamFailureRecoveryTimerPresent)
+    if (v->m.beamFailureRecoveryTimerPresent) [[unlikely]]
     {
         if (v->beamFailureRecoveryTimer > 7u) [[unlikely]]
         {
@@ -11153,19 +11153,19 @@ static Bits pe_BeamFailureRecoveryConfig(Encoder& e, Bits b, const BeamFailureRe
         }
         b = e.put<3>(b, uint64_t{v->beamFailureRecoveryTimer});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.msg1_SubcarrierSpacing_v1530Present});
-            if (v->m.msg1_SubcarrierSpacing_v1530Present)
+            if (v->m.msg1_SubcarrierSpacing_v1530Present) [[unlikely]]
             {
                 if (v->msg1_SubcarrierSpacing_v1530 > 7u) [[unlikely]]
                 {
@@ -11185,12 +11185,12 @@ static Bits pe_BWP_UplinkDedicated_beamFailureRecoveryConfig(Encoder& e, Bits b,
 {
     switch (v->t)
     {
-        case T_BWP_UplinkDedicated_beamFailureRecoveryConfig_release:
+        [[unlikely]] case T_BWP_UplinkDedicated_beamFailureRecoveryConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_BWP_UplinkDedicated_beamFailureRecoveryConfig_setup:
+        [[unlikely]] case T_BWP_UplinkDedicated_beamFailureRecoveryConfig_setup:
         {
             static const BeamFailureRecoveryConfig empty{};
             const BeamFailureRecoveryConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -11233,7 +11233,7 @@ static Bits pe_BWP_UplinkDedicated(Encoder& e, Bits b, const BWP_UplinkDedicated
             return e.in(b, "pusch-Config");
         }
     }
-    if (v->m.configuredGrantConfigPresent)
+    if (v->m.configuredGrantConfigPresent) [[unlikely]]
     {
         b = pe_BWP_UplinkDedicated_configuredGrantConfig(e, b, &v->configuredGrantConfig);
         if (!e.ok(b)) [[unlikely]]
@@ -11249,7 +11249,7 @@ static Bits pe_BWP_UplinkDedicated(Encoder& e, Bits b, const BWP_UplinkDedicated
             return e.in(b, "srs-Config");
         }
     }
-    if (v->m.beamFailureRecoveryConfigPresent)
+    if (v->m.beamFailureRecoveryConfigPresent) [[unlikely]]
     {
         b = pe_BWP_UplinkDedicated_beamFailureRecoveryConfig(e, b, &v->beamFailureRecoveryConfig);
         if (!e.ok(b)) [[unlikely]]
@@ -11257,7 +11257,7 @@ static Bits pe_BWP_UplinkDedicated(Encoder& e, Bits b, const BWP_UplinkDedicated
             return e.in(b, "beamFailureRecoveryConfig");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -11314,7 +11314,7 @@ static Bits pe_BWP_Uplink(Encoder& e, Bits b, const BWP_Uplink* v)
             return e.in(b, "bwp-Dedicated");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -11360,7 +11360,7 @@ static Bits pe_PUSCH_CodeBlockGroupTransmission(Encoder& e, Bits b, const PUSCH_
         return e.range("maxCodeBlockGroupsPerTransportBlock", v->maxCodeBlockGroupsPerTransportBlock, 0, 3);
     }
     b = e.put<3>(b, (uint64_t{extended}) << 2 | uint64_t{v->maxCodeBlockGroupsPerTransportBlock});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -11377,12 +11377,12 @@ static Bits pe_PUSCH_ServingCellConfig_codeBlockGroupTransmission(Encoder& e, Bi
 {
     switch (v->t)
     {
-        case T_PUSCH_ServingCellConfig_codeBlockGroupTransmission_release:
+        [[unlikely]] case T_PUSCH_ServingCellConfig_codeBlockGroupTransmission_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PUSCH_ServingCellConfig_codeBlockGroupTransmission_setup:
+        [[unlikely]] case T_PUSCH_ServingCellConfig_codeBlockGroupTransmission_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -11409,7 +11409,7 @@ static Bits pe_PUSCH_ServingCellConfig(Encoder& e, Bits b, const PUSCH_ServingCe
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.maxMIMO_LayersPresent | v->m.processingType2EnabledPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
     b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
-    if (v->m.codeBlockGroupTransmissionPresent)
+    if (v->m.codeBlockGroupTransmissionPresent) [[unlikely]]
     {
         b = pe_PUSCH_ServingCellConfig_codeBlockGroupTransmission(e, b, &v->codeBlockGroupTransmission);
         if (!e.ok(b)) [[unlikely]]
@@ -11417,14 +11417,14 @@ static Bits pe_PUSCH_ServingCellConfig(Encoder& e, Bits b, const PUSCH_ServingCe
             return e.in(b, "codeBlockGroupTransmission");
         }
     }
-    if (v->m.rateMatchingPresent)
+    if (v->m.rateMatchingPresent) [[unlikely]]
     {
         if (v->rateMatching > 0u) [[unlikely]]
         {
             return e.range("rateMatching", v->rateMatching, 0, 0);
         }
     }
-    if (v->m.xOverheadPresent)
+    if (v->m.xOverheadPresent) [[unlikely]]
     {
         if (v->xOverhead > 2u) [[unlikely]]
         {
@@ -11432,19 +11432,19 @@ static Bits pe_PUSCH_ServingCellConfig(Encoder& e, Bits b, const PUSCH_ServingCe
         }
         b = e.put<2>(b, uint64_t{v->xOverhead});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<2>(b, (uint64_t{v->m.maxMIMO_LayersPresent}) << 1 | uint64_t{v->m.processingType2EnabledPresent});
-            if (v->m.maxMIMO_LayersPresent)
+            if (v->m.maxMIMO_LayersPresent) [[unlikely]]
             {
                 if (v->maxMIMO_Layers < 1 || v->maxMIMO_Layers > 4) [[unlikely]]
                 {
@@ -11452,7 +11452,7 @@ static Bits pe_PUSCH_ServingCellConfig(Encoder& e, Bits b, const PUSCH_ServingCe
                 }
                 b = e.put<2>(b, (uint64_t{v->maxMIMO_Layers} - 1));
             }
-            if (v->m.processingType2EnabledPresent)
+            if (v->m.processingType2EnabledPresent) [[unlikely]]
             {
                 b = e.put<1>(b, uint64_t{v->processingType2Enabled != 0});
             }
@@ -11468,12 +11468,12 @@ static Bits pe_UplinkConfig_pusch_ServingCellConfig(Encoder& e, Bits b, const Up
 {
     switch (v->t)
     {
-        case T_UplinkConfig_pusch_ServingCellConfig_release:
+        [[unlikely]] case T_UplinkConfig_pusch_ServingCellConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_UplinkConfig_pusch_ServingCellConfig_setup:
+        [[unlikely]] case T_UplinkConfig_pusch_ServingCellConfig_setup:
         {
             static const PUSCH_ServingCellConfig empty{};
             const PUSCH_ServingCellConfig* const p = v->u.setup == nullptr ? &empty : v->u.setup;
@@ -11499,7 +11499,7 @@ static Bits pe_UplinkConfig_pusch_ServingCellConfig(Encoder& e, Bits b, const Up
 static Bits pe_SRS_CC_SetIndex(Encoder& e, Bits b, const SRS_CC_SetIndex* v)
 {
     b = e.put<2>(b, (uint64_t{v->m.cc_SetIndexPresent}) << 1 | uint64_t{v->m.cc_IndexInOneCC_SetPresent});
-    if (v->m.cc_SetIndexPresent)
+    if (v->m.cc_SetIndexPresent) [[unlikely]]
     {
         if (v->cc_SetIndex > 3) [[unlikely]]
         {
@@ -11507,7 +11507,7 @@ static Bits pe_SRS_CC_SetIndex(Encoder& e, Bits b, const SRS_CC_SetIndex* v)
         }
         b = e.put<2>(b, uint64_t{v->cc_SetIndex});
     }
-    if (v->m.cc_IndexInOneCC_SetPresent)
+    if (v->m.cc_IndexInOneCC_SetPresent) [[unlikely]]
     {
         if (v->cc_IndexInOneCC_Set > 7) [[unlikely]]
         {
@@ -11547,7 +11547,7 @@ static Bits pe_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist(Encoder& e, Bits b, cons
 static Bits pe_SRS_TPC_PDCCH_Config(Encoder& e, Bits b, const SRS_TPC_PDCCH_Config* v)
 {
     b = e.put<1>(b, uint64_t{v->m.srs_CC_SetIndexlistPresent});
-    if (v->m.srs_CC_SetIndexlistPresent)
+    if (v->m.srs_CC_SetIndexlistPresent) [[unlikely]]
     {
         b = pe_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist(e, b, &v->srs_CC_SetIndexlist);
         if (!e.ok(b)) [[unlikely]]
@@ -11588,7 +11588,7 @@ static Bits pe_SRS_CarrierSwitching_srs_TPC_PDCCH_Group(Encoder& e, Bits b, cons
 {
     switch (v->t)
     {
-        case T_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA:
+        [[unlikely]] case T_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA:
         {
             const auto* const p = v->u.typeA;
             if (!e.reachable(p)) [[unlikely]]
@@ -11603,7 +11603,7 @@ static Bits pe_SRS_CarrierSwitching_srs_TPC_PDCCH_Group(Encoder& e, Bits b, cons
             }
             break;
         }
-        case T_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeB:
+        [[unlikely]] case T_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeB:
         {
             static const SRS_TPC_PDCCH_Config empty{};
             const SRS_TPC_PDCCH_Config* const p = v->u.typeB == nullptr ? &empty : v->u.typeB;
@@ -11650,7 +11650,7 @@ static Bits pe_SRS_CarrierSwitching(Encoder& e, Bits b, const SRS_CarrierSwitchi
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<4>(b, (uint64_t{extended}) << 3 | e.flags<0, 3>(v->m));
-    if (v->m.srs_SwitchFromServCellIndexPresent)
+    if (v->m.srs_SwitchFromServCellIndexPresent) [[unlikely]]
     {
         if (v->srs_SwitchFromServCellIndex > 31) [[unlikely]]
         {
@@ -11663,7 +11663,7 @@ static Bits pe_SRS_CarrierSwitching(Encoder& e, Bits b, const SRS_CarrierSwitchi
         return e.range("srs-SwitchFromCarrier", v->srs_SwitchFromCarrier, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->srs_SwitchFromCarrier});
-    if (v->m.srs_TPC_PDCCH_GroupPresent)
+    if (v->m.srs_TPC_PDCCH_GroupPresent) [[unlikely]]
     {
         b = pe_SRS_CarrierSwitching_srs_TPC_PDCCH_Group(e, b, &v->srs_TPC_PDCCH_Group);
         if (!e.ok(b)) [[unlikely]]
@@ -11671,7 +11671,7 @@ static Bits pe_SRS_CarrierSwitching(Encoder& e, Bits b, const SRS_CarrierSwitchi
             return e.in(b, "srs-TPC-PDCCH-Group");
         }
     }
-    if (v->m.monitoringCellsPresent)
+    if (v->m.monitoringCellsPresent) [[unlikely]]
     {
         b = pe_SRS_CarrierSwitching_monitoringCells(e, b, &v->monitoringCells);
         if (!e.ok(b)) [[unlikely]]
@@ -11679,7 +11679,7 @@ static Bits pe_SRS_CarrierSwitching(Encoder& e, Bits b, const SRS_CarrierSwitchi
             return e.in(b, "monitoringCells");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -11696,12 +11696,12 @@ static Bits pe_UplinkConfig_carrierSwitching(Encoder& e, Bits b, const UplinkCon
 {
     switch (v->t)
     {
-        case T_UplinkConfig_carrierSwitching_release:
+        [[unlikely]] case T_UplinkConfig_carrierSwitching_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_UplinkConfig_carrierSwitching_setup:
+        [[unlikely]] case T_UplinkConfig_carrierSwitching_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -11785,7 +11785,7 @@ static Bits pe_UplinkConfig(Encoder& e, Bits b, const UplinkConfig* v)
         }
         b = e.put<3>(b, uint64_t{v->firstActiveUplinkBWP_Id});
     }
-    if (v->m.pusch_ServingCellConfigPresent)
+    if (v->m.pusch_ServingCellConfigPresent) [[unlikely]]
     {
         b = pe_UplinkConfig_pusch_ServingCellConfig(e, b, &v->pusch_ServingCellConfig);
         if (!e.ok(b)) [[unlikely]]
@@ -11793,7 +11793,7 @@ static Bits pe_UplinkConfig(Encoder& e, Bits b, const UplinkConfig* v)
             return e.in(b, "pusch-ServingCellConfig");
         }
     }
-    if (v->m.carrierSwitchingPresent)
+    if (v->m.carrierSwitchingPresent) [[unlikely]]
     {
         b = pe_UplinkConfig_carrierSwitching(e, b, &v->carrierSwitching);
         if (!e.ok(b)) [[unlikely]]
@@ -11801,23 +11801,23 @@ static Bits pe_UplinkConfig(Encoder& e, Bits b, const UplinkConfig* v)
             return e.in(b, "carrierSwitching");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<2>(b, (uint64_t{v->m.powerBoostPi2BPSKPresent}) << 1 | uint64_t{v->m.uplinkChannelBW_PerSCS_ListPresent});
-            if (v->m.powerBoostPi2BPSKPresent)
+            if (v->m.powerBoostPi2BPSKPresent) [[unlikely]]
             {
                 b = e.put<1>(b, uint64_t{v->powerBoostPi2BPSK != 0});
             }
-            if (v->m.uplinkChannelBW_PerSCS_ListPresent)
+            if (v->m.uplinkChannelBW_PerSCS_ListPresent) [[unlikely]]
             {
                 b = pe_UplinkConfig_uplinkChannelBW_PerSCS_List(e, b, &v->uplinkChannelBW_PerSCS_List);
                 if (!e.ok(b)) [[unlikely]]
@@ -11902,7 +11902,7 @@ static Bits pe_SlotFormatCombinationsPerCell(Encoder& e, Bits b, const SlotForma
         return e.range("subcarrierSpacing", v->subcarrierSpacing, 0, 7);
     }
     b = e.put<12>(b, (((uint64_t{extended}) << 3 | e.flags<0, 3>(v->m)) << 5 | uint64_t{v->servingCellId}) << 3 | uint64_t{v->subcarrierSpacing});
-    if (v->m.subcarrierSpacing2Present)
+    if (v->m.subcarrierSpacing2Present) [[unlikely]]
     {
         if (v->subcarrierSpacing2 > 7u) [[unlikely]]
         {
@@ -11910,7 +11910,7 @@ static Bits pe_SlotFormatCombinationsPerCell(Encoder& e, Bits b, const SlotForma
         }
         b = e.put<3>(b, uint64_t{v->subcarrierSpacing2});
     }
-    if (v->m.slotFormatCombinationsPresent)
+    if (v->m.slotFormatCombinationsPresent) [[unlikely]]
     {
         b = pe_SlotFormatCombinationsPerCell_slotFormatCombinations(e, b, &v->slotFormatCombinations);
         if (!e.ok(b)) [[unlikely]]
@@ -11918,7 +11918,7 @@ static Bits pe_SlotFormatCombinationsPerCell(Encoder& e, Bits b, const SlotForma
             return e.in(b, "slotFormatCombinations");
         }
     }
-    if (v->m.positionInDCIPresent)
+    if (v->m.positionInDCIPresent) [[unlikely]]
     {
         if (v->positionInDCI > 127) [[unlikely]]
         {
@@ -11926,7 +11926,7 @@ static Bits pe_SlotFormatCombinationsPerCell(Encoder& e, Bits b, const SlotForma
         }
         b = e.put<7>(b, uint64_t{v->positionInDCI});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -11992,7 +11992,7 @@ static Bits pe_SlotFormatIndicator(Encoder& e, Bits b, const SlotFormatIndicator
         return e.range("dci-PayloadSize", v->dci_PayloadSize, 1, 128);
     }
     b = e.put<26>(b, ((((uint64_t{extended}) << 1 | uint64_t{v->m.slotFormatCombToAddModListPresent}) << 1 | uint64_t{v->m.slotFormatCombToReleaseListPresent}) << 16 | uint64_t{v->sfi_RNTI}) << 7 | (uint64_t{v->dci_PayloadSize} - 1));
-    if (v->m.slotFormatCombToAddModListPresent)
+    if (v->m.slotFormatCombToAddModListPresent) [[unlikely]]
     {
         b = pe_SlotFormatIndicator_slotFormatCombToAddModList(e, b, &v->slotFormatCombToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -12008,7 +12008,7 @@ static Bits pe_SlotFormatIndicator(Encoder& e, Bits b, const SlotFormatIndicator
             return e.in(b, "slotFormatCombToReleaseList");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12025,7 +12025,7 @@ static Bits pe_PDCCH_ServingCellConfig_slotFormatIndicator(Encoder& e, Bits b, c
 {
     switch (v->t)
     {
-        case T_PDCCH_ServingCellConfig_slotFormatIndicator_release:
+        [[unlikely]] case T_PDCCH_ServingCellConfig_slotFormatIndicator_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -12064,7 +12064,7 @@ static Bits pe_PDCCH_ServingCellConfig(Encoder& e, Bits b, const PDCCH_ServingCe
             return e.in(b, "slotFormatIndicator");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12081,7 +12081,7 @@ static Bits pe_ServingCellConfig_pdcch_ServingCellConfig(Encoder& e, Bits b, con
 {
     switch (v->t)
     {
-        case T_ServingCellConfig_pdcch_ServingCellConfig_release:
+        [[unlikely]] case T_ServingCellConfig_pdcch_ServingCellConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -12117,7 +12117,7 @@ static Bits pe_PDSCH_CodeBlockGroupTransmission(Encoder& e, Bits b, const PDSCH_
         return e.range("maxCodeBlockGroupsPerTransportBlock", v->maxCodeBlockGroupsPerTransportBlock, 0, 3);
     }
     b = e.put<4>(b, ((uint64_t{extended}) << 2 | uint64_t{v->maxCodeBlockGroupsPerTransportBlock}) << 1 | uint64_t{v->codeBlockGroupFlushIndicator != 0});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12134,12 +12134,12 @@ static Bits pe_PDSCH_ServingCellConfig_codeBlockGroupTransmission(Encoder& e, Bi
 {
     switch (v->t)
     {
-        case T_PDSCH_ServingCellConfig_codeBlockGroupTransmission_release:
+        [[unlikely]] case T_PDSCH_ServingCellConfig_codeBlockGroupTransmission_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_PDSCH_ServingCellConfig_codeBlockGroupTransmission_setup:
+        [[unlikely]] case T_PDSCH_ServingCellConfig_codeBlockGroupTransmission_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -12166,7 +12166,7 @@ static Bits pe_PDSCH_ServingCellConfig(Encoder& e, Bits b, const PDSCH_ServingCe
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.maxMIMO_LayersPresent | v->m.processingType2EnabledPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
     b = e.put<5>(b, (uint64_t{extended}) << 4 | e.flags<0, 4>(v->m));
-    if (v->m.codeBlockGroupTransmissionPresent)
+    if (v->m.codeBlockGroupTransmissionPresent) [[unlikely]]
     {
         b = pe_PDSCH_ServingCellConfig_codeBlockGroupTransmission(e, b, &v->codeBlockGroupTransmission);
         if (!e.ok(b)) [[unlikely]]
@@ -12174,7 +12174,7 @@ static Bits pe_PDSCH_ServingCellConfig(Encoder& e, Bits b, const PDSCH_ServingCe
             return e.in(b, "codeBlockGroupTransmission");
         }
     }
-    if (v->m.xOverheadPresent)
+    if (v->m.xOverheadPresent) [[unlikely]]
     {
         if (v->xOverhead > 2u) [[unlikely]]
         {
@@ -12190,7 +12190,7 @@ static Bits pe_PDSCH_ServingCellConfig(Encoder& e, Bits b, const PDSCH_ServingCe
         }
         b = e.put<3>(b, uint64_t{v->nrofHARQ_ProcessesForPDSCH});
     }
-    if (v->m.pucch_CellPresent)
+    if (v->m.pucch_CellPresent) [[unlikely]]
     {
         if (v->pucch_Cell > 31) [[unlikely]]
         {
@@ -12218,7 +12218,7 @@ static Bits pe_PDSCH_ServingCellConfig(Encoder& e, Bits b, const PDSCH_ServingCe
                 }
                 b = e.put<3>(b, (uint64_t{v->maxMIMO_Layers} - 1));
             }
-            if (v->m.processingType2EnabledPresent)
+            if (v->m.processingType2EnabledPresent) [[unlikely]]
             {
                 b = e.put<1>(b, uint64_t{v->processingType2Enabled != 0});
             }
@@ -12234,7 +12234,7 @@ static Bits pe_ServingCellConfig_pdsch_ServingCellConfig(Encoder& e, Bits b, con
 {
     switch (v->t)
     {
-        case T_ServingCellConfig_pdsch_ServingCellConfig_release:
+        [[unlikely]] case T_ServingCellConfig_pdsch_ServingCellConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -12309,7 +12309,7 @@ static Bits pe_NZP_CSI_RS_Resource(Encoder& e, Bits b, const NZP_CSI_RS_Resource
         }
         b = e.put<7>(b, uint64_t{v->qcl_InfoPeriodicCSI_RS});
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12400,7 +12400,7 @@ static Bits pe_NZP_CSI_RS_ResourceSet(Encoder& e, Bits b, const NZP_CSI_RS_Resou
     {
         return e.in(b, "nzp-CSI-RS-Resources");
     }
-    if (v->m.repetitionPresent)
+    if (v->m.repetitionPresent) [[unlikely]]
     {
         if (v->repetition > 1u) [[unlikely]]
         {
@@ -12423,7 +12423,7 @@ static Bits pe_NZP_CSI_RS_ResourceSet(Encoder& e, Bits b, const NZP_CSI_RS_Resou
             return e.range("trs-Info", v->trs_Info, 0, 0);
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12515,7 +12515,7 @@ static Bits pe_CSI_IM_Resource_csi_IM_ResourceElementPattern(Encoder& e, Bits b,
 {
     switch (v->t)
     {
-        case T_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0:
+        [[unlikely]] case T_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0:
         {
             const auto* const p = v->u.pattern0;
             if (!e.reachable(p)) [[unlikely]]
@@ -12584,7 +12584,7 @@ static Bits pe_CSI_IM_Resource(Encoder& e, Bits b, const CSI_IM_Resource* v)
             return e.in(b, "periodicityAndOffset");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12675,7 +12675,7 @@ static Bits pe_CSI_IM_ResourceSet(Encoder& e, Bits b, const CSI_IM_ResourceSet* 
     {
         return e.in(b, "csi-IM-Resources");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12766,7 +12766,7 @@ static Bits pe_CSI_SSB_ResourceSet(Encoder& e, Bits b, const CSI_SSB_ResourceSet
     {
         return e.in(b, "csi-SSB-ResourceList");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -12870,7 +12870,7 @@ static Bits pe_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB(Encoder&
             return e.in(b, "nzp-CSI-RS-ResourceSetList");
         }
     }
-    if (v->m.csi_SSB_ResourceSetListPresent)
+    if (v->m.csi_SSB_ResourceSetListPresent) [[unlikely]]
     {
         b = pe_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList(e, b, &v->csi_SSB_ResourceSetList);
         if (!e.ok(b)) [[unlikely]]
@@ -12966,7 +12966,7 @@ static Bits pe_CSI_ResourceConfig(Encoder& e, Bits b, const CSI_ResourceConfig* 
         return e.range("resourceType", v->resourceType, 0, 2);
     }
     b = e.put<5>(b, (uint64_t{v->bwp_Id}) << 2 | uint64_t{v->resourceType});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -13028,7 +13028,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
 {
     switch (v->t)
     {
-        case T_CSI_ReportPeriodicityAndOffset_slots4:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots4:
         {
             if (v->u.slots4 > 3) [[unlikely]]
             {
@@ -13037,7 +13037,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<6>(b, (uint64_t{0}) << 2 | uint64_t{v->u.slots4});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots5:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots5:
         {
             if (v->u.slots5 > 4) [[unlikely]]
             {
@@ -13046,7 +13046,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<7>(b, (uint64_t{1}) << 3 | uint64_t{v->u.slots5});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots8:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots8:
         {
             if (v->u.slots8 > 7) [[unlikely]]
             {
@@ -13055,7 +13055,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<7>(b, (uint64_t{2}) << 3 | uint64_t{v->u.slots8});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots10:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots10:
         {
             if (v->u.slots10 > 9) [[unlikely]]
             {
@@ -13064,7 +13064,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<8>(b, (uint64_t{3}) << 4 | uint64_t{v->u.slots10});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots16:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots16:
         {
             if (v->u.slots16 > 15) [[unlikely]]
             {
@@ -13073,7 +13073,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<8>(b, (uint64_t{4}) << 4 | uint64_t{v->u.slots16});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots20:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots20:
         {
             if (v->u.slots20 > 19) [[unlikely]]
             {
@@ -13082,7 +13082,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<9>(b, (uint64_t{5}) << 5 | uint64_t{v->u.slots20});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots40:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots40:
         {
             if (v->u.slots40 > 39) [[unlikely]]
             {
@@ -13100,7 +13100,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<11>(b, (uint64_t{7}) << 7 | uint64_t{v->u.slots80});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots160:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots160:
         {
             if (v->u.slots160 > 159) [[unlikely]]
             {
@@ -13109,7 +13109,7 @@ static Bits pe_CSI_ReportPeriodicityAndOffset(Encoder& e, Bits b, const CSI_Repo
             b = e.put<12>(b, (uint64_t{8}) << 8 | uint64_t{v->u.slots160});
             break;
         }
-        case T_CSI_ReportPeriodicityAndOffset_slots320:
+        [[unlikely]] case T_CSI_ReportPeriodicityAndOffset_slots320:
         {
             if (v->u.slots320 > 319) [[unlikely]]
             {
@@ -13313,7 +13313,7 @@ static Bits pe_CSI_ReportConfig_reportConfigType(Encoder& e, Bits b, const CSI_R
             }
             break;
         }
-        case T_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH:
+        [[unlikely]] case T_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH:
         {
             const auto* const p = v->u.semiPersistentOnPUCCH;
             if (!e.reachable(p)) [[unlikely]]
@@ -13328,7 +13328,7 @@ static Bits pe_CSI_ReportConfig_reportConfigType(Encoder& e, Bits b, const CSI_R
             }
             break;
         }
-        case T_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH:
+        [[unlikely]] case T_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH:
         {
             const auto* const p = v->u.semiPersistentOnPUSCH;
             if (!e.reachable(p)) [[unlikely]]
@@ -13368,7 +13368,7 @@ static Bits pe_CSI_ReportConfig_reportConfigType(Encoder& e, Bits b, const CSI_R
 static Bits pe_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI(Encoder& e, Bits b, const CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI* v)
 {
     b = e.put<1>(b, uint64_t{v->m.pdsch_BundleSizeForCSIPresent});
-    if (v->m.pdsch_BundleSizeForCSIPresent)
+    if (v->m.pdsch_BundleSizeForCSIPresent) [[unlikely]]
     {
         if (v->pdsch_BundleSizeForCSI > 1u) [[unlikely]]
         {
@@ -13384,7 +13384,7 @@ static Bits pe_CSI_ReportConfig_reportQuantity(Encoder& e, Bits b, const CSI_Rep
 {
     switch (v->t)
     {
-        case T_CSI_ReportConfig_reportQuantity_none:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_none:
         {
             b = e.put<3>(b, uint64_t{0});
             break;
@@ -13394,12 +13394,12 @@ static Bits pe_CSI_ReportConfig_reportQuantity(Encoder& e, Bits b, const CSI_Rep
             b = e.put<3>(b, uint64_t{1});
             break;
         }
-        case T_CSI_ReportConfig_reportQuantity_cri_RI_i1:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_cri_RI_i1:
         {
             b = e.put<3>(b, uint64_t{2});
             break;
         }
-        case T_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI:
         {
             static const CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI empty{};
             const CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI* const p = v->u.cri_RI_i1_CQI == nullptr ? &empty : v->u.cri_RI_i1_CQI;
@@ -13415,22 +13415,22 @@ static Bits pe_CSI_ReportConfig_reportQuantity(Encoder& e, Bits b, const CSI_Rep
             }
             break;
         }
-        case T_CSI_ReportConfig_reportQuantity_cri_RI_CQI:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_cri_RI_CQI:
         {
             b = e.put<3>(b, uint64_t{4});
             break;
         }
-        case T_CSI_ReportConfig_reportQuantity_cri_RSRP:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_cri_RSRP:
         {
             b = e.put<3>(b, uint64_t{5});
             break;
         }
-        case T_CSI_ReportConfig_reportQuantity_ssb_Index_RSRP:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_ssb_Index_RSRP:
         {
             b = e.put<3>(b, uint64_t{6});
             break;
         }
-        case T_CSI_ReportConfig_reportQuantity_cri_RI_LI_PMI_CQI:
+        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_cri_RI_LI_PMI_CQI:
         {
             b = e.put<3>(b, uint64_t{7});
             break;
@@ -13446,7 +13446,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
 {
     switch (v->t)
     {
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands3:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands3:
         {
             const auto* const p = v->u.subbands3;
             if (!e.reachable(p)) [[unlikely]]
@@ -13460,7 +13460,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<8>(b, ((uint64_t{0}) << 4 | uint64_t{0}) << 3 | uint64_t{e.bits<3>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands4:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands4:
         {
             const auto* const p = v->u.subbands4;
             if (!e.reachable(p)) [[unlikely]]
@@ -13474,7 +13474,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<9>(b, ((uint64_t{0}) << 4 | uint64_t{1}) << 4 | uint64_t{e.bits<4>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands5:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands5:
         {
             const auto* const p = v->u.subbands5;
             if (!e.reachable(p)) [[unlikely]]
@@ -13488,7 +13488,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<10>(b, ((uint64_t{0}) << 4 | uint64_t{2}) << 5 | uint64_t{e.bits<5>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands6:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands6:
         {
             const auto* const p = v->u.subbands6;
             if (!e.reachable(p)) [[unlikely]]
@@ -13502,7 +13502,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<11>(b, ((uint64_t{0}) << 4 | uint64_t{3}) << 6 | uint64_t{e.bits<6>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands7:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands7:
         {
             const auto* const p = v->u.subbands7;
             if (!e.reachable(p)) [[unlikely]]
@@ -13516,7 +13516,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<12>(b, ((uint64_t{0}) << 4 | uint64_t{4}) << 7 | uint64_t{e.bits<7>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands8:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands8:
         {
             const auto* const p = v->u.subbands8;
             if (!e.reachable(p)) [[unlikely]]
@@ -13544,7 +13544,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<14>(b, ((uint64_t{0}) << 4 | uint64_t{6}) << 9 | uint64_t{e.bits<9>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands10:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands10:
         {
             const auto* const p = v->u.subbands10;
             if (!e.reachable(p)) [[unlikely]]
@@ -13558,7 +13558,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<15>(b, ((uint64_t{0}) << 4 | uint64_t{7}) << 10 | uint64_t{e.bits<10>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands11:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands11:
         {
             const auto* const p = v->u.subbands11;
             if (!e.reachable(p)) [[unlikely]]
@@ -13572,7 +13572,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<16>(b, ((uint64_t{0}) << 4 | uint64_t{8}) << 11 | uint64_t{e.bits<11>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands12:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands12:
         {
             const auto* const p = v->u.subbands12;
             if (!e.reachable(p)) [[unlikely]]
@@ -13586,7 +13586,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<17>(b, ((uint64_t{0}) << 4 | uint64_t{9}) << 12 | uint64_t{e.bits<12>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands13:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands13:
         {
             const auto* const p = v->u.subbands13;
             if (!e.reachable(p)) [[unlikely]]
@@ -13600,7 +13600,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<18>(b, ((uint64_t{0}) << 4 | uint64_t{10}) << 13 | uint64_t{e.bits<13>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands14:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands14:
         {
             const auto* const p = v->u.subbands14;
             if (!e.reachable(p)) [[unlikely]]
@@ -13614,7 +13614,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<19>(b, ((uint64_t{0}) << 4 | uint64_t{11}) << 14 | uint64_t{e.bits<14>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands15:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands15:
         {
             const auto* const p = v->u.subbands15;
             if (!e.reachable(p)) [[unlikely]]
@@ -13628,7 +13628,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<20>(b, ((uint64_t{0}) << 4 | uint64_t{12}) << 15 | uint64_t{e.bits<15>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands16:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands16:
         {
             const auto* const p = v->u.subbands16;
             if (!e.reachable(p)) [[unlikely]]
@@ -13642,7 +13642,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<21>(b, ((uint64_t{0}) << 4 | uint64_t{13}) << 16 | uint64_t{e.bits<16>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands17:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands17:
         {
             const auto* const p = v->u.subbands17;
             if (!e.reachable(p)) [[unlikely]]
@@ -13656,7 +13656,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<22>(b, ((uint64_t{0}) << 4 | uint64_t{14}) << 17 | uint64_t{e.bits<17>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands18:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands18:
         {
             const auto* const p = v->u.subbands18;
             if (!e.reachable(p)) [[unlikely]]
@@ -13670,7 +13670,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<23>(b, ((uint64_t{0}) << 4 | uint64_t{15}) << 18 | uint64_t{e.bits<18>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands19_v1530:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands19_v1530:
         {
             b = e.smallNumber(e.put<1>(b, 1), 0);
             const uint64_t start = b.pos;
@@ -13755,13 +13755,13 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfA
             b = e.put<12>(b, (uint64_t{0}) << 8 | uint64_t{e.bits<8>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_two_two_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_two_two_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{1});
             b = e.octets<64>(b, v->u.two_two_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_one_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_one_TypeI_SinglePanel_Restriction:
         {
             const auto* const p = v->u.four_one_TypeI_SinglePanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -13775,13 +13775,13 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfA
             b = e.put<20>(b, (uint64_t{2}) << 16 | uint64_t{e.bits<16>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_three_two_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_three_two_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{3});
             b = e.octets<96>(b, v->u.three_two_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_six_one_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_six_one_TypeI_SinglePanel_Restriction:
         {
             const auto* const p = v->u.six_one_TypeI_SinglePanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -13795,13 +13795,13 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfA
             b = e.put<28>(b, (uint64_t{4}) << 24 | uint64_t{e.bits<24>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_two_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_two_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{5});
             b = e.octets<128>(b, v->u.four_two_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_eight_one_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_eight_one_TypeI_SinglePanel_Restriction:
         {
             const auto* const p = v->u.eight_one_TypeI_SinglePanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -13815,37 +13815,37 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfA
             b = e.put<36>(b, (uint64_t{6}) << 32 | uint64_t{e.bits<32>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_three_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_three_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{7});
             b = e.octets<192>(b, v->u.four_three_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_six_two_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_six_two_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{8});
             b = e.octets<192>(b, v->u.six_two_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_twelve_one_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_twelve_one_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{9});
             b = e.octets<48>(b, v->u.twelve_one_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_four_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_four_four_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{10});
             b = e.octets<256>(b, v->u.four_four_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_eight_two_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_eight_two_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{11});
             b = e.octets<256>(b, v->u.eight_two_TypeI_SinglePanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_sixteen_one_TypeI_SinglePanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_sixteen_one_TypeI_SinglePanel_Restriction:
         {
             b = e.put<4>(b, uint64_t{12});
             b = e.octets<64>(b, v->u.sixteen_one_TypeI_SinglePanel_Restriction);
@@ -13866,7 +13866,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfA
     {
         return e.in(b, "n1-n2");
     }
-    if (v->m.typeI_SinglePanel_codebookSubsetRestriction_i2Present)
+    if (v->m.typeI_SinglePanel_codebookSubsetRestriction_i2Present) [[unlikely]]
     {
         if (v->typeI_SinglePanel_codebookSubsetRestriction_i2.numbits != 16) [[unlikely]]
         {
@@ -13882,7 +13882,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfA
 {
     switch (v->t)
     {
-        case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two:
         {
             const auto* const p = v->u.two;
             if (!e.reachable(p)) [[unlikely]]
@@ -13939,7 +13939,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_
 {
     switch (v->t)
     {
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_two_one_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_two_one_TypeI_MultiPanel_Restriction:
         {
             const auto* const p = v->u.two_two_one_TypeI_MultiPanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -13953,7 +13953,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_
             b = e.put<11>(b, (uint64_t{0}) << 8 | uint64_t{e.bits<8>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_four_one_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_four_one_TypeI_MultiPanel_Restriction:
         {
             const auto* const p = v->u.two_four_one_TypeI_MultiPanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -13967,7 +13967,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_
             b = e.put<19>(b, (uint64_t{1}) << 16 | uint64_t{e.bits<16>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_two_one_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_two_one_TypeI_MultiPanel_Restriction:
         {
             const auto* const p = v->u.four_two_one_TypeI_MultiPanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -13981,13 +13981,13 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_
             b = e.put<11>(b, (uint64_t{2}) << 8 | uint64_t{e.bits<8>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_two_two_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_two_two_TypeI_MultiPanel_Restriction:
         {
             b = e.put<3>(b, uint64_t{3});
             b = e.octets<64>(b, v->u.two_two_two_TypeI_MultiPanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_eight_one_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_eight_one_TypeI_MultiPanel_Restriction:
         {
             const auto* const p = v->u.two_eight_one_TypeI_MultiPanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -14001,7 +14001,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_
             b = e.put<35>(b, (uint64_t{4}) << 32 | uint64_t{e.bits<32>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_four_one_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_four_one_TypeI_MultiPanel_Restriction:
         {
             const auto* const p = v->u.four_four_one_TypeI_MultiPanel_Restriction;
             if (!e.reachable(p)) [[unlikely]]
@@ -14015,13 +14015,13 @@ static Bits pe_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_
             b = e.put<19>(b, (uint64_t{5}) << 16 | uint64_t{e.bits<16>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_four_two_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_four_two_TypeI_MultiPanel_Restriction:
         {
             b = e.put<3>(b, uint64_t{6});
             b = e.octets<128>(b, v->u.two_four_two_TypeI_MultiPanel_Restriction);
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_two_two_TypeI_MultiPanel_Restriction:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_two_two_TypeI_MultiPanel_Restriction:
         {
             b = e.put<3>(b, uint64_t{7});
             b = e.octets<64>(b, v->u.four_two_two_TypeI_MultiPanel_Restriction);
@@ -14069,7 +14069,7 @@ static Bits pe_CodebookConfig_codebookType_type1_subType(Encoder& e, Bits b, con
             }
             break;
         }
-        case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel:
+        [[unlikely]] case T_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel:
         {
             const auto* const p = v->u.typeI_MultiPanel;
             if (!e.reachable(p)) [[unlikely]]
@@ -14111,7 +14111,7 @@ static Bits pe_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSu
 {
     switch (v->t)
     {
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_two_one:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_two_one:
         {
             const auto* const p = v->u.two_one;
             if (!e.reachable(p)) [[unlikely]]
@@ -14125,13 +14125,13 @@ static Bits pe_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSu
             b = e.put<20>(b, (uint64_t{0}) << 16 | uint64_t{e.bits<16>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_two_two:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_two_two:
         {
             b = e.put<4>(b, uint64_t{1});
             b = e.octets<43>(b, v->u.two_two);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_one:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_one:
         {
             const auto* const p = v->u.four_one;
             if (!e.reachable(p)) [[unlikely]]
@@ -14145,61 +14145,61 @@ static Bits pe_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSu
             b = e.put<36>(b, (uint64_t{2}) << 32 | uint64_t{e.bits<32>((*p))});
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_three_two:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_three_two:
         {
             b = e.put<4>(b, uint64_t{3});
             b = e.octets<59>(b, v->u.three_two);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_six_one:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_six_one:
         {
             b = e.put<4>(b, uint64_t{4});
             b = e.octets<48>(b, v->u.six_one);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_two:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_two:
         {
             b = e.put<4>(b, uint64_t{5});
             b = e.octets<75>(b, v->u.four_two);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_eight_one:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_eight_one:
         {
             b = e.put<4>(b, uint64_t{6});
             b = e.octets<64>(b, v->u.eight_one);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_three:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_three:
         {
             b = e.put<4>(b, uint64_t{7});
             b = e.octets<107>(b, v->u.four_three);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_six_two:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_six_two:
         {
             b = e.put<4>(b, uint64_t{8});
             b = e.octets<107>(b, v->u.six_two);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_twelve_one:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_twelve_one:
         {
             b = e.put<4>(b, uint64_t{9});
             b = e.octets<96>(b, v->u.twelve_one);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_four:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_four_four:
         {
             b = e.put<4>(b, uint64_t{10});
             b = e.octets<139>(b, v->u.four_four);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_eight_two:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_eight_two:
         {
             b = e.put<4>(b, uint64_t{11});
             b = e.octets<139>(b, v->u.eight_two);
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_sixteen_one:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_sixteen_one:
         {
             b = e.put<4>(b, uint64_t{12});
             b = e.octets<128>(b, v->u.sixteen_one);
@@ -14231,7 +14231,7 @@ static Bits pe_CodebookConfig_codebookType_type2_subType_typeII(Encoder& e, Bits
 static Bits pe_CodebookConfig_codebookType_type2_subType_typeII_PortSelection(Encoder& e, Bits b, const CodebookConfig_codebookType_type2_subType_typeII_PortSelection* v)
 {
     b = e.put<1>(b, uint64_t{v->m.portSelectionSamplingSizePresent});
-    if (v->m.portSelectionSamplingSizePresent)
+    if (v->m.portSelectionSamplingSizePresent) [[unlikely]]
     {
         if (v->portSelectionSamplingSize > 3u) [[unlikely]]
         {
@@ -14252,7 +14252,7 @@ static Bits pe_CodebookConfig_codebookType_type2_subType(Encoder& e, Bits b, con
 {
     switch (v->t)
     {
-        case T_CodebookConfig_codebookType_type2_subType_typeII:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII:
         {
             const auto* const p = v->u.typeII;
             if (!e.reachable(p)) [[unlikely]]
@@ -14267,7 +14267,7 @@ static Bits pe_CodebookConfig_codebookType_type2_subType(Encoder& e, Bits b, con
             }
             break;
         }
-        case T_CodebookConfig_codebookType_type2_subType_typeII_PortSelection:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2_subType_typeII_PortSelection:
         {
             const auto* const p = v->u.typeII_PortSelection;
             if (!e.reachable(p)) [[unlikely]]
@@ -14328,7 +14328,7 @@ static Bits pe_CodebookConfig_codebookType(Encoder& e, Bits b, const CodebookCon
             }
             break;
         }
-        case T_CodebookConfig_codebookType_type2:
+        [[unlikely]] case T_CodebookConfig_codebookType_type2:
         {
             const auto* const p = v->u.type2;
             if (!e.reachable(p)) [[unlikely]]
@@ -14364,7 +14364,7 @@ static Bits pe_CodebookConfig(Encoder& e, Bits b, const CodebookConfig* v)
 static Bits pe_CSI_ReportConfig_groupBasedBeamReporting_disabled(Encoder& e, Bits b, const CSI_ReportConfig_groupBasedBeamReporting_disabled* v)
 {
     b = e.put<1>(b, uint64_t{v->m.nrofReportedRSPresent});
-    if (v->m.nrofReportedRSPresent)
+    if (v->m.nrofReportedRSPresent) [[unlikely]]
     {
         if (v->nrofReportedRS > 3u) [[unlikely]]
         {
@@ -14380,7 +14380,7 @@ static Bits pe_CSI_ReportConfig_groupBasedBeamReporting(Encoder& e, Bits b, cons
 {
     switch (v->t)
     {
-        case T_CSI_ReportConfig_groupBasedBeamReporting_enabled:
+        [[unlikely]] case T_CSI_ReportConfig_groupBasedBeamReporting_enabled:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -14516,7 +14516,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8_rank8_8(Encoder& e, Bits b, const P
 static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndexFor8Ranks_portIndex8* v)
 {
     b = e.put<8>(b, e.flags<0, 8>(v->m));
-    if (v->m.rank1_8Present)
+    if (v->m.rank1_8Present) [[unlikely]]
     {
         if (v->rank1_8 > 7) [[unlikely]]
         {
@@ -14524,7 +14524,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
         }
         b = e.put<3>(b, uint64_t{v->rank1_8});
     }
-    if (v->m.rank2_8Present)
+    if (v->m.rank2_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank2_8(e, b, &v->rank2_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14532,7 +14532,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank2-8");
         }
     }
-    if (v->m.rank3_8Present)
+    if (v->m.rank3_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank3_8(e, b, &v->rank3_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14540,7 +14540,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank3-8");
         }
     }
-    if (v->m.rank4_8Present)
+    if (v->m.rank4_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank4_8(e, b, &v->rank4_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14548,7 +14548,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank4-8");
         }
     }
-    if (v->m.rank5_8Present)
+    if (v->m.rank5_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank5_8(e, b, &v->rank5_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14556,7 +14556,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank5-8");
         }
     }
-    if (v->m.rank6_8Present)
+    if (v->m.rank6_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank6_8(e, b, &v->rank6_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14564,7 +14564,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank6-8");
         }
     }
-    if (v->m.rank7_8Present)
+    if (v->m.rank7_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank7_8(e, b, &v->rank7_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14572,7 +14572,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex8(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank7-8");
         }
     }
-    if (v->m.rank8_8Present)
+    if (v->m.rank8_8Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex8_rank8_8(e, b, &v->rank8_8);
         if (!e.ok(b)) [[unlikely]]
@@ -14632,7 +14632,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex4_rank4_4(Encoder& e, Bits b, const P
 static Bits pe_PortIndexFor8Ranks_portIndex4(Encoder& e, Bits b, const PortIndexFor8Ranks_portIndex4* v)
 {
     b = e.put<4>(b, e.flags<0, 4>(v->m));
-    if (v->m.rank1_4Present)
+    if (v->m.rank1_4Present) [[unlikely]]
     {
         if (v->rank1_4 > 3) [[unlikely]]
         {
@@ -14640,7 +14640,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex4(Encoder& e, Bits b, const PortIndex
         }
         b = e.put<2>(b, uint64_t{v->rank1_4});
     }
-    if (v->m.rank2_4Present)
+    if (v->m.rank2_4Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex4_rank2_4(e, b, &v->rank2_4);
         if (!e.ok(b)) [[unlikely]]
@@ -14648,7 +14648,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex4(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank2-4");
         }
     }
-    if (v->m.rank3_4Present)
+    if (v->m.rank3_4Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex4_rank3_4(e, b, &v->rank3_4);
         if (!e.ok(b)) [[unlikely]]
@@ -14656,7 +14656,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex4(Encoder& e, Bits b, const PortIndex
             return e.in(b, "rank3-4");
         }
     }
-    if (v->m.rank4_4Present)
+    if (v->m.rank4_4Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex4_rank4_4(e, b, &v->rank4_4);
         if (!e.ok(b)) [[unlikely]]
@@ -14686,7 +14686,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex2_rank2_2(Encoder& e, Bits b, const P
 static Bits pe_PortIndexFor8Ranks_portIndex2(Encoder& e, Bits b, const PortIndexFor8Ranks_portIndex2* v)
 {
     b = e.put<2>(b, (uint64_t{v->m.rank1_2Present}) << 1 | uint64_t{v->m.rank2_2Present});
-    if (v->m.rank1_2Present)
+    if (v->m.rank1_2Present) [[unlikely]]
     {
         if (v->rank1_2 > 1) [[unlikely]]
         {
@@ -14694,7 +14694,7 @@ static Bits pe_PortIndexFor8Ranks_portIndex2(Encoder& e, Bits b, const PortIndex
         }
         b = e.put<1>(b, uint64_t{v->rank1_2});
     }
-    if (v->m.rank2_2Present)
+    if (v->m.rank2_2Present) [[unlikely]]
     {
         b = pe_PortIndexFor8Ranks_portIndex2_rank2_2(e, b, &v->rank2_2);
         if (!e.ok(b)) [[unlikely]]
@@ -14710,7 +14710,7 @@ static Bits pe_PortIndexFor8Ranks(Encoder& e, Bits b, const PortIndexFor8Ranks* 
 {
     switch (v->t)
     {
-        case T_PortIndexFor8Ranks_portIndex8:
+        [[unlikely]] case T_PortIndexFor8Ranks_portIndex8:
         {
             static const PortIndexFor8Ranks_portIndex8 empty{};
             const PortIndexFor8Ranks_portIndex8* const p = v->u.portIndex8 == nullptr ? &empty : v->u.portIndex8;
@@ -14726,7 +14726,7 @@ static Bits pe_PortIndexFor8Ranks(Encoder& e, Bits b, const PortIndexFor8Ranks* 
             }
             break;
         }
-        case T_PortIndexFor8Ranks_portIndex4:
+        [[unlikely]] case T_PortIndexFor8Ranks_portIndex4:
         {
             static const PortIndexFor8Ranks_portIndex4 empty{};
             const PortIndexFor8Ranks_portIndex4* const p = v->u.portIndex4 == nullptr ? &empty : v->u.portIndex4;
@@ -14742,7 +14742,7 @@ static Bits pe_PortIndexFor8Ranks(Encoder& e, Bits b, const PortIndexFor8Ranks* 
             }
             break;
         }
-        case T_PortIndexFor8Ranks_portIndex2:
+        [[unlikely]] case T_PortIndexFor8Ranks_portIndex2:
         {
             static const PortIndexFor8Ranks_portIndex2 empty{};
             const PortIndexFor8Ranks_portIndex2* const p = v->u.portIndex2 == nullptr ? &empty : v->u.portIndex2;
@@ -14758,7 +14758,7 @@ static Bits pe_PortIndexFor8Ranks(Encoder& e, Bits b, const PortIndexFor8Ranks* 
             }
             break;
         }
-        case T_PortIndexFor8Ranks_portIndex1:
+        [[unlikely]] case T_PortIndexFor8Ranks_portIndex1:
         {
             b = e.put<2>(b, uint64_t{3});
             break;
@@ -14815,7 +14815,7 @@ static Bits pe_CSI_ReportConfig(Encoder& e, Bits b, const CSI_ReportConfig* v)
         return e.range("reportConfigId", v->reportConfigId, 0, 47);
     }
     b = e.put<15>(b, ((uint64_t{extended}) << 8 | e.flags<0, 8>(v->m)) << 6 | uint64_t{v->reportConfigId});
-    if (v->m.carrierPresent)
+    if (v->m.carrierPresent) [[unlikely]]
     {
         if (v->carrier > 31) [[unlikely]]
         {
@@ -14836,7 +14836,7 @@ static Bits pe_CSI_ReportConfig(Encoder& e, Bits b, const CSI_ReportConfig* v)
         }
         b = e.put<7>(b, uint64_t{v->csi_IM_ResourcesForInterference});
     }
-    if (v->m.nzp_CSI_RS_ResourcesForInterferencePresent)
+    if (v->m.nzp_CSI_RS_ResourcesForInterferencePresent) [[unlikely]]
     {
         if (v->nzp_CSI_RS_ResourcesForInterference > 111) [[unlikely]]
         {
@@ -14879,7 +14879,7 @@ static Bits pe_CSI_ReportConfig(Encoder& e, Bits b, const CSI_ReportConfig* v)
             return e.in(b, "codebookConfig");
         }
     }
-    if (v->m.dummyPresent)
+    if (v->m.dummyPresent) [[unlikely]]
     {
         if (v->dummy > 1u) [[unlikely]]
         {
@@ -14905,7 +14905,7 @@ static Bits pe_CSI_ReportConfig(Encoder& e, Bits b, const CSI_ReportConfig* v)
         return e.range("subbandSize", v->subbandSize, 0, 1);
     }
     b = e.put<1>(b, uint64_t{v->subbandSize});
-    if (v->m.non_PMI_PortIndicationPresent)
+    if (v->m.non_PMI_PortIndicationPresent) [[unlikely]]
     {
         b = pe_CSI_ReportConfig_non_PMI_PortIndication(e, b, &v->non_PMI_PortIndication);
         if (!e.ok(b)) [[unlikely]]
@@ -14913,19 +14913,19 @@ static Bits pe_CSI_ReportConfig(Encoder& e, Bits b, const CSI_ReportConfig* v)
             return e.in(b, "non-PMI-PortIndication");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.semiPersistentOnPUSCH_v1530Present});
-            if (v->m.semiPersistentOnPUSCH_v1530Present)
+            if (v->m.semiPersistentOnPUSCH_v1530Present) [[unlikely]]
             {
                 b = pe_CSI_ReportConfig_semiPersistentOnPUSCH_v1530(e, b, &v->semiPersistentOnPUSCH_v1530);
                 if (!e.ok(b)) [[unlikely]]
@@ -15044,7 +15044,7 @@ static Bits pe_CSI_AssociatedReportConfigInfo_resourcesForChannel(Encoder& e, Bi
             }
             break;
         }
-        case T_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet:
+        [[unlikely]] case T_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet:
         {
             if (v->u.csi_SSB_ResourceSet < 1 || v->u.csi_SSB_ResourceSet > 1) [[unlikely]]
             {
@@ -15073,7 +15073,7 @@ static Bits pe_CSI_AssociatedReportConfigInfo(Encoder& e, Bits b, const CSI_Asso
     {
         return e.in(b, "resourcesForChannel");
     }
-    if (v->m.csi_IM_ResourcesForInterferencePresent)
+    if (v->m.csi_IM_ResourcesForInterferencePresent) [[unlikely]]
     {
         if (v->csi_IM_ResourcesForInterference < 1 || v->csi_IM_ResourcesForInterference > 16) [[unlikely]]
         {
@@ -15081,7 +15081,7 @@ static Bits pe_CSI_AssociatedReportConfigInfo(Encoder& e, Bits b, const CSI_Asso
         }
         b = e.put<4>(b, (uint64_t{v->csi_IM_ResourcesForInterference} - 1));
     }
-    if (v->m.nzp_CSI_RS_ResourcesForInterferencePresent)
+    if (v->m.nzp_CSI_RS_ResourcesForInterferencePresent) [[unlikely]]
     {
         if (v->nzp_CSI_RS_ResourcesForInterference < 1 || v->nzp_CSI_RS_ResourcesForInterference > 16) [[unlikely]]
         {
@@ -15089,7 +15089,7 @@ static Bits pe_CSI_AssociatedReportConfigInfo(Encoder& e, Bits b, const CSI_Asso
         }
         b = e.put<4>(b, (uint64_t{v->nzp_CSI_RS_ResourcesForInterference} - 1));
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -15136,7 +15136,7 @@ static Bits pe_CSI_AperiodicTriggerState(Encoder& e, Bits b, const CSI_Aperiodic
     {
         return e.in(b, "associatedReportConfigInfoList");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -15178,7 +15178,7 @@ static Bits pe_CSI_MeasConfig_aperiodicTriggerStateList(Encoder& e, Bits b, cons
 {
     switch (v->t)
     {
-        case T_CSI_MeasConfig_aperiodicTriggerStateList_release:
+        [[unlikely]] case T_CSI_MeasConfig_aperiodicTriggerStateList_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -15213,7 +15213,7 @@ static Bits pe_CSI_SemiPersistentOnPUSCH_TriggerState(Encoder& e, Bits b, const 
         return e.range("associatedReportConfigInfo", v->associatedReportConfigInfo, 0, 47);
     }
     b = e.put<7>(b, (uint64_t{extended}) << 6 | uint64_t{v->associatedReportConfigInfo});
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -15255,12 +15255,12 @@ static Bits pe_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList(Encoder& e,
 {
     switch (v->t)
     {
-        case T_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList_release:
+        [[unlikely]] case T_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList_setup:
+        [[unlikely]] case T_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -15350,7 +15350,7 @@ static Bits pe_CSI_MeasConfig(Encoder& e, Bits b, const CSI_MeasConfig* v)
             return e.in(b, "csi-IM-ResourceSetToReleaseList");
         }
     }
-    if (v->m.csi_SSB_ResourceSetToAddModListPresent)
+    if (v->m.csi_SSB_ResourceSetToAddModListPresent) [[unlikely]]
     {
         b = pe_CSI_MeasConfig_csi_SSB_ResourceSetToAddModList(e, b, &v->csi_SSB_ResourceSetToAddModList);
         if (!e.ok(b)) [[unlikely]]
@@ -15414,7 +15414,7 @@ static Bits pe_CSI_MeasConfig(Encoder& e, Bits b, const CSI_MeasConfig* v)
             return e.in(b, "aperiodicTriggerStateList");
         }
     }
-    if (v->m.semiPersistentOnPUSCH_TriggerStateListPresent)
+    if (v->m.semiPersistentOnPUSCH_TriggerStateListPresent) [[unlikely]]
     {
         b = pe_CSI_MeasConfig_semiPersistentOnPUSCH_TriggerStateList(e, b, &v->semiPersistentOnPUSCH_TriggerStateList);
         if (!e.ok(b)) [[unlikely]]
@@ -15422,7 +15422,7 @@ static Bits pe_CSI_MeasConfig(Encoder& e, Bits b, const CSI_MeasConfig* v)
             return e.in(b, "semiPersistentOnPUSCH-TriggerStateList");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -15439,7 +15439,7 @@ static Bits pe_ServingCellConfig_csi_MeasConfig(Encoder& e, Bits b, const Servin
 {
     switch (v->t)
     {
-        case T_ServingCellConfig_csi_MeasConfig_release:
+        [[unlikely]] case T_ServingCellConfig_csi_MeasConfig_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
@@ -15493,7 +15493,7 @@ static Bits pe_CrossCarrierSchedulingConfig_schedulingCellInfo(Encoder& e, Bits 
 {
     switch (v->t)
     {
-        case T_CrossCarrierSchedulingConfig_schedulingCellInfo_own:
+        [[unlikely]] case T_CrossCarrierSchedulingConfig_schedulingCellInfo_own:
         {
             const auto* const p = v->u.own;
             if (!e.reachable(p)) [[unlikely]]
@@ -15508,7 +15508,7 @@ static Bits pe_CrossCarrierSchedulingConfig_schedulingCellInfo(Encoder& e, Bits 
             }
             break;
         }
-        case T_CrossCarrierSchedulingConfig_schedulingCellInfo_other:
+        [[unlikely]] case T_CrossCarrierSchedulingConfig_schedulingCellInfo_other:
         {
             const auto* const p = v->u.other;
             if (!e.reachable(p)) [[unlikely]]
@@ -15539,7 +15539,7 @@ static Bits pe_CrossCarrierSchedulingConfig(Encoder& e, Bits b, const CrossCarri
     {
         return e.in(b, "schedulingCellInfo");
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -15556,12 +15556,12 @@ static Bits pe_ServingCellConfig_lte_CRS_ToMatchAround(Encoder& e, Bits b, const
 {
     switch (v->t)
     {
-        case T_ServingCellConfig_lte_CRS_ToMatchAround_release:
+        [[unlikely]] case T_ServingCellConfig_lte_CRS_ToMatchAround_release:
         {
             b = e.put<1>(b, uint64_t{0});
             break;
         }
-        case T_ServingCellConfig_lte_CRS_ToMatchAround_setup:
+        [[unlikely]] case T_ServingCellConfig_lte_CRS_ToMatchAround_setup:
         {
             const auto* const p = v->u.setup;
             if (!e.reachable(p)) [[unlikely]]
@@ -15658,7 +15658,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.lte_CRS_ToMatchAroundPresent | v->m.rateMatchPatternToAddModListPresent | v->m.rateMatchPatternToReleaseListPresent | v->m.downlinkChannelBW_PerSCS_ListPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
     b = e.put<18>(b, (uint64_t{extended}) << 17 | e.flags<0, 17>(v->m));
-    if (v->m.tdd_UL_DL_ConfigurationDedicatedPresent)
+    if (v->m.tdd_UL_DL_ConfigurationDedicatedPresent) [[unlikely]]
     {
         b = pe_TDD_UL_DL_ConfigDedicated(e, b, &v->tdd_UL_DL_ConfigurationDedicated);
         if (!e.ok(b)) [[unlikely]]
@@ -15698,7 +15698,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         }
         b = e.put<3>(b, uint64_t{v->firstActiveDownlinkBWP_Id});
     }
-    if (v->m.bwp_InactivityTimerPresent)
+    if (v->m.bwp_InactivityTimerPresent) [[unlikely]]
     {
         if (v->bwp_InactivityTimer > 30u) [[unlikely]]
         {
@@ -15706,7 +15706,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         }
         b = e.put<5>(b, uint64_t{v->bwp_InactivityTimer});
     }
-    if (v->m.defaultDownlinkBWP_IdPresent)
+    if (v->m.defaultDownlinkBWP_IdPresent) [[unlikely]]
     {
         if (v->defaultDownlinkBWP_Id > 4) [[unlikely]]
         {
@@ -15722,7 +15722,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
             return e.in(b, "uplinkConfig");
         }
     }
-    if (v->m.supplementaryUplinkPresent)
+    if (v->m.supplementaryUplinkPresent) [[unlikely]]
     {
         b = pe_UplinkConfig(e, b, &v->supplementaryUplink);
         if (!e.ok(b)) [[unlikely]]
@@ -15762,7 +15762,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         }
         b = e.put<4>(b, uint64_t{v->sCellDeactivationTimer});
     }
-    if (v->m.crossCarrierSchedulingConfigPresent)
+    if (v->m.crossCarrierSchedulingConfigPresent) [[unlikely]]
     {
         b = pe_CrossCarrierSchedulingConfig(e, b, &v->crossCarrierSchedulingConfig);
         if (!e.ok(b)) [[unlikely]]
@@ -15775,14 +15775,14 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         return e.range("tag-Id", v->tag_Id, 0, 3);
     }
     b = e.put<2>(b, uint64_t{v->tag_Id});
-    if (v->m.dummyPresent)
+    if (v->m.dummyPresent) [[unlikely]]
     {
         if (v->dummy > 0u) [[unlikely]]
         {
             return e.range("dummy", v->dummy, 0, 0);
         }
     }
-    if (v->m.pathlossReferenceLinkingPresent)
+    if (v->m.pathlossReferenceLinkingPresent) [[unlikely]]
     {
         if (v->pathlossReferenceLinking > 1u) [[unlikely]]
         {
@@ -15790,7 +15790,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         }
         b = e.put<1>(b, uint64_t{v->pathlossReferenceLinking});
     }
-    if (v->m.servingCellMOPresent)
+    if (v->m.servingCellMOPresent) [[unlikely]]
     {
         if (v->servingCellMO < 1 || v->servingCellMO > 64) [[unlikely]]
         {
@@ -15798,19 +15798,19 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
         }
         b = e.put<6>(b, (uint64_t{v->servingCellMO} - 1));
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<4>(b, e.flags<18, 4>(v->m));
-            if (v->m.lte_CRS_ToMatchAroundPresent)
+            if (v->m.lte_CRS_ToMatchAroundPresent) [[unlikely]]
             {
                 b = pe_ServingCellConfig_lte_CRS_ToMatchAround(e, b, &v->lte_CRS_ToMatchAround);
                 if (!e.ok(b)) [[unlikely]]
@@ -15818,7 +15818,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
                     return e.in(b, "lte-CRS-ToMatchAround");
                 }
             }
-            if (v->m.rateMatchPatternToAddModListPresent)
+            if (v->m.rateMatchPatternToAddModListPresent) [[unlikely]]
             {
                 b = pe_ServingCellConfig_rateMatchPatternToAddModList(e, b, &v->rateMatchPatternToAddModList);
                 if (!e.ok(b)) [[unlikely]]
@@ -15826,7 +15826,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
                     return e.in(b, "rateMatchPatternToAddModList");
                 }
             }
-            if (v->m.rateMatchPatternToReleaseListPresent)
+            if (v->m.rateMatchPatternToReleaseListPresent) [[unlikely]]
             {
                 b = pe_ServingCellConfig_rateMatchPatternToReleaseList(e, b, &v->rateMatchPatternToReleaseList);
                 if (!e.ok(b)) [[unlikely]]
@@ -15834,7 +15834,7 @@ static Bits pe_ServingCellConfig(Encoder& e, Bits b, const ServingCellConfig* v)
                     return e.in(b, "rateMatchPatternToReleaseList");
                 }
             }
-            if (v->m.downlinkChannelBW_PerSCS_ListPresent)
+            if (v->m.downlinkChannelBW_PerSCS_ListPresent) [[unlikely]]
             {
                 b = pe_ServingCellConfig_downlinkChannelBW_PerSCS_List(e, b, &v->downlinkChannelBW_PerSCS_List);
                 if (!e.ok(b)) [[unlikely]]
@@ -15854,7 +15854,7 @@ static Bits pe_SpCellConfig(Encoder& e, Bits b, const SpCellConfig* v)
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
-    if (v->m.servCellIndexPresent)
+    if (v->m.servCellIndexPresent) [[unlikely]]
     {
         if (v->servCellIndex > 31) [[unlikely]]
         {
@@ -15878,7 +15878,7 @@ static Bits pe_SpCellConfig(Encoder& e, Bits b, const SpCellConfig* v)
             return e.in(b, "rlf-TimersAndConstants");
         }
     }
-    if (v->m.rlmInSyncOutOfSyncThresholdPresent)
+    if (v->m.rlmInSyncOutOfSyncThresholdPresent) [[unlikely]]
     {
         if (v->rlmInSyncOutOfSyncThreshold > 0u) [[unlikely]]
         {
@@ -15893,7 +15893,7 @@ static Bits pe_SpCellConfig(Encoder& e, Bits b, const SpCellConfig* v)
             return e.in(b, "spCellConfigDedicated");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, 0, 0, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
@@ -15931,19 +15931,19 @@ static Bits pe_SCellConfig(Encoder& e, Bits b, const SCellConfig* v)
             return e.in(b, "sCellConfigDedicated");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.smtcPresent});
-            if (v->m.smtcPresent)
+            if (v->m.smtcPresent) [[unlikely]]
             {
                 b = pe_SSB_MTC(e, b, &v->smtc);
                 if (!e.ok(b)) [[unlikely]]
@@ -16069,19 +16069,19 @@ static Bits pe_CellGroupConfig(Encoder& e, Bits b, const CellGroupConfig* v)
             return e.in(b, "sCellToReleaseList");
         }
     }
-    if (extended)
+    if (extended) [[unlikely]]
     {
         b = e.extensionBitmap(b, addition0, 1, v->extElem1);
         if (!e.ok(b)) [[unlikely]]
         {
             return b;
         }
-        if (addition0 != 0)
+        if (addition0 != 0) [[unlikely]]
         {
             const uint64_t start = b.pos;
             b = e.openType(b);
             b = e.put<1>(b, uint64_t{v->m.reportUplinkTxDirectCurrent_v1530Present});
-            if (v->m.reportUplinkTxDirectCurrent_v1530Present)
+            if (v->m.reportUplinkTxDirectCurrent_v1530Present) [[unlikely]]
             {
                 if (v->reportUplinkTxDirectCurrent_v1530 > 0u) [[unlikely]]
                 {
