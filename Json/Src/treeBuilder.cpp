@@ -195,7 +195,7 @@ unsigned takes(Kind kind)
 
 unsigned numberForm(std::string_view text)
 {
-    const std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
+    const std::string_view digits = text.starts_with('-') ? text.substr(1) : text;
     if (digits.empty() || digits.front() < '0' || digits.front() > '9')
     {
         return 0;
@@ -205,7 +205,8 @@ unsigned numberForm(std::string_view text)
     {
         return integerForm;
     }
-    return digits.find_first_not_of("0123456789+-.eE") == std::string_view::npos ? fractionForm : 0;
+    const bool isNumber = digits.find_first_not_of("0123456789+-.eE") == std::string_view::npos;
+    return isNumber ? unsigned{fractionForm} : 0;
 }
 
 TreeBuilder::TreeBuilder(OSCTXT& ctxt, const RtxType& type, void* value, Mistakes& mistakes)
@@ -253,7 +254,7 @@ void TreeBuilder::mistakeOfFrame(std::size_t offset, std::string words)
 
 OSOCTET* TreeBuilder::allocate(std::size_t octets, std::size_t offset)
 {
-    void* const p = rtxMemHeapAllocZ(&ctxt_, octets);
+    void* const p = rtxMemHeapAlloc(&ctxt_, octets);
     if (p == nullptr)
     {
         mistake(offset, "the context's heap is exhausted: " + plural(static_cast<std::int64_t>(octets), "octet") +
@@ -678,8 +679,7 @@ bool TreeBuilder::areDigits(std::size_t offset, std::string_view text)
     const std::size_t other = text.find_first_not_of("0123456789abcdefABCDEF");
     if (other != std::string_view::npos)
     {
-        mistake(offset,
-                quoted(text.substr(other, 1)) + " is not a hexadecimal digit, as which " + quoted(text) + " has it");
+        mistake(offset, quoted(text) + " is not hexadecimal: " + quoted(text.substr(other, 1)));
     }
     return other == std::string_view::npos;
 }
@@ -704,8 +704,7 @@ void TreeBuilder::bits(std::size_t offset, const Place& place, std::string_view 
     const unsigned padding = static_cast<unsigned>(8 - type.upper % 8) % 8;
     if ((to[text.size() / 2 - 1] & ((1U << padding) - 1)) != 0)
     {
-        mistake(offset, "the last " + plural(padding, "bit") + " of " + quoted(text) + " lie behind the " +
-                            plural(type.upper, "bit") + " of the string and have to be 0");
+        mistake(offset, "the last " + plural(padding, "bit") + " of " + quoted(text) + " are padding and have to be 0");
     }
     if (small)
     {

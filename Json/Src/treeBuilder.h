@@ -99,7 +99,7 @@ private:
     void endList(const Frame& frame);
     void fillGaps(OSRTDList& list, std::uint32_t first);
 
-    void store(std::size_t offset, const Place& place, const Scalar& scalar);
+    void store(std::size_t offset, const Place& place, std::string_view text);
     void integer(std::size_t offset, const Place& place, std::string_view text);
     void enumerated(std::size_t offset, const Place& place, std::string_view text);
     void bits(std::size_t offset, const Place& place, std::string_view text);
