@@ -1,7 +1,7 @@
 #include "mistakes.h"
+#include "nearest.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <utility>
 
@@ -10,48 +10,11 @@ namespace text
 namespace
 {
 
-constexpr std::size_t mostNames = 8;    // that are listed
-constexpr std::size_t mostLetters = 64; // of a name that is compared with others
+constexpr std::size_t mostNames = 8; // that are listed
 
 bool isContinuation(char c)
 {
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
-
-char folded(char c)
-{
-    if (c == '_')
-    {
-        return '-';
-    }
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-// Letters to insert, remove, replace or swap with their neighbour.
-std::size_t distance(std::string_view a, std::string_view b)
-{
-    using Row = std::array<std::size_t, mostLetters + 1>;
-    std::array<Row, 3> rows{};
-    for (std::size_t j = 0; j <= b.size(); ++j)
-    {
-        rows[0][j] = j;
-    }
-    for (std::size_t i = 1; i <= a.size(); ++i)
-    {
-        Row& row = rows[i % 3];
-        const Row& above = rows[(i + 2) % 3];
-        row[0] = i;
-        for (std::size_t j = 1; j <= b.size(); ++j)
-        {
-            const bool same = folded(a[i - 1]) == folded(b[j - 1]);
-            row[j] = std::min({above[j] + 1, row[j - 1] + 1, above[j - 1] + (same ? 0 : 1)});
-            if (i > 1 && j > 1 && folded(a[i - 1]) == folded(b[j - 2]) && folded(a[i - 2]) == folded(b[j - 1]))
-            {
-                row[j] = std::min(row[j], rows[(i + 1) % 3][j - 2] + 1);
-            }
-        }
-    }
-    return rows[a.size() % 3][b.size()];
 }
 
 } // namespace
@@ -133,36 +96,12 @@ std::string oneOf(const char* const* names, std::size_t count)
     return result;
 }
 
-const char* nearest(std::string_view text, const char* const* names, std::size_t count)
-{
-    if (text.size() > mostLetters)
-    {
-        return nullptr;
-    }
-    const char* result = nullptr;
-    std::size_t least = text.size() / 3 + 1;
-    for (std::size_t i = 0; i < count; ++i)
-    {
-        const std::string_view name = names[i];
-        if (name.size() > mostLetters)
-        {
-            continue;
-        }
-        const std::size_t changes = distance(text, name);
-        if (changes < least || (changes == least && result == nullptr))
-        {
-            least = changes;
-            result = names[i];
-        }
-    }
-    return result;
-}
-
 std::string suggestion(std::string_view text, const char* const* names, std::size_t count)
 {
-    if (const char* const name = nearest(text, names, count))
+    const std::vector<std::string_view> known(names, names + count);
+    if (const auto name = nearest(text, known))
     {
-        return "; did you mean " + oneOf(&name, 1) + "?";
+        return "; did you mean \"" + std::string(*name) + "\"?";
     }
     return count != 0 && count <= mostNames ? "; there is " + oneOf(names, count) : "";
 }

@@ -57,9 +57,6 @@ std::string shown(std::string_view text, std::size_t most = 60);
 // "a", "b" or "c"
 std::string oneOf(const char* const* names, std::size_t count);
 
-// The name that was most likely meant; null when none is near. '-' and '_' and the two cases count as the same.
-const char* nearest(std::string_view text, const char* const* names, std::size_t count);
-
 // `; did you mean "x"?`, or which names there are when they are few and none is near, or nothing.
 std::string suggestion(std::string_view text, const char* const* names, std::size_t count);
 

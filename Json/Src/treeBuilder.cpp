@@ -1,4 +1,5 @@
 #include "treeBuilder.h"
+#include "rtxTree.h"
 
 #include <algorithm>
 #include <charconv>
@@ -12,6 +13,7 @@ namespace
 {
 
 using rtx::Addition;
+using rtx::hasFlag;
 using rtx::Kind;
 using rtx::Member;
 using rtx::Step;
@@ -22,22 +24,16 @@ constexpr std::int64_t lastAddition = 16382;       // X.691 11.9.3.4: a bitmap b
 constexpr std::int64_t lastAlternative = 0xFFFFFF; // X.691 11.6: what the decoder takes
 
 // What this release does not know, described as the schema's types are: SEQUENCE { index, octets }.
-struct Unknown
-{
-    ASN1OpenType open;
-    OSUINT32 index;
-};
-
 constexpr RtxType indexType = {.name = "index", .kind = Kind::Integer, .width = 4, .size = 4};
 constexpr RtxType octetsType = {.name = "octets", .kind = Kind::BitOctets, .size = sizeof(ASN1OpenType)};
 const char* const openNames[] = {"index", "octets"};
 constexpr Member openMembers[] = {
-    rtx::member(indexType, offsetof(Unknown, index)),
-    rtx::member(octetsType, offsetof(Unknown, open)),
+    rtx::member(indexType, offsetof(ASN1OpenType, index)),
+    rtx::member(octetsType, 0),
 };
 constexpr RtxType openType = {.name = "unknown",
                               .kind = Kind::Sequence,
-                              .size = sizeof(Unknown),
+                              .size = sizeof(ASN1OpenType),
                               .names = openNames,
                               .members = openMembers,
                               .memberCount = 2,
@@ -77,11 +73,6 @@ void putInteger(OSOCTET* to, unsigned width, std::int64_t value)
     default:
         return put(to, static_cast<OSUINT32>(value));
     }
-}
-
-bool hasFlag(const OSOCTET* structure, int flag)
-{
-    return (structure[flag / 8] >> flag % 8 & 1) != 0;
 }
 
 void setFlag(OSOCTET* structure, int flag)
@@ -370,7 +361,7 @@ bool TreeBuilder::unknownPlace(Frame& frame, Place& place)
     place = {&openListType, to};
     if (frame.type->kind == Kind::Choice)
     {
-        place = {&openType, allocate(sizeof(Unknown), frame.offset)};
+        place = {&openType, allocate(sizeof(ASN1OpenType), frame.offset)};
         put(to, place.to);
     }
     return place.to != nullptr;
@@ -418,10 +409,10 @@ void TreeBuilder::member(std::size_t offset, std::string_view name)
     frame.pending = false;
     if (index > type.memberCount)
     {
-        const bool cut = name == "$notRead" || name == "$error";
-        mistakeOfFrame(offset, cut ? "the value was not read to its end: " + quoted(name)
-                                   : (type.kind == Kind::Choice ? "unknown alternative " : "unknown member ") +
-                                         quoted(name) + suggestion(name, type.names, type.memberCount));
+        const bool isRemark = name == "$error" || name == "$invalid" || name == "$notRead" || name == "$value";
+        mistakeOfFrame(offset, isRemark ? "no whole value was written: " + quoted(name)
+                                        : (type.kind == Kind::Choice ? "unknown alternative " : "unknown member ") +
+                                              quoted(name) + suggestion(name, type.names, type.memberCount));
         return;
     }
     const unsigned first = frame.member;
@@ -527,22 +518,25 @@ void TreeBuilder::requireMembers(const Frame& frame, unsigned first, unsigned co
     }
 }
 
-// An unknown alternative's number makes the tag; those of additions ascend.
+// An unknown alternative's number makes the tag. Those of additions ascend; in the tree they begin behind the known
+// ones.
 void TreeBuilder::endUnknown(const Frame& frame)
 {
-    const auto& unknown = *reinterpret_cast<const Unknown*>(frame.to);
+    auto& unknown = *reinterpret_cast<ASN1OpenType*>(frame.to);
     const Frame& owner = frames_[frames_.size() - 2];
     if (owner.type->kind == Kind::Choice)
     {
-        put(owner.to, static_cast<OSUINT32>(unknown.index + owner.type->rootCount + 1));
+        put(owner.to, unknown.index + owner.type->rootCount + 1);
         return;
     }
-    const OSRTDListNode* const before = reinterpret_cast<const OSRTDList*>(owner.to)->tail->prev;
-    const OSUINT32 last = before != nullptr ? static_cast<const Unknown*>(before->data)->index : 0;
-    if (before != nullptr && unknown.index <= last)
+    const unsigned known = frames_[frames_.size() - 3].type->additionCount;
+    const OSRTDListNode* const node = reinterpret_cast<const OSRTDList*>(owner.to)->tail->prev;
+    const auto* const before = node != nullptr ? static_cast<const ASN1OpenType*>(node->data) : nullptr;
+    unknown.index -= known;
+    if (before != nullptr && unknown.index <= before->index)
     {
-        mistakeOfFrame(frame.begin, "index " + std::to_string(unknown.index) + " behind " + std::to_string(last) +
-                                        ": they have to ascend");
+        mistakeOfFrame(frame.begin, "index " + std::to_string(unknown.index + known) + " behind " +
+                                        std::to_string(before->index + known) + ": they have to ascend");
     }
 }
 
@@ -558,35 +552,6 @@ void TreeBuilder::endList(const Frame& frame)
     {
         putInteger(frame.to, type.width, frame.count);
     }
-    else if (&type == &openListType && mistakes_.none())
-    {
-        fillGaps(*reinterpret_cast<OSRTDList*>(frame.to), frames_[frames_.size() - 2].type->additionCount);
-    }
-}
-
-// In the tree an unknown addition's place in the list is its number among them: absent ones stand between.
-void TreeBuilder::fillGaps(OSRTDList& list, std::uint32_t first)
-{
-    OSRTDListNode* node = list.head;
-    list = {};
-    while (node != nullptr)
-    {
-        OSRTDListNode* const next = node->next;
-        for (; first < static_cast<const Unknown*>(node->data)->index; ++first)
-        {
-            auto* const absent =
-                reinterpret_cast<OSRTDListNode*>(allocate(sizeof(OSRTDListNode) + sizeof(ASN1OpenType), 0));
-            if (absent == nullptr)
-            {
-                return;
-            }
-            absent->data = absent + 1;
-            rtxDListAppendNode(&list, absent);
-        }
-        rtxDListAppendNode(&list, node);
-        ++first;
-        node = next;
-    }
 }
 
 void TreeBuilder::scalar(std::size_t offset, const Scalar& scalar)
@@ -599,6 +564,11 @@ void TreeBuilder::scalar(std::size_t offset, const Scalar& scalar)
     if ((scalar.forms & takes(place.type->kind)) != 0)
     {
         store(offset, place, scalar.text);
+        return;
+    }
+    if (scalar.text.starts_with('$') && (scalar.forms & stringForm) != 0)
+    {
+        mistake(offset, "no whole value was written: " + quoted(scalar.text));
         return;
     }
     std::string words = "expected " + expected(*place.type) + ", found " + describe(scalar);
@@ -724,11 +694,13 @@ void TreeBuilder::octets(std::size_t offset, OSOCTET* to, std::string_view text)
                             std::to_string(text.size()));
         return;
     }
-    ASN1OpenType open{static_cast<OSUINT32>(text.size() / 2), allocate(text.size() / 2, offset)};
-    if (open.data != nullptr)
+    OSOCTET* const data = allocate(text.size() / 2, offset);
+    if (data != nullptr)
     {
-        putHexadecimal(open.data, text);
-        put(to, open);
+        putHexadecimal(data, text);
+        auto& open = *reinterpret_cast<ASN1OpenType*>(to);
+        open.numocts = static_cast<OSUINT32>(text.size() / 2);
+        open.data = data;
     }
 }
 

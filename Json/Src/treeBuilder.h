@@ -97,7 +97,6 @@ private:
     void requireMembers(const Frame& frame, unsigned first, unsigned count);
     void endUnknown(const Frame& frame);
     void endList(const Frame& frame);
-    void fillGaps(OSRTDList& list, std::uint32_t first);
 
     void store(std::size_t offset, const Place& place, std::string_view text);
     void integer(std::size_t offset, const Place& place, std::string_view text);

@@ -4,7 +4,7 @@
 #include <numeric>
 #include <vector>
 
-namespace tool
+namespace text
 {
 
 namespace
@@ -12,8 +12,12 @@ namespace
 
 constexpr std::size_t longest = 100; // no name is longer
 
-char lower(char c)
+char folded(char c)
 {
+    if (c == '_')
+    {
+        return '-';
+    }
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
@@ -27,7 +31,7 @@ std::size_t distance(std::string_view a, std::string_view b)
         row[0] = i + 1;
         for (std::size_t j = 0; j < b.size(); ++j)
         {
-            const std::size_t replaced = diagonal + (lower(a[i]) == lower(b[j]) ? 0 : 1);
+            const std::size_t replaced = diagonal + (folded(a[i]) == folded(b[j]) ? 0 : 1);
             diagonal = row[j + 1];
             row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
         }
@@ -57,4 +61,4 @@ std::optional<std::string_view> nearest(std::string_view word, std::span<const s
     return best;
 }
 
-} // namespace tool
+} // namespace text

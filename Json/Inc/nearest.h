@@ -5,11 +5,12 @@
 #include <span>
 #include <string_view>
 
-namespace tool
+namespace text
 {
 
 // The name with the fewest letters inserted, dropped or replaced, if these are at most a third of the word (one at
-// least); the first of several. Upper and lower case count as the same letter.
+// least); the first of several. Upper and lower case count as
+// the same letter, '-' and '_' as well.
 std::optional<std::string_view> nearest(std::string_view word, std::span<const std::string_view> names);
 
-} // namespace tool
+} // namespace text
