@@ -7,7 +7,7 @@ run_packages=(g++ cmake ninja-build)
 test_packages=(
     "${run_packages[@]}"
     binutils clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
-    libgtest-dev libgmock-dev libbenchmark-dev libpcap-dev
+    libgtest-dev libgmock-dev libbenchmark-dev libpcap-dev nlohmann-json3-dev
     tshark erlang-base erlang-asn1 python3
 )
 
