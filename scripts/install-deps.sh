@@ -7,7 +7,8 @@ run_packages=(g++ cmake ninja-build)
 test_packages=(
     "${run_packages[@]}"
     binutils clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
-    libgtest-dev libgmock-dev libbenchmark-dev libpcap-dev nlohmann-json3-dev
+    libgtest-dev libgmock-dev libbenchmark-dev
+    libcli11-dev nlohmann-json3-dev libpcap-dev scdoc
     tshark erlang-base erlang-asn1 python3
 )
 

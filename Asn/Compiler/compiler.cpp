@@ -65,24 +65,23 @@ std::vector<OutputFile> compile(const std::string& schemaName, std::string_view 
         return {};
     }
     const std::string typesHeader = "NR-RRC-Definitions.h";
-    Pdus selected{{}, options.base.empty() ? typesHeader : options.base + ".h"};
+    Pdus selected{{}, options.base.empty() ? typesHeader : options.base + ".h", {}};
+    const auto isExcepted = [&](const Type* type)
+    {
+        return std::find(options.except.begin(), options.except.end(), type->asnName) != options.except.end();
+    };
     for (const std::string& name : options.pdus)
     {
         if (name == "all")
         {
             std::copy_if(model.types.begin(), model.types.end(), std::back_inserter(selected.types),
-                         [&](const Type* type)
-                         {
-                             return type->named && type->constructed() &&
-                                    std::find(options.except.begin(), options.except.end(), type->asnName) ==
-                                        options.except.end();
-                         });
+                         [&](const Type* type) { return type->canBePdu() && !isExcepted(type); });
             continue;
         }
         const Type* type = model.find(name);
-        if (type == nullptr || !type->constructed())
+        if (type == nullptr || !type->canBePdu())
         {
-            diagnostics.error({}, "there is no constructed type '" + name + "'");
+            diagnostics.error({}, "there is no type '" + name + "' with a value");
             continue;
         }
         selected.types.push_back(type);
@@ -90,6 +89,15 @@ std::vector<OutputFile> compile(const std::string& schemaName, std::string_view 
     if (diagnostics.failed())
     {
         return {};
+    }
+    if (options.table)
+    {
+        const auto isListed = [&](const Type* type)
+        {
+            return isExcepted(type) ||
+                   std::find(selected.types.begin(), selected.types.end(), type) != selected.types.end();
+        };
+        std::copy_if(model.types.begin(), model.types.end(), std::back_inserter(selected.table), isListed);
     }
     const Origin origin{schemaName, hashOf(schema)};
     if (!options.base.empty())

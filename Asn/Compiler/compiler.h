@@ -19,9 +19,10 @@ struct OutputFile
 struct Options
 {
     std::vector<std::string> pdus;   // ASN.1 names of the types that get an encoder, a decoder and a printer; "all":
-                                     // every named constructed type
-    std::vector<std::string> except; // names that "all" leaves out
-    std::string base; // not empty: only <base>.h and <base>.cpp come out, with the functions of these types
+                                     // every named one
+    std::vector<std::string> except; // names that "all" leaves out, as their functions are elsewhere
+    std::string base;   // not empty: only <base>.h and <base>.cpp come out, with the functions of these types
+    bool table = false; // with a base: a table of these types and the ones left out comes with them
     // "Type.member" of the optional members and alternatives that usual messages carry; empty: all.
     std::vector<std::string> usual = {};
 };

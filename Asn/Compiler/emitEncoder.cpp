@@ -159,17 +159,26 @@ private:
     // Types the given one reaches, pointers included, come before it in the model's order, too.
     void need(const Type& type)
     {
-        if (!type.constructed() || !needed_.insert(&type).second)
+        if (!needed_.insert(&type).second)
         {
             return;
         }
         for (const Member& member : type.members)
         {
-            need(*member.type);
+            needBelow(*member.type);
         }
         if (type.element != nullptr)
         {
-            need(*type.element);
+            needBelow(*type.element);
+        }
+    }
+
+    // Within another type only a constructed one has a function.
+    void needBelow(const Type& type)
+    {
+        if (type.constructed())
+        {
+            need(type);
         }
     }
 
@@ -187,8 +196,11 @@ private:
         case Kind::Array:
             array(body, type);
             break;
-        default:
+        case Kind::List:
             list(body, type);
+            break;
+        default:
+            value(body, type, "(*v)", "nullptr");
             break;
         }
         return "// " + type.asnName + "\nstatic Bits pe_" + type.cName + "(Encoder& e, Bits b, const " + type.cName +
@@ -207,7 +219,7 @@ private:
         body.closePlain();
     }
 
-    // The value at `at`, called `name` in paths.
+    // The value at `at`; `name` is the expression of its name in paths, null for a whole message.
     static void value(Body& body, const Type& type, const std::string& at, const std::string& name)
     {
         switch (type.kind)
@@ -220,12 +232,12 @@ private:
         case Kind::Integer:
         case Kind::Enumerated:
             check(body, outside(type, at),
-                  "e.range(" + quoted(name) + ", " + at + ", " + text(type.lower) + ", " + text(type.upper) + ")");
+                  "e.range(" + name + ", " + at + ", " + text(type.lower) + ", " + text(type.upper) + ")");
             body.piece(offsetValue(type, at), bitsFor(type.upper - type.lower));
             break;
         case Kind::BitStr32:
             check(body, at + ".numbits != " + text(type.upper),
-                  "e.length(" + quoted(name) + ", " + at + ".numbits, " + text(type.upper) + ")");
+                  "e.length(" + name + ", " + at + ".numbits, " + text(type.upper) + ")");
             body.piece(wide("e.bits<" + text(type.upper) + ">(" + at + ")"), static_cast<unsigned>(type.upper));
             break;
         case Kind::BitOctets:
@@ -243,7 +255,7 @@ private:
     static void element(Body& body, const Type& type, const std::string& at, const std::string& name)
     {
         body.line("b = pe_" + type.cName + "(e, b, " + at + ");");
-        check(body, "!e.ok(b)", "e.in(b, " + quoted(name) + ")");
+        check(body, "!e.ok(b)", "e.in(b, " + name + ")");
     }
 
     // Keeps the code of what usual messages do not carry out of their way.
@@ -266,13 +278,13 @@ private:
             const Member& member = type.members[i];
             if (!member.optional)
             {
-                value(body, *member.type, "v->" + member.cName, member.asnName);
+                value(body, *member.type, "v->" + member.cName, quoted(member.asnName));
                 continue;
             }
             body.flush();
             body.line("if (v->m." + member.cName + "Present)" + unusual(!member.usual));
             body.open();
-            value(body, *member.type, "v->" + member.cName, member.asnName);
+            value(body, *member.type, "v->" + member.cName, quoted(member.asnName));
             body.close();
         }
     }
@@ -377,7 +389,7 @@ private:
             else
             {
                 value(body, *type.members[addition.first].type, "v->" + type.members[addition.first].cName,
-                      type.members[addition.first].asnName);
+                      quoted(type.members[addition.first].asnName));
             }
             body.flush();
             body.line("b = e.closeOpenType(b, start);");
@@ -432,7 +444,7 @@ private:
         const std::string at = "v->u." + member.cName;
         if (!member.pointer)
         {
-            value(body, *member.type, at, member.asnName);
+            value(body, *member.type, at, quoted(member.asnName));
             return;
         }
         if (member.type->mayBeEmpty())
@@ -449,11 +461,11 @@ private:
         if (member.type->constructed())
         {
             body.flush();
-            element(body, *member.type, "p", member.asnName);
+            element(body, *member.type, "p", quoted(member.asnName));
         }
         else
         {
-            value(body, *member.type, "(*p)", member.asnName);
+            value(body, *member.type, "(*p)", quoted(member.asnName));
         }
     }
 
@@ -515,6 +527,23 @@ private:
     std::set<const Type*> needed_;
 };
 
+std::string pduTable(const Pdus& pdus)
+{
+    if (pdus.table.empty())
+    {
+        return "";
+    }
+    std::string out = "\nconst RtxPdu rtxPdus[" + std::to_string(pdus.table.size()) + "] = {\n";
+    for (const Type* type : pdus.table)
+    {
+        const std::string& name = type->cName;
+        out += "    {" + quoted(type->asnName) + ", &nr_rrc::type_" + name +
+               ", [](OSCTXT* c, const void* v) { return asn1PE_" + name + "(c, static_cast<const " + name +
+               "*>(v)); }},\n";
+    }
+    return out + "};\n";
+}
+
 } // namespace
 
 std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pdus)
@@ -549,7 +578,7 @@ std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pd
                "* pb, RtxDifferenceSink sink, void* arg)\n{\n    return rtxCompare(pctxtA, pctxtB, &" + table +
                ", pa, pb, sink, arg);\n}\n";
     }
-    return out;
+    return out + pduTable(pdus);
 }
 
 } // namespace asncomp

@@ -220,6 +220,19 @@ std::string define(const Type& type)
     return "";
 }
 
+std::string tableHeader(const Pdus& pdus)
+{
+    if (pdus.table.empty())
+    {
+        return "";
+    }
+    return "\n// A type that can be a message of its own, with its encoder.\n"
+           "typedef struct RtxPdu\n{\n    const char* name; // ASN.1 name\n    const RtxType* type;\n"
+           "    int (*encode)(OSCTXT* pctxt, const void* pvalue);\n} RtxPdu;\n\n"
+           "// In the order of the schema's types.\nextern const RtxPdu rtxPdus[" +
+           std::to_string(pdus.table.size()) + "];\n";
+}
+
 // A nested integer, boolean or bit string has no type name of its own.
 bool hasName(const Type& type)
 {
@@ -272,7 +285,7 @@ std::string emitPduHeader(const Origin& origin, const Pdus& pdus, const std::str
 {
     const std::string mark = guard(pdus.header);
     return generatedMark(origin) + "#ifndef " + mark + "\n#define " + mark + "\n\n#include \"" + typesHeader +
-           "\"\n\n#ifdef __cplusplus\nextern \"C\"\n{\n#endif\n" + pduPrototypes(pdus) +
+           "\"\n\n#ifdef __cplusplus\nextern \"C\"\n{\n#endif\n" + pduPrototypes(pdus) + tableHeader(pdus) +
            "\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n";
 }
 

@@ -19,7 +19,8 @@ struct Origin
 struct Pdus
 {
     std::vector<const Type*> types;
-    std::string header; // the generated header with their functions
+    std::string header;             // the generated header with their functions
+    std::vector<const Type*> table; // in the table of messages; those without functions here have them elsewhere
 };
 
 std::string emitTypes(const Model& model, const Origin& origin, const Pdus& pdus);

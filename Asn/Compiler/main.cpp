@@ -13,7 +13,8 @@ namespace
 {
 
 constexpr const char* usage =
-    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...] [--usual FILE] [--base NAME]\n"
+    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...] [--usual FILE]\n"
+    "               [--base NAME [--table]]\n"
     "  --schema  the ASN.1 module\n"
     "  --inc     folder for the public header\n"
     "  --src     folder for the other files\n"
@@ -21,7 +22,8 @@ constexpr const char* usage =
     "  --except  a type that 'all' leaves out\n"
     "  --usual   a line TYPE.MEMBER for each optional member and alternative that usual messages carry: the encoder's\n"
     "            code of the others is kept out of their way\n"
-    "  --base    write only NAME.h and NAME.cpp with the functions of these types\n";
+    "  --base    write only NAME.h and NAME.cpp with the functions of these types\n"
+    "  --table   with a table of these types, those that 'all' leaves out included\n";
 
 int fail(const std::string& message)
 {
@@ -57,6 +59,11 @@ int main(int argc, char** argv)
         {
             std::cout << usage;
             return 0;
+        }
+        if (option == "--table")
+        {
+            options.table = true;
+            continue;
         }
         if (i + 1 == argc)
         {
@@ -98,7 +105,7 @@ int main(int argc, char** argv)
             return 2;
         }
     }
-    if (schema.empty() || inc.empty() || src.empty() || options.pdus.empty())
+    if (schema.empty() || inc.empty() || src.empty() || options.pdus.empty() || (options.table && options.base.empty()))
     {
         std::cerr << usage;
         return 2;

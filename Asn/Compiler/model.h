@@ -71,6 +71,11 @@ struct Type
     {
         return kind >= Kind::Sequence;
     }
+    // Can be a message of its own. NULL has no C type.
+    bool canBePdu() const
+    {
+        return named && kind != Kind::Null;
+    }
     // A list's count is not sent and not stored.
     bool fixedSize() const
     {

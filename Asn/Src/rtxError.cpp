@@ -121,7 +121,10 @@ int rtx::setError(OSCTXT& ctxt, RtxStatus status, int64_t value, int64_t lower, 
 
 void rtx::pushName(OSCTXT& ctxt, const char* name)
 {
-    rtx::push(ctxt.error, named(name));
+    if (name != nullptr)
+    {
+        rtx::push(ctxt.error, named(name));
+    }
 }
 
 void rtx::pushIndex(OSCTXT& ctxt, uint32_t index)

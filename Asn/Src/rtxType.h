@@ -174,7 +174,7 @@ constexpr RtxPathStep grouped(uint32_t number)
     return {nullptr, number, 1};
 }
 
-// Adds the next outer step to the error's path.
+// Adds the next outer step to the error's path. A null name, of what is no member, is no step.
 void pushName(OSCTXT& ctxt, const char* name);
 void pushIndex(OSCTXT& ctxt, uint32_t index);
 void pushGroup(OSCTXT& ctxt, uint32_t number); // of an extension group, the first is 1

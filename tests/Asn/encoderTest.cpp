@@ -1,4 +1,4 @@
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "rtxTestTypes.h"
 #include "support/ComposerTest.h"
 
@@ -374,6 +374,15 @@ TEST_F(Encoder, RefusesAnIntegerOutOfItsRange)
     EXPECT_EQ(encode(asn1PE_PhysicalCellGroupConfig, phy), "PhysicalCellGroupConfig.p-NR-FR1: -31 is not in -30..33");
     phy.p_NR_FR1 = 34;
     EXPECT_EQ(encode(asn1PE_PhysicalCellGroupConfig, phy), "PhysicalCellGroupConfig.p-NR-FR1: 34 is not in -30..33");
+}
+
+TEST_F(Encoder, ASimpleTypeIsAMessageOfItsOwn)
+{
+    const SCellIndex index = 31; // 30 of 0..30 in five bits
+    EXPECT_EQ(encode(asn1PE_SCellIndex, index), "f0");
+    EXPECT_EQ(encode(asn1PE_SCellIndex, SCellIndex{32}), "SCellIndex: 32 is not in 1..31");
+    const SubcarrierSpacing spacing = SubcarrierSpacing_kHz60; // 2 in three bits
+    EXPECT_EQ(encode(asn1PE_SubcarrierSpacing, spacing), "40");
 }
 
 TEST_F(Encoder, RefusesAnIntegerInAChoice)

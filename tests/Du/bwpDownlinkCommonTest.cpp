@@ -2,7 +2,7 @@
 #include <memory>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "gnbCommon/duCompose.h"
 #include "support/ComposerTest.h"
 

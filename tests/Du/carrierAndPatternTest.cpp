@@ -1,7 +1,7 @@
 #include <cstddef>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "gnbCommon/duCompose.h"
 #include "support/ComposerTest.h"
 #include "support/RecordOrder.h"

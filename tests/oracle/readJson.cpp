@@ -1,12 +1,13 @@
 // Reads each line "<Type> <JER>" of standard input into a tree and encodes it: "ok <hex>", or "error <mistakes>".
-#include "NR-RRC-Tables.h"
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "asn1FromText.h"
+#include "rtxType.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <iostream>
-#include <memory>
+#include <iterator>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "support/Hex.h"
@@ -20,18 +21,17 @@ void append(void* arg, const Asn1Mistake* mistake)
                                        ": " + mistake->path + ": " + mistake->words;
 }
 
-template <typename T, int (*encode)(OSCTXT*, const T*)>
-std::string read(const RtxType& type, const std::string& json)
+std::string read(const RtxPdu& pdu, const std::string& json)
 {
     OSCTXT context;
     rtxInitContext(&context);
-    const auto value = std::make_unique<T>();
+    std::vector<std::max_align_t> value(pdu.type->size / sizeof(std::max_align_t) + 1);
     std::string result = "error";
-    if (asn1FromJson(&context, &type, value.get(), json.data(), json.size(), append, &result) == 0)
+    if (asn1FromJson(&context, pdu.type, value.data(), json.data(), json.size(), append, &result) == 0)
     {
         std::vector<OSOCTET> octets(json.size() + 16); // a value takes more letters than octets
         pu_setBuffer(&context, octets.data(), octets.size(), 0);
-        if (encode(&context, value.get()) == 0)
+        if (pdu.encode(&context, value.data()) == 0)
         {
             result = "ok " + test::hexDigits(octets.data(), pu_getMsgLen(&context));
         }
@@ -46,25 +46,6 @@ std::string read(const RtxType& type, const std::string& json)
     return result;
 }
 
-struct Type
-{
-    const RtxType& descriptor;
-    std::string (*read)(const RtxType& type, const std::string& json);
-};
-
-#define TYPE(asnName, cName)                                                                                           \
-    {                                                                                                                  \
-        asnName,                                                                                                       \
-        {                                                                                                              \
-            nr_rrc::type_##cName, read<cName, asn1PE_##cName>                                                          \
-        }                                                                                                              \
-    }
-
-const std::unordered_map<std::string, Type> types = {
-    TYPE("CellGroupConfig", CellGroupConfig),
-#include "types.inc"
-};
-
 } // namespace
 
 int main()
@@ -73,9 +54,9 @@ int main()
     std::string json;
     while (std::cin >> type && std::getline(std::cin, json))
     {
-        const auto found = types.find(type);
-        std::cout << (found != types.end() ? found->second.read(found->second.descriptor, json) : "error not a type")
-                  << '\n';
+        const auto* const found =
+            std::find_if(std::begin(rtxPdus), std::end(rtxPdus), [&](const RtxPdu& pdu) { return type == pdu.name; });
+        std::cout << (found != std::end(rtxPdus) ? read(*found, json) : "error not a type") << '\n';
     }
     return 0;
 }

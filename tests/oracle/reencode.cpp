@@ -1,13 +1,15 @@
 // Decodes and encodes again each line "<Type> <hex>" of standard input with the project's own runtime: "ok <hex>", or
 // "error <line>". The counterpart of the oracle's command of the same name. With the argument "types" it prints the
 // names of the types it knows.
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
+#include "rtxType.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <iostream>
-#include <memory>
+#include <iterator>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "support/Hex.h"
@@ -37,15 +39,14 @@ std::string errorOf(const OSCTXT& context)
     return std::string("error ") + line;
 }
 
-template <typename T, int (*decode)(OSCTXT*, T*), int (*encode)(OSCTXT*, const T*)>
-std::string reencode(Octets octets)
+std::string reencode(const RtxPdu& pdu, Octets octets)
 {
     OSCTXT context;
     rtxInitContext(&context);
-    const auto value = std::make_unique<T>();
+    std::vector<std::max_align_t> value(pdu.type->size / sizeof(std::max_align_t) + 1);
     std::string result;
     pu_setBuffer(&context, octets.data(), octets.size(), 0);
-    if (decode(&context, value.get()) != 0)
+    if (rtxDecode(&context, pdu.type, value.data(), 0) != 0)
     {
         result = errorOf(context);
     }
@@ -53,22 +54,13 @@ std::string reencode(Octets octets)
     {
         Octets again(octets.size() + 16);
         pu_setBuffer(&context, again.data(), again.size(), 0);
-        result = encode(&context, value.get()) != 0 ? errorOf(context)
-                                                    : "ok " + test::hexDigits(again.data(), pu_getMsgLen(&context));
+        result = pdu.encode(&context, value.data()) != 0
+                     ? errorOf(context)
+                     : "ok " + test::hexDigits(again.data(), pu_getMsgLen(&context));
     }
     rtFreeContext(&context);
     return result;
 }
-
-#define TYPE(asnName, cName)                                                                                           \
-    {                                                                                                                  \
-        asnName, reencode<cName, asn1PD_##cName, asn1PE_##cName>                                                       \
-    }
-
-const std::unordered_map<std::string, std::string (*)(Octets)> types = {
-    TYPE("CellGroupConfig", CellGroupConfig),
-#include "types.inc"
-};
 
 } // namespace
 
@@ -76,9 +68,9 @@ int main(int argc, char** argv)
 {
     if (argc == 2 && std::strcmp(argv[1], "types") == 0)
     {
-        for (const auto& [name, function] : types)
+        for (const RtxPdu& pdu : rtxPdus)
         {
-            std::cout << name << '\n';
+            std::cout << pdu.name << '\n';
         }
         return 0;
     }
@@ -86,10 +78,11 @@ int main(int argc, char** argv)
     std::string hex;
     while (std::cin >> type >> hex)
     {
-        const auto found = types.find(type);
+        const auto* const pdu = std::find_if(std::begin(rtxPdus), std::end(rtxPdus),
+                                             [&](const RtxPdu& candidate) { return candidate.name == type; });
         Octets octets;
-        std::cout << (found != types.end() && octetsOf(hex, octets) ? found->second(std::move(octets))
-                                                                    : "error not a message")
+        std::cout << (pdu != std::end(rtxPdus) && octetsOf(hex, octets) ? reencode(*pdu, std::move(octets))
+                                                                        : "error not a message")
                   << '\n';
     }
     return 0;

@@ -44,6 +44,7 @@ expect 2 "usage: asncomp"
 expect 2 "usage: asncomp" --schema
 expect 2 "usage: asncomp" --schema "$schema" --inc "$scratch/none" --src "$scratch/none"
 expect 2 "usage: asncomp" --shcema "$schema"
+expect 2 "usage: asncomp" --schema "$schema" --inc "$scratch/none" --src "$scratch/none" --pdu all --table
 expect 1 "asncomp: cannot read $scratch/missing: No such file" \
     --schema "$scratch/missing" --inc "$scratch/none" --src "$scratch/none" --pdu all
 expect 1 "asncomp: cannot write $scratch/missing/NR-RRC-Definitions.h: No such file" \

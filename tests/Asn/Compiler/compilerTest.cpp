@@ -339,11 +339,12 @@ TEST(Options, NoPduMeansNoFunctions)
 
 TEST(Options, APduHasAnEncoderADecoderAndAPrinter)
 {
-    const std::string header = headerOf("A-b ::= SEQUENCE { x BOOLEAN }\nB ::= BOOLEAN\n");
+    const std::string header = headerOf("A-b ::= SEQUENCE { x BOOLEAN }\nB ::= BOOLEAN\nC ::= NULL\n");
     EXPECT_THAT(header, HasSubstr("int asn1PE_A_b(OSCTXT* pctxt, const A_b* pvalue);\n"));
     EXPECT_THAT(header, HasSubstr("int asn1PD_A_b(OSCTXT* pctxt, A_b* pvalue);\n"));
     EXPECT_THAT(header, HasSubstr("void asn1Print_A_b(const char* name, const A_b* pvalue);\n"));
-    EXPECT_THAT(header, Not(HasSubstr("asn1PE_B"))) << "not constructed";
+    EXPECT_THAT(header, HasSubstr("int asn1PE_B(OSCTXT* pctxt, const B* pvalue);\n"));
+    EXPECT_THAT(header, Not(HasSubstr("asn1PE_C"))) << "has no value";
 }
 
 TEST(Options, WhatIsNotUsualIsUnlikely)
@@ -400,17 +401,34 @@ TEST(Options, ABaseGivesTheFunctionsAlone)
     EXPECT_THAT(files[0].text, Not(HasSubstr("struct")));
 }
 
-TEST(Options, RefusesAPduThatIsNoConstructedType)
+TEST(Options, TheTableHasTheTypesLeftOutToo)
+{
+    Diagnostics diagnostics("t");
+    const auto files =
+        asncomp::compile("t",
+                         "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN A ::= SEQUENCE { x BOOLEAN } B ::= BOOLEAN "
+                         "C ::= NULL D-e ::= SEQUENCE { a A } END",
+                         {{"all"}, {"A"}, "More", true}, diagnostics);
+    ASSERT_EQ(files.size(), 2U);
+    EXPECT_THAT(files[0].text, HasSubstr("extern const RtxPdu rtxPdus[3];\n"));
+    EXPECT_THAT(files[0].text, Not(HasSubstr("asn1PE_A(")));
+    for (const char* row : {"{\"A\", &nr_rrc::type_A, ", "{\"B\", &nr_rrc::type_B, ", "{\"D-e\", &nr_rrc::type_D_e, "})
+    {
+        EXPECT_THAT(files[1].text, HasSubstr(row));
+    }
+}
+
+TEST(Options, RefusesAPduThatIsNoTypeWithAValue)
 {
     for (const char* name : {"C", "B"})
     {
         Diagnostics diagnostics("t");
-        const auto files =
-            asncomp::compile("t", "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN A ::= SEQUENCE { x B } B ::= BOOLEAN END",
-                             {{"A", name}, {}, {}}, diagnostics);
+        const auto files = asncomp::compile(
+            "t", "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN A ::= SEQUENCE { x B OPTIONAL } B ::= NULL END",
+            {{"A", name}, {}, {}, false}, diagnostics);
         EXPECT_THAT(files, IsEmpty());
         EXPECT_THAT(diagnostics.messages(),
-                    ElementsAre("t:1:1: there is no constructed type '" + std::string(name) + "'"));
+                    ElementsAre("t:1:1: there is no type '" + std::string(name) + "' with a value"));
     }
 }
 

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "support/ComposerTest.h"
 
 using test::HeapFault;

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "csiRecords.h"
 #include "support/ComposerTest.h"
 

@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "csiRecords.h"
 #include "support/ComposerTest.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "support/ComposerTest.h"
 #include "support/Json.h"
 #include "support/RecordOrder.h"

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "support/ComposerTest.h"
 #include "support/Json.h"
 #include "support/RecordOrder.h"

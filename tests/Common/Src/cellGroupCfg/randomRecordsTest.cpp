@@ -4,7 +4,7 @@
 #include <cstring>
 #include <random>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "cellGroupCfg/csiMeas.h"
 #include "cellGroupCfg/downlinkBwp.h"
 #include "cellGroupCfg/sCell.h"

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "servingCellRecords.h"
 #include "support/ComposerTest.h"
 #include "support/Json.h"

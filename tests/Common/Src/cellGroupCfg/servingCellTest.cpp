@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "servingCellRecords.h"
 #include "support/ComposerTest.h"
 #include "support/Json.h"

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "reconfigurationWithSync.h"
 #include "servingCellRecords.h"
 #include "support/ComposerTest.h"

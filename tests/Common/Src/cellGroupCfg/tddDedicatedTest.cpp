@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "support/ComposerTest.h"
 #include "support/Json.h"
 #include "support/RecordOrder.h"

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "TestPdus.h"
+#include "NR-RRC-Pdus.h"
 #include "cellGroupCfg/compose.h"
 #include "cellGroupCfg/csiMeas.h"
 #include "cellGroupCfg/csiReport.h"

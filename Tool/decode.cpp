@@ -1,0 +1,92 @@
+// decode: what a message says.
+#include "commands.h"
+#include "message.h"
+#include "text.h"
+#include "trace.h"
+
+namespace tool
+{
+namespace
+{
+
+std::string textIn(DecodeForm form, const Message& message, const Given& given)
+{
+    const OSCTXT* const context = &message.context();
+    const RtxType* const type = message.pdu().type;
+    const auto write = [&](RtxPrintSink sink, void* arg)
+    {
+        // The writers' status is about trees that no message gives: the decoder's error says all.
+        switch (form)
+        {
+        case DecodeForm::Json:
+            (void)rtxToJson(context, type, message.value(), RTX_INDENTED, sink, arg);
+            break;
+        case DecodeForm::CompactJson:
+            (void)rtxToJson(context, type, message.value(), RTX_COMPACT, sink, arg);
+            break;
+        case DecodeForm::ValueNotation:
+            (void)rtxToValueNotation(context, type, message.value(), RTX_INDENTED, sink, arg);
+            break;
+        case DecodeForm::Flat:
+            (void)rtxToFlat(context, type, message.value(), sink, arg);
+            break;
+        default:
+            break;
+        }
+    };
+    return form == DecodeForm::Tree    ? treeText(message)
+           : form == DecodeForm::Trace ? traceText(message.pdu(), octetsOf(message.pdu(), given))
+                                       : written(write);
+}
+
+std::string canonicity(const Message& message)
+{
+    const RtxDecoded& decoded = message.context().decoded;
+    return decoded.note == RTX_NOTE_NONE
+               ? "encoding it again gives the same octets"
+               : "not canonical at " + bitPlace(decoded.noteOffset) + ": " + noteText(decoded.note);
+}
+
+std::string verdict(const Message& message)
+{
+    const RtxDecoded& decoded = message.context().decoded;
+    std::string text = std::string(message.pdu().name) + ", " + counted(decoded.octets, "octet");
+    if (decoded.unknown != 0)
+    {
+        text += ", " + counted(decoded.unknown, "unknown addition");
+    }
+    return text;
+}
+
+} // namespace
+
+void decode(Session& session, const Operands& operands, DecodeForm form)
+{
+    const bool isVerdict = form == DecodeForm::Verdict;
+    if (isVerdict)
+    {
+        session.verdicts();
+    }
+    const bool isHeaded = session.isSeveral(operands) && form != DecodeForm::CompactJson && !isVerdict;
+    const auto show = [&](const Given& given)
+    {
+        const Message message(*session.common().type, given);
+        if (isHeaded)
+        {
+            session.put("# " + given.place() + "\n");
+        }
+        session.put(textIn(form, message, given));
+        if (message.error())
+        {
+            throw Failure(Exit::Malformed, given.place() + ": " + *message.error());
+        }
+        session.note(given.place() + ": " + canonicity(message));
+        if (isVerdict)
+        {
+            session.put(given.place() + ": " + verdict(message) + "\n");
+        }
+    };
+    session.forEach(operands, show);
+}
+
+} // namespace tool

@@ -1,0 +1,437 @@
+// cellgroupcfg: the command line.
+#include "commands.h"
+#include "messageTypes.h"
+#include "nearest.h"
+#include "version.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <csignal>
+#include <cstdio>
+#include <functional>
+#include <new>
+
+namespace
+{
+
+using tool::Common;
+using tool::Exit;
+using tool::Failure;
+using tool::Operands;
+using tool::Session;
+
+// Examples first, which are the footer of each command's help.
+class Help : public CLI::Formatter
+{
+public:
+    std::string make_help(const CLI::App* app, std::string name, CLI::AppFormatMode) const override
+    {
+        return "Examples:\n" + app->get_footer() + "\n" + make_description(app) + "\n" + make_usage(app, name) +
+               make_positionals(app) + make_groups(app, CLI::AppFormatMode::Normal) +
+               make_subcommands(app, CLI::AppFormatMode::Normal) + after(app);
+    }
+
+private:
+    static std::string after(const CLI::App* app)
+    {
+        if (app->get_parent() != nullptr)
+        {
+            return "";
+        }
+        return "\nA message is a file, '-' or nothing for standard input, or the octets themselves. What it looks "
+               "like\n"
+               "is found out: hex, dumps, C arrays, base64, binary, JER, flat lines, log lines.\n"
+               "Exit status: 0 done, 1 findings or differences, 2 usage or a file, 3 malformed input.\n"
+               "'cellgroupcfg COMMAND --help' tells more; so does the manual, cellgroupcfg(1).\n";
+    }
+};
+
+class CommandLine
+{
+public:
+    CommandLine()
+    {
+        app_.formatter(std::make_shared<Help>());
+        app_.name("cellgroupcfg");
+        app_.get_formatter()->column_width(28);
+        app_.get_formatter()->label("SUBCOMMAND", "COMMAND");
+        app_.description("Shows, makes, compares and finds cell groups: the CellGroupConfig of " +
+                         std::string(tool::standard) + " in unaligned PER.");
+        app_.footer("  cellgroupcfg decode 5c00b1                  what these octets say\n"
+                    "  cellgroupcfg decode --flat trace.log | grep drx\n"
+                    "  cellgroupcfg diff before.hex after.hex      what has changed\n"
+                    "  cellgroupcfg find capture.pcap --decode     the cell groups in anything\n"
+                    "  cellgroupcfg explain t304                   what may stand there\n");
+        app_.set_help_flag("-h,--help", "This help, for a command its own");
+        app_.set_version_flag("--version", versionText, "Version, the standard's release and the commit");
+        app_.require_subcommand(1);
+        app_.get_option("--help")->group("Options");
+        decode();
+        encode();
+        find();
+        pcap();
+        explain();
+    }
+
+    int run(int argc, char** argv)
+    {
+        try
+        {
+            app_.parse(argc, argv);
+            Session session(common());
+            try
+            {
+                command_(session);
+            }
+            catch (const Failure& failure)
+            {
+                // What was written before it stands.
+                session.finish();
+                session.say(failure.what());
+                session.raise(failure.status());
+            }
+            session.finish();
+            return static_cast<int>(session.status());
+        }
+        catch (const CLI::Success& success)
+        {
+            return app_.exit(success);
+        }
+        catch (const CLI::ParseError& error)
+        {
+            return usage(error);
+        }
+        catch (const tool::Closed&)
+        {
+            return static_cast<int>(Exit::Done);
+        }
+        catch (const Failure& failure)
+        {
+            return fail(failure.what(), failure.status());
+        }
+        catch (const std::bad_alloc&)
+        {
+            return fail("out of memory", Exit::Usage);
+        }
+    }
+
+private:
+    static std::string versionText()
+    {
+        const std::string commit = *tool::commit == '\0' ? "" : std::string(", commit ") + tool::commit;
+        return std::string("cellgroupcfg ") + tool::version + ", " + tool::standard + " (" + tool::release + ")" +
+               commit;
+    }
+
+    static int fail(const std::string& message, Exit status)
+    {
+        (void)std::fprintf(stderr, "cellgroupcfg: %s\n", message.c_str());
+        return static_cast<int>(status);
+    }
+
+    // The nearest command or option to what is not known.
+    int usage(const CLI::ParseError& error)
+    {
+        std::string message = error.what();
+        const CLI::App* const used =
+            app_.get_subcommands().empty() ? static_cast<const CLI::App*>(&app_) : app_.get_subcommands().front();
+        const std::vector<std::string> left = used->remaining();
+        if (!left.empty())
+        {
+            message = "there is no " + kindOf(left.front(), used) + " '" + left.front() + "'";
+            const std::vector<std::string> names = namesOf(left.front(), *used);
+            const std::vector<std::string_view> views(names.begin(), names.end());
+            if (const auto close = tool::nearest(left.front(), views))
+            {
+                message += "; did you mean " + std::string(*close) + "?";
+            }
+        }
+        return fail(message + "\ncellgroupcfg: 'cellgroupcfg " +
+                        (used == &app_ ? std::string() : used->get_name() + " ") + "--help' shows how it is used",
+                    Exit::Usage);
+    }
+
+    std::string kindOf(const std::string& word, const CLI::App* used) const
+    {
+        return word.starts_with('-') ? "option" : used == &app_ ? "command" : "place for the operand";
+    }
+
+    static std::vector<std::string> namesOf(const std::string& word, const CLI::App& used)
+    {
+        std::vector<std::string> names;
+        if (word.starts_with('-'))
+        {
+            for (const CLI::Option* option : used.get_options())
+            {
+                for (const std::string& name : option->get_lnames())
+                {
+                    names.push_back("--" + name);
+                }
+            }
+        }
+        else
+        {
+            for (const CLI::App* command : used.get_subcommands(std::function<bool(const CLI::App*)>()))
+            {
+                names.push_back(command->get_name());
+            }
+        }
+        return names;
+    }
+
+    // Options that several commands have.
+
+    CLI::App& command(const std::string& name, const std::string& description, const std::string& examples,
+                      const std::function<void(Session&)>& action)
+    {
+        CLI::App& app = *app_.add_subcommand(name, description);
+        app.group("Commands");
+        app.footer(examples);
+        app.add_option("--color", color_, "auto, always or never; auto heeds NO_COLOR")
+            ->option_text("WHEN")
+            ->check(CLI::IsMember({"auto", "always", "never"}));
+        app.parse_complete_callback([this, action] { command_ = action; });
+        return app;
+    }
+
+    void input(CLI::App& app)
+    {
+        app.add_option("--as", as_, "Take the input for this form, whatever it looks like")->option_text("FORM");
+        app.add_flag("-v,--verbose", common_.verbose, "Say on standard error what was recognised");
+    }
+
+    void messages(CLI::App& app)
+    {
+        app.add_option("FILE", operands_, "Messages: files, '-' for standard input, or octets")->option_text("...");
+        input(app);
+        app.add_flag("--lines", common_.lines, "One message a line");
+    }
+
+    void type(CLI::App& app)
+    {
+        app.add_option("--type", type_, "The message's type, CellGroupConfig if none is named")->option_text("TYPE");
+    }
+
+    // One of the forms of output; of several the command is refused.
+    void form(CLI::App& app, const std::string& name, bool& flag, const std::string& description)
+    {
+        app.add_flag(name, flag, description)
+            ->group("Form of the output")
+            ->each(
+                [this, name](const std::string&)
+                {
+                    if (!form_.empty())
+                    {
+                        throw Failure(Exit::Usage, form_ + " and " + name + " exclude each other");
+                    }
+                    form_ = name;
+                });
+    }
+
+    void output(CLI::App& app)
+    {
+        app.add_option("-o,--output", output_, "Write to this file")->option_text("FILE");
+    }
+
+    void decode()
+    {
+        CLI::App& app = command("decode", "Show what messages say.",
+                                "  cellgroupcfg decode message.hex\n"
+                                "  cellgroupcfg decode --json - < message.bin\n"
+                                "  cellgroupcfg decode --flat trace.log | grep t-PollRetransmit\n"
+                                "  cellgroupcfg decode --trace 5c00b1\n"
+                                "  cellgroupcfg decode --lines log.txt\n"
+                                "  cellgroupcfg decode --type RLC-Config 0a\n",
+                                [this](Session& session) { tool::decode(session, operands_, decodeForm()); });
+        messages(app);
+        type(app);
+        form(app, "--tree", tree_, "Indented elements; the form if none is named");
+        form(app, "--json", json_, "JER (X.697), indented");
+        form(app, "--compact", compact_, "JER on one line");
+        form(app, "--value-notation", valueNotation_, "ASN.1 value notation (X.680)");
+        form(app, "--flat", flat_, "A line a leaf: path = value; encode reads it back");
+        form(app, "--trace", trace_, "A line a field on the wire: bits, path, value");
+    }
+
+    tool::DecodeForm decodeForm() const
+    {
+        using tool::DecodeForm;
+        return json_                     ? DecodeForm::Json
+               : compact_                ? DecodeForm::CompactJson
+               : valueNotation_          ? DecodeForm::ValueNotation
+               : flat_                   ? DecodeForm::Flat
+               : trace_                  ? DecodeForm::Trace
+               : tree_ || !common_.lines ? DecodeForm::Tree
+                                         : DecodeForm::Verdict;
+    }
+
+    void encode()
+    {
+        CLI::App& app = command("encode", "Make octets of JER or flat lines.",
+                                "  cellgroupcfg encode message.json\n"
+                                "  cellgroupcfg decode --flat a.hex | sed 's/= ms50$/= ms100/' | cellgroupcfg encode\n"
+                                "  cellgroupcfg encode --binary -o message.bin message.json\n",
+                                [this](Session& session)
+                                {
+                                    session.outputTo(output_);
+                                    tool::encode(session, operands_, octetsForm());
+                                });
+        messages(app);
+        type(app);
+        output(app);
+        form(app, "--hex", hex_, "Hex; the form if none is named");
+        form(app, "--binary", binary_, "The octets themselves");
+        form(app, "--c-array", cArray_, "A C array");
+        form(app, "--base64", base64_, "Base64");
+    }
+
+    tool::OctetsForm octetsForm() const
+    {
+        using tool::OctetsForm;
+        return binary_   ? OctetsForm::Binary
+               : cArray_ ? OctetsForm::CArray
+               : base64_ ? OctetsForm::Base64
+                         : OctetsForm::Hex;
+    }
+
+    void diff()
+    {
+        CLI::App& app = command("diff", "Show in what two messages differ.",
+                                "  cellgroupcfg diff before.hex after.hex\n"
+                                "  cellgroupcfg diff expected.json 5c00b1\n"
+                                "  cellgroupcfg diff --json a.bin b.bin\n",
+                                [this](Session& session) { tool::diff(session, operands_[0], operands_[1], json_); });
+        app.add_option("A B", operands_, "The messages: files, '-' for standard input, or octets")
+            ->option_text(" ")
+            ->expected(2)
+            ->required();
+        input(app);
+        type(app);
+        app.add_flag("--json", json_, "The differences as JSON");
+    }
+
+    void check()
+    {
+        CLI::App& app =
+            command("check", "Tell all that breaks a constraint of the ASN.1.",
+                    "  cellgroupcfg check message.json\n"
+                    "  cellgroupcfg check --format gcc *.hex\n"
+                    "  cellgroupcfg check --format sarif message.json > findings.sarif\n"
+                    "  cellgroupcfg check --lines log.txt\n",
+                    [this](Session& session) { tool::check(session, operands_, *tool::findingsFormNamed(format_)); });
+        messages(app);
+        type(app);
+        app.add_option("--format", format_, "text, gcc, json or sarif")
+            ->option_text("FORMAT")
+            ->check(CLI::IsMember({"text", "gcc", "json", "sarif"}));
+    }
+
+    void find()
+    {
+        CLI::App& app = command("find", "Find cell groups in messages, logs and captures, at any bit.",
+                                "  cellgroupcfg find capture.pcap\n"
+                                "  cellgroupcfg find --decode f1ap.bin\n"
+                                "  cellgroupcfg find --min-octets 40 dump.hex\n",
+                                [this](Session& session) {
+                                    tool::find(session, operands_, {minOctets_, decode_, json_});
+                                });
+        messages(app);
+        type(app);
+        app.add_option("--min-octets", minOctets_, "The least octets of a cell group, 1 to 16383; 16 if not said")
+            ->option_text("N")
+            ->check(CLI::Range(1, 16383));
+        app.add_flag("--decode", decode_, "Show each of them");
+        app.add_flag("--json", json_, "As JSON");
+    }
+
+    void pcap()
+    {
+        CLI::App& app = command("pcap", "Make a capture that Wireshark opens.",
+                                "  cellgroupcfg pcap -o message.pcapng message.hex\n"
+                                "  cellgroupcfg pcap --in rrc-reconfiguration -o message.pcapng message.json\n"
+                                "  cellgroupcfg pcap --lines -o log.pcapng log.txt\n",
+                                [this](Session& session)
+                                {
+                                    session.outputTo(output_);
+                                    tool::pcap(session, operands_, nesting());
+                                });
+        messages(app);
+        output(app);
+        app.add_option("--in", nesting_, "The RRC message around it: rrc-reconfiguration, rrc-setup, or bare")
+            ->option_text("MESSAGE")
+            ->check(CLI::IsMember({"bare", "rrc-reconfiguration", "rrc-setup"}));
+    }
+
+    tool::Nesting nesting() const
+    {
+        return nesting_ == "rrc-setup"             ? tool::Nesting::RrcSetup
+               : nesting_ == "rrc-reconfiguration" ? tool::Nesting::RrcReconfiguration
+                                                   : tool::Nesting::Bare;
+    }
+
+    void explain()
+    {
+        CLI::App& app = command("explain", "Tell what the schema says of a type, a path or a member.",
+                                "  cellgroupcfg explain RLC-Config\n"
+                                "  cellgroupcfg explain CellGroupConfig.spCellConfig.reconfigurationWithSync.t304\n"
+                                "  cellgroupcfg explain t304\n"
+                                "  cellgroupcfg explain --tree MAC-CellGroupConfig\n"
+                                "  cellgroupcfg explain                        all named types\n",
+                                [this](Session& session) { tool::explain(session, path_, tree_); });
+        app.add_option("PATH", path_, "A type, a path from a type on, or a member's name")->option_text(" ");
+        app.add_flag("--tree", tree_, "With all that is below it");
+    }
+
+    Common common()
+    {
+        if (!as_.empty())
+        {
+            common_.as = tool::formNamed(as_);
+            if (!common_.as)
+            {
+                throw Failure(Exit::Usage, tool::unknownForm(as_));
+            }
+        }
+        common_.type = &tool::typeNamed(type_);
+        common_.color = color_ == "always"  ? tool::When::Always
+                        : color_ == "never" ? tool::When::Never
+                                            : tool::When::Auto;
+        return common_;
+    }
+
+    CLI::App app_;
+    std::function<void(Session&)> command_;
+    Common common_;
+    Operands operands_;
+    std::string as_;
+    std::string type_ = "CellGroupConfig";
+    std::string color_ = "auto";
+    std::string output_;
+    std::string format_ = "text";
+    std::string nesting_ = "bare";
+    std::string path_;
+    std::uint32_t minOctets_ = 16;
+    std::string form_;
+    bool tree_ = false;
+    bool json_ = false;
+    bool compact_ = false;
+    bool valueNotation_ = false;
+    bool flat_ = false;
+    bool trace_ = false;
+    bool hex_ = false;
+    bool binary_ = false;
+    bool cArray_ = false;
+    bool base64_ = false;
+    bool decode_ = false;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // The reader of a pipe has gone: so does this.
+    (void)std::signal(SIGPIPE, SIG_DFL);
+    return CommandLine().run(argc, argv);
+}
