@@ -35,7 +35,7 @@ std::optional<Form> formNamed(std::string_view name)
 std::string unknownForm(std::string_view name)
 {
     const std::string text = "unknown form '" + std::string(name.substr(0, 40)) + "': ";
-    if (const auto near = nearest(name, names))
+    if (const auto near = text::nearest(name, names))
     {
         return text + "did you mean '" + std::string(*near) + "'?";
     }

@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 cmake --preset clang --log-level=NOTICE
 
 folders=()
-for folder in Platform Asn Common Du Tool; do
+for folder in Platform Asn Common Du Json Tool; do
     [ -d "$folder" ] && folders+=("$folder")
 done
 stamps=build/lint

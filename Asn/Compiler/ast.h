@@ -34,12 +34,26 @@ enum class Kind
 
 struct Type;
 
+struct Name
+{
+    std::string name; // empty for none
+    Location at;
+};
+
+// -- Identity <member>, released by <list>
+struct Identity
+{
+    Name member;  // of the list's elements, or the type of the elements where each is its own identity
+    Name release; // the list beside it that releases elements by their identity
+};
+
 struct Member
 {
     std::string name;
     Location at;
     std::unique_ptr<Type> type;
     bool optional = false;
+    Identity identity;
 };
 
 // One extension addition: a group in double brackets, or a lone member.
@@ -50,19 +64,13 @@ struct Addition
     std::vector<Member> members;
 };
 
-struct Value
-{
-    std::string name;
-    Location at;
-};
-
 struct Type
 {
     Kind kind = Kind::Null;
     Location at;
     Bound lower; // Integer: range; SequenceOf, BitString: size
     Bound upper;
-    std::vector<Value> values;       // Enumerated
+    std::vector<Name> values;        // Enumerated
     std::vector<Member> members;     // Sequence, Choice
     std::vector<Addition> additions; // Sequence, Choice
     bool extensible = false;         // Sequence, Choice

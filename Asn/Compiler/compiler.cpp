@@ -7,6 +7,7 @@
 #include <cinttypes>
 #include <cstdio>
 #include <iterator>
+#include <set>
 
 namespace asncomp
 {
@@ -26,6 +27,23 @@ std::string hashOf(std::string_view text)
     return digits;
 }
 
+void markUsual(Model& model, const std::vector<std::string>& names, Diagnostics& diagnostics)
+{
+    std::set<std::string> left(names.begin(), names.end());
+    for (Type* const type : model.types)
+    {
+        for (Member& member : type->members)
+        {
+            const bool listed = left.erase(type->asnName + "." + member.asnName) != 0;
+            member.usual = listed || (type->kind == Kind::Sequence && !member.optional);
+        }
+    }
+    for (const std::string& name : left)
+    {
+        diagnostics.error({}, "there is no member '" + name + "'");
+    }
+}
+
 } // namespace
 
 std::vector<OutputFile> compile(const std::string& schemaName, std::string_view schema, const Options& options,
@@ -37,7 +55,11 @@ std::vector<OutputFile> compile(const std::string& schemaName, std::string_view 
     {
         return {};
     }
-    const Model model = resolve(module, diagnostics);
+    Model model = resolve(module, diagnostics);
+    if (!options.usual.empty())
+    {
+        markUsual(model, options.usual, diagnostics);
+    }
     if (diagnostics.failed())
     {
         return {};

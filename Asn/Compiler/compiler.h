@@ -23,6 +23,8 @@ struct Options
     std::vector<std::string> except; // names that "all" leaves out, as their functions are elsewhere
     std::string base;   // not empty: only <base>.h and <base>.cpp come out, with the functions of these types
     bool table = false; // with a base: a table of these types and the ones left out comes with them
+    // "Type.member" of the optional members and alternatives that usual messages carry; empty: all.
+    std::vector<std::string> usual = {};
 };
 
 // Compiles the schema. On failure the diagnostics say why and nothing comes out.

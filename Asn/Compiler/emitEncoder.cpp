@@ -258,6 +258,19 @@ private:
         check(body, "!e.ok(b)", "e.in(b, " + name + ")");
     }
 
+    // Keeps the code of what usual messages do not carry out of their way.
+    static std::string unusual(bool yes)
+    {
+        return yes ? " [[unlikely]]" : "";
+    }
+
+    static bool usual(const Type& type, const Addition& addition)
+    {
+        const auto first = type.members.begin() + static_cast<std::ptrdiff_t>(addition.first);
+        return std::any_of(first, first + static_cast<std::ptrdiff_t>(addition.count),
+                           [](const Member& member) { return member.usual; });
+    }
+
     static void members(Body& body, const Type& type, std::size_t first, std::size_t count)
     {
         for (std::size_t i = first; i < first + count; ++i)
@@ -269,7 +282,7 @@ private:
                 continue;
             }
             body.flush();
-            body.line("if (v->m." + member.cName + "Present)");
+            body.line("if (v->m." + member.cName + "Present)" + unusual(!member.usual));
             body.open();
             value(body, *member.type, "v->" + member.cName, quoted(member.asnName));
             body.close();
@@ -354,7 +367,9 @@ private:
         {
             known = i == 0 ? "addition0" : "(" + known + ") << 1 | addition" + std::to_string(i);
         }
-        body.line("if (extended)");
+        const bool anyUsual = std::any_of(type.additions.begin(), type.additions.end(),
+                                          [&](const Addition& addition) { return usual(type, addition); });
+        body.line("if (extended)" + unusual(!anyUsual));
         body.open();
         body.line("b = e.extensionBitmap(b, " + known + ", " + std::to_string(type.additions.size()) +
                   ", v->extElem1);");
@@ -362,7 +377,7 @@ private:
         for (std::size_t i = 0; i < type.additions.size(); ++i)
         {
             const Addition& addition = type.additions[i];
-            body.line("if (addition" + std::to_string(i) + " != 0)");
+            body.line("if (addition" + std::to_string(i) + " != 0)" + unusual(!usual(type, addition)));
             body.open();
             body.line("const uint64_t start = b.pos;");
             body.line("b = e.openType(b);");
@@ -391,7 +406,8 @@ private:
         body.openPlain();
         for (std::size_t i = 0; i < type.members.size(); ++i)
         {
-            body.line("case T_" + type.cName + "_" + type.members[i].cName + ":");
+            body.line((type.members[i].usual ? "case T_" : "[[unlikely]] case T_") + type.cName + "_" +
+                      type.members[i].cName + ":");
             body.open();
             if (i < type.rootCount)
             {
@@ -554,6 +570,13 @@ std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pd
                "* pvalue, RtxPrintSink sink, void* arg)\n{\n    rtx::print(pctxt, " + table +
                ", name, pvalue, sink, arg);\n}\n";
         out += "\nconst RtxType* asn1Type_" + name + "(void)\n{\n    return &" + table + ";\n}\n";
+        out += "\nint64_t asn1Check_" + name + "(const OSCTXT* pctxt, const " + name +
+               "* pvalue, RtxFindingSink sink, void* arg)\n{\n    return rtxCheck(pctxt, &" + table +
+               ", pvalue, sink, arg);\n}\n";
+        out += "\nint64_t asn1Compare_" + name + "(OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name +
+               "* pa, const " + name +
+               "* pb, RtxDifferenceSink sink, void* arg)\n{\n    return rtxCompare(pctxtA, pctxtB, &" + table +
+               ", pa, pb, sink, arg);\n}\n";
     }
     return out + pduTable(pdus);
 }

@@ -57,6 +57,24 @@ std::string size(const Type& type)
     }
 }
 
+std::string align(const Type& type)
+{
+    switch (type.kind)
+    {
+    case Kind::Boolean:
+    case Kind::Null:
+    case Kind::BitOctets:
+        return "1";
+    case Kind::Integer:
+    case Kind::Enumerated:
+        return size(type);
+    case Kind::BitStr32:
+        return "alignof(ASN1BitStr32)";
+    default:
+        return "alignof(" + type.cName + ")";
+    }
+}
+
 // The union of a choice has no storage where every alternative is NULL.
 std::string unionOffset(const Type& choice)
 {
@@ -160,6 +178,10 @@ std::string table(const Type& type)
     {
         field("extensible", "true");
     }
+    if (const std::string alignment = align(type); alignment != "1")
+    {
+        field("align", alignment);
+    }
     field("size", size(type));
     field("lower", std::to_string(type.lower));
     field("upper", std::to_string(type.upper));
@@ -184,6 +206,10 @@ std::string table(const Type& type)
     if (const std::size_t count = bits(type); count != 0)
     {
         field("bits", std::to_string(count));
+    }
+    if (type.identity != noIdentity)
+    {
+        field("identity", type.identity == ownIdentity ? "rtx::ownIdentity" : std::to_string(type.identity));
     }
     if (type.extensible)
     {

@@ -47,6 +47,11 @@ std::string pduPrototypes(const Pdus& pdus)
         out += "// The type for the calls that take any, and the writers of trees with this one.\n";
         out += "const RtxType* asn1Type_" + name + "(void);\n";
         out += writer("Json", name, true) + writer("ValueNotation", name, true) + writer("Flat", name, false);
+        out += "// rtxCheck, rtxCompare.\n";
+        out += "int64_t asn1Check_" + name + "(const OSCTXT* pctxt, const " + name +
+               "* pvalue, RtxFindingSink sink, void* arg);\n";
+        out += "int64_t asn1Compare_" + name + "(OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name + "* pa, const " +
+               name + "* pb, RtxDifferenceSink sink, void* arg);\n";
     }
     return out;
 }

@@ -20,6 +20,9 @@ bool isDigit(char c)
 // Keeps the names that nested types get from their owners within reason.
 constexpr std::size_t longestName = 255;
 
+constexpr std::string_view hyphens = "--";
+constexpr std::string_view annotation = "Identity";
+
 class Lexer
 {
 public:
@@ -30,6 +33,10 @@ public:
         for (skipBlank(); position_ < source_.size(); skipBlank())
         {
             next();
+        }
+        if (inAnnotation_)
+        {
+            annotationMark();
         }
         tokens_.push_back({TokenKind::End, "end of file", 0, at_});
         return std::move(tokens_);
@@ -59,20 +66,48 @@ private:
         return source_.substr(position_, text.size()) == text;
     }
 
+    void skip(std::size_t count)
+    {
+        while (count-- != 0)
+        {
+            advance();
+        }
+    }
+
     // A comment ends at the line's end or at the next pair of hyphens.
+    bool atCommentEnd() const
+    {
+        return position_ == source_.size() || peek() == '\n' || startsWith(hyphens);
+    }
+
     void skipComment()
     {
-        advance();
-        advance();
-        while (position_ < source_.size() && peek() != '\n')
+        skip(hyphens.size());
+        while (!atCommentEnd())
         {
-            if (startsWith("--"))
-            {
-                advance();
-                advance();
-                return;
-            }
             advance();
+        }
+        if (startsWith(hyphens))
+        {
+            skip(hyphens.size());
+        }
+    }
+
+    // A comment that begins with the word of an annotation is read, between two tokens of hyphens.
+    bool startsAnnotation() const
+    {
+        const std::size_t word = source_.find_first_not_of(' ', position_ + hyphens.size());
+        return word != std::string_view::npos && source_.substr(word, annotation.size()) == annotation &&
+               (word + annotation.size() == source_.size() || source_[word + annotation.size()] == ' ');
+    }
+
+    void annotationMark()
+    {
+        tokens_.push_back({TokenKind::Punctuation, std::string(hyphens), 0, at_});
+        inAnnotation_ = !inAnnotation_;
+        if (startsWith(hyphens))
+        {
+            skip(hyphens.size());
         }
     }
 
@@ -81,11 +116,15 @@ private:
         while (position_ < source_.size())
         {
             const char c = peek();
-            if (c == ' ' || c == '\t' || c == '\r' || c == '\n')
+            if (inAnnotation_ ? atCommentEnd() : startsWith(hyphens) && startsAnnotation())
+            {
+                annotationMark();
+            }
+            else if (c == ' ' || c == '\t' || c == '\r' || c == '\n')
             {
                 advance();
             }
-            else if (startsWith("--"))
+            else if (startsWith(hyphens))
             {
                 skipComment();
             }
@@ -165,10 +204,7 @@ private:
             if (startsWith(text))
             {
                 tokens_.push_back({TokenKind::Punctuation, std::string(text), 0, at_});
-                for (std::size_t i = 0; i < text.size(); ++i)
-                {
-                    advance();
-                }
+                skip(text.size());
                 return;
             }
         }
@@ -183,6 +219,7 @@ private:
     Diagnostics& diagnostics_;
     std::size_t position_ = 0;
     Location at_;
+    bool inAnnotation_ = false;
     std::vector<Token> tokens_;
 };
 

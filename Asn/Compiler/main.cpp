@@ -7,18 +7,21 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 
 namespace
 {
 
 constexpr const char* usage =
-    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...]\n"
+    "usage: asncomp --schema FILE --inc DIR --src DIR --pdu TYPE ... [--except TYPE ...] [--usual FILE]\n"
     "               [--base NAME [--table]]\n"
     "  --schema  the ASN.1 module\n"
     "  --inc     folder for the public header\n"
     "  --src     folder for the other files\n"
     "  --pdu     a type that gets an encoder, a decoder and a printer; 'all' for every named one\n"
     "  --except  a type that 'all' leaves out\n"
+    "  --usual   a line TYPE.MEMBER for each optional member and alternative that usual messages carry: the encoder's\n"
+    "            code of the others is kept out of their way\n"
     "  --base    write only NAME.h and NAME.cpp with the functions of these types\n"
     "  --table   with a table of these types, those that 'all' leaves out included\n";
 
@@ -28,6 +31,18 @@ int fail(const std::string& message)
     return 1;
 }
 
+bool read(const std::string& path, std::string& text)
+{
+    std::ifstream input(path, std::ios::binary);
+    if (!input)
+    {
+        fail("cannot read " + path + ": " + std::strerror(errno));
+        return false;
+    }
+    text.assign(std::istreambuf_iterator<char>(input), {});
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -35,6 +50,7 @@ int main(int argc, char** argv)
     std::string schema;
     std::string inc;
     std::string src;
+    std::string usual;
     asncomp::Options options;
     for (int i = 1; i < argc; ++i)
     {
@@ -67,6 +83,10 @@ int main(int argc, char** argv)
         {
             src = value;
         }
+        else if (option == "--usual")
+        {
+            usual = value;
+        }
         else if (option == "--base")
         {
             options.base = value;
@@ -91,12 +111,17 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    std::ifstream input(schema, std::ios::binary);
-    if (!input)
+    std::string text;
+    std::string usualText;
+    if (!read(schema, text) || (!usual.empty() && !read(usual, usualText)))
     {
-        return fail("cannot read " + schema + ": " + std::strerror(errno));
+        return 1;
     }
-    const std::string text{std::istreambuf_iterator<char>(input), {}};
+    std::istringstream lines(usualText);
+    for (std::string line; std::getline(lines, line);)
+    {
+        options.usual.push_back(line);
+    }
     asncomp::Diagnostics diagnostics(schema);
     const auto files = asncomp::compile(std::filesystem::path(schema).filename().string(), text, options, diagnostics);
     for (const std::string& message : diagnostics.messages())

@@ -108,10 +108,39 @@ constexpr std::array keywords = std::to_array<std::string_view>({"alignas",
                                                                  "xor_eq"});
 
 // What the runtime's header has taken.
-constexpr std::array runtimeNames = std::to_array<std::string_view>(
-    {"ASN1BitStr32", "ASN1OpenType", "OSBOOL",        "OSCTXT",       "OSINT16",   "OSINT32", "OSINT8",
-     "OSOCTET",      "OSRTDList",    "OSRTDListNode", "OSUINT16",     "OSUINT32",  "OSUINT8", "RtxError",
-     "RtxHeapBlock", "RtxLayout",    "RtxPathStep",   "RtxPrintSink", "RtxStatus", "RtxType"});
+constexpr std::array runtimeNames = std::to_array<std::string_view>({"ASN1BitStr32",
+                                                                     "ASN1OpenType",
+                                                                     "OSBOOL",
+                                                                     "OSCTXT",
+                                                                     "OSINT16",
+                                                                     "OSINT32",
+                                                                     "OSINT8",
+                                                                     "OSOCTET",
+                                                                     "OSRTDList",
+                                                                     "OSRTDListNode",
+                                                                     "OSUINT16",
+                                                                     "OSUINT32",
+                                                                     "OSUINT8",
+                                                                     "RtxDecoded",
+                                                                     "RtxDifference",
+                                                                     "RtxDifferenceKind",
+                                                                     "RtxDifferenceSink",
+                                                                     "RtxDifferenceStep",
+                                                                     "RtxError",
+                                                                     "RtxField",
+                                                                     "RtxFieldKind",
+                                                                     "RtxFieldSink",
+                                                                     "RtxFindingSink",
+                                                                     "RtxFound",
+                                                                     "RtxFoundSink",
+                                                                     "RtxHeapBlock",
+                                                                     "RtxLayout",
+                                                                     "RtxNote",
+                                                                     "RtxPathStep",
+                                                                     "RtxPrintSink",
+                                                                     "RtxProgress",
+                                                                     "RtxStatus",
+                                                                     "RtxType"});
 
 std::string cIdentifier(std::string name)
 {
@@ -125,9 +154,10 @@ std::string cIdentifier(std::string name)
 
 constexpr std::int64_t maxListCount = 65535;
 constexpr std::int64_t maxBits = 65535;
-constexpr unsigned maxNesting = 40;      // below the runtime's RTX_MAX_DEPTH
-constexpr std::size_t maxFlags = 56;     // so that the decoder loads a bitmap with one word
-constexpr std::size_t maxAdditions = 32; // so that their presence fits into one word
+constexpr unsigned maxNesting = 40;         // below the runtime's RTX_MAX_DEPTH
+constexpr std::size_t maxFlags = 56;        // so that the decoder loads a bitmap with one word
+constexpr std::size_t maxAdditions = 32;    // so that their presence fits into one word
+constexpr std::ptrdiff_t maxIdentity = 128; // so that its index fits into an octet
 constexpr std::size_t maxTypes = 20000;
 constexpr std::size_t maxNameText = std::size_t{4} * 1024 * 1024; // octets, of all C names together
 
@@ -379,7 +409,7 @@ private:
     {
         type.kind = Kind::Enumerated;
         std::set<std::string> seen;
-        for (const ast::Value& value : source.values)
+        for (const ast::Name& value : source.values)
         {
             if (!seen.insert(value.name).second)
             {
@@ -433,11 +463,86 @@ private:
             result.optional = true;
             result.flag = addFlag(owner, result.cName, source.at);
         }
+        if (!source.identity.member.name.empty())
+        {
+            identify(*result.type, source.identity.member);
+        }
         if (result.type->kind == Kind::Null && owner.kind == Kind::Sequence && !source.optional)
         {
             diagnostics_.error(source.at, "a mandatory NULL member is not supported");
         }
         owner.members.push_back(result);
+    }
+
+    // Sets what identifies the elements of a list. The parser has seen that the list is the member's own.
+    void identify(Type& list, const ast::Name& source)
+    {
+        const Type& element = *list.element;
+        if (list.kind == Kind::Array)
+        {
+            if (source.name != element.asnName)
+            {
+                diagnostics_.error(source.at,
+                                   "the elements are of type '" + element.asnName + "', not '" + source.name + "'");
+            }
+            list.identity = ownIdentity;
+            return;
+        }
+        const auto found = std::find_if(element.members.begin(), element.members.end(),
+                                        [&](const Member& m) { return m.asnName == source.name; });
+        if (element.kind != Kind::Sequence || found == element.members.end())
+        {
+            diagnostics_.error(source.at,
+                               "the elements, of type '" + element.asnName + "', have no member '" + source.name + "'");
+            return;
+        }
+        const std::ptrdiff_t index = found - element.members.begin();
+        const bool number = found->type->kind == Kind::Integer || found->type->kind == Kind::Enumerated;
+        if (!number || found->optional || index >= std::min<std::ptrdiff_t>(maxIdentity, element.rootCount))
+        {
+            diagnostics_.error(source.at, "the member '" + source.name +
+                                              "' is no identity: that is a mandatory INTEGER "
+                                              "or ENUMERATED among the first " +
+                                              std::to_string(maxIdentity) + " members");
+            return;
+        }
+        list.identity = static_cast<int>(index);
+    }
+
+    // The lists that release elements hold what identifies them.
+    void releases(const Type& owner, const std::vector<ast::Member>& members)
+    {
+        for (const ast::Member& m : members)
+        {
+            const ast::Name& source = m.identity.release;
+            const Type* const list = typeOf(owner, m.name);
+            if (source.name.empty() || list == nullptr || list->identity == noIdentity)
+            {
+                continue; // nothing to look for, or reported
+            }
+            const Type* const release = typeOf(owner, source.name);
+            const Type* const wanted = list->identity == ownIdentity
+                                           ? list->element
+                                           : list->element->members[static_cast<std::size_t>(list->identity)].type;
+            if (release == nullptr)
+            {
+                diagnostics_.error(source.at, "there is no member '" + source.name + "' beside '" + m.name + "'");
+            }
+            else if (release->element != wanted)
+            {
+                diagnostics_.error(source.at, "'" + source.name + "' is not a list of '" + wanted->asnName +
+                                                  "', which identifies"
+                                                  " the elements of '" +
+                                                  m.name + "'");
+            }
+        }
+    }
+
+    static const Type* typeOf(const Type& owner, const std::string& member)
+    {
+        const auto found = std::find_if(owner.members.begin(), owner.members.end(),
+                                        [&](const Member& m) { return m.asnName == member; });
+        return found == owner.members.end() ? nullptr : found->type;
     }
 
     int addFlag(Type& owner, const std::string& name, Location at)
@@ -485,6 +590,11 @@ private:
             }
             addition.count = type.members.size() - addition.first;
             type.additions.push_back(addition);
+        }
+        releases(type, source.members);
+        for (const ast::Addition& a : source.additions)
+        {
+            releases(type, a.members);
         }
         if (source.members.empty() && !source.extensible)
         {

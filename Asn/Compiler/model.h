@@ -33,6 +33,7 @@ struct Member
     bool optional = false;
     bool pointer = false; // alternative of a choice held by pointer
     int flag = -1;        // number of its presence flag
+    bool usual = true;    // optional member, alternative: carried by usual messages
 };
 
 struct Addition
@@ -42,6 +43,9 @@ struct Addition
     std::size_t first = 0; // index of its first member
     std::size_t count = 0;
 };
+
+constexpr int noIdentity = -1;
+constexpr int ownIdentity = -2; // an element identifies itself
 
 struct Type
 {
@@ -59,7 +63,8 @@ struct Type
     std::vector<std::string> flags; // in the order of their bits, without "Present"
     bool extensible = false;
     Type* element = nullptr;
-    unsigned depth = 0; // of the tree of types below it
+    int identity = noIdentity; // Array, List: the index of the element's member that identifies it
+    unsigned depth = 0;        // of the tree of types below it
 
     // Has a structure or a list of its own in memory.
     bool constructed() const

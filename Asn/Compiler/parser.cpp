@@ -452,8 +452,10 @@ private:
         {
             return;
         }
+        ast::Member* annotated = nullptr; // what an annotation behind the next comma belongs to
         do
         {
+            annotated = nullptr;
             if (at("...") && result.extensible)
             {
                 refuse(current().at, "a second extension marker is not supported");
@@ -465,12 +467,14 @@ private:
             else if (!result.extensible)
             {
                 result.members.push_back(member(result, nesting));
+                annotated = &result.members.back();
             }
             else
             {
                 result.additions.push_back(addition(result, nesting));
+                annotated = result.additions.back().group ? nullptr : &result.additions.back().members.back();
             }
-        } while (accept(","));
+        } while (another(result, annotated));
         expect("}");
     }
 
@@ -491,9 +495,36 @@ private:
         do
         {
             result.members.push_back(member(owner, nesting));
-        } while (accept(","));
+        } while (another(owner, &result.members.back()));
         expect("]]");
         return result;
+    }
+
+    // Whether another member follows. An annotation of a list stands behind the comma, as comments do.
+    bool another(const ast::Type& owner, ast::Member* member)
+    {
+        const bool result = accept(",");
+        const bool list = member != nullptr && member->type->kind == ast::Kind::SequenceOf;
+        if (list && owner.kind == ast::Kind::Sequence && accept("--"))
+        {
+            annotation(*member);
+        }
+        return result;
+    }
+
+    void annotation(ast::Member& member)
+    {
+        expect("Identity");
+        const Location where = current().at;
+        member.identity.member = {isUpper(current().text[0]) ? typeName() : valueName("a name"), where};
+        if (accept(","))
+        {
+            expect("released");
+            expect("by");
+            const Location list = current().at;
+            member.identity.release = {valueName("the name of a list"), list};
+        }
+        expect("--");
     }
 
     const std::vector<Token>& tokens_;

@@ -86,7 +86,7 @@ typedef struct RtxPathStep
     OSBOOL group;
 } RtxPathStep;
 
-// The first error of a context. The path is kept from the innermost step outwards.
+// An error: the first one of a context, or a finding of a check. The path is kept from the innermost step outwards.
 typedef struct RtxError
 {
     OSINT32 status; // RtxStatus
@@ -193,6 +193,9 @@ size_t pu_getMsgLen(const OSCTXT* pctxt);
 // the whole line; empty without an error.
 size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size);
 
+// The same for an error by itself.
+size_t rtxErrorFormat(const RtxError* error, char* text, size_t size);
+
 // Prints the context's error as one line with VOS_Printf: path, value and the bound it breaks. Nothing without an
 // error.
 void rtxErrPrint(const OSCTXT* pctxt);
@@ -271,6 +274,68 @@ int64_t rtxFind(OSCTXT* pctxt, const RtxType* type, const OSOCTET* data, size_t 
 
 // Copies the octets that begin at any bit to `to`.
 void rtxCopyBits(OSOCTET* to, const OSOCTET* data, uint64_t bit, size_t octets);
+// What a check of a tree finds, one call for each; nonzero ends the check. The finding is gone after the call.
+typedef int (*RtxFindingSink)(void* arg, const RtxError* finding);
+
+// Reports everything in a tree that keeps the encoder from sending it: values, counts and bit strings out of their
+// bounds, choices without an alternative, pointers that do not lead into *pctxt's heap, lists that end early, unknown
+// additions that cannot be sent. The first finding is the encoder's error, with the same line (rtxErrorFormat); without
+// a finding the encoder takes the tree, given room. The root may lie anywhere. Time grows with the encoding's length,
+// whatever the tree; no memory is taken. `sink` may be null. Returns the number of findings, or RTX_E_NULL without
+// context or type.
+int64_t rtxCheck(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxFindingSink sink, void* arg);
+
+typedef enum RtxDifferenceKind
+{
+    RTX_D_VALUE = 1,   // another value; `type` is that of a number, an enumeration, a boolean or a bit string
+    RTX_D_ONLY_A,      // a member or an element of a list that b lacks
+    RTX_D_ONLY_B,      // one that a lacks
+    RTX_D_ALTERNATIVE, // another alternative of a choice
+    RTX_D_ORDER,       // the elements of a list that a and b have in common stand in another order
+    RTX_D_UNKNOWN,     // unknown extension additions or alternatives: a and b are ASN1OpenType or null, `type` is null
+    RTX_D_UNREADABLE   // an element that the encoder does not follow in a or b, or a list with too many: not compared
+} RtxDifferenceKind;
+
+#define RTX_NO_INDEX 0xFFFFFFFFu
+
+// One step of the path to a difference: a member, or (name null) an element of a list.
+typedef struct RtxDifferenceStep
+{
+    const char* name;
+    OSUINT32 indexA; // of the element in a's list, RTX_NO_INDEX where a lacks it
+    OSUINT32 indexB;
+    const char* identity; // the ASN.1 name of what the elements were matched by, null where that was the index
+    int64_t id;           // its value
+} RtxDifferenceStep;
+
+// A difference between two trees of a type. The path is kept from the innermost step outwards.
+typedef struct RtxDifference
+{
+    OSINT32 kind;   // RtxDifferenceKind
+    OSUINT32 depth; // steps used; RTX_MAX_DEPTH + 1 where outer ones are left out
+    const RtxType* type;
+    const void* a; // the value in tree a, of the type; null where a lacks it and where it is unreadable
+    const void* b;
+    RtxDifferenceStep path[RTX_MAX_DEPTH];
+} RtxDifference;
+
+// What a comparison finds, one call for each; nonzero ends the comparison. The difference is gone after the call.
+typedef int (*RtxDifferenceSink)(void* arg, const RtxDifference* difference);
+
+// Reports the differences between two trees of a type: a, whose elements lie in *pctxtA's heap, and b, whose elements
+// lie in *pctxtB's, in the same heap where that is null. What the encoder does not send is no difference: members whose
+// group is not sent, bits behind a bit string's end, which nonzero value stands for TRUE, a null pointer for an empty
+// element. Elements of lists that are added and modified one by one are matched by the identity that the schema gives
+// them, equal identities in their order; those of all other lists by their index. Time grows as n log n with the trees'
+// size; lists take memory of *pctxtA's heap, at most 40 octets for each element of a list and of the lists around it,
+// and give it back. `sink` may be null. Returns the number of differences; RTX_E_NULL without context, type or tree,
+// RTX_E_HEAP when the heap is exhausted: not everything has been compared then.
+int64_t rtxCompare(OSCTXT* pctxtA, const OSCTXT* pctxtB, const RtxType* type, const void* a, const void* b,
+                   RtxDifferenceSink sink, void* arg);
+
+// Writes the difference as one line without line end to text[0..size-1], always terminated. Returns the length of the
+// whole line. To be called in the sink.
+size_t rtxDifferenceFormat(const RtxDifference* difference, char* text, size_t size);
 
 // Where printed lines go: called with each piece of text in order, terminated.
 typedef void (*RtxPrintSink)(void* arg, const char* text);

@@ -698,7 +698,7 @@ private:
             {
                 continue;
             }
-            enter({type.names[m - type.members], 0, 0});
+            enter(named(type.names[m - type.members]));
             at = value(in, *m, to + m->offset, at);
             leave();
             if (at == failed) [[unlikely]]
@@ -772,7 +772,7 @@ private:
             {
                 return value(field, m, to + m.offset, start);
             };
-            enter({type.names[addition.first], 0, 0});
+            enter(named(type.names[addition.first]));
             at = openType(in, at, content);
             leave();
             return at == failed ? inMember(type, m) : at;
@@ -781,7 +781,7 @@ private:
         {
             return group(field, type, index, to, start);
         };
-        enter({nullptr, index + 1, 1});
+        enter(grouped(index + 1));
         at = openType(in, at, content);
         leave();
         // A member's path does without its group, except where the group ends before it: that is not the message's end.
@@ -825,8 +825,8 @@ private:
     Position unknownAddition(const Input& in, uint32_t index, OSOCTET* list, Position at)
     {
         OSOCTET* block = nullptr;
-        enter({"extElem1", 0, 0});
-        enter({nullptr, index, 0});
+        enter(named("extElem1"));
+        enter(indexed(index));
         at = openOctets(in, sizeof(UnknownAddition), block, at);
         leave();
         leave();
@@ -928,7 +928,7 @@ private:
             return fail(at, RTX_E_CHOICE, static_cast<int64_t>(index) + 1, 1, type.rootCount);
         }
         saw(RTX_FIELD_CHOICE, at, type.bits, index, &type, to);
-        enter({type.names[index], 0, 0});
+        enter(named(type.names[index]));
         at = alternative(in, type, index, to, at + type.bits);
         leave();
         return at == failed ? inMember(type, type.members[index]) : at;
@@ -952,13 +952,13 @@ private:
             {
                 return alternative(field, type, index, to, first);
             };
-            enter({type.names[index], 0, 0});
+            enter(named(type.names[index]));
             at = openType(in, at, content);
             leave();
             return at == failed ? inMember(type, type.members[index]) : at;
         }
         OSOCTET* open = nullptr;
-        enter({"extElem1", 0, 0});
+        enter(named("extElem1"));
         at = openOctets(in, sizeof(ASN1OpenType), open, at);
         leave();
         if (at == failed)
@@ -1033,7 +1033,7 @@ private:
         OSOCTET* p = to + element.offset;
         for (uint32_t i = 0; i < number; ++i, p += element.type->size)
         {
-            enter({nullptr, i, 0});
+            enter(indexed(i));
             at = value(in, element, p, at);
             leave();
             if (at == failed) [[unlikely]]
@@ -1064,7 +1064,7 @@ private:
                 heapExhausted(at, size);
                 return inElement(i);
             }
-            enter({nullptr, i, 0});
+            enter(indexed(i));
             at = value(in, *type.members, data, at);
             leave();
             if (at == failed) [[unlikely]]

@@ -1,70 +1,31 @@
+#include "rtxLine.h"
 #include "rtxTree.h"
 #include "vos_lib.h"
 
 #include <cinttypes>
-#include <cstdarg>
-#include <cstdio>
 #include <cstring>
 
 namespace
 {
 
-// A line that grows in a buffer of fixed size; `length` counts what did not fit, too.
-struct Line
-{
-    char* text;
-    size_t size;
-    size_t length;
-};
-
-Line emptyLine(char* text, size_t size)
-{
-    if (size != 0)
-    {
-        text[0] = '\0';
-    }
-    return {text, size, 0};
-}
-
-__attribute__((format(printf, 2, 3))) void append(Line& line, const char* format, ...)
-{
-    const size_t room = line.length < line.size ? line.size - line.length : 0;
-    va_list args;
-    va_start(args, format);
-    const int length = std::vsnprintf(room != 0 ? line.text + line.length : nullptr, room, format, args);
-    va_end(args);
-    line.length += length > 0 ? static_cast<size_t>(length) : 0;
-}
-
-const char* plural(int64_t count)
-{
-    return count == 1 ? "" : "s";
-}
+using rtx::append;
+using rtx::Line;
+using rtx::plural;
 
 void appendPath(Line& line, const RtxError& error)
 {
-    OSUINT32 depth = error.depth;
-    if (depth > RTX_MAX_DEPTH)
-    {
-        append(line, ".."); // the next name brings a third one
-        depth = RTX_MAX_DEPTH;
-    }
-    for (OSUINT32 i = depth; i-- != 0;)
-    {
-        const RtxPathStep& step = error.path[i];
-        if (step.group != 0)
-        {
-            append(line, "%s[[%" PRIu32 "]]", line.length != 0 ? "." : "", step.index);
-        }
-        else if (step.name == nullptr)
-        {
-            append(line, "[%" PRIu32 "]", step.index);
-        }
-        else
-        {
-            append(line, "%s%s", line.length != 0 ? "." : "", step.name);
-        }
-    }
+    rtx::appendPath(line, error,
+                    [&](const RtxPathStep& step)
+                    {
+                        if (step.group != 0)
+                        {
+                            append(line, "%s[[%" PRIu32 "]]", line.length != 0 ? "." : "", step.index);
+                        }
+                        else
+                        {
+                            append(line, "[%" PRIu32 "]", step.index);
+                        }
+                    });
     append(line, "%s", line.length != 0 ? ": " : "");
 }
 
@@ -158,47 +119,40 @@ int rtx::setError(OSCTXT& ctxt, RtxStatus status, int64_t value, int64_t lower, 
     return error.status;
 }
 
-static void push(RtxError& error, const RtxPathStep& step)
-{
-    if (error.depth < RTX_MAX_DEPTH)
-    {
-        error.path[error.depth++] = step;
-    }
-    else
-    {
-        error.depth = RTX_MAX_DEPTH + 1; // the outer steps are left out and said to be
-    }
-}
-
 void rtx::pushName(OSCTXT& ctxt, const char* name)
 {
     if (name != nullptr)
     {
-        push(ctxt.error, {name, 0, 0});
+        rtx::push(ctxt.error, named(name));
     }
 }
 
 void rtx::pushIndex(OSCTXT& ctxt, uint32_t index)
 {
-    push(ctxt.error, {nullptr, index, 0});
+    rtx::push(ctxt.error, indexed(index));
 }
 
 void rtx::pushGroup(OSCTXT& ctxt, uint32_t number)
 {
-    push(ctxt.error, {nullptr, number, 1});
+    rtx::push(ctxt.error, grouped(number));
 }
 
 size_t rtx::formatReason(const Reason& reason, char* text, size_t size)
 {
-    Line line = emptyLine(text, size);
+    Line line(text, size);
     appendReason(line, reason);
     return line.length;
 }
 
 size_t rtxErrFormat(const OSCTXT* pctxt, char* text, size_t size)
 {
-    Line line = emptyLine(text, size);
-    const RtxError& error = pctxt->error;
+    return rtxErrorFormat(&pctxt->error, text, size);
+}
+
+size_t rtxErrorFormat(const RtxError* finding, char* text, size_t size)
+{
+    Line line(text, size);
+    const RtxError& error = *finding;
     if (error.status != RTX_OK)
     {
         appendPath(line, error);

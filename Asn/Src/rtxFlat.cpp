@@ -13,7 +13,7 @@ public:
 
     void stopped(const OSCTXT& ctxt, const Type& type)
     {
-        begin({type.name, 0});
+        begin(named(type.name));
         openLine(".$error");
         out_.put(ErrorText(ctxt).text);
         closeLine();
@@ -109,7 +109,7 @@ public:
     {
         if (refusal == nullptr)
         {
-            begin({"$unknownAlternative", 0});
+            begin(named("$unknownAlternative"));
             octets(extensionIndex(type, tag), *open);
             end();
             return;
@@ -130,7 +130,7 @@ public:
 
     void notRead(const char* name)
     {
-        begin({name, 0});
+        begin(named(name));
         line("$notRead");
         end();
     }
@@ -149,7 +149,7 @@ public:
 
     void openUnknown(uint32_t)
     {
-        begin({"$unknownAdditions", 0});
+        begin(named("$unknownAdditions"));
         unknown_ = 0;
     }
 
@@ -160,12 +160,10 @@ public:
 
     void unknown(const Type& type, uint32_t index, const ASN1OpenType& open)
     {
-        begin({nullptr, unknown_++});
+        begin(indexed(unknown_++));
         octets(type.additionCount + index, open);
         end();
     }
-
-    void absent(uint32_t) {}
 
     void broken(const char* text)
     {

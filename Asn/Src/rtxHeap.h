@@ -4,6 +4,8 @@
 
 #include "asn1Runtime.h"
 
+#include <cstring>
+
 // Head of a block; its payload follows it.
 struct alignas(16) RtxHeapBlock
 {
@@ -75,6 +77,29 @@ inline Owned owned(const OSCTXT& ctxt, const RtxHeapBlock* block)
 
 // Those of the block in which all `octets` octets at `p` lie; none of a foreign pointer.
 Owned owner(const OSCTXT& ctxt, const void* p, size_t octets);
+
+// While it lives, what the heap hands out; when it goes, that is the heap's again, unless a block was added for it.
+// Marks end in the reverse order of their beginning, and nothing that outlives one is asked for beside it.
+class HeapMark
+{
+public:
+    explicit HeapMark(OSCTXT& ctxt) : ctxt_(ctxt), block_(ctxt.heap.blocks), next_(ctxt.heap.next) {}
+    ~HeapMark()
+    {
+        if (ctxt_.heap.blocks == block_)
+        {
+            std::memset(next_, 0, static_cast<size_t>(ctxt_.heap.next - next_)); // is handed out cleared again
+            ctxt_.heap.next = next_;
+        }
+    }
+    HeapMark(const HeapMark&) = delete;
+    HeapMark& operator=(const HeapMark&) = delete;
+
+private:
+    OSCTXT& ctxt_;
+    const RtxHeapBlock* block_;
+    OSOCTET* next_;
+};
 
 // Whether all `size` octets at `p` were handed out by the context's heap.
 inline bool owns(const OSCTXT& ctxt, const void* p, size_t size)

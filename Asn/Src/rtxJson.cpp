@@ -185,8 +185,6 @@ public:
         octets(type.additionCount + index, open);
     }
 
-    void absent(uint32_t) {}
-
     void broken(const char* text)
     {
         layout_.item();

@@ -106,7 +106,7 @@ public:
     {
         invalid(ReasonText(wrong).text);
         ++depth_;
-        begin({"unknown alternative", 0});
+        begin(named("unknown alternative"));
         if (refusal != nullptr)
         {
             invalid(refusal);
@@ -127,7 +127,7 @@ public:
 
     void notRead(const char* name)
     {
-        begin({name, 0});
+        begin(named(name));
         invalid("not read");
     }
 
@@ -157,14 +157,8 @@ public:
 
     void unknown(const Type&, uint32_t index, const ASN1OpenType& open)
     {
-        begin({nullptr, index});
+        begin(indexed(index));
         octets(open);
-    }
-
-    void absent(uint32_t index)
-    {
-        begin({nullptr, index});
-        invalid("absent");
     }
 
     void broken(const char* text)

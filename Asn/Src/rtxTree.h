@@ -6,6 +6,7 @@
 #include "rtxHeap.h"
 #include "rtxType.h"
 
+#include <algorithm>
 #include <cinttypes>
 #include <cstdarg>
 #include <cstdio>
@@ -17,6 +18,23 @@ namespace rtx
 inline bool hasFlag(const void* structure, int flag)
 {
     return (static_cast<const OSOCTET*>(structure)[flag / 8] >> (flag % 8) & 1) != 0;
+}
+
+inline bool isPresent(const Member& member, const void* structure)
+{
+    return member.flag < 0 || hasFlag(structure, member.flag);
+}
+
+// Whether an extension addition is sent: a group when its flag and a member's are set, a lone member when its own is.
+inline bool isSent(const Type& type, const Addition& addition, const void* structure)
+{
+    if (addition.flag >= 0 && !hasFlag(structure, addition.flag))
+    {
+        return false;
+    }
+    const Member* const members = type.members + addition.first;
+    return std::any_of(members, members + addition.count,
+                       [=](const Member& member) { return isPresent(member, structure); });
 }
 
 template <typename T>
@@ -38,6 +56,19 @@ inline int64_t loadInteger(const void* from, unsigned width, bool isSigned)
     default:
         return isSigned ? int64_t{load<OSINT32>(from)} : load<OSUINT32>(from);
     }
+}
+
+// An integer or an enumeration.
+inline int64_t loadNumber(const Type& type, const void* from)
+{
+    return type.kind == Kind::Enumerated ? load<OSUINT32>(from) : loadInteger(from, type.width, type.lower < 0);
+}
+
+// How many bits of it there are, whatever it says.
+inline uint32_t bitCount(const ASN1BitStr32& value)
+{
+    constexpr uint32_t most = 8 * sizeof value.data;
+    return std::min(value.numbits, most);
 }
 
 // What is wrong with the value of an integer or an enumeration.
@@ -70,12 +101,8 @@ inline Reason wrongTag(const Type& type, uint32_t tag)
 // Whether a null pointer to such an element stands for the empty one: a sequence all of whose members may be absent.
 inline bool mayBeEmpty(const Type& type)
 {
-    bool empty = type.kind == Kind::Sequence;
-    for (unsigned i = 0; i < type.rootCount; ++i)
-    {
-        empty = empty && type.members[i].flag >= 0;
-    }
-    return empty;
+    return type.kind == Kind::Sequence &&
+           std::all_of(type.members, type.members + type.rootCount, [](const Member& m) { return m.flag >= 0; });
 }
 
 // The number of an array's elements.
@@ -84,25 +111,27 @@ inline uint32_t countOf(const Type& type, const void* array)
     return static_cast<uint32_t>(type.lower == type.upper ? type.upper : loadInteger(array, type.width, false));
 }
 
-// The number of an unknown addition, that a list holds at an index, among those of its sequence.
-inline uint32_t additionNumber(uint32_t index, const ASN1OpenType& /*open*/)
-{
-    return index;
-}
-
-// Why a pointer to `size` octets of a type's storage is not followed: RTX_E_NULL, RTX_E_FOREIGN; RTX_OK when it is.
-// Without a context none is.
-inline RtxStatus refuse(const OSCTXT* ctxt, const void* p, size_t size)
+// Why a pointer to `size` octets is not followed: RTX_E_NULL, RTX_E_FOREIGN; RTX_OK when it is. Without a context none
+// is.
+inline RtxStatus refuse(const OSCTXT* ctxt, const void* p, size_t size, size_t alignment)
 {
     if (p == nullptr)
     {
         return RTX_E_NULL;
     }
-    // A type's alignment divides its size.
-    const size_t divisor = size & (~size + 1);
-    const size_t alignment = divisor < alignof(void*) ? divisor : alignof(void*);
-    const bool aligned = alignment == 0 || reinterpret_cast<uintptr_t>(p) % alignment == 0;
+    const bool aligned = reinterpret_cast<uintptr_t>(p) % alignment == 0;
     return ctxt != nullptr && aligned && owns(*ctxt, p, size) ? RTX_OK : RTX_E_FOREIGN;
+}
+
+template <typename T>
+RtxStatus refuse(const OSCTXT* ctxt, const T* p)
+{
+    return refuse(ctxt, p, sizeof(T), alignof(T));
+}
+
+inline RtxStatus refuse(const OSCTXT* ctxt, const void* p, const Type& type)
+{
+    return refuse(ctxt, p, type.size, type.align);
 }
 
 // The same for the octets of an open type, which need no alignment. RTX_E_NULL where it is absent.
@@ -142,7 +171,7 @@ ListEnd forNodes(const OSCTXT* ctxt, const OSRTDList& list, uint32_t number, uin
         {
             return ListEnd::Loop;
         }
-        if (refuse(ctxt, node, sizeof *node) != RTX_OK)
+        if (refuse(ctxt, node) != RTX_OK)
         {
             return ListEnd::Foreign;
         }
@@ -191,10 +220,14 @@ public:
         if (ctxt != nullptr && ctxt->error.status != RTX_OK && ctxt->error.hasOffset != 0 &&
             ctxt->error.depth <= RTX_MAX_DEPTH)
         {
-            path_ = ctxt->error.path;
-            length_ = ctxt->error.depth;
-            // What is wrong behind a value, not with it.
-            behind_ = ctxt->error.status == RTX_E_PADDING || ctxt->error.status == RTX_E_SURPLUS;
+            const RtxError& error = ctxt->error;
+            std::copy_if(error.path, error.path + error.depth, path_,
+                         [](const RtxPathStep& step) { return step.group == 0; });
+            length_ = static_cast<uint32_t>(std::count_if(error.path, error.path + error.depth,
+                                                          [](const RtxPathStep& step) { return step.group == 0; }));
+            // What is wrong behind a value, not with it: its padding, an extension group of it.
+            behind_ = error.status == RTX_E_PADDING || error.status == RTX_E_SURPLUS ||
+                      (error.depth != 0 && error.path[0].group != 0);
         }
     }
 
@@ -256,7 +289,7 @@ private:
         return path_[length_ - 1 - matched_];
     }
 
-    const RtxPathStep* path_ = nullptr; // innermost step first
+    RtxPathStep path_[RTX_MAX_DEPTH]; // innermost step first, without extension groups
     uint32_t length_ = 0;
     uint32_t matched_ = 0; // steps of the path that the walk has taken
     uint32_t depth_ = 0;   // steps that lead to where the walk is

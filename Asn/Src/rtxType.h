@@ -62,6 +62,9 @@ struct Addition
     uint16_t count;
 };
 
+constexpr int8_t noIdentity = -1;
+constexpr int8_t ownIdentity = -2; // an element identifies itself
+
 } // namespace rtx
 
 struct RtxType
@@ -70,6 +73,7 @@ struct RtxType
     rtx::Kind kind;
     uint8_t width = 0; // octets of an integer, of an array's count
     bool extensible = false;
+    uint8_t align = 1; // of the storage
     uint32_t size = 0; // octets of storage
     int32_t lower = 0; // of an integer's value, or of a list's count
     int32_t upper = 0;
@@ -80,8 +84,9 @@ struct RtxType
     uint16_t rootCount = 0;
     const rtx::Addition* additions = nullptr; // Sequence
     uint16_t additionCount = 0;
-    uint8_t bits = 0;     // on the wire before the content: presence flags, index of the alternative, count of elements
-    uint32_t extElem = 0; // extensible: offset of extElem1, in a choice that of the union
+    uint8_t bits = 0; // on the wire before the content: presence flags, index of the alternative, count of elements
+    int8_t identity = rtx::noIdentity; // Array, List: index of the element's member that identifies it
+    uint32_t extElem = 0;              // extensible: offset of extElem1, in a choice that of the union
 
     // Of an array's or a list's elements.
     constexpr const RtxType& element() const
@@ -154,6 +159,20 @@ size_t formatReason(const Reason& reason, char* text, size_t size);
 
 // Records the first error of a context; the path is empty then.
 int setError(OSCTXT& ctxt, RtxStatus status, int64_t value = 0, int64_t lower = 0, int64_t upper = 0);
+
+// The kinds of a path's steps.
+constexpr RtxPathStep named(const char* name)
+{
+    return {name, 0, 0};
+}
+constexpr RtxPathStep indexed(uint32_t index)
+{
+    return {nullptr, index, 0};
+}
+constexpr RtxPathStep grouped(uint32_t number)
+{
+    return {nullptr, number, 1};
+}
 
 // Adds the next outer step to the error's path. A null name, of what is no member, is no step.
 void pushName(OSCTXT& ctxt, const char* name);

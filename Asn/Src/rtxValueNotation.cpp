@@ -181,8 +181,6 @@ public:
         octets("addition", type.additionCount + index, open);
     }
 
-    void absent(uint32_t) {}
-
     void broken(const char* text)
     {
         remark(text);

@@ -16,7 +16,7 @@
 //                                                    these follows. notRead() alone when it is the root.
 //   unsent(step)                                     a member of a group that is not present: is it to be shown?
 //   openUnknown(count) ... closeUnknown()            around the unknown additions: unknown(type, index, open),
-//                                                    absent(index), or a value that is invalid
+//                                                    or a value that is invalid
 //   broken(text), remark(text)                       a list that ends too early or goes on
 //
 // `wrong` is a Reason: RTX_OK when nothing is.
@@ -38,7 +38,7 @@ public:
     // tree.
     int run(const Type& type, const char* title, const void* value)
     {
-        const RtxPathStep root = {type.name, 0};
+        const RtxPathStep root = named(type.name);
         if (reading_.isNext(root))
         {
             status_ = ctxt_->error.status;
@@ -104,7 +104,7 @@ private:
         }
         else
         {
-            shown({title, step.index}, content);
+            shown({title, step.index, 0}, content);
         }
         reading_.leave();
     }
@@ -132,7 +132,7 @@ private:
 
     void pointed(const Type& type, const void* p)
     {
-        if (const RtxStatus status = refuse(ctxt_, p, type.size))
+        if (const RtxStatus status = refuse(ctxt_, p, type))
         {
             invalidPointer(status);
         }
@@ -154,7 +154,7 @@ private:
             break;
         case Kind::Integer:
         {
-            const int64_t number = loadInteger(value, type.width, type.lower < 0);
+            const int64_t number = loadNumber(type, value);
             writer_.integer(type, number, noted(outside(type, number)));
             break;
         }
@@ -167,9 +167,7 @@ private:
         case Kind::BitStr32:
         {
             const auto string = load<ASN1BitStr32>(value);
-            constexpr uint32_t most = 8 * sizeof string.data;
-            const uint32_t count = string.numbits < most ? string.numbits : most;
-            writer_.bits(string.data, count, noted(wrongLength(type, string.numbits)));
+            writer_.bits(string.data, bitCount(string), noted(wrongLength(type, string.numbits)));
             break;
         }
         case Kind::BitOctets:
@@ -205,7 +203,7 @@ private:
             for (unsigned i = addition.first; i < addition.first + addition.count; ++i)
             {
                 if (sent || (type.members[i].flag >= 0 && hasFlag(value, type.members[i].flag) &&
-                             writer_.unsent(RtxPathStep{type.names[i], 0})))
+                             writer_.unsent(rtx::named(type.names[i]))))
                 {
                     member(type, i, value);
                 }
@@ -230,7 +228,7 @@ private:
         bool stops = false;
         for (unsigned i = addition.first; i < addition.first + addition.count; ++i)
         {
-            stops = stops || reading_.isNext({type.names[i], 0});
+            stops = stops || reading_.isNext(named(type.names[i]));
         }
         return stops;
     }
@@ -238,13 +236,13 @@ private:
     void member(const Type& type, unsigned index, const void* structure)
     {
         const Member& member = type.members[index];
-        if (member.flag < 0 || hasFlag(structure, member.flag))
+        if (isPresent(member, structure))
         {
             const auto content = [&]
             {
                 element(*member.type, static_cast<const OSOCTET*>(structure) + member.offset);
             };
-            place({type.names[index], 0}, type.names[index], content);
+            place(named(type.names[index]), type.names[index], content);
         }
     }
 
@@ -293,13 +291,13 @@ private:
             }
             pointed(*member.type, p);
         };
-        place({type.names[index], 0}, type.names[index], content);
+        place(named(type.names[index]), type.names[index], content);
     }
 
     void unknownAlternative(const Type& type, uint32_t tag, const Reason& wrong, const ASN1OpenType* open)
     {
         const char* reason = nullptr;
-        if (const RtxStatus status = refuse(ctxt_, open, sizeof *open))
+        if (const RtxStatus status = refuse(ctxt_, open))
         {
             reason = refusal(status);
         }
@@ -329,13 +327,13 @@ private:
         const uint32_t number = openList(type, countOf(type, value));
         const OSOCTET* const elements = static_cast<const OSOCTET*>(value) + type.members->offset;
         uint32_t i = 0;
-        for (; i < number && !reading_.stopsAt({nullptr, i}); ++i)
+        for (; i < number && !reading_.stopsAt(indexed(i)); ++i)
         {
             const auto content = [&]
             {
                 element(type.element(), elements + size_t{i} * type.element().size);
             };
-            place({nullptr, i}, nullptr, content);
+            place(indexed(i), nullptr, content);
         }
         if (i < number)
         {
@@ -350,13 +348,13 @@ private:
         uint32_t read = 0;
         const auto each = [&](uint32_t i, const void* data)
         {
-            if (!reading_.stopsAt({nullptr, i}))
+            if (!reading_.stopsAt(indexed(i)))
             {
                 const auto content = [&]
                 {
                     pointed(type.element(), data);
                 };
-                place({nullptr, i}, nullptr, content);
+                place(indexed(i), nullptr, content);
                 read = i + 1;
             }
         };
@@ -396,23 +394,18 @@ private:
         const auto each = [&](uint32_t i, const void* data)
         {
             const auto* const open = static_cast<const ASN1OpenType*>(data);
-            RtxStatus status = refuse(ctxt_, open, sizeof *open);
+            RtxStatus status = refuse(ctxt_, open);
             if (status == RTX_OK)
             {
                 status = refuse(ctxt_, *open);
-                if (status == RTX_E_NULL)
-                {
-                    writer_.absent(i);
-                    return;
-                }
             }
             if (status != RTX_OK)
             {
-                shown({nullptr, i}, [&] { invalidPointer(status); });
+                shown(indexed(i), [&] { invalidPointer(status); });
                 return;
             }
             note(open->numocts == 0 ? RTX_E_EXTENSION : RTX_OK);
-            writer_.unknown(type, additionNumber(i, *open), *open);
+            writer_.unknown(type, open->index, *open);
         };
         writer_.openUnknown(value.count);
         nodes(value, value.count, each);
@@ -433,11 +426,11 @@ private:
             writer_.broken(ReasonText({RTX_E_LIST, value.count, reached, reached}).text);
             break;
         case ListEnd::Foreign:
-            shown({nullptr, reached}, [&] { invalidPointer(RTX_E_FOREIGN); });
+            shown(indexed(reached), [&] { invalidPointer(RTX_E_FOREIGN); });
             break;
         case ListEnd::Loop:
             note(RTX_E_LIST);
-            shown({nullptr, reached}, [&] { writer_.invalid("the list goes back to an earlier element"); });
+            shown(indexed(reached), [&] { writer_.invalid("the list goes back to an earlier element"); });
             break;
         case ListEnd::GoesOn:
             writer_.remark("the list goes on behind its last element");

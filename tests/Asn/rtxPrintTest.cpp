@@ -306,14 +306,15 @@ TEST_F(Print, AMemberOfAGroupThatIsNotSentIsShownAsSuch)
 TEST_F(Print, UnknownAdditions)
 {
     Box box = {};
-    auto* const absent = make<ASN1OpenType>();
+    auto* const empty = make<ASN1OpenType>();
     auto* const present = make<ASN1OpenType>();
     present->numocts = 2;
     present->data = reinterpret_cast<OSOCTET*>(make<std::array<OSOCTET, 2>>());
     present->data[0] = 0xFF;
-    append(box.extElem1, absent);
+    present->index = 3;
+    append(box.extElem1, empty);
     append(box.extElem1, present);
-    EXPECT_EQ("x\n  level 0\n  extElem1: 2 unknown additions\n    [0]: absent\n    [1]: 2 octets FF00\n",
+    EXPECT_EQ("x\n  level 0\n  extElem1: 2 unknown additions\n    [0]: a null pointer\n    [3]: 2 octets FF00\n",
               printed(boxType, &box));
 
     box.extElem1.tail->next = box.extElem1.head;

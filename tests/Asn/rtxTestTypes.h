@@ -62,21 +62,26 @@ inline constexpr Type levelType = {
 inline constexpr Type oddType = {.name = "Odd", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 5};
 // INTEGER (0..65535), (-400..400), the whole of 32 bits
 inline constexpr Type wideType = {
-    .name = "Wide", .kind = Kind::Integer, .width = 2, .size = 2, .lower = 0, .upper = 65535};
+    .name = "Wide", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 65535};
 inline constexpr Type biasType = {
-    .name = "Bias", .kind = Kind::Integer, .width = 2, .size = 2, .lower = -400, .upper = 400};
+    .name = "Bias", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = -400, .upper = 400};
 inline constexpr Type wholeType = {
-    .name = "Whole", .kind = Kind::Integer, .width = 4, .size = 4, .lower = INT32_MIN, .upper = INT32_MAX};
+    .name = "Whole", .kind = Kind::Integer, .width = 4, .align = 4, .size = 4, .lower = INT32_MIN, .upper = INT32_MAX};
 
 inline const char* const colours[] = {"red", "green", "blue"};
 inline constexpr Type colourType = {
-    .name = "Colour", .kind = Kind::Enumerated, .size = 4, .upper = 2, .names = colours};
+    .name = "Colour", .kind = Kind::Enumerated, .align = 4, .size = 4, .upper = 2, .names = colours};
 inline const char* const onlyNames[] = {"true"};
-inline constexpr Type onlyType = {.name = "Only", .kind = Kind::Enumerated, .size = 4, .upper = 0, .names = onlyNames};
+inline constexpr Type onlyType = {
+    .name = "Only", .kind = Kind::Enumerated, .align = 4, .size = 4, .upper = 0, .names = onlyNames};
 
 // BIT STRING (SIZE (5)), (SIZE (43))
-inline constexpr Type mapType = {
-    .name = "Map", .kind = Kind::BitStr32, .size = sizeof(ASN1BitStr32), .lower = 5, .upper = 5};
+inline constexpr Type mapType = {.name = "Map",
+                                 .kind = Kind::BitStr32,
+                                 .align = alignof(ASN1BitStr32),
+                                 .size = sizeof(ASN1BitStr32),
+                                 .lower = 5,
+                                 .upper = 5};
 inline constexpr Type longMapType = {.name = "LongMap", .kind = Kind::BitOctets, .size = 6, .lower = 43, .upper = 43};
 
 // Item ::= SEQUENCE { id Odd, shade Colour OPTIONAL }
@@ -96,6 +101,7 @@ inline constexpr Member itemMembers[] = {
 };
 inline constexpr Type itemType = {.name = "Item",
                                   .kind = Kind::Sequence,
+                                  .align = alignof(Item),
                                   .size = sizeof(Item),
                                   .names = itemNames,
                                   .members = itemMembers,
@@ -107,6 +113,7 @@ inline constexpr Type itemType = {.name = "Item",
 inline constexpr Member itemsElement = member(itemType, 0);
 inline constexpr Type itemsType = {.name = "Items",
                                    .kind = Kind::List,
+                                   .align = alignof(OSRTDList),
                                    .size = sizeof(OSRTDList),
                                    .lower = 1,
                                    .upper = 3,
@@ -125,6 +132,7 @@ inline constexpr Member numbersElement = member(oddType, offsetof(Numbers, elem)
 inline constexpr Type numbersType = {.name = "Numbers",
                                      .kind = Kind::Array,
                                      .width = 1,
+                                     .align = alignof(Numbers),
                                      .size = sizeof(Numbers),
                                      .lower = 1,
                                      .upper = 5,
@@ -141,6 +149,7 @@ struct Pair
 inline constexpr Member pairElement = member(levelType, 0);
 inline constexpr Type pairType = {.name = "Pair",
                                   .kind = Kind::Array,
+                                  .align = alignof(Pair),
                                   .size = sizeof(Pair),
                                   .lower = 2,
                                   .upper = 2,
@@ -158,6 +167,7 @@ inline constexpr Member manyElement = member(flagType, offsetof(Many, elem));
 inline constexpr Type manyType = {.name = "Many",
                                   .kind = Kind::Array,
                                   .width = 2,
+                                  .align = alignof(Many),
                                   .size = sizeof(Many),
                                   .lower = 0,
                                   .upper = 300,
@@ -184,6 +194,7 @@ inline constexpr Member threeMembers[] = {
 };
 inline constexpr Type threeType = {.name = "Three",
                                    .kind = Kind::Choice,
+                                   .align = alignof(Three),
                                    .size = sizeof(Three),
                                    .names = threeNames,
                                    .members = threeMembers,
@@ -213,6 +224,7 @@ inline constexpr Member pickMembers[] = {
 inline constexpr Type pickType = {.name = "Pick",
                                   .kind = Kind::Choice,
                                   .extensible = true,
+                                  .align = alignof(Pick),
                                   .size = sizeof(Pick),
                                   .names = pickNames,
                                   .members = pickMembers,
@@ -252,6 +264,7 @@ inline constexpr Addition boxAdditions[] = {{1, 2, 2}, {-1, 4, 1}, {5, 5, 1}};
 inline constexpr Type boxType = {.name = "Box",
                                  .kind = Kind::Sequence,
                                  .extensible = true,
+                                 .align = alignof(Box),
                                  .size = sizeof(Box),
                                  .names = boxNames,
                                  .members = boxMembers,
@@ -264,7 +277,7 @@ inline constexpr Type boxType = {.name = "Box",
 
 // Samples ::= SEQUENCE (SIZE (17000)) OF INTEGER (0..40000): 34000 octets
 inline constexpr Type sampleType = {
-    .name = "Sample", .kind = Kind::Integer, .width = 2, .size = 2, .lower = 0, .upper = 40000};
+    .name = "Sample", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 40000};
 struct Samples
 {
     OSUINT16 elem[17000];
@@ -272,6 +285,7 @@ struct Samples
 inline constexpr Member samplesElement = member(sampleType, 0);
 inline constexpr Type samplesType = {.name = "Samples",
                                      .kind = Kind::Array,
+                                     .align = alignof(Samples),
                                      .size = sizeof(Samples),
                                      .lower = 17000,
                                      .upper = 17000,
@@ -297,6 +311,7 @@ inline constexpr Addition traceAdditions[] = {{-1, 0, 1}};
 inline constexpr Type traceType = {.name = "Trace",
                                    .kind = Kind::Sequence,
                                    .extensible = true,
+                                   .align = alignof(Trace),
                                    .size = sizeof(Trace),
                                    .names = traceNames,
                                    .members = traceMembers,

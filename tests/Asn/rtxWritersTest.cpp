@@ -292,9 +292,12 @@ TEST_F(Writers, ExtensionAdditions)
 TEST_F(Writers, UnknownAdditions)
 {
     Box box = {};
-    append(box.extElem1, make<ASN1OpenType>());
-    append(box.extElem1, open({0xFF, 0x00}));
-    append(box.extElem1, open({0x0A}));
+    ASN1OpenType* const first = open({0xFF, 0x00});
+    ASN1OpenType* const second = open({0x0A});
+    first->index = 1;
+    second->index = 2;
+    append(box.extElem1, first);
+    append(box.extElem1, second);
     // Box knows three additions; the first one that it does not know is absent.
     expect(boxType, &box,
            {R"({"level":0,"$unknownAdditions":[{"index":4,"octets":"FF00"},{"index":5,"octets":"0A"}]})",
@@ -632,7 +635,7 @@ protected:
         input_ = bits(octets);
         input_.reserve(1); // so that there is a buffer
         ASSERT_EQ(RTX_OK, pu_setBuffer(&ctxt, input_.data(), input_.size(), 0));
-        status = rtx::decode(ctxt, type, value);
+        status = rtxDecode(&ctxt, &type, value, 0);
         char text[400];
         rtxErrFormat(&ctxt, text, sizeof text);
         EXPECT_NE(RTX_OK, status);

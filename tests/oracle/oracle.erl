@@ -3,6 +3,7 @@
 -export([main/0]).
 
 -define(MODULE_NAME, 'NR-RRC-Definitions').
+-define(JER, 'NR-RRC-JER').
 -define(LARGEST, 8000).
 
 main() ->
@@ -17,6 +18,8 @@ run("show", [], Model) ->
     each_line(fun(Type, Octets) -> show(Type, Octets, Model) end, Model);
 run("read", [], Model) ->
     each_line(fun(Type, Octets) -> read(Type, Octets, Model) end, Model);
+run("jer", [], Model) ->
+    each_line(fun jer/2, Model);
 run("generate", [Type, Count, Seed], Model) ->
     generate(Type, Count, Seed, all, Model);
 run("sample", [Type, Count, Seed], Model) ->
@@ -83,6 +86,16 @@ read(Type, Octets, Model) ->
         {ok, Value, Again} -> {ok, [hex(Again), $\s, json({ref, Type}, Value, numbered(Model))]};
         Error -> Error
     end.
+
+%% What asn1ct's own JER back end writes.
+jer(Type, Octets) ->
+    case decode(Type, Octets) of
+        {ok, Value, _} -> encoded_jer(?JER:encode(Type, Value));
+        Error -> Error
+    end.
+
+encoded_jer({error, Reason}) -> {error, reason(Reason)};
+encoded_jer(Result) -> Result.
 
 numbered(Model) ->
     Model#{enumerations => numbers}.

@@ -39,6 +39,10 @@ class Oracle:
     def reencode(self, pairs):
         return answers(self.command + ["reencode"], [" ".join(pair) for pair in pairs])
 
+    def jer(self, pairs):
+        """The JER of asn1ct's own back end, of (type, hex)."""
+        return answers(self.command + ["jer"], [" ".join(pair) for pair in pairs])
+
     def read(self, cell_groups):
         """Of each cell group, in hex, its octets again and its value with numbers for enumerations."""
         return answers(self.command + ["read"], [f"CellGroupConfig {octets}" for octets in cell_groups])

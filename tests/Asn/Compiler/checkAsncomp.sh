@@ -6,6 +6,7 @@ set -uo pipefail
 asncomp=$1
 scratch=$2
 schema=Asn/Schema/NR-RRC-Definitions.asn1
+usual=Asn/Schema/usual.txt
 result=0
 
 fail()
@@ -28,7 +29,8 @@ expect()
 rm -rf "$scratch"
 mkdir -p "$scratch/inc" "$scratch/src" "$scratch/none"
 
-expect 0 "" --schema "$schema" --inc "$scratch/inc" --src "$scratch/src" --pdu CellGroupConfig
+expect 0 "" --schema "$schema" --inc "$scratch/inc" --src "$scratch/src" --pdu CellGroupConfig \
+    --usual "$usual"
 for folder in inc src; do
     checked_in=Asn/${folder^}
     for file in "$scratch/$folder"/*; do
@@ -47,6 +49,12 @@ expect 1 "asncomp: cannot read $scratch/missing: No such file" \
     --schema "$scratch/missing" --inc "$scratch/none" --src "$scratch/none" --pdu all
 expect 1 "asncomp: cannot write $scratch/missing/NR-RRC-Definitions.h: No such file" \
     --schema "$schema" --inc "$scratch/missing" --src "$scratch/none" --pdu all
+
+expect 1 "asncomp: cannot read $scratch/missing: No such file" \
+    --schema "$schema" --inc "$scratch/none" --src "$scratch/none" --pdu all --usual "$scratch/missing"
+printf 'CellGroupConfig.spCellConfig\nCellGroupConfig.spcellConfig\n' >"$scratch/usual.txt"
+expect 1 "there is no member 'CellGroupConfig.spcellConfig'" \
+    --schema "$schema" --inc "$scratch/none" --src "$scratch/none" --pdu all --usual "$scratch/usual.txt"
 
 printf 'M DEFINITIONS AUTOMATIC TAGS ::= BEGIN\nA ::= OCTET STRING\nB ::= SEQUENCE {}\nEND\n' >"$scratch/bad.asn1"
 expect 1 "$scratch/bad.asn1:2:7: OCTET is not supported" \

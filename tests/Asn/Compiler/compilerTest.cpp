@@ -347,6 +347,46 @@ TEST(Options, APduHasAnEncoderADecoderAndAPrinter)
     EXPECT_THAT(header, Not(HasSubstr("asn1PE_C"))) << "has no value";
 }
 
+TEST(Options, WhatIsNotUsualIsUnlikely)
+{
+    const std::string schema = R"(M DEFINITIONS AUTOMATIC TAGS ::= BEGIN
+        A ::= SEQUENCE { x BOOLEAN OPTIONAL, y BOOLEAN OPTIONAL, ..., [[ z BOOLEAN OPTIONAL ]], [[ w BOOLEAN OPTIONAL ]] }
+        B ::= CHOICE { x BOOLEAN, y BOOLEAN }
+        C ::= SEQUENCE { ..., [[ x BOOLEAN OPTIONAL ]] }
+        D ::= SEQUENCE { ..., [[ x BOOLEAN ]] }
+        END)";
+    const auto encoder = [&](const std::vector<std::string>& usual)
+    {
+        Diagnostics diagnostics("t");
+        const auto files = asncomp::compile("t", schema, {{"all"}, {}, {}, usual}, diagnostics);
+        EXPECT_THAT(diagnostics.messages(), IsEmpty());
+        return files.at(3).text;
+    };
+    const std::string some = encoder({"A.y", "A.z", "B.x"});
+    EXPECT_THAT(some, HasSubstr("if (v->m.xPresent) [[unlikely]]\n"));
+    EXPECT_THAT(some, HasSubstr("if (v->m.yPresent)\n"));
+    EXPECT_THAT(some, HasSubstr("if (extended)\n")) << "A";
+    EXPECT_THAT(some, HasSubstr("if (addition0 != 0)\n")) << "A";
+    EXPECT_THAT(some, HasSubstr("if (addition1 != 0) [[unlikely]]\n"));
+    EXPECT_THAT(some, HasSubstr("if (extended) [[unlikely]]\n")) << "C";
+    EXPECT_THAT(some.substr(some.find("pe_D")), Not(HasSubstr("!= 0) [[unlikely]]"))) << "which the list cannot tell";
+    EXPECT_THAT(some, HasSubstr("        case T_B_x:\n"));
+    EXPECT_THAT(some, HasSubstr("        [[unlikely]] case T_B_y:\n"));
+    EXPECT_THAT(encoder({}), Not(HasSubstr("Present) [[unlikely]]")));
+    EXPECT_THAT(encoder({}), Not(HasSubstr("[[unlikely]] case")));
+}
+
+TEST(Options, AUsualMemberIsOneOfTheSchema)
+{
+    Diagnostics diagnostics("t");
+    EXPECT_THAT(asncomp::compile("t",
+                                 "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN A ::= SEQUENCE { x BOOLEAN OPTIONAL } END",
+                                 {{"all"}, {}, {}, {"A.x", "A.y", "B.x"}}, diagnostics),
+                IsEmpty());
+    EXPECT_THAT(diagnostics.messages(),
+                ElementsAre(HasSubstr("there is no member 'A.y'"), HasSubstr("there is no member 'B.x'")));
+}
+
 TEST(Options, ABaseGivesTheFunctionsAlone)
 {
     Diagnostics diagnostics("t");
