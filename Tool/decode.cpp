@@ -50,7 +50,11 @@ std::string canonicity(const Message& message)
 std::string verdict(const Message& message)
 {
     const RtxDecoded& decoded = message.context().decoded;
-    std::string text = std::string(message.pdu().name) + ", " + counted(decoded.octets, "octet");
+    std::string text = message.pdu().name;
+    if (!message.isText())
+    {
+        text += ", " + counted(decoded.octets, "octet");
+    }
     if (decoded.unknown != 0)
     {
         text += ", " + counted(decoded.unknown, "unknown addition");
@@ -75,12 +79,15 @@ void decode(Session& session, const Operands& operands, DecodeForm form)
         {
             session.put("# " + given.place() + "\n");
         }
-        session.put(textIn(form, message, given));
-        if (message.error())
+        if (message.mistakes().empty() && !isVerdict)
         {
-            throw Failure(Exit::Malformed, given.place() + ": " + *message.error());
+            session.put(textIn(form, message, given));
         }
-        session.note(given.place() + ": " + canonicity(message));
+        message.expectGood();
+        if (!message.isText())
+        {
+            session.note(given.place() + ": " + canonicity(message));
+        }
         if (isVerdict)
         {
             session.put(given.place() + ": " + verdict(message) + "\n");

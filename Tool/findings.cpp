@@ -38,9 +38,21 @@ std::string_view severityName(Severity severity)
     return "note";
 }
 
-std::string placeOf(const Origin& origin)
+// The readers of a finding look for a line; a message in octets begins at its file's first.
+std::size_t lineOf(const Origin& origin, const Finding& finding)
 {
-    return origin.line == 0 ? origin.file : origin.file + ":" + std::to_string(origin.line);
+    return std::max<std::size_t>(finding.line != 0 ? finding.line : origin.line, 1);
+}
+
+std::string columnText(const Finding& finding)
+{
+    return finding.column == 0 ? "" : ":" + std::to_string(finding.column);
+}
+
+std::string placeOf(const Origin& origin, const Finding& finding)
+{
+    const bool hasLine = finding.line != 0 || origin.line != 0;
+    return origin.file + (hasLine ? ":" + std::to_string(lineOf(origin, finding)) : "") + columnText(finding);
 }
 
 std::string textOf(const Findings& findings, bool color)
@@ -49,7 +61,7 @@ std::string textOf(const Findings& findings, bool color)
     for (const Finding& finding : findings.findings)
     {
         const std::string_view severity = severityName(finding.severity);
-        text += placeOf(findings.origin) + ": " +
+        text += placeOf(findings.origin, finding) + ": " +
                 styled(severity, finding.severity == Severity::Error ? Style::Red : Style::Yellow, color) + ": " +
                 styled(finding.path, Style::Bold, color) + ": " + finding.message + " [" + finding.id + "]\n";
         if (!finding.advice.empty())
@@ -64,15 +76,14 @@ std::string textOf(const Findings& findings, bool color)
     return text;
 }
 
-// A line is what the readers of this form look for; the message of a whole file begins at its first.
 std::string gccOf(const Findings& findings)
 {
     std::string text;
     for (const Finding& finding : findings.findings)
     {
-        text += findings.origin.file + ":" + std::to_string(std::max<std::size_t>(findings.origin.line, 1)) + ": " +
-                std::string(severityName(finding.severity)) + ": " + finding.path + ": " + finding.message + " [" +
-                finding.id + "]\n";
+        text += findings.origin.file + ":" + std::to_string(lineOf(findings.origin, finding)) + columnText(finding) +
+                ": " + std::string(severityName(finding.severity)) + ": " + finding.path + ": " + finding.message +
+                " [" + finding.id + "]\n";
     }
     return text;
 }
@@ -95,6 +106,11 @@ Json jsonOf(const std::vector<Findings>& all)
         {
             Json json = {{"id", finding.id}, {"severity", severityName(finding.severity)}, {"path", finding.path}};
             json["message"] = finding.message;
+            if (finding.line != 0)
+            {
+                json["line"] = finding.line;
+                json["column"] = finding.column;
+            }
             setUnlessEmpty(json, "value", finding.value);
             setUnlessEmpty(json, "allowed", finding.allowed);
             setUnlessEmpty(json, "advice", finding.advice);
@@ -143,7 +159,12 @@ Json sarifResult(const Origin& origin, const Finding& finding, std::size_t rule)
     }
     Json location;
     location["physicalLocation"]["artifactLocation"]["uri"] = uriOf(origin.file);
-    location["physicalLocation"]["region"]["startLine"] = std::max<std::size_t>(origin.line, 1);
+    Json& region = location["physicalLocation"]["region"];
+    region["startLine"] = lineOf(origin, finding);
+    if (finding.column != 0)
+    {
+        region["startColumn"] = finding.column;
+    }
     location["logicalLocations"] = Json::array({{{"fullyQualifiedName", finding.path}, {"kind", "member"}}});
     Json result = {{"ruleId", finding.id}, {"ruleIndex", rule}, {"level", severityName(finding.severity)}};
     result["message"]["text"] = finding.path + ": " + text;

@@ -21,12 +21,14 @@ struct Finding
 {
     std::string id; // names the rule, the same for all that break it: "asn1-range"
     Severity severity = Severity::Error;
-    std::string path;    // ASN.1 path of the place in the message
-    std::string message; // what is wrong, one sentence without the path
-    std::string value;   // what is there; empty when there is nothing to show
-    std::string allowed; // what could be there
-    std::string advice;  // what to do
-    std::string clause;  // the standard's: "TS 38.331 6.3.2"
+    std::string path;     // ASN.1 path of the place in the message
+    std::string message;  // what is wrong, one sentence without the path
+    std::string value;    // what is there; empty when there is nothing to show
+    std::string allowed;  // what could be there
+    std::string advice;   // what to do
+    std::string clause;   // the standard's: "X.680 51.4"
+    std::size_t line = 0; // of the place in a text, both from 1; 0 when there is none
+    std::size_t column = 0;
 };
 
 // Where the message of the findings was given.

@@ -70,6 +70,8 @@ public:
         app_.get_option("--help")->group("Options");
         decode();
         encode();
+        diff();
+        check();
         find();
         pcap();
         explain();
@@ -143,7 +145,7 @@ private:
             message = "there is no " + kindOf(left.front(), used) + " '" + left.front() + "'";
             const std::vector<std::string> names = namesOf(left.front(), *used);
             const std::vector<std::string_view> views(names.begin(), names.end());
-            if (const auto close = tool::nearest(left.front(), views))
+            if (const auto close = text::nearest(left.front(), views))
             {
                 message += "; did you mean " + std::string(*close) + "?";
             }

@@ -1,36 +1,40 @@
 #include "message.h"
 
+#include "asn1FromText.h"
 #include "rtxType.h"
+
+#include <algorithm>
 
 namespace tool
 {
 namespace
 {
 
-// The longest path has RTX_MAX_DEPTH names.
-constexpr std::size_t longestError = 8192;
+// Of the longest path and its reason.
+constexpr std::size_t longestLine = 8192;
 
-std::string errorOf(const OSCTXT& context)
+bool isTextForm(Form form)
 {
-    std::string text(longestError, '\0');
-    text.resize(std::min(rtxErrFormat(&context, text.data(), text.size()), text.size() - 1));
-    return text;
+    return form == Form::Jer || form == Form::Flat;
 }
 
 } // namespace
 
 Message::Message(const RtxPdu& pdu, const Given& given)
     : pdu_(pdu),
-      place_(given.place()),
-      value_(pdu.type->size / sizeof(std::max_align_t) + 1),
-      octets_(given.input.octets)
+      given_(given),
+      isText_(isTextForm(given.input.form)),
+      value_(pdu.type->size / sizeof(std::max_align_t) + 1)
 {
     rtxInitContext(&context_);
-    if (given.input.form == Form::Jer || given.input.form == Form::Flat)
+    if (isText_)
     {
-        throw Failure(Exit::Malformed, place_ + ": a text that cannot be read");
+        readText(given.input);
     }
-    decode();
+    else
+    {
+        decode();
+    }
 }
 
 Message::~Message()
@@ -40,22 +44,53 @@ Message::~Message()
 
 void Message::decode()
 {
-    // An empty message has no octets to point at; the decoder wants a buffer all the same.
-    octets_.reserve(1);
+    octets_ = given_.input.octets;
+    octets_.reserve(1); // an empty message has an address, too
     (void)pu_setBuffer(&context_, octets_.data(), octets_.size(), 0);
-    if (rtxDecode(&context_, pdu_.type, value_.data(), 0) != 0)
+    // Its status stays in the context's error.
+    (void)rtxDecode(&context_, pdu_.type, value_.data(), 0);
+}
+
+void Message::readText(const Input& input)
+{
+    const auto read = input.form == Form::Jer ? asn1FromJson : asn1FromFlat;
+    const auto sink = [](void* to, const Asn1Mistake* mistake)
     {
-        error_ = errorOf(context_);
+        static_cast<std::vector<Mistake>*>(to)->push_back(
+            {mistake->line, mistake->column, mistake->path, mistake->words});
+    };
+    (void)read(&context_, pdu_.type, value_.data(), input.text.data(), input.text.size(), sink, &mistakes_);
+}
+
+void Message::expectGood() const
+{
+    if (const RtxError* const wrong = error())
+    {
+        throw Failure(Exit::Malformed, given_.place() + ": " + errorText(*wrong));
+    }
+    std::string text;
+    for (const Mistake& mistake : mistakes_)
+    {
+        // A message on a line of its own has only columns.
+        const std::string line = given_.line == 0 ? ":" + std::to_string(mistake.line) : "";
+        text += (text.empty() ? "" : "\ncellgroupcfg: ") + given_.place() + line + ":" +
+                std::to_string(mistake.column) + ": " + (mistake.path.empty() ? "" : mistake.path + ": ") +
+                mistake.words;
+    }
+    if (!text.empty())
+    {
+        throw Failure(Exit::Malformed, text);
     }
 }
 
 std::vector<std::uint8_t> Message::encode()
 {
+    expectGood();
     std::vector<std::uint8_t> buffer(maxMessageOctets);
     (void)pu_setBuffer(&context_, buffer.data(), buffer.size(), 0);
     if (pdu_.encode(&context_, value_.data()) != 0)
     {
-        throw Failure(Exit::Malformed, place_ + ": " + errorOf(context_));
+        throw Failure(Exit::Malformed, given_.place() + ": " + errorText(context_.error));
     }
     buffer.resize(pu_getMsgLen(&context_));
     return buffer;
@@ -67,10 +102,26 @@ std::string treeText(const Message& message)
                    { rtx::print(&message.context(), *message.pdu().type, nullptr, message.value(), sink, arg); });
 }
 
+std::string valueText(const OSCTXT* context, const RtxType& type, const void* value)
+{
+    std::string text = written([&](RtxPrintSink sink, void* arg)
+                               { (void)rtxToValueNotation(context, &type, value, RTX_COMPACT, sink, arg); });
+    constexpr std::string_view sign = "::= ";
+    text.erase(0, text.find(sign) + sign.size());
+    text.pop_back(); // the line end
+    return text;
+}
+
+std::string errorText(const RtxError& error)
+{
+    std::string text(longestLine, '\0');
+    text.resize(std::min(rtxErrorFormat(&error, text.data(), text.size()), text.size() - 1));
+    return text;
+}
+
 std::vector<std::uint8_t> octetsOf(const RtxPdu& pdu, const Given& given)
 {
-    const bool isText = given.input.form == Form::Jer || given.input.form == Form::Flat;
-    return isText ? Message(pdu, given).encode() : given.input.octets;
+    return isTextForm(given.input.form) ? Message(pdu, given).encode() : given.input.octets;
 }
 
 } // namespace tool

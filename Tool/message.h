@@ -1,12 +1,10 @@
-// A message that has been read: its octets, its element tree, and what was wrong with it.
+// A message that has been read: its element tree, and what is wrong with it.
 #pragma once
 
 #include "messageTypes.h"
 #include "session.h"
 
 #include <cstddef>
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,8 +14,8 @@ namespace tool
 class Message
 {
 public:
-    // Reads the input as a message of the type. A malformed one in octets leaves its error in error(), and what was
-    // read before it in the tree; a text that is no message of the type is a Failure.
+    // Reads the input as a message of the type; `given` has to live as long. Of malformed octets the tree has what was
+    // read before the error, of a text with mistakes nothing.
     Message(const RtxPdu& pdu, const Given& given);
     ~Message();
     Message(const Message&) = delete;
@@ -32,32 +30,54 @@ public:
     {
         return context_;
     }
+    OSCTXT& context()
+    {
+        return context_;
+    }
     const void* value() const
     {
         return value_.data();
     }
-    // Path, reason and place of what makes the message malformed.
-    const std::optional<std::string>& error() const
+
+    bool isText() const
     {
-        return error_;
+        return isText_;
     }
-    // As given, empty for a text.
-    const std::vector<std::uint8_t>& octets() const
+    // Why the octets cannot be decoded; null when they can, and for a text.
+    const RtxError* error() const
     {
-        return octets_;
+        return isText_ || context_.error.status == RTX_OK ? nullptr : &context_.error;
     }
-    // The encoding of the tree. Throws Failure when the tree breaks a rule.
+
+    // A mistake in a text.
+    struct Mistake
+    {
+        std::size_t line; // both from 1
+        std::size_t column;
+        std::string path;
+        std::string words;
+    };
+    const std::vector<Mistake>& mistakes() const
+    {
+        return mistakes_;
+    }
+
+    // Throws Failure with all that makes the message malformed, a line each; nothing when it is well-formed.
+    void expectGood() const;
+    // The encoding of a good message's tree. Throws Failure.
     std::vector<std::uint8_t> encode();
 
 private:
     void decode();
+    void readText(const Input& input);
 
     const RtxPdu& pdu_;
-    std::string place_;
+    const Given& given_;
+    bool isText_;
     OSCTXT context_;
     std::vector<std::max_align_t> value_;
-    std::vector<std::uint8_t> octets_;
-    std::optional<std::string> error_;
+    std::vector<std::uint8_t> octets_; // what the decoder reads
+    std::vector<Mistake> mistakes_;
 };
 
 // What a writer of the runtime gives piece by piece: `write(sink, arg)`.
@@ -70,6 +90,12 @@ std::string written(const Write& write)
 }
 
 std::string treeText(const Message& message);
+
+// A value in X.680's notation, on one line and without its type. Its pointers lead into the context's heap.
+std::string valueText(const OSCTXT* context, const RtxType& type, const void* value);
+
+// "path: what is wrong", with octet and bit where they are known.
+std::string errorText(const RtxError& error);
 
 // The message's octets: as given, or the encoding of a text. Throws Failure.
 std::vector<std::uint8_t> octetsOf(const RtxPdu& pdu, const Given& given);

@@ -28,7 +28,7 @@ const RtxPdu& typeNamed(std::string_view name)
     {
         names.emplace_back(pdu.name);
     }
-    const auto close = nearest(name, names);
+    const auto close = text::nearest(name, names);
     throw Failure(Exit::Usage, "there is no type '" + std::string(name) + "'" +
                                    (close ? "; did you mean " + std::string(*close) + "?" : ""));
 }

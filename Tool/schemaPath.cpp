@@ -19,7 +19,7 @@ namespace
         throw PathError(where + ", as it is no SEQUENCE and no CHOICE");
     }
     const std::vector<std::string_view> names(type.names, type.names + type.memberCount);
-    if (const auto close = nearest(name, names))
+    if (const auto close = text::nearest(name, names))
     {
         throw PathError(where + "; did you mean " + std::string(*close) + "?");
     }

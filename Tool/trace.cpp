@@ -18,17 +18,6 @@ constexpr std::uint64_t mostBits = 64;
 // That many of a field's bits are given as a number.
 constexpr std::uint64_t mostGiven = 57;
 
-std::string leafText(const RtxType& type, const void* value)
-{
-    std::string text = written([&](RtxPrintSink sink, void* arg)
-                               { (void)rtxToValueNotation(nullptr, &type, value, RTX_COMPACT, sink, arg); });
-    while (text.ends_with('\n'))
-    {
-        text.pop_back();
-    }
-    return text;
-}
-
 class Table
 {
 public:
@@ -191,7 +180,7 @@ private:
         case RTX_FIELD_LENGTH:
             return ": " + length(field);
         case RTX_FIELD_VALUE:
-            return " = " + leafText(*field.type, field.value);
+            return " = " + valueText(nullptr, *field.type, field.value);
         case RTX_FIELD_PADDING:
             return ": padding";
         case RTX_FIELD_UNKNOWN:

@@ -1,0 +1,169 @@
+// diff: in what two messages differ.
+#include "commands.h"
+#include "message.h"
+#include "octets.h"
+#include "style.h"
+
+#include <nlohmann/json.hpp>
+
+namespace tool
+{
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+struct Difference
+{
+    OSINT32 kind; // RtxDifferenceKind
+    std::string path;
+    std::string a; // value notation, empty where there is none
+    std::string b;
+};
+
+class Comparison
+{
+public:
+    // Takes memory of a's heap while it compares.
+    // Takes memory of the heap of `a` while it compares.
+    Comparison(Message& a, const Message& b) : a_(a), b_(b)
+    {
+        const auto sink = [](void* to, const RtxDifference* difference)
+        {
+            static_cast<Comparison*>(to)->add(*difference);
+            return 0;
+        };
+        if (rtxCompare(&a.context(), &b.context(), a.pdu().type, a.value(), b.value(), sink, this) < 0)
+        {
+            throw Failure(Exit::Usage, "out of memory");
+        }
+    }
+
+    const std::vector<Difference>& differences() const
+    {
+        return differences_;
+    }
+
+private:
+    void add(const RtxDifference& difference)
+    {
+        const bool isOrder = difference.kind == RTX_D_ORDER;
+        differences_.push_back({difference.kind, pathOf(difference),
+                                isOrder ? "" : text(a_, difference.type, difference.a),
+                                isOrder ? "" : text(b_, difference.type, difference.b)});
+    }
+
+    static std::string pathOf(const RtxDifference& difference)
+    {
+        std::string line(rtxDifferenceFormat(&difference, nullptr, 0) + 1, '\0');
+        (void)rtxDifferenceFormat(&difference, line.data(), line.size());
+        return line.substr(0, line.find(": "));
+    }
+
+    static std::string text(const Message& message, const RtxType* type, const void* value)
+    {
+        if (value == nullptr)
+        {
+            return "";
+        }
+        if (type != nullptr)
+        {
+            return valueText(&message.context(), *type, value);
+        }
+        const auto& unknown = *static_cast<const ASN1OpenType*>(value);
+        return "'" + toHex({unknown.data, unknown.numocts}, Case::Upper) + "'H";
+    }
+
+    const Message& a_;
+    const Message& b_;
+    std::vector<Difference> differences_;
+};
+
+std::string_view kindName(OSINT32 kind)
+{
+    switch (kind)
+    {
+    case RTX_D_ONLY_A:
+        return "removed";
+    case RTX_D_ONLY_B:
+        return "added";
+    case RTX_D_ORDER:
+        return "order";
+    case RTX_D_UNREADABLE:
+        return "unreadable";
+    default:
+        return "changed";
+    }
+}
+
+std::string line(const Difference& difference, bool color)
+{
+    const auto value = [](const std::string& text)
+    {
+        return text.empty() ? "" : " = " + text;
+    };
+    switch (difference.kind)
+    {
+    case RTX_D_ONLY_A:
+        return styled("- " + difference.path + value(difference.a), Style::Red, color);
+    case RTX_D_ONLY_B:
+        return styled("+ " + difference.path + value(difference.b), Style::Green, color);
+    case RTX_D_ORDER:
+        return styled("~ " + difference.path + ": the elements stand in another order", Style::Yellow, color);
+    case RTX_D_UNREADABLE:
+        return styled("~ " + difference.path + ": cannot be compared", Style::Yellow, color);
+    default:
+        return styled("~ " + difference.path + ": ", Style::Yellow, color) +
+               styled(difference.a.empty() ? "none" : difference.a, Style::Red, color) + " -> " +
+               styled(difference.b.empty() ? "none" : difference.b, Style::Green, color);
+    }
+}
+
+std::string jsonOf(const std::vector<Difference>& differences)
+{
+    Json all = Json::array();
+    for (const Difference& difference : differences)
+    {
+        Json one = {{"kind", kindName(difference.kind)}, {"path", difference.path}};
+        if (!difference.a.empty())
+        {
+            one["a"] = difference.a;
+        }
+        if (!difference.b.empty())
+        {
+            one["b"] = difference.b;
+        }
+        all.push_back(std::move(one));
+    }
+    return Json{{"version", 1}, {"differences", std::move(all)}}.dump(2) + "\n";
+}
+
+} // namespace
+
+void diff(Session& session, const std::string& a, const std::string& b, bool json)
+{
+    const Given givenA = session.only(a);
+    const Given givenB = session.only(b);
+    Message messageA(*session.common().type, givenA);
+    const Message messageB(*session.common().type, givenB);
+    messageA.expectGood();
+    messageB.expectGood();
+    const Comparison comparison(messageA, messageB);
+    if (json)
+    {
+        session.put(jsonOf(comparison.differences()));
+    }
+    else
+    {
+        for (const Difference& difference : comparison.differences())
+        {
+            session.put(line(difference, session.color()) + "\n");
+        }
+    }
+    if (!comparison.differences().empty())
+    {
+        session.raise(Exit::Findings);
+    }
+}
+
+} // namespace tool
