@@ -79,13 +79,13 @@ private:
     void capture(const std::string& name, std::span<const std::uint8_t> raw)
     {
         std::uint64_t done = 0;
-        const auto packet = [&](const Packet& packet)
+        const auto visit = [&](const Packet& packet)
         {
             done += packet.octets.size();
             session_.progress(done, raw.size());
             octets(name + ": packet " + std::to_string(packet.number), packet.octets);
         };
-        if (const auto problem = readCapture(raw, nullptr, packet))
+        if (const auto problem = readCapture(raw, nullptr, visit))
         {
             throw Failure(Exit::Malformed, name + ": " + *problem);
         }
