@@ -96,9 +96,13 @@ private:
     // A comment that begins with the word of an annotation is read, between two tokens of hyphens.
     bool startsAnnotation() const
     {
-        const std::size_t word = source_.find_first_not_of(' ', position_ + hyphens.size());
-        return word != std::string_view::npos && source_.substr(word, annotation.size()) == annotation &&
-               (word + annotation.size() == source_.size() || source_[word + annotation.size()] == ' ');
+        const std::size_t begin = source_.find_first_not_of(' ', position_ + hyphens.size());
+        if (begin == std::string_view::npos || source_.substr(begin, annotation.size()) != annotation)
+        {
+            return false;
+        }
+        const char next = peek(begin + annotation.size() - position_);
+        return !isLetter(next) && !isDigit(next);
     }
 
     void annotationMark()

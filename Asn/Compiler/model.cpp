@@ -477,6 +477,10 @@ private:
     // Sets what identifies the elements of a list. The parser has seen that the list is the member's own.
     void identify(Type& list, const ast::Name& source)
     {
+        if (list.element == nullptr)
+        {
+            return; // reported
+        }
         const Type& element = *list.element;
         if (list.kind == Kind::Array)
         {
@@ -628,6 +632,7 @@ private:
 
     void sequenceOf(Type& type, const ast::Type& source, const Parameter* parameter, unsigned nesting)
     {
+        type.kind = Kind::List;
         bounds(type, source, 0, maxListCount, "size");
         if (type.upper == 0)
         {
@@ -639,8 +644,10 @@ private:
             return; // reported
         }
         type.depth = type.element->depth + 1;
-        type.kind =
-            type.element->kind == Kind::Integer || type.element->kind == Kind::Enumerated ? Kind::Array : Kind::List;
+        if (type.element->kind == Kind::Integer || type.element->kind == Kind::Enumerated)
+        {
+            type.kind = Kind::Array;
+        }
         if (type.element->kind == Kind::Null || type.element->kind == Kind::Boolean ||
             type.element->kind == Kind::BitStr32 || type.element->kind == Kind::BitOctets)
         {

@@ -302,7 +302,7 @@ typedef enum RtxDifferenceKind
 typedef struct RtxDifferenceStep
 {
     const char* name;
-    OSUINT32 indexA; // of the element in a's list, RTX_NO_INDEX where a lacks it
+    OSUINT32 indexA; // of the element in a's list, of an unknown addition its own; RTX_NO_INDEX where a lacks it
     OSUINT32 indexB;
     const char* identity; // the ASN.1 name of what the elements were matched by, null where that was the index
     int64_t id;           // its value
@@ -327,9 +327,9 @@ typedef int (*RtxDifferenceSink)(void* arg, const RtxDifference* difference);
 // group is not sent, bits behind a bit string's end, which nonzero value stands for TRUE, a null pointer for an empty
 // element. Elements of lists that are added and modified one by one are matched by the identity that the schema gives
 // them, equal identities in their order; those of all other lists by their index. Time grows as n log n with the trees'
-// size; lists take memory of *pctxtA's heap, at most 40 octets for each element of a list and of the lists around it,
-// and give it back. `sink` may be null. Returns the number of differences; RTX_E_NULL without context, type or tree,
-// RTX_E_HEAP when the heap is exhausted: not everything has been compared then.
+// size. A list takes 24 octets of *pctxtA's heap for each element of either tree and gives them back, unless the heap
+// had to grow for them. `sink` may be null. Returns the number of differences, 0 for what is encoded alike; RTX_E_NULL
+// without context, type or tree, RTX_E_HEAP when the heap is exhausted: not everything has been compared then.
 int64_t rtxCompare(OSCTXT* pctxtA, const OSCTXT* pctxtB, const RtxType* type, const void* a, const void* b,
                    RtxDifferenceSink sink, void* arg);
 

@@ -266,19 +266,16 @@ private:
             report(place, RTX_D_UNREADABLE);
             return;
         }
-        const bool inA = a != nullptr && a->data != nullptr;
-        const bool inB = b != nullptr && b->data != nullptr;
-        if (inA != inB || (inA && (a->numocts != b->numocts || std::memcmp(a->data, b->data, a->numocts) != 0)))
+        if (a == nullptr || b == nullptr || a->numocts != b->numocts || std::memcmp(a->data, b->data, a->numocts) != 0)
         {
-            report(place, RTX_D_UNKNOWN, nullptr, inA ? a : nullptr, inB ? b : nullptr);
+            report(place, RTX_D_UNKNOWN, nullptr, a, b);
         }
     }
 
     // Whether it may be looked at; null stands for one that is absent.
     static bool isOpen(const OSCTXT& ctxt, const ASN1OpenType* open)
     {
-        return open == nullptr ||
-               (refuse(&ctxt, open) == RTX_OK && (open->data == nullptr || refuse(&ctxt, *open) == RTX_OK));
+        return open == nullptr || (refuse(&ctxt, open) == RTX_OK && refuse(&ctxt, *open) == RTX_OK);
     }
 
     void unknownAdditions(const OSRTDList& a, const OSRTDList& b, const Place& place)

@@ -220,14 +220,10 @@ public:
         if (ctxt != nullptr && ctxt->error.status != RTX_OK && ctxt->error.hasOffset != 0 &&
             ctxt->error.depth <= RTX_MAX_DEPTH)
         {
-            const RtxError& error = ctxt->error;
-            std::copy_if(error.path, error.path + error.depth, path_,
-                         [](const RtxPathStep& step) { return step.group == 0; });
-            length_ = static_cast<uint32_t>(std::count_if(error.path, error.path + error.depth,
-                                                          [](const RtxPathStep& step) { return step.group == 0; }));
-            // What is wrong behind a value, not with it: its padding, an extension group of it.
-            behind_ = error.status == RTX_E_PADDING || error.status == RTX_E_SURPLUS ||
-                      (error.depth != 0 && error.path[0].group != 0);
+            path_ = ctxt->error.path;
+            length_ = ctxt->error.depth;
+            // What is wrong behind a value, not with it.
+            behind_ = ctxt->error.status == RTX_E_PADDING || ctxt->error.status == RTX_E_SURPLUS;
         }
     }
 
@@ -281,7 +277,7 @@ private:
     static bool same(const RtxPathStep& a, const RtxPathStep& b)
     {
         return a.name != nullptr && b.name != nullptr ? std::strcmp(a.name, b.name) == 0
-                                                      : a.name == b.name && a.index == b.index;
+                                                      : a.name == b.name && a.index == b.index && a.group == b.group;
     }
 
     const RtxPathStep& next() const
@@ -289,7 +285,7 @@ private:
         return path_[length_ - 1 - matched_];
     }
 
-    RtxPathStep path_[RTX_MAX_DEPTH]; // innermost step first, without extension groups
+    const RtxPathStep* path_ = nullptr; // innermost step first
     uint32_t length_ = 0;
     uint32_t matched_ = 0; // steps of the path that the walk has taken
     uint32_t depth_ = 0;   // steps that lead to where the walk is

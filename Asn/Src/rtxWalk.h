@@ -199,7 +199,14 @@ private:
         for (unsigned a = 0; a < type.additionCount; ++a)
         {
             const Addition& addition = type.additions[a];
-            const bool sent = addition.flag < 0 || hasFlag(value, addition.flag) || stopsIn(type, addition);
+            // An error in a member may do without the step of its group.
+            const bool inGroup = reading_.isNext(grouped(a + 1));
+            // The decoder tells of a group only when it has read all of it.
+            const bool sent = addition.flag < 0 || hasFlag(value, addition.flag) || inGroup || stopsIn(type, addition);
+            if (inGroup)
+            {
+                reading_.enter(grouped(a + 1));
+            }
             for (unsigned i = addition.first; i < addition.first + addition.count; ++i)
             {
                 if (sent || (type.members[i].flag >= 0 && hasFlag(value, type.members[i].flag) &&
@@ -207,6 +214,10 @@ private:
                 {
                     member(type, i, value);
                 }
+            }
+            if (inGroup)
+            {
+                reading_.leave();
             }
         }
         if (type.extensible)
@@ -222,7 +233,6 @@ private:
         }
     }
 
-    // The decoder tells of a group only when it has read all of it.
     bool stopsIn(const Type& type, const Addition& addition) const
     {
         bool stops = false;
@@ -391,6 +401,7 @@ private:
         {
             return;
         }
+        uint64_t next = 0; // the first index that the next one may have
         const auto each = [&](uint32_t i, const void* data)
         {
             const auto* const open = static_cast<const ASN1OpenType*>(data);
@@ -404,7 +415,8 @@ private:
                 shown(indexed(i), [&] { invalidPointer(status); });
                 return;
             }
-            note(open->numocts == 0 ? RTX_E_EXTENSION : RTX_OK);
+            note(open->numocts == 0 || open->index < next ? RTX_E_EXTENSION : RTX_OK);
+            next = uint64_t{open->index} + 1;
             writer_.unknown(type, open->index, *open);
         };
         writer_.openUnknown(value.count);

@@ -2,11 +2,14 @@
 
 #include <cstdio>
 
+#include "failureLines.h"
 #include "plat_syslog.h"
 #include "vos_lib.h"
 
 void vosErrLine(const char* file, INT32 line, const char* func, const char* text)
 {
+    FailureLines::add(func, text);
+
     char place[200];
     // A function name too long for the filter's string is cut there, never in the line itself.
     (void)std::snprintf(place, sizeof(place), "%s.%d", func, line);

@@ -13,6 +13,12 @@ namespace
 constexpr std::string_view blanks = " \t\r";
 constexpr std::size_t mostSteps = 64; // of a path; no type of the schema is as deep
 
+std::string_view trimmed(std::string_view text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
 // Without quotes a word is all that its letters can be.
 unsigned formsOf(std::string_view word)
 {
@@ -116,7 +122,7 @@ public:
         for (std::size_t at = 0; at < text_.size() && !mistakes_.full();)
         {
             const std::size_t end = std::min(text_.find('\n', at), text_.size());
-            line(at, end);
+            line(text_.substr(at, end - at));
             at = end + 1;
         }
         std::stable_sort(lines_.begin(), lines_.end(), [this](const Line& a, const Line& b) { return isBefore(a, b); });
@@ -137,36 +143,32 @@ public:
     }
 
 private:
-    // Skips blanks from `at` on.
-    std::size_t skip(std::size_t at, std::size_t end) const
+    void line(std::string_view line)
     {
-        return std::min(text_.find_first_not_of(blanks, at), end);
+        line = trimmed(line.substr(0, line.find('#'))); // the rest is a comment; no value has the character
+        if (line.empty())
+        {
+            return;
+        }
+        const std::size_t equals = std::min(line.find('='), line.size());
+        const std::string_view path = trimmed(line.substr(0, equals));
+        const std::string_view value = trimmed(line.substr(std::min(equals + 1, line.size())));
+        if (path.empty() || value.empty())
+        {
+            mistakes_.add(offsetOf(line), type_.name, "expected a line \"path = value\", found " + quoted(line));
+            return;
+        }
+        const Line places = {offsetOf(path), offsetOf(path) + static_cast<std::uint32_t>(path.size()), offsetOf(value),
+                             offsetOf(value) + static_cast<std::uint32_t>(value.size())};
+        if (isPath(places))
+        {
+            lines_.push_back(places);
+        }
     }
 
-    void line(std::size_t at, std::size_t end)
+    std::uint32_t offsetOf(std::string_view piece) const
     {
-        end = std::min(text_.find('#', at), end); // the rest is a comment; no value has the character
-        at = skip(at, end);
-        if (at == end)
-        {
-            return;
-        }
-        const std::size_t equals = std::min(text_.find('=', at), end);
-        const std::size_t value = skip(std::min(equals + 1, end), end);
-        const std::size_t pathEnd = text_.find_last_not_of(blanks, equals - 1) + 1;
-        const std::size_t valueEnd = value == end ? end : text_.find_last_not_of(blanks, end - 1) + 1;
-        if (equals == at || value == end)
-        {
-            mistakes_.add(at, type_.name,
-                          "expected a line \"path = value\", found " + quoted(text_.substr(at, end - at)));
-            return;
-        }
-        const Line line = {static_cast<std::uint32_t>(at), static_cast<std::uint32_t>(pathEnd),
-                           static_cast<std::uint32_t>(value), static_cast<std::uint32_t>(valueEnd)};
-        if (isPath(line))
-        {
-            lines_.push_back(line);
-        }
+        return static_cast<std::uint32_t>(piece.data() - text_.data());
     }
 
     Steps stepsOf(const Line& line) const

@@ -233,13 +233,21 @@ private:
         if (type.extensible && options_.unknown && spend(5))
         {
             OSRTDList list{};
-            for (uint64_t absent = below(3); absent != 0; --absent)
+            for (uint64_t number = 1 + below(3); number != 0; --number)
             {
-                append(list, allocate(sizeof(ASN1OpenType)));
+                appendAddition(list);
             }
-            append(list, openType());
             store(at(value, type.extElem), list);
         }
+    }
+
+    // Some places may be left out before it.
+    void appendAddition(OSRTDList& list)
+    {
+        ASN1OpenType* const open = openType();
+        const OSUINT32 next = list.count == 0 ? 0 : static_cast<ASN1OpenType*>(list.tail->data)->index + 1;
+        open->index = next + static_cast<OSUINT32>(below(2) * below(3));
+        append(list, open);
     }
 
     // 1 to 3 octets, or more than a length of one octet counts.
@@ -504,7 +512,7 @@ private:
         if (type.extensible)
         {
             auto* const list = reinterpret_cast<OSRTDList*>(at(value, type.extElem));
-            offer("unknown", [=, this] { append(*list, openType()); });
+            offer("unknown", [=, this] { appendAddition(*list); });
         }
     }
 
@@ -659,12 +667,15 @@ private:
 
     void offerUnknownFaults(OSRTDList* list)
     {
-        offer("absent addition", [=, this] { append(*list, allocate(sizeof(ASN1OpenType))); });
+        offer("empty addition", [=, this] { append(*list, allocate(sizeof(ASN1OpenType))); });
         offer("number of additions", [=, this] { list->count += 1 + static_cast<OSUINT32>(chance(50) ? 0 : 0x3FFF); });
         if (list->count != 0)
         {
             auto* const open = static_cast<ASN1OpenType*>(list->tail->data);
             offer("addition", [=, this] { spoilOpenType(*open); });
+            const OSUINT32 before = static_cast<ASN1OpenType*>(list->head->data)->index;
+            offer("addition's index",
+                  [=, this] { open->index = open->index == before || chance(50) ? 0x4000 : before; });
             OSRTDListNode* const node = nodeAt(*list, below(list->count));
             offer("addition's node", [=, this] { spoilNode(*node); });
         }

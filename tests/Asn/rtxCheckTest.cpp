@@ -269,30 +269,37 @@ TEST_F(Check, UnknownAdditions)
     CellGroupConfig group{};
     OSRTDList& list = group.extElem1;
     auto* const first = append<ASN1OpenType>(list);
-    append<ASN1OpenType>(list);
-    EXPECT_THAT(FINDINGS(CellGroupConfig, group),
-                ElementsAre("CellGroupConfig.extElem1[1]: an extension is announced and has no addition"));
+    auto* const second = append<ASN1OpenType>(list);
+    const std::string path = "CellGroupConfig.extElem1";
+    const std::string nothing = ": an extension is announced and has no addition";
+    second->index = 3;
+    EXPECT_THAT(FINDINGS(CellGroupConfig, group), ElementsAre(path + "[0]" + nothing, path + "[1]" + nothing));
     OSOCTET octets[2] = {1, 2};
-    static_cast<ASN1OpenType*>(list.tail->data)->data = octets;
-    EXPECT_THAT(FINDINGS(CellGroupConfig, group),
-                ElementsAre("CellGroupConfig.extElem1[1]: an extension is announced and has no addition"));
-    static_cast<ASN1OpenType*>(list.tail->data)->numocts = 2;
+    first->numocts = second->numocts = 2;
     first->data = octets;
-    first->numocts = 1;
+    EXPECT_THAT(FINDINGS(CellGroupConfig, group),
+                ElementsAre(path + "[0]: a pointer out of the context's heap", path + "[1]: a null pointer"));
+    first->data = static_cast<OSOCTET*>(cleared(2));
+    second->data = static_cast<OSOCTET*>(cleared(2));
+    EXPECT_THAT(FINDINGS(CellGroupConfig, group), IsEmpty());
+
+    // A known addition is sent before their octets and after the places that they take.
     group.m._v2ExtPresent = 1;
     group.m.reportUplinkTxDirectCurrent_v1530Present = 1;
     group.reportUplinkTxDirectCurrent_v1530 = 1;
+    const std::string known = "CellGroupConfig.reportUplinkTxDirectCurrent-v1530: 1 is not in 0..0";
+    second->data = octets;
     EXPECT_THAT(FINDINGS(CellGroupConfig, group),
-                ElementsAre("CellGroupConfig.reportUplinkTxDirectCurrent-v1530: 1 is not in 0..0",
-                            "CellGroupConfig.extElem1[0]: a pointer out of the context's heap",
-                            "CellGroupConfig.extElem1[1]: a pointer out of the context's heap"));
-    list.count = 16383;
-    EXPECT_THAT(FINDINGS(CellGroupConfig, group),
-                ElementsAre("CellGroupConfig.extElem1: 16383 elements, not 0..16382",
-                            "CellGroupConfig.reportUplinkTxDirectCurrent-v1530: 1 is not in 0..0"));
+                ElementsAre(known, path + "[1]: a pointer out of the context's heap"));
+    second->index = 0;
+    EXPECT_THAT(FINDINGS(CellGroupConfig, group), ElementsAre(path + "[1]" + nothing, known));
+    second->index = 16382; // behind the one that is known
+    EXPECT_THAT(FINDINGS(CellGroupConfig, group), ElementsAre(path + ": 16384 elements, not 0..16383", known));
+    second->index = 16381;
     list.count = 3;
-    EXPECT_EQ(FINDINGS(CellGroupConfig, group).front(),
-              "CellGroupConfig.extElem1: the list counts 3 elements and ends after 2");
+    EXPECT_THAT(FINDINGS(CellGroupConfig, group),
+                ElementsAre(path + ": the list counts 3 elements and ends after 2", known,
+                            path + "[1]: a pointer out of the context's heap"));
 }
 
 TEST_F(Check, AnUnknownAlternativeHasItsOctets)
@@ -386,8 +393,8 @@ TEST(RandomTrees, TheEncoderRefusesWhatHasAFindingAndSaysTheFirst)
     print("CellGroupConfig", tally);
     EXPECT_GT(tally.refused, tally.trees / 2);
     for (const char* const fault :
-         {"above", "absent addition", "addition", "addition's node", "below", "bits", "count", "end", "loop", "node",
-          "number of additions", "pointer", "tag", "unknown alternative"})
+         {"above", "addition", "addition's index", "addition's node", "below", "bits", "count", "empty addition", "end",
+          "loop", "node", "number of additions", "pointer", "tag", "unknown alternative"})
     {
         EXPECT_NE(tally.faults[fault], 0U) << fault;
     }

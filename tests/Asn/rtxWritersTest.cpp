@@ -292,13 +292,8 @@ TEST_F(Writers, ExtensionAdditions)
 TEST_F(Writers, UnknownAdditions)
 {
     Box box = {};
-    ASN1OpenType* const first = open({0xFF, 0x00});
-    ASN1OpenType* const second = open({0x0A});
-    first->index = 1;
-    second->index = 2;
-    append(box.extElem1, first);
-    append(box.extElem1, second);
-    // Box knows three additions; the first one that it does not know is absent.
+    append(box.extElem1, open({0xFF, 0x00}, 1)); // Box knows three
+    append(box.extElem1, open({0x0A}, 2));
     expect(boxType, &box,
            {R"({"level":0,"$unknownAdditions":[{"index":4,"octets":"FF00"},{"index":5,"octets":"0A"}]})",
             "{ level 0 -- unknown addition 4: FF00 -- -- unknown addition 5: 0A -- }",
@@ -306,11 +301,25 @@ TEST_F(Writers, UnknownAdditions)
             "Box.$unknownAdditions[1].index = 5\nBox.$unknownAdditions[1].octets = 0A\n"});
 }
 
+TEST_F(Writers, UnknownAdditionsOutOfOrder)
+{
+    Box box = {};
+    append(box.extElem1, open({0xFF}, 2));
+    append(box.extElem1, open({0x0A}, 2));
+    expect(boxType, &box,
+           {R"({"level":0,"$unknownAdditions":[{"index":5,"octets":"FF"},{"index":5,"octets":"0A"}]})",
+            "{ level 0 -- unknown addition 5: FF -- -- unknown addition 5: 0A -- }",
+            "Box.level = 0\nBox.$unknownAdditions[0].index = 5\nBox.$unknownAdditions[0].octets = FF\n"
+            "Box.$unknownAdditions[1].index = 5\nBox.$unknownAdditions[1].octets = 0A\n"},
+           RTX_E_EXTENSION);
+}
+
 TEST_F(Writers, UnknownAdditionsThatAreNone)
 {
     Box box = {};
     append(box.extElem1, nullptr);
     append(box.extElem1, &box);
+    append(box.extElem1, make<ASN1OpenType>());
     ASN1OpenType* const addition = open({0xFF, 0x00});
     addition->data = reinterpret_cast<OSOCTET*>(&box);
     append(box.extElem1, addition);
@@ -318,10 +327,11 @@ TEST_F(Writers, UnknownAdditionsThatAreNone)
     expect(
         boxType, &box,
         {R"({"level":0,"$unknownAdditions":[{"$invalid":"a null pointer"},{"$invalid":")" + foreign +
-             R"("},{"$invalid":")" + foreign + "\"}]}",
-         "{ level 0 -- a null pointer -- -- " + foreign + " -- -- " + foreign + " -- }",
+             R"("},{"$invalid":"a null pointer"},{"$invalid":")" + foreign + "\"}]}",
+         "{ level 0 -- a null pointer -- -- " + foreign + " -- -- a null pointer -- -- " + foreign + " -- }",
          "Box.level = 0\nBox.$unknownAdditions[0] = $invalid: a null pointer\nBox.$unknownAdditions[1] = $invalid: " +
-             foreign + "\nBox.$unknownAdditions[2] = $invalid: " + foreign + "\n"},
+             foreign + "\nBox.$unknownAdditions[2] = $invalid: a null pointer\nBox.$unknownAdditions[3] = $invalid: " +
+             foreign + "\n"},
         RTX_E_NULL);
 
     box.extElem1 = {};
@@ -785,6 +795,95 @@ TEST_F(PartialTree, AnAlternativeOfWhichNothingIsThere)
                   {R"("level":1,"pick":{"$notRead":["item"]},"$notRead":["..."])",
                    "{ level 1, pick -- item: not read -- -- ...: not read -- }",
                    "Box.level = 1\nBox.pick.item = $notRead\nBox.... = $notRead\n"});
+}
+
+// Box with level 1 and a bitmap of three additions: the group of a and b, lone, the group of must.
+const std::string threeAdditions = "1 0 100  0 000010 111";
+
+TEST_F(PartialTree, InAnExtensionGroup)
+{
+    Box box;
+    decode(boxType, &box, threeAdditions + "00000001 11 1 111 00", "Box.b: 8 is not in 1..5");
+    expectPartial(boxType, &box, "Box\n  level 1\n  a true\n  b: not read\n  ...: not read\n",
+                  {R"("level":1,"a":true,"$notRead":["b","..."])",
+                   "{ level 1, a TRUE -- b: not read -- -- ...: not read -- }",
+                   "Box.level = 1\nBox.a = true\nBox.b = $notRead\nBox.... = $notRead\n"});
+
+    // all of the group was read, and an octet behind it is none of it
+    decode(boxType, &box, threeAdditions + "00000010 10 1 00000 00000001", "Box.[[1]]: 1 octet follows");
+    expectPartial(boxType, &box, "Box\n  level 1\n  a true\n  ...: not read\n",
+                  {R"("level":1,"a":true,"$notRead":["..."])", "{ level 1, a TRUE -- ...: not read -- }",
+                   "Box.level = 1\nBox.a = true\nBox.... = $notRead\n"});
+}
+
+TEST_F(PartialTree, AnExtensionGroupOfWhichNothingIsThere)
+{
+    Box box;
+    decode(boxType, &box, threeAdditions + "00000010 11 1 111 00", "Box.[[1]]: the input ends");
+    expectPartial(
+        boxType, &box, "Box\n  level 1\n  ...: not read\n",
+        {R"("level":1,"$notRead":["..."])", "{ level 1 -- ...: not read -- }", "Box.level = 1\nBox.... = $notRead\n"});
+    decode(boxType, &box, "1 0 100  0 000010 001  00000010 000 00000", "Box.[[3]]: the input ends");
+    expectPartial(boxType, &box, "Box\n  level 1\n  must: not read\n  ...: not read\n",
+                  {R"("level":1,"$notRead":["must","..."])", "{ level 1 -- must: not read -- -- ...: not read -- }",
+                   "Box.level = 1\nBox.must = $notRead\nBox.... = $notRead\n"});
+}
+
+TEST_F(PartialTree, InALoneAddition)
+{
+    Box box;
+    decode(boxType, &box, "1 0 100  0 000010 010  00000001 00000000", "Box.lone: the input ends");
+    expectPartial(boxType, &box, "Box\n  level 1\n  lone: not read\n  ...: not read\n",
+                  {R"("level":1,"$notRead":["lone","..."])", "{ level 1 -- lone: not read -- -- ...: not read -- }",
+                   "Box.level = 1\nBox.lone = $notRead\nBox.... = $notRead\n"});
+}
+
+// Wides ::= SEQUENCE { ..., [[ v Wide OPTIONAL, w Wide OPTIONAL ]] }
+TEST_F(PartialTree, AnExtensionGroupThatEndsTooEarly)
+{
+    struct Wides
+    {
+        struct
+        {
+            unsigned _v2ExtPresent : 1;
+            unsigned vPresent : 1;
+            unsigned wPresent : 1;
+        } m;
+        OSUINT16 v;
+        OSUINT16 w;
+        OSRTDList extElem1;
+    };
+    const char* const names[] = {"v", "w"};
+    const Member members[] = {member(wideType, offsetof(Wides, v), 1), member(wideType, offsetof(Wides, w), 2)};
+    const Addition group = {0, 0, 2};
+    const Type type = {.name = "Wides",
+                       .kind = Kind::Sequence,
+                       .extensible = true,
+                       .size = sizeof(Wides),
+                       .names = names,
+                       .members = members,
+                       .memberCount = 2,
+                       .additions = &group,
+                       .additionCount = 1,
+                       .extElem = offsetof(Wides, extElem1)};
+    Wides wides;
+    decode(type, &wides, "1 0 000000 1  00000011  11 0000000000000101 000000", "Wides.[[1]].w: the input ends");
+    expectPartial(type, &wides, "Wides\n  v 5\n  w: not read\n  ...: not read\n",
+                  {R"("v":5,"$notRead":["w","..."])", "{ v 5 -- w: not read -- -- ...: not read -- }",
+                   "Wides.v = 5\nWides.w = $notRead\nWides.... = $notRead\n"});
+}
+
+TEST_F(PartialTree, InAnUnknownAddition)
+{
+    Box box;
+    decode(boxType, &box, "1 0 100  0 000101 000101  00000001 10101011  00000010 00000000",
+           "Box.extElem1[2]: the input ends");
+    expectPartial(boxType, &box,
+                  "Box\n  level 1\n  extElem1: 1 unknown addition\n    [0]: 1 octet AB\n  ...: not read\n",
+                  {R"("level":1,"$unknownAdditions":[{"index":3,"octets":"AB"}],"$notRead":["..."])",
+                   "{ level 1 -- unknown addition 3: AB -- -- ...: not read -- }",
+                   "Box.level = 1\nBox.$unknownAdditions[0].index = 3\nBox.$unknownAdditions[0].octets = AB\n"
+                   "Box.... = $notRead\n"});
 }
 
 TEST_F(PartialTree, OfAnotherTypeIsNone)

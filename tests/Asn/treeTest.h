@@ -58,9 +58,10 @@ public:
         return value;
     }
 
-    ASN1OpenType* open(std::initializer_list<OSOCTET> octets)
+    ASN1OpenType* open(std::initializer_list<OSOCTET> octets, OSUINT32 index = 0)
     {
         auto* const value = make<ASN1OpenType>();
+        value->index = index;
         value->numocts = static_cast<OSUINT32>(octets.size());
         value->data = static_cast<OSOCTET*>(rtxMemHeapAlloc(&ctxt, octets.size()));
         std::copy(octets.begin(), octets.end(), value->data);

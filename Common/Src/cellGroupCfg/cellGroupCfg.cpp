@@ -1,4 +1,4 @@
-#include "rrcCodec/rrcCodec.h"
+#include "cellGroupCfg.h"
 
 #include "compose.h"
 #include "macCellGroup.h"
@@ -94,6 +94,16 @@ INT32 encode(OSCTXT* pAsnCxt, const CellGroupConfig* pCellGroupConfig, Mbuf_t* p
 
 } // namespace
 
+INT32 composeTree(OSCTXT* pAsnCxt, RrcCellGroupCfg_t* pRrcCellGroupCfg, CellGroupConfig** ppCellGroupConfig)
+{
+    *ppCellGroupConfig = compose::allocate<CellGroupConfig>(pAsnCxt);
+    if (*ppCellGroupConfig == nullptr)
+    {
+        return compose::fail("pRrcCellGroupCfg Error\r\n");
+    }
+    return composeCellGroup(pAsnCxt, *ppCellGroupConfig, pRrcCellGroupCfg);
+}
+
 INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* pBuf)
 {
     OSCTXT asnCxt;
@@ -105,18 +115,17 @@ INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* 
     alignas(16) OSOCTET memory[memorySize];
     (void)rtxMemHeapSetMemory(&asnCxt, memory, sizeof memory);
 
-    auto* const pRrcCellGroupCfg = compose::allocate<CellGroupConfig>(&asnCxt);
-    if (pRrcCellGroupCfg == nullptr)
+    CellGroupConfig* pCellGroupConfig;
+    INT32 result = composeTree(&asnCxt, rrcRrcCellGroupCfgInfo, &pCellGroupConfig);
+    if (pCellGroupConfig == nullptr)
     {
         // The context holds nothing yet and is left as it is.
-        VOS_Printf("pRrcCellGroupCfg Error\r\n");
-        return VOS_ERROR;
+        return result;
     }
-
-    INT32 result = composeCellGroup(&asnCxt, pRrcCellGroupCfg, rrcRrcCellGroupCfgInfo);
+    // A list cut short by the heap, whose composer's result nobody looks at, is sent as far as it was built.
     if (result == VOS_OK)
     {
-        result = encode(&asnCxt, pRrcCellGroupCfg, pBuf);
+        result = encode(&asnCxt, pCellGroupConfig, pBuf);
     }
     rtFreeContext(&asnCxt);
     return result;

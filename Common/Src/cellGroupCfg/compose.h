@@ -11,6 +11,7 @@
 #include <type_traits>
 
 #include "NR-RRC-Definitions.h"
+#include "failureLines.h"
 #include "vos_err_print.h"
 #include "vos_lib.h"
 
@@ -75,6 +76,7 @@ namespace compose
 [[gnu::cold]] inline INT32 fail(const char* text)
 {
     VOS_Printf("%s", text);
+    FailureLines::add(nullptr, text);
     return VOS_ERROR;
 }
 

@@ -113,8 +113,7 @@ INT32 rrcComposeCfra_resources(OSCTXT* pAsnCxt, CFRA_resources* pResources, RrcC
         auto* const pSsb = compose::allocate<CFRA_resources_ssb>(pAsnCxt);
         if (pSsb == nullptr)
         {
-            VOS_Printf("pSsb Malloc Error\r\n");
-            return VOS_ERROR;
+            return compose::fail("pSsb Malloc Error\r\n");
         }
         compose::attach(pResources, T_CFRA_resources_ssb, pResources->u.ssb, pSsb);
         (void)rrcComposeCFRA_resources_ssb(pAsnCxt, pSsb, &pRrcCfra->resources.ssb);

@@ -178,8 +178,7 @@ INT32 rrcComposeBWPrach_ConfigCommon(OSCTXT* pAsnCxt, BWP_UplinkCommon_rach_Conf
     auto* const pSetup = compose::choose(pAsnCxt, pRach_ConfigCommon, compose::setupTag, pRach_ConfigCommon->u.setup);
     if (pSetup == nullptr)
     {
-        VOS_Printf("pSetup malloc error\r\n");
-        return VOS_ERROR;
+        return compose::fail("pSetup malloc error\r\n");
     }
     (void)rrcComposeRACH_Configsetup(pSetup, pRrcRachCfgComm);
     return VOS_OK;

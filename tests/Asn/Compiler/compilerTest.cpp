@@ -290,6 +290,47 @@ TEST(Subset, CommentsEndWithTheLineOrAtTheNextPairOfHyphens)
                 IsEmpty());
 }
 
+const char* const identified = "A ::= SEQUENCE {\n"
+                               "    add SEQUENCE (SIZE (1..4)) OF E OPTIONAL, -- Identity id, released by rel\n"
+                               "    rel SEQUENCE (SIZE (1..4)) OF Id OPTIONAL, ...,\n"
+                               "    [[ own SEQUENCE (SIZE (1..4)) OF Id OPTIONAL,\n"
+                               "       -- Identity Id\n"
+                               "       plain SEQUENCE (SIZE (1..4)) OF E OPTIONAL ]],\n"
+                               "    last SEQUENCE (SIZE (1..4)) OF E OPTIONAL -- Identity colour -- }\n"
+                               "E ::= SEQUENCE { first BOOLEAN, id Id, colour ENUMERATED { red, green } }\n"
+                               "Id ::= INTEGER (0..7)\n";
+
+TEST(Subset, AListMayHaveAnIdentity)
+{
+    const asncomp::Model model = modelOf(identified);
+    std::vector<int> identities;
+    for (const asncomp::Member& member : model.find("A")->members)
+    {
+        identities.push_back(member.type->identity);
+    }
+    EXPECT_THAT(identities, ElementsAre(1, asncomp::noIdentity, asncomp::ownIdentity, asncomp::noIdentity, 2));
+    const std::string tables = fileOf(identified, "NR-RRC-Tables.cpp");
+    EXPECT_THAT(tables, HasSubstr(".bits = 2, .identity = 1}"));
+    EXPECT_THAT(tables, HasSubstr(".bits = 2, .identity = rtx::ownIdentity}"));
+    EXPECT_THAT(tables, HasSubstr(".bits = 2, .identity = 2}"));
+}
+
+// What identifies an element is no part of the encoding.
+TEST(Subset, AnIdentityLeavesTypesAndEncoderAsTheyAre)
+{
+    std::string plain = identified;
+    for (std::size_t at = plain.find("-- Id"); at != std::string::npos; at = plain.find("-- Id"))
+    {
+        plain.insert(at + 3, "An "); // an ordinary comment
+    }
+    for (const char* const file : {"NR-RRC-Definitions.h", "NR-RRC-Encoder.cpp"})
+    {
+        const std::string with = fileOf(identified, file);
+        const std::string without = fileOf(plain, file);
+        EXPECT_EQ(with.substr(with.find('\n')), without.substr(without.find('\n')));
+    }
+}
+
 TEST(Subset, ASequenceMayBeNothingButAMarker)
 {
     EXPECT_THAT(headerOf("A ::= SEQUENCE { ... }\n"), HasSubstr("struct A\n{\n    OSRTDList extElem1;\n};\n"));
@@ -471,6 +512,31 @@ std::string repeated(const std::string& text, int count)
 }
 
 const Refusal grammar[] = {
+    {"IdentityOfNoList", "A ::= SEQUENCE { x BOOLEAN -- Identity x\n}", {"t:2:28: '}' wanted, '--' found"}},
+    {"IdentityOfAnAlternative",
+     "A ::= CHOICE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y\n}",
+     {"t:2:46: '}' wanted, '--' found"}},
+    {"IdentityOfAType",
+     "A ::= SEQUENCE (SIZE (1..2)) OF B -- Identity y",
+     {"t:2:35: the name of a type wanted, '--' found"}},
+    {"IdentityOfAGroup",
+     "A ::= SEQUENCE { ..., [[ x SEQUENCE (SIZE (1..2)) OF B ]], -- Identity y\n}",
+     {"t:2:60: the name of a member wanted, '--' found"}},
+    {"IdentityWithoutAName",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity\n}",
+     {"t:2:59: a name wanted, '--' found"}},
+    {"IdentityWithMore",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y z\n}",
+     {"t:2:62: '--' wanted, 'z' found"}},
+    {"IdentityReleasedOtherwise",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y, freed by z\n}",
+     {"t:2:63: 'released' wanted, 'freed' found"}},
+    {"IdentityReleasedByAType",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y, released by Z -- }",
+     {"t:2:75: the name of a list wanted, 'Z' found"}},
+    {"IdentityAtTheEnd",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y",
+     {"t:3:1: '}' wanted, 'END' found"}},
     {"Default", "A ::= SEQUENCE {\n  x BOOLEAN DEFAULT TRUE\n}", {"t:3:13: DEFAULT is not supported"}},
     {"DefaultOfAnAlternative", "A ::= CHOICE { x BOOLEAN DEFAULT TRUE }", {"t:2:26: DEFAULT is not supported"}},
     {"OptionalAlternative",
@@ -662,6 +728,42 @@ const Refusal meanings[] = {
     {"VariableBitString", "A ::= BIT STRING (SIZE (1..8))", {"t:2:7: a BIT STRING of variable size is not supported"}},
     {"EmptyBitString", "A ::= BIT STRING (SIZE (0))", {"t:2:25: the size is not within 1..65535"}},
     {"HugeBitString", "A ::= BIT STRING (SIZE (65536))", {"t:2:25: the size is not within 1..65535"}},
+    {"IdentityIsNoMember",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Identity y\n}\nB ::= SEQUENCE { z BOOLEAN }",
+     {"t:2:69: the elements, of type 'B', have no member 'y'"}},
+    {"IdentityOfNothing",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y\n}",
+     {"t:2:46: the type 'B' is not assigned"}},
+    {"IdentityOfChoices",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity z\n}\nB ::= CHOICE { z INTEGER (0..7) }",
+     {"t:2:60: the elements, of type 'B', have no member 'z'"}},
+    {"IdentityIsOptional",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF SEQUENCE { z INTEGER (0..7) OPTIONAL } -- Identity z\n}",
+     {"t:2:97: the member 'z' is no identity: that is a mandatory INTEGER or ENUMERATED among the first 128 members"}},
+    {"IdentityIsAnAddition",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF SEQUENCE { ..., [[ z INTEGER (0..7) ]] } -- Identity z\n}",
+     {"t:2:99: the member 'z' is no identity: that is a mandatory INTEGER or ENUMERATED among the first 128 members"}},
+    {"IdentityIsNoNumber",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF SEQUENCE { z BOOLEAN } -- Identity z\n}",
+     {"t:2:81: the member 'z' is no identity: that is a mandatory INTEGER or ENUMERATED among the first 128 members"}},
+    {"IdentityIsFarBehind",
+     many("A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF SEQUENCE { ", 129, " INTEGER (0..7)", " } -- Identity x128\n}"),
+     {"t:2:2669: the member 'x128' is no identity: that is a mandatory INTEGER or ENUMERATED among the first 128 "
+      "members"}},
+    {"IdentityOfAnotherType",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity C\n}\nB ::= INTEGER (0..7)",
+     {"t:2:60: the elements are of type 'B', not 'C'"}},
+    {"ReleasedByNothing",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity B, released by y\n}\nB ::= INTEGER (0..7)",
+     {"t:2:75: there is no member 'y' beside 'x'"}},
+    {"ReleasedByAnotherType",
+     "A ::= SEQUENCE { y SEQUENCE (SIZE (1..2)) OF C, x SEQUENCE (SIZE (1..2)) OF B -- Identity B, released by y\n}\n"
+     "B ::= INTEGER (0..7)\nC ::= INTEGER (0..7)",
+     {"t:2:106: 'y' is not a list of 'B', which identifies the elements of 'x'"}},
+    {"ReleasedByNoList",
+     "A ::= SEQUENCE { ..., y B OPTIONAL, x SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Identity B, released by y\n}\n"
+     "B ::= INTEGER (0..7)",
+     {"t:2:103: 'y' is not a list of 'B', which identifies the elements of 'x'"}},
     {"EmptySequence", "A ::= SEQUENCE { }", {"t:2:7: a SEQUENCE without members is not supported"}},
     {"EmptyChoice", "A ::= CHOICE { }", {"t:2:7: a CHOICE without alternatives is not supported"}},
     {"ChoiceOfAdditionsAlone",
@@ -869,7 +971,8 @@ TEST(Robustness, MutationsOfASmallModuleEnd)
 {
     const std::string module = "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN\n"
                                "S { T } ::= CHOICE { release NULL, setup T }\n"
-                               "A ::= SEQUENCE { x S { B } OPTIONAL, ..., [[ y SEQUENCE (SIZE (1..max)) OF B ]] }\n"
+                               "A ::= SEQUENCE { x S { B } OPTIONAL, ..., [[ y SEQUENCE (SIZE (1..max)) OF B ]],\n"
+                               "z SEQUENCE (SIZE (1..9)) OF B OPTIONAL -- Identity B, released by y -- }\n"
                                "B ::= INTEGER (-1..max) max INTEGER ::= 7 END";
     for (std::size_t i = 0; i < module.size(); ++i)
     {
