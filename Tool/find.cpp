@@ -50,8 +50,9 @@ public:
             lines(source);
             return;
         }
-        Recognition recognition = recognise(source.raw, session_.common().as);
-        if (auto* const input = std::get_if<Input>(&recognition))
+        const Recognition recognition = recognise(source.raw, session_.common().as);
+        const auto* const input = std::get_if<Input>(&recognition);
+        if (input != nullptr && input->form != Form::LogLine)
         {
             session_.note(source.name + ": " + input->note);
             given(source.name, *input);
