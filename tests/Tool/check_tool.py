@@ -354,7 +354,10 @@ def test_find(folder):
     expect(["find"], DONE, line.replace("operand", "standard input:2"), stdin=log)
     expect(["find"], MALFORMED, err=re.compile("^cellgroupcfg: standard input: 1:1: "), stdin="nothing\nat all\n")
     expect(["find"], MALFORMED, err=re.compile("in which no octets are"), stdin=RELEASE_JSON)
-    for nesting in ("rrc-reconfiguration", "rrc-setup"):
+    # With nothing around it.
+    expect(["find"], DONE, f"standard input:1: 0.0: {len(LONG)} octets: {LONG.hex()}\n",
+           stdin=f"12:00 cfg {LONG.hex()}\n")
+    for nesting in ("bare", "rrc-reconfiguration", "rrc-setup"):
         capture = folder / f"{nesting}.pcapng"
         expect(["pcap", "--in", nesting, "-o", str(capture), LONG.hex()], DONE)
         expect(["find", str(capture)], DONE,

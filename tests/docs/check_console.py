@@ -1,5 +1,5 @@
-"""check_console.py <program> <project>: the console blocks of the documents are run as they stand, in their order within
-a document, in a copy of docs/guide; what is printed, on both streams, has to be what the document shows."""
+"""check_console.py <program> <project> [--update]: the console blocks of the documents are run as they stand, in their order within
+a document, in a copy of docs/guide; what is printed, on both streams, has to be what the document shows, or is written into it."""
 
 import difflib
 import os
@@ -20,29 +20,36 @@ def commands(block):
     return zip(parts[::2], parts[1::2])
 
 
+def printed(command, place, program):
+    environment = {**os.environ, "PATH": f"{program.parent}:{os.environ['PATH']}"}
+    return subprocess.run(["bash", "-c", command], cwd=place, env=environment, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, stdin=subprocess.DEVNULL, check=False, text=True, timeout=60).stdout
+
+
 def main():
     program, project = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
     count, failed = 0, 0
     for document in DOCUMENTS:
-        blocks = BLOCK.findall((project / document).read_text(encoding="utf-8"))
-        if not blocks:
-            sys.exit(f"{document} has no console block")
+        text = (project / document).read_text(encoding="utf-8")
         with tempfile.TemporaryDirectory() as folder:
             place = pathlib.Path(folder) / "guide"
             shutil.copytree(project / "docs/guide", place)
-            environment = {**os.environ, "PATH": f"{program.parent}:{os.environ['PATH']}", "COLUMNS": "80"}
-            for command, shown in (pair for block in blocks for pair in commands(block)):
-                count += 1
-                done = subprocess.run(["bash", "-c", command], cwd=place, env=environment, stdout=subprocess.PIPE,
-                                      stderr=subprocess.STDOUT, stdin=subprocess.DEVNULL, check=False, text=True,
-                                      timeout=60)
-                if done.stdout != shown:
-                    failed += 1
-                    print(f"{document}: $ {command}")
-                    print("\n".join(difflib.unified_diff(shown.splitlines(), done.stdout.splitlines(), "document",
-                                                         "printed", lineterm="")))
-    print(f"{count} commands, {failed} print something else")
-    sys.exit(1 if failed else 0)
+
+            def run(block):
+                lines = [f"$ {command}\n{printed(command, place, program)}" for command, _ in commands(block[1])]
+                nonlocal count
+                count += len(lines)
+                return "```console\n" + "".join(lines) + "```"
+
+            found = BLOCK.sub(run, text)
+        if "--update" in sys.argv:
+            (project / document).write_text(found, encoding="utf-8")
+        elif found != text:
+            failed += 1
+            print("\n".join(difflib.unified_diff(text.splitlines(), found.splitlines(), document, "as printed",
+                                                 lineterm="")))
+    print(f"{count} commands, {failed} documents show something else")
+    sys.exit(1 if failed or not count else 0)
 
 
 main()
