@@ -1,11 +1,15 @@
-// Decodes any input. What is accepted is printed, encoded, decoded and encoded again: both encodings are the same.
+// Decodes any input and writes in every notation what was read of it. What is accepted is encoded, decoded and encoded
+// again: both encodings are the same.
 #include "NR-RRC-Definitions.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string>
 #include <vector>
+
+#include "support/JsonText.h"
 
 namespace
 {
@@ -25,6 +29,11 @@ void countText(void* arg, const char* text)
     {
         ++*static_cast<size_t*>(arg);
     }
+}
+
+void append(void* arg, const char* text)
+{
+    *static_cast<std::string*>(arg) += text;
 }
 
 // A context with the tree that was decoded from some octets.
@@ -65,6 +74,25 @@ public:
         return length;
     }
 
+    // Trees of which a part was read, too.
+    void write() const
+    {
+        for (const RtxLayout layout : {RTX_COMPACT, RTX_INDENTED})
+        {
+            std::string json;
+            const int status = asn1ToJson_CellGroupConfig(&ctxt_, &value_, layout, append, &json);
+            require(status == status_, "JER has another status");
+            require(test::JsonText::isValid(json), "JER is not JSON");
+            size_t length = 0;
+            require(asn1ToValueNotation_CellGroupConfig(&ctxt_, &value_, layout, countText, &length) == status_ &&
+                        length != 0,
+                    "the value notation has another status");
+        }
+        size_t length = 0;
+        require(asn1ToFlat_CellGroupConfig(&ctxt_, &value_, countText, &length) == status_ && length != 0,
+                "the flat lines have another status");
+    }
+
     std::vector<OSOCTET> encode(size_t capacity)
     {
         std::vector<OSOCTET> octets(capacity);
@@ -92,6 +120,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     Decoded first(data, size);
     require(first.printedLength() != 0, "nothing is printed");
+    first.write();
     require((first.status() != RTX_OK) == (first.errorLength() != 0), "the error's line and the status disagree");
     if (first.status() != RTX_OK)
     {
