@@ -7,17 +7,11 @@
 #include "NR-RRC-Definitions.h"
 #include "rrcCodec/rrcCodec.h"
 
-// Composes the record, prints the octets in hex, then the element tree that they decode to. Returns the exit status.
-inline int showCellGroup(RrcCellGroupCfg_t& record)
+// Prints the octets of a CellGroupConfig in hex, then the element tree that they decode to. Returns the exit status.
+inline int showMessage(UINT8* octets, size_t length)
 {
-    std::array<UINT8, 8192> octets;
-    Mbuf_t message = {0, octets.data()};
-    if (rrcComposeCellGroupCfg(&record, &message) != VOS_OK)
-    {
-        return 1;
-    }
-    std::printf("%u octets:", message.bufLen);
-    for (UINT32 i = 0; i < message.bufLen; ++i)
+    std::printf("%zu octets:", length);
+    for (size_t i = 0; i < length; ++i)
     {
         std::printf("%s%02x", i % 16 == 0 ? "\n    " : " ", octets[i]);
     }
@@ -26,7 +20,7 @@ inline int showCellGroup(RrcCellGroupCfg_t& record)
     OSCTXT context;
     rtxInitContext(&context);
     CellGroupConfig cellGroup;
-    int status = pu_setBuffer(&context, octets.data(), message.bufLen, 0);
+    int status = pu_setBuffer(&context, octets, length, 0);
     if (status == 0)
     {
         status = asn1PD_CellGroupConfig(&context, &cellGroup);
@@ -42,6 +36,14 @@ inline int showCellGroup(RrcCellGroupCfg_t& record)
     }
     rtFreeContext(&context);
     return status == 0 ? 0 : 1;
+}
+
+// Composes the record and shows the message. Returns the exit status.
+inline int showCellGroup(RrcCellGroupCfg_t& record)
+{
+    std::array<UINT8, 8192> octets;
+    Mbuf_t message = {0, octets.data()};
+    return rrcComposeCellGroupCfg(&record, &message) == VOS_OK ? showMessage(octets.data(), message.bufLen) : 1;
 }
 
 #endif

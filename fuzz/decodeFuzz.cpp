@@ -1,108 +1,30 @@
-// Decodes any input. What is accepted is printed, encoded, decoded and encoded again: both encodings are the same.
-#include "NR-RRC-Definitions.h"
+// Decodes any input, traces it and writes in every notation what was read of it. What is accepted is checked, encoded,
+// decoded and encoded again: both trees and both encodings are the same.
+#include "decoded.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
-#include <vector>
-
-namespace
-{
-
-void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
-
-void countText(void* arg, const char* text)
-{
-    while (*text++ != '\0')
-    {
-        ++*static_cast<size_t*>(arg);
-    }
-}
-
-// A context with the tree that was decoded from some octets.
-class Decoded
-{
-public:
-    Decoded(const uint8_t* data, size_t size)
-        : input_(std::make_unique<OSOCTET[]>(size)) // of its exact size, so that reading past it is found
-    {
-        std::copy_n(data, size, input_.get());
-        require(rtxInitContext(&ctxt_) == RTX_OK, "no context");
-        require(pu_setBuffer(&ctxt_, input_.get(), size, 0) == RTX_OK, "no buffer");
-        status_ = asn1PD_CellGroupConfig(&ctxt_, &value_);
-    }
-
-    ~Decoded()
-    {
-        rtFreeContext(&ctxt_);
-    }
-
-    Decoded(const Decoded&) = delete;
-    Decoded& operator=(const Decoded&) = delete;
-
-    int status() const
-    {
-        return status_;
-    }
-
-    size_t errorLength() const
-    {
-        return rtxErrFormat(&ctxt_, nullptr, 0);
-    }
-
-    size_t printedLength() const
-    {
-        size_t length = 0;
-        asn1PrintTo_CellGroupConfig(&ctxt_, "CELL GROUP", &value_, countText, &length);
-        return length;
-    }
-
-    std::vector<OSOCTET> encode(size_t capacity)
-    {
-        std::vector<OSOCTET> octets(capacity);
-        require(pu_setBuffer(&ctxt_, octets.data(), octets.size(), 0) == RTX_OK, "no buffer to encode to");
-        const int status = asn1PE_CellGroupConfig(&ctxt_, &value_);
-        if (status != RTX_OK)
-        {
-            rtxErrPrint(&ctxt_);
-        }
-        require(status == RTX_OK, "what was decoded is not encoded");
-        octets.resize(pu_getMsgLen(&ctxt_));
-        return octets;
-    }
-
-private:
-    OSCTXT ctxt_;
-    CellGroupConfig value_;
-    std::unique_ptr<OSOCTET[]> input_;
-    int status_;
-};
-
-} // namespace
+using fuzz::Decoded;
+using fuzz::require;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     Decoded first(data, size);
     require(first.printedLength() != 0, "nothing is printed");
+    first.write();
+    first.trace();
     require((first.status() != RTX_OK) == (first.errorLength() != 0), "the error's line and the status disagree");
+    const int64_t findings = first.findings();
     if (first.status() != RTX_OK)
     {
         return 0;
     }
+    require(findings == 0, "what was decoded is refused");
 
     // An earlier release's bitmaps of extension additions are shorter than ours: the second encoding may be longer.
     const std::vector<OSOCTET> once = first.encode(2 * size + 64);
     Decoded second(once.data(), once.size());
     require(second.status() == RTX_OK, "what was encoded is not decoded");
     require(second.printedLength() == first.printedLength(), "the second tree is another one");
+    require(first.differences(second) == 0, "the second tree differs");
     require(second.encode(once.size()) == once, "the second encoding is another one");
     return 0;
 }

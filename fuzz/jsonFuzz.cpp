@@ -1,5 +1,5 @@
-// Reads any input as JER and as flat lines. What is accepted is encoded, decoded and encoded again; what is not has
-// mistakes, each with its place.
+// Reads any input as JER and as flat lines. What is accepted is encoded, and written and read again, which gives the
+// same octets; what is not has mistakes, each with its place.
 #include "NR-RRC-Definitions.h"
 #include "NR-RRC-Tables.h"
 #include "asn1FromText.h"
@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
+#include <string>
 #include <vector>
 
 namespace
@@ -48,35 +48,70 @@ void checkMistake(void* arg, const Asn1Mistake* mistake)
 
 std::vector<OSOCTET> encode(OSCTXT& ctxt, const CellGroupConfig& value)
 {
-    std::vector<OSOCTET> octets(1 << 20);
-    require(pu_setBuffer(&ctxt, octets.data(), octets.size(), 0) == RTX_OK, "no buffer");
+    static OSOCTET octets[1 << 20]; // no text of a fuzzer is as long
+    require(pu_setBuffer(&ctxt, octets, sizeof octets, 0) == RTX_OK, "no buffer");
     const int status = asn1PE_CellGroupConfig(&ctxt, &value);
     if (status != RTX_OK)
     {
         rtxErrPrint(&ctxt);
     }
     require(status == RTX_OK, "what was read is not encoded");
-    octets.resize(pu_getMsgLen(&ctxt));
-    return octets;
+    return {octets, octets + pu_getMsgLen(&ctxt)};
+}
+
+// A tree read from a text.
+class Tree
+{
+public:
+    Tree(decltype(asn1FromJson) read, const char* text, size_t length)
+    {
+        rtxInitContext(&ctxt);
+        rtxMemHeapSetLimit(&ctxt, size_t{64} << 20);
+        Input input{text, length};
+        mistakes = read(&ctxt, &nr_rrc::type_CellGroupConfig, &value, text, length, checkMistake, &input);
+        require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES, "mistakes are counted otherwise");
+    }
+
+    ~Tree()
+    {
+        rtFreeContext(&ctxt);
+    }
+
+    Tree(const Tree&) = delete;
+    Tree& operator=(const Tree&) = delete;
+
+    OSCTXT ctxt;
+    CellGroupConfig value;
+    int mistakes;
+};
+
+void append(void* arg, const char* text)
+{
+    *static_cast<std::string*>(arg) += text;
+}
+
+void checkAgain(decltype(asn1FromJson) read, const std::string& text, const std::vector<OSOCTET>& octets)
+{
+    Tree tree(read, text.data(), text.size());
+    require(tree.mistakes == 0, "what was written has mistakes");
+    require(encode(tree.ctxt, tree.value) == octets, "what was written is another value");
 }
 
 void check(decltype(asn1FromJson) read, const char* text, size_t length)
 {
-    OSCTXT ctxt;
-    rtxInitContext(&ctxt);
-    rtxMemHeapSetLimit(&ctxt, size_t{64} << 20);
-    const auto value = std::make_unique<CellGroupConfig>();
-    Input input{text, length};
-    const int mistakes = read(&ctxt, &nr_rrc::type_CellGroupConfig, value.get(), text, length, checkMistake, &input);
-    require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES, "mistakes are counted otherwise");
-    if (mistakes == 0)
+    Tree tree(read, text, length);
+    if (tree.mistakes != 0)
     {
-        std::vector<OSOCTET> once = encode(ctxt, *value);
-        require(pu_setBuffer(&ctxt, once.data(), once.size(), 0) == RTX_OK, "no buffer to decode from");
-        require(asn1PD_CellGroupConfig(&ctxt, value.get()) == RTX_OK, "what was encoded is not decoded");
-        require(encode(ctxt, *value) == once, "the second encoding is another one");
+        return;
     }
-    rtFreeContext(&ctxt);
+    const std::vector<OSOCTET> octets = encode(tree.ctxt, tree.value);
+    const RtxType* const type = &nr_rrc::type_CellGroupConfig;
+    std::string json;
+    require(rtxToJson(&tree.ctxt, type, &tree.value, RTX_COMPACT, append, &json) == RTX_OK, "JER is not written");
+    checkAgain(asn1FromJson, json, octets);
+    std::string flat;
+    require(rtxToFlat(&tree.ctxt, type, &tree.value, append, &flat) == RTX_OK, "flat lines are not written");
+    checkAgain(asn1FromFlat, flat, octets);
 }
 
 } // namespace

@@ -154,10 +154,10 @@ std::string cIdentifier(std::string name)
 
 constexpr std::int64_t maxListCount = 65535;
 constexpr std::int64_t maxBits = 65535;
-constexpr unsigned maxNesting = 40;         // below the runtime's RTX_MAX_DEPTH
-constexpr std::size_t maxFlags = 56;        // so that the decoder loads a bitmap with one word
-constexpr std::size_t maxAdditions = 32;    // so that their presence fits into one word
-constexpr std::ptrdiff_t maxIdentity = 128; // so that its index fits into an octet
+constexpr unsigned maxNesting = 40;      // below the runtime's RTX_MAX_DEPTH
+constexpr std::size_t maxFlags = 56;     // so that the decoder loads a bitmap with one word
+constexpr std::size_t maxAdditions = 32; // so that their presence fits into one word
+constexpr std::size_t maxIdentity = 128; // so that its index fits into an octet
 constexpr std::size_t maxTypes = 20000;
 constexpr std::size_t maxNameText = std::size_t{4} * 1024 * 1024; // octets, of all C names together
 
@@ -500,9 +500,9 @@ private:
                                "the elements, of type '" + element.asnName + "', have no member '" + source.name + "'");
             return;
         }
-        const std::ptrdiff_t index = found - element.members.begin();
+        const auto index = static_cast<std::size_t>(found - element.members.begin());
         const bool number = found->type->kind == Kind::Integer || found->type->kind == Kind::Enumerated;
-        if (!number || found->optional || index >= std::min<std::ptrdiff_t>(maxIdentity, element.rootCount))
+        if (!number || found->optional || index >= std::min(maxIdentity, element.rootCount))
         {
             diagnostics_.error(source.at, "the member '" + source.name +
                                               "' is no identity: that is a mandatory INTEGER "

@@ -110,7 +110,7 @@ private:
         // The encoder sends which additions there are before the additions themselves.
         const auto unknown = load<OSRTDList>(value, type.extElem);
         const Place unknownPlace{&place, named("extElem1")};
-        const uint32_t reached = unknownList(unknown, type.additionCount, unknownPlace);
+        const uint32_t reached = unknownList(type, unknown, unknownPlace);
         for (unsigned i = 0; i < type.additionCount; ++i)
         {
             const Addition& addition = type.additions[i];
@@ -136,10 +136,9 @@ private:
     }
 
     // Returns how many of the unknown additions can be followed.
-    uint32_t unknownList(const OSRTDList& list, unsigned known, const Place& place)
+    uint32_t unknownList(const Type& type, const OSRTDList& list, const Place& place)
     {
-        constexpr uint64_t most = 0x3FFF; // X.691 11.9.3.4: a length below 16K for all additions
-        uint64_t all = known;
+        uint64_t all = type.additionCount;
         const OSRTDListNode* node = list.head;
         for (uint32_t i = 0; i < list.count; ++i, node = node->next)
         {
@@ -154,16 +153,10 @@ private:
                 report(at, status);
                 return i;
             }
-            const uint64_t number = known + uint64_t{static_cast<const ASN1OpenType*>(node->data)->index};
-            if (number < all) // not behind the one before
+            const Reason wrong = wrongPlace(type, *static_cast<const ASN1OpenType*>(node->data), all);
+            if (wrong.status != RTX_OK)
             {
-                report(at, RTX_E_EXTENSION);
-                return i;
-            }
-            all = number + 1;
-            if (all > most)
-            {
-                report(place, {RTX_E_SIZE, static_cast<int64_t>(all), 0, static_cast<int64_t>(most)});
+                report(wrong.status == RTX_E_SIZE ? place : at, wrong);
                 return i;
             }
         }

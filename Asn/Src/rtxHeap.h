@@ -49,7 +49,11 @@ inline void* take(OSCTXT& ctxt, size_t size)
 // rtxMemHeapAlloc, inline where there is room: that is nearly always.
 inline void* allocate(OSCTXT& ctxt, size_t size)
 {
-    return fits(ctxt, size) ? take(ctxt, size) : rtxMemHeapAlloc(&ctxt, size);
+    if (fits(ctxt, size)) [[likely]]
+    {
+        return take(ctxt, size);
+    }
+    return rtxMemHeapAlloc(&ctxt, size);
 }
 
 // The octets of one block that were handed out.

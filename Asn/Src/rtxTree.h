@@ -144,6 +144,18 @@ inline RtxStatus refuse(const OSCTXT* ctxt, const ASN1OpenType& open)
     return ctxt != nullptr && owns(*ctxt, open.data, open.numocts) ? RTX_OK : RTX_E_FOREIGN;
 }
 
+// What is wrong with the place of an unknown addition behind `all` additions, known ones and those of the list before
+// it; `all` then counts it, too.
+inline Reason wrongPlace(const Type& type, const ASN1OpenType& open, uint64_t& all)
+{
+    constexpr uint64_t most = 0x3FFF; // X.691 11.9.3.4: a length below 16K for all additions
+    const uint64_t before = all;
+    all = uint64_t{type.additionCount} + open.index + 1;
+    return all <= before ? Reason{RTX_E_EXTENSION}
+           : all > most  ? Reason{RTX_E_SIZE, static_cast<int64_t>(all), 0, static_cast<int64_t>(most)}
+                         : Reason{};
+}
+
 // How the walk over a list ended.
 enum class ListEnd : uint8_t
 {

@@ -401,7 +401,7 @@ private:
         {
             return;
         }
-        uint64_t next = 0; // the first index that the next one may have
+        uint64_t all = type.additionCount;
         const auto each = [&](uint32_t i, const void* data)
         {
             const auto* const open = static_cast<const ASN1OpenType*>(data);
@@ -415,8 +415,8 @@ private:
                 shown(indexed(i), [&] { invalidPointer(status); });
                 return;
             }
-            note(open->numocts == 0 || open->index < next ? RTX_E_EXTENSION : RTX_OK);
-            next = uint64_t{open->index} + 1;
+            note(wrongPlace(type, *open, all).status);
+            note(open->numocts == 0 ? RTX_E_EXTENSION : RTX_OK);
             writer_.unknown(type, open->index, *open);
         };
         writer_.openUnknown(value.count);

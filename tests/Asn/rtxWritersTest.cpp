@@ -1,3 +1,5 @@
+#include "NR-RRC-Pdus.h"
+#include "randomTree.h"
 #include "support/JsonText.h"
 #include "treeTest.h"
 
@@ -893,6 +895,38 @@ TEST_F(PartialTree, OfAnotherTypeIsNone)
     Three three = {};
     three.t = 1;
     expect(threeType, &three, {R"({"none":null})", "none : NULL", "Three.none = null\n"});
+}
+
+// Trees of every type, valid and spoilt: JSON stays JSON, and the writers refuse what the encoder refuses.
+TEST_F(Writers, RandomTrees)
+{
+    unsigned refused = 0;
+    unsigned trees = 0;
+    for (const RtxPdu& pdu : rtxPdus)
+    {
+        for (uint64_t seed = 0; seed < 40; ++seed)
+        {
+            SCOPED_TRACE(std::string(pdu.name) + ", seed " + std::to_string(seed));
+            rtFreeContext(&ctxt);
+            RandomTree random(ctxt, seed);
+            void* const value = random.make(*pdu.type);
+            const Written valid = json(*pdu.type, value);
+            EXPECT_EQ(RTX_OK, valid.status) << valid.text;
+            const auto done = random.spoil(*pdu.type, value, 1 + static_cast<unsigned>(seed % 3));
+            const Written compact = json(*pdu.type, value);
+            EXPECT_TRUE(JsonText::isValid(compact.text)) << compact.text;
+            EXPECT_TRUE(JsonText::isValid(json(*pdu.type, value, RTX_INDENTED).text));
+            EXPECT_EQ(compact.status, notation(*pdu.type, value).status);
+            EXPECT_EQ(compact.status, flat(*pdu.type, value).status);
+            const bool taken = rtxCheck(&ctxt, pdu.type, value, nullptr, nullptr) == 0;
+            // The encoder takes a list that is a loop, as far as it counts.
+            EXPECT_TRUE(taken == (compact.status == RTX_OK) || (taken && compact.status == RTX_E_LIST))
+                << testing::PrintToString(done) << compact.text;
+            refused += taken ? 0 : 1;
+            ++trees;
+        }
+    }
+    EXPECT_GT(refused, trees / 2);
 }
 
 } // namespace

@@ -14,6 +14,9 @@ expect()
 }
 
 expect "exported" "rrcComposeCellGroupCfg
+rrcComposeCellGroupTree
+rrcEncodeCellGroupCfg
+rrcEncodeCellGroupCfgInMemory
 rrcInitBwpDl
 rrcInitBwpDlDedicated
 rrcInitBwpUl

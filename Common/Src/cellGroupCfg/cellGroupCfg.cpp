@@ -15,7 +15,7 @@ constexpr size_t bufferSize = 8192;
 
 // On the entry's stack: the tree of a typical call, so that malloc is asked by larger ones only. All that the call
 // needs of the stack stays within 32 KiB.
-constexpr size_t memorySize = 20 * 1024;
+constexpr size_t memorySize = 16 * 1024;
 
 // CellGroupConfig
 INT32 composeCellGroup(OSCTXT* pAsnCxt, CellGroupConfig* pCellGroupConfig, RrcCellGroupCfg_t* pRrcCellGroupCfg)

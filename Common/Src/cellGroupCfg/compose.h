@@ -12,6 +12,7 @@
 
 #include "NR-RRC-Definitions.h"
 #include "failureLines.h"
+#include "rtxHeap.h"
 #include "vos_err_print.h"
 #include "vos_lib.h"
 
@@ -93,7 +94,7 @@ void assign(Member& member, Value value)
 template <typename Element>
 Element* allocate(OSCTXT* pAsnCxt)
 {
-    return static_cast<Element*>(rtxMemHeapAlloc(pAsnCxt, sizeof(Element)));
+    return static_cast<Element*>(rtx::allocate(*pAsnCxt, sizeof(Element)));
 }
 
 // Chooses an alternative that is held by pointer, with the element given. Without one the choice is left without an

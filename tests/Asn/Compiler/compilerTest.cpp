@@ -399,7 +399,7 @@ TEST(Options, WhatIsNotUsualIsUnlikely)
     const auto encoder = [&](const std::vector<std::string>& usual)
     {
         Diagnostics diagnostics("t");
-        const auto files = asncomp::compile("t", schema, {{"all"}, {}, {}, usual}, diagnostics);
+        const auto files = asncomp::compile("t", schema, {{"all"}, {}, {}, false, usual}, diagnostics);
         EXPECT_THAT(diagnostics.messages(), IsEmpty());
         return files.at(3).text;
     };
@@ -422,7 +422,7 @@ TEST(Options, AUsualMemberIsOneOfTheSchema)
     Diagnostics diagnostics("t");
     EXPECT_THAT(asncomp::compile("t",
                                  "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN A ::= SEQUENCE { x BOOLEAN OPTIONAL } END",
-                                 {{"all"}, {}, {}, {"A.x", "A.y", "B.x"}}, diagnostics),
+                                 {{"all"}, {}, {}, false, {"A.x", "A.y", "B.x"}}, diagnostics),
                 IsEmpty());
     EXPECT_THAT(diagnostics.messages(),
                 ElementsAre(HasSubstr("there is no member 'A.y'"), HasSubstr("there is no member 'B.x'")));

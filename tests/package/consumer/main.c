@@ -1,8 +1,9 @@
-/* Composes the smallest cell group and a refused one, and calls a packer. */
+/* Composes the smallest cell group and a refused one, in each way, and calls a packer. */
 #include <stdio.h>
 #include <string.h>
 
-#include "rrcCodec/rrcCodec.h"
+#include "NR-RRC-Definitions.h"
+#include "rrcCodec/rrcCompose.h"
 
 #ifdef OWN_PLATFORM
 #include "own_platform.h"
@@ -20,9 +21,37 @@ static int check(int holds, const char* what)
     return holds ? 0 : 1;
 }
 
+/* The careful calls: a buffer of two octets, and a tree in which the cell group gets another identity. */
+static int checkCareful(void)
+{
+    static UINT8 memory[RRC_COMPOSE_MEMORY_SIZE];
+    int wrong = 0;
+    size_t length = 0;
+    char error[100];
+    OSCTXT context;
+    CellGroupConfig* tree;
+
+    record.cellGroupId = 1;
+    wrong += check(rrcEncodeCellGroupCfg(&record, octets, 2, &length, error, sizeof(error)) == RRC_COMPOSE_OK &&
+                       length == 2 && octets[1] == 0x40,
+                   "encoded");
+    wrong += check(rrcEncodeCellGroupCfgInMemory(&record, memory, sizeof(memory), octets, 1, &length, error,
+                                                 sizeof(error)) == RRC_COMPOSE_E_CAPACITY &&
+                       length == 0 && strstr(error, "does not fit into 1 octet") != NULL,
+                   "encoded into one octet");
+
+    wrong += check(rtxInitContext(&context) == 0, "context");
+    wrong += check(rrcComposeCellGroupTree(&context, &record, &tree) == RRC_COMPOSE_OK, "tree");
+    tree->cellGroupId = 3;
+    (void)pu_setBuffer(&context, octets, 2, 0);
+    wrong += check(asn1PE_CellGroupConfig(&context, tree) == 0 && octets[1] == 0xC0, "amended tree");
+    rtFreeContext(&context);
+    return wrong;
+}
+
 int main(void)
 {
-    int wrong = 0;
+    int wrong = checkCareful();
     UINT8 packed[6];
     Mbuf_t mbuf;
     memset(&mbuf, 0, sizeof(mbuf));

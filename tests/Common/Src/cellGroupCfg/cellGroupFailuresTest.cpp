@@ -12,6 +12,7 @@
 #include "cellGroupCfg/spCell.h"
 #include "oneBearer.h"
 #include "rrcCodec/rrcCodec.h"
+#include "rrcCodec/rrcCompose.h"
 #include "support/ComposerTest.h"
 #include "support/Interposed.h"
 
@@ -165,4 +166,41 @@ TEST_F(cellGroupFailures, TimingAdvanceGroupEndsTheList)
     EXPECT_EQ(rrcComposeTag_Config(&context, &element, &cfg), VOS_OK);
     EXPECT_EQ(printed(), "rrcComposeTagCfg_ToAdd is Error\r\n");
     EXPECT_EQ(element.m.tag_ToAddModListPresent, 1U);
+}
+
+// What the entry does not look at the careful calls do.
+TEST_F(cellGroupFailures, IgnoredFailuresAreRefusedByTheCarefulCalls)
+{
+    const auto record = cleared<RrcCellGroupCfg_t>();
+    oneBearer(*record);
+    std::vector<UINT8> octets(8192);
+    Mbuf_t message = {0, octets.data()};
+    size_t length = 1;
+    char error[200];
+    CellGroupConfig* tree = nullptr;
+
+    const Failing failing(address(rrcComposeTagCfg_ToAdd));
+    EXPECT_EQ(rrcComposeCellGroupCfg(record.get(), &message), VOS_ERROR) << "the list is empty";
+    EXPECT_THAT(printed(), testing::StartsWith("rrcComposeTagCfg_ToAdd is Error\r\nrrcComposeCellGroupCfg Error\r\n"));
+    EXPECT_EQ(rrcEncodeCellGroupCfg(record.get(), octets.data(), octets.size(), &length, error, sizeof error),
+              RRC_COMPOSE_E_FAILED);
+    EXPECT_STREQ(error, "rrcComposeTagCfg_ToAdd is Error");
+    EXPECT_EQ(length, 0U);
+    EXPECT_EQ(rrcComposeCellGroupTree(&context, record.get(), &tree), RRC_COMPOSE_E_FAILED);
+    EXPECT_EQ(tree, nullptr);
+    EXPECT_EQ(printed(), "rrcComposeTagCfg_ToAdd is Error\r\nrrcComposeTagCfg_ToAdd is Error\r\n");
+}
+
+TEST_F(cellGroupFailures, FailuresAreToldWithTheirCallers)
+{
+    const auto record = cleared<RrcCellGroupCfg_t>();
+    oneBearer(*record);
+    std::vector<UINT8> octets(8192);
+    size_t length = 1;
+    char error[200];
+    const Failing failing(address(rrcComposeRlc_BearerCfg));
+    EXPECT_EQ(rrcEncodeCellGroupCfg(record.get(), octets.data(), octets.size(), &length, error, sizeof error),
+              RRC_COMPOSE_E_FAILED);
+    EXPECT_STREQ(error, "rrcComposeRlc_BearerCfg is Error, rrcComposeRlc_BearerToAddModList Error");
+    EXPECT_EQ(printed(), "rrcComposeRlc_BearerCfg is Error\r\nrrcComposeRlc_BearerToAddModList Error\r\n");
 }

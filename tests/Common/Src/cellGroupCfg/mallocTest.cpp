@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "NR-RRC-Definitions.h"
@@ -138,10 +139,15 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
     const size_t start = touchedBy(nothing, record.get());
     const size_t success = touchedBy(composed, record.get()) - start;
     record->cellGroupId = 9;
-    test::CapturedOutput output;
-    const size_t refusal = touchedBy(composed, record.get()) - start;
-    EXPECT_THAT(output.take(), testing::HasSubstr("CellGroupConfig.cellGroupId: 9 is not in 0..3"));
-    EXPECT_GE(success, 20U * 1024);
+    size_t refusal = 0;
+    std::string printed;
+    {
+        test::CapturedOutput output;
+        refusal = touchedBy(composed, record.get()) - start;
+        printed = output.take();
+    }
+    EXPECT_THAT(printed, testing::HasSubstr("CellGroupConfig.cellGroupId: 9 is not in 0..3"));
+    EXPECT_GE(success, 16U * 1024);
     if (!sanitized)
     {
         EXPECT_LE(success, 32U * 1024);
