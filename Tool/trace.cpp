@@ -55,7 +55,8 @@ public:
     Table(const RtxPdu& pdu, const std::vector<std::uint8_t>& octets) : pdu_(pdu), octets_(octets)
     {
         const std::size_t digits = std::to_string(octets.size() * 8).size();
-        widths_ = {2 * digits + 2, digits + 1, std::string_view("width").size(), 24};
+        widths_ = {2 * digits + 2, std::max(digits + 1, std::string_view("octet").size()),
+                   std::string_view("width").size(), 24};
         line({"bits", "octet", "width", "content"}, "path and meaning");
     }
 
@@ -167,10 +168,9 @@ private:
         if (field.type != nullptr) // of a bitmap, behind the bit that says how it is written
         {
             constexpr std::uint64_t small = 7; // bits
-            return counted(field.width == small ? number(field, 1) + 1 : unboundedLength(field, 1), "addition") +
-                   " told of";
+            return counted(field.width == small ? number(field, 1) + 1 : unboundedLength(field, 1), "addition");
         }
-        return counted(unboundedLength(field, 0), "octet") + " follow";
+        return counted(unboundedLength(field, 0), "octet");
     }
 
     std::uint64_t unboundedLength(const RtxField& field, std::uint64_t from) const
@@ -195,7 +195,7 @@ private:
         case RTX_FIELD_COUNT:
             return ": " + counted(field.bits, "element");
         case RTX_FIELD_LENGTH:
-            return ": " + length(field);
+            return ": length of " + length(field);
         case RTX_FIELD_VALUE:
             return " = " + valueText(nullptr, *field.type, field.value);
         case RTX_FIELD_PADDING:

@@ -157,9 +157,9 @@ def test_trace(folder):
         found = run("decode", "--as", "binary", "--trace", str(folder / "message"))
         true(trace_bits(found[1].decode()) == bits_of(data), f"the trace of {data.hex()} is the message")
     expect(["decode", "--trace", UNKNOWN.hex()], DONE, re.compile(
-        r"CellGroupConfig: extended\n(.*\n)*.* 0000001 +CellGroupConfig: 2 additions told of\n"
+        r"CellGroupConfig: extended\n(.*\n)*.* 0000001 +CellGroupConfig: length of 2 additions\n"
         r".* 01 +CellGroupConfig: -\[\[1\]\] \+unknown\n"
-        r".* 00000001 +CellGroupConfig\S+: 1 octet follow\n"
+        r".* 00000001 +CellGroupConfig\S+: length of 1 octet\n"
         r".* 10101011 +CellGroupConfig\S+: 1 octet of what this release does not know\n"))
 
 
@@ -376,6 +376,17 @@ def test_pcap(folder):
     expect(["pcap"], MALFORMED, err=re.compile("16384 octets; at most 16383"), stdin=b"\x00" * 16384)
 
 
+def test_wireshark(folder):
+    """Wireshark reads the capture without any setting, and sees the message that was put in."""
+    capture = folder / "shown.pcapng"
+    for nesting, name in (("bare", "CellGroupConfig"), ("rrc-reconfiguration", "rrcReconfiguration"),
+                          ("rrc-setup", "rrcSetup")):
+        expect(["pcap", "--in", nesting, "-o", str(capture), LONG.hex()], DONE)
+        shown = subprocess.run(["tshark", "-V", "-r", str(capture)], capture_output=True, check=True, text=True).stdout
+        true(name in shown and "sCellToReleaseList" not in shown and "Malformed" not in shown, f"{nesting}: {shown}")
+        true("rlc-BearerToReleaseList: 31 items" in shown, f"{nesting}: {shown}")
+
+
 def test_explain(folder):
     expect(["explain", "CellGroupConfig.spCellConfig.reconfigurationWithSync.t304"], DONE,
            """CellGroupConfig.spCellConfig.reconfigurationWithSync.t304
@@ -500,7 +511,7 @@ def test_help(folder):
 
 with tempfile.TemporaryDirectory() as name:
     for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_check,
-                 test_find, test_pcap, test_explain, test_streams, test_help):
+                 test_find, test_pcap, test_wireshark, test_explain, test_streams, test_help):
         test(pathlib.Path(name))
 print("\n\n".join(failures))
 print(f"{count} checks, {len(failures)} failed")
