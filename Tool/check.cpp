@@ -131,10 +131,12 @@ std::vector<Finding> findingsOf(const Message& message, const Given& given)
     }
     if (decoded.note != RTX_NOTE_NONE)
     {
-        all.push_back(note("per-not-canonical", message.pdu(),
-                           noteText(decoded.note) + " (at " + bitPlace(decoded.noteOffset) +
-                               "): encoding the message again gives other octets",
-                           "X.691 6.1"));
+        const std::string text = noteText(message.pdu(), given.input.octets);
+        Finding finding =
+            note("per-not-canonical", message.pdu(),
+                 text.substr(text.find(": ") + 2) + "; encoding the message again gives other octets", "X.691 6.1");
+        finding.path = text.substr(0, text.find(": "));
+        all.push_back(std::move(finding));
     }
     return all;
 }

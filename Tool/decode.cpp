@@ -39,12 +39,12 @@ std::string textIn(DecodeForm form, const Message& message, const Given& given)
                                        : written(write);
 }
 
-std::string canonicity(const Message& message)
+std::string canonicity(const Message& message, const Given& given)
 {
     const RtxDecoded& decoded = message.context().decoded;
     return decoded.note == RTX_NOTE_NONE
                ? "encoding it again gives the same octets"
-               : "not canonical at " + bitPlace(decoded.noteOffset) + ": " + noteText(decoded.note);
+               : "encoding it again gives other octets: " + noteText(message.pdu(), given.input.octets);
 }
 
 std::string verdict(const Message& message)
@@ -86,7 +86,7 @@ void decode(Session& session, const Operands& operands, DecodeForm form)
         message.expectGood();
         if (!message.isText())
         {
-            session.note(given.place() + ": " + canonicity(message));
+            session.note(given.place() + ": " + canonicity(message, given));
         }
         if (isVerdict)
         {

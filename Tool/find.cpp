@@ -3,10 +3,14 @@
 #include "commands.h"
 #include "message.h"
 #include "octets.h"
+#include "rtxType.h"
 #include "text.h"
 #include "trace.h"
 
 #include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cstddef>
 
 namespace tool
 {
@@ -17,6 +21,25 @@ using Json = nlohmann::ordered_json;
 
 // What the search takes in one piece.
 constexpr std::size_t maxSearched = std::size_t{512} << 20;
+
+// Wireshark's exported PDU: tags of 16 bits, each with the length of its value, in front of the octets.
+constexpr int linkTypeUpperPdu = 252;
+
+std::span<const std::uint8_t> behindTags(std::span<const std::uint8_t> packet)
+{
+    constexpr std::size_t header = 4;
+    while (packet.size() >= header)
+    {
+        const std::size_t tag = std::size_t{packet[0]} << 8 | packet[1];
+        const std::size_t length = std::size_t{packet[2]} << 8 | packet[3];
+        packet = packet.subspan(std::min(header + length, packet.size()));
+        if (tag == 0)
+        {
+            break;
+        }
+    }
+    return packet;
+}
 
 class Search
 {
@@ -50,8 +73,9 @@ public:
             lines(source);
             return;
         }
-        Recognition recognition = recognise(source.raw, session_.common().as);
-        if (auto* const input = std::get_if<Input>(&recognition))
+        const Recognition recognition = recognise(source.raw, session_.common().as);
+        const auto* const input = std::get_if<Input>(&recognition);
+        if (input != nullptr && input->form != Form::LogLine)
         {
             session_.note(source.name + ": " + input->note);
             given(source.name, *input);
@@ -83,7 +107,9 @@ private:
         {
             done += packet.octets.size();
             session_.progress(done, raw.size());
-            octets(name + ": packet " + std::to_string(packet.number), packet.octets);
+            const bool isExported = packet.linkType == linkTypeUpperPdu;
+            octets(name + ": packet " + std::to_string(packet.number),
+                   isExported ? behindTags(packet.octets) : packet.octets);
         };
         if (const auto problem = readCapture(raw, nullptr, visit))
         {
@@ -132,6 +158,11 @@ private:
 
     void octets(const std::string& place, std::span<const std::uint8_t> data)
     {
+        if (isMessage(data))
+        {
+            show(place, data, {0, 0, static_cast<OSUINT32>(data.size())});
+            return;
+        }
         std::vector<RtxFound> found;
         count_ = data.size();
         found_ = &found;
@@ -155,6 +186,22 @@ private:
         {
             show(place, data, one);
         }
+    }
+
+    // Whether the octets are a message with nothing around it.
+    bool isMessage(std::span<const std::uint8_t> data)
+    {
+        if (data.size() < options_.minOctets || data.size() > maxMessageOctets)
+        {
+            return false;
+        }
+        const RtxType& type = *session_.common().type->type;
+        std::vector<std::uint8_t> octets(data.begin(), data.end());
+        std::vector<std::max_align_t> value(type.size / sizeof(std::max_align_t) + 1);
+        (void)pu_setBuffer(&context_, octets.data(), octets.size(), 0);
+        const int status = rtxDecode(&context_, &type, value.data(), RTX_DECODE_STRICT);
+        rtFreeContext(&context_);
+        return status == RTX_OK;
     }
 
     void show(const std::string& place, std::span<const std::uint8_t> data, const RtxFound& found)

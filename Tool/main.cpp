@@ -86,15 +86,14 @@ public:
             try
             {
                 command_(session);
+                session.finish();
             }
             catch (const Failure& failure)
             {
-                // What was written before it stands.
-                session.finish();
+                session.finish(true);
                 session.say(failure.what());
                 session.raise(failure.status());
             }
-            session.finish();
             return static_cast<int>(session.status());
         }
         catch (const CLI::Success& success)

@@ -125,13 +125,17 @@ void Session::write(std::string_view text)
     }
 }
 
-void Session::finish()
+void Session::finish(bool hasFailed)
 {
     clearProgress();
     if (file_.empty())
     {
         write(output_);
         output_.clear();
+        return;
+    }
+    if (hasFailed)
+    {
         return;
     }
     const File file(std::fopen(file_.c_str(), "wb"));

@@ -98,8 +98,8 @@ public:
     void outputTo(const std::string& file);
     // Refuses binary data on a terminal.
     void expectBinary();
-    // Writes what is left. Throws Failure or Closed.
-    void finish();
+    // Writes what is left; to a file only what a command that did not fail has put. Throws Failure or Closed.
+    void finish(bool hasFailed = false);
 
     // A line of words, to standard error.
     void say(std::string_view text);

@@ -18,13 +18,45 @@ constexpr std::uint64_t mostBits = 64;
 // That many of a field's bits are given as a number.
 constexpr std::uint64_t mostGiven = 57;
 
+std::string pathOf(const RtxPdu& pdu, const RtxField& field)
+{
+    std::string text = pdu.name;
+    for (unsigned i = 0; i < field.depth; ++i)
+    {
+        const RtxPathStep& step = field.path[i];
+        const std::string index = std::to_string(step.index);
+        text += step.group != 0        ? ".[[" + index + "]]"
+                : step.name == nullptr ? "[" + index + "]"
+                                       : "." + std::string(step.name);
+    }
+    return text;
+}
+
+std::string wordsOf(unsigned note)
+{
+    switch (note)
+    {
+    case RTX_NOTE_NONE:
+        return "";
+    case RTX_NOTE_EMPTY_EXTENSION:
+        return "an extension is announced and has no addition";
+    case RTX_NOTE_BITMAP:
+        return "the bitmap of the additions has another length than this release's";
+    case RTX_NOTE_EMPTY_GROUP:
+        return "an extension group without members";
+    default:
+        return "octets behind the content of an open type";
+    }
+}
+
 class Table
 {
 public:
     Table(const RtxPdu& pdu, const std::vector<std::uint8_t>& octets) : pdu_(pdu), octets_(octets)
     {
         const std::size_t digits = std::to_string(octets.size() * 8).size();
-        widths_ = {2 * digits + 2, digits + 1, std::string_view("width").size(), 24};
+        widths_ = {2 * digits + 2, std::max(digits + 1, std::string_view("octet").size()),
+                   std::string_view("width").size(), 24};
         line({"bits", "octet", "width", "content"}, "path and meaning");
     }
 
@@ -33,8 +65,8 @@ public:
         const std::string first = std::to_string(field.offset);
         line({field.width < 2 ? first : first + ".." + std::to_string(field.offset + field.width - 1),
               octetPlace(field.offset), std::to_string(field.width), content(field)},
-             path(field) + meaning(field) +
-                 (field.note == RTX_NOTE_NONE ? "" : " (not canonical: " + noteText(field.note) + ")"));
+             pathOf(pdu_, field) + meaning(field) +
+                 (field.note == RTX_NOTE_NONE ? "" : " (not canonical: " + wordsOf(field.note) + ")"));
         isExtended_ = field.kind == RTX_FIELD_EXTENSION && field.bits != 0;
     }
 
@@ -105,20 +137,6 @@ private:
         return "0x" + text;
     }
 
-    std::string path(const RtxField& field) const
-    {
-        std::string text = pdu_.name;
-        for (unsigned i = 0; i < field.depth; ++i)
-        {
-            const RtxPathStep& step = field.path[i];
-            const std::string index = std::to_string(step.index);
-            text += step.group != 0        ? ".[[" + index + "]]"
-                    : step.name == nullptr ? "[" + index + "]"
-                                           : "." + std::string(step.name);
-        }
-        return text;
-    }
-
     std::string announced(const RtxField& field) const
     {
         std::string text;
@@ -150,10 +168,9 @@ private:
         if (field.type != nullptr) // of a bitmap, behind the bit that says how it is written
         {
             constexpr std::uint64_t small = 7; // bits
-            return counted(field.width == small ? number(field, 1) + 1 : unboundedLength(field, 1), "addition") +
-                   " told of";
+            return counted(field.width == small ? number(field, 1) + 1 : unboundedLength(field, 1), "addition");
         }
-        return counted(unboundedLength(field, 0), "octet") + " follow";
+        return counted(unboundedLength(field, 0), "octet");
     }
 
     std::uint64_t unboundedLength(const RtxField& field, std::uint64_t from) const
@@ -178,7 +195,7 @@ private:
         case RTX_FIELD_COUNT:
             return ": " + counted(field.bits, "element");
         case RTX_FIELD_LENGTH:
-            return ": " + length(field);
+            return ": length of " + length(field);
         case RTX_FIELD_VALUE:
             return " = " + valueText(nullptr, *field.type, field.value);
         case RTX_FIELD_PADDING:
@@ -199,6 +216,47 @@ private:
     bool isExtended_ = false; // the choice whose alternative follows
 };
 
+class FirstNote
+{
+public:
+    explicit FirstNote(const RtxPdu& pdu) : pdu_(pdu) {}
+
+    void add(const RtxField& field)
+    {
+        if (field.note != RTX_NOTE_NONE && text_.empty())
+        {
+            text_ = pathOf(pdu_, field) + ": " + wordsOf(field.note) + " (at bit " + std::to_string(field.offset) +
+                    ": octet " + std::to_string(field.offset / 8) + ", bit " + std::to_string(field.offset % 8) + ")";
+        }
+    }
+
+    std::string take()
+    {
+        return std::move(text_);
+    }
+
+private:
+    const RtxPdu& pdu_;
+    std::string text_;
+};
+
+// Gives every field of the message to `observer.add`. Its error is the decoder's, which is told elsewhere.
+template <typename Observer>
+void trace(const RtxPdu& pdu, std::vector<std::uint8_t>& octets, Observer& observer)
+{
+    octets.reserve(1); // an empty message has an address, too
+    std::vector<std::max_align_t> value(pdu.type->size / sizeof(std::max_align_t) + 1);
+    OSCTXT context;
+    rtxInitContext(&context);
+    (void)pu_setBuffer(&context, octets.data(), octets.size(), 0);
+    const auto sink = [](void* to, const RtxField* field)
+    {
+        static_cast<Observer*>(to)->add(*field);
+    };
+    (void)rtxTrace(&context, pdu.type, value.data(), 0, sink, &observer);
+    rtFreeContext(&context);
+}
+
 } // namespace
 
 std::string octetPlace(std::uint64_t bit)
@@ -206,44 +264,18 @@ std::string octetPlace(std::uint64_t bit)
     return std::to_string(bit / 8) + "." + std::to_string(bit % 8);
 }
 
-std::string bitPlace(std::uint64_t bit)
-{
-    return "bit " + std::to_string(bit) + " (octet " + octetPlace(bit) + ")";
-}
-
-std::string noteText(unsigned note)
-{
-    switch (note)
-    {
-    case RTX_NOTE_NONE:
-        return "";
-    case RTX_NOTE_EMPTY_EXTENSION:
-        return "an extension is announced and has no addition";
-    case RTX_NOTE_BITMAP:
-        return "the bitmap of the additions has another length than this release's";
-    case RTX_NOTE_EMPTY_GROUP:
-        return "an extension group without members";
-    default:
-        return "octets behind the content of an open type";
-    }
-}
-
 std::string traceText(const RtxPdu& pdu, std::vector<std::uint8_t> octets)
 {
-    octets.reserve(1); // an empty message has an address, too
-    std::vector<std::max_align_t> value(pdu.type->size / sizeof(std::max_align_t) + 1);
-    OSCTXT context;
-    rtxInitContext(&context);
-    (void)pu_setBuffer(&context, octets.data(), octets.size(), 0);
     Table table(pdu, octets);
-    const auto sink = [](void* to, const RtxField* field)
-    {
-        static_cast<Table*>(to)->add(*field);
-    };
-    // Its error is the decoder's, which is told elsewhere.
-    (void)rtxTrace(&context, pdu.type, value.data(), 0, sink, &table);
-    rtFreeContext(&context);
+    trace(pdu, octets, table);
     return table.take();
+}
+
+std::string noteText(const RtxPdu& pdu, std::vector<std::uint8_t> octets)
+{
+    FirstNote note(pdu);
+    trace(pdu, octets, note);
+    return note.take();
 }
 
 } // namespace tool

@@ -16,10 +16,8 @@ std::string traceText(const RtxPdu& pdu, std::vector<std::uint8_t> octets);
 // "5.7" of bit 47.
 std::string octetPlace(std::uint64_t bit);
 
-// "bit 47 (octet 5.7)"
-std::string bitPlace(std::uint64_t bit);
-
-// Why encoding again would give other octets: "an extension group without members". Empty for RTX_NOTE_NONE.
-std::string noteText(unsigned note);
+// Of a message that another sender has encoded differently than this encoder would, where and how it first did:
+// "<path>: an extension group without members (at bit 47: octet 5, bit 7)".
+std::string noteText(const RtxPdu& pdu, std::vector<std::uint8_t> octets);
 
 } // namespace tool

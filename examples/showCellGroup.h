@@ -7,8 +7,9 @@
 #include "NR-RRC-Definitions.h"
 #include "rrcCodec/rrcCodec.h"
 
-// Prints the octets of a CellGroupConfig in hex, then the element tree that they decode to. Returns the exit status.
-inline int showMessage(UINT8* octets, size_t length)
+// Prints the octets of a CellGroupConfig in hex, then the element tree that they decode to, with `json` its
+// JER, too. Returns the exit status.
+inline int showMessage(UINT8* octets, size_t length, bool json = false)
 {
     std::printf("%zu octets:", length);
     for (size_t i = 0; i < length; ++i)
@@ -29,6 +30,15 @@ inline int showMessage(UINT8* octets, size_t length)
     {
         rtxPrintSetContext(&context);
         asn1Print_CellGroupConfig("CellGroupConfig", &cellGroup);
+        if (json)
+        {
+            std::printf("\n");
+            const auto print = [](void*, const char* text)
+            {
+                std::printf("%s", text);
+            };
+            status = asn1ToJson_CellGroupConfig(&context, &cellGroup, RTX_INDENTED, print, nullptr);
+        }
     }
     else
     {
@@ -39,11 +49,11 @@ inline int showMessage(UINT8* octets, size_t length)
 }
 
 // Composes the record and shows the message. Returns the exit status.
-inline int showCellGroup(RrcCellGroupCfg_t& record)
+inline int showCellGroup(RrcCellGroupCfg_t& record, bool json = false)
 {
     std::array<UINT8, 8192> octets;
     Mbuf_t message = {0, octets.data()};
-    return rrcComposeCellGroupCfg(&record, &message) == VOS_OK ? showMessage(octets.data(), message.bufLen) : 1;
+    return rrcComposeCellGroupCfg(&record, &message) == VOS_OK ? showMessage(octets.data(), message.bufLen, json) : 1;
 }
 
 #endif

@@ -9,6 +9,13 @@ here=$(cd "$(dirname "$0")" && pwd)
 rm -rf "$scratch/installed" "$scratch/c" "$scratch/cxx"
 "$cmake" --install "$build" --prefix "$scratch/installed" >"$scratch/install.log"
 
+# The tool, where it is built.
+if [ -e "$build/Tool/cellgroupcfg" ]; then
+    "$scratch/installed/bin/cellgroupcfg" --version
+    grep -q '^\.TH "cellgroupcfg" "1"' "$scratch/installed/share/man/man1/cellgroupcfg.1"
+    bash -n "$scratch/installed/share/bash-completion/completions/cellgroupcfg"
+fi
+
 for language in c cxx; do
     "$cmake" -S "$here/consumer" -B "$scratch/$language" "-DCONSUMER_LANGUAGE=${language^^}" \
         "-DCMAKE_PREFIX_PATH=$scratch/installed" "$@"

@@ -1,0 +1,37 @@
+# Completion of cellgroupcfg for bash.
+_cellgroupcfg()
+{
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} words=
+    local input='--as --color --help --verbose' messages='--lines --type'
+    case $previous in
+        --as) words='binary hex hexdump c-array escaped base64 jer flat log' ;;
+        --color) words='auto always never' ;;
+        --format) words='text gcc json sarif' ;;
+        --in) words='bare rrc-reconfiguration rrc-setup' ;;
+        --type) words=$(cellgroupcfg explain 2>/dev/null) ;;
+        -o | --output) compopt -o default && COMPREPLY=() && return ;;
+        *)
+            if [ "$COMP_CWORD" -eq 1 ]; then
+                words='decode encode diff check find pcap explain --help --version'
+            else
+                case ${COMP_WORDS[1]} in
+                    decode) words="$input $messages --tree --json --compact --value-notation --flat --trace" ;;
+                    encode) words="$input $messages --hex --binary --c-array --base64 --output" ;;
+                    diff) words="$input --type --json" ;;
+                    check) words="$input $messages --format" ;;
+                    find) words="$input $messages --min-octets --decode --json" ;;
+                    pcap) words="$input --lines --in --output" ;;
+                    explain) words="--color --help --tree"
+                        [[ $current == -* ]] || words=$(cellgroupcfg explain 2>/dev/null) ;;
+                esac
+                if [[ $current != -* && ${COMP_WORDS[1]} != explain ]]; then
+                    compopt -o default
+                    COMPREPLY=()
+                    return
+                fi
+            fi
+            ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+}
+complete -F _cellgroupcfg cellgroupcfg

@@ -1,0 +1,518 @@
+"""check_tool.py <program> <project>: every command on good and bad input, through the program: exit status and both
+streams. The messages are encoded by hand, the expectations come from the schema."""
+
+import base64
+import difflib
+import json
+import os
+import pathlib
+import pty
+import re
+import subprocess
+import sys
+import tempfile
+
+PROGRAM, PROJECT = str(pathlib.Path(sys.argv[1]).resolve()), pathlib.Path(sys.argv[2])
+DONE, FINDINGS, USAGE, MALFORMED = 0, 1, 2, 3
+
+failures = []
+count = 0
+
+
+def run(*arguments, stdin=b"", environment=None):
+    if isinstance(stdin, str):
+        stdin = stdin.encode()
+    done = subprocess.run([PROGRAM, *arguments], input=stdin, capture_output=True, timeout=60, check=False,
+                          env={**os.environ, "NO_COLOR": "", **(environment or {})})
+    return done.returncode, done.stdout, done.stderr
+
+
+def differs(what, expected, found):
+    if isinstance(expected, str):
+        found = found.decode(errors="replace")
+    if isinstance(expected, re.Pattern):
+        found = found.decode(errors="replace")
+        return "" if expected.search(found) else f"{what}: no {expected.pattern!r} in {found!r}"
+    if expected == found:
+        return ""
+    if isinstance(expected, bytes):
+        return f"{what}: {found!r} instead of {expected!r}"
+    return f"{what}:\n" + "\n".join(difflib.unified_diff(expected.splitlines(), found.splitlines(), "expected", "found",
+                                                        lineterm=""))
+
+
+def expect(arguments, status, out="", err="", stdin=b"", environment=None):
+    """Exit status, standard output and standard error: texts and octets are compared, patterns have to occur."""
+    global count
+    count += 1
+    found = run(*arguments, stdin=stdin, environment=environment)
+    problems = [] if found[0] == status else [f"exit status {found[0]} instead of {status}; {found[2].decode()!r}"]
+    problems += [problem for problem in (differs("standard output", out, found[1]),
+                                         differs("standard error", err, found[2])) if problem]
+    if problems:
+        failures.append("cellgroupcfg " + " ".join(arguments) + "\n" + "\n".join(problems))
+
+
+def true(fact, what):
+    global count
+    count += 1
+    if not fact:
+        failures.append(what)
+
+
+def octets(bits):
+    """The octets of bits in any grouping, padded with zero bits."""
+    bits = re.sub(r"\s", "", bits)
+    bits += "0" * (-len(bits) % 8)
+    return bytes(int(bits[i:i + 8], 2) for i in range(0, len(bits), 8))
+
+
+def bits_of(data):
+    return "".join(f"{octet:08b}" for octet in data)
+
+
+# CellGroupConfig: not extended, seven optional members, cellGroupId of 2 bits. rlc-BearerToReleaseList: 1..32 elements,
+# counted in 5 bits, of 1..32.
+EMPTY = octets("0 0000000 11")
+RELEASE = octets("0 0100000 00  00001 00011 11110")
+RELEASE_HEX = "20023f00"
+RELEASE_TREE = """CellGroupConfig
+  cellGroupId 0
+  rlc-BearerToReleaseList: 2 elements
+    [0] 4
+    [1] 31
+"""
+RELEASE_JSON = """{
+  "cellGroupId": 0,
+  "rlc-BearerToReleaseList": [
+    4,
+    31
+  ]
+}
+"""
+RELEASE_COMPACT = '{"cellGroupId":0,"rlc-BearerToReleaseList":[4,31]}\n'
+RELEASE_FLAT = """CellGroupConfig.cellGroupId = 0
+CellGroupConfig.rlc-BearerToReleaseList[0] = 4
+CellGroupConfig.rlc-BearerToReleaseList[1] = 31
+"""
+OTHER = octets("0 0100000 01  00001 00011 01000")  # cellGroupId 1, the second element 9
+# An extension group that this release knows, with one of two additions announced: the second one is unknown, "AB".
+UNKNOWN = octets("1 0000000 00  0 000001 01  00000001 10101011")
+# Announced and empty.
+EMPTY_EXTENSION = octets("1 0000000 00  0 000000 0")
+
+
+def test_forms(folder):
+    true(RELEASE.hex() == RELEASE_HEX, "the message is what its bits say")
+    expect(["decode", RELEASE_HEX], DONE, RELEASE_TREE)
+    expect(["decode", "--tree", RELEASE_HEX], DONE, RELEASE_TREE)
+    expect(["decode", "--json", RELEASE_HEX], DONE, RELEASE_JSON)
+    expect(["decode", "--compact", RELEASE_HEX], DONE, RELEASE_COMPACT)
+    expect(["decode", "--flat", RELEASE_HEX], DONE, RELEASE_FLAT)
+    expect(["decode", "--value-notation", RELEASE_HEX], DONE, """value CellGroupConfig ::= {
+  cellGroupId 0,
+  rlc-BearerToReleaseList {
+    4,
+    31
+  }
+}
+""")
+    expect(["decode", "--trace", RELEASE_HEX], DONE, re.compile(
+        r"^bits +octet +width +content +path and meaning\n"
+        r"0 +0\.0 +1 +0 +CellGroupConfig: not extended\n"
+        r"1\.\.7 +0\.1 +7 +0100000 +CellGroupConfig: -rlc-BearerToAddModList \+rlc-BearerToReleaseList "
+        r"-mac-CellGroupConfig -physicalCellGroupConfig -spCellConfig -sCellToAddModList -sCellToReleaseList\n"
+        r"8\.\.9 +1\.0 +2 +00 +CellGroupConfig\.cellGroupId = 0\n"
+        r"10\.\.14 +1\.2 +5 +00001 +CellGroupConfig\.rlc-BearerToReleaseList: 2 elements\n"
+        r"15\.\.19 +1\.7 +5 +00011 +CellGroupConfig\.rlc-BearerToReleaseList\[0\] = 4\n"
+        r"20\.\.24 +2\.4 +5 +11110 +CellGroupConfig\.rlc-BearerToReleaseList\[1\] = 31\n"
+        r"25\.\.31 +3\.1 +7 +0000000 +CellGroupConfig: padding\n$"))
+    expect(["decode", "--json", "--flat", RELEASE_HEX], USAGE,
+           err="cellgroupcfg: --json and --flat exclude each other\n")
+    # RLC-Config: not extended, the second of four, no SN length and t-Reassembly 35 ms twice; a list; a number.
+    expect(["decode", "--type", "SCellIndex", "--flat", "f0"], DONE, "SCellIndex = 31\n")
+    expect(["decode", "--type", "RLC-Config", "--compact", "-"], DONE,
+           '{"um-Uni-Directional-DL":{"dl-UM-RLC":{"sn-FieldLength":"size12","t-Reassembly":"ms35"}}}\n',
+           stdin=octets("0 11  1 1 00111"))
+    expect(["decode", "--type", "RLC-Confg", "00"], USAGE,
+           err="cellgroupcfg: there is no type 'RLC-Confg'; did you mean RLC-Config?\n")
+
+
+def trace_bits(text):
+    """The bits of a trace's third and fourth column, joined."""
+    bits = ""
+    for line in text.splitlines()[1:]:
+        width, content = int(line.split()[2]), line.split()[3]
+        if content.startswith("0x"):
+            content = "".join(f"{int(digit, 16):04b}" for digit in content[2:])[:width]
+        true(len(content) == width or (width == 0 and content == "-"), f"{line}: its width")
+        bits += content if width else ""
+    return bits
+
+
+def test_trace(folder):
+    for data in (RELEASE, EMPTY, UNKNOWN, EMPTY_EXTENSION, RELEASE[:2], RELEASE + b"\x01\x02",
+                 octets("1 0000000 00  0 000001 01") + bytes([0x80 | 200 >> 8, 200]) + bytes(range(200))):
+        (folder / "message").write_bytes(data)
+        found = run("decode", "--as", "binary", "--trace", str(folder / "message"))
+        true(trace_bits(found[1].decode()) == bits_of(data), f"the trace of {data.hex()} is the message")
+    expect(["decode", "--trace", UNKNOWN.hex()], DONE, re.compile(
+        r"CellGroupConfig: extended\n(.*\n)*.* 0000001 +CellGroupConfig: length of 2 additions\n"
+        r".* 01 +CellGroupConfig: -\[\[1\]\] \+unknown\n"
+        r".* 00000001 +CellGroupConfig\S+: length of 1 octet\n"
+        r".* 10101011 +CellGroupConfig\S+: 1 octet of what this release does not know\n"))
+
+
+def test_inputs(folder):
+    spaced = "20 02 3f 00"
+    texts = {
+        "hex": RELEASE_HEX, "hex in capitals": "20023f00\n", "spaced": spaced, "colons": "20:02:3f:00",
+        "list": "0x20, 0x02, 0x3f, 0x00", "array": "uint8_t m[] = {0x20, 0x02,\n 0x3f, 0x00};",
+        "escaped": r"\x20\x02\x3f\x00",
+        "hexdump -C": "00000000  20 02 3f 00                                       | .?.|\n00000004\n",
+        "xxd": "00000000: 2002 3f00                                 .?.\n",
+        "wireshark": "0000   20 02 3f 00                                        .?.\n",
+        "JER": RELEASE_JSON, "flat": RELEASE_FLAT, "comments": "# of cell 7\n" + RELEASE_FLAT,
+        "log": "03:14:15.926 [RRC] UE 7: cellGroupConfig=20023f00 sent\n",
+    }
+    for name, text in texts.items():
+        expect(["decode", "--flat"], DONE, RELEASE_FLAT, stdin=text)
+        file = folder / "message.txt"
+        file.write_text(text)
+        expect(["decode", "--flat", str(file)], DONE, RELEASE_FLAT)
+    expect(["decode", "--flat", "-"], DONE, RELEASE_FLAT, stdin=RELEASE)
+    expect(["decode", "--flat", "--as", "base64"], DONE, RELEASE_FLAT, stdin=base64.b64encode(RELEASE))
+    expect(["decode", "-v", "--compact", spaced], DONE, RELEASE_COMPACT, re.compile(
+        r"^cellgroupcfg: operand: hex, 4 octets\n"
+        r"cellgroupcfg: operand: encoding it again gives the same octets\n$"))
+    expect(["decode", "--as", "hexx", "00"], USAGE, err=re.compile("hexx.*hex"))
+    expect(["decode", str(folder / "missing")], USAGE,
+           err=f"cellgroupcfg: {folder / 'missing'}: No such file or directory\n")
+    expect(["decode", "missing"], USAGE,
+           err="cellgroupcfg: missing: No such file or directory, and no octets\n")
+    expect(["decode"], MALFORMED, err="cellgroupcfg: standard input: the input is empty\n")
+    expect(["decode"], MALFORMED, err=re.compile("^cellgroupcfg: standard input: 1:1: neither"), stdin="hello, world")
+    expect(["decode", str(folder)], USAGE, err=f"cellgroupcfg: {folder}: Is a directory\n")
+    # Longer than any message; of input longer than 64 MiB nothing is read.
+    expect(["decode", "--as", "binary"], MALFORMED, err=re.compile("65537 octets are no message"), stdin=bytes(65537))
+    # What is a file's name and hex is asked about.
+    here = os.getcwd()
+    os.chdir(folder)
+    (folder / "00c0").write_text(RELEASE_HEX)
+    expect(["decode", "--flat", "00c0"], USAGE, err=re.compile("'00c0' is a file and can be read as octets"))
+    expect(["decode", "--flat", "./00c0"], DONE, RELEASE_FLAT)
+    os.chdir(here)
+
+
+def test_malformed(folder):
+    expect(["decode", "2002"], MALFORMED, """CellGroupConfig
+  cellGroupId 0
+  rlc-BearerToReleaseList: 2 elements
+    [0..1]: not read
+  ...: not read
+""", "cellgroupcfg: operand: CellGroupConfig.rlc-BearerToReleaseList[0]: the input ends before 5 more bits "
+           "(at bit 15: octet 1, bit 7)\n")
+    found = run("decode", "--json", "2002")
+    true(found[0] == MALFORMED and "$error" in json.loads(found[1]), "JER of what was read, with the error")
+    expect(["decode", RELEASE_HEX + "00"], MALFORMED, RELEASE_TREE, re.compile("1 octet follows the encoding"))
+    expect(["decode", "-v", EMPTY_EXTENSION.hex()], DONE, re.compile("cellGroupId 0"),
+           re.compile("encoding it again gives other octets: CellGroupConfig: an extension is announced and has no "
+                      "addition .at bit"))
+    expect(["decode", "--compact", UNKNOWN.hex()], DONE,
+           '{"cellGroupId":0,"$unknownAdditions":[{"index":1,"octets":"AB"}]}\n')
+
+
+def test_several(folder):
+    log = f"# two messages and a line of noise\n{RELEASE_HEX}\n\nUE 7: cfg {EMPTY.hex()} 2002323232\nnoise\n2002\n"
+    expect(["decode", "--lines"], MALFORMED, re.compile(
+        r"^standard input:2: CellGroupConfig, 4 octets\n"
+        r"standard input:4: .*\n"
+        r"standard input:5: .*neither.*\n"
+        r"standard input:6: CellGroupConfig\.rlc-BearerToReleaseList\[0\]: the input ends.*\n$"), stdin=log)
+    expect(["decode", "--lines", "--compact"], DONE, RELEASE_COMPACT * 3, stdin=(RELEASE_HEX + "\n") * 3)
+    expect(["decode", "--lines", "--flat"], DONE, f"# standard input:1\n{RELEASE_FLAT}# standard input:2\n{RELEASE_FLAT}",
+           stdin=(RELEASE_HEX + "\n") * 2)
+    expect(["decode", RELEASE_HEX, "nothing", RELEASE_HEX], USAGE, ("# operand\n" + RELEASE_TREE) * 2,
+           "cellgroupcfg: nothing: No such file or directory, and no octets\n")
+    expect(["encode", "--lines"], DONE, f"{RELEASE_HEX}\n{EMPTY.hex()}\n",
+           stdin=RELEASE_COMPACT + '{"cellGroupId": 3}\n')
+    expect(["encode", "--lines"], MALFORMED, f"{RELEASE_HEX}\n",
+           re.compile(r"^cellgroupcfg: standard input:2:17: CellGroupConfig.cellGroupId: 4 is not in 0..3\n$"),
+           stdin=RELEASE_COMPACT + '{"cellGroupId": 4}\n')
+
+
+def test_encode(folder):
+    for text in (RELEASE_JSON, RELEASE_COMPACT, RELEASE_FLAT, RELEASE_HEX):
+        expect(["encode"], DONE, RELEASE_HEX + "\n", stdin=text)
+    expect(["encode", "--hex"], DONE, RELEASE_HEX + "\n", stdin=RELEASE_JSON)
+    expect(["encode", "--binary"], DONE, RELEASE, stdin=RELEASE_JSON)
+    expect(["encode", "--base64"], DONE, base64.b64encode(RELEASE) + b"\n", stdin=RELEASE_JSON)
+    expect(["encode", "--c-array"], DONE, "const uint8_t message[] = {\n    0x20, 0x02, 0x3f, 0x00,\n};\n",
+           stdin=RELEASE_JSON)
+    out = folder / "out.bin"
+    expect(["encode", "--binary", "-o", str(out)], DONE, stdin=RELEASE_JSON)
+    true(out.read_bytes() == RELEASE, "encode -o writes the octets")
+    out.unlink()
+    expect(["encode", "--binary", "-o", str(out)], MALFORMED, err=re.compile("1:1: CellGroupConfig.*cellGroupId"),
+           stdin="{}")
+    true(not out.exists(), "nothing is written for a text with mistakes")
+    expect(["encode", "-o", str(folder / "no" / "folder")], USAGE, err=re.compile("No such file"), stdin=RELEASE_JSON)
+    expect(["encode"], MALFORMED, err="cellgroupcfg: standard input:1:18: CellGroupConfig: unknown member "
+                                      "\"rlc-BearerToReleaseLst\"; did you mean \"rlc-BearerToReleaseList\"?\n",
+           stdin='{"cellGroupId":0,"rlc-BearerToReleaseLst":[4]}')
+    expect(["encode", "--as", "flat", "--type", "SCellIndex"], DONE, "f0\n", stdin="SCellIndex = 31")
+
+
+def test_diff(folder):
+    a, b = RELEASE_HEX, OTHER.hex()
+    expect(["diff", a, a], DONE)
+    expect(["diff", a, b], FINDINGS, "~ CellGroupConfig.cellGroupId: 0 -> 1\n"
+                                     "~ CellGroupConfig.rlc-BearerToReleaseList[1]: 31 -> 9\n")
+    expect(["diff", a, "-"], FINDINGS, "- CellGroupConfig.rlc-BearerToReleaseList = { 4, 31 }\n",
+           stdin='{"cellGroupId": 0}')
+    expect(["diff", "-", a], FINDINGS, "+ CellGroupConfig.rlc-BearerToReleaseList = { 4, 31 }\n",
+           stdin="CellGroupConfig.cellGroupId = 0\n")
+    expect(["diff", "--color", "always", a, b], FINDINGS, re.compile("^\x1b\\[33m~ .*\x1b\\[31m0\x1b\\[m -> "))
+    found = run("diff", "--json", a, b)
+    true(json.loads(found[1]) == {"version": 1, "differences": [
+        {"kind": "changed", "path": "CellGroupConfig.cellGroupId", "a": "0", "b": "1"},
+        {"kind": "changed", "path": "CellGroupConfig.rlc-BearerToReleaseList[1]", "a": "31", "b": "9"}]},
+         f"diff --json: {found[1]}")
+    expect(["diff", a, "2002"], MALFORMED, err=re.compile("the input ends before 5 more bits"))
+    expect(["diff", a], USAGE, err=re.compile("cellgroupcfg diff --help"))
+
+
+def test_check(folder):
+    wrong = '{\n  "cellGroupId": 4,\n  "rlc-BearerToReleaseList": []\n}\n'
+    expect(["check", RELEASE_HEX], DONE)
+    expect(["check"], FINDINGS,
+           re.compile(r"^standard input:2:18: error: CellGroupConfig\.cellGroupId: 4 is not in 0\.\.3 \[jer\]\n"
+                      r"standard input:\d+:\d+: error: CellGroupConfig\.rlc-BearerToReleaseList: 0 elements, not 1\.\.32 "
+                      r"\[jer\]\n$"), stdin=wrong)
+    file = folder / "wrong message.json"
+    file.write_text(wrong)
+    expect(["check", "--format", "gcc", str(file)], FINDINGS,
+           re.compile(rf"^{re.escape(str(file))}:2:18: error: CellGroupConfig\.cellGroupId: .* \[jer\]\n"))
+    found = json.loads(run("check", "--format", "json", str(file), RELEASE_HEX)[1])
+    true(found["version"] == 1 and [len(one["findings"]) for one in found["messages"]] == [2, 0], f"check: {found}")
+    true(found["messages"][0]["findings"][0] == {
+        "id": "jer", "severity": "error", "path": "CellGroupConfig.cellGroupId", "message": "4 is not in 0..3",
+        "line": 2, "column": 18}, f"check: {found}")
+    expect(["check", RELEASE_HEX + "00"], MALFORMED, re.compile(r"^operand: error: CellGroupConfig: 1 octet follows.* "
+                                                                r"\[per-surplus\]\n"))
+    expect(["check", UNKNOWN.hex()], DONE, re.compile(r"note: CellGroupConfig: 1 addition of a later release.*\n"))
+    expect(["check", EMPTY_EXTENSION.hex()], DONE, re.compile(r"\[per-not-canonical\]"))
+    expect(["check", "--lines"], MALFORMED, re.compile(
+        r"^standard input:1: no finding\nstandard input:2: 1 finding\nstandard input:2: error: .*\[per-end\]\n"),
+           stdin=f"{RELEASE_HEX}\n2002\n")
+    expect(["check", "--format", "xml", "00"], USAGE, err=re.compile("xml"))
+    test_sarif(file)
+
+
+def test_sarif(file):
+    """What SARIF 2.1.0 requires of the members that are there."""
+    sarif = json.loads(run("check", "--format", "sarif", str(file))[1])
+    true(sarif["version"] == "2.1.0" and len(sarif["runs"]) == 1, "SARIF of one run")
+    driver = sarif["runs"][0]["tool"]["driver"]
+    true(driver["name"] == "cellgroupcfg", "SARIF names the tool")
+    results = sarif["runs"][0]["results"]
+    true(len(results) == 2, "SARIF has both findings")
+    for result in results:
+        true(driver["rules"][result["ruleIndex"]]["id"] == result["ruleId"], "SARIF's rule")
+        true(result["level"] in ("error", "warning", "note") and result["message"]["text"], "SARIF's result")
+        place = result["locations"][0]["physicalLocation"]
+        true(place["artifactLocation"]["uri"] == "file://" + str(file).replace(" ", "%20"), "SARIF's file")
+        true(place["region"]["startLine"] >= 1, "SARIF's line")
+    true(results[0]["locations"][0]["logicalLocations"][0]["fullyQualifiedName"] == "CellGroupConfig.cellGroupId",
+         "SARIF's path")
+
+
+def hidden(before, message, behind):
+    """The message as an octet string behind some bits and before others."""
+    return octets(before + f"{len(message):08b}" + bits_of(message) + behind)
+
+
+# physicalCellGroupConfig with all eight RNTIs and the like would do; 31 elements to release are 20 octets.
+LONG = octets("0 0100000 00  11110" + "".join(f"{i:05b}" for i in range(31)))
+
+
+def test_find(folder):
+    # In noise at bit 11: the content begins at bit 19.
+    noise = "10110111011"
+    data = hidden(noise, LONG, "1110")
+    line = f"operand: 2.3: {len(LONG)} octets: {LONG.hex()}\n"
+    expect(["find", data.hex()], DONE, line)
+    expect(["find", "--decode", data.hex()], DONE, re.compile("^" + re.escape(line) + r"CellGroupConfig\n  cellGroupId 0\n"
+                                                                                  r"  rlc-BearerToReleaseList: 31 elements\n"))
+    found = json.loads(run("find", "--json", data.hex())[1])
+    true(found == {"version": 1, "found": [{"place": "operand", "bit": 19, "octets": len(LONG), "hex": LONG.hex()}]},
+         f"find --json: {found}")
+    expect(["find", "--min-octets", str(len(LONG) + 1), data.hex()], DONE)
+    expect(["find", "--min-octets", "0", data.hex()], USAGE, err=re.compile("min-octets"))
+    expect(["find", "--min-octets", "16384", data.hex()], USAGE, err=re.compile("min-octets"))
+    log = f"boot\n12:00 F1AP: {data.hex()} end\n12:01 nothing here\n"
+    expect(["find"], DONE, line.replace("operand", "standard input:2"), stdin=log)
+    expect(["find"], MALFORMED, err=re.compile("^cellgroupcfg: standard input: 1:1: "), stdin="nothing\nat all\n")
+    expect(["find"], MALFORMED, err=re.compile("in which no octets are"), stdin=RELEASE_JSON)
+    # With nothing around it.
+    expect(["find"], DONE, f"standard input:1: 0.0: {len(LONG)} octets: {LONG.hex()}\n",
+           stdin=f"12:00 cfg {LONG.hex()}\n")
+    for nesting in ("bare", "rrc-reconfiguration", "rrc-setup"):
+        capture = folder / f"{nesting}.pcapng"
+        expect(["pcap", "--in", nesting, "-o", str(capture), LONG.hex()], DONE)
+        expect(["find", str(capture)], DONE,
+               re.compile(rf"^{re.escape(str(capture))}: packet 1: \d+\.\d: {len(LONG)} octets: {LONG.hex()}\n$"))
+
+
+def test_pcap(folder):
+    capture = folder / "bare.pcapng"
+    expect(["pcap", "-o", str(capture), RELEASE_HEX], DONE)
+    first = capture.read_bytes()
+    true(first[:4] == b"\x0a\x0d\x0d\x0a" and RELEASE in first, "pcap writes a section with the octets")
+    expect(["pcap"], DONE, first, stdin=RELEASE_JSON)
+    expect(["pcap", "--lines", "-o", str(capture)], DONE, stdin=f"{RELEASE_HEX}\n{EMPTY.hex()}\n")
+    true(b"standard input:2" in capture.read_bytes(), "the packets of several messages say which")
+    expect(["pcap", "--in", "rrc-release", RELEASE_HEX], USAGE, err=re.compile("rrc-release"))
+    expect(["pcap"], MALFORMED, err=re.compile("16384 octets; at most 16383"), stdin=b"\x00" * 16384)
+
+
+def test_wireshark(folder):
+    """Wireshark reads the capture without any setting, and sees the message that was put in."""
+    capture = folder / "shown.pcapng"
+    for nesting, name in (("bare", "CellGroupConfig"), ("rrc-reconfiguration", "rrcReconfiguration"),
+                          ("rrc-setup", "rrcSetup")):
+        expect(["pcap", "--in", nesting, "-o", str(capture), LONG.hex()], DONE)
+        shown = subprocess.run(["tshark", "-V", "-r", str(capture)], capture_output=True, check=True, text=True).stdout
+        true(name in shown and "sCellToReleaseList" not in shown and "Malformed" not in shown, f"{nesting}: {shown}")
+        true("rlc-BearerToReleaseList: 31 items" in shown, f"{nesting}: {shown}")
+
+
+def test_explain(folder):
+    expect(["explain", "CellGroupConfig.spCellConfig.reconfigurationWithSync.t304"], DONE,
+           """CellGroupConfig.spCellConfig.reconfigurationWithSync.t304
+  type         ENUMERATED
+  on the wire  3 bits
+  values       0 ms50, 1 ms100, 2 ms150, 3 ms200, 4 ms500, 5 ms1000, 6 ms2000, 7 ms10000
+  presence     mandatory
+  since        Release 15, from the start
+""")
+    expect(["explain", "t304"], DONE, re.compile("^CellGroupConfig.spCellConfig.reconfigurationWithSync.t304\n  type"))
+    expect(["explain", "CellGroupConfig.rlc-BearerToAddModList[3].logicalChannelIdentity"], DONE,
+           re.compile(r"^CellGroupConfig\.rlc-BearerToAddModList\[\]\.logicalChannelIdentity\n"
+                      r"  type         LogicalChannelIdentity, INTEGER \(1\.\.32\)\n  on the wire  5 bits\n"))
+    expect(["explain", "CellGroupConfig"], DONE, re.compile(
+        r"\n    sCellToReleaseList +SEQUENCE \(SIZE \(1\.\.31\)\) OF SCellIndex  OPTIONAL\n"
+        r"    reportUplinkTxDirectCurrent-v1530 +ENUMERATED  OPTIONAL  \[\[1\]\]\n"))
+    expect(["explain", "reportUplinkTxDirectCurrent-v1530"], DONE,
+           re.compile(r"since        V15\.3\.0, in extension \[\[1\]\] of CellGroupConfig\n"))
+    expect(["explain", "RLC-Config"], DONE, re.compile(r"CHOICE, extensible\n(.*\n)*  alternatives\n    am +SEQUENCE\n"))
+    expect(["explain", "--tree", "RLC-BearerConfig"], DONE,
+           re.compile(r"\n  servedRadioBearer +CHOICE  OPTIONAL\n    srb-Identity  SRB-Identity\n"))
+    expect(["explain", "setup"], DONE, re.compile(r"^CellGroupConfig\..*\.setup\n(CellGroupConfig\..*\.setup\n)+$"))
+    expect(["explain", "CellGroupConfig.spCellConfg"], USAGE,
+           err="cellgroupcfg: CellGroupConfig has no member 'spCellConfg'; did you mean spCellConfig?\n")
+    expect(["explain", "CelGroupConfig"], USAGE,
+           err="cellgroupcfg: there is no type 'CelGroupConfig'; did you mean CellGroupConfig?\n")
+    expect(["explain", "CellGroupConfig.cellGroupId.x"], USAGE, err=re.compile("no SEQUENCE and no CHOICE"))
+    expect(["explain", "CellGroupConfig.cellGroupId[0]"], USAGE, err=re.compile("has no elements"))
+    for path in ("CellGroupConfig..x", "CellGroupConfig[", "CellGroupConfig[x]", "CellGroupConfig]"):
+        expect(["explain", path], USAGE, err=re.compile("^cellgroupcfg: .+\n$"))
+    names = run("explain")[1].decode().split()
+    true(names == sorted(names) and "CellGroupConfig" in names and "SCellIndex" in names, "explain lists the types")
+    # The whole schema, each line a member with its type.
+    status, tree, _ = run("explain", "--tree", "CellGroupConfig")
+    true(status == DONE and all(len(line.split()) >= 2 for line in tree.decode().splitlines()[1:]), "explain --tree")
+
+
+def on_terminal(arguments, **environment):
+    """What the program writes when standard output is a terminal, and its exit status."""
+    master, slave = pty.openpty()
+    variables = {name: value for name, value in os.environ.items() if name != "NO_COLOR"}
+    with subprocess.Popen([PROGRAM, *arguments], stdin=subprocess.DEVNULL, stdout=slave, stderr=subprocess.PIPE,
+                          env={**variables, **environment}) as process:
+        os.close(slave)
+        text = b""
+        while True:
+            try:
+                piece = os.read(master, 4096)
+            except OSError:
+                break
+            if not piece:
+                break
+            text += piece
+        words = process.stderr.read()
+        status = process.wait(timeout=60)
+    os.close(master)
+    return status, text.decode(), words.decode()
+
+
+def test_streams(folder):
+    colored = on_terminal(["diff", RELEASE_HEX, OTHER.hex()])
+    true(colored[0] == FINDINGS and "\x1b[33m~ " in colored[1], f"diff is coloured on a terminal: {colored}")
+    plain = on_terminal(["diff", RELEASE_HEX, OTHER.hex()], NO_COLOR="1")
+    true("\x1b" not in plain[1] and "~ CellGroupConfig" in plain[1], "NO_COLOR")
+    plain = on_terminal(["diff", "--color=never", RELEASE_HEX, OTHER.hex()])
+    true("\x1b" not in plain[1], "--color=never")
+    for command in (["encode", "--binary", RELEASE_HEX], ["pcap", RELEASE_HEX]):
+        refused = on_terminal(command)
+        true(refused[0] == USAGE and not refused[1] and "terminal" in refused[2], f"{command} on a terminal: {refused}")
+    # A reader that goes away: no word, whether the signal is heeded or not.
+    for reset in (True, False):
+        with subprocess.Popen([PROGRAM, "explain", "--tree", "CellGroupConfig"], stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, restore_signals=reset) as process:
+            process.stdout.close()
+            true(process.stderr.read() == b"", "a closed pipe is passed over in silence")
+            true(process.wait(timeout=60) in (-13, 0), "a closed pipe is no failure")
+    with open("/dev/full", "wb") as full:
+        done = subprocess.run([PROGRAM, "decode", RELEASE_HEX], stdout=full, stderr=subprocess.PIPE, check=False)
+        true(done.returncode == USAGE and b"No space left" in done.stderr, f"a full disk is told: {done}")
+
+
+def options_of(text):
+    return set(re.findall(r"(?<![\w-])--[a-z][a-z0-9-]*", text))
+
+
+def completed(*words):
+    """What the completion of bash offers for the last word."""
+    script = f'source "{PROJECT}/Tool/cellgroupcfg.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _cellgroupcfg; ' \
+             'printf "%s\\n" "${COMPREPLY[@]}"'
+    done = subprocess.run(["bash", "-c", script, "bash", *words], capture_output=True, check=True, text=True,
+                          env={**os.environ, "PATH": f"{pathlib.Path(PROGRAM).parent}:{os.environ['PATH']}"})
+    return done.stdout.split()
+
+
+def test_help(folder):
+    status, text, _ = run("--help")
+    text = text.decode()
+    true(status == DONE and text.startswith("Examples:\n"), "--help begins with examples")
+    commands = re.findall(r"^  ([a-z]+) {5,}", text[text.index("\nCommands:\n"):], re.M)
+    true(len(commands) == 7, f"--help lists the commands: {commands}")
+    manual = (PROJECT / "docs/cellgroupcfg.1.scd").read_text(encoding="utf-8").replace("\\", "")
+    completion = (PROJECT / "Tool/cellgroupcfg.bash").read_text(encoding="utf-8")
+    for command in commands:
+        status, text, _ = run(command, "--help")
+        text = text.decode()
+        true(status == DONE and text.startswith("Examples:\n  cellgroupcfg " + command), f"{command} --help")
+        true(command in completion and f"*{command}*" in manual, f"{command} is documented")
+        for option in options_of(text[text.index("\nUsage:"):]):
+            true(option in options_of(manual), f"the manual tells of {option}")
+            true(option in options_of(completion), f"the completion knows {option}")
+    true(completed("cellgroupcfg", "enc") == ["encode"], "a command is completed")
+    true(completed("cellgroupcfg", "decode", "--va") == ["--value-notation"], "an option is completed")
+    true(completed("cellgroupcfg", "check", "--format", "s") == ["sarif"], "a value is completed")
+    true(completed("cellgroupcfg", "explain", "RLC-Conf") == ["RLC-Config"], "a type is completed")
+    expect([], USAGE, err=re.compile("command is required(.*\n)+.*--help"))
+    expect(["decod", "00"], USAGE, err=re.compile("^cellgroupcfg: there is no command 'decod'; did you mean decode\\?\n"))
+    expect(["decode", "--flatt", "00"], USAGE,
+           err=re.compile("^cellgroupcfg: there is no option '--flatt'; did you mean --flat\\?\n"))
+    expect(["--version"], DONE, re.compile(r"^cellgroupcfg \d+\.\d+\.\d+, TS 38\.331 V15\.6\.0 \(Release 15\)"
+                                           r"(, commit [0-9a-f]{10}\+?)?\n$"))
+
+
+with tempfile.TemporaryDirectory() as name:
+    for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_check,
+                 test_find, test_pcap, test_wireshark, test_explain, test_streams, test_help):
+        test(pathlib.Path(name))
+print("\n\n".join(failures))
+print(f"{count} checks, {len(failures)} failed")
+sys.exit(1 if failures else 0)
