@@ -78,7 +78,7 @@ typedef enum RtxStatus
 #define RTX_MAX_DEPTH 48
 
 // One step of a path: a member's ASN.1 name, or (name null) the index of a list's element or, where group is set, the
-// number of an extension group, the first is 1: "[[1]]".
+// number of an extension group, the first is 1: "[[1]]"; 0 stands for the bitmap that tells which there are: "[[...]]".
 typedef struct RtxPathStep
 {
     const char* name;

@@ -286,7 +286,7 @@ private:
         const ASN1OpenType* openB = nullptr;
         uint32_t leftA = a.count;
         uint32_t leftB = b.count;
-        for (int64_t last = -1; leftA != 0 || leftB != 0;)
+        for (int64_t last = -1;;)
         {
             if ((leftA != 0 && openA == nullptr && !next(a_, nodeA, last, openA)) ||
                 (leftB != 0 && openB == nullptr && !next(b_, nodeB, last, openB)))
@@ -295,9 +295,15 @@ private:
                 return;
             }
             // The lower index goes first; where only one has it, the other lacks it.
-            const bool takeA = openA != nullptr && (openB == nullptr || openA->index <= openB->index);
-            const bool takeB = openB != nullptr && (openA == nullptr || openB->index <= openA->index);
-            const uint32_t index = takeA ? openA->index : openB->index;
+            const bool lowA = openB == nullptr || (openA != nullptr && openA->index <= openB->index);
+            const ASN1OpenType* const low = lowA ? openA : openB;
+            if (low == nullptr)
+            {
+                return;
+            }
+            const uint32_t index = low->index;
+            const bool takeA = openA != nullptr && openA->index == index;
+            const bool takeB = openB != nullptr && openB->index == index;
             unknown(takeA ? openA : nullptr, takeB ? openB : nullptr,
                     {&place, {nullptr, takeA ? index : RTX_NO_INDEX, takeB ? index : RTX_NO_INDEX, nullptr, 0}});
             last = index;

@@ -649,6 +649,10 @@ private:
         if (extension != 0 && bits >> 63 != 0 && at != failed) [[unlikely]]
         {
             at = additions(in, type, to, at);
+            if (!skims && at == failed && ctxt_.error.depth == 0)
+            {
+                pushGroup(ctxt_, 0); // the bitmap itself: all root members were read
+            }
         }
         --depth_;
         return at;

@@ -17,7 +17,11 @@ void appendPath(Line& line, const RtxError& error)
     rtx::appendPath(line, error,
                     [&](const RtxPathStep& step)
                     {
-                        if (step.group != 0)
+                        if (step.group != 0 && step.index == 0)
+                        {
+                            append(line, "%s[[...]]", line.length != 0 ? "." : "");
+                        }
+                        else if (step.group != 0)
                         {
                             append(line, "%s[[%" PRIu32 "]]", line.length != 0 ? "." : "", step.index);
                         }

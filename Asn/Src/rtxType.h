@@ -177,7 +177,7 @@ constexpr RtxPathStep grouped(uint32_t number)
 // Adds the next outer step to the error's path. A null name, of what is no member, is no step.
 void pushName(OSCTXT& ctxt, const char* name);
 void pushIndex(OSCTXT& ctxt, uint32_t index);
-void pushGroup(OSCTXT& ctxt, uint32_t number); // of an extension group, the first is 1
+void pushGroup(OSCTXT& ctxt, uint32_t number); // of an extension group, the first is 1; 0: which additions there are
 
 void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg);
 // To standard output, following the pointers of the context that rtxPrintSetContext named.

@@ -347,13 +347,13 @@ TEST_F(Decode, MoreThan64AdditionsInTheBitmap)
 TEST_F(Decode, AnImpossibleBitmapLengthIsRefused)
 {
     // 64 has a short form, a bitmap of 16K has no use.
-    EXPECT_EQ("Box: a length determinant 0x40 that PER does not allow (at bit 6: octet 0, bit 6)",
+    EXPECT_EQ("Box.[[...]]: a length determinant 0x40 that PER does not allow (at bit 6: octet 0, bit 6)",
               refused(boxType, boxRoot + "1" + octet(64) + std::string(64, '1')));
-    EXPECT_EQ("Box: a length determinant 0xC1 that PER does not allow (at bit 6: octet 0, bit 6)",
+    EXPECT_EQ("Box.[[...]]: a length determinant 0xC1 that PER does not allow (at bit 6: octet 0, bit 6)",
               refused(boxType, boxRoot + "1" + octet(0xC1) + std::string(64, '1')));
-    EXPECT_EQ("Box: a length determinant 0x80 that PER does not allow (at bit 6: octet 0, bit 6)",
+    EXPECT_EQ("Box.[[...]]: a length determinant 0x80 that PER does not allow (at bit 6: octet 0, bit 6)",
               refused(boxType, boxRoot + "1" + octet(0x80) + octet(127) + std::string(127, '1')));
-    EXPECT_EQ("Box: the input ends before 64 more bits (at bit 12: octet 1, bit 4)",
+    EXPECT_EQ("Box.[[...]]: the input ends before 64 more bits (at bit 12: octet 1, bit 4)",
               refused(boxType, boxRoot + "0 111111 0000"));
 }
 
@@ -372,7 +372,7 @@ TEST_F(Decode, AnExtensionWithoutAdditionIsRefusedWhereStrict)
     EXPECT_EQ(RTX_NOTE_EMPTY_EXTENSION, ctxt.decoded.note);
     EXPECT_EQ(12U, ctxt.decoded.noteOffset);
     flags = RTX_DECODE_STRICT;
-    EXPECT_EQ("Box: an extension is announced and has no addition (at bit 12: octet 1, bit 4)",
+    EXPECT_EQ("Box.[[...]]: an extension is announced and has no addition (at bit 12: octet 1, bit 4)",
               refused(boxType, boxRoot + "0 000010  000"));
 }
 

@@ -33,6 +33,12 @@ std::vector<OSOCTET> encode(const RtxPdu& pdu, OSCTXT& context, const void* valu
     return {octets.begin(), octets.begin() + length};
 }
 
+const RtxPdu& cellGroupConfig()
+{
+    return *std::find_if(std::begin(rtxPdus), std::end(rtxPdus),
+                         [](const RtxPdu& pdu) { return std::strcmp(pdu.name, "CellGroupConfig") == 0; });
+}
+
 struct Tally
 {
     uint64_t trees = 0;
@@ -77,15 +83,21 @@ void print(const char* what, const Tally& tally)
                 static_cast<unsigned long long>(tally.json), static_cast<unsigned long long>(tally.flat));
 }
 
+// docs/asn1.md shows it.
+TEST(FromJson, MistakeInACellGroup)
+{
+    test::Tree tree(*cellGroupConfig().type);
+    const test::Mistake mistake = {1, 19, "CellGroupConfig",
+                                   "unknown member \"mac-CellGroupCfg\"; did you mean \"mac-CellGroupConfig\"?"};
+    EXPECT_EQ(tree.read(asn1FromJson, R"({"cellGroupId":0, "mac-CellGroupCfg":{}})"), std::vector{mistake});
+}
+
 TEST(RoundTrip, CellGroupConfig)
 {
-    const auto* const pdu = std::find_if(std::begin(rtxPdus), std::end(rtxPdus),
-                                         [](const RtxPdu& p) { return std::strcmp(p.name, "CellGroupConfig") == 0; });
-    ASSERT_NE(pdu, std::end(rtxPdus));
     Tally tally;
     for (uint64_t seed = 0; seed < cellGroups && !HasFatalFailure(); ++seed)
     {
-        tryTree(*pdu, seed, tally);
+        tryTree(cellGroupConfig(), seed, tally);
     }
     print("CellGroupConfig", tally);
     EXPECT_EQ(tally.trees, cellGroups);
