@@ -68,16 +68,19 @@ bool isFile(const std::string& name)
     return stat(name.c_str(), &info) == 0;
 }
 
-bool isOctets(const Recognition& recognition)
+// Whether an operand is itself the text of a message. A word with a slash or with hex among other letters is a file's
+// name that is wrong.
+bool isMessage(const std::string& operand, std::optional<Form> as)
 {
+    const bool isWord = operand.find_first_of(" \t\n") == std::string::npos;
+    const bool isPath = isWord && operand.find('/') != std::string::npos && as != Form::Base64;
+    if (as == Form::Binary || isPath)
+    {
+        return false;
+    }
+    const Recognition recognition = recognise(operand, as);
     const auto* const input = std::get_if<Input>(&recognition);
-    return input != nullptr && input->form != Form::Jer && input->form != Form::Flat;
-}
-
-// A path is not taken for the text of a message.
-bool looksLikePath(const std::string& operand)
-{
-    return operand.find('/') != std::string::npos;
+    return input != nullptr && !(isWord && input->form == Form::LogLine);
 }
 
 } // namespace
@@ -168,20 +171,20 @@ Session::Source Session::source(const std::string& operand, std::size_t most)
         return {"standard input", readAll(stdin, "standard input", most)};
     }
     const bool exists = isFile(operand);
-    const bool octets = !looksLikePath(operand) && isOctets(recognise(operand));
-    if (exists && octets && !common_.as)
+    const bool message = isMessage(operand, common_.as);
+    if (exists && message && !common_.as)
     {
-        throw Failure(Exit::Usage, "'" + operand + "' is a file and can be read as octets; say ./" + operand +
-                                       " for the file, or give the octets on standard input");
+        throw Failure(Exit::Usage, "'" + operand + "' is a file and can be read as a message; say ./" + operand +
+                                       " for the file, or give the message on standard input");
     }
-    if (!exists && !looksLikePath(operand) && (octets || common_.as))
+    if (!exists && message)
     {
         return {"operand", operand};
     }
     const File file(std::fopen(operand.c_str(), "rb"));
     if (file == nullptr)
     {
-        throw Failure(Exit::Usage, operand + ": " + reason() + (looksLikePath(operand) ? "" : ", and no octets"));
+        throw Failure(Exit::Usage, operand + ": " + reason() + (exists ? "" : ", and no message"));
     }
     return {operand, readAll(file.get(), operand, most)};
 }

@@ -187,9 +187,14 @@ def test_inputs(folder):
         r"cellgroupcfg: operand: encoding it again gives the same octets\n$"))
     expect(["decode", "--as", "hexx", "00"], USAGE, err=re.compile("hexx.*hex"))
     expect(["decode", str(folder / "missing")], USAGE,
-           err=f"cellgroupcfg: {folder / 'missing'}: No such file or directory\n")
+           err=f"cellgroupcfg: {folder / 'missing'}: No such file or directory, and no message\n")
+    for name in ("deadbeef00.hex", "log-of-20023f00.txt"):
+        expect(["decode", name], USAGE, err=f"cellgroupcfg: {name}: No such file or directory, and no message\n")
+    expect(["decode", "--as", "binary", "00"], USAGE, err=re.compile("^cellgroupcfg: 00: No such file"))
+    expect(["decode", "--compact", '{"cellGroupId":0,"rlc-BearerToReleaseList":[4,31]}'], DONE, RELEASE_COMPACT)
+    expect(["decode", "--compact", f"10/11 12:00 cfg {RELEASE_HEX}"], DONE, RELEASE_COMPACT)
     expect(["decode", "missing"], USAGE,
-           err="cellgroupcfg: missing: No such file or directory, and no octets\n")
+           err="cellgroupcfg: missing: No such file or directory, and no message\n")
     expect(["decode"], MALFORMED, err="cellgroupcfg: standard input: the input is empty\n")
     expect(["decode"], MALFORMED, err=re.compile("^cellgroupcfg: standard input: 1:1: neither"), stdin="hello, world")
     expect(["decode", str(folder)], USAGE, err=f"cellgroupcfg: {folder}: Is a directory\n")
@@ -199,7 +204,7 @@ def test_inputs(folder):
     here = os.getcwd()
     os.chdir(folder)
     (folder / "00c0").write_text(RELEASE_HEX)
-    expect(["decode", "--flat", "00c0"], USAGE, err=re.compile("'00c0' is a file and can be read as octets"))
+    expect(["decode", "--flat", "00c0"], USAGE, err=re.compile("'00c0' is a file and can be read as a message"))
     expect(["decode", "--flat", "./00c0"], DONE, RELEASE_FLAT)
     os.chdir(here)
 
@@ -233,7 +238,7 @@ def test_several(folder):
     expect(["decode", "--lines", "--flat"], DONE, f"# standard input:1\n{RELEASE_FLAT}# standard input:2\n{RELEASE_FLAT}",
            stdin=(RELEASE_HEX + "\n") * 2)
     expect(["decode", RELEASE_HEX, "nothing", RELEASE_HEX], USAGE, ("# operand\n" + RELEASE_TREE) * 2,
-           "cellgroupcfg: nothing: No such file or directory, and no octets\n")
+           "cellgroupcfg: nothing: No such file or directory, and no message\n")
     expect(["encode", "--lines"], DONE, f"{RELEASE_HEX}\n{EMPTY.hex()}\n",
            stdin=RELEASE_COMPACT + '{"cellGroupId": 3}\n')
     expect(["encode", "--lines"], MALFORMED, f"{RELEASE_HEX}\n",
