@@ -4,8 +4,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# Only the compile commands are needed, not the build.
-cmake --preset clang --log-level=NOTICE
+# Of the build, only the compile commands and the generated header are needed.
+scripts/build.sh clang cellgroupcfg_pdu_sources
 
 folders=()
 for folder in Platform Asn Common Du Json Tool; do
