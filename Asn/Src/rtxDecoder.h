@@ -662,13 +662,17 @@ private:
     // at their places.
     [[gnu::always_inline]] static uint64_t setFlags(OSOCTET* structure, unsigned first, uint64_t window, unsigned count)
     {
+        if constexpr (skims)
+        {
+            return skimmedFlags(first, window);
+        }
         uint64_t flags = 0;
         for (unsigned i = 0; i < count; i += 8, window <<= 8)
         {
             flags |= uint64_t{reversedOctets[window >> 56]} << i;
         }
         flags = (flags & ((uint64_t{1} << count) - 1)) << first;
-        for (uint64_t left = skims ? 0 : flags; left != 0; left >>= 32, structure += 4)
+        for (uint64_t left = flags; left != 0; left >>= 32, structure += 4)
         {
             store<OSUINT32>(structure, load32(structure) | static_cast<uint32_t>(left));
         }
@@ -690,10 +694,48 @@ private:
         }
     }
 
+    // A skimmer keeps presence bits as they come: that of flag 0 behind the mandatory members' one, the first.
+    static uint64_t skimmedFlags(unsigned first, uint64_t window)
+    {
+        return mandatory | window >> 1 >> first;
+    }
+
+    // 19.4. Which members are present cannot be foretold of octets that hold no message: no branch depends on it where
+    // a number follows.
+    Position skimMembers(const Input& in, const Type& type, unsigned first, unsigned count, uint64_t flags, OSOCTET* to,
+                         Position at)
+    {
+        const Member* const end = type.members + first + count;
+        for (const Member* m = type.members + first; m != end && at != failed; ++m)
+        {
+            const bool isPresent = flags << (m->flag + 1) >> 63 != 0;
+            if (isNumber(*m))
+            {
+                const bool isOutside = top(window(in, at), m->bits) > m->range;
+                at += isPresent ? m->bits : 0;
+                at = (isPresent && isOutside) || at > in.end ? failed : at;
+            }
+            else if (isPresent)
+            {
+                at = value(in, *m, to, at);
+            }
+        }
+        return at;
+    }
+
+    static bool isNumber(const Member& m)
+    {
+        return m.step <= Step::Only;
+    }
+
     // 19.4: those present among `count` members; `present` has the flags of the structure at their places.
     [[gnu::always_inline]] Position members(const Input& in, const Type& type, unsigned first, unsigned count,
                                             uint64_t present, OSOCTET* to, Position at)
     {
+        if constexpr (skims)
+        {
+            return skimMembers(in, type, first, count, present, to, at);
+        }
         present |= mandatory;
         const Member* const end = type.members + first + count;
         for (const Member* m = type.members + first; m != end; ++m)
@@ -1034,6 +1076,11 @@ private:
         }
         storeCount(type.width, to, number);
         const Member element = *type.members;
+        if (skims && isNumber(element) && (uint64_t{element.range} + 1) >> element.bits != 0)
+        {
+            at += number * element.bits; // whatever they are, they are in range
+            return at <= in.end ? at : failed;
+        }
         OSOCTET* p = to + element.offset;
         for (uint32_t i = 0; i < number; ++i, p += element.type->size)
         {

@@ -102,29 +102,25 @@ public:
         return found_;
     }
 
-    // False when the heap is exhausted.
+    // Looks for messages whose first bit lies in an octet. False when the heap is exhausted.
     bool octet(uint32_t index)
     {
-        for (uint32_t bit = index * 8; bit < index * 8 + 8; ++bit)
+        for (uint32_t content = index * 8; content < index * 8 + 8; ++content)
         {
-            const uint64_t bits = window(whole_, bit);
-            // 11.9.3.6, 11.9.3.7; longer ones come in fragments
-            const bool isShort = bits >> 63 == 0;
-            const auto octets = static_cast<uint32_t>(isShort ? bits >> 56 : bits >> 48 & 0x3FFF);
-            if (octets < least_ || (!isShort && (bits >> 62 != 2 || octets < 128)))
+            const uint32_t shortOne = content >= 8 ? fitting(content, shortLength(content - 8)) : 0;
+            const uint32_t longOne = content >= 16 ? fitting(content, longLength(content - 16)) : 0;
+            const uint32_t longest = std::max(shortOne, longOne);
+            if (longest == 0)
             {
                 continue;
             }
-            const uint32_t content = bit + (isShort ? 8 : 16);
-            if (uint64_t{content} + uint64_t{octets} * 8 > whole_.end)
-            {
-                continue;
-            }
-            const Input message(whole_.data, content + octets * 8);
+            // Where the message ends does not depend on its length: one attempt does for both.
+            const Input message(whole_.data, content + longest * 8);
             OSOCTET unused = 0;
             Decoder<Skimmer> decoder(ctxt_, RTX_DECODE_STRICT, skimmer_); // one that has failed is used up
-            if (decoder.complete(message, type_, &unused, content) == message.end &&
-                !found_.add({bit, content, octets}))
+            const uint64_t end = decoder.complete(message, type_, &unused, content);
+            if ((end == content + uint64_t{shortOne} * 8 && !found_.add({content - 8, content, shortOne})) ||
+                (end == content + uint64_t{longOne} * 8 && !found_.add({content - 16, content, longOne})))
             {
                 return false;
             }
@@ -133,6 +129,24 @@ public:
     }
 
 private:
+    // 11.9.3.6, 11.9.3.7: the length that a determinant gives, 0 where there is none. Longer ones come in fragments.
+    uint32_t shortLength(uint32_t bit) const
+    {
+        const auto octets = static_cast<uint32_t>(top(window(whole_, bit), 8));
+        return octets < 128 ? octets : 0;
+    }
+    uint32_t longLength(uint32_t bit) const
+    {
+        const auto bits = static_cast<uint32_t>(top(window(whole_, bit), 16));
+        return bits >> 14 == 2 && (bits & 0x3FFF) >= 128 ? bits & 0x3FFF : 0;
+    }
+
+    // A length, or 0 where it is too small or too large.
+    uint32_t fitting(uint32_t content, uint32_t octets) const
+    {
+        return octets >= least_ && uint64_t{content} + uint64_t{octets} * 8 <= whole_.end ? octets : 0;
+    }
+
     const Type& type_;
     Input whole_;
     uint32_t least_;

@@ -578,7 +578,7 @@ TEST(Form, namesAndTypos)
     EXPECT_EQ(tool::unknownForm("BASE46"), "unknown form 'BASE46': did you mean 'base64'?");
     EXPECT_EQ(tool::unknownForm("pcap"), "unknown form 'pcap': the forms are binary, hex, hexdump, c-array, escaped, "
                                          "base64, jer, flat, log");
-    EXPECT_FALSE(tool::nearest("", {}));
+    EXPECT_FALSE(text::nearest("", {}));
 }
 
 TEST(Octets, writers)

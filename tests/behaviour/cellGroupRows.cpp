@@ -135,8 +135,10 @@ void groupRows(Table& table)
               });
     table
         .row("no field: the release alternative of any SetupRelease", "always setup",
-             "a member left out stays as the UE has it; to be rid of it, release and add what it belongs to, a "
-             "bandwidth part or an SCell, or have the UE configured anew with fullConfig")
+             "a member left out stays as the UE has it; to be rid of it, choose release in the tree of "
+             "`rrcComposeCellGroupTree`, or release and add what it belongs to, a bandwidth part or an SCell, or have "
+             "the "
+             "UE configured anew with fullConfig")
         .sent(mac,
               R"({"phr-Config":{"setup":)" + phrJson("false", "false", "false") + R"(},"skipUplinkTxDynamic":false})",
               [](auto& r) { r.bitMask = RRC_MAC_CELL_GRP_CFG_PHR_PRESENCE; })

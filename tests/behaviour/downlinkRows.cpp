@@ -379,7 +379,7 @@ void pdschRows(Table& table)
         .refused(mapping, ".density: tag 0 is not in 1..4", [](auto& r) { r.presenceDensity = 0; });
     table
         .row("`slotsPeriod` 8 (slots40)", "slots32; an offset of 32 to 39 is refused",
-             "there is no way to send 40 slots; use 6 (slots20) or 10 (slots80)")
+             "use 6 (slots20) or 10 (slots80), or put slots40 into the tree of `rrcComposeCellGroupTree`")
         .sent(period, R"({"slots32":31})",
               [](auto& r)
               {

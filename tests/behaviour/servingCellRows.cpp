@@ -160,7 +160,8 @@ void commonRows(Table& table)
     table
         .row("`SSB_POSITION_LONG_BITMAP`",
              "refused, alone or with another bit: the bitmap is written without its tag, over the other one's pointer",
-             "there is no way to give 64 positions; clear `RRC_SSB_POSITION_IN_BURST`, and with it "
+             "put 64 positions into the tree of `rrcComposeCellGroupTree`, or clear `RRC_SSB_POSITION_IN_BURST`, and "
+             "with it "
              "`FREQ_INFO_DL_ABS_FREQ_SSB`, as the one goes with the other")
         .refused(common, ".ssb-PositionsInBurst: tag 0 is not in 1..3",
                  [](auto& r)

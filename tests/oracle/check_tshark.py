@@ -1,6 +1,8 @@
-"""check_tshark.py <oracle folder> messages FOLDER [EXAMPLE ...] | random COUNT | captures WRITER COUNT [EXAMPLE ...]:
+"""check_tshark.py <oracle folder> messages FOLDER [EXAMPLE ...] | random COUNT | captures WRITER COUNT [EXAMPLE ...] |
+positions WRITER TRACER COUNT [EXAMPLE ...]:
 Wireshark shows of each CellGroupConfig the values that its test meant; of an example's message those of <example>.json here
-or else, as of random ones, those that the oracle reads. WRITER makes captures of the messages, bare and in RRC messages."""
+or else, as of random ones, those that the oracle reads. WRITER makes captures of the messages, bare and in RRC messages.
+What TRACER prints lies where Wireshark sees it."""
 
 import json
 import pathlib
@@ -95,11 +97,67 @@ def check_captures(writer, messages):
     return failures
 
 
+ENOUGH_PLACES = 20
+
+
+def traced(tracer, messages):
+    """Per message its fields as (bit offset, width, kind, path)."""
+    found = [[]]
+    for line in oracle_run.run([tracer], [octets for _, octets, _ in messages]):
+        if line == "end":
+            found.append([])
+        elif line.startswith("error "):
+            sys.exit(f"{messages[len(found) - 1][0]}: {line}")
+        else:
+            offset, width, kind, *path = line.split(" ")
+            steps = [tshark_tree.plain(step) for step in "".join(path).replace("[", ".[").split(".")]
+            found[-1].append((int(offset), int(width), kind, ".".join(steps).replace(".[", "[")))
+    return found[:-1]
+
+
+def check_positions(writer, tracer, messages):
+    """The failures of a tracer: what it reports at an octet's first bit, and each extension and presence bit, lies where
+    Wireshark sees it."""
+    lines = [f"bare {octets}\n" for _, octets, _ in messages]
+    capture = subprocess.run([writer, "write"], input="".join(lines).encode("ascii"), stdout=subprocess.PIPE,
+                             check=True).stdout
+    shown = tshark_tree.places(capture)
+    trace = traced(tracer, messages)
+    if not len(shown) == len(trace) == len(messages):
+        sys.exit(f"tshark shows {len(shown)} and {tracer} {len(trace)} of {len(messages)} messages")
+    failures = []
+    all_places = all_bits = 0
+    for (name, octets, _), places, fields in zip(messages, shown, trace):
+        first = {}
+        for offset, _, kind, path in fields:
+            # A list is shown behind its count, an addition behind its length.
+            if kind in ("extension", "presence", "choice", "value"):
+                first.setdefault(path, offset)
+        compared = {path: octet for path, octet in places.octets.items() if first.get(path, 1) % 8 == 0}
+        found = [f"{path}: octet {first[path] // 8} traced, {octet} shown" for path, octet in compared.items()
+                 if octet != first[path] // 8]
+        bits = [offset + bit for offset, width, kind, _ in fields if kind in ("extension", "presence")
+                for bit in range(width)]
+        if bits != places.bits:
+            found.append(f"extension and presence bits {bits} traced, {places.bits} shown")
+        all_places += len(compared)
+        all_bits += len(bits)
+        if found:
+            failures.append("\n  ".join([f"{name}: {octets}"] + found))
+    print(f"{all_places} places that begin with an octet, {all_bits} extension and presence bits")
+    if all_places < ENOUGH_PLACES:
+        failures.append("too few places")
+    return failures
+
+
 def main():
     oracle = oracle_run.Oracle(sys.argv[1])
     if sys.argv[2] == "captures":
         messages = examples(oracle, sys.argv[5:]) + random(oracle, sys.argv[4])
         oracle_run.conclude(check_captures(sys.argv[3], messages), f"{len(messages)} cell groups in captures")
+    if sys.argv[2] == "positions":
+        messages = examples(oracle, sys.argv[6:]) + random(oracle, sys.argv[5])
+        oracle_run.conclude(check_positions(sys.argv[3], sys.argv[4], messages), f"positions in {len(messages)} messages")
     if sys.argv[2] == "messages":
         messages = [(message.test, message.hex, message.meant) for message in oracle_run.messages(sys.argv[3])
                     if message.type == "CellGroupConfig"]

@@ -4,6 +4,7 @@ import os
 import re
 import subprocess
 import tempfile
+import xml.etree.ElementTree
 
 DISSECTOR = "nr-rrc.cellgroupconfig_msg"
 PROTOCOL = "NR Radio Resource Control (RRC) protocol"
@@ -63,6 +64,47 @@ def trees(capture):
             shown[-1].append(node)
         path.append(node)
     return shown
+
+
+class Places:
+    """Where tshark sees a bare CellGroupConfig's parts, counted from its first octet."""
+
+    def __init__(self, message):
+        """The protocol's element in tshark's PDML."""
+        self.start = int(message.get("pos"))
+        self.octets = {}  # of each member and element by its path: the octet that its first bit lies in
+        self.bits = []    # of each extension and presence bit, in their order
+        for whole in message.findall("field"):
+            self.add_below(whole, "")
+
+    PICTURED = re.compile(r"^([01.]{4}) ([01.]{4}) (?:Extension|Optional Field) Bit: ")
+
+    def add_below(self, element, path):
+        for field in element.findall("field"):
+            octet = int(field.get("pos")) - self.start
+            if field.get("name").startswith("per."):
+                picture = self.PICTURED.match(field.get("showname"))
+                if picture:
+                    rest = (picture[1] + picture[2]).lstrip(".")
+                    self.bits.append(octet * 8 + 8 - len(rest))
+            elif field.get("name") == "":  # "Item 0", and in it the element by the name of its type
+                here = f"{path}[{field.get('show').split()[1]}]"
+                self.octets[here] = octet
+                for whole in field.findall("field"):
+                    self.add_below(whole, here)
+            else:
+                node = Node(field.get("showname"))
+                here = f"{path}.{plain(node.name)}"
+                if not BITS.fullmatch(node.value):  # those of a bit string are not the message's, but a copy's
+                    self.octets.setdefault(here, octet)  # a later release's member of the same name comes behind
+                self.add_below(field, here)
+
+
+def places(capture):
+    """The Places of each packet of a capture of bare cell groups."""
+    text = run(["tshark", "-r", "-", "-T", "pdml"], capture)
+    return [Places(packet.find("proto[@name='nr-rrc']"))
+            for packet in xml.etree.ElementTree.fromstring(text).iter("packet")]
 
 
 def fields(capture, names):

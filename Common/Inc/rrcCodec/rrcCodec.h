@@ -68,7 +68,9 @@ typedef struct rrcCellGroupCfg_s
  * encoding; bufLen gets its length on success and is left alone otherwise. After a failure the octets at buf may hold
  * part of an encoding.
  * @return                        0, or -1 after lines on the console that say what failed: a value that CellGroupConfig
- *                                does not allow is named with its path, and the whole element tree follows
+ *                                does not allow is named with its path, and the whole element tree follows. Where the
+ *                                heap was exhausted in a list whose composer's result nobody looks at, the console
+ *                                says so and the result is 0 with what was built; rrcCompose.h has calls that refuse
  */
 CELLGROUPCFG_API INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* pBuf);
 

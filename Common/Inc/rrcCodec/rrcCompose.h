@@ -55,7 +55,7 @@ CELLGROUPCFG_API INT32 rrcComposeCellGroupTree(struct OSCTXT* pAsnCxt, const Rrc
 
 /**
  * Composes the CellGroupConfig and encodes it with unaligned PER. Asks malloc where the element tree takes more than
- * 20 KiB of the stack.
+ * 16 KiB of the stack.
  * @param pRrcCellGroupCfg  the cell group, only read
  * @param buf               the caller's octets, which get the encoding; after a failure they may hold part of one
  * @param capacity          of buf, in octets: nothing is written behind them
@@ -70,7 +70,7 @@ CELLGROUPCFG_API INT32 rrcEncodeCellGroupCfg(const RrcCellGroupCfg_t* pRrcCellGr
                                              size_t* pLength, char* error, size_t errorSize);
 
 /**
- * The same with memory of the caller's for everything: malloc is not asked, and some KiB of the stack suffice.
+ * The same with memory of the caller's for everything: malloc is not asked, and 8 KiB of the stack suffice.
  * @param memory      of any alignment; the caller's again after the call
  * @param memorySize  octets at memory; RRC_COMPOSE_MEMORY_SIZE are enough, less may do. Where they are not enough the
  *                    call is refused with RRC_COMPOSE_E_MEMORY

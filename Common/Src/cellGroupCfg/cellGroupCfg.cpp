@@ -13,10 +13,6 @@ namespace
 // What every caller provides; RRC_CELL_GROUP_CONFIG_SIZE, half of it, is not the bound.
 constexpr size_t bufferSize = 8192;
 
-// On the entry's stack: the tree of a typical call, so that malloc is asked by larger ones only. All that the call
-// needs of the stack stays within 32 KiB.
-constexpr size_t memorySize = 16 * 1024;
-
 // CellGroupConfig
 INT32 composeCellGroup(OSCTXT* pAsnCxt, CellGroupConfig* pCellGroupConfig, RrcCellGroupCfg_t* pRrcCellGroupCfg)
 {
@@ -112,7 +108,7 @@ INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* 
         VOS_Printf("rrcComposeCellGroupCfg Init AsnCxt Error\r\n");
         return VOS_ERROR;
     }
-    alignas(16) OSOCTET memory[memorySize];
+    alignas(16) OSOCTET memory[stackMemory];
     (void)rtxMemHeapSetMemory(&asnCxt, memory, sizeof memory);
 
     CellGroupConfig* pCellGroupConfig;

@@ -9,9 +9,6 @@
 namespace
 {
 
-// On the stack of a call without memory of the caller's, like the entry's.
-constexpr std::size_t stackMemory = 20 * 1024;
-
 constexpr std::size_t linesSize = 256; // a failing composer and its callers
 
 // The caller's octets for a line; none where size is 0.

@@ -14,6 +14,7 @@
 #include "oneBearer.h"
 #include "reconfigurationWithSync.h"
 #include "releases.h"
+#include "rrcCodec/rrcCompose.h"
 #include "secondaryCells.h"
 #include "support/CapturedOutput.h"
 #include "typicalCall.h"
@@ -80,6 +81,17 @@ void* composed(void* record)
     return record;
 }
 
+void* composedInMemory(void* record)
+{
+    static UINT8 octets[8192];
+    static OSOCTET memory[RRC_COMPOSE_MEMORY_SIZE];
+    size_t length;
+    char error[512];
+    (void)rrcEncodeCellGroupCfgInMemory(static_cast<RrcCellGroupCfg_t*>(record), memory, sizeof memory, octets,
+                                        sizeof octets, &length, error, sizeof error);
+    return record;
+}
+
 } // namespace
 
 extern "C" void* __real_malloc(size_t size);
@@ -138,7 +150,9 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
     secondaryCells(*record);
     const size_t start = touchedBy(nothing, record.get());
     const size_t success = touchedBy(composed, record.get()) - start;
+    const size_t inMemory = touchedBy(composedInMemory, record.get()) - start;
     record->cellGroupId = 9;
+    const size_t refusalInMemory = touchedBy(composedInMemory, record.get()) - start;
     size_t refusal = 0;
     std::string printed;
     {
@@ -152,5 +166,7 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
     {
         EXPECT_LE(success, 32U * 1024);
         EXPECT_LE(refusal, 32U * 1024);
+        EXPECT_LE(inMemory, 8U * 1024);
+        EXPECT_LE(refusalInMemory, 8U * 1024);
     }
 }
