@@ -1,4 +1,3 @@
-#include <cstdarg>
 #include <cstdio>
 #include <cstring>
 
@@ -19,7 +18,7 @@ struct Text
 };
 
 // Shows that only the first octets of a line so long have found room.
-void markCut(Text text, std::size_t length)
+void markCut(const Text& text, std::size_t length)
 {
     if (length >= text.size && text.size > 3)
     {
@@ -28,15 +27,9 @@ void markCut(Text text, std::size_t length)
 }
 
 // Writes the line and returns the status.
-[[gnu::format(printf, 3, 4)]] INT32 say(Text text, RrcComposeStatus_e status, const char* format, ...)
+INT32 say(const Text& error, RrcComposeStatus_e status, const char* line)
 {
-    if (text.size != 0)
-    {
-        std::va_list args;
-        va_start(args, format);
-        markCut(text, static_cast<std::size_t>(std::vsnprintf(text.octets, text.size, format, args)));
-        va_end(args);
-    }
+    markCut(error, static_cast<std::size_t>(std::snprintf(error.octets, error.size, "%s", line)));
     return status;
 }
 
@@ -89,8 +82,10 @@ INT32 checkArguments(const Call& call)
     }
     if (!fits(*call.pRecord))
     {
-        return say(call.error, RRC_COMPOSE_E_ARGUMENT, "sCellAddModNum: %d is not in 0..%d",
-                   call.pRecord->sCellAddModNum, MAX_NROF_SCellS);
+        char line[40];
+        (void)std::snprintf(line, sizeof line, "sCellAddModNum: %d is not in 0..%d", call.pRecord->sCellAddModNum,
+                            MAX_NROF_SCellS);
+        return say(call.error, RRC_COMPOSE_E_ARGUMENT, line);
     }
     return RRC_COMPOSE_OK;
 }
@@ -103,12 +98,13 @@ INT32 encode(OSCTXT* pAsnCxt, const Call& call)
     const INT32 composed = composeWhole(pAsnCxt, *call.pRecord, &pTree, lines);
     if (composed == RRC_COMPOSE_E_MEMORY)
     {
-        return lines.any() ? say(call.error, RRC_COMPOSE_E_MEMORY, "out of memory: %s", text)
-                           : say(call.error, RRC_COMPOSE_E_MEMORY, "out of memory");
+        char line[linesSize + 16];
+        (void)std::snprintf(line, sizeof line, "out of memory: %s", text);
+        return say(call.error, RRC_COMPOSE_E_MEMORY, lines.any() ? line : "out of memory");
     }
     if (composed != RRC_COMPOSE_OK)
     {
-        return say(call.error, RRC_COMPOSE_E_FAILED, "%s", text);
+        return say(call.error, RRC_COMPOSE_E_FAILED, text);
     }
     (void)pu_setBuffer(pAsnCxt, call.buf, call.capacity, 0);
     const int encoded = asn1PE_CellGroupConfig(pAsnCxt, pTree);
