@@ -8,7 +8,6 @@ import glob
 import json
 import math
 import pathlib
-import re
 import sys
 
 import measured
@@ -28,12 +27,6 @@ def load(name):
     return json.loads(pathlib.Path(name).read_text(encoding="utf-8"))
 
 
-def processor():
-    info = pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8")
-    name = re.search(r"model name\s*: (.*)", info)
-    return re.sub(r"\((R|TM)\)", "", name[1]) if name else "processor unknown"
-
-
 def collect(folder):
     """<folder>/now.*.json are the benchmark's outputs and <folder>/now.lines what code_lines.py printed; likewise
     before.*, if there is an earlier build."""
@@ -46,7 +39,7 @@ def collect(folder):
         times = measured.times(*runs)
         figures[build] = {"times": {name: times[name] | {"ns": round(times[name]["ns"], 2)} for name in sorted(times)},
                           "lines": load(f"{folder}/{build}.lines")}
-        figures["machine"] = f"{processor()}, {context['num_cpus']} virtual processors at {context['mhz_per_cpu']} MHz"
+        figures["machine"] = f"{measured.processor()}, {context['num_cpus']} virtual processors at {context['mhz_per_cpu']} MHz"
         figures["compiler"] = context["compiler"]
         figures["date"] = context["date"][:10]
         if build == "before":

@@ -1,4 +1,7 @@
-"""What the benchmark's JSON says: the time of each benchmark, in ns, and its counters."""
+"""What the benchmark's JSON says: the time of each benchmark, in ns, and its counters; and the machine's name."""
+
+import pathlib
+import re
 
 COUNTERS = ("octets", "fields", "mallocs", "heap")
 
@@ -38,3 +41,9 @@ def per_field(found, name):
 def growth(found, benchmark, message):
     """The time of a field, over that of the typical call's."""
     return per_field(found, f"{message}/{benchmark}") / per_field(found, f"typical_call/{benchmark}")
+
+
+def processor():
+    info = pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8")
+    name = re.search(r"model name\s*: (.*)", info)
+    return re.sub(r"\((R|TM)\)", "", name[1]) if name else "processor unknown"
