@@ -6,7 +6,7 @@ import sys
 
 import measured
 
-ALLOWED = 1.5
+ALLOWED = 2
 
 
 def bounds(found):
