@@ -1,5 +1,5 @@
-"""check_bounds.py: reads the benchmark's JSON from standard input and prints what has a bound. Fails where one is twice
-it: so far out no load of the machine alone brings it."""
+"""check_bounds.py: reads the benchmark's JSON from standard input and prints what has a bound. Fails where one is half
+as much again above it: so far out no load of the machine alone brings it."""
 
 import json
 import sys
