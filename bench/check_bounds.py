@@ -6,7 +6,7 @@ import sys
 
 import measured
 
-ALLOWED = 2
+ALLOWED = 1.5
 
 
 def bounds(found):
