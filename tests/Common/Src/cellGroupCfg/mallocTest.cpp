@@ -161,7 +161,8 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
         printed = output.take();
     }
     EXPECT_THAT(printed, testing::HasSubstr("CellGroupConfig.cellGroupId: 9 is not in 0..3"));
-    EXPECT_GE(success, 12U * 1024);
+    // A sanitizer's instrumentation moves what lies in the frame: the block's untouched end does not count then.
+    EXPECT_GE(success, (sanitized ? 12U : 16U) * 1024);
     if (!sanitized)
     {
         EXPECT_LE(success, 32U * 1024);
