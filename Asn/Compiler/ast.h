@@ -47,6 +47,15 @@ struct Identity
     Name release; // the list beside it that releases elements by their identity
 };
 
+// -- Need <code>[, <word>], -- Cond <condition> (<code>[, <word>]), -- Change <word>
+struct Need
+{
+    Name annotation; // its first word
+    Name condition;
+    Name code;
+    Name word;
+};
+
 struct Member
 {
     std::string name;
@@ -54,6 +63,7 @@ struct Member
     std::unique_ptr<Type> type;
     bool optional = false;
     Identity identity;
+    Need need;
 };
 
 // One extension addition: a group in double brackets, or a lone member.

@@ -122,6 +122,40 @@ std::string additionTable(const Type& type)
     return out + "};\n";
 }
 
+std::string needTable(const Type& type)
+{
+    std::string out = "constexpr rtx::Need needs_" + type.cName + "[] = {\n";
+    for (const Member& member : type.members)
+    {
+        const Need& need = member.need;
+        std::string row;
+        const auto field = [&](const char* name, const std::string& value)
+        {
+            row += (row.empty() ? "." : ", .") + std::string(name) + " = " + value;
+        };
+        const auto enumerator = [&](const char* name, const char* of, const std::string& value)
+        {
+            if (!value.empty())
+            {
+                field(name, of + ("::" + value));
+            }
+        };
+        enumerator("absence", "Absence", need.absence);
+        enumerator("change", "Change", need.change);
+        enumerator("list", "ListRole", need.list);
+        if (need.partner >= 0)
+        {
+            field("partner", std::to_string(need.partner));
+        }
+        if (!need.condition.empty())
+        {
+            field("condition", "\"" + need.condition + "\"");
+        }
+        out += "    {" + row + "},\n";
+    }
+    return out + "};\n";
+}
+
 // The names of the values or of the members.
 std::vector<std::string> namesOf(const Type& type)
 {
@@ -197,6 +231,10 @@ std::string table(const Type& type)
         field("memberCount", std::to_string(type.element != nullptr ? 1 : type.members.size()));
         field("rootCount", std::to_string(type.element != nullptr ? 1 : type.rootCount));
     }
+    if (type.setupRelease())
+    {
+        field("setupRelease", "true");
+    }
     if (!type.additions.empty())
     {
         before += additionTable(type);
@@ -214,6 +252,11 @@ std::string table(const Type& type)
     if (type.extensible)
     {
         field("extElem", type.kind == Kind::Sequence ? "offsetof(" + type.cName + ", extElem1)" : unionOffset(type));
+    }
+    if (std::any_of(type.members.begin(), type.members.end(), [](const Member& m) { return !m.need.usual(); }))
+    {
+        before += needTable(type);
+        field("needs", "needs_" + type.cName);
     }
     return "\n" + (before.empty() ? "" : "namespace\n{\n" + before + "} // namespace\n") + "constexpr Type type_" +
            type.cName + " = {" + fields + "};\n";
@@ -234,8 +277,11 @@ std::string emitTablesHeader(const Model& model, const Origin& origin)
 std::string emitTables(const Model& model, const Origin& origin, const std::string& typesHeader)
 {
     std::string out = generatedMark(origin) + "#include \"NR-RRC-Tables.h\"\n#include \"" + typesHeader +
-                      "\"\n\n#include <cstddef>\n\nnamespace nr_rrc\n{\n\nusing rtx::Addition;\nusing "
-                      "rtx::Kind;\nusing rtx::Member;\nusing rtx::member;\nusing rtx::Type;\n";
+                      "\"\n\n#include <cstddef>\n\nnamespace nr_rrc\n{\n\n";
+    for (const char* const name : {"Absence", "Addition", "Change", "Kind", "ListRole", "Member", "member", "Type"})
+    {
+        out += std::string("using rtx::") + name + ";\n";
+    }
     for (const Type* type : model.types)
     {
         out += table(*type);

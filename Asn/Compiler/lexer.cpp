@@ -1,5 +1,6 @@
 #include "lexer.h"
 
+#include <algorithm>
 #include <array>
 
 namespace asncomp
@@ -21,7 +22,7 @@ bool isDigit(char c)
 constexpr std::size_t longestName = 255;
 
 constexpr std::string_view hyphens = "--";
-constexpr std::string_view annotation = "Identity";
+constexpr std::array annotations = std::to_array<std::string_view>({"Identity", "Need", "Cond", "Change"});
 
 class Lexer
 {
@@ -96,13 +97,18 @@ private:
     // A comment that begins with the word of an annotation is read, between two tokens of hyphens.
     bool startsAnnotation() const
     {
-        const std::size_t begin = source_.find_first_not_of(' ', position_ + hyphens.size());
-        if (begin == std::string_view::npos || source_.substr(begin, annotation.size()) != annotation)
+        std::size_t begin = position_ + hyphens.size();
+        while (begin < source_.size() && source_[begin] == ' ')
         {
-            return false;
+            ++begin;
         }
-        const char next = peek(begin + annotation.size() - position_);
-        return !isLetter(next) && !isDigit(next);
+        std::size_t end = begin;
+        while (end < source_.size() && (isLetter(source_[end]) || isDigit(source_[end])))
+        {
+            ++end;
+        }
+        const std::string_view word = source_.substr(begin, end - begin);
+        return std::find(annotations.begin(), annotations.end(), word) != annotations.end();
     }
 
     void annotationMark()

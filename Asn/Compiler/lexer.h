@@ -1,5 +1,6 @@
 // Splits the schema's text into tokens (X.680 clause 12, as far as the schema needs it). Comments go, but for
-// annotations: comments that begin with the word Identity. Their words stand between two tokens "--".
+// annotations: comments that begin with the word Identity, Need, Cond or Change. Their words stand between two tokens
+// "--".
 #pragma once
 
 #include "diagnostics.h"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <limits>
 #include <map>
 #include <set>
@@ -150,6 +151,114 @@ std::string cIdentifier(std::string name)
         name += '_';
     }
     return name;
+}
+
+struct Code
+{
+    std::string_view code;
+    std::string_view absence; // enumerator of rtx::Absence
+};
+constexpr std::string_view fixedCode = "fixed";
+constexpr std::array codes =
+    std::to_array<Code>({{"M", "Keep"}, {"R", "Clear"}, {"S", "Default"}, {"N", "Action"}, {fixedCode, "Fixed"}});
+
+// What binds a change of a member, and what kind of a member it can bind.
+enum class Bindable
+{
+    Any,
+    Sequence,
+    Choice,
+    SetupRelease,
+    Action,     // one of code N
+    Kept,       // one of code M
+    Integer,    // mandatory
+    Enumeration // mandatory
+};
+
+struct Word
+{
+    std::string_view word;
+    std::string_view change; // enumerator of rtx::Change
+    Bindable bound;
+
+    bool ofMandatory() const
+    {
+        return bound >= Bindable::Integer;
+    }
+};
+constexpr std::array words = std::to_array<Word>({{"setup", "Setup", Bindable::Any},
+                                                  {"drb-setup", "DrbSetup", Bindable::Any},
+                                                  {"mode", "Mode", Bindable::Choice},
+                                                  {"creation", "Creation", Bindable::Kept},
+                                                  {"creation-optional", "CreationOptional", Bindable::Kept},
+                                                  {"switch", "Switch", Bindable::Action},
+                                                  {"sync", "Sync", Bindable::Sequence},
+                                                  {"reestablish", "Reestablish", Bindable::Kept},
+                                                  {"kind", "Kind", Bindable::Kept},
+                                                  {"fixed-kind", "FixedKind", Bindable::Kept},
+                                                  {"pucch", "Pucch", Bindable::SetupRelease},
+                                                  {"scell", "SCell", Bindable::Sequence},
+                                                  {"inactive", "Inactive", Bindable::SetupRelease},
+                                                  {"inactive-type2", "InactiveType2", Bindable::SetupRelease},
+                                                  {"sul", "Sul", Bindable::Sequence},
+                                                  {"mcg-release", "McgRelease", Bindable::SetupRelease},
+                                                  {"usage", "Usage", Bindable::Enumeration},
+                                                  {"identity", "Identity", Bindable::Integer}});
+
+bool fits(Bindable bound, const Member& member)
+{
+    switch (bound)
+    {
+    case Bindable::Sequence:
+        return member.type->kind == Kind::Sequence;
+    case Bindable::Choice:
+        return member.type->kind == Kind::Choice;
+    case Bindable::SetupRelease:
+        return member.type->setupRelease();
+    case Bindable::Action:
+        return member.need.absence == "Action";
+    case Bindable::Kept:
+        return member.need.absence == "Keep";
+    case Bindable::Integer:
+        return member.type->kind == Kind::Integer;
+    case Bindable::Enumeration:
+        return member.type->kind == Kind::Enumerated;
+    case Bindable::Any:
+        return true;
+    }
+    return false;
+}
+
+const char* textOf(Bindable bound)
+{
+    switch (bound)
+    {
+    case Bindable::Sequence:
+        return "a SEQUENCE";
+    case Bindable::Choice:
+        return "a CHOICE";
+    case Bindable::SetupRelease:
+        return "a CHOICE of 'release' and 'setup'";
+    case Bindable::Action:
+        return "of code N";
+    case Bindable::Kept:
+        return "of code M";
+    case Bindable::Integer:
+        return "an INTEGER";
+    case Bindable::Enumeration:
+        return "an ENUMERATED";
+    case Bindable::Any:
+        return "any";
+    }
+    return "";
+}
+
+// Whether a list's name ends so; the schema writes both "ToReleaseList" and "ToreleaseList".
+bool endsIn(std::string_view name, std::string_view end)
+{
+    return name.size() >= end.size() &&
+           std::equal(end.begin(), end.end(), name.end() - end.size(),
+                      [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
 }
 
 constexpr std::int64_t maxListCount = 65535;
@@ -463,6 +572,10 @@ private:
             result.optional = true;
             result.flag = addFlag(owner, result.cName, source.at);
         }
+        if (owner.kind == Kind::Sequence)
+        {
+            need(result, source);
+        }
         if (!source.identity.member.name.empty())
         {
             identify(*result.type, source.identity.member);
@@ -472,6 +585,82 @@ private:
             diagnostics_.error(source.at, "a mandatory NULL member is not supported");
         }
         owner.members.push_back(result);
+    }
+
+    void need(Member& member, const ast::Member& source)
+    {
+        const ast::Need& need = source.need;
+        member.need.condition = need.condition.name;
+        if (source.optional && need.code.name.empty())
+        {
+            diagnostics_.error(source.at, "'" + source.name +
+                                              "' is OPTIONAL: what its absence does is missing behind it, -- Need <M, "
+                                              "R, S or N> or -- Cond <condition> (<M, R, S, N or fixed>)");
+            return;
+        }
+        if (!source.optional && !need.code.name.empty())
+        {
+            diagnostics_.error(need.annotation.at, "'" + source.name + "' is not OPTIONAL: its absence does nothing");
+            return;
+        }
+        if (!need.code.name.empty())
+        {
+            const auto code =
+                std::find_if(codes.begin(), codes.end(), [&](const Code& c) { return c.code == need.code.name; });
+            if (code == codes.end())
+            {
+                diagnostics_.error(need.code.at,
+                                   "unknown need code '" + need.code.name + "': " + listOf(codes, &Code::code));
+                return;
+            }
+            if (code->code == fixedCode && need.condition.name.empty())
+            {
+                diagnostics_.error(need.code.at, "what fixes the presence is missing: -- Cond <condition> (fixed)");
+            }
+            member.need.absence = code->absence;
+        }
+        if (!need.word.name.empty())
+        {
+            change(member, need.word);
+        }
+    }
+
+    void change(Member& member, const ast::Name& source)
+    {
+        const auto word =
+            std::find_if(words.begin(), words.end(), [&](const Word& w) { return w.word == source.name; });
+        const auto refuse = [&](const std::string& reason)
+        {
+            diagnostics_.error(source.at, reason);
+        };
+        if (word == words.end())
+        {
+            refuse("unknown word '" + source.name + "': " + listOf(words, &Word::word));
+        }
+        else if (word->ofMandatory() == member.optional)
+        {
+            refuse("'" + source.name + "' binds " + (member.optional ? "mandatory" : "optional") + " members only");
+        }
+        else if (!fits(word->bound, member))
+        {
+            refuse("'" + source.name + "' binds only what is " + textOf(word->bound));
+        }
+        else
+        {
+            member.need.change = word->change;
+        }
+    }
+
+    template <typename Table, typename Field>
+    static std::string listOf(const Table& table, Field field)
+    {
+        std::string result;
+        for (const auto& row : table)
+        {
+            result += result.empty() ? "" : ", ";
+            result += row.*field;
+        }
+        return result + " are known";
     }
 
     // Sets what identifies the elements of a list. The parser has seen that the list is the member's own.
@@ -513,40 +702,91 @@ private:
         list.identity = static_cast<int>(index);
     }
 
-    // The lists that release elements hold what identifies them.
-    void releases(const Type& owner, const std::vector<ast::Member>& members)
+    // Lists that add elements one by one have partners that release them by what identifies them.
+    void pair(Type& owner, const std::vector<ast::Member>& members)
     {
         for (const ast::Member& m : members)
         {
-            const ast::Name& source = m.identity.release;
-            const Type* const list = typeOf(owner, m.name);
-            if (source.name.empty() || list == nullptr || list->identity == noIdentity)
+            Member* const list = find(owner, m.name);
+            if (list == nullptr)
             {
-                continue; // nothing to look for, or reported
+                continue; // reported
             }
-            const Type* const release = typeOf(owner, source.name);
-            const Type* const wanted = list->identity == ownIdentity
-                                           ? list->element
-                                           : list->element->members[static_cast<std::size_t>(list->identity)].type;
-            if (release == nullptr)
+            if (!m.identity.release.name.empty())
             {
-                diagnostics_.error(source.at, "there is no member '" + source.name + "' beside '" + m.name + "'");
+                pair(owner, *list, m.identity.release);
             }
-            else if (release->element != wanted)
+            else if (endsIn(m.name, "ToAddModList") || endsIn(m.name, "ToAddList"))
             {
-                diagnostics_.error(source.at, "'" + source.name + "' is not a list of '" + wanted->asnName +
-                                                  "', which identifies"
-                                                  " the elements of '" +
-                                                  m.name + "'");
+                diagnostics_.error(m.at, "the elements of '" + m.name +
+                                             "' are added one by one: -- Identity <member>, released by <list> is "
+                                             "missing behind it");
             }
         }
     }
 
-    static const Type* typeOf(const Type& owner, const std::string& member)
+    void pair(Type& owner, Member& list, const ast::Name& source)
+    {
+        if (list.type->identity == noIdentity)
+        {
+            return; // reported
+        }
+        const Type* const wanted =
+            list.type->identity == ownIdentity
+                ? list.type->element
+                : list.type->element->members[static_cast<std::size_t>(list.type->identity)].type;
+        Member* const release = find(owner, source.name);
+        if (release == nullptr)
+        {
+            diagnostics_.error(source.at, "there is no member '" + source.name + "' beside '" + list.asnName + "'");
+        }
+        else if (release->type->element != wanted)
+        {
+            diagnostics_.error(source.at, "'" + source.name + "' is not a list of '" + wanted->asnName +
+                                              "', which identifies the elements of '" + list.asnName + "'");
+        }
+        else if (release == &list || !release->need.list.empty())
+        {
+            diagnostics_.error(source.at,
+                               "'" + source.name + "' does not release the elements of '" + list.asnName + "' alone");
+        }
+        else
+        {
+            list.need.list = "AddMod";
+            list.need.partner = static_cast<int>(release - owner.members.data());
+            release->need.list = "Release";
+            release->need.partner = static_cast<int>(&list - owner.members.data());
+        }
+    }
+
+    // What is added and released one by one is not there to be kept or cleared; each releasing list has its partner.
+    void checkLists(const Type& owner, const std::vector<ast::Member>& members)
+    {
+        for (const ast::Member& m : members)
+        {
+            const Member* const list = find(owner, m.name);
+            if (list == nullptr)
+            {
+                continue; // reported
+            }
+            if (!list->need.list.empty() && !list->need.absence.empty() && list->need.absence != "Action")
+            {
+                diagnostics_.error(m.need.code.at,
+                                   "the elements of '" + m.name + "' are added or released one by one: its code is N");
+            }
+            if (list->need.list.empty() && endsIn(m.name, "ToReleaseList"))
+            {
+                diagnostics_.error(m.at, "no list says that '" + m.name + "' releases its elements");
+            }
+        }
+    }
+
+    template <typename Owner>
+    static auto find(Owner& owner, const std::string& member) -> decltype(owner.members.data())
     {
         const auto found = std::find_if(owner.members.begin(), owner.members.end(),
                                         [&](const Member& m) { return m.asnName == member; });
-        return found == owner.members.end() ? nullptr : found->type;
+        return found == owner.members.end() ? nullptr : &*found;
     }
 
     int addFlag(Type& owner, const std::string& name, Location at)
@@ -595,11 +835,16 @@ private:
             addition.count = type.members.size() - addition.first;
             type.additions.push_back(addition);
         }
-        releases(type, source.members);
-        for (const ast::Addition& a : source.additions)
+        const auto eachMembers = [&](const auto& visit)
         {
-            releases(type, a.members);
-        }
+            visit(source.members);
+            for (const ast::Addition& a : source.additions)
+            {
+                visit(a.members);
+            }
+        };
+        eachMembers([&](const std::vector<ast::Member>& members) { pair(type, members); });
+        eachMembers([&](const std::vector<ast::Member>& members) { checkLists(type, members); });
         if (source.members.empty() && !source.extensible)
         {
             diagnostics_.error(source.at, "a SEQUENCE without members is not supported");
@@ -701,6 +946,12 @@ bool Type::mayBeEmpty() const
     return kind == Kind::Sequence &&
            std::all_of(members.begin(), members.begin() + static_cast<std::ptrdiff_t>(rootCount),
                        [](const Member& m) { return m.optional; });
+}
+
+bool Type::setupRelease() const
+{
+    return kind == Kind::Choice && !extensible && members.size() == 2 && members[0].asnName == "release" &&
+           members[0].type->kind == Kind::Null && members[1].asnName == "setup";
 }
 
 const Type* Model::find(const std::string& asnName) const

@@ -25,6 +25,22 @@ enum class Kind
 
 struct Type;
 
+// What the absence of an optional member does and what binds a change of it: the enumerators of rtx::Need's members,
+// empty where they are the usual ones.
+struct Need
+{
+    std::string absence;
+    std::string change;
+    std::string list;
+    int partner = -1; // index of the list that releases the elements of this one, or the other way round
+    std::string condition;
+
+    bool usual() const
+    {
+        return absence.empty() && change.empty() && list.empty();
+    }
+};
+
 struct Member
 {
     std::string asnName;
@@ -34,6 +50,7 @@ struct Member
     bool pointer = false; // alternative of a choice held by pointer
     int flag = -1;        // number of its presence flag
     bool usual = true;    // optional member, alternative: carried by usual messages
+    Need need;            // Sequence
 };
 
 struct Addition
@@ -85,6 +102,8 @@ struct Type
     unsigned width() const;
     // Every member may be absent.
     bool mayBeEmpty() const;
+    // Choice: of "release" and what "setup" sets.
+    bool setupRelease() const;
 };
 
 struct Constant

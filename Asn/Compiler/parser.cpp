@@ -500,23 +500,62 @@ private:
         return result;
     }
 
-    // Whether another member follows. An annotation of a list stands behind the comma, as comments do.
+    // Whether another member follows. A member's annotations stand behind the comma, as comments do.
     bool another(const ast::Type& owner, ast::Member* member)
     {
         const bool result = accept(",");
-        const bool list = member != nullptr && member->type->kind == ast::Kind::SequenceOf;
-        if (list && owner.kind == ast::Kind::Sequence && accept("--"))
+        while (at("--"))
         {
+            if (member == nullptr || owner.kind != ast::Kind::Sequence)
+            {
+                refuse(current().at, "an annotation stands behind a member of a SEQUENCE");
+            }
+            step();
             annotation(*member);
+            expect("--");
         }
         return result;
     }
 
     void annotation(ast::Member& member)
     {
-        expect("Identity");
-        const Location where = current().at;
-        member.identity.member = {isUpper(current().text[0]) ? typeName() : valueName("a name"), where};
+        const ast::Name first = word("an annotation");
+        const ast::Name& before = first.name == "Identity" ? member.identity.member : member.need.annotation;
+        if (!before.name.empty())
+        {
+            refuse(first.at, "'" + member.name + "' has an annotation of this kind already");
+        }
+        if (first.name == "Identity")
+        {
+            identity(member, first.at);
+            return;
+        }
+        member.need.annotation = first;
+        if (first.name == "Need")
+        {
+            code(member.need);
+        }
+        else if (first.name == "Cond")
+        {
+            member.need.condition = word("the name of a condition");
+            expect("(");
+            code(member.need);
+            expect(")");
+        }
+        else
+        {
+            member.need.word = word("what binds a change");
+        }
+    }
+
+    void identity(ast::Member& member, Location where)
+    {
+        if (member.type->kind != ast::Kind::SequenceOf)
+        {
+            refuse(where, "'" + member.name + "' is not a SEQUENCE OF: it has no elements to identify");
+        }
+        const Location at = current().at;
+        member.identity.member = {isUpper(current().text[0]) ? typeName() : valueName("a name"), at};
         if (accept(","))
         {
             expect("released");
@@ -524,7 +563,26 @@ private:
             const Location list = current().at;
             member.identity.release = {valueName("the name of a list"), list};
         }
-        expect("--");
+    }
+
+    void code(ast::Need& need)
+    {
+        need.code = word("a need code");
+        if (accept(","))
+        {
+            need.word = word("what binds a change");
+        }
+    }
+
+    ast::Name word(const std::string& wanted)
+    {
+        if (current().kind != TokenKind::Word)
+        {
+            unexpected(wanted);
+        }
+        ast::Name result{current().text, current().at};
+        step();
+        return result;
     }
 
     const std::vector<Token>& tokens_;

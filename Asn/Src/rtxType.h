@@ -62,6 +62,57 @@ struct Addition
     uint16_t count;
 };
 
+// What the absence of an optional member does (TS 38.331 6.1.2).
+enum class Absence : uint8_t
+{
+    Mandatory,
+    Keep,    // Need M
+    Clear,   // Need R
+    Default, // Need S: cleared, a value or rule of the standard takes over
+    Action,  // Need N
+    Fixed    // presence follows from another field
+};
+
+// What else binds a change of it.
+enum class Change : uint8_t
+{
+    Free,
+    Setup,            // wanted when its entry is created, sent again with reconfigurationWithSync
+    DrbSetup,         // as Setup, wanted of the bearer of a DRB
+    Mode,             // as DrbSetup, and the alternative of the bearer stays
+    Creation,         // wanted when its entry is created, and never sent again
+    CreationOptional, // sent when its entry is created or never
+    Switch,           // in an SCell as Creation, in the SpCell sent once
+    Sync,             // sent once
+    Reestablish,      // as Setup, changed with reestablishRLC and, of a DRB, with reconfigurationWithSync
+    Kind,             // present or absent as long as its entry lives
+    FixedKind,        // as Kind, also when the entry is released and added
+    Usage,            // from codebook to nonCodebook or back in no way
+    Pucch,            // set up or released only with its bandwidth part or SCell, or with reconfigurationWithSync
+    SCell,            // as Setup, and whether the SCell has a PUCCH stays
+    Inactive,         // only while no assignment is active, or with reconfigurationWithSync
+    InactiveType2,    // the same of a grant of type 2
+    Sul,              // its absence releases supplementaryUplink of the same cell too
+    McgRelease,       // released only in the MCG
+    Identity          // the same as long as the whole lives
+};
+
+enum class ListRole : uint8_t
+{
+    None,
+    AddMod,
+    Release
+};
+
+struct Need
+{
+    Absence absence = Absence::Mandatory;
+    Change change = Change::Free;
+    ListRole list = ListRole::None;
+    int16_t partner = -1; // AddMod: index of the list that releases its elements; Release: of the one that adds them
+    const char* condition = nullptr; // of a Cond
+};
+
 constexpr int8_t noIdentity = -1;
 constexpr int8_t ownIdentity = -2; // an element identifies itself
 
@@ -82,11 +133,13 @@ struct RtxType
     const rtx::Member* members = nullptr;
     uint16_t memberCount = 0;
     uint16_t rootCount = 0;
+    bool setupRelease = false;                // Choice: SetupRelease { T }
     const rtx::Addition* additions = nullptr; // Sequence
     uint16_t additionCount = 0;
     uint8_t bits = 0; // on the wire before the content: presence flags, index of the alternative, count of elements
     int8_t identity = rtx::noIdentity; // Array, List: index of the element's member that identifies it
     uint32_t extElem = 0;              // extensible: offset of extElem1, in a choice that of the union
+    const rtx::Need* needs = nullptr;  // Sequence: of its members; null when all are mandatory and free
 
     // Of an array's or a list's elements.
     constexpr const RtxType& element() const
