@@ -72,7 +72,8 @@ typedef enum RtxStatus
     RTX_E_SURPLUS = -14,   // value octets follow the encoding
     RTX_E_LENGTH = -15,    // a length determinant that PER does not allow; value is its octet
     RTX_E_EXTENSION = -16, // an extension addition that is announced and missing or of no use
-    RTX_E_DEPTH = -17      // the element tree is deeper than RTX_MAX_DEPTH
+    RTX_E_DEPTH = -17,     // the element tree is deeper than RTX_MAX_DEPTH
+    RTX_E_DELTA = -18      // no delta brings such a change; value is the RtxDeltaReason
 } RtxStatus;
 
 #define RTX_MAX_DEPTH 48
@@ -336,6 +337,118 @@ int64_t rtxCompare(OSCTXT* pctxtA, const OSCTXT* pctxtB, const RtxType* type, co
 // Writes the difference as one line without line end to text[0..size-1], always terminated. Returns the length of the
 // whole line. To be called in the sink.
 size_t rtxDifferenceFormat(const RtxDifference* difference, char* text, size_t size);
+
+// Deltas between configurations (TS 38.331 6.1.2, 6.1.3, A.3.9). The trees are those of a type, mostly CellGroupConfig;
+// what they point to lies in *pctxt's heap, and what is made does, too. The roots may lie anywhere, a result's root is
+// the caller's, is cleared first and must not be an argument's. A result shares with the arguments what it takes over.
+// Trees that the encoder would not take are refused with its error; errors stay in the context. docs/delta.md has more.
+
+// Returns 1 when both trees are sent as the same octets, 0 when not; or an RtxStatus.
+int rtxEqual(const OSCTXT* pctxt, const RtxType* type, const void* a, const void* b);
+
+// What an item of a delta says of a member.
+typedef enum RtxDeltaKind
+{
+    RTX_DELTA_SENT = 1, // the delta has it
+    RTX_DELTA_RELEASED, // an entry of a list or a setup is released
+    RTX_DELTA_LEFT_OUT, // its absence releases it
+    RTX_DELTA_NOTICE,   // the delta brings it, with a reason to take care; or it releases what is not held
+    RTX_DELTA_REFUSED   // no delta brings it
+} RtxDeltaKind;
+
+// Why.
+typedef enum RtxDeltaReason
+{
+    RTX_DELTA_CHANGED = 1, // another value
+    RTX_DELTA_ADDED,       // prev lacks it
+    RTX_DELTA_GONE,        // next lacks it
+    RTX_DELTA_STAYS,       // sent unchanged, as its absence beside a changed sibling would clear it
+    RTX_DELTA_MANDATORY,   // sent unchanged, as it is mandatory where a sibling has changed
+    RTX_DELTA_ACTION,      // Need N: done once, not stored
+    RTX_DELTA_WITH_SYNC,   // sent unchanged, as its condition asks for it with reconfigurationWithSync
+    RTX_DELTA_FORCED,      // an option asks for it
+    RTX_DELTA_RECREATED,   // the entry is released and added again
+    RTX_DELTA_FIRST,       // taken away by this delta, brought back by the next one
+    RTX_DELTA_NOT_HELD,    // released, and not held: no effect
+    RTX_DELTA_ACTIVE,      // only while no assignment or grant of it is active, or with reconfigurationWithSync
+    RTX_DELTA_KEPT,        // its absence would keep it
+    RTX_DELTA_AT_CREATION, // it is sent only when its entry is created
+    RTX_DELTA_INCOMPLETE,  // the creation of its entry asks for it, and it is absent
+    RTX_DELTA_FIXED_KIND,  // whether it is there stays as it is
+    RTX_DELTA_MODE,        // the alternative stays as it is
+    RTX_DELTA_REESTABLISH, // it changes with reestablishRLC, for a DRB with reconfigurationWithSync as well
+    RTX_DELTA_USAGE,       // from codebook to nonCodebook and back
+    RTX_DELTA_PUCCH,       // set up and released only with its bandwidth part or cell, or with reconfigurationWithSync
+    RTX_DELTA_PUCCH_CELL,  // an SCell becomes one with PUCCH, or one without
+    RTX_DELTA_SCG,         // it is never released in a secondary cell group
+    RTX_DELTA_OTHER_IDENTITY // another cell group
+} RtxDeltaReason;
+
+// A member or an entry and what becomes of it. The path is kept from the innermost step outwards, as in RtxDifference;
+// indices count in lists that are ordered by identity.
+typedef struct RtxDeltaItem
+{
+    OSINT32 kind;          // RtxDeltaKind
+    OSINT32 reason;        // RtxDeltaReason
+    OSINT32 cause;         // RECREATED, FIRST: the RtxDeltaReason that asks for it
+    char need;             // 'M', 'R', 'S', 'N', '-' where a condition without one decides; 0 for what is not optional
+    const char* condition; // its name, null for a plain need code
+    OSUINT32 ancestor;     // REFUSED: how many of the outermost steps lead to what could be released first; 0: nothing
+    OSUINT32 depth;        // steps used
+    RtxDifferenceStep path[RTX_MAX_DEPTH];
+} RtxDeltaItem;
+
+// One call for each item, in the order of the tree; the item is gone after the call.
+typedef void (*RtxDeltaSink)(void* arg, const RtxDeltaItem* item);
+
+// Writes the item as one line without line end to text[0..size-1], always terminated. Returns the length of the whole
+// line.
+size_t rtxDeltaFormat(const RtxDeltaItem* item, char* text, size_t size);
+
+// What a delta may do to bring a change that cannot be brought inside an entry of a list: release the entry and add it
+// again in the same message. Without these flags that is done for every list but those of RLC bearers, SCells and
+// bandwidth parts.
+#define RTX_DELTA_RECREATE_BEARERS 1U
+#define RTX_DELTA_RECREATE_SCELLS 2U
+#define RTX_DELTA_RECREATE_BWPS 4U
+#define RTX_DELTA_RECREATE_NONE 8U // of no list
+#define RTX_DELTA_TWO_STEPS 16U    // where nothing else helps: release it now, bring it back with the next delta
+#define RTX_DELTA_SYNC 32U         // send reconfigurationWithSync also when it is what prev carried
+#define RTX_DELTA_SWITCH 64U       // and the SpCell's firstActiveDownlinkBWP-Id and firstActiveUplinkBWP-Id
+
+typedef struct RtxDeltaOptions
+{
+    unsigned flags;
+    void* arg; // is handed to the sink
+} RtxDeltaOptions;
+
+// What rtxDiff returns besides an RtxStatus.
+#define RTX_DELTA_TO_SEND 0
+#define RTX_DELTA_NOTHING 1 // nothing to send; the delta is cleared
+#define RTX_DELTA_MORE 2    // send the delta, then what rtxDiff makes of the state after it and the same next
+
+// What a UE that held nothing holds after a complete message: no release lists, no actions (Need N), lists ordered by
+// identity. The one-shot members reconfigurationWithSync, firstActiveDownlinkBWP-Id and firstActiveUplinkBWP-Id stay,
+// as a record of what was sent last.
+int rtxState(OSCTXT* pctxt, const RtxType* type, const void* value, void* state);
+
+// What a UE that held prev (null: nothing) holds after the delta. Refuses a list that would become longer than its
+// type allows, a new entry that lacks what its creation needs, another cellGroupId: RTX_E_SIZE, RTX_E_DELTA. The sink,
+// which may be null, is told of releases of what is not held and of the refusal.
+int rtxApply(OSCTXT* pctxt, const RtxType* type, const void* prev, const void* delta, void* next, RtxDeltaSink sink,
+             void* arg);
+
+// The smallest delta that takes a UE from prev (null: nothing) to next: rtxApply(prev, delta) is rtxState(next), in
+// which the one-shot members that next does not carry stay as prev carried them. Actions in next are sent, and are not
+// compared with prev's; equal trees need nothing, whatever they carry. `options` and `sink` may be null. The sink gets
+// the items of the delta, or the one that is refused. Returns one of the values above; RTX_E_DELTA with the path in the
+// context's error where no delta does it, or another RtxStatus.
+int rtxDiff(OSCTXT* pctxt, const RtxType* type, const void* prev, const void* next, const RtxDeltaOptions* options,
+            void* delta, RtxDeltaSink sink);
+
+// Whether the delta (null: nothing was sent) does what rtxDiff promises: returns 1 when it does, 0 when not; or an
+// RtxStatus.
+int rtxDeltaHolds(OSCTXT* pctxt, const RtxType* type, const void* prev, const void* delta, const void* next);
 
 // Where printed lines go: called with each piece of text in order, terminated.
 typedef void (*RtxPrintSink)(void* arg, const char* text);

@@ -109,21 +109,6 @@ private:
         }
         switch (type.kind)
         {
-        case Kind::Null:
-            break;
-        case Kind::Boolean:
-            value(type, a, b, (load<OSBOOL>(a) != 0) == (load<OSBOOL>(b) != 0), place);
-            break;
-        case Kind::Integer:
-        case Kind::Enumerated:
-            value(type, a, b, loadNumber(type, a) == loadNumber(type, b), place);
-            break;
-        case Kind::BitStr32:
-            value(type, a, b, sameBits(load<ASN1BitStr32>(a), load<ASN1BitStr32>(b)), place);
-            break;
-        case Kind::BitOctets:
-            value(type, a, b, sameBits(a, b, static_cast<uint32_t>(type.upper)), place);
-            break;
         case Kind::Sequence:
             sequence(type, a, b, place);
             break;
@@ -134,29 +119,13 @@ private:
         case Kind::List:
             list(type, a, b, place);
             break;
+        default:
+            if (!sameValue(type, a, b))
+            {
+                report(place, RTX_D_VALUE, &type, a, b);
+            }
+            break;
         }
-    }
-
-    void value(const Type& type, const void* a, const void* b, bool same, const Place& place)
-    {
-        if (!same)
-        {
-            report(place, RTX_D_VALUE, &type, a, b);
-        }
-    }
-
-    static bool sameBits(const void* a, const void* b, uint32_t count)
-    {
-        const auto* const x = static_cast<const OSOCTET*>(a);
-        const auto* const y = static_cast<const OSOCTET*>(b);
-        const uint32_t whole = count / 8;
-        return std::memcmp(x, y, whole) == 0 &&
-               (count % 8 == 0 || ((x[whole] ^ y[whole]) & 0xFF00U >> count % 8 & 0xFF) == 0);
-    }
-
-    static bool sameBits(const ASN1BitStr32& a, const ASN1BitStr32& b)
-    {
-        return a.numbits == b.numbits && sameBits(a.data, b.data, bitCount(a));
     }
 
     void sequence(const Type& type, const void* a, const void* b, const Place& place)
@@ -186,11 +155,6 @@ private:
             const void* const inB = b != nullptr && isPresent(member, b) ? at(b, member) : nullptr;
             both(*member.type, inA, inB, memberAt(place, type.names[i]));
         }
-    }
-
-    static const void* at(const void* structure, const Member& member)
-    {
-        return static_cast<const OSOCTET*>(structure) + member.offset;
     }
 
     // What may be absent, null then, in either.
@@ -379,11 +343,6 @@ private:
         }
     }
 
-    static uint32_t elementCount(const Type& type, const void* list)
-    {
-        return type.kind == Kind::Array ? countOf(type, list) : load<OSRTDList>(list).count;
-    }
-
     static bool collect(const OSCTXT& ctxt, const Type& type, const void* list, Element* elements, uint32_t number)
     {
         const OSRTDListNode* node = type.kind == Kind::Array ? nullptr : load<OSRTDList>(list).head;
@@ -400,26 +359,10 @@ private:
         return true;
     }
 
-    static int64_t identityOf(const Type& type, const void* element, uint32_t index)
-    {
-        if (type.identity == noIdentity)
-        {
-            return index;
-        }
-        if (type.identity == ownIdentity)
-        {
-            return loadNumber(type.element(), element);
-        }
-        const Member& member = type.element().members[type.identity];
-        return loadNumber(*member.type, at(element, member));
-    }
-
     void elements(const Type& type, const Element* a, uint32_t numberA, const Element* b, uint32_t numberB,
                   const Place& place)
     {
-        const char* const identity = type.identity == noIdentity    ? nullptr
-                                     : type.identity == ownIdentity ? type.element().name
-                                                                    : type.element().names[type.identity];
+        const char* const identity = identityName(type);
         for (uint32_t i = 0; i < numberA && !ended_; ++i)
         {
             const void* const other = a[i].match == RTX_NO_INDEX ? nullptr : b[a[i].match].data;

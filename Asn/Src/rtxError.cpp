@@ -100,6 +100,9 @@ void appendReason(Line& line, const rtx::Reason& reason)
     case RTX_E_DEPTH:
         append(line, "the element tree is deeper than %d", RTX_MAX_DEPTH);
         break;
+    case RTX_E_DELTA:
+        append(line, "no delta brings this: %s", rtx::deltaReasonText(static_cast<OSINT32>(value)));
+        break;
     default:
         append(line, "error %" PRId32, reason.status);
         break;
@@ -107,6 +110,61 @@ void appendReason(Line& line, const rtx::Reason& reason)
 }
 
 } // namespace
+
+const char* rtx::deltaReasonText(OSINT32 reason)
+{
+    switch (reason)
+    {
+    case RTX_DELTA_CHANGED:
+        return "changed";
+    case RTX_DELTA_ADDED:
+        return "added";
+    case RTX_DELTA_GONE:
+        return "gone";
+    case RTX_DELTA_STAYS:
+        return "beside a changed sibling";
+    case RTX_DELTA_MANDATORY:
+        return "mandatory beside a changed sibling";
+    case RTX_DELTA_ACTION:
+        return "done once, not stored";
+    case RTX_DELTA_WITH_SYNC:
+        return "asked for with reconfigurationWithSync";
+    case RTX_DELTA_FORCED:
+        return "an option asks for it";
+    case RTX_DELTA_RECREATED:
+        return "released and added again";
+    case RTX_DELTA_FIRST:
+        return "taken away first, brought back by the next delta";
+    case RTX_DELTA_NOT_HELD:
+        return "released and not held, no effect";
+    case RTX_DELTA_ACTIVE:
+        return "only while no assignment or grant of it is active, or with reconfigurationWithSync";
+    case RTX_DELTA_KEPT:
+        return "its absence would keep it";
+    case RTX_DELTA_AT_CREATION:
+        return "it is sent only when its entry is created";
+    case RTX_DELTA_INCOMPLETE:
+        return "the creation of its entry asks for it, and it is absent";
+    case RTX_DELTA_FIXED_KIND:
+        return "whether it is there is settled when its entry is created";
+    case RTX_DELTA_MODE:
+        return "its alternative is settled when its entry is created";
+    case RTX_DELTA_REESTABLISH:
+        return "it changes with reestablishRLC only, for a DRB with reconfigurationWithSync as well";
+    case RTX_DELTA_USAGE:
+        return "from codebook to nonCodebook and back is not supported";
+    case RTX_DELTA_PUCCH:
+        return "PUCCH comes and goes with its bandwidth part or cell, or with reconfigurationWithSync";
+    case RTX_DELTA_PUCCH_CELL:
+        return "an SCell has PUCCH or not as long as it is there";
+    case RTX_DELTA_SCG:
+        return "it is never released in a secondary cell group";
+    case RTX_DELTA_OTHER_IDENTITY:
+        return "another cell group";
+    default:
+        return "?";
+    }
+}
 
 int rtx::setError(OSCTXT& ctxt, RtxStatus status, int64_t value, int64_t lower, int64_t upper)
 {

@@ -90,7 +90,7 @@ public:
     explicit HeapMark(OSCTXT& ctxt) : ctxt_(ctxt), block_(ctxt.heap.blocks), next_(ctxt.heap.next) {}
     ~HeapMark()
     {
-        if (ctxt_.heap.blocks == block_)
+        if (!kept_ && ctxt_.heap.blocks == block_)
         {
             std::memset(next_, 0, static_cast<size_t>(ctxt_.heap.next - next_)); // is handed out cleared again
             ctxt_.heap.next = next_;
@@ -99,10 +99,17 @@ public:
     HeapMark(const HeapMark&) = delete;
     HeapMark& operator=(const HeapMark&) = delete;
 
+    // Nothing is given back after all.
+    void keep()
+    {
+        kept_ = true;
+    }
+
 private:
     OSCTXT& ctxt_;
     const RtxHeapBlock* block_;
     OSOCTET* next_;
+    bool kept_ = false;
 };
 
 // Whether all `size` octets at `p` were handed out by the context's heap.

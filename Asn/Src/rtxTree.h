@@ -111,6 +111,72 @@ inline uint32_t countOf(const Type& type, const void* array)
     return static_cast<uint32_t>(type.lower == type.upper ? type.upper : loadInteger(array, type.width, false));
 }
 
+inline uint32_t elementCount(const Type& type, const void* list)
+{
+    return type.kind == Kind::Array ? countOf(type, list) : load<OSRTDList>(list).count;
+}
+
+inline const void* at(const void* structure, const Member& member)
+{
+    return static_cast<const OSOCTET*>(structure) + member.offset;
+}
+
+// What an element of a list or an array is matched by.
+inline int64_t identityOf(const Type& type, const void* element, uint32_t index)
+{
+    if (type.identity == noIdentity)
+    {
+        return index;
+    }
+    if (type.identity == ownIdentity)
+    {
+        return loadNumber(type.element(), element);
+    }
+    const Member& member = type.element().members[type.identity];
+    return loadNumber(*member.type, at(element, member));
+}
+
+// The ASN.1 name of that, null where it is the index.
+inline const char* identityName(const Type& type)
+{
+    return type.identity == noIdentity    ? nullptr
+           : type.identity == ownIdentity ? type.element().name
+                                          : type.element().names[type.identity];
+}
+
+inline bool sameBits(const void* a, const void* b, uint32_t count)
+{
+    const auto* const x = static_cast<const OSOCTET*>(a);
+    const auto* const y = static_cast<const OSOCTET*>(b);
+    const uint32_t whole = count / 8;
+    return std::memcmp(x, y, whole) == 0 &&
+           (count % 8 == 0 || ((x[whole] ^ y[whole]) & 0xFF00U >> count % 8 & 0xFF) == 0);
+}
+
+inline bool sameBits(const ASN1BitStr32& a, const ASN1BitStr32& b)
+{
+    return a.numbits == b.numbits && sameBits(a.data, b.data, bitCount(a));
+}
+
+// Whether two values of a type without members or elements are sent alike.
+inline bool sameValue(const Type& type, const void* a, const void* b)
+{
+    switch (type.kind)
+    {
+    case Kind::Boolean:
+        return (load<OSBOOL>(a) != 0) == (load<OSBOOL>(b) != 0);
+    case Kind::Integer:
+    case Kind::Enumerated:
+        return loadNumber(type, a) == loadNumber(type, b);
+    case Kind::BitStr32:
+        return sameBits(load<ASN1BitStr32>(a), load<ASN1BitStr32>(b));
+    case Kind::BitOctets:
+        return sameBits(a, b, static_cast<uint32_t>(type.upper));
+    default:
+        return true; // NULL
+    }
+}
+
 // Why a pointer to `size` octets is not followed: RTX_E_NULL, RTX_E_FOREIGN; RTX_OK when it is. Without a context none
 // is.
 inline RtxStatus refuse(const OSCTXT* ctxt, const void* p, size_t size, size_t alignment)

@@ -210,6 +210,9 @@ struct Reason
 // Writes a reason as text to text[0..size-1], always terminated. Returns the length of the whole text.
 size_t formatReason(const Reason& reason, char* text, size_t size);
 
+// The words of an RtxDeltaReason.
+const char* deltaReasonText(OSINT32 reason);
+
 // Records the first error of a context; the path is empty then.
 int setError(OSCTXT& ctxt, RtxStatus status, int64_t value = 0, int64_t lower = 0, int64_t upper = 0);
 
