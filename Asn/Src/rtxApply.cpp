@@ -85,7 +85,7 @@ private:
         {
             before = nullptr;
         }
-        if (need.change == Change::Sync && now != nullptr && (!complete_ || sync_))
+        if (now != nullptr && isCommon(need, inner))
         {
             sulReleased_ = releasesSul(inner, now);
         }
@@ -100,6 +100,14 @@ private:
         {
             content(inner, before, now, setSent(type, i, addition, result), place);
         }
+    }
+
+    // Whether a member brings the common configuration of the cell whose dedicated one follows.
+    bool isCommon(const Need& need, const Type& type) const
+    {
+        const bool sync = need.change == Change::Sync;
+        return complete_ ? sync && sync_
+                         : sync || (need.change == Change::Creation && memberWith(type, Change::Sul) != noMember);
     }
 
     // Whether what is absent stays as it is held. A member that is mandatory in an extension group has no code.

@@ -139,7 +139,9 @@ ListElements sortedElements(OSCTXT& ctxt, const Type& type, const void* list)
         bool inOrder = true;
         for (ElementCursor at(type, list); !at.atEnd(); at.next(), ++i)
         {
-            elements[i] = {identityOf(type, at.data(), i), at.data(), i};
+            // What a list without identities holds are identities themselves.
+            const bool bare = type.identity == noIdentity;
+            elements[i] = {bare ? loadNumber(type.element(), at.data()) : identityOf(type, at.data(), i), at.data(), i};
             inOrder = inOrder && (i == 0 || elements[i - 1].id <= elements[i].id);
         }
         if (!inOrder)
@@ -311,16 +313,16 @@ SyncMember syncOf(const Type& type, const void* value)
     return found;
 }
 
-bool releasesSul(const Type& sync, const void* value)
+bool releasesSul(const Type& type, const void* value)
 {
-    const unsigned common = memberNamed(sync, "spCellConfigCommon");
-    const void* const cell = rootMember(sync, common, value);
-    if (cell == nullptr)
+    const unsigned sul = memberWith(type, Change::Sul);
+    if (sul != noMember)
     {
-        return false;
+        return rootMember(type, sul, value) == nullptr;
     }
-    const Type& type = *sync.members[common].type;
-    return rootMember(type, memberWith(type, Change::Sul), cell) == nullptr;
+    const unsigned common = memberNamed(type, "spCellConfigCommon");
+    const void* const cell = rootMember(type, common, value);
+    return cell != nullptr && releasesSul(*type.members[common].type, cell);
 }
 
 int checkIdentity(OSCTXT& ctxt, const Type& type, const void* held, const void* value, RtxDeltaSink sink, void* arg)

@@ -293,9 +293,9 @@ struct SyncMember
 };
 SyncMember syncOf(const Type& type, const void* value);
 
-// Whether a reconfigurationWithSync carries a ServingCellConfigCommon without supplementary uplink: the dedicated
-// configuration of one is released then, too.
-bool releasesSul(const Type& sync, const void* value);
+// Whether a ServingCellConfigCommon, or that of a reconfigurationWithSync, is without supplementary uplink: the
+// dedicated configuration of one is released then, too.
+bool releasesSul(const Type& type, const void* value);
 
 // The first error of a tree that keeps the encoder from sending it, as the context's error: its status.
 int checkTree(OSCTXT& ctxt, const Type& type, const void* value);
