@@ -61,6 +61,17 @@ std::string pduPrototypes(const Pdus& pdus)
              "OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name + "* pa, const " + name +
                  "* pb, RtxDifferenceSink sink, void* arg",
              "pctxtA, pctxtB, " + table + "pa, pb, sink, arg");
+        call("int", "Equal", "const OSCTXT* pctxt, const " + name + "* pa, const " + name + "* pb",
+             "pctxt, " + table + "pa, pb");
+        call("int", "State", "OSCTXT* pctxt, " + value + name + "* pstate", "pctxt, " + table + "pvalue, pstate");
+        call("int", "Apply",
+             "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pdelta, " + name +
+                 "* pnext, RtxDeltaSink sink, void* arg",
+             "pctxt, " + table + "pprev, pdelta, pnext, sink, arg");
+        call("int", "Diff",
+             "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pnext, const RtxDeltaOptions* options, " +
+                 name + "* pdelta, RtxDeltaSink sink",
+             "pctxt, " + table + "pprev, pnext, options, pdelta, sink");
     }
     return out;
 }

@@ -451,6 +451,21 @@ TEST(Options, APduHasAnEncoderADecoderAndAPrinter)
     EXPECT_THAT(header, Not(HasSubstr("asn1PE_C"))) << "has no value";
 }
 
+// What they call is linked with the programs that call them alone.
+TEST(Options, TheTypedCallsOfTheRuntimeAreInline)
+{
+    const std::string body = "A-b ::= SEQUENCE { x BOOLEAN }\n";
+    const std::string header = headerOf(body);
+    const std::string encoder = fileOf(body, "NR-RRC-Encoder.cpp");
+    for (const char* const verb :
+         {"ToJson", "ToValueNotation", "ToFlat", "Trace", "Check", "Compare", "Equal", "State", "Apply", "Diff"})
+    {
+        EXPECT_THAT(header, testing::ContainsRegex("static inline int[0-9_a-z]* asn1" + std::string(verb) +
+                                                   "_A_b\\([^{]*\\) \\{ return rtx" + verb + "\\("));
+        EXPECT_THAT(encoder, Not(HasSubstr(std::string("rtx") + verb)));
+    }
+}
+
 TEST(Options, WhatIsNotUsualIsUnlikely)
 {
     const std::string schema = R"(M DEFINITIONS AUTOMATIC TAGS ::= BEGIN
