@@ -561,22 +561,12 @@ std::string emitEncoder(const Model& model, const Origin& origin, const Pdus& pd
                ");\n}\n";
         out += "\nint asn1PD_" + name + "(OSCTXT* pctxt, " + name + "* pvalue)\n{\n    return rtxDecode(pctxt, &" +
                table + ", pvalue, 0);\n}\n";
-        out += "\nint asn1Trace_" + name + "(OSCTXT* pctxt, " + name +
-               "* pvalue, RtxFieldSink sink, void* arg)\n{\n    return rtxTrace(pctxt, &" + table +
-               ", pvalue, 0, sink, arg);\n}\n";
         out += "\nvoid asn1Print_" + name + "(const char* name, const " + name + "* pvalue)\n{\n    rtx::print(" +
                table + ", name, pvalue);\n}\n";
         out += "\nvoid asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +
                "* pvalue, RtxPrintSink sink, void* arg)\n{\n    rtx::print(pctxt, " + table +
                ", name, pvalue, sink, arg);\n}\n";
         out += "\nconst RtxType* asn1Type_" + name + "(void)\n{\n    return &" + table + ";\n}\n";
-        out += "\nint64_t asn1Check_" + name + "(const OSCTXT* pctxt, const " + name +
-               "* pvalue, RtxFindingSink sink, void* arg)\n{\n    return rtxCheck(pctxt, &" + table +
-               ", pvalue, sink, arg);\n}\n";
-        out += "\nint64_t asn1Compare_" + name + "(OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name +
-               "* pa, const " + name +
-               "* pb, RtxDifferenceSink sink, void* arg)\n{\n    return rtxCompare(pctxtA, pctxtB, &" + table +
-               ", pa, pb, sink, arg);\n}\n";
     }
     return out + pduTable(pdus);
 }

@@ -21,37 +21,57 @@ std::string guard(const std::string& header)
     return result;
 }
 
-// A typed call of the runtime's writer. Inline, so that a program that does not call it does not hold the writer.
-static std::string writer(const std::string& form, const std::string& type, bool hasLayout)
-{
-    return "static inline int asn1To" + form + "_" + type + "(const OSCTXT* pctxt, const " + type + "* pvalue, " +
-           (hasLayout ? "RtxLayout layout, " : "") + "RtxPrintSink sink, void* arg) { return rtxTo" + form +
-           "(pctxt, asn1Type_" + type + "(), pvalue, " + (hasLayout ? "layout, " : "") + "sink, arg); }\n";
-}
-
 std::string pduPrototypes(const Pdus& pdus)
 {
     std::string out;
     for (const Type* type : pdus.types)
     {
         const std::string& name = type->cName;
+        const std::string value = "const " + name + "* pvalue, ";
+        const std::string table = "asn1Type_" + name + "(), ";
+        // A typed call of the runtime. Inline, so that a program that does not call it does not hold what it calls.
+        const auto call = [&](const std::string& result, const std::string& verb, const std::string& parameters,
+                              const std::string& arguments)
+        {
+            out += "static inline " + result + " asn1" + verb + "_" + name + "(" + parameters + ") { return rtx" +
+                   verb + "(" + arguments + "); }\n";
+        };
+        const auto writer = [&](const std::string& verb, const std::string& parameter, const std::string& argument)
+        {
+            call("int", verb, "const OSCTXT* pctxt, " + value + parameter + "RtxPrintSink sink, void* arg",
+                 "pctxt, " + table + "pvalue, " + argument + "sink, arg");
+        };
         out += "\n// " + type->asnName + ": encode into and decode from the bound buffer, print. 0 or an RtxStatus.\n";
         out += "int asn1PE_" + name + "(OSCTXT* pctxt, const " + name + "* pvalue);\n";
         out += "int asn1PD_" + name + "(OSCTXT* pctxt, " + name + "* pvalue);\n";
-        out += "// Decodes and gives every field on the wire to the sink.\n";
-        out += "int asn1Trace_" + name + "(OSCTXT* pctxt, " + name + "* pvalue, RtxFieldSink sink, void* arg);\n";
         out += "void asn1Print_" + name + "(const char* name, const " + name + "* pvalue);\n";
         out += "// Prints to a sink, following the pointers of *pctxt's heap only.\n";
-        out += "void asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, const " + name +
-               "* pvalue, RtxPrintSink sink, void* arg);\n";
-        out += "// The type for the calls that take any, and the writers of trees with this one.\n";
+        out += "void asn1PrintTo_" + name + "(const OSCTXT* pctxt, const char* name, " + value +
+               "RtxPrintSink sink, void* arg);\n";
+        out += "// The type for the calls that take any, and those calls with this one.\n";
         out += "const RtxType* asn1Type_" + name + "(void);\n";
-        out += writer("Json", name, true) + writer("ValueNotation", name, true) + writer("Flat", name, false);
-        out += "// rtxCheck, rtxCompare.\n";
-        out += "int64_t asn1Check_" + name + "(const OSCTXT* pctxt, const " + name +
-               "* pvalue, RtxFindingSink sink, void* arg);\n";
-        out += "int64_t asn1Compare_" + name + "(OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name + "* pa, const " +
-               name + "* pb, RtxDifferenceSink sink, void* arg);\n";
+        writer("ToJson", "RtxLayout layout, ", "layout, ");
+        writer("ToValueNotation", "RtxLayout layout, ", "layout, ");
+        writer("ToFlat", "", "");
+        call("int", "Trace", "OSCTXT* pctxt, " + name + "* pvalue, RtxFieldSink sink, void* arg",
+             "pctxt, " + table + "pvalue, 0, sink, arg");
+        call("int64_t", "Check", "const OSCTXT* pctxt, " + value + "RtxFindingSink sink, void* arg",
+             "pctxt, " + table + "pvalue, sink, arg");
+        call("int64_t", "Compare",
+             "OSCTXT* pctxtA, const OSCTXT* pctxtB, const " + name + "* pa, const " + name +
+                 "* pb, RtxDifferenceSink sink, void* arg",
+             "pctxtA, pctxtB, " + table + "pa, pb, sink, arg");
+        call("int", "Equal", "const OSCTXT* pctxt, const " + name + "* pa, const " + name + "* pb",
+             "pctxt, " + table + "pa, pb");
+        call("int", "State", "OSCTXT* pctxt, " + value + name + "* pstate", "pctxt, " + table + "pvalue, pstate");
+        call("int", "Apply",
+             "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pdelta, " + name +
+                 "* pnext, RtxDeltaSink sink, void* arg",
+             "pctxt, " + table + "pprev, pdelta, pnext, sink, arg");
+        call("int", "Diff",
+             "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pnext, const RtxDeltaOptions* options, " +
+                 name + "* pdelta, RtxDeltaSink sink",
+             "pctxt, " + table + "pprev, pnext, options, pdelta, sink");
     }
     return out;
 }

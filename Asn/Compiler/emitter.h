@@ -31,7 +31,7 @@ std::string emitTablesHeader(const Model& model, const Origin& origin);
 
 // The comment that marks a generated file.
 std::string generatedMark(const Origin& origin);
-// Prototypes of asn1PE_, asn1PD_ and asn1Print_ of each type.
+// What a header declares of each type: asn1PE_, asn1PD_, asn1Print_ and the typed calls of the runtime.
 std::string pduPrototypes(const Pdus& pdus);
 // The name of a header's include guard.
 std::string guard(const std::string& header);

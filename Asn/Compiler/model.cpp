@@ -123,6 +123,11 @@ constexpr std::array runtimeNames = std::to_array<std::string_view>({"ASN1BitStr
                                                                      "OSUINT32",
                                                                      "OSUINT8",
                                                                      "RtxDecoded",
+                                                                     "RtxDeltaItem",
+                                                                     "RtxDeltaKind",
+                                                                     "RtxDeltaOptions",
+                                                                     "RtxDeltaReason",
+                                                                     "RtxDeltaSink",
                                                                      "RtxDifference",
                                                                      "RtxDifferenceKind",
                                                                      "RtxDifferenceSink",
@@ -162,96 +167,69 @@ constexpr std::string_view fixedCode = "fixed";
 constexpr std::array codes =
     std::to_array<Code>({{"M", "Keep"}, {"R", "Clear"}, {"S", "Default"}, {"N", "Action"}, {fixedCode, "Fixed"}});
 
-// What binds a change of a member, and what kind of a member it can bind.
-enum class Bindable
+// Members whose change a word can bind.
+struct Holder
 {
-    Any,
-    Sequence,
-    Choice,
-    SetupRelease,
-    Action,     // one of code N
-    Kept,       // one of code M
-    Integer,    // mandatory
-    Enumeration // mandatory
+    std::string_view text;
+    bool optional;
+    bool (*fits)(const Member& member);
 };
+
+template <Kind kind>
+bool isOf(const Member& member)
+{
+    return member.type->kind == kind;
+}
+
+constexpr Holder any = {"an OPTIONAL member", true,
+                        [](const Member&)
+                        {
+                            return true;
+                        }};
+constexpr Holder sequence = {"an OPTIONAL SEQUENCE", true, isOf<Kind::Sequence>};
+constexpr Holder choice = {"an OPTIONAL CHOICE", true, isOf<Kind::Choice>};
+constexpr Holder setupRelease = {"an OPTIONAL CHOICE of 'release' and 'setup'", true,
+                                 [](const Member& member)
+                                 {
+                                     return member.type->setupRelease();
+                                 }};
+constexpr Holder action = {"an OPTIONAL member of code N", true,
+                           [](const Member& member)
+                           {
+                               return member.need.absence == "Action";
+                           }};
+constexpr Holder kept = {"an OPTIONAL member of code M", true,
+                         [](const Member& member)
+                         {
+                             return member.need.absence == "Keep";
+                         }};
+constexpr Holder integer = {"a mandatory INTEGER", false, isOf<Kind::Integer>};
+constexpr Holder enumeration = {"a mandatory ENUMERATED", false, isOf<Kind::Enumerated>};
 
 struct Word
 {
     std::string_view word;
     std::string_view change; // enumerator of rtx::Change
-    Bindable bound;
-
-    bool ofMandatory() const
-    {
-        return bound >= Bindable::Integer;
-    }
+    const Holder& holder;
 };
-constexpr std::array words = std::to_array<Word>({{"setup", "Setup", Bindable::Any},
-                                                  {"drb-setup", "DrbSetup", Bindable::Any},
-                                                  {"mode", "Mode", Bindable::Choice},
-                                                  {"creation", "Creation", Bindable::Kept},
-                                                  {"creation-optional", "CreationOptional", Bindable::Kept},
-                                                  {"switch", "Switch", Bindable::Action},
-                                                  {"sync", "Sync", Bindable::Sequence},
-                                                  {"reestablish", "Reestablish", Bindable::Kept},
-                                                  {"kind", "Kind", Bindable::Kept},
-                                                  {"fixed-kind", "FixedKind", Bindable::Kept},
-                                                  {"pucch", "Pucch", Bindable::SetupRelease},
-                                                  {"scell", "SCell", Bindable::Sequence},
-                                                  {"inactive", "Inactive", Bindable::SetupRelease},
-                                                  {"inactive-type2", "InactiveType2", Bindable::SetupRelease},
-                                                  {"sul", "Sul", Bindable::Sequence},
-                                                  {"mcg-release", "McgRelease", Bindable::SetupRelease},
-                                                  {"usage", "Usage", Bindable::Enumeration},
-                                                  {"identity", "Identity", Bindable::Integer}});
-
-bool fits(Bindable bound, const Member& member)
-{
-    switch (bound)
-    {
-    case Bindable::Sequence:
-        return member.type->kind == Kind::Sequence;
-    case Bindable::Choice:
-        return member.type->kind == Kind::Choice;
-    case Bindable::SetupRelease:
-        return member.type->setupRelease();
-    case Bindable::Action:
-        return member.need.absence == "Action";
-    case Bindable::Kept:
-        return member.need.absence == "Keep";
-    case Bindable::Integer:
-        return member.type->kind == Kind::Integer;
-    case Bindable::Enumeration:
-        return member.type->kind == Kind::Enumerated;
-    case Bindable::Any:
-        return true;
-    }
-    return false;
-}
-
-const char* textOf(Bindable bound)
-{
-    switch (bound)
-    {
-    case Bindable::Sequence:
-        return "a SEQUENCE";
-    case Bindable::Choice:
-        return "a CHOICE";
-    case Bindable::SetupRelease:
-        return "a CHOICE of 'release' and 'setup'";
-    case Bindable::Action:
-        return "of code N";
-    case Bindable::Kept:
-        return "of code M";
-    case Bindable::Integer:
-        return "an INTEGER";
-    case Bindable::Enumeration:
-        return "an ENUMERATED";
-    case Bindable::Any:
-        return "any";
-    }
-    return "";
-}
+constexpr std::array words = std::to_array<Word>({{"setup", "Setup", any},
+                                                  {"drb-setup", "DrbSetup", any},
+                                                  {"mode", "Mode", choice},
+                                                  {"creation", "Creation", kept},
+                                                  {"creation-optional", "CreationOptional", kept},
+                                                  {"switch", "Switch", action},
+                                                  {"sync", "Sync", sequence},
+                                                  {"reestablish", "Reestablish", kept},
+                                                  {"kind", "Kind", kept},
+                                                  {"fixed-kind", "FixedKind", kept},
+                                                  {"usage", "Usage", enumeration},
+                                                  {"pucch", "Pucch", setupRelease},
+                                                  {"scell", "SCell", sequence},
+                                                  {"inactive", "Inactive", setupRelease},
+                                                  {"inactive-type2", "InactiveType2", setupRelease},
+                                                  {"sul", "Sul", sequence},
+                                                  {"mcg-release", "McgRelease", setupRelease},
+                                                  {"identity", "Identity", integer}});
 
 // Whether a list's name ends so; the schema writes both "ToReleaseList" and "ToreleaseList".
 bool endsIn(std::string_view name, std::string_view end)
@@ -547,6 +525,7 @@ private:
     {
         Member result;
         result.asnName = source.name;
+        result.at = source.at;
         result.cName = cIdentifier(source.name);
         if (!names.insert(result.cName).second)
         {
@@ -637,13 +616,9 @@ private:
         {
             refuse("unknown word '" + source.name + "': " + listOf(words, &Word::word));
         }
-        else if (word->ofMandatory() == member.optional)
+        else if (word->holder.optional != member.optional || !word->holder.fits(member))
         {
-            refuse("'" + source.name + "' binds " + (member.optional ? "mandatory" : "optional") + " members only");
-        }
-        else if (!fits(word->bound, member))
-        {
-            refuse("'" + source.name + "' binds only what is " + textOf(word->bound));
+            refuse("'" + source.name + "' binds " + std::string(word->holder.text));
         }
         else
         {
@@ -707,14 +682,9 @@ private:
     {
         for (const ast::Member& m : members)
         {
-            Member* const list = find(owner, m.name);
-            if (list == nullptr)
-            {
-                continue; // reported
-            }
             if (!m.identity.release.name.empty())
             {
-                pair(owner, *list, m.identity.release);
+                pair(owner, m.name, m.identity.release);
             }
             else if (endsIn(m.name, "ToAddModList") || endsIn(m.name, "ToAddList"))
             {
@@ -725,58 +695,56 @@ private:
         }
     }
 
-    void pair(Type& owner, Member& list, const ast::Name& source)
+    void pair(Type& owner, const std::string& name, const ast::Name& source)
     {
-        if (list.type->identity == noIdentity)
+        Member* const list = find(owner, name);
+        if (list == nullptr || list->type->identity == noIdentity)
         {
             return; // reported
         }
         const Type* const wanted =
-            list.type->identity == ownIdentity
-                ? list.type->element
-                : list.type->element->members[static_cast<std::size_t>(list.type->identity)].type;
+            list->type->identity == ownIdentity
+                ? list->type->element
+                : list->type->element->members[static_cast<std::size_t>(list->type->identity)].type;
         Member* const release = find(owner, source.name);
         if (release == nullptr)
         {
-            diagnostics_.error(source.at, "there is no member '" + source.name + "' beside '" + list.asnName + "'");
+            diagnostics_.error(source.at, "there is no member '" + source.name + "' beside '" + name + "'");
         }
         else if (release->type->element != wanted)
         {
             diagnostics_.error(source.at, "'" + source.name + "' is not a list of '" + wanted->asnName +
-                                              "', which identifies the elements of '" + list.asnName + "'");
+                                              "', which identifies the elements of '" + name + "'");
         }
-        else if (release == &list || !release->need.list.empty())
+        else if (release == list || !list->need.list.empty() || !release->need.list.empty())
         {
-            diagnostics_.error(source.at,
-                               "'" + source.name + "' does not release the elements of '" + list.asnName + "' alone");
+            diagnostics_.error(source.at, "'" + source.name + "' and '" + name +
+                                              "' are no pair: one that only releases and one that only adds");
         }
         else
         {
-            list.need.list = "AddMod";
-            list.need.partner = static_cast<int>(release - owner.members.data());
+            list->need.list = "AddMod";
+            list->need.partner = static_cast<int>(release - owner.members.data());
             release->need.list = "Release";
-            release->need.partner = static_cast<int>(&list - owner.members.data());
+            release->need.partner = static_cast<int>(list - owner.members.data());
         }
     }
 
-    // What is added and released one by one is not there to be kept or cleared; each releasing list has its partner.
-    void checkLists(const Type& owner, const std::vector<ast::Member>& members)
+    // What is added and released one by one is an action; each list that releases has its partner.
+    void checkLists(const Type& owner)
     {
-        for (const ast::Member& m : members)
+        for (const Member& m : owner.members)
         {
-            const Member* const list = find(owner, m.name);
-            if (list == nullptr)
+            if (!m.need.list.empty() && m.need.absence != "Action")
             {
-                continue; // reported
+                diagnostics_.error(m.at, "the elements of '" + m.asnName +
+                                             "' are added or released one by one: it is OPTIONAL, of code N");
             }
-            if (!list->need.list.empty() && !list->need.absence.empty() && list->need.absence != "Action")
+            if (m.need.list.empty() && endsIn(m.asnName, "ToReleaseList"))
             {
-                diagnostics_.error(m.need.code.at,
-                                   "the elements of '" + m.name + "' are added or released one by one: its code is N");
-            }
-            if (list->need.list.empty() && endsIn(m.name, "ToReleaseList"))
-            {
-                diagnostics_.error(m.at, "no list says that '" + m.name + "' releases its elements");
+                diagnostics_.error(m.at, "no list has elements that '" + m.asnName +
+                                             "' releases: -- Identity <member>, released by " + m.asnName +
+                                             " is missing behind it");
             }
         }
     }
@@ -835,16 +803,12 @@ private:
             addition.count = type.members.size() - addition.first;
             type.additions.push_back(addition);
         }
-        const auto eachMembers = [&](const auto& visit)
+        pair(type, source.members);
+        for (const ast::Addition& a : source.additions)
         {
-            visit(source.members);
-            for (const ast::Addition& a : source.additions)
-            {
-                visit(a.members);
-            }
-        };
-        eachMembers([&](const std::vector<ast::Member>& members) { pair(type, members); });
-        eachMembers([&](const std::vector<ast::Member>& members) { checkLists(type, members); });
+            pair(type, a.members);
+        }
+        checkLists(type);
         if (source.members.empty() && !source.extensible)
         {
             diagnostics_.error(source.at, "a SEQUENCE without members is not supported");

@@ -45,6 +45,7 @@ struct Member
 {
     std::string asnName;
     std::string cName;
+    Location at;
     Type* type = nullptr;
     bool optional = false;
     bool pointer = false; // alternative of a choice held by pointer

@@ -513,6 +513,10 @@ private:
             step();
             annotation(*member);
             expect("--");
+            if (!result && at(","))
+            {
+                refuse(current().at, "the comma stands before the annotation");
+            }
         }
         return result;
     }

@@ -8760,19 +8760,21 @@ static inline void asn1Init_CellGroupConfig(CellGroupConfig* pvalue) { if (pvalu
 // CellGroupConfig: encode into and decode from the bound buffer, print. 0 or an RtxStatus.
 int asn1PE_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue);
 int asn1PD_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue);
-// Decodes and gives every field on the wire to the sink.
-int asn1Trace_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue, RtxFieldSink sink, void* arg);
 void asn1Print_CellGroupConfig(const char* name, const CellGroupConfig* pvalue);
 // Prints to a sink, following the pointers of *pctxt's heap only.
 void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const CellGroupConfig* pvalue, RtxPrintSink sink, void* arg);
-// The type for the calls that take any, and the writers of trees with this one.
+// The type for the calls that take any, and those calls with this one.
 const RtxType* asn1Type_CellGroupConfig(void);
 static inline int asn1ToJson_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxLayout layout, RtxPrintSink sink, void* arg) { return rtxToJson(pctxt, asn1Type_CellGroupConfig(), pvalue, layout, sink, arg); }
 static inline int asn1ToValueNotation_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxLayout layout, RtxPrintSink sink, void* arg) { return rtxToValueNotation(pctxt, asn1Type_CellGroupConfig(), pvalue, layout, sink, arg); }
 static inline int asn1ToFlat_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxPrintSink sink, void* arg) { return rtxToFlat(pctxt, asn1Type_CellGroupConfig(), pvalue, sink, arg); }
-// rtxCheck, rtxCompare.
-int64_t asn1Check_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxFindingSink sink, void* arg);
-int64_t asn1Compare_CellGroupConfig(OSCTXT* pctxtA, const OSCTXT* pctxtB, const CellGroupConfig* pa, const CellGroupConfig* pb, RtxDifferenceSink sink, void* arg);
+static inline int asn1Trace_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue, RtxFieldSink sink, void* arg) { return rtxTrace(pctxt, asn1Type_CellGroupConfig(), pvalue, 0, sink, arg); }
+static inline int64_t asn1Check_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxFindingSink sink, void* arg) { return rtxCheck(pctxt, asn1Type_CellGroupConfig(), pvalue, sink, arg); }
+static inline int64_t asn1Compare_CellGroupConfig(OSCTXT* pctxtA, const OSCTXT* pctxtB, const CellGroupConfig* pa, const CellGroupConfig* pb, RtxDifferenceSink sink, void* arg) { return rtxCompare(pctxtA, pctxtB, asn1Type_CellGroupConfig(), pa, pb, sink, arg); }
+static inline int asn1Equal_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pa, const CellGroupConfig* pb) { return rtxEqual(pctxt, asn1Type_CellGroupConfig(), pa, pb); }
+static inline int asn1State_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue, CellGroupConfig* pstate) { return rtxState(pctxt, asn1Type_CellGroupConfig(), pvalue, pstate); }
+static inline int asn1Apply_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pdelta, CellGroupConfig* pnext, RtxDeltaSink sink, void* arg) { return rtxApply(pctxt, asn1Type_CellGroupConfig(), pprev, pdelta, pnext, sink, arg); }
+static inline int asn1Diff_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pnext, const RtxDeltaOptions* options, CellGroupConfig* pdelta, RtxDeltaSink sink) { return rtxDiff(pctxt, asn1Type_CellGroupConfig(), pprev, pnext, options, pdelta, sink); }
 
 #ifdef __cplusplus
 }

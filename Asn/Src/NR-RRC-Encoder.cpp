@@ -16105,11 +16105,6 @@ int asn1PD_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue)
     return rtxDecode(pctxt, &nr_rrc::type_CellGroupConfig, pvalue, 0);
 }
 
-int asn1Trace_CellGroupConfig(OSCTXT* pctxt, CellGroupConfig* pvalue, RtxFieldSink sink, void* arg)
-{
-    return rtxTrace(pctxt, &nr_rrc::type_CellGroupConfig, pvalue, 0, sink, arg);
-}
-
 void asn1Print_CellGroupConfig(const char* name, const CellGroupConfig* pvalue)
 {
     rtx::print(nr_rrc::type_CellGroupConfig, name, pvalue);
@@ -16123,14 +16118,4 @@ void asn1PrintTo_CellGroupConfig(const OSCTXT* pctxt, const char* name, const Ce
 const RtxType* asn1Type_CellGroupConfig(void)
 {
     return &nr_rrc::type_CellGroupConfig;
-}
-
-int64_t asn1Check_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pvalue, RtxFindingSink sink, void* arg)
-{
-    return rtxCheck(pctxt, &nr_rrc::type_CellGroupConfig, pvalue, sink, arg);
-}
-
-int64_t asn1Compare_CellGroupConfig(OSCTXT* pctxtA, const OSCTXT* pctxtB, const CellGroupConfig* pa, const CellGroupConfig* pb, RtxDifferenceSink sink, void* arg)
-{
-    return rtxCompare(pctxtA, pctxtB, &nr_rrc::type_CellGroupConfig, pa, pb, sink, arg);
 }

@@ -334,6 +334,66 @@ TEST(Subset, AnIdentityLeavesTypesAndEncoderAsTheyAre)
     }
 }
 
+const char* const needy =
+    "A ::= SEQUENCE {\n"
+    "    a BOOLEAN OPTIONAL, -- Need M\n"
+    "    b SEQUENCE { x BOOLEAN OPTIONAL -- Need S -- } OPTIONAL, -- Cond Here-Or-There (R, setup)\n"
+    "    c ENUMERATED { p, q }, -- Change usage\n"
+    "    d BOOLEAN,\n"
+    "    f SEQUENCE (SIZE (1..4)) OF Id OPTIONAL,\n"
+    "        -- Cond lower (N)\n"
+    "        -- Identity Id, released by h\n"
+    "    ...,\n"
+    "    [[ g BOOLEAN OPTIONAL, -- Need N, switch\n"
+    "       h SEQUENCE (SIZE (1..4)) OF Id OPTIONAL -- Need N\n"
+    "    ]],\n"
+    "    i S { Id } OPTIONAL,--Cond L139(M,mcg-release)--\n"
+    "    j BOOLEAN OPTIONAL  -- Cond Other (fixed)\n"
+    "}\n"
+    "S { T } ::= CHOICE { release NULL, setup T }\n"
+    "Id ::= INTEGER (0..7)\n";
+
+TEST(Subset, AbsenceAndChangeAreToldOfEachMember)
+{
+    const std::string tables = fileOf(needy, "NR-RRC-Tables.cpp");
+    EXPECT_THAT(tables,
+                HasSubstr("constexpr rtx::Need needs_A[] = {\n"
+                          "    {.absence = Absence::Keep},\n"
+                          "    {.absence = Absence::Clear, .change = Change::Setup, .condition = \"Here-Or-There\"},\n"
+                          "    {.change = Change::Usage},\n"
+                          "    {},\n"
+                          "    {.absence = Absence::Action, .list = ListRole::AddMod, .partner = 6, .condition = "
+                          "\"lower\"},\n"
+                          "    {.absence = Absence::Action, .change = Change::Switch},\n"
+                          "    {.absence = Absence::Action, .list = ListRole::Release, .partner = 4},\n"
+                          "    {.absence = Absence::Keep, .change = Change::McgRelease, .condition = \"L139\"},\n"
+                          "    {.absence = Absence::Fixed, .condition = \"Other\"},\n"
+                          "};\n"));
+    EXPECT_THAT(tables, HasSubstr("constexpr rtx::Need needs_A_b[] = {\n    {.absence = Absence::Default},\n};\n"));
+    EXPECT_THAT(tables, HasSubstr(", .needs = needs_A}"));
+    EXPECT_THAT(tables, HasSubstr(".rootCount = 2, .setupRelease = true, .bits = 1}"));
+}
+
+// No other sequence has a table of needs, no other choice is one that releases what was set up.
+TEST(Subset, WhatIsMandatoryAndFreeHasNoNeeds)
+{
+    const std::string tables = fileOf("A ::= SEQUENCE { x BOOLEAN, ..., [[ y BOOLEAN ]] }\n"
+                                      "B ::= CHOICE { release NULL, setup BOOLEAN, ... }\n"
+                                      "C ::= CHOICE { release BOOLEAN, setup BOOLEAN }\n"
+                                      "D ::= CHOICE { setup BOOLEAN, release NULL }\n"
+                                      "E ::= CHOICE { release NULL, setup BOOLEAN, more BOOLEAN }\n",
+                                      "NR-RRC-Tables.cpp");
+    EXPECT_THAT(tables, Not(HasSubstr("needs")));
+    EXPECT_THAT(tables, Not(HasSubstr("setupRelease")));
+}
+
+TEST(Subset, ACommentThatOnlyBeginsLikeAnAnnotationIsNone)
+{
+    EXPECT_THAT(messagesOf("A ::= SEQUENCE { x BOOLEAN, -- Needs no code -- y BOOLEAN -- Changes, Conditions --\n"
+                           "-- need R -- } -- the Need of a reader\n"),
+                IsEmpty());
+}
+
 TEST(Subset, ASequenceMayBeNothingButAMarker)
 {
     EXPECT_THAT(headerOf("A ::= SEQUENCE { ... }\n"), HasSubstr("struct A\n{\n    OSRTDList extElem1;\n};\n"));
@@ -389,6 +449,21 @@ TEST(Options, APduHasAnEncoderADecoderAndAPrinter)
     EXPECT_THAT(header, HasSubstr("void asn1Print_A_b(const char* name, const A_b* pvalue);\n"));
     EXPECT_THAT(header, HasSubstr("int asn1PE_B(OSCTXT* pctxt, const B* pvalue);\n"));
     EXPECT_THAT(header, Not(HasSubstr("asn1PE_C"))) << "has no value";
+}
+
+// What they call is linked with the programs that call them alone.
+TEST(Options, TheTypedCallsOfTheRuntimeAreInline)
+{
+    const std::string body = "A-b ::= SEQUENCE { x BOOLEAN }\n";
+    const std::string header = headerOf(body);
+    const std::string encoder = fileOf(body, "NR-RRC-Encoder.cpp");
+    for (const char* const verb :
+         {"ToJson", "ToValueNotation", "ToFlat", "Trace", "Check", "Compare", "Equal", "State", "Apply", "Diff"})
+    {
+        EXPECT_THAT(header, testing::ContainsRegex("static inline int[0-9_a-z]* asn1" + std::string(verb) +
+                                                   "_A_b\\([^{]*\\) \\{ return rtx" + verb + "\\("));
+        EXPECT_THAT(encoder, Not(HasSubstr(std::string("rtx") + verb)));
+    }
 }
 
 TEST(Options, WhatIsNotUsualIsUnlikely)
@@ -543,6 +618,60 @@ const Refusal grammar[] = {
     {"IdentityAtTheEnd",
      "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity y",
      {"t:3:1: '}' wanted, 'END' found"}},
+    {"IdentityTwice",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B -- Identity B -- -- Identity B -- }",
+     {"t:2:68: 'x' has an annotation of this kind already"}},
+    {"NeedWithoutACode",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need -- }",
+     {"t:2:45: a need code wanted, '--' found"}},
+    {"NeedWithACondition",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need M (x) -- }",
+     {"t:2:47: '--' wanted, '(' found"}},
+    {"NeedWithoutAWord",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need M, -- }",
+     {"t:2:48: what binds a change wanted, '--' found"}},
+    {"NeedWithTwoWords",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need M, setup, kind -- }",
+     {"t:2:53: '--' wanted, ',' found"}},
+    {"NeedTwice",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL, -- Need M --\n-- Need R\n}",
+     {"t:3:4: 'x' has an annotation of this kind already"}},
+    {"NeedAndChange",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need M -- -- Change setup -- }",
+     {"t:2:53: 'x' has an annotation of this kind already"}},
+    {"NeedBeforeTheComma",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need M --, y BOOLEAN }",
+     {"t:2:49: the comma stands before the annotation"}},
+    {"NeedOfAnAlternative",
+     "A ::= CHOICE { x BOOLEAN, -- Need M --\ny BOOLEAN }",
+     {"t:2:27: an annotation stands behind a member of a SEQUENCE"}},
+    {"NeedOfAMarker",
+     "A ::= SEQUENCE { ..., -- Need M --\nx BOOLEAN OPTIONAL }",
+     {"t:2:23: an annotation stands behind a member of a SEQUENCE"}},
+    {"NeedOfAGroup",
+     "A ::= SEQUENCE { ..., [[ x BOOLEAN OPTIONAL ]] -- Need M -- }",
+     {"t:2:48: an annotation stands behind a member of a SEQUENCE"}},
+    {"NeedOfNothing",
+     "A ::= SEQUENCE { -- Need M --\nx BOOLEAN OPTIONAL }",
+     {"t:2:18: the name of a member wanted, '--' found"}},
+    {"NeedOfAType", "A ::= BOOLEAN -- Need M", {"t:2:15: the name of a type wanted, '--' found"}},
+    {"CondWithoutAName",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Cond -- }",
+     {"t:2:45: the name of a condition wanted, '--' found"}},
+    {"CondWithoutACode", "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Cond X -- }", {"t:2:47: '(' wanted, '--' found"}},
+    {"CondWithAnEmptyCode",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Cond X () -- }",
+     {"t:2:48: a need code wanted, ')' found"}},
+    {"CondWithAnOpenCode", "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Cond X (M -- }", {"t:2:50: ')' wanted, '--' found"}},
+    {"CondWithAWordBehindIt",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Cond X (M), setup -- }",
+     {"t:2:50: '--' wanted, ',' found"}},
+    {"ChangeWithoutAWord",
+     "A ::= SEQUENCE { x BOOLEAN -- Change -- }",
+     {"t:2:38: what binds a change wanted, '--' found"}},
+    {"ChangeWithTwoWords",
+     "A ::= SEQUENCE { x BOOLEAN -- Change usage identity -- }",
+     {"t:2:44: '--' wanted, 'identity' found"}},
     {"Default", "A ::= SEQUENCE {\n  x BOOLEAN DEFAULT TRUE\n}", {"t:3:13: DEFAULT is not supported"}},
     {"DefaultOfAnAlternative", "A ::= CHOICE { x BOOLEAN DEFAULT TRUE }", {"t:2:26: DEFAULT is not supported"}},
     {"OptionalAlternative",
@@ -675,6 +804,39 @@ std::string many(const std::string& before, int count, const std::string& member
     return body + annotation + after;
 }
 
+std::string noCodeOf(const std::string& member)
+{
+    return "'" + member +
+           "' is OPTIONAL: what its absence does is missing behind it, -- Need <M, R, S or N> or -- Cond <condition> "
+           "(<M, R, S, N or fixed>)";
+}
+
+std::string noIdentityOf(const std::string& list)
+{
+    return "t:2:18: the elements of '" + list +
+           "' are added one by one: -- Identity <member>, released by <list> is missing behind it";
+}
+
+std::string unknownWord(const std::string& word)
+{
+    return "unknown word '" + word +
+           "': setup, drb-setup, mode, creation, creation-optional, switch, sync, reestablish, kind, fixed-kind, "
+           "usage, "
+           "pucch, scell, inactive, inactive-type2, sul, mcg-release, identity are known";
+}
+
+// A sequence of members of this type, one a line from line 3 on, each bound by a word.
+std::string words(const std::string& type, const std::string& before, const std::string& after, const Messages& all)
+{
+    std::string body = "A ::= SEQUENCE {\n";
+    for (std::size_t i = 0; i < all.size(); ++i)
+    {
+        const std::string name(1, static_cast<char>('a' + i));
+        body += name + " " + type + (i + 1 < all.size() ? "," : " ") + " -- " + before + all[i] + after + "\n";
+    }
+    return body + "}";
+}
+
 const Refusal meanings[] = {
     {"UnknownType", "A ::= SEQUENCE { x B }", {"t:2:20: the type 'B' is not assigned"}},
     {"UnknownTypeInAList", "A ::= SEQUENCE (SIZE (1..2)) OF B", {"t:2:33: the type 'B' is not assigned"}},
@@ -776,6 +938,112 @@ const Refusal meanings[] = {
      "B, released by y\n}\n"
      "B ::= INTEGER (0..7)",
      {"t:2:129: 'y' is not a list of 'B', which identifies the elements of 'x'"}},
+    {"ReleasedByItself",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N -- -- Identity B, released by x\n}\n"
+     "B ::= INTEGER (0..7)",
+     {"t:2:97: 'x' and 'x' are no pair: one that only releases and one that only adds"}},
+    {"TwoReleasedByOne",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B OPTIONAL, -- Need N -- -- Identity B, released by y\n"
+     "z SEQUENCE (SIZE (1..2)) OF B OPTIONAL, -- Need N -- -- Identity B, released by y\n"
+     "y SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\nB ::= INTEGER (0..7)",
+     {"t:3:81: 'y' and 'z' are no pair: one that only releases and one that only adds"}},
+    {"ReleasedInARow",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B OPTIONAL, -- Need N -- -- Identity B, released by y\n"
+     "y SEQUENCE (SIZE (1..2)) OF B OPTIONAL, -- Need N -- -- Identity B, released by z\n"
+     "z SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\nB ::= INTEGER (0..7)",
+     {"t:3:81: 'z' and 'y' are no pair: one that only releases and one that only adds"}},
+    {"ReleasedAndKept",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B OPTIONAL, -- Need M -- -- Identity B, released by y\n"
+     "y SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need R\n}\nB ::= INTEGER (0..7)",
+     {"t:2:18: the elements of 'x' are added or released one by one: it is OPTIONAL, of code N",
+      "t:3:1: the elements of 'y' are added or released one by one: it is OPTIONAL, of code N"}},
+    {"ReleasedAndMandatory",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B, -- Identity B, released by y\n"
+     "y SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\nB ::= INTEGER (0..7)",
+     {"t:2:18: the elements of 'x' are added or released one by one: it is OPTIONAL, of code N"}},
+    {"AddModListWithoutIdentity",
+     "A ::= SEQUENCE { xToAddModList SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\nB ::= INTEGER (0..7)",
+     {noIdentityOf("xToAddModList")}},
+    {"AddModListWithoutPartner",
+     "A ::= SEQUENCE { xToAddModList SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N -- -- Identity B\n}\n"
+     "B ::= INTEGER (0..7)",
+     {noIdentityOf("xToAddModList")}},
+    {"AddListWithoutIdentity",
+     "A ::= SEQUENCE { x-ToaddList SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\nB ::= INTEGER (0..7)",
+     {noIdentityOf("x-ToaddList")}},
+    {"AddModListInAGroup",
+     "A ::= SEQUENCE { ..., [[\n                 toaddmodlist SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n]] }\n"
+     "B ::= INTEGER (0..7)",
+     {"t:3" + noIdentityOf("toaddmodlist").substr(3)}},
+    {"AddModListThatIsALoneAddition",
+     "A ::= SEQUENCE { ...,\n                 xToAddModList SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\n"
+     "B ::= INTEGER (0..7)",
+     {"t:3" + noIdentityOf("xToAddModList").substr(3)}},
+    {"ReleaseListWithoutPartner",
+     "A ::= SEQUENCE { xToreleaseList SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Need N\n}\nB ::= INTEGER (0..7)",
+     {"t:2:18: no list has elements that 'xToreleaseList' releases: -- Identity <member>, released by xToreleaseList "
+      "is missing behind it"}},
+    {"OptionalWithoutACode", "A ::= SEQUENCE { x BOOLEAN OPTIONAL }", {"t:2:18: " + noCodeOf("x")}},
+    {"OptionalWithACommentAlone",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- need R, of course --, y BOOLEAN OPTIONAL -- Needs nothing -- }",
+     {"t:2:18: " + noCodeOf("x"), "t:2:62: " + noCodeOf("y")}},
+    {"OptionalWithAnIdentityAlone",
+     "A ::= SEQUENCE { x SEQUENCE (SIZE (1..2)) OF B OPTIONAL -- Identity B\n}\nB ::= INTEGER (0..7)",
+     {"t:2:18: " + noCodeOf("x")}},
+    {"OptionalWithAChangeAlone",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Change setup -- }",
+     {"t:2:18: " + noCodeOf("x")}},
+    {"OptionalAdditionsWithoutACode",
+     "A ::= SEQUENCE { ..., x BOOLEAN OPTIONAL, [[ y BOOLEAN, z BOOLEAN OPTIONAL ]] }",
+     {"t:2:23: " + noCodeOf("x"), "t:2:57: " + noCodeOf("z")}},
+    {"NestedOptionalWithoutACode",
+     "A ::= CHOICE { c SEQUENCE { s SEQUENCE { x BOOLEAN OPTIONAL } OPTIONAL -- Need R -- } }",
+     {"t:2:42: " + noCodeOf("x")}},
+    {"OptionalInAListWithoutACode",
+     "A ::= SEQUENCE (SIZE (1..2)) OF SEQUENCE { x BOOLEAN OPTIONAL }",
+     {"t:2:44: " + noCodeOf("x")}},
+    {"CodeOfAMandatoryMember",
+     "A ::= SEQUENCE { x BOOLEAN, -- Need M -- y BOOLEAN -- Cond X (R, setup) -- }",
+     {"t:2:32: 'x' is not OPTIONAL: its absence does nothing",
+      "t:2:55: 'y' is not OPTIONAL: its absence does nothing"}},
+    {"UnknownCodes",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL, -- Need P -- y BOOLEAN OPTIONAL, -- Need m, setup --\n"
+     "z BOOLEAN OPTIONAL -- Cond X (Fixed) -- }",
+     {"t:2:46: unknown need code 'P': M, R, S, N, fixed are known",
+      "t:2:79: unknown need code 'm': M, R, S, N, fixed are known",
+      "t:3:31: unknown need code 'Fixed': M, R, S, N, fixed are known"}},
+    {"FixedByNothing",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL -- Need fixed -- }",
+     {"t:2:45: what fixes the presence is missing: -- Cond <condition> (fixed)"}},
+    {"UnknownWord",
+     "A ::= SEQUENCE { x BOOLEAN OPTIONAL, -- Need M, setpu -- y BOOLEAN -- Change Usage -- }",
+     {"t:2:49: " + unknownWord("setpu"), "t:2:78: " + unknownWord("Usage")}},
+    {"WordsThatDoNotBindABoolean",
+     words("BOOLEAN OPTIONAL", "Cond X (M, ", ")",
+           {"mode", "switch", "sync", "pucch", "scell", "inactive", "inactive-type2", "sul", "mcg-release", "usage",
+            "identity"}),
+     {"t:3:35: 'mode' binds an OPTIONAL CHOICE", "t:4:35: 'switch' binds an OPTIONAL member of code N",
+      "t:5:35: 'sync' binds an OPTIONAL SEQUENCE", "t:6:35: 'pucch' binds an OPTIONAL CHOICE of 'release' and 'setup'",
+      "t:7:35: 'scell' binds an OPTIONAL SEQUENCE",
+      "t:8:35: 'inactive' binds an OPTIONAL CHOICE of 'release' and 'setup'",
+      "t:9:35: 'inactive-type2' binds an OPTIONAL CHOICE of 'release' and 'setup'",
+      "t:10:35: 'sul' binds an OPTIONAL SEQUENCE",
+      "t:11:35: 'mcg-release' binds an OPTIONAL CHOICE of 'release' and 'setup'",
+      "t:12:35: 'usage' binds a mandatory ENUMERATED", "t:13:35: 'identity' binds a mandatory INTEGER"}},
+    {"WordsThatDoNotBindACodeR",
+     words("BOOLEAN OPTIONAL", "Need R, ", "", {"creation", "creation-optional", "reestablish", "kind", "fixed-kind"}),
+     {"t:3:32: 'creation' binds an OPTIONAL member of code M",
+      "t:4:32: 'creation-optional' binds an OPTIONAL member of code M",
+      "t:5:32: 'reestablish' binds an OPTIONAL member of code M", "t:6:32: 'kind' binds an OPTIONAL member of code M",
+      "t:7:32: 'fixed-kind' binds an OPTIONAL member of code M"}},
+    {"WordsThatDoNotBindAChoiceOfMore",
+     words("CHOICE { release NULL, setup BOOLEAN, ... } OPTIONAL", "Need M, ", "", {"pucch"}),
+     {"t:3:68: 'pucch' binds an OPTIONAL CHOICE of 'release' and 'setup'"}},
+    {"WordsThatDoNotBindAMandatoryMember",
+     words("BOOLEAN", "Change ", "", {"setup", "drb-setup", "kind", "usage", "identity"}),
+     {"t:3:22: 'setup' binds an OPTIONAL member", "t:4:22: 'drb-setup' binds an OPTIONAL member",
+      "t:5:22: 'kind' binds an OPTIONAL member of code M", "t:6:22: 'usage' binds a mandatory ENUMERATED",
+      "t:7:22: 'identity' binds a mandatory INTEGER"}},
     {"EmptySequence", "A ::= SEQUENCE { }", {"t:2:7: a SEQUENCE without members is not supported"}},
     {"EmptyChoice", "A ::= CHOICE { }", {"t:2:7: a CHOICE without alternatives is not supported"}},
     {"ChoiceOfAdditionsAlone",
@@ -985,7 +1253,8 @@ TEST(Robustness, MutationsOfASmallModuleEnd)
     const std::string module =
         "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN\n"
         "S { T } ::= CHOICE { release NULL, setup T }\n"
-        "A ::= SEQUENCE { x S { B } OPTIONAL, -- Need R -- ..., [[ y SEQUENCE (SIZE (1..max)) OF B ]],\n"
+        "A ::= SEQUENCE { x S { B } OPTIONAL, -- Need R -- ..., [[ y SEQUENCE (SIZE (1..max)) OF B OPTIONAL -- Need N "
+        "-- ]],\n"
         "z SEQUENCE (SIZE (1..9)) OF B OPTIONAL -- Cond X (N) -- -- Identity B, released by y -- }\n"
         "B ::= INTEGER (-1..max) max INTEGER ::= 7 END";
     for (std::size_t i = 0; i < module.size(); ++i)
