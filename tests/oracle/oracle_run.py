@@ -90,6 +90,19 @@ def messages(folder):
     return found
 
 
+def difference(meant, read, path="CellGroupConfig"):
+    """Where two JSON values differ first."""
+    if isinstance(meant, dict) and isinstance(read, dict):
+        if list(meant) != list(read):
+            return f"{path}: {list(meant)} meant, {list(read)} read"
+        return next((d for name in meant if (d := difference(meant[name], read[name], f"{path}.{name}"))), None)
+    if isinstance(meant, list) and isinstance(read, list):
+        lengths = None if len(meant) == len(read) else f"{path}: {len(meant)} elements meant, {len(read)} read"
+        return next((d for i, pair in enumerate(zip(meant, read)) if (d := difference(*pair, f"{path}[{i}]"))), lengths)
+    # Python's 1 == True.
+    return None if json.dumps(meant) == json.dumps(read) else f"{path}: {json.dumps(meant)} meant, {json.dumps(read)} read"
+
+
 def seed():
     """CELLGROUPCFG_SEED, or one that is new in each run; printed, so that a run can be repeated."""
     value = os.environ.get("CELLGROUPCFG_SEED") or str(time.time_ns() // 1000 % 10**9)
