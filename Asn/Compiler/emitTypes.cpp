@@ -65,9 +65,8 @@ std::string pduPrototypes(const Pdus& pdus)
              "pctxt, " + table + "pa, pb");
         call("int", "State", "OSCTXT* pctxt, " + value + name + "* pstate", "pctxt, " + table + "pvalue, pstate");
         call("int", "Apply",
-             "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pdelta, " + name +
-                 "* pnext, RtxDeltaSink sink, void* arg",
-             "pctxt, " + table + "pprev, pdelta, pnext, sink, arg");
+             "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pdelta, " + name + "* pnext",
+             "pctxt, " + table + "pprev, pdelta, pnext, NULL, NULL");
         call("int", "Diff",
              "OSCTXT* pctxt, const " + name + "* pprev, const " + name + "* pnext, const RtxDeltaOptions* options, " +
                  name + "* pdelta, RtxDeltaSink sink",

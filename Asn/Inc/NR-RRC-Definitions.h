@@ -8773,7 +8773,7 @@ static inline int64_t asn1Check_CellGroupConfig(const OSCTXT* pctxt, const CellG
 static inline int64_t asn1Compare_CellGroupConfig(OSCTXT* pctxtA, const OSCTXT* pctxtB, const CellGroupConfig* pa, const CellGroupConfig* pb, RtxDifferenceSink sink, void* arg) { return rtxCompare(pctxtA, pctxtB, asn1Type_CellGroupConfig(), pa, pb, sink, arg); }
 static inline int asn1Equal_CellGroupConfig(const OSCTXT* pctxt, const CellGroupConfig* pa, const CellGroupConfig* pb) { return rtxEqual(pctxt, asn1Type_CellGroupConfig(), pa, pb); }
 static inline int asn1State_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue, CellGroupConfig* pstate) { return rtxState(pctxt, asn1Type_CellGroupConfig(), pvalue, pstate); }
-static inline int asn1Apply_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pdelta, CellGroupConfig* pnext, RtxDeltaSink sink, void* arg) { return rtxApply(pctxt, asn1Type_CellGroupConfig(), pprev, pdelta, pnext, sink, arg); }
+static inline int asn1Apply_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pdelta, CellGroupConfig* pnext) { return rtxApply(pctxt, asn1Type_CellGroupConfig(), pprev, pdelta, pnext, NULL, NULL); }
 static inline int asn1Diff_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pnext, const RtxDeltaOptions* options, CellGroupConfig* pdelta, RtxDeltaSink sink) { return rtxDiff(pctxt, asn1Type_CellGroupConfig(), pprev, pnext, options, pdelta, sink); }
 
 #ifdef __cplusplus
