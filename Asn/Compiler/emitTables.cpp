@@ -196,6 +196,20 @@ std::size_t bits(const Type& type)
     }
 }
 
+// Whether a delta takes values of the type as they are: nothing in them is released, done once, settled at a creation
+// or modified by an identity.
+bool isPlain(const Type& type)
+{
+    const bool byIdentity = type.identity != noIdentity;
+    return !byIdentity && !type.setupRelease() && (type.element == nullptr || isPlain(*type.element)) &&
+           std::all_of(type.members.begin(), type.members.end(),
+                       [&](const Member& member)
+                       {
+                           return member.need.change.empty() && member.need.list.empty() &&
+                                  member.need.absence != "Action" && !member.pointer && isPlain(*member.type);
+                       });
+}
+
 std::string table(const Type& type)
 {
     std::string before;
@@ -234,6 +248,10 @@ std::string table(const Type& type)
     if (type.setupRelease())
     {
         field("setupRelease", "true");
+    }
+    if ((!type.members.empty() || type.element != nullptr) && isPlain(type))
+    {
+        field("plain", "true");
     }
     if (!type.additions.empty())
     {

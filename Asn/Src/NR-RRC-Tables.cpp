@@ -33,7 +33,7 @@ constexpr Member members_RLC_BearerConfig_servedRadioBearer[] = {
     member(type_DRB_Identity, offsetof(RLC_BearerConfig_servedRadioBearer, u)),
 };
 } // namespace
-constexpr Type type_RLC_BearerConfig_servedRadioBearer = {.name = "RLC_BearerConfig_servedRadioBearer", .kind = Kind::Choice, .align = alignof(RLC_BearerConfig_servedRadioBearer), .size = sizeof(RLC_BearerConfig_servedRadioBearer), .lower = 0, .upper = 0, .names = names_RLC_BearerConfig_servedRadioBearer, .members = members_RLC_BearerConfig_servedRadioBearer, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_RLC_BearerConfig_servedRadioBearer = {.name = "RLC_BearerConfig_servedRadioBearer", .kind = Kind::Choice, .align = alignof(RLC_BearerConfig_servedRadioBearer), .size = sizeof(RLC_BearerConfig_servedRadioBearer), .lower = 0, .upper = 0, .names = names_RLC_BearerConfig_servedRadioBearer, .members = members_RLC_BearerConfig_servedRadioBearer, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -223,7 +223,7 @@ constexpr Member members_LogicalChannelConfig_ul_SpecificParameters_allowedServi
     member(type_ServCellIndex, offsetof(LogicalChannelConfig_ul_SpecificParameters_allowedServingCells, elem)),
 };
 } // namespace
-constexpr Type type_LogicalChannelConfig_ul_SpecificParameters_allowedServingCells = {.name = "LogicalChannelConfig_ul_SpecificParameters_allowedServingCells", .kind = Kind::Array, .width = 1, .align = alignof(LogicalChannelConfig_ul_SpecificParameters_allowedServingCells), .size = sizeof(LogicalChannelConfig_ul_SpecificParameters_allowedServingCells), .lower = 1, .upper = 31, .members = members_LogicalChannelConfig_ul_SpecificParameters_allowedServingCells, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_LogicalChannelConfig_ul_SpecificParameters_allowedServingCells = {.name = "LogicalChannelConfig_ul_SpecificParameters_allowedServingCells", .kind = Kind::Array, .width = 1, .align = alignof(LogicalChannelConfig_ul_SpecificParameters_allowedServingCells), .size = sizeof(LogicalChannelConfig_ul_SpecificParameters_allowedServingCells), .lower = 1, .upper = 31, .members = members_LogicalChannelConfig_ul_SpecificParameters_allowedServingCells, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 namespace
 {
@@ -237,7 +237,7 @@ constexpr Member members_LogicalChannelConfig_ul_SpecificParameters_allowedSCS_L
     member(type_SubcarrierSpacing, offsetof(LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List, elem)),
 };
 } // namespace
-constexpr Type type_LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List = {.name = "LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List", .kind = Kind::Array, .width = 1, .align = alignof(LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List), .size = sizeof(LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List), .lower = 1, .upper = 5, .members = members_LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List = {.name = "LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List", .kind = Kind::Array, .width = 1, .align = alignof(LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List), .size = sizeof(LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List), .lower = 1, .upper = 5, .members = members_LogicalChannelConfig_ul_SpecificParameters_allowedSCS_List, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -298,7 +298,7 @@ constexpr rtx::Need needs_LogicalChannelConfig_ul_SpecificParameters[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_LogicalChannelConfig_ul_SpecificParameters = {.name = "LogicalChannelConfig_ul_SpecificParameters", .kind = Kind::Sequence, .extensible = true, .align = alignof(LogicalChannelConfig_ul_SpecificParameters), .size = sizeof(LogicalChannelConfig_ul_SpecificParameters), .lower = 0, .upper = 0, .names = names_LogicalChannelConfig_ul_SpecificParameters, .members = members_LogicalChannelConfig_ul_SpecificParameters, .memberCount = 12, .rootCount = 11, .additions = additions_LogicalChannelConfig_ul_SpecificParameters, .additionCount = 1, .bits = 6, .extElem = offsetof(LogicalChannelConfig_ul_SpecificParameters, extElem1), .needs = needs_LogicalChannelConfig_ul_SpecificParameters};
+constexpr Type type_LogicalChannelConfig_ul_SpecificParameters = {.name = "LogicalChannelConfig_ul_SpecificParameters", .kind = Kind::Sequence, .extensible = true, .align = alignof(LogicalChannelConfig_ul_SpecificParameters), .size = sizeof(LogicalChannelConfig_ul_SpecificParameters), .lower = 0, .upper = 0, .names = names_LogicalChannelConfig_ul_SpecificParameters, .members = members_LogicalChannelConfig_ul_SpecificParameters, .memberCount = 12, .rootCount = 11, .plain = true, .additions = additions_LogicalChannelConfig_ul_SpecificParameters, .additionCount = 1, .bits = 6, .extElem = offsetof(LogicalChannelConfig_ul_SpecificParameters, extElem1), .needs = needs_LogicalChannelConfig_ul_SpecificParameters};
 
 namespace
 {
@@ -310,7 +310,7 @@ constexpr rtx::Need needs_LogicalChannelConfig[] = {
     {.absence = Absence::Clear, .condition = "UL"},
 };
 } // namespace
-constexpr Type type_LogicalChannelConfig = {.name = "LogicalChannelConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(LogicalChannelConfig), .size = sizeof(LogicalChannelConfig), .lower = 0, .upper = 0, .names = names_LogicalChannelConfig, .members = members_LogicalChannelConfig, .memberCount = 1, .rootCount = 1, .bits = 1, .extElem = offsetof(LogicalChannelConfig, extElem1), .needs = needs_LogicalChannelConfig};
+constexpr Type type_LogicalChannelConfig = {.name = "LogicalChannelConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(LogicalChannelConfig), .size = sizeof(LogicalChannelConfig), .lower = 0, .upper = 0, .names = names_LogicalChannelConfig, .members = members_LogicalChannelConfig, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .extElem = offsetof(LogicalChannelConfig, extElem1), .needs = needs_LogicalChannelConfig};
 
 namespace
 {
@@ -346,7 +346,7 @@ constexpr Member members_CellGroupConfig_rlc_BearerToReleaseList[] = {
     member(type_LogicalChannelIdentity, offsetof(CellGroupConfig_rlc_BearerToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CellGroupConfig_rlc_BearerToReleaseList = {.name = "CellGroupConfig_rlc_BearerToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CellGroupConfig_rlc_BearerToReleaseList), .size = sizeof(CellGroupConfig_rlc_BearerToReleaseList), .lower = 1, .upper = 32, .members = members_CellGroupConfig_rlc_BearerToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_CellGroupConfig_rlc_BearerToReleaseList = {.name = "CellGroupConfig_rlc_BearerToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CellGroupConfig_rlc_BearerToReleaseList), .size = sizeof(CellGroupConfig_rlc_BearerToReleaseList), .lower = 1, .upper = 32, .members = members_CellGroupConfig_rlc_BearerToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 constexpr Type type_MAC_CellGroupConfig_drx_Config_release = {.name = "MAC_CellGroupConfig_drx_Config_release", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -366,7 +366,7 @@ constexpr Member members_DRX_Config_drx_onDurationTimer[] = {
     member(type_DRX_Config_drx_onDurationTimer_milliSeconds, offsetof(DRX_Config_drx_onDurationTimer, u)),
 };
 } // namespace
-constexpr Type type_DRX_Config_drx_onDurationTimer = {.name = "DRX_Config_drx_onDurationTimer", .kind = Kind::Choice, .align = alignof(DRX_Config_drx_onDurationTimer), .size = sizeof(DRX_Config_drx_onDurationTimer), .lower = 0, .upper = 0, .names = names_DRX_Config_drx_onDurationTimer, .members = members_DRX_Config_drx_onDurationTimer, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_DRX_Config_drx_onDurationTimer = {.name = "DRX_Config_drx_onDurationTimer", .kind = Kind::Choice, .align = alignof(DRX_Config_drx_onDurationTimer), .size = sizeof(DRX_Config_drx_onDurationTimer), .lower = 0, .upper = 0, .names = names_DRX_Config_drx_onDurationTimer, .members = members_DRX_Config_drx_onDurationTimer, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -456,7 +456,7 @@ constexpr Member members_DRX_Config_drx_LongCycleStartOffset[] = {
     member(type_DRX_Config_drx_LongCycleStartOffset_ms10240, offsetof(DRX_Config_drx_LongCycleStartOffset, u)),
 };
 } // namespace
-constexpr Type type_DRX_Config_drx_LongCycleStartOffset = {.name = "DRX_Config_drx_LongCycleStartOffset", .kind = Kind::Choice, .align = alignof(DRX_Config_drx_LongCycleStartOffset), .size = sizeof(DRX_Config_drx_LongCycleStartOffset), .lower = 0, .upper = 0, .names = names_DRX_Config_drx_LongCycleStartOffset, .members = members_DRX_Config_drx_LongCycleStartOffset, .memberCount = 20, .rootCount = 20, .bits = 5};
+constexpr Type type_DRX_Config_drx_LongCycleStartOffset = {.name = "DRX_Config_drx_LongCycleStartOffset", .kind = Kind::Choice, .align = alignof(DRX_Config_drx_LongCycleStartOffset), .size = sizeof(DRX_Config_drx_LongCycleStartOffset), .lower = 0, .upper = 0, .names = names_DRX_Config_drx_LongCycleStartOffset, .members = members_DRX_Config_drx_LongCycleStartOffset, .memberCount = 20, .rootCount = 20, .plain = true, .bits = 5};
 
 namespace
 {
@@ -474,7 +474,7 @@ constexpr Member members_DRX_Config_shortDRX[] = {
     member(type_DRX_Config_shortDRX_drx_ShortCycleTimer, offsetof(DRX_Config_shortDRX, drx_ShortCycleTimer)),
 };
 } // namespace
-constexpr Type type_DRX_Config_shortDRX = {.name = "DRX_Config_shortDRX", .kind = Kind::Sequence, .align = alignof(DRX_Config_shortDRX), .size = sizeof(DRX_Config_shortDRX), .lower = 0, .upper = 0, .names = names_DRX_Config_shortDRX, .members = members_DRX_Config_shortDRX, .memberCount = 2, .rootCount = 2};
+constexpr Type type_DRX_Config_shortDRX = {.name = "DRX_Config_shortDRX", .kind = Kind::Sequence, .align = alignof(DRX_Config_shortDRX), .size = sizeof(DRX_Config_shortDRX), .lower = 0, .upper = 0, .names = names_DRX_Config_shortDRX, .members = members_DRX_Config_shortDRX, .memberCount = 2, .rootCount = 2, .plain = true};
 
 constexpr Type type_DRX_Config_drx_SlotOffset = {.name = "DRX_Config_drx_SlotOffset", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 31};
 
@@ -504,7 +504,7 @@ constexpr rtx::Need needs_DRX_Config[] = {
     {},
 };
 } // namespace
-constexpr Type type_DRX_Config = {.name = "DRX-Config", .kind = Kind::Sequence, .align = alignof(DRX_Config), .size = sizeof(DRX_Config), .lower = 0, .upper = 0, .names = names_DRX_Config, .members = members_DRX_Config, .memberCount = 9, .rootCount = 9, .bits = 1, .needs = needs_DRX_Config};
+constexpr Type type_DRX_Config = {.name = "DRX-Config", .kind = Kind::Sequence, .align = alignof(DRX_Config), .size = sizeof(DRX_Config), .lower = 0, .upper = 0, .names = names_DRX_Config, .members = members_DRX_Config, .memberCount = 9, .rootCount = 9, .plain = true, .bits = 1, .needs = needs_DRX_Config};
 
 namespace
 {
@@ -542,7 +542,7 @@ constexpr rtx::Need needs_SchedulingRequestToAddMod[] = {
     {},
 };
 } // namespace
-constexpr Type type_SchedulingRequestToAddMod = {.name = "SchedulingRequestToAddMod", .kind = Kind::Sequence, .align = alignof(SchedulingRequestToAddMod), .size = sizeof(SchedulingRequestToAddMod), .lower = 0, .upper = 0, .names = names_SchedulingRequestToAddMod, .members = members_SchedulingRequestToAddMod, .memberCount = 3, .rootCount = 3, .bits = 1, .needs = needs_SchedulingRequestToAddMod};
+constexpr Type type_SchedulingRequestToAddMod = {.name = "SchedulingRequestToAddMod", .kind = Kind::Sequence, .align = alignof(SchedulingRequestToAddMod), .size = sizeof(SchedulingRequestToAddMod), .lower = 0, .upper = 0, .names = names_SchedulingRequestToAddMod, .members = members_SchedulingRequestToAddMod, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .needs = needs_SchedulingRequestToAddMod};
 
 namespace
 {
@@ -558,7 +558,7 @@ constexpr Member members_SchedulingRequestConfig_schedulingRequestToReleaseList[
     member(type_SchedulingRequestId, offsetof(SchedulingRequestConfig_schedulingRequestToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_SchedulingRequestConfig_schedulingRequestToReleaseList = {.name = "SchedulingRequestConfig_schedulingRequestToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SchedulingRequestConfig_schedulingRequestToReleaseList), .size = sizeof(SchedulingRequestConfig_schedulingRequestToReleaseList), .lower = 1, .upper = 8, .members = members_SchedulingRequestConfig_schedulingRequestToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_SchedulingRequestConfig_schedulingRequestToReleaseList = {.name = "SchedulingRequestConfig_schedulingRequestToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SchedulingRequestConfig_schedulingRequestToReleaseList), .size = sizeof(SchedulingRequestConfig_schedulingRequestToReleaseList), .lower = 1, .upper = 8, .members = members_SchedulingRequestConfig_schedulingRequestToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -606,7 +606,7 @@ constexpr rtx::Need needs_BSR_Config[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_BSR_Config = {.name = "BSR-Config", .kind = Kind::Sequence, .extensible = true, .align = alignof(BSR_Config), .size = sizeof(BSR_Config), .lower = 0, .upper = 0, .names = names_BSR_Config, .members = members_BSR_Config, .memberCount = 3, .rootCount = 3, .bits = 1, .extElem = offsetof(BSR_Config, extElem1), .needs = needs_BSR_Config};
+constexpr Type type_BSR_Config = {.name = "BSR-Config", .kind = Kind::Sequence, .extensible = true, .align = alignof(BSR_Config), .size = sizeof(BSR_Config), .lower = 0, .upper = 0, .names = names_BSR_Config, .members = members_BSR_Config, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .extElem = offsetof(BSR_Config, extElem1), .needs = needs_BSR_Config};
 
 constexpr Type type_TAG_Id = {.name = "TAG-Id", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 3};
 
@@ -616,7 +616,7 @@ constexpr Member members_TAG_Config_tag_ToReleaseList[] = {
     member(type_TAG_Id, offsetof(TAG_Config_tag_ToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_TAG_Config_tag_ToReleaseList = {.name = "TAG_Config_tag_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(TAG_Config_tag_ToReleaseList), .size = sizeof(TAG_Config_tag_ToReleaseList), .lower = 1, .upper = 4, .members = members_TAG_Config_tag_ToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_TAG_Config_tag_ToReleaseList = {.name = "TAG_Config_tag_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(TAG_Config_tag_ToReleaseList), .size = sizeof(TAG_Config_tag_ToReleaseList), .lower = 1, .upper = 4, .members = members_TAG_Config_tag_ToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -632,7 +632,7 @@ constexpr Member members_TAG[] = {
     member(type_TimeAlignmentTimer, offsetof(TAG, timeAlignmentTimer)),
 };
 } // namespace
-constexpr Type type_TAG = {.name = "TAG", .kind = Kind::Sequence, .extensible = true, .align = alignof(TAG), .size = sizeof(TAG), .lower = 0, .upper = 0, .names = names_TAG, .members = members_TAG, .memberCount = 2, .rootCount = 2, .extElem = offsetof(TAG, extElem1)};
+constexpr Type type_TAG = {.name = "TAG", .kind = Kind::Sequence, .extensible = true, .align = alignof(TAG), .size = sizeof(TAG), .lower = 0, .upper = 0, .names = names_TAG, .members = members_TAG, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(TAG, extElem1)};
 
 namespace
 {
@@ -701,7 +701,7 @@ constexpr Member members_PHR_Config[] = {
     member(type_PHR_Config_phr_ModeOtherCG, offsetof(PHR_Config, phr_ModeOtherCG)),
 };
 } // namespace
-constexpr Type type_PHR_Config = {.name = "PHR-Config", .kind = Kind::Sequence, .extensible = true, .align = alignof(PHR_Config), .size = sizeof(PHR_Config), .lower = 0, .upper = 0, .names = names_PHR_Config, .members = members_PHR_Config, .memberCount = 7, .rootCount = 7, .extElem = offsetof(PHR_Config, extElem1)};
+constexpr Type type_PHR_Config = {.name = "PHR-Config", .kind = Kind::Sequence, .extensible = true, .align = alignof(PHR_Config), .size = sizeof(PHR_Config), .lower = 0, .upper = 0, .names = names_PHR_Config, .members = members_PHR_Config, .memberCount = 7, .rootCount = 7, .plain = true, .extElem = offsetof(PHR_Config, extElem1)};
 
 namespace
 {
@@ -865,7 +865,7 @@ constexpr Member members_MultiFrequencyBandListNR[] = {
     member(type_FreqBandIndicatorNR, offsetof(MultiFrequencyBandListNR, elem)),
 };
 } // namespace
-constexpr Type type_MultiFrequencyBandListNR = {.name = "MultiFrequencyBandListNR", .kind = Kind::Array, .width = 1, .align = alignof(MultiFrequencyBandListNR), .size = sizeof(MultiFrequencyBandListNR), .lower = 1, .upper = 8, .members = members_MultiFrequencyBandListNR, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_MultiFrequencyBandListNR = {.name = "MultiFrequencyBandListNR", .kind = Kind::Array, .width = 1, .align = alignof(MultiFrequencyBandListNR), .size = sizeof(MultiFrequencyBandListNR), .lower = 1, .upper = 8, .members = members_MultiFrequencyBandListNR, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 constexpr Type type_SCS_SpecificCarrier_offsetToCarrier = {.name = "SCS_SpecificCarrier_offsetToCarrier", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 2199};
 
@@ -890,7 +890,7 @@ constexpr rtx::Need needs_SCS_SpecificCarrier[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_SCS_SpecificCarrier = {.name = "SCS-SpecificCarrier", .kind = Kind::Sequence, .extensible = true, .align = alignof(SCS_SpecificCarrier), .size = sizeof(SCS_SpecificCarrier), .lower = 0, .upper = 0, .names = names_SCS_SpecificCarrier, .members = members_SCS_SpecificCarrier, .memberCount = 4, .rootCount = 3, .additions = additions_SCS_SpecificCarrier, .additionCount = 1, .extElem = offsetof(SCS_SpecificCarrier, extElem1), .needs = needs_SCS_SpecificCarrier};
+constexpr Type type_SCS_SpecificCarrier = {.name = "SCS-SpecificCarrier", .kind = Kind::Sequence, .extensible = true, .align = alignof(SCS_SpecificCarrier), .size = sizeof(SCS_SpecificCarrier), .lower = 0, .upper = 0, .names = names_SCS_SpecificCarrier, .members = members_SCS_SpecificCarrier, .memberCount = 4, .rootCount = 3, .plain = true, .additions = additions_SCS_SpecificCarrier, .additionCount = 1, .extElem = offsetof(SCS_SpecificCarrier, extElem1), .needs = needs_SCS_SpecificCarrier};
 
 namespace
 {
@@ -898,7 +898,7 @@ constexpr Member members_FrequencyInfoDL_scs_SpecificCarrierList[] = {
     member(type_SCS_SpecificCarrier, 0),
 };
 } // namespace
-constexpr Type type_FrequencyInfoDL_scs_SpecificCarrierList = {.name = "FrequencyInfoDL_scs_SpecificCarrierList", .kind = Kind::List, .align = alignof(FrequencyInfoDL_scs_SpecificCarrierList), .size = sizeof(FrequencyInfoDL_scs_SpecificCarrierList), .lower = 1, .upper = 5, .members = members_FrequencyInfoDL_scs_SpecificCarrierList, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_FrequencyInfoDL_scs_SpecificCarrierList = {.name = "FrequencyInfoDL_scs_SpecificCarrierList", .kind = Kind::List, .align = alignof(FrequencyInfoDL_scs_SpecificCarrierList), .size = sizeof(FrequencyInfoDL_scs_SpecificCarrierList), .lower = 1, .upper = 5, .members = members_FrequencyInfoDL_scs_SpecificCarrierList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -916,7 +916,7 @@ constexpr rtx::Need needs_FrequencyInfoDL[] = {
     {},
 };
 } // namespace
-constexpr Type type_FrequencyInfoDL = {.name = "FrequencyInfoDL", .kind = Kind::Sequence, .extensible = true, .align = alignof(FrequencyInfoDL), .size = sizeof(FrequencyInfoDL), .lower = 0, .upper = 0, .names = names_FrequencyInfoDL, .members = members_FrequencyInfoDL, .memberCount = 4, .rootCount = 4, .bits = 1, .extElem = offsetof(FrequencyInfoDL, extElem1), .needs = needs_FrequencyInfoDL};
+constexpr Type type_FrequencyInfoDL = {.name = "FrequencyInfoDL", .kind = Kind::Sequence, .extensible = true, .align = alignof(FrequencyInfoDL), .size = sizeof(FrequencyInfoDL), .lower = 0, .upper = 0, .names = names_FrequencyInfoDL, .members = members_FrequencyInfoDL, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 1, .extElem = offsetof(FrequencyInfoDL, extElem1), .needs = needs_FrequencyInfoDL};
 
 constexpr Type type_BWP_locationAndBandwidth = {.name = "BWP_locationAndBandwidth", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 37949};
 
@@ -940,7 +940,7 @@ constexpr rtx::Need needs_BWP[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_BWP = {.name = "BWP", .kind = Kind::Sequence, .align = alignof(BWP), .size = sizeof(BWP), .lower = 0, .upper = 0, .names = names_BWP, .members = members_BWP, .memberCount = 3, .rootCount = 3, .bits = 1, .needs = needs_BWP};
+constexpr Type type_BWP = {.name = "BWP", .kind = Kind::Sequence, .align = alignof(BWP), .size = sizeof(BWP), .lower = 0, .upper = 0, .names = names_BWP, .members = members_BWP, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .needs = needs_BWP};
 
 constexpr Type type_BWP_DownlinkCommon_pdcch_ConfigCommon_release = {.name = "BWP_DownlinkCommon_pdcch_ConfigCommon_release", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -980,7 +980,7 @@ constexpr rtx::Need needs_ControlResourceSet_cce_REG_MappingType_interleaved[] =
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_ControlResourceSet_cce_REG_MappingType_interleaved = {.name = "ControlResourceSet_cce_REG_MappingType_interleaved", .kind = Kind::Sequence, .align = alignof(ControlResourceSet_cce_REG_MappingType_interleaved), .size = sizeof(ControlResourceSet_cce_REG_MappingType_interleaved), .lower = 0, .upper = 0, .names = names_ControlResourceSet_cce_REG_MappingType_interleaved, .members = members_ControlResourceSet_cce_REG_MappingType_interleaved, .memberCount = 3, .rootCount = 3, .bits = 1, .needs = needs_ControlResourceSet_cce_REG_MappingType_interleaved};
+constexpr Type type_ControlResourceSet_cce_REG_MappingType_interleaved = {.name = "ControlResourceSet_cce_REG_MappingType_interleaved", .kind = Kind::Sequence, .align = alignof(ControlResourceSet_cce_REG_MappingType_interleaved), .size = sizeof(ControlResourceSet_cce_REG_MappingType_interleaved), .lower = 0, .upper = 0, .names = names_ControlResourceSet_cce_REG_MappingType_interleaved, .members = members_ControlResourceSet_cce_REG_MappingType_interleaved, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .needs = needs_ControlResourceSet_cce_REG_MappingType_interleaved};
 
 constexpr Type type_ControlResourceSet_cce_REG_MappingType_nonInterleaved = {.name = "ControlResourceSet_cce_REG_MappingType_nonInterleaved", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -1016,7 +1016,7 @@ constexpr Member members_ControlResourceSet_tci_StatesPDCCH_ToReleaseList[] = {
     member(type_TCI_StateId, offsetof(ControlResourceSet_tci_StatesPDCCH_ToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_ControlResourceSet_tci_StatesPDCCH_ToReleaseList = {.name = "ControlResourceSet_tci_StatesPDCCH_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ControlResourceSet_tci_StatesPDCCH_ToReleaseList), .size = sizeof(ControlResourceSet_tci_StatesPDCCH_ToReleaseList), .lower = 1, .upper = 64, .members = members_ControlResourceSet_tci_StatesPDCCH_ToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_ControlResourceSet_tci_StatesPDCCH_ToReleaseList = {.name = "ControlResourceSet_tci_StatesPDCCH_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ControlResourceSet_tci_StatesPDCCH_ToReleaseList), .size = sizeof(ControlResourceSet_tci_StatesPDCCH_ToReleaseList), .lower = 1, .upper = 64, .members = members_ControlResourceSet_tci_StatesPDCCH_ToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 namespace
 {
@@ -1109,7 +1109,7 @@ constexpr Member members_SearchSpace_monitoringSlotPeriodicityAndOffset[] = {
     member(type_SearchSpace_monitoringSlotPeriodicityAndOffset_sl2560, offsetof(SearchSpace_monitoringSlotPeriodicityAndOffset, u)),
 };
 } // namespace
-constexpr Type type_SearchSpace_monitoringSlotPeriodicityAndOffset = {.name = "SearchSpace_monitoringSlotPeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(SearchSpace_monitoringSlotPeriodicityAndOffset), .size = sizeof(SearchSpace_monitoringSlotPeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_SearchSpace_monitoringSlotPeriodicityAndOffset, .members = members_SearchSpace_monitoringSlotPeriodicityAndOffset, .memberCount = 15, .rootCount = 15, .bits = 4};
+constexpr Type type_SearchSpace_monitoringSlotPeriodicityAndOffset = {.name = "SearchSpace_monitoringSlotPeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(SearchSpace_monitoringSlotPeriodicityAndOffset), .size = sizeof(SearchSpace_monitoringSlotPeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_SearchSpace_monitoringSlotPeriodicityAndOffset, .members = members_SearchSpace_monitoringSlotPeriodicityAndOffset, .memberCount = 15, .rootCount = 15, .plain = true, .bits = 4};
 
 constexpr Type type_SearchSpace_duration = {.name = "SearchSpace_duration", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 2, .upper = 2559};
 
@@ -1156,7 +1156,7 @@ constexpr Member members_SearchSpace_nrofCandidates[] = {
     member(type_SearchSpace_nrofCandidates_aggregationLevel16, offsetof(SearchSpace_nrofCandidates, aggregationLevel16)),
 };
 } // namespace
-constexpr Type type_SearchSpace_nrofCandidates = {.name = "SearchSpace_nrofCandidates", .kind = Kind::Sequence, .align = alignof(SearchSpace_nrofCandidates), .size = sizeof(SearchSpace_nrofCandidates), .lower = 0, .upper = 0, .names = names_SearchSpace_nrofCandidates, .members = members_SearchSpace_nrofCandidates, .memberCount = 5, .rootCount = 5};
+constexpr Type type_SearchSpace_nrofCandidates = {.name = "SearchSpace_nrofCandidates", .kind = Kind::Sequence, .align = alignof(SearchSpace_nrofCandidates), .size = sizeof(SearchSpace_nrofCandidates), .lower = 0, .upper = 0, .names = names_SearchSpace_nrofCandidates, .members = members_SearchSpace_nrofCandidates, .memberCount = 5, .rootCount = 5, .plain = true};
 
 constexpr Type type_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0 = {.name = "SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0", .kind = Kind::Sequence, .extensible = true, .align = alignof(SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0), .size = sizeof(SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0), .lower = 0, .upper = 0, .extElem = offsetof(SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0, extElem1)};
 
@@ -1208,7 +1208,7 @@ constexpr rtx::Need needs_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofC
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI = {.name = "SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI", .kind = Kind::Sequence, .align = alignof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI), .size = sizeof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI), .lower = 0, .upper = 0, .names = names_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, .members = members_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, .memberCount = 5, .rootCount = 5, .bits = 5, .needs = needs_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI};
+constexpr Type type_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI = {.name = "SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI", .kind = Kind::Sequence, .align = alignof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI), .size = sizeof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI), .lower = 0, .upper = 0, .names = names_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, .members = members_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, .memberCount = 5, .rootCount = 5, .plain = true, .bits = 5, .needs = needs_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI};
 
 namespace
 {
@@ -1217,7 +1217,7 @@ constexpr Member members_SearchSpace_searchSpaceType_common_dci_Format2_0[] = {
     member(type_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, nrofCandidates_SFI)),
 };
 } // namespace
-constexpr Type type_SearchSpace_searchSpaceType_common_dci_Format2_0 = {.name = "SearchSpace_searchSpaceType_common_dci_Format2_0", .kind = Kind::Sequence, .extensible = true, .align = alignof(SearchSpace_searchSpaceType_common_dci_Format2_0), .size = sizeof(SearchSpace_searchSpaceType_common_dci_Format2_0), .lower = 0, .upper = 0, .names = names_SearchSpace_searchSpaceType_common_dci_Format2_0, .members = members_SearchSpace_searchSpaceType_common_dci_Format2_0, .memberCount = 1, .rootCount = 1, .extElem = offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, extElem1)};
+constexpr Type type_SearchSpace_searchSpaceType_common_dci_Format2_0 = {.name = "SearchSpace_searchSpaceType_common_dci_Format2_0", .kind = Kind::Sequence, .extensible = true, .align = alignof(SearchSpace_searchSpaceType_common_dci_Format2_0), .size = sizeof(SearchSpace_searchSpaceType_common_dci_Format2_0), .lower = 0, .upper = 0, .names = names_SearchSpace_searchSpaceType_common_dci_Format2_0, .members = members_SearchSpace_searchSpaceType_common_dci_Format2_0, .memberCount = 1, .rootCount = 1, .plain = true, .extElem = offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, extElem1)};
 
 constexpr Type type_SearchSpace_searchSpaceType_common_dci_Format2_1 = {.name = "SearchSpace_searchSpaceType_common_dci_Format2_1", .kind = Kind::Sequence, .extensible = true, .align = alignof(SearchSpace_searchSpaceType_common_dci_Format2_1), .size = sizeof(SearchSpace_searchSpaceType_common_dci_Format2_1), .lower = 0, .upper = 0, .extElem = offsetof(SearchSpace_searchSpaceType_common_dci_Format2_1, extElem1)};
 
@@ -1282,7 +1282,7 @@ constexpr Member members_SearchSpace_searchSpaceType_ue_Specific[] = {
     member(type_SearchSpace_searchSpaceType_ue_Specific_dci_Formats, offsetof(SearchSpace_searchSpaceType_ue_Specific, dci_Formats)),
 };
 } // namespace
-constexpr Type type_SearchSpace_searchSpaceType_ue_Specific = {.name = "SearchSpace_searchSpaceType_ue_Specific", .kind = Kind::Sequence, .extensible = true, .align = alignof(SearchSpace_searchSpaceType_ue_Specific), .size = sizeof(SearchSpace_searchSpaceType_ue_Specific), .lower = 0, .upper = 0, .names = names_SearchSpace_searchSpaceType_ue_Specific, .members = members_SearchSpace_searchSpaceType_ue_Specific, .memberCount = 1, .rootCount = 1, .extElem = offsetof(SearchSpace_searchSpaceType_ue_Specific, extElem1)};
+constexpr Type type_SearchSpace_searchSpaceType_ue_Specific = {.name = "SearchSpace_searchSpaceType_ue_Specific", .kind = Kind::Sequence, .extensible = true, .align = alignof(SearchSpace_searchSpaceType_ue_Specific), .size = sizeof(SearchSpace_searchSpaceType_ue_Specific), .lower = 0, .upper = 0, .names = names_SearchSpace_searchSpaceType_ue_Specific, .members = members_SearchSpace_searchSpaceType_ue_Specific, .memberCount = 1, .rootCount = 1, .plain = true, .extElem = offsetof(SearchSpace_searchSpaceType_ue_Specific, extElem1)};
 
 namespace
 {
@@ -1334,7 +1334,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS15KHZoneT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 279};
 
@@ -1344,7 +1344,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS30KHZoneT_SCS15KHZhalfT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 559};
 
@@ -1354,7 +1354,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS60KHZoneT_SCS30KHZhalfT_SCS15KHZquarterT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 1119};
 
@@ -1364,7 +1364,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneT_SCS60KHZhalfT_SCS30KHZquarterT_SCS15KHZoneEighthT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 2239};
 
@@ -1374,7 +1374,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZhalfT_SCS60KHZquarterT_SCS30KHZoneEighthT_SCS15KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 4479};
 
@@ -1384,7 +1384,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZquarterT_SCS60KHZoneEighthT_SCS30KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 8959};
 
@@ -1394,7 +1394,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneEighthT_SCS60KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT_element = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 17919};
 
@@ -1404,7 +1404,7 @@ constexpr Member members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sC
     member(type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT_element, offsetof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT = {.name = "PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT), .size = sizeof(PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT), .lower = 1, .upper = 4, .members = members_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_sCS120KHZoneSixteenthT, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -1487,7 +1487,7 @@ constexpr rtx::Need needs_PDSCH_TimeDomainResourceAllocation[] = {
     {},
 };
 } // namespace
-constexpr Type type_PDSCH_TimeDomainResourceAllocation = {.name = "PDSCH-TimeDomainResourceAllocation", .kind = Kind::Sequence, .align = alignof(PDSCH_TimeDomainResourceAllocation), .size = sizeof(PDSCH_TimeDomainResourceAllocation), .lower = 0, .upper = 0, .names = names_PDSCH_TimeDomainResourceAllocation, .members = members_PDSCH_TimeDomainResourceAllocation, .memberCount = 3, .rootCount = 3, .bits = 1, .needs = needs_PDSCH_TimeDomainResourceAllocation};
+constexpr Type type_PDSCH_TimeDomainResourceAllocation = {.name = "PDSCH-TimeDomainResourceAllocation", .kind = Kind::Sequence, .align = alignof(PDSCH_TimeDomainResourceAllocation), .size = sizeof(PDSCH_TimeDomainResourceAllocation), .lower = 0, .upper = 0, .names = names_PDSCH_TimeDomainResourceAllocation, .members = members_PDSCH_TimeDomainResourceAllocation, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .needs = needs_PDSCH_TimeDomainResourceAllocation};
 
 namespace
 {
@@ -1495,7 +1495,7 @@ constexpr Member members_PDSCH_TimeDomainResourceAllocationList[] = {
     member(type_PDSCH_TimeDomainResourceAllocation, 0),
 };
 } // namespace
-constexpr Type type_PDSCH_TimeDomainResourceAllocationList = {.name = "PDSCH-TimeDomainResourceAllocationList", .kind = Kind::List, .align = alignof(PDSCH_TimeDomainResourceAllocationList), .size = sizeof(PDSCH_TimeDomainResourceAllocationList), .lower = 1, .upper = 16, .members = members_PDSCH_TimeDomainResourceAllocationList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_PDSCH_TimeDomainResourceAllocationList = {.name = "PDSCH-TimeDomainResourceAllocationList", .kind = Kind::List, .align = alignof(PDSCH_TimeDomainResourceAllocationList), .size = sizeof(PDSCH_TimeDomainResourceAllocationList), .lower = 1, .upper = 16, .members = members_PDSCH_TimeDomainResourceAllocationList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -1507,7 +1507,7 @@ constexpr rtx::Need needs_PDSCH_ConfigCommon[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PDSCH_ConfigCommon = {.name = "PDSCH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(PDSCH_ConfigCommon), .size = sizeof(PDSCH_ConfigCommon), .lower = 0, .upper = 0, .names = names_PDSCH_ConfigCommon, .members = members_PDSCH_ConfigCommon, .memberCount = 1, .rootCount = 1, .bits = 1, .extElem = offsetof(PDSCH_ConfigCommon, extElem1), .needs = needs_PDSCH_ConfigCommon};
+constexpr Type type_PDSCH_ConfigCommon = {.name = "PDSCH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(PDSCH_ConfigCommon), .size = sizeof(PDSCH_ConfigCommon), .lower = 0, .upper = 0, .names = names_PDSCH_ConfigCommon, .members = members_PDSCH_ConfigCommon, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .extElem = offsetof(PDSCH_ConfigCommon, extElem1), .needs = needs_PDSCH_ConfigCommon};
 
 namespace
 {
@@ -1555,7 +1555,7 @@ constexpr Member members_FrequencyInfoUL_scs_SpecificCarrierList[] = {
     member(type_SCS_SpecificCarrier, 0),
 };
 } // namespace
-constexpr Type type_FrequencyInfoUL_scs_SpecificCarrierList = {.name = "FrequencyInfoUL_scs_SpecificCarrierList", .kind = Kind::List, .align = alignof(FrequencyInfoUL_scs_SpecificCarrierList), .size = sizeof(FrequencyInfoUL_scs_SpecificCarrierList), .lower = 1, .upper = 5, .members = members_FrequencyInfoUL_scs_SpecificCarrierList, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_FrequencyInfoUL_scs_SpecificCarrierList = {.name = "FrequencyInfoUL_scs_SpecificCarrierList", .kind = Kind::List, .align = alignof(FrequencyInfoUL_scs_SpecificCarrierList), .size = sizeof(FrequencyInfoUL_scs_SpecificCarrierList), .lower = 1, .upper = 5, .members = members_FrequencyInfoUL_scs_SpecificCarrierList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 constexpr Type type_AdditionalSpectrumEmission = {.name = "AdditionalSpectrumEmission", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 7};
 
@@ -1585,7 +1585,7 @@ constexpr rtx::Need needs_FrequencyInfoUL[] = {
     {.absence = Absence::Clear, .condition = "FDD-TDD-OrSUL-Optional"},
 };
 } // namespace
-constexpr Type type_FrequencyInfoUL = {.name = "FrequencyInfoUL", .kind = Kind::Sequence, .extensible = true, .align = alignof(FrequencyInfoUL), .size = sizeof(FrequencyInfoUL), .lower = 0, .upper = 0, .names = names_FrequencyInfoUL, .members = members_FrequencyInfoUL, .memberCount = 6, .rootCount = 6, .bits = 5, .extElem = offsetof(FrequencyInfoUL, extElem1), .needs = needs_FrequencyInfoUL};
+constexpr Type type_FrequencyInfoUL = {.name = "FrequencyInfoUL", .kind = Kind::Sequence, .extensible = true, .align = alignof(FrequencyInfoUL), .size = sizeof(FrequencyInfoUL), .lower = 0, .upper = 0, .names = names_FrequencyInfoUL, .members = members_FrequencyInfoUL, .memberCount = 6, .rootCount = 6, .plain = true, .bits = 5, .extElem = offsetof(FrequencyInfoUL, extElem1), .needs = needs_FrequencyInfoUL};
 
 constexpr Type type_BWP_UplinkCommon_rach_ConfigCommon_release = {.name = "BWP_UplinkCommon_rach_ConfigCommon_release", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -1635,7 +1635,7 @@ constexpr Member members_RACH_ConfigGeneric[] = {
     member(type_RACH_ConfigGeneric_ra_ResponseWindow, offsetof(RACH_ConfigGeneric, ra_ResponseWindow)),
 };
 } // namespace
-constexpr Type type_RACH_ConfigGeneric = {.name = "RACH-ConfigGeneric", .kind = Kind::Sequence, .extensible = true, .align = alignof(RACH_ConfigGeneric), .size = sizeof(RACH_ConfigGeneric), .lower = 0, .upper = 0, .names = names_RACH_ConfigGeneric, .members = members_RACH_ConfigGeneric, .memberCount = 8, .rootCount = 8, .extElem = offsetof(RACH_ConfigGeneric, extElem1)};
+constexpr Type type_RACH_ConfigGeneric = {.name = "RACH-ConfigGeneric", .kind = Kind::Sequence, .extensible = true, .align = alignof(RACH_ConfigGeneric), .size = sizeof(RACH_ConfigGeneric), .lower = 0, .upper = 0, .names = names_RACH_ConfigGeneric, .members = members_RACH_ConfigGeneric, .memberCount = 8, .rootCount = 8, .plain = true, .extElem = offsetof(RACH_ConfigGeneric, extElem1)};
 
 constexpr Type type_RACH_ConfigCommon_totalNumberOfRA_Preambles = {.name = "RACH_ConfigCommon_totalNumberOfRA_Preambles", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 63};
 
@@ -1689,7 +1689,7 @@ constexpr Member members_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPe
     member(type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_sixteen, offsetof(RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, u)),
 };
 } // namespace
-constexpr Type type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB = {.name = "RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB", .kind = Kind::Choice, .align = alignof(RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB), .size = sizeof(RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, .members = members_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, .memberCount = 8, .rootCount = 8, .bits = 3};
+constexpr Type type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB = {.name = "RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB", .kind = Kind::Choice, .align = alignof(RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB), .size = sizeof(RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, .members = members_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, .memberCount = 8, .rootCount = 8, .plain = true, .bits = 3};
 
 namespace
 {
@@ -1714,7 +1714,7 @@ constexpr Member members_RACH_ConfigCommon_groupBconfigured[] = {
     member(type_RACH_ConfigCommon_groupBconfigured_numberOfRA_PreamblesGroupA, offsetof(RACH_ConfigCommon_groupBconfigured, numberOfRA_PreamblesGroupA)),
 };
 } // namespace
-constexpr Type type_RACH_ConfigCommon_groupBconfigured = {.name = "RACH_ConfigCommon_groupBconfigured", .kind = Kind::Sequence, .align = alignof(RACH_ConfigCommon_groupBconfigured), .size = sizeof(RACH_ConfigCommon_groupBconfigured), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon_groupBconfigured, .members = members_RACH_ConfigCommon_groupBconfigured, .memberCount = 3, .rootCount = 3};
+constexpr Type type_RACH_ConfigCommon_groupBconfigured = {.name = "RACH_ConfigCommon_groupBconfigured", .kind = Kind::Sequence, .align = alignof(RACH_ConfigCommon_groupBconfigured), .size = sizeof(RACH_ConfigCommon_groupBconfigured), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon_groupBconfigured, .members = members_RACH_ConfigCommon_groupBconfigured, .memberCount = 3, .rootCount = 3, .plain = true};
 
 namespace
 {
@@ -1736,7 +1736,7 @@ constexpr Member members_RACH_ConfigCommon_prach_RootSequenceIndex[] = {
     member(type_RACH_ConfigCommon_prach_RootSequenceIndex_l139, offsetof(RACH_ConfigCommon_prach_RootSequenceIndex, u)),
 };
 } // namespace
-constexpr Type type_RACH_ConfigCommon_prach_RootSequenceIndex = {.name = "RACH_ConfigCommon_prach_RootSequenceIndex", .kind = Kind::Choice, .align = alignof(RACH_ConfigCommon_prach_RootSequenceIndex), .size = sizeof(RACH_ConfigCommon_prach_RootSequenceIndex), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon_prach_RootSequenceIndex, .members = members_RACH_ConfigCommon_prach_RootSequenceIndex, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_RACH_ConfigCommon_prach_RootSequenceIndex = {.name = "RACH_ConfigCommon_prach_RootSequenceIndex", .kind = Kind::Choice, .align = alignof(RACH_ConfigCommon_prach_RootSequenceIndex), .size = sizeof(RACH_ConfigCommon_prach_RootSequenceIndex), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon_prach_RootSequenceIndex, .members = members_RACH_ConfigCommon_prach_RootSequenceIndex, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -1780,7 +1780,7 @@ constexpr rtx::Need needs_RACH_ConfigCommon[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_RACH_ConfigCommon = {.name = "RACH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(RACH_ConfigCommon), .size = sizeof(RACH_ConfigCommon), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon, .members = members_RACH_ConfigCommon, .memberCount = 11, .rootCount = 11, .bits = 7, .extElem = offsetof(RACH_ConfigCommon, extElem1), .needs = needs_RACH_ConfigCommon};
+constexpr Type type_RACH_ConfigCommon = {.name = "RACH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(RACH_ConfigCommon), .size = sizeof(RACH_ConfigCommon), .lower = 0, .upper = 0, .names = names_RACH_ConfigCommon, .members = members_RACH_ConfigCommon, .memberCount = 11, .rootCount = 11, .plain = true, .bits = 7, .extElem = offsetof(RACH_ConfigCommon, extElem1), .needs = needs_RACH_ConfigCommon};
 
 namespace
 {
@@ -1824,7 +1824,7 @@ constexpr rtx::Need needs_PUSCH_TimeDomainResourceAllocation[] = {
     {},
 };
 } // namespace
-constexpr Type type_PUSCH_TimeDomainResourceAllocation = {.name = "PUSCH-TimeDomainResourceAllocation", .kind = Kind::Sequence, .align = alignof(PUSCH_TimeDomainResourceAllocation), .size = sizeof(PUSCH_TimeDomainResourceAllocation), .lower = 0, .upper = 0, .names = names_PUSCH_TimeDomainResourceAllocation, .members = members_PUSCH_TimeDomainResourceAllocation, .memberCount = 3, .rootCount = 3, .bits = 1, .needs = needs_PUSCH_TimeDomainResourceAllocation};
+constexpr Type type_PUSCH_TimeDomainResourceAllocation = {.name = "PUSCH-TimeDomainResourceAllocation", .kind = Kind::Sequence, .align = alignof(PUSCH_TimeDomainResourceAllocation), .size = sizeof(PUSCH_TimeDomainResourceAllocation), .lower = 0, .upper = 0, .names = names_PUSCH_TimeDomainResourceAllocation, .members = members_PUSCH_TimeDomainResourceAllocation, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .needs = needs_PUSCH_TimeDomainResourceAllocation};
 
 namespace
 {
@@ -1832,7 +1832,7 @@ constexpr Member members_PUSCH_TimeDomainResourceAllocationList[] = {
     member(type_PUSCH_TimeDomainResourceAllocation, 0),
 };
 } // namespace
-constexpr Type type_PUSCH_TimeDomainResourceAllocationList = {.name = "PUSCH-TimeDomainResourceAllocationList", .kind = Kind::List, .align = alignof(PUSCH_TimeDomainResourceAllocationList), .size = sizeof(PUSCH_TimeDomainResourceAllocationList), .lower = 1, .upper = 16, .members = members_PUSCH_TimeDomainResourceAllocationList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_PUSCH_TimeDomainResourceAllocationList = {.name = "PUSCH-TimeDomainResourceAllocationList", .kind = Kind::List, .align = alignof(PUSCH_TimeDomainResourceAllocationList), .size = sizeof(PUSCH_TimeDomainResourceAllocationList), .lower = 1, .upper = 16, .members = members_PUSCH_TimeDomainResourceAllocationList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 constexpr Type type_PUSCH_ConfigCommon_msg3_DeltaPreamble = {.name = "PUSCH_ConfigCommon_msg3_DeltaPreamble", .kind = Kind::Integer, .width = 1, .size = 1, .lower = -1, .upper = 6};
 
@@ -1854,7 +1854,7 @@ constexpr rtx::Need needs_PUSCH_ConfigCommon[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PUSCH_ConfigCommon = {.name = "PUSCH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUSCH_ConfigCommon), .size = sizeof(PUSCH_ConfigCommon), .lower = 0, .upper = 0, .names = names_PUSCH_ConfigCommon, .members = members_PUSCH_ConfigCommon, .memberCount = 4, .rootCount = 4, .bits = 4, .extElem = offsetof(PUSCH_ConfigCommon, extElem1), .needs = needs_PUSCH_ConfigCommon};
+constexpr Type type_PUSCH_ConfigCommon = {.name = "PUSCH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUSCH_ConfigCommon), .size = sizeof(PUSCH_ConfigCommon), .lower = 0, .upper = 0, .names = names_PUSCH_ConfigCommon, .members = members_PUSCH_ConfigCommon, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 4, .extElem = offsetof(PUSCH_ConfigCommon, extElem1), .needs = needs_PUSCH_ConfigCommon};
 
 namespace
 {
@@ -1896,7 +1896,7 @@ constexpr rtx::Need needs_PUCCH_ConfigCommon[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PUCCH_ConfigCommon = {.name = "PUCCH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUCCH_ConfigCommon), .size = sizeof(PUCCH_ConfigCommon), .lower = 0, .upper = 0, .names = names_PUCCH_ConfigCommon, .members = members_PUCCH_ConfigCommon, .memberCount = 4, .rootCount = 4, .bits = 3, .extElem = offsetof(PUCCH_ConfigCommon, extElem1), .needs = needs_PUCCH_ConfigCommon};
+constexpr Type type_PUCCH_ConfigCommon = {.name = "PUCCH-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUCCH_ConfigCommon), .size = sizeof(PUCCH_ConfigCommon), .lower = 0, .upper = 0, .names = names_PUCCH_ConfigCommon, .members = members_PUCCH_ConfigCommon, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 3, .extElem = offsetof(PUCCH_ConfigCommon, extElem1), .needs = needs_PUCCH_ConfigCommon};
 
 namespace
 {
@@ -2202,7 +2202,7 @@ constexpr Member members_ServingCellConfigCommon_rateMatchPatternToReleaseList[]
     member(type_RateMatchPatternId, offsetof(ServingCellConfigCommon_rateMatchPatternToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_ServingCellConfigCommon_rateMatchPatternToReleaseList = {.name = "ServingCellConfigCommon_rateMatchPatternToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ServingCellConfigCommon_rateMatchPatternToReleaseList), .size = sizeof(ServingCellConfigCommon_rateMatchPatternToReleaseList), .lower = 1, .upper = 4, .members = members_ServingCellConfigCommon_rateMatchPatternToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_ServingCellConfigCommon_rateMatchPatternToReleaseList = {.name = "ServingCellConfigCommon_rateMatchPatternToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ServingCellConfigCommon_rateMatchPatternToReleaseList), .size = sizeof(ServingCellConfigCommon_rateMatchPatternToReleaseList), .lower = 1, .upper = 4, .members = members_ServingCellConfigCommon_rateMatchPatternToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -2245,7 +2245,7 @@ constexpr rtx::Need needs_TDD_UL_DL_Pattern[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_TDD_UL_DL_Pattern = {.name = "TDD-UL-DL-Pattern", .kind = Kind::Sequence, .extensible = true, .align = alignof(TDD_UL_DL_Pattern), .size = sizeof(TDD_UL_DL_Pattern), .lower = 0, .upper = 0, .names = names_TDD_UL_DL_Pattern, .members = members_TDD_UL_DL_Pattern, .memberCount = 6, .rootCount = 5, .additions = additions_TDD_UL_DL_Pattern, .additionCount = 1, .extElem = offsetof(TDD_UL_DL_Pattern, extElem1), .needs = needs_TDD_UL_DL_Pattern};
+constexpr Type type_TDD_UL_DL_Pattern = {.name = "TDD-UL-DL-Pattern", .kind = Kind::Sequence, .extensible = true, .align = alignof(TDD_UL_DL_Pattern), .size = sizeof(TDD_UL_DL_Pattern), .lower = 0, .upper = 0, .names = names_TDD_UL_DL_Pattern, .members = members_TDD_UL_DL_Pattern, .memberCount = 6, .rootCount = 5, .plain = true, .additions = additions_TDD_UL_DL_Pattern, .additionCount = 1, .extElem = offsetof(TDD_UL_DL_Pattern, extElem1), .needs = needs_TDD_UL_DL_Pattern};
 
 namespace
 {
@@ -2261,7 +2261,7 @@ constexpr rtx::Need needs_TDD_UL_DL_ConfigCommon[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_TDD_UL_DL_ConfigCommon = {.name = "TDD-UL-DL-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(TDD_UL_DL_ConfigCommon), .size = sizeof(TDD_UL_DL_ConfigCommon), .lower = 0, .upper = 0, .names = names_TDD_UL_DL_ConfigCommon, .members = members_TDD_UL_DL_ConfigCommon, .memberCount = 3, .rootCount = 3, .bits = 1, .extElem = offsetof(TDD_UL_DL_ConfigCommon, extElem1), .needs = needs_TDD_UL_DL_ConfigCommon};
+constexpr Type type_TDD_UL_DL_ConfigCommon = {.name = "TDD-UL-DL-ConfigCommon", .kind = Kind::Sequence, .extensible = true, .align = alignof(TDD_UL_DL_ConfigCommon), .size = sizeof(TDD_UL_DL_ConfigCommon), .lower = 0, .upper = 0, .names = names_TDD_UL_DL_ConfigCommon, .members = members_TDD_UL_DL_ConfigCommon, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .extElem = offsetof(TDD_UL_DL_ConfigCommon, extElem1), .needs = needs_TDD_UL_DL_ConfigCommon};
 
 constexpr Type type_ServingCellConfigCommon_ss_PBCH_BlockPower = {.name = "ServingCellConfigCommon_ss_PBCH_BlockPower", .kind = Kind::Integer, .width = 1, .size = 1, .lower = -60, .upper = 50};
 
@@ -2327,7 +2327,7 @@ constexpr rtx::Need needs_CFRA_occasions[] = {
     {.absence = Absence::Fixed, .condition = "SSB-CFRA"},
 };
 } // namespace
-constexpr Type type_CFRA_occasions = {.name = "CFRA_occasions", .kind = Kind::Sequence, .align = alignof(CFRA_occasions), .size = sizeof(CFRA_occasions), .lower = 0, .upper = 0, .names = names_CFRA_occasions, .members = members_CFRA_occasions, .memberCount = 2, .rootCount = 2, .bits = 1, .needs = needs_CFRA_occasions};
+constexpr Type type_CFRA_occasions = {.name = "CFRA_occasions", .kind = Kind::Sequence, .align = alignof(CFRA_occasions), .size = sizeof(CFRA_occasions), .lower = 0, .upper = 0, .names = names_CFRA_occasions, .members = members_CFRA_occasions, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1, .needs = needs_CFRA_occasions};
 
 constexpr Type type_SSB_Index = {.name = "SSB-Index", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 63};
 
@@ -2341,7 +2341,7 @@ constexpr Member members_CFRA_SSB_Resource[] = {
     member(type_CFRA_SSB_Resource_ra_PreambleIndex, offsetof(CFRA_SSB_Resource, ra_PreambleIndex)),
 };
 } // namespace
-constexpr Type type_CFRA_SSB_Resource = {.name = "CFRA-SSB-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(CFRA_SSB_Resource), .size = sizeof(CFRA_SSB_Resource), .lower = 0, .upper = 0, .names = names_CFRA_SSB_Resource, .members = members_CFRA_SSB_Resource, .memberCount = 2, .rootCount = 2, .extElem = offsetof(CFRA_SSB_Resource, extElem1)};
+constexpr Type type_CFRA_SSB_Resource = {.name = "CFRA-SSB-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(CFRA_SSB_Resource), .size = sizeof(CFRA_SSB_Resource), .lower = 0, .upper = 0, .names = names_CFRA_SSB_Resource, .members = members_CFRA_SSB_Resource, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(CFRA_SSB_Resource, extElem1)};
 
 namespace
 {
@@ -2349,7 +2349,7 @@ constexpr Member members_CFRA_resources_ssb_ssb_ResourceList[] = {
     member(type_CFRA_SSB_Resource, 0),
 };
 } // namespace
-constexpr Type type_CFRA_resources_ssb_ssb_ResourceList = {.name = "CFRA_resources_ssb_ssb_ResourceList", .kind = Kind::List, .align = alignof(CFRA_resources_ssb_ssb_ResourceList), .size = sizeof(CFRA_resources_ssb_ssb_ResourceList), .lower = 1, .upper = 64, .members = members_CFRA_resources_ssb_ssb_ResourceList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CFRA_resources_ssb_ssb_ResourceList = {.name = "CFRA_resources_ssb_ssb_ResourceList", .kind = Kind::List, .align = alignof(CFRA_resources_ssb_ssb_ResourceList), .size = sizeof(CFRA_resources_ssb_ssb_ResourceList), .lower = 1, .upper = 64, .members = members_CFRA_resources_ssb_ssb_ResourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_CFRA_resources_ssb_ra_ssb_OccasionMaskIndex = {.name = "CFRA_resources_ssb_ra_ssb_OccasionMaskIndex", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 15};
 
@@ -2361,7 +2361,7 @@ constexpr Member members_CFRA_resources_ssb[] = {
     member(type_CFRA_resources_ssb_ra_ssb_OccasionMaskIndex, offsetof(CFRA_resources_ssb, ra_ssb_OccasionMaskIndex)),
 };
 } // namespace
-constexpr Type type_CFRA_resources_ssb = {.name = "CFRA_resources_ssb", .kind = Kind::Sequence, .align = alignof(CFRA_resources_ssb), .size = sizeof(CFRA_resources_ssb), .lower = 0, .upper = 0, .names = names_CFRA_resources_ssb, .members = members_CFRA_resources_ssb, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CFRA_resources_ssb = {.name = "CFRA_resources_ssb", .kind = Kind::Sequence, .align = alignof(CFRA_resources_ssb), .size = sizeof(CFRA_resources_ssb), .lower = 0, .upper = 0, .names = names_CFRA_resources_ssb, .members = members_CFRA_resources_ssb, .memberCount = 2, .rootCount = 2, .plain = true};
 
 constexpr Type type_CSI_RS_Index = {.name = "CSI-RS-Index", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 95};
 
@@ -2373,7 +2373,7 @@ constexpr Member members_CFRA_CSIRS_Resource_ra_OccasionList[] = {
     member(type_CFRA_CSIRS_Resource_ra_OccasionList_element, offsetof(CFRA_CSIRS_Resource_ra_OccasionList, elem)),
 };
 } // namespace
-constexpr Type type_CFRA_CSIRS_Resource_ra_OccasionList = {.name = "CFRA_CSIRS_Resource_ra_OccasionList", .kind = Kind::Array, .width = 1, .align = alignof(CFRA_CSIRS_Resource_ra_OccasionList), .size = sizeof(CFRA_CSIRS_Resource_ra_OccasionList), .lower = 1, .upper = 64, .members = members_CFRA_CSIRS_Resource_ra_OccasionList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CFRA_CSIRS_Resource_ra_OccasionList = {.name = "CFRA_CSIRS_Resource_ra_OccasionList", .kind = Kind::Array, .width = 1, .align = alignof(CFRA_CSIRS_Resource_ra_OccasionList), .size = sizeof(CFRA_CSIRS_Resource_ra_OccasionList), .lower = 1, .upper = 64, .members = members_CFRA_CSIRS_Resource_ra_OccasionList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_CFRA_CSIRS_Resource_ra_PreambleIndex = {.name = "CFRA_CSIRS_Resource_ra_PreambleIndex", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 63};
 
@@ -2386,7 +2386,7 @@ constexpr Member members_CFRA_CSIRS_Resource[] = {
     member(type_CFRA_CSIRS_Resource_ra_PreambleIndex, offsetof(CFRA_CSIRS_Resource, ra_PreambleIndex)),
 };
 } // namespace
-constexpr Type type_CFRA_CSIRS_Resource = {.name = "CFRA-CSIRS-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(CFRA_CSIRS_Resource), .size = sizeof(CFRA_CSIRS_Resource), .lower = 0, .upper = 0, .names = names_CFRA_CSIRS_Resource, .members = members_CFRA_CSIRS_Resource, .memberCount = 3, .rootCount = 3, .extElem = offsetof(CFRA_CSIRS_Resource, extElem1)};
+constexpr Type type_CFRA_CSIRS_Resource = {.name = "CFRA-CSIRS-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(CFRA_CSIRS_Resource), .size = sizeof(CFRA_CSIRS_Resource), .lower = 0, .upper = 0, .names = names_CFRA_CSIRS_Resource, .members = members_CFRA_CSIRS_Resource, .memberCount = 3, .rootCount = 3, .plain = true, .extElem = offsetof(CFRA_CSIRS_Resource, extElem1)};
 
 namespace
 {
@@ -2394,7 +2394,7 @@ constexpr Member members_CFRA_resources_csirs_csirs_ResourceList[] = {
     member(type_CFRA_CSIRS_Resource, 0),
 };
 } // namespace
-constexpr Type type_CFRA_resources_csirs_csirs_ResourceList = {.name = "CFRA_resources_csirs_csirs_ResourceList", .kind = Kind::List, .align = alignof(CFRA_resources_csirs_csirs_ResourceList), .size = sizeof(CFRA_resources_csirs_csirs_ResourceList), .lower = 1, .upper = 96, .members = members_CFRA_resources_csirs_csirs_ResourceList, .memberCount = 1, .rootCount = 1, .bits = 7};
+constexpr Type type_CFRA_resources_csirs_csirs_ResourceList = {.name = "CFRA_resources_csirs_csirs_ResourceList", .kind = Kind::List, .align = alignof(CFRA_resources_csirs_csirs_ResourceList), .size = sizeof(CFRA_resources_csirs_csirs_ResourceList), .lower = 1, .upper = 96, .members = members_CFRA_resources_csirs_csirs_ResourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 7};
 
 namespace
 {
@@ -2404,7 +2404,7 @@ constexpr Member members_CFRA_resources_csirs[] = {
     member(type_RSRP_Range, offsetof(CFRA_resources_csirs, rsrp_ThresholdCSI_RS)),
 };
 } // namespace
-constexpr Type type_CFRA_resources_csirs = {.name = "CFRA_resources_csirs", .kind = Kind::Sequence, .align = alignof(CFRA_resources_csirs), .size = sizeof(CFRA_resources_csirs), .lower = 0, .upper = 0, .names = names_CFRA_resources_csirs, .members = members_CFRA_resources_csirs, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CFRA_resources_csirs = {.name = "CFRA_resources_csirs", .kind = Kind::Sequence, .align = alignof(CFRA_resources_csirs), .size = sizeof(CFRA_resources_csirs), .lower = 0, .upper = 0, .names = names_CFRA_resources_csirs, .members = members_CFRA_resources_csirs, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -2459,7 +2459,7 @@ constexpr rtx::Need needs_RA_Prioritization[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_RA_Prioritization = {.name = "RA-Prioritization", .kind = Kind::Sequence, .extensible = true, .align = alignof(RA_Prioritization), .size = sizeof(RA_Prioritization), .lower = 0, .upper = 0, .names = names_RA_Prioritization, .members = members_RA_Prioritization, .memberCount = 2, .rootCount = 2, .bits = 1, .extElem = offsetof(RA_Prioritization, extElem1), .needs = needs_RA_Prioritization};
+constexpr Type type_RA_Prioritization = {.name = "RA-Prioritization", .kind = Kind::Sequence, .extensible = true, .align = alignof(RA_Prioritization), .size = sizeof(RA_Prioritization), .lower = 0, .upper = 0, .names = names_RA_Prioritization, .members = members_RA_Prioritization, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1, .extElem = offsetof(RA_Prioritization, extElem1), .needs = needs_RA_Prioritization};
 
 namespace
 {
@@ -2509,7 +2509,7 @@ constexpr Member members_SSB_MTC_periodicityAndOffset[] = {
     member(type_SSB_MTC_periodicityAndOffset_sf160, offsetof(SSB_MTC_periodicityAndOffset, u)),
 };
 } // namespace
-constexpr Type type_SSB_MTC_periodicityAndOffset = {.name = "SSB_MTC_periodicityAndOffset", .kind = Kind::Choice, .align = alignof(SSB_MTC_periodicityAndOffset), .size = sizeof(SSB_MTC_periodicityAndOffset), .lower = 0, .upper = 0, .names = names_SSB_MTC_periodicityAndOffset, .members = members_SSB_MTC_periodicityAndOffset, .memberCount = 6, .rootCount = 6, .bits = 3};
+constexpr Type type_SSB_MTC_periodicityAndOffset = {.name = "SSB_MTC_periodicityAndOffset", .kind = Kind::Choice, .align = alignof(SSB_MTC_periodicityAndOffset), .size = sizeof(SSB_MTC_periodicityAndOffset), .lower = 0, .upper = 0, .names = names_SSB_MTC_periodicityAndOffset, .members = members_SSB_MTC_periodicityAndOffset, .memberCount = 6, .rootCount = 6, .plain = true, .bits = 3};
 
 namespace
 {
@@ -2525,7 +2525,7 @@ constexpr Member members_SSB_MTC[] = {
     member(type_SSB_MTC_duration, offsetof(SSB_MTC, duration)),
 };
 } // namespace
-constexpr Type type_SSB_MTC = {.name = "SSB-MTC", .kind = Kind::Sequence, .align = alignof(SSB_MTC), .size = sizeof(SSB_MTC), .lower = 0, .upper = 0, .names = names_SSB_MTC, .members = members_SSB_MTC, .memberCount = 2, .rootCount = 2};
+constexpr Type type_SSB_MTC = {.name = "SSB-MTC", .kind = Kind::Sequence, .align = alignof(SSB_MTC), .size = sizeof(SSB_MTC), .lower = 0, .upper = 0, .names = names_SSB_MTC, .members = members_SSB_MTC, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -2585,7 +2585,7 @@ constexpr Member members_RLF_TimersAndConstants[] = {
 };
 constexpr Addition additions_RLF_TimersAndConstants[] = {{0, 3, 1}, };
 } // namespace
-constexpr Type type_RLF_TimersAndConstants = {.name = "RLF-TimersAndConstants", .kind = Kind::Sequence, .extensible = true, .align = alignof(RLF_TimersAndConstants), .size = sizeof(RLF_TimersAndConstants), .lower = 0, .upper = 0, .names = names_RLF_TimersAndConstants, .members = members_RLF_TimersAndConstants, .memberCount = 4, .rootCount = 3, .additions = additions_RLF_TimersAndConstants, .additionCount = 1, .extElem = offsetof(RLF_TimersAndConstants, extElem1)};
+constexpr Type type_RLF_TimersAndConstants = {.name = "RLF-TimersAndConstants", .kind = Kind::Sequence, .extensible = true, .align = alignof(RLF_TimersAndConstants), .size = sizeof(RLF_TimersAndConstants), .lower = 0, .upper = 0, .names = names_RLF_TimersAndConstants, .members = members_RLF_TimersAndConstants, .memberCount = 4, .rootCount = 3, .plain = true, .additions = additions_RLF_TimersAndConstants, .additionCount = 1, .extElem = offsetof(RLF_TimersAndConstants, extElem1)};
 
 namespace
 {
@@ -2625,7 +2625,7 @@ constexpr rtx::Need needs_TDD_UL_DL_SlotConfig_symbols_explicit_[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_TDD_UL_DL_SlotConfig_symbols_explicit_ = {.name = "TDD_UL_DL_SlotConfig_symbols_explicit_", .kind = Kind::Sequence, .align = alignof(TDD_UL_DL_SlotConfig_symbols_explicit_), .size = sizeof(TDD_UL_DL_SlotConfig_symbols_explicit_), .lower = 0, .upper = 0, .names = names_TDD_UL_DL_SlotConfig_symbols_explicit_, .members = members_TDD_UL_DL_SlotConfig_symbols_explicit_, .memberCount = 2, .rootCount = 2, .bits = 2, .needs = needs_TDD_UL_DL_SlotConfig_symbols_explicit_};
+constexpr Type type_TDD_UL_DL_SlotConfig_symbols_explicit_ = {.name = "TDD_UL_DL_SlotConfig_symbols_explicit_", .kind = Kind::Sequence, .align = alignof(TDD_UL_DL_SlotConfig_symbols_explicit_), .size = sizeof(TDD_UL_DL_SlotConfig_symbols_explicit_), .lower = 0, .upper = 0, .names = names_TDD_UL_DL_SlotConfig_symbols_explicit_, .members = members_TDD_UL_DL_SlotConfig_symbols_explicit_, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .needs = needs_TDD_UL_DL_SlotConfig_symbols_explicit_};
 
 namespace
 {
@@ -2662,7 +2662,7 @@ constexpr Member members_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsTor
     member(type_TDD_UL_DL_SlotIndex, offsetof(TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList, elem)),
 };
 } // namespace
-constexpr Type type_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList = {.name = "TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList", .kind = Kind::Array, .width = 2, .align = alignof(TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList), .size = sizeof(TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList), .lower = 1, .upper = 320, .members = members_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList, .memberCount = 1, .rootCount = 1, .bits = 9};
+constexpr Type type_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList = {.name = "TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList", .kind = Kind::Array, .width = 2, .align = alignof(TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList), .size = sizeof(TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList), .lower = 1, .upper = 320, .members = members_TDD_UL_DL_ConfigDedicated_slotSpecificConfigurationsToreleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 9};
 
 namespace
 {
@@ -2694,7 +2694,7 @@ constexpr Member members_PDCCH_Config_controlResourceSetToReleaseList[] = {
     member(type_ControlResourceSetId, offsetof(PDCCH_Config_controlResourceSetToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_Config_controlResourceSetToReleaseList = {.name = "PDCCH_Config_controlResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_Config_controlResourceSetToReleaseList), .size = sizeof(PDCCH_Config_controlResourceSetToReleaseList), .lower = 1, .upper = 3, .members = members_PDCCH_Config_controlResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDCCH_Config_controlResourceSetToReleaseList = {.name = "PDCCH_Config_controlResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_Config_controlResourceSetToReleaseList), .size = sizeof(PDCCH_Config_controlResourceSetToReleaseList), .lower = 1, .upper = 3, .members = members_PDCCH_Config_controlResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -2710,7 +2710,7 @@ constexpr Member members_PDCCH_Config_searchSpacesToReleaseList[] = {
     member(type_SearchSpaceId, offsetof(PDCCH_Config_searchSpacesToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDCCH_Config_searchSpacesToReleaseList = {.name = "PDCCH_Config_searchSpacesToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_Config_searchSpacesToReleaseList), .size = sizeof(PDCCH_Config_searchSpacesToReleaseList), .lower = 1, .upper = 10, .members = members_PDCCH_Config_searchSpacesToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_PDCCH_Config_searchSpacesToReleaseList = {.name = "PDCCH_Config_searchSpacesToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDCCH_Config_searchSpacesToReleaseList), .size = sizeof(PDCCH_Config_searchSpacesToReleaseList), .lower = 1, .upper = 10, .members = members_PDCCH_Config_searchSpacesToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 constexpr Type type_PDCCH_Config_downlinkPreemption_release = {.name = "PDCCH_Config_downlinkPreemption_release", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -2732,7 +2732,7 @@ constexpr Member members_INT_ConfigurationPerServingCell[] = {
     member(type_INT_ConfigurationPerServingCell_positionInDCI, offsetof(INT_ConfigurationPerServingCell, positionInDCI)),
 };
 } // namespace
-constexpr Type type_INT_ConfigurationPerServingCell = {.name = "INT-ConfigurationPerServingCell", .kind = Kind::Sequence, .align = alignof(INT_ConfigurationPerServingCell), .size = sizeof(INT_ConfigurationPerServingCell), .lower = 0, .upper = 0, .names = names_INT_ConfigurationPerServingCell, .members = members_INT_ConfigurationPerServingCell, .memberCount = 2, .rootCount = 2};
+constexpr Type type_INT_ConfigurationPerServingCell = {.name = "INT-ConfigurationPerServingCell", .kind = Kind::Sequence, .align = alignof(INT_ConfigurationPerServingCell), .size = sizeof(INT_ConfigurationPerServingCell), .lower = 0, .upper = 0, .names = names_INT_ConfigurationPerServingCell, .members = members_INT_ConfigurationPerServingCell, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -2740,7 +2740,7 @@ constexpr Member members_DownlinkPreemption_int_ConfigurationPerServingCell[] = 
     member(type_INT_ConfigurationPerServingCell, 0),
 };
 } // namespace
-constexpr Type type_DownlinkPreemption_int_ConfigurationPerServingCell = {.name = "DownlinkPreemption_int_ConfigurationPerServingCell", .kind = Kind::List, .align = alignof(DownlinkPreemption_int_ConfigurationPerServingCell), .size = sizeof(DownlinkPreemption_int_ConfigurationPerServingCell), .lower = 1, .upper = 32, .members = members_DownlinkPreemption_int_ConfigurationPerServingCell, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_DownlinkPreemption_int_ConfigurationPerServingCell = {.name = "DownlinkPreemption_int_ConfigurationPerServingCell", .kind = Kind::List, .align = alignof(DownlinkPreemption_int_ConfigurationPerServingCell), .size = sizeof(DownlinkPreemption_int_ConfigurationPerServingCell), .lower = 1, .upper = 32, .members = members_DownlinkPreemption_int_ConfigurationPerServingCell, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 namespace
 {
@@ -2752,7 +2752,7 @@ constexpr Member members_DownlinkPreemption[] = {
     member(type_DownlinkPreemption_int_ConfigurationPerServingCell, offsetof(DownlinkPreemption, int_ConfigurationPerServingCell)),
 };
 } // namespace
-constexpr Type type_DownlinkPreemption = {.name = "DownlinkPreemption", .kind = Kind::Sequence, .extensible = true, .align = alignof(DownlinkPreemption), .size = sizeof(DownlinkPreemption), .lower = 0, .upper = 0, .names = names_DownlinkPreemption, .members = members_DownlinkPreemption, .memberCount = 4, .rootCount = 4, .extElem = offsetof(DownlinkPreemption, extElem1)};
+constexpr Type type_DownlinkPreemption = {.name = "DownlinkPreemption", .kind = Kind::Sequence, .extensible = true, .align = alignof(DownlinkPreemption), .size = sizeof(DownlinkPreemption), .lower = 0, .upper = 0, .names = names_DownlinkPreemption, .members = members_DownlinkPreemption, .memberCount = 4, .rootCount = 4, .plain = true, .extElem = offsetof(DownlinkPreemption, extElem1)};
 
 namespace
 {
@@ -2784,7 +2784,7 @@ constexpr rtx::Need needs_PUSCH_TPC_CommandConfig[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_PUSCH_TPC_CommandConfig = {.name = "PUSCH-TPC-CommandConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUSCH_TPC_CommandConfig), .size = sizeof(PUSCH_TPC_CommandConfig), .lower = 0, .upper = 0, .names = names_PUSCH_TPC_CommandConfig, .members = members_PUSCH_TPC_CommandConfig, .memberCount = 3, .rootCount = 3, .bits = 3, .extElem = offsetof(PUSCH_TPC_CommandConfig, extElem1), .needs = needs_PUSCH_TPC_CommandConfig};
+constexpr Type type_PUSCH_TPC_CommandConfig = {.name = "PUSCH-TPC-CommandConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUSCH_TPC_CommandConfig), .size = sizeof(PUSCH_TPC_CommandConfig), .lower = 0, .upper = 0, .names = names_PUSCH_TPC_CommandConfig, .members = members_PUSCH_TPC_CommandConfig, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 3, .extElem = offsetof(PUSCH_TPC_CommandConfig, extElem1), .needs = needs_PUSCH_TPC_CommandConfig};
 
 namespace
 {
@@ -2814,7 +2814,7 @@ constexpr rtx::Need needs_PUCCH_TPC_CommandConfig[] = {
     {.absence = Absence::Clear, .condition = "PDCCH-ofSpCellOrPUCCH-Scell"},
 };
 } // namespace
-constexpr Type type_PUCCH_TPC_CommandConfig = {.name = "PUCCH-TPC-CommandConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUCCH_TPC_CommandConfig), .size = sizeof(PUCCH_TPC_CommandConfig), .lower = 0, .upper = 0, .names = names_PUCCH_TPC_CommandConfig, .members = members_PUCCH_TPC_CommandConfig, .memberCount = 2, .rootCount = 2, .bits = 2, .extElem = offsetof(PUCCH_TPC_CommandConfig, extElem1), .needs = needs_PUCCH_TPC_CommandConfig};
+constexpr Type type_PUCCH_TPC_CommandConfig = {.name = "PUCCH-TPC-CommandConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUCCH_TPC_CommandConfig), .size = sizeof(PUCCH_TPC_CommandConfig), .lower = 0, .upper = 0, .names = names_PUCCH_TPC_CommandConfig, .members = members_PUCCH_TPC_CommandConfig, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .extElem = offsetof(PUCCH_TPC_CommandConfig, extElem1), .needs = needs_PUCCH_TPC_CommandConfig};
 
 namespace
 {
@@ -2849,7 +2849,7 @@ constexpr rtx::Need needs_SRS_TPC_CommandConfig[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_SRS_TPC_CommandConfig = {.name = "SRS-TPC-CommandConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_TPC_CommandConfig), .size = sizeof(SRS_TPC_CommandConfig), .lower = 0, .upper = 0, .names = names_SRS_TPC_CommandConfig, .members = members_SRS_TPC_CommandConfig, .memberCount = 3, .rootCount = 2, .additions = additions_SRS_TPC_CommandConfig, .additionCount = 1, .bits = 2, .extElem = offsetof(SRS_TPC_CommandConfig, extElem1), .needs = needs_SRS_TPC_CommandConfig};
+constexpr Type type_SRS_TPC_CommandConfig = {.name = "SRS-TPC-CommandConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_TPC_CommandConfig), .size = sizeof(SRS_TPC_CommandConfig), .lower = 0, .upper = 0, .names = names_SRS_TPC_CommandConfig, .members = members_SRS_TPC_CommandConfig, .memberCount = 3, .rootCount = 2, .plain = true, .additions = additions_SRS_TPC_CommandConfig, .additionCount = 1, .bits = 2, .extElem = offsetof(SRS_TPC_CommandConfig, extElem1), .needs = needs_SRS_TPC_CommandConfig};
 
 namespace
 {
@@ -2935,7 +2935,7 @@ constexpr Member members_PTRS_DownlinkConfig_frequencyDensity[] = {
     member(type_PTRS_DownlinkConfig_frequencyDensity_element, offsetof(PTRS_DownlinkConfig_frequencyDensity, elem)),
 };
 } // namespace
-constexpr Type type_PTRS_DownlinkConfig_frequencyDensity = {.name = "PTRS_DownlinkConfig_frequencyDensity", .kind = Kind::Array, .align = alignof(PTRS_DownlinkConfig_frequencyDensity), .size = sizeof(PTRS_DownlinkConfig_frequencyDensity), .lower = 2, .upper = 2, .members = members_PTRS_DownlinkConfig_frequencyDensity, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PTRS_DownlinkConfig_frequencyDensity = {.name = "PTRS_DownlinkConfig_frequencyDensity", .kind = Kind::Array, .align = alignof(PTRS_DownlinkConfig_frequencyDensity), .size = sizeof(PTRS_DownlinkConfig_frequencyDensity), .lower = 2, .upper = 2, .members = members_PTRS_DownlinkConfig_frequencyDensity, .memberCount = 1, .rootCount = 1, .plain = true};
 
 constexpr Type type_PTRS_DownlinkConfig_timeDensity_element = {.name = "PTRS_DownlinkConfig_timeDensity_element", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 29};
 
@@ -2945,7 +2945,7 @@ constexpr Member members_PTRS_DownlinkConfig_timeDensity[] = {
     member(type_PTRS_DownlinkConfig_timeDensity_element, offsetof(PTRS_DownlinkConfig_timeDensity, elem)),
 };
 } // namespace
-constexpr Type type_PTRS_DownlinkConfig_timeDensity = {.name = "PTRS_DownlinkConfig_timeDensity", .kind = Kind::Array, .align = alignof(PTRS_DownlinkConfig_timeDensity), .size = sizeof(PTRS_DownlinkConfig_timeDensity), .lower = 3, .upper = 3, .members = members_PTRS_DownlinkConfig_timeDensity, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PTRS_DownlinkConfig_timeDensity = {.name = "PTRS_DownlinkConfig_timeDensity", .kind = Kind::Array, .align = alignof(PTRS_DownlinkConfig_timeDensity), .size = sizeof(PTRS_DownlinkConfig_timeDensity), .lower = 3, .upper = 3, .members = members_PTRS_DownlinkConfig_timeDensity, .memberCount = 1, .rootCount = 1, .plain = true};
 
 constexpr Type type_PTRS_DownlinkConfig_epre_Ratio = {.name = "PTRS_DownlinkConfig_epre_Ratio", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 3};
 
@@ -2971,7 +2971,7 @@ constexpr rtx::Need needs_PTRS_DownlinkConfig[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_PTRS_DownlinkConfig = {.name = "PTRS-DownlinkConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PTRS_DownlinkConfig), .size = sizeof(PTRS_DownlinkConfig), .lower = 0, .upper = 0, .names = names_PTRS_DownlinkConfig, .members = members_PTRS_DownlinkConfig, .memberCount = 4, .rootCount = 4, .bits = 4, .extElem = offsetof(PTRS_DownlinkConfig, extElem1), .needs = needs_PTRS_DownlinkConfig};
+constexpr Type type_PTRS_DownlinkConfig = {.name = "PTRS-DownlinkConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PTRS_DownlinkConfig), .size = sizeof(PTRS_DownlinkConfig), .lower = 0, .upper = 0, .names = names_PTRS_DownlinkConfig, .members = members_PTRS_DownlinkConfig, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 4, .extElem = offsetof(PTRS_DownlinkConfig, extElem1), .needs = needs_PTRS_DownlinkConfig};
 
 namespace
 {
@@ -3039,7 +3039,7 @@ constexpr Member members_QCL_Info_referenceSignal[] = {
     member(type_SSB_Index, offsetof(QCL_Info_referenceSignal, u)),
 };
 } // namespace
-constexpr Type type_QCL_Info_referenceSignal = {.name = "QCL_Info_referenceSignal", .kind = Kind::Choice, .align = alignof(QCL_Info_referenceSignal), .size = sizeof(QCL_Info_referenceSignal), .lower = 0, .upper = 0, .names = names_QCL_Info_referenceSignal, .members = members_QCL_Info_referenceSignal, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_QCL_Info_referenceSignal = {.name = "QCL_Info_referenceSignal", .kind = Kind::Choice, .align = alignof(QCL_Info_referenceSignal), .size = sizeof(QCL_Info_referenceSignal), .lower = 0, .upper = 0, .names = names_QCL_Info_referenceSignal, .members = members_QCL_Info_referenceSignal, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -3063,7 +3063,7 @@ constexpr rtx::Need needs_QCL_Info[] = {
     {},
 };
 } // namespace
-constexpr Type type_QCL_Info = {.name = "QCL-Info", .kind = Kind::Sequence, .extensible = true, .align = alignof(QCL_Info), .size = sizeof(QCL_Info), .lower = 0, .upper = 0, .names = names_QCL_Info, .members = members_QCL_Info, .memberCount = 4, .rootCount = 4, .bits = 2, .extElem = offsetof(QCL_Info, extElem1), .needs = needs_QCL_Info};
+constexpr Type type_QCL_Info = {.name = "QCL-Info", .kind = Kind::Sequence, .extensible = true, .align = alignof(QCL_Info), .size = sizeof(QCL_Info), .lower = 0, .upper = 0, .names = names_QCL_Info, .members = members_QCL_Info, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 2, .extElem = offsetof(QCL_Info, extElem1), .needs = needs_QCL_Info};
 
 namespace
 {
@@ -3079,7 +3079,7 @@ constexpr rtx::Need needs_TCI_State[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_TCI_State = {.name = "TCI-State", .kind = Kind::Sequence, .extensible = true, .align = alignof(TCI_State), .size = sizeof(TCI_State), .lower = 0, .upper = 0, .names = names_TCI_State, .members = members_TCI_State, .memberCount = 3, .rootCount = 3, .bits = 1, .extElem = offsetof(TCI_State, extElem1), .needs = needs_TCI_State};
+constexpr Type type_TCI_State = {.name = "TCI-State", .kind = Kind::Sequence, .extensible = true, .align = alignof(TCI_State), .size = sizeof(TCI_State), .lower = 0, .upper = 0, .names = names_TCI_State, .members = members_TCI_State, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .extElem = offsetof(TCI_State, extElem1), .needs = needs_TCI_State};
 
 namespace
 {
@@ -3095,7 +3095,7 @@ constexpr Member members_PDSCH_Config_tci_StatesToReleaseList[] = {
     member(type_TCI_StateId, offsetof(PDSCH_Config_tci_StatesToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDSCH_Config_tci_StatesToReleaseList = {.name = "PDSCH_Config_tci_StatesToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_tci_StatesToReleaseList), .size = sizeof(PDSCH_Config_tci_StatesToReleaseList), .lower = 1, .upper = 128, .members = members_PDSCH_Config_tci_StatesToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 7};
+constexpr Type type_PDSCH_Config_tci_StatesToReleaseList = {.name = "PDSCH_Config_tci_StatesToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_tci_StatesToReleaseList), .size = sizeof(PDSCH_Config_tci_StatesToReleaseList), .lower = 1, .upper = 128, .members = members_PDSCH_Config_tci_StatesToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 7};
 
 namespace
 {
@@ -3141,7 +3141,7 @@ constexpr Member members_PDSCH_Config_rateMatchPatternToReleaseList[] = {
     member(type_RateMatchPatternId, offsetof(PDSCH_Config_rateMatchPatternToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDSCH_Config_rateMatchPatternToReleaseList = {.name = "PDSCH_Config_rateMatchPatternToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_rateMatchPatternToReleaseList), .size = sizeof(PDSCH_Config_rateMatchPatternToReleaseList), .lower = 1, .upper = 4, .members = members_PDSCH_Config_rateMatchPatternToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PDSCH_Config_rateMatchPatternToReleaseList = {.name = "PDSCH_Config_rateMatchPatternToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_rateMatchPatternToReleaseList), .size = sizeof(PDSCH_Config_rateMatchPatternToReleaseList), .lower = 1, .upper = 4, .members = members_PDSCH_Config_rateMatchPatternToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -3151,7 +3151,7 @@ constexpr Member members_RateMatchPatternGroup_element[] = {
     member(type_RateMatchPatternId, offsetof(RateMatchPatternGroup_element, u)),
 };
 } // namespace
-constexpr Type type_RateMatchPatternGroup_element = {.name = "RateMatchPatternGroup_element", .kind = Kind::Choice, .align = alignof(RateMatchPatternGroup_element), .size = sizeof(RateMatchPatternGroup_element), .lower = 0, .upper = 0, .names = names_RateMatchPatternGroup_element, .members = members_RateMatchPatternGroup_element, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_RateMatchPatternGroup_element = {.name = "RateMatchPatternGroup_element", .kind = Kind::Choice, .align = alignof(RateMatchPatternGroup_element), .size = sizeof(RateMatchPatternGroup_element), .lower = 0, .upper = 0, .names = names_RateMatchPatternGroup_element, .members = members_RateMatchPatternGroup_element, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -3159,7 +3159,7 @@ constexpr Member members_RateMatchPatternGroup[] = {
     member(type_RateMatchPatternGroup_element, 0),
 };
 } // namespace
-constexpr Type type_RateMatchPatternGroup = {.name = "RateMatchPatternGroup", .kind = Kind::List, .align = alignof(RateMatchPatternGroup), .size = sizeof(RateMatchPatternGroup), .lower = 1, .upper = 8, .members = members_RateMatchPatternGroup, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_RateMatchPatternGroup = {.name = "RateMatchPatternGroup", .kind = Kind::List, .align = alignof(RateMatchPatternGroup), .size = sizeof(RateMatchPatternGroup), .lower = 1, .upper = 8, .members = members_RateMatchPatternGroup, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -3195,7 +3195,7 @@ constexpr rtx::Need needs_PDSCH_Config_prb_BundlingType_staticBundling[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_PDSCH_Config_prb_BundlingType_staticBundling = {.name = "PDSCH_Config_prb_BundlingType_staticBundling", .kind = Kind::Sequence, .align = alignof(PDSCH_Config_prb_BundlingType_staticBundling), .size = sizeof(PDSCH_Config_prb_BundlingType_staticBundling), .lower = 0, .upper = 0, .names = names_PDSCH_Config_prb_BundlingType_staticBundling, .members = members_PDSCH_Config_prb_BundlingType_staticBundling, .memberCount = 1, .rootCount = 1, .bits = 1, .needs = needs_PDSCH_Config_prb_BundlingType_staticBundling};
+constexpr Type type_PDSCH_Config_prb_BundlingType_staticBundling = {.name = "PDSCH_Config_prb_BundlingType_staticBundling", .kind = Kind::Sequence, .align = alignof(PDSCH_Config_prb_BundlingType_staticBundling), .size = sizeof(PDSCH_Config_prb_BundlingType_staticBundling), .lower = 0, .upper = 0, .names = names_PDSCH_Config_prb_BundlingType_staticBundling, .members = members_PDSCH_Config_prb_BundlingType_staticBundling, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .needs = needs_PDSCH_Config_prb_BundlingType_staticBundling};
 
 namespace
 {
@@ -3221,7 +3221,7 @@ constexpr rtx::Need needs_PDSCH_Config_prb_BundlingType_dynamicBundling[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_PDSCH_Config_prb_BundlingType_dynamicBundling = {.name = "PDSCH_Config_prb_BundlingType_dynamicBundling", .kind = Kind::Sequence, .align = alignof(PDSCH_Config_prb_BundlingType_dynamicBundling), .size = sizeof(PDSCH_Config_prb_BundlingType_dynamicBundling), .lower = 0, .upper = 0, .names = names_PDSCH_Config_prb_BundlingType_dynamicBundling, .members = members_PDSCH_Config_prb_BundlingType_dynamicBundling, .memberCount = 2, .rootCount = 2, .bits = 2, .needs = needs_PDSCH_Config_prb_BundlingType_dynamicBundling};
+constexpr Type type_PDSCH_Config_prb_BundlingType_dynamicBundling = {.name = "PDSCH_Config_prb_BundlingType_dynamicBundling", .kind = Kind::Sequence, .align = alignof(PDSCH_Config_prb_BundlingType_dynamicBundling), .size = sizeof(PDSCH_Config_prb_BundlingType_dynamicBundling), .lower = 0, .upper = 0, .names = names_PDSCH_Config_prb_BundlingType_dynamicBundling, .members = members_PDSCH_Config_prb_BundlingType_dynamicBundling, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .needs = needs_PDSCH_Config_prb_BundlingType_dynamicBundling};
 
 namespace
 {
@@ -3293,7 +3293,7 @@ constexpr Member members_CSI_RS_ResourceMapping_density[] = {
     member(type_CSI_RS_ResourceMapping_density_spare, offsetof(CSI_RS_ResourceMapping_density, u)),
 };
 } // namespace
-constexpr Type type_CSI_RS_ResourceMapping_density = {.name = "CSI_RS_ResourceMapping_density", .kind = Kind::Choice, .align = alignof(CSI_RS_ResourceMapping_density), .size = sizeof(CSI_RS_ResourceMapping_density), .lower = 0, .upper = 0, .names = names_CSI_RS_ResourceMapping_density, .members = members_CSI_RS_ResourceMapping_density, .memberCount = 4, .rootCount = 4, .bits = 2};
+constexpr Type type_CSI_RS_ResourceMapping_density = {.name = "CSI_RS_ResourceMapping_density", .kind = Kind::Choice, .align = alignof(CSI_RS_ResourceMapping_density), .size = sizeof(CSI_RS_ResourceMapping_density), .lower = 0, .upper = 0, .names = names_CSI_RS_ResourceMapping_density, .members = members_CSI_RS_ResourceMapping_density, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 2};
 
 constexpr Type type_CSI_FrequencyOccupation_startingRB = {.name = "CSI_FrequencyOccupation_startingRB", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 274};
 
@@ -3307,7 +3307,7 @@ constexpr Member members_CSI_FrequencyOccupation[] = {
     member(type_CSI_FrequencyOccupation_nrofRBs, offsetof(CSI_FrequencyOccupation, nrofRBs)),
 };
 } // namespace
-constexpr Type type_CSI_FrequencyOccupation = {.name = "CSI-FrequencyOccupation", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_FrequencyOccupation), .size = sizeof(CSI_FrequencyOccupation), .lower = 0, .upper = 0, .names = names_CSI_FrequencyOccupation, .members = members_CSI_FrequencyOccupation, .memberCount = 2, .rootCount = 2, .extElem = offsetof(CSI_FrequencyOccupation, extElem1)};
+constexpr Type type_CSI_FrequencyOccupation = {.name = "CSI-FrequencyOccupation", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_FrequencyOccupation), .size = sizeof(CSI_FrequencyOccupation), .lower = 0, .upper = 0, .names = names_CSI_FrequencyOccupation, .members = members_CSI_FrequencyOccupation, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(CSI_FrequencyOccupation, extElem1)};
 
 namespace
 {
@@ -3378,7 +3378,7 @@ constexpr Member members_CSI_ResourcePeriodicityAndOffset[] = {
     member(type_CSI_ResourcePeriodicityAndOffset_slots640, offsetof(CSI_ResourcePeriodicityAndOffset, u)),
 };
 } // namespace
-constexpr Type type_CSI_ResourcePeriodicityAndOffset = {.name = "CSI-ResourcePeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(CSI_ResourcePeriodicityAndOffset), .size = sizeof(CSI_ResourcePeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_CSI_ResourcePeriodicityAndOffset, .members = members_CSI_ResourcePeriodicityAndOffset, .memberCount = 13, .rootCount = 13, .bits = 4};
+constexpr Type type_CSI_ResourcePeriodicityAndOffset = {.name = "CSI-ResourcePeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(CSI_ResourcePeriodicityAndOffset), .size = sizeof(CSI_ResourcePeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_CSI_ResourcePeriodicityAndOffset, .members = members_CSI_ResourcePeriodicityAndOffset, .memberCount = 13, .rootCount = 13, .plain = true, .bits = 4};
 
 namespace
 {
@@ -3410,7 +3410,7 @@ constexpr Member members_PDSCH_Config_zp_CSI_RS_ResourceToReleaseList[] = {
     member(type_ZP_CSI_RS_ResourceId, offsetof(PDSCH_Config_zp_CSI_RS_ResourceToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDSCH_Config_zp_CSI_RS_ResourceToReleaseList = {.name = "PDSCH_Config_zp_CSI_RS_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_zp_CSI_RS_ResourceToReleaseList), .size = sizeof(PDSCH_Config_zp_CSI_RS_ResourceToReleaseList), .lower = 1, .upper = 32, .members = members_PDSCH_Config_zp_CSI_RS_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_PDSCH_Config_zp_CSI_RS_ResourceToReleaseList = {.name = "PDSCH_Config_zp_CSI_RS_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_zp_CSI_RS_ResourceToReleaseList), .size = sizeof(PDSCH_Config_zp_CSI_RS_ResourceToReleaseList), .lower = 1, .upper = 32, .members = members_PDSCH_Config_zp_CSI_RS_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 constexpr Type type_ZP_CSI_RS_ResourceSetId = {.name = "ZP-CSI-RS-ResourceSetId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 15};
 
@@ -3420,7 +3420,7 @@ constexpr Member members_ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList[] = {
     member(type_ZP_CSI_RS_ResourceId, offsetof(ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList, elem)),
 };
 } // namespace
-constexpr Type type_ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList = {.name = "ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList", .kind = Kind::Array, .width = 1, .align = alignof(ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList), .size = sizeof(ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList), .lower = 1, .upper = 16, .members = members_ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList = {.name = "ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList", .kind = Kind::Array, .width = 1, .align = alignof(ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList), .size = sizeof(ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList), .lower = 1, .upper = 16, .members = members_ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -3430,7 +3430,7 @@ constexpr Member members_ZP_CSI_RS_ResourceSet[] = {
     member(type_ZP_CSI_RS_ResourceSet_zp_CSI_RS_ResourceIdList, offsetof(ZP_CSI_RS_ResourceSet, zp_CSI_RS_ResourceIdList)),
 };
 } // namespace
-constexpr Type type_ZP_CSI_RS_ResourceSet = {.name = "ZP-CSI-RS-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(ZP_CSI_RS_ResourceSet), .size = sizeof(ZP_CSI_RS_ResourceSet), .lower = 0, .upper = 0, .names = names_ZP_CSI_RS_ResourceSet, .members = members_ZP_CSI_RS_ResourceSet, .memberCount = 2, .rootCount = 2, .extElem = offsetof(ZP_CSI_RS_ResourceSet, extElem1)};
+constexpr Type type_ZP_CSI_RS_ResourceSet = {.name = "ZP-CSI-RS-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(ZP_CSI_RS_ResourceSet), .size = sizeof(ZP_CSI_RS_ResourceSet), .lower = 0, .upper = 0, .names = names_ZP_CSI_RS_ResourceSet, .members = members_ZP_CSI_RS_ResourceSet, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(ZP_CSI_RS_ResourceSet, extElem1)};
 
 namespace
 {
@@ -3446,7 +3446,7 @@ constexpr Member members_PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseL
     member(type_ZP_CSI_RS_ResourceSetId, offsetof(PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList = {.name = "PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList), .size = sizeof(PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList), .lower = 1, .upper = 16, .members = members_PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList = {.name = "PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList), .size = sizeof(PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList), .lower = 1, .upper = 16, .members = members_PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -3462,7 +3462,7 @@ constexpr Member members_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList[] =
     member(type_ZP_CSI_RS_ResourceSetId, offsetof(PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList = {.name = "PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList), .size = sizeof(PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList), .lower = 1, .upper = 16, .members = members_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList = {.name = "PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList), .size = sizeof(PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList), .lower = 1, .upper = 16, .members = members_PDSCH_Config_sp_ZP_CSI_RS_ResourceSetsToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 constexpr Type type_PDSCH_Config_p_ZP_CSI_RS_ResourceSet_release = {.name = "PDSCH_Config_p_ZP_CSI_RS_ResourceSet_release", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -3578,7 +3578,7 @@ constexpr rtx::Need needs_SPS_Config[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_SPS_Config = {.name = "SPS-Config", .kind = Kind::Sequence, .extensible = true, .align = alignof(SPS_Config), .size = sizeof(SPS_Config), .lower = 0, .upper = 0, .names = names_SPS_Config, .members = members_SPS_Config, .memberCount = 4, .rootCount = 4, .bits = 2, .extElem = offsetof(SPS_Config, extElem1), .needs = needs_SPS_Config};
+constexpr Type type_SPS_Config = {.name = "SPS-Config", .kind = Kind::Sequence, .extensible = true, .align = alignof(SPS_Config), .size = sizeof(SPS_Config), .lower = 0, .upper = 0, .names = names_SPS_Config, .members = members_SPS_Config, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 2, .extElem = offsetof(SPS_Config, extElem1), .needs = needs_SPS_Config};
 
 namespace
 {
@@ -3608,7 +3608,7 @@ constexpr Member members_RadioLinkMonitoringRS_detectionResource[] = {
     member(type_NZP_CSI_RS_ResourceId, offsetof(RadioLinkMonitoringRS_detectionResource, u)),
 };
 } // namespace
-constexpr Type type_RadioLinkMonitoringRS_detectionResource = {.name = "RadioLinkMonitoringRS_detectionResource", .kind = Kind::Choice, .align = alignof(RadioLinkMonitoringRS_detectionResource), .size = sizeof(RadioLinkMonitoringRS_detectionResource), .lower = 0, .upper = 0, .names = names_RadioLinkMonitoringRS_detectionResource, .members = members_RadioLinkMonitoringRS_detectionResource, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_RadioLinkMonitoringRS_detectionResource = {.name = "RadioLinkMonitoringRS_detectionResource", .kind = Kind::Choice, .align = alignof(RadioLinkMonitoringRS_detectionResource), .size = sizeof(RadioLinkMonitoringRS_detectionResource), .lower = 0, .upper = 0, .names = names_RadioLinkMonitoringRS_detectionResource, .members = members_RadioLinkMonitoringRS_detectionResource, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -3619,7 +3619,7 @@ constexpr Member members_RadioLinkMonitoringRS[] = {
     member(type_RadioLinkMonitoringRS_detectionResource, offsetof(RadioLinkMonitoringRS, detectionResource)),
 };
 } // namespace
-constexpr Type type_RadioLinkMonitoringRS = {.name = "RadioLinkMonitoringRS", .kind = Kind::Sequence, .extensible = true, .align = alignof(RadioLinkMonitoringRS), .size = sizeof(RadioLinkMonitoringRS), .lower = 0, .upper = 0, .names = names_RadioLinkMonitoringRS, .members = members_RadioLinkMonitoringRS, .memberCount = 3, .rootCount = 3, .extElem = offsetof(RadioLinkMonitoringRS, extElem1)};
+constexpr Type type_RadioLinkMonitoringRS = {.name = "RadioLinkMonitoringRS", .kind = Kind::Sequence, .extensible = true, .align = alignof(RadioLinkMonitoringRS), .size = sizeof(RadioLinkMonitoringRS), .lower = 0, .upper = 0, .names = names_RadioLinkMonitoringRS, .members = members_RadioLinkMonitoringRS, .memberCount = 3, .rootCount = 3, .plain = true, .extElem = offsetof(RadioLinkMonitoringRS, extElem1)};
 
 namespace
 {
@@ -3635,7 +3635,7 @@ constexpr Member members_RadioLinkMonitoringConfig_failureDetectionResourcesToRe
     member(type_RadioLinkMonitoringRS_Id, offsetof(RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList = {.name = "RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList), .size = sizeof(RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList), .lower = 1, .upper = 10, .members = members_RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList = {.name = "RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList), .size = sizeof(RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList), .lower = 1, .upper = 10, .members = members_RadioLinkMonitoringConfig_failureDetectionResourcesToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -3701,7 +3701,7 @@ constexpr Member members_ServingCellConfig_downlinkBWP_ToReleaseList[] = {
     member(type_BWP_Id, offsetof(ServingCellConfig_downlinkBWP_ToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_ServingCellConfig_downlinkBWP_ToReleaseList = {.name = "ServingCellConfig_downlinkBWP_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ServingCellConfig_downlinkBWP_ToReleaseList), .size = sizeof(ServingCellConfig_downlinkBWP_ToReleaseList), .lower = 1, .upper = 4, .members = members_ServingCellConfig_downlinkBWP_ToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_ServingCellConfig_downlinkBWP_ToReleaseList = {.name = "ServingCellConfig_downlinkBWP_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ServingCellConfig_downlinkBWP_ToReleaseList), .size = sizeof(ServingCellConfig_downlinkBWP_ToReleaseList), .lower = 1, .upper = 4, .members = members_ServingCellConfig_downlinkBWP_ToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -3743,7 +3743,7 @@ constexpr Member members_PUCCH_ResourceSet_resourceList[] = {
     member(type_PUCCH_ResourceId, offsetof(PUCCH_ResourceSet_resourceList, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_ResourceSet_resourceList = {.name = "PUCCH_ResourceSet_resourceList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_ResourceSet_resourceList), .size = sizeof(PUCCH_ResourceSet_resourceList), .lower = 1, .upper = 32, .members = members_PUCCH_ResourceSet_resourceList, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_PUCCH_ResourceSet_resourceList = {.name = "PUCCH_ResourceSet_resourceList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_ResourceSet_resourceList), .size = sizeof(PUCCH_ResourceSet_resourceList), .lower = 1, .upper = 32, .members = members_PUCCH_ResourceSet_resourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 constexpr Type type_PUCCH_ResourceSet_maxPayloadMinus1 = {.name = "PUCCH_ResourceSet_maxPayloadMinus1", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 4, .upper = 256};
 
@@ -3761,7 +3761,7 @@ constexpr rtx::Need needs_PUCCH_ResourceSet[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PUCCH_ResourceSet = {.name = "PUCCH-ResourceSet", .kind = Kind::Sequence, .align = alignof(PUCCH_ResourceSet), .size = sizeof(PUCCH_ResourceSet), .lower = 0, .upper = 0, .names = names_PUCCH_ResourceSet, .members = members_PUCCH_ResourceSet, .memberCount = 3, .rootCount = 3, .bits = 1, .needs = needs_PUCCH_ResourceSet};
+constexpr Type type_PUCCH_ResourceSet = {.name = "PUCCH-ResourceSet", .kind = Kind::Sequence, .align = alignof(PUCCH_ResourceSet), .size = sizeof(PUCCH_ResourceSet), .lower = 0, .upper = 0, .names = names_PUCCH_ResourceSet, .members = members_PUCCH_ResourceSet, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 1, .needs = needs_PUCCH_ResourceSet};
 
 namespace
 {
@@ -3777,7 +3777,7 @@ constexpr Member members_PUCCH_Config_resourceSetToReleaseList[] = {
     member(type_PUCCH_ResourceSetId, offsetof(PUCCH_Config_resourceSetToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_Config_resourceSetToReleaseList = {.name = "PUCCH_Config_resourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_resourceSetToReleaseList), .size = sizeof(PUCCH_Config_resourceSetToReleaseList), .lower = 1, .upper = 4, .members = members_PUCCH_Config_resourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PUCCH_Config_resourceSetToReleaseList = {.name = "PUCCH_Config_resourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_resourceSetToReleaseList), .size = sizeof(PUCCH_Config_resourceSetToReleaseList), .lower = 1, .upper = 4, .members = members_PUCCH_Config_resourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 constexpr Type type_PRB_Id = {.name = "PRB-Id", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 274};
 
@@ -3802,7 +3802,7 @@ constexpr Member members_PUCCH_format0[] = {
     member(type_PUCCH_format0_startingSymbolIndex, offsetof(PUCCH_format0, startingSymbolIndex)),
 };
 } // namespace
-constexpr Type type_PUCCH_format0 = {.name = "PUCCH-format0", .kind = Kind::Sequence, .align = alignof(PUCCH_format0), .size = sizeof(PUCCH_format0), .lower = 0, .upper = 0, .names = names_PUCCH_format0, .members = members_PUCCH_format0, .memberCount = 3, .rootCount = 3};
+constexpr Type type_PUCCH_format0 = {.name = "PUCCH-format0", .kind = Kind::Sequence, .align = alignof(PUCCH_format0), .size = sizeof(PUCCH_format0), .lower = 0, .upper = 0, .names = names_PUCCH_format0, .members = members_PUCCH_format0, .memberCount = 3, .rootCount = 3, .plain = true};
 
 constexpr Type type_PUCCH_format1_initialCyclicShift = {.name = "PUCCH_format1_initialCyclicShift", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 11};
 
@@ -3822,7 +3822,7 @@ constexpr Member members_PUCCH_format1[] = {
     member(type_PUCCH_format1_timeDomainOCC, offsetof(PUCCH_format1, timeDomainOCC)),
 };
 } // namespace
-constexpr Type type_PUCCH_format1 = {.name = "PUCCH-format1", .kind = Kind::Sequence, .align = alignof(PUCCH_format1), .size = sizeof(PUCCH_format1), .lower = 0, .upper = 0, .names = names_PUCCH_format1, .members = members_PUCCH_format1, .memberCount = 4, .rootCount = 4};
+constexpr Type type_PUCCH_format1 = {.name = "PUCCH-format1", .kind = Kind::Sequence, .align = alignof(PUCCH_format1), .size = sizeof(PUCCH_format1), .lower = 0, .upper = 0, .names = names_PUCCH_format1, .members = members_PUCCH_format1, .memberCount = 4, .rootCount = 4, .plain = true};
 
 constexpr Type type_PUCCH_format2_nrofPRBs = {.name = "PUCCH_format2_nrofPRBs", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 16};
 
@@ -3839,7 +3839,7 @@ constexpr Member members_PUCCH_format2[] = {
     member(type_PUCCH_format2_startingSymbolIndex, offsetof(PUCCH_format2, startingSymbolIndex)),
 };
 } // namespace
-constexpr Type type_PUCCH_format2 = {.name = "PUCCH-format2", .kind = Kind::Sequence, .align = alignof(PUCCH_format2), .size = sizeof(PUCCH_format2), .lower = 0, .upper = 0, .names = names_PUCCH_format2, .members = members_PUCCH_format2, .memberCount = 3, .rootCount = 3};
+constexpr Type type_PUCCH_format2 = {.name = "PUCCH-format2", .kind = Kind::Sequence, .align = alignof(PUCCH_format2), .size = sizeof(PUCCH_format2), .lower = 0, .upper = 0, .names = names_PUCCH_format2, .members = members_PUCCH_format2, .memberCount = 3, .rootCount = 3, .plain = true};
 
 constexpr Type type_PUCCH_format3_nrofPRBs = {.name = "PUCCH_format3_nrofPRBs", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 16};
 
@@ -3856,7 +3856,7 @@ constexpr Member members_PUCCH_format3[] = {
     member(type_PUCCH_format3_startingSymbolIndex, offsetof(PUCCH_format3, startingSymbolIndex)),
 };
 } // namespace
-constexpr Type type_PUCCH_format3 = {.name = "PUCCH-format3", .kind = Kind::Sequence, .align = alignof(PUCCH_format3), .size = sizeof(PUCCH_format3), .lower = 0, .upper = 0, .names = names_PUCCH_format3, .members = members_PUCCH_format3, .memberCount = 3, .rootCount = 3};
+constexpr Type type_PUCCH_format3 = {.name = "PUCCH-format3", .kind = Kind::Sequence, .align = alignof(PUCCH_format3), .size = sizeof(PUCCH_format3), .lower = 0, .upper = 0, .names = names_PUCCH_format3, .members = members_PUCCH_format3, .memberCount = 3, .rootCount = 3, .plain = true};
 
 constexpr Type type_PUCCH_format4_nrofSymbols = {.name = "PUCCH_format4_nrofSymbols", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 4, .upper = 14};
 
@@ -3884,7 +3884,7 @@ constexpr Member members_PUCCH_format4[] = {
     member(type_PUCCH_format4_startingSymbolIndex, offsetof(PUCCH_format4, startingSymbolIndex)),
 };
 } // namespace
-constexpr Type type_PUCCH_format4 = {.name = "PUCCH-format4", .kind = Kind::Sequence, .align = alignof(PUCCH_format4), .size = sizeof(PUCCH_format4), .lower = 0, .upper = 0, .names = names_PUCCH_format4, .members = members_PUCCH_format4, .memberCount = 4, .rootCount = 4};
+constexpr Type type_PUCCH_format4 = {.name = "PUCCH-format4", .kind = Kind::Sequence, .align = alignof(PUCCH_format4), .size = sizeof(PUCCH_format4), .lower = 0, .upper = 0, .names = names_PUCCH_format4, .members = members_PUCCH_format4, .memberCount = 4, .rootCount = 4, .plain = true};
 
 namespace
 {
@@ -3933,7 +3933,7 @@ constexpr Member members_PUCCH_Config_resourceToReleaseList[] = {
     member(type_PUCCH_ResourceId, offsetof(PUCCH_Config_resourceToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_Config_resourceToReleaseList = {.name = "PUCCH_Config_resourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_resourceToReleaseList), .size = sizeof(PUCCH_Config_resourceToReleaseList), .lower = 1, .upper = 128, .members = members_PUCCH_Config_resourceToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 7};
+constexpr Type type_PUCCH_Config_resourceToReleaseList = {.name = "PUCCH_Config_resourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_resourceToReleaseList), .size = sizeof(PUCCH_Config_resourceToReleaseList), .lower = 1, .upper = 128, .members = members_PUCCH_Config_resourceToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 7};
 
 constexpr Type type_PUCCH_Config_format1_release = {.name = "PUCCH_Config_format1_release", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -3993,7 +3993,7 @@ constexpr rtx::Need needs_PUCCH_FormatConfig[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PUCCH_FormatConfig = {.name = "PUCCH-FormatConfig", .kind = Kind::Sequence, .align = alignof(PUCCH_FormatConfig), .size = sizeof(PUCCH_FormatConfig), .lower = 0, .upper = 0, .names = names_PUCCH_FormatConfig, .members = members_PUCCH_FormatConfig, .memberCount = 6, .rootCount = 6, .bits = 6, .needs = needs_PUCCH_FormatConfig};
+constexpr Type type_PUCCH_FormatConfig = {.name = "PUCCH-FormatConfig", .kind = Kind::Sequence, .align = alignof(PUCCH_FormatConfig), .size = sizeof(PUCCH_FormatConfig), .lower = 0, .upper = 0, .names = names_PUCCH_FormatConfig, .members = members_PUCCH_FormatConfig, .memberCount = 6, .rootCount = 6, .plain = true, .bits = 6, .needs = needs_PUCCH_FormatConfig};
 
 namespace
 {
@@ -4094,7 +4094,7 @@ constexpr Member members_SchedulingRequestResourceConfig_periodicityAndOffset[] 
     member(type_SchedulingRequestResourceConfig_periodicityAndOffset_sl640, offsetof(SchedulingRequestResourceConfig_periodicityAndOffset, u)),
 };
 } // namespace
-constexpr Type type_SchedulingRequestResourceConfig_periodicityAndOffset = {.name = "SchedulingRequestResourceConfig_periodicityAndOffset", .kind = Kind::Choice, .align = alignof(SchedulingRequestResourceConfig_periodicityAndOffset), .size = sizeof(SchedulingRequestResourceConfig_periodicityAndOffset), .lower = 0, .upper = 0, .names = names_SchedulingRequestResourceConfig_periodicityAndOffset, .members = members_SchedulingRequestResourceConfig_periodicityAndOffset, .memberCount = 15, .rootCount = 15, .bits = 4};
+constexpr Type type_SchedulingRequestResourceConfig_periodicityAndOffset = {.name = "SchedulingRequestResourceConfig_periodicityAndOffset", .kind = Kind::Choice, .align = alignof(SchedulingRequestResourceConfig_periodicityAndOffset), .size = sizeof(SchedulingRequestResourceConfig_periodicityAndOffset), .lower = 0, .upper = 0, .names = names_SchedulingRequestResourceConfig_periodicityAndOffset, .members = members_SchedulingRequestResourceConfig_periodicityAndOffset, .memberCount = 15, .rootCount = 15, .plain = true, .bits = 4};
 
 namespace
 {
@@ -4112,7 +4112,7 @@ constexpr rtx::Need needs_SchedulingRequestResourceConfig[] = {
     {.absence = Absence::Keep},
 };
 } // namespace
-constexpr Type type_SchedulingRequestResourceConfig = {.name = "SchedulingRequestResourceConfig", .kind = Kind::Sequence, .align = alignof(SchedulingRequestResourceConfig), .size = sizeof(SchedulingRequestResourceConfig), .lower = 0, .upper = 0, .names = names_SchedulingRequestResourceConfig, .members = members_SchedulingRequestResourceConfig, .memberCount = 4, .rootCount = 4, .bits = 2, .needs = needs_SchedulingRequestResourceConfig};
+constexpr Type type_SchedulingRequestResourceConfig = {.name = "SchedulingRequestResourceConfig", .kind = Kind::Sequence, .align = alignof(SchedulingRequestResourceConfig), .size = sizeof(SchedulingRequestResourceConfig), .lower = 0, .upper = 0, .names = names_SchedulingRequestResourceConfig, .members = members_SchedulingRequestResourceConfig, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 2, .needs = needs_SchedulingRequestResourceConfig};
 
 namespace
 {
@@ -4128,7 +4128,7 @@ constexpr Member members_PUCCH_Config_schedulingRequestResourceToReleaseList[] =
     member(type_SchedulingRequestResourceId, offsetof(PUCCH_Config_schedulingRequestResourceToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_Config_schedulingRequestResourceToReleaseList = {.name = "PUCCH_Config_schedulingRequestResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_schedulingRequestResourceToReleaseList), .size = sizeof(PUCCH_Config_schedulingRequestResourceToReleaseList), .lower = 1, .upper = 8, .members = members_PUCCH_Config_schedulingRequestResourceToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_PUCCH_Config_schedulingRequestResourceToReleaseList = {.name = "PUCCH_Config_schedulingRequestResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_schedulingRequestResourceToReleaseList), .size = sizeof(PUCCH_Config_schedulingRequestResourceToReleaseList), .lower = 1, .upper = 8, .members = members_PUCCH_Config_schedulingRequestResourceToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -4136,7 +4136,7 @@ constexpr Member members_PUCCH_Config_multi_CSI_PUCCH_ResourceList[] = {
     member(type_PUCCH_ResourceId, offsetof(PUCCH_Config_multi_CSI_PUCCH_ResourceList, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_Config_multi_CSI_PUCCH_ResourceList = {.name = "PUCCH_Config_multi_CSI_PUCCH_ResourceList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_multi_CSI_PUCCH_ResourceList), .size = sizeof(PUCCH_Config_multi_CSI_PUCCH_ResourceList), .lower = 1, .upper = 2, .members = members_PUCCH_Config_multi_CSI_PUCCH_ResourceList, .memberCount = 1, .rootCount = 1, .bits = 1};
+constexpr Type type_PUCCH_Config_multi_CSI_PUCCH_ResourceList = {.name = "PUCCH_Config_multi_CSI_PUCCH_ResourceList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_multi_CSI_PUCCH_ResourceList), .size = sizeof(PUCCH_Config_multi_CSI_PUCCH_ResourceList), .lower = 1, .upper = 2, .members = members_PUCCH_Config_multi_CSI_PUCCH_ResourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1};
 
 constexpr Type type_PUCCH_Config_dl_DataToUL_ACK_element = {.name = "PUCCH_Config_dl_DataToUL_ACK_element", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 15};
 
@@ -4146,7 +4146,7 @@ constexpr Member members_PUCCH_Config_dl_DataToUL_ACK[] = {
     member(type_PUCCH_Config_dl_DataToUL_ACK_element, offsetof(PUCCH_Config_dl_DataToUL_ACK, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_Config_dl_DataToUL_ACK = {.name = "PUCCH_Config_dl_DataToUL_ACK", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_dl_DataToUL_ACK), .size = sizeof(PUCCH_Config_dl_DataToUL_ACK), .lower = 1, .upper = 8, .members = members_PUCCH_Config_dl_DataToUL_ACK, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_PUCCH_Config_dl_DataToUL_ACK = {.name = "PUCCH_Config_dl_DataToUL_ACK", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_dl_DataToUL_ACK), .size = sizeof(PUCCH_Config_dl_DataToUL_ACK), .lower = 1, .upper = 8, .members = members_PUCCH_Config_dl_DataToUL_ACK, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 constexpr Type type_PUCCH_SpatialRelationInfoId = {.name = "PUCCH-SpatialRelationInfoId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 8};
 
@@ -4160,7 +4160,7 @@ constexpr Member members_PUCCH_SpatialRelationInfo_referenceSignal_srs[] = {
     member(type_BWP_Id, offsetof(PUCCH_SpatialRelationInfo_referenceSignal_srs, uplinkBWP)),
 };
 } // namespace
-constexpr Type type_PUCCH_SpatialRelationInfo_referenceSignal_srs = {.name = "PUCCH_SpatialRelationInfo_referenceSignal_srs", .kind = Kind::Sequence, .align = alignof(PUCCH_SpatialRelationInfo_referenceSignal_srs), .size = sizeof(PUCCH_SpatialRelationInfo_referenceSignal_srs), .lower = 0, .upper = 0, .names = names_PUCCH_SpatialRelationInfo_referenceSignal_srs, .members = members_PUCCH_SpatialRelationInfo_referenceSignal_srs, .memberCount = 2, .rootCount = 2};
+constexpr Type type_PUCCH_SpatialRelationInfo_referenceSignal_srs = {.name = "PUCCH_SpatialRelationInfo_referenceSignal_srs", .kind = Kind::Sequence, .align = alignof(PUCCH_SpatialRelationInfo_referenceSignal_srs), .size = sizeof(PUCCH_SpatialRelationInfo_referenceSignal_srs), .lower = 0, .upper = 0, .names = names_PUCCH_SpatialRelationInfo_referenceSignal_srs, .members = members_PUCCH_SpatialRelationInfo_referenceSignal_srs, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -4219,7 +4219,7 @@ constexpr Member members_PUCCH_Config_spatialRelationInfoToReleaseList[] = {
     member(type_PUCCH_SpatialRelationInfoId, offsetof(PUCCH_Config_spatialRelationInfoToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PUCCH_Config_spatialRelationInfoToReleaseList = {.name = "PUCCH_Config_spatialRelationInfoToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_spatialRelationInfoToReleaseList), .size = sizeof(PUCCH_Config_spatialRelationInfoToReleaseList), .lower = 1, .upper = 8, .members = members_PUCCH_Config_spatialRelationInfoToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_PUCCH_Config_spatialRelationInfoToReleaseList = {.name = "PUCCH_Config_spatialRelationInfoToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUCCH_Config_spatialRelationInfoToReleaseList), .size = sizeof(PUCCH_Config_spatialRelationInfoToReleaseList), .lower = 1, .upper = 8, .members = members_PUCCH_Config_spatialRelationInfoToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 constexpr Type type_PUCCH_PowerControl_deltaF_PUCCH_f0 = {.name = "PUCCH_PowerControl_deltaF_PUCCH_f0", .kind = Kind::Integer, .width = 1, .size = 1, .lower = -16, .upper = 15};
 
@@ -4241,7 +4241,7 @@ constexpr Member members_P0_PUCCH[] = {
     member(type_P0_PUCCH_p0_PUCCH_Value, offsetof(P0_PUCCH, p0_PUCCH_Value)),
 };
 } // namespace
-constexpr Type type_P0_PUCCH = {.name = "P0-PUCCH", .kind = Kind::Sequence, .align = alignof(P0_PUCCH), .size = sizeof(P0_PUCCH), .lower = 0, .upper = 0, .names = names_P0_PUCCH, .members = members_P0_PUCCH, .memberCount = 2, .rootCount = 2};
+constexpr Type type_P0_PUCCH = {.name = "P0-PUCCH", .kind = Kind::Sequence, .align = alignof(P0_PUCCH), .size = sizeof(P0_PUCCH), .lower = 0, .upper = 0, .names = names_P0_PUCCH, .members = members_P0_PUCCH, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -4249,7 +4249,7 @@ constexpr Member members_PUCCH_PowerControl_p0_Set[] = {
     member(type_P0_PUCCH, 0),
 };
 } // namespace
-constexpr Type type_PUCCH_PowerControl_p0_Set = {.name = "PUCCH_PowerControl_p0_Set", .kind = Kind::List, .align = alignof(PUCCH_PowerControl_p0_Set), .size = sizeof(PUCCH_PowerControl_p0_Set), .lower = 1, .upper = 8, .members = members_PUCCH_PowerControl_p0_Set, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_PUCCH_PowerControl_p0_Set = {.name = "PUCCH_PowerControl_p0_Set", .kind = Kind::List, .align = alignof(PUCCH_PowerControl_p0_Set), .size = sizeof(PUCCH_PowerControl_p0_Set), .lower = 1, .upper = 8, .members = members_PUCCH_PowerControl_p0_Set, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -4259,7 +4259,7 @@ constexpr Member members_PUCCH_PathlossReferenceRS_referenceSignal[] = {
     member(type_NZP_CSI_RS_ResourceId, offsetof(PUCCH_PathlossReferenceRS_referenceSignal, u)),
 };
 } // namespace
-constexpr Type type_PUCCH_PathlossReferenceRS_referenceSignal = {.name = "PUCCH_PathlossReferenceRS_referenceSignal", .kind = Kind::Choice, .align = alignof(PUCCH_PathlossReferenceRS_referenceSignal), .size = sizeof(PUCCH_PathlossReferenceRS_referenceSignal), .lower = 0, .upper = 0, .names = names_PUCCH_PathlossReferenceRS_referenceSignal, .members = members_PUCCH_PathlossReferenceRS_referenceSignal, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_PUCCH_PathlossReferenceRS_referenceSignal = {.name = "PUCCH_PathlossReferenceRS_referenceSignal", .kind = Kind::Choice, .align = alignof(PUCCH_PathlossReferenceRS_referenceSignal), .size = sizeof(PUCCH_PathlossReferenceRS_referenceSignal), .lower = 0, .upper = 0, .names = names_PUCCH_PathlossReferenceRS_referenceSignal, .members = members_PUCCH_PathlossReferenceRS_referenceSignal, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -4269,7 +4269,7 @@ constexpr Member members_PUCCH_PathlossReferenceRS[] = {
     member(type_PUCCH_PathlossReferenceRS_referenceSignal, offsetof(PUCCH_PathlossReferenceRS, referenceSignal)),
 };
 } // namespace
-constexpr Type type_PUCCH_PathlossReferenceRS = {.name = "PUCCH-PathlossReferenceRS", .kind = Kind::Sequence, .align = alignof(PUCCH_PathlossReferenceRS), .size = sizeof(PUCCH_PathlossReferenceRS), .lower = 0, .upper = 0, .names = names_PUCCH_PathlossReferenceRS, .members = members_PUCCH_PathlossReferenceRS, .memberCount = 2, .rootCount = 2};
+constexpr Type type_PUCCH_PathlossReferenceRS = {.name = "PUCCH-PathlossReferenceRS", .kind = Kind::Sequence, .align = alignof(PUCCH_PathlossReferenceRS), .size = sizeof(PUCCH_PathlossReferenceRS), .lower = 0, .upper = 0, .names = names_PUCCH_PathlossReferenceRS, .members = members_PUCCH_PathlossReferenceRS, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -4277,7 +4277,7 @@ constexpr Member members_PUCCH_PowerControl_pathlossReferenceRSs[] = {
     member(type_PUCCH_PathlossReferenceRS, 0),
 };
 } // namespace
-constexpr Type type_PUCCH_PowerControl_pathlossReferenceRSs = {.name = "PUCCH_PowerControl_pathlossReferenceRSs", .kind = Kind::List, .align = alignof(PUCCH_PowerControl_pathlossReferenceRSs), .size = sizeof(PUCCH_PowerControl_pathlossReferenceRSs), .lower = 1, .upper = 4, .members = members_PUCCH_PowerControl_pathlossReferenceRSs, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PUCCH_PowerControl_pathlossReferenceRSs = {.name = "PUCCH_PowerControl_pathlossReferenceRSs", .kind = Kind::List, .align = alignof(PUCCH_PowerControl_pathlossReferenceRSs), .size = sizeof(PUCCH_PowerControl_pathlossReferenceRSs), .lower = 1, .upper = 4, .members = members_PUCCH_PowerControl_pathlossReferenceRSs, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -4309,7 +4309,7 @@ constexpr rtx::Need needs_PUCCH_PowerControl[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_PUCCH_PowerControl = {.name = "PUCCH-PowerControl", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUCCH_PowerControl), .size = sizeof(PUCCH_PowerControl), .lower = 0, .upper = 0, .names = names_PUCCH_PowerControl, .members = members_PUCCH_PowerControl, .memberCount = 8, .rootCount = 8, .bits = 8, .extElem = offsetof(PUCCH_PowerControl, extElem1), .needs = needs_PUCCH_PowerControl};
+constexpr Type type_PUCCH_PowerControl = {.name = "PUCCH-PowerControl", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUCCH_PowerControl), .size = sizeof(PUCCH_PowerControl), .lower = 0, .upper = 0, .names = names_PUCCH_PowerControl, .members = members_PUCCH_PowerControl, .memberCount = 8, .rootCount = 8, .plain = true, .bits = 8, .extElem = offsetof(PUCCH_PowerControl, extElem1), .needs = needs_PUCCH_PowerControl};
 
 namespace
 {
@@ -4395,7 +4395,7 @@ constexpr Member members_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDe
     member(type_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity_element, offsetof(PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity, elem)),
 };
 } // namespace
-constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity", .kind = Kind::Array, .align = alignof(PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity), .size = sizeof(PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity), .lower = 2, .upper = 2, .members = members_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity", .kind = Kind::Array, .align = alignof(PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity), .size = sizeof(PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity), .lower = 2, .upper = 2, .members = members_PTRS_UplinkConfig_transformPrecoderDisabled_frequencyDensity, .memberCount = 1, .rootCount = 1, .plain = true};
 
 constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity_element = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity_element", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 29};
 
@@ -4405,7 +4405,7 @@ constexpr Member members_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity
     member(type_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity_element, offsetof(PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity, elem)),
 };
 } // namespace
-constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity", .kind = Kind::Array, .align = alignof(PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity), .size = sizeof(PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity), .lower = 3, .upper = 3, .members = members_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity", .kind = Kind::Array, .align = alignof(PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity), .size = sizeof(PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity), .lower = 3, .upper = 3, .members = members_PTRS_UplinkConfig_transformPrecoderDisabled_timeDensity, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -4443,7 +4443,7 @@ constexpr rtx::Need needs_PTRS_UplinkConfig_transformPrecoderDisabled[] = {
     {},
 };
 } // namespace
-constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled", .kind = Kind::Sequence, .align = alignof(PTRS_UplinkConfig_transformPrecoderDisabled), .size = sizeof(PTRS_UplinkConfig_transformPrecoderDisabled), .lower = 0, .upper = 0, .names = names_PTRS_UplinkConfig_transformPrecoderDisabled, .members = members_PTRS_UplinkConfig_transformPrecoderDisabled, .memberCount = 5, .rootCount = 5, .bits = 3, .needs = needs_PTRS_UplinkConfig_transformPrecoderDisabled};
+constexpr Type type_PTRS_UplinkConfig_transformPrecoderDisabled = {.name = "PTRS_UplinkConfig_transformPrecoderDisabled", .kind = Kind::Sequence, .align = alignof(PTRS_UplinkConfig_transformPrecoderDisabled), .size = sizeof(PTRS_UplinkConfig_transformPrecoderDisabled), .lower = 0, .upper = 0, .names = names_PTRS_UplinkConfig_transformPrecoderDisabled, .members = members_PTRS_UplinkConfig_transformPrecoderDisabled, .memberCount = 5, .rootCount = 5, .plain = true, .bits = 3, .needs = needs_PTRS_UplinkConfig_transformPrecoderDisabled};
 
 constexpr Type type_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity_element = {.name = "PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 1, .upper = 276};
 
@@ -4453,7 +4453,7 @@ constexpr Member members_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensit
     member(type_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity_element, offsetof(PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity, elem)),
 };
 } // namespace
-constexpr Type type_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity = {.name = "PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity", .kind = Kind::Array, .align = alignof(PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity), .size = sizeof(PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity), .lower = 5, .upper = 5, .members = members_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity = {.name = "PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity", .kind = Kind::Array, .align = alignof(PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity), .size = sizeof(PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity), .lower = 5, .upper = 5, .members = members_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -4473,7 +4473,7 @@ constexpr rtx::Need needs_PTRS_UplinkConfig_transformPrecoderEnabled[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_PTRS_UplinkConfig_transformPrecoderEnabled = {.name = "PTRS_UplinkConfig_transformPrecoderEnabled", .kind = Kind::Sequence, .align = alignof(PTRS_UplinkConfig_transformPrecoderEnabled), .size = sizeof(PTRS_UplinkConfig_transformPrecoderEnabled), .lower = 0, .upper = 0, .names = names_PTRS_UplinkConfig_transformPrecoderEnabled, .members = members_PTRS_UplinkConfig_transformPrecoderEnabled, .memberCount = 2, .rootCount = 2, .bits = 1, .needs = needs_PTRS_UplinkConfig_transformPrecoderEnabled};
+constexpr Type type_PTRS_UplinkConfig_transformPrecoderEnabled = {.name = "PTRS_UplinkConfig_transformPrecoderEnabled", .kind = Kind::Sequence, .align = alignof(PTRS_UplinkConfig_transformPrecoderEnabled), .size = sizeof(PTRS_UplinkConfig_transformPrecoderEnabled), .lower = 0, .upper = 0, .names = names_PTRS_UplinkConfig_transformPrecoderEnabled, .members = members_PTRS_UplinkConfig_transformPrecoderEnabled, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1, .needs = needs_PTRS_UplinkConfig_transformPrecoderEnabled};
 
 namespace
 {
@@ -4487,7 +4487,7 @@ constexpr rtx::Need needs_PTRS_UplinkConfig[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PTRS_UplinkConfig = {.name = "PTRS-UplinkConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PTRS_UplinkConfig), .size = sizeof(PTRS_UplinkConfig), .lower = 0, .upper = 0, .names = names_PTRS_UplinkConfig, .members = members_PTRS_UplinkConfig, .memberCount = 2, .rootCount = 2, .bits = 2, .extElem = offsetof(PTRS_UplinkConfig, extElem1), .needs = needs_PTRS_UplinkConfig};
+constexpr Type type_PTRS_UplinkConfig = {.name = "PTRS-UplinkConfig", .kind = Kind::Sequence, .extensible = true, .align = alignof(PTRS_UplinkConfig), .size = sizeof(PTRS_UplinkConfig), .lower = 0, .upper = 0, .names = names_PTRS_UplinkConfig, .members = members_PTRS_UplinkConfig, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .extElem = offsetof(PTRS_UplinkConfig, extElem1), .needs = needs_PTRS_UplinkConfig};
 
 namespace
 {
@@ -4521,7 +4521,7 @@ constexpr rtx::Need needs_DMRS_UplinkConfig_transformPrecodingDisabled[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_DMRS_UplinkConfig_transformPrecodingDisabled = {.name = "DMRS_UplinkConfig_transformPrecodingDisabled", .kind = Kind::Sequence, .extensible = true, .align = alignof(DMRS_UplinkConfig_transformPrecodingDisabled), .size = sizeof(DMRS_UplinkConfig_transformPrecodingDisabled), .lower = 0, .upper = 0, .names = names_DMRS_UplinkConfig_transformPrecodingDisabled, .members = members_DMRS_UplinkConfig_transformPrecodingDisabled, .memberCount = 2, .rootCount = 2, .bits = 2, .extElem = offsetof(DMRS_UplinkConfig_transformPrecodingDisabled, extElem1), .needs = needs_DMRS_UplinkConfig_transformPrecodingDisabled};
+constexpr Type type_DMRS_UplinkConfig_transformPrecodingDisabled = {.name = "DMRS_UplinkConfig_transformPrecodingDisabled", .kind = Kind::Sequence, .extensible = true, .align = alignof(DMRS_UplinkConfig_transformPrecodingDisabled), .size = sizeof(DMRS_UplinkConfig_transformPrecodingDisabled), .lower = 0, .upper = 0, .names = names_DMRS_UplinkConfig_transformPrecodingDisabled, .members = members_DMRS_UplinkConfig_transformPrecodingDisabled, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .extElem = offsetof(DMRS_UplinkConfig_transformPrecodingDisabled, extElem1), .needs = needs_DMRS_UplinkConfig_transformPrecodingDisabled};
 
 constexpr Type type_DMRS_UplinkConfig_transformPrecodingEnabled_nPUSCH_Identity = {.name = "DMRS_UplinkConfig_transformPrecodingEnabled_nPUSCH_Identity", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 1007};
 
@@ -4551,7 +4551,7 @@ constexpr rtx::Need needs_DMRS_UplinkConfig_transformPrecodingEnabled[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_DMRS_UplinkConfig_transformPrecodingEnabled = {.name = "DMRS_UplinkConfig_transformPrecodingEnabled", .kind = Kind::Sequence, .extensible = true, .align = alignof(DMRS_UplinkConfig_transformPrecodingEnabled), .size = sizeof(DMRS_UplinkConfig_transformPrecodingEnabled), .lower = 0, .upper = 0, .names = names_DMRS_UplinkConfig_transformPrecodingEnabled, .members = members_DMRS_UplinkConfig_transformPrecodingEnabled, .memberCount = 3, .rootCount = 3, .bits = 3, .extElem = offsetof(DMRS_UplinkConfig_transformPrecodingEnabled, extElem1), .needs = needs_DMRS_UplinkConfig_transformPrecodingEnabled};
+constexpr Type type_DMRS_UplinkConfig_transformPrecodingEnabled = {.name = "DMRS_UplinkConfig_transformPrecodingEnabled", .kind = Kind::Sequence, .extensible = true, .align = alignof(DMRS_UplinkConfig_transformPrecodingEnabled), .size = sizeof(DMRS_UplinkConfig_transformPrecodingEnabled), .lower = 0, .upper = 0, .names = names_DMRS_UplinkConfig_transformPrecodingEnabled, .members = members_DMRS_UplinkConfig_transformPrecodingEnabled, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 3, .extElem = offsetof(DMRS_UplinkConfig_transformPrecodingEnabled, extElem1), .needs = needs_DMRS_UplinkConfig_transformPrecodingEnabled};
 
 namespace
 {
@@ -4629,7 +4629,7 @@ constexpr rtx::Need needs_P0_PUSCH_AlphaSet[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_P0_PUSCH_AlphaSet = {.name = "P0-PUSCH-AlphaSet", .kind = Kind::Sequence, .align = alignof(P0_PUSCH_AlphaSet), .size = sizeof(P0_PUSCH_AlphaSet), .lower = 0, .upper = 0, .names = names_P0_PUSCH_AlphaSet, .members = members_P0_PUSCH_AlphaSet, .memberCount = 3, .rootCount = 3, .bits = 2, .needs = needs_P0_PUSCH_AlphaSet};
+constexpr Type type_P0_PUSCH_AlphaSet = {.name = "P0-PUSCH-AlphaSet", .kind = Kind::Sequence, .align = alignof(P0_PUSCH_AlphaSet), .size = sizeof(P0_PUSCH_AlphaSet), .lower = 0, .upper = 0, .names = names_P0_PUSCH_AlphaSet, .members = members_P0_PUSCH_AlphaSet, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 2, .needs = needs_P0_PUSCH_AlphaSet};
 
 namespace
 {
@@ -4637,7 +4637,7 @@ constexpr Member members_PUSCH_PowerControl_p0_AlphaSets[] = {
     member(type_P0_PUSCH_AlphaSet, 0),
 };
 } // namespace
-constexpr Type type_PUSCH_PowerControl_p0_AlphaSets = {.name = "PUSCH_PowerControl_p0_AlphaSets", .kind = Kind::List, .align = alignof(PUSCH_PowerControl_p0_AlphaSets), .size = sizeof(PUSCH_PowerControl_p0_AlphaSets), .lower = 1, .upper = 30, .members = members_PUSCH_PowerControl_p0_AlphaSets, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_PUSCH_PowerControl_p0_AlphaSets = {.name = "PUSCH_PowerControl_p0_AlphaSets", .kind = Kind::List, .align = alignof(PUSCH_PowerControl_p0_AlphaSets), .size = sizeof(PUSCH_PowerControl_p0_AlphaSets), .lower = 1, .upper = 30, .members = members_PUSCH_PowerControl_p0_AlphaSets, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 constexpr Type type_PUSCH_PathlossReferenceRS_Id = {.name = "PUSCH-PathlossReferenceRS-Id", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 3};
 
@@ -4649,7 +4649,7 @@ constexpr Member members_PUSCH_PathlossReferenceRS_referenceSignal[] = {
     member(type_NZP_CSI_RS_ResourceId, offsetof(PUSCH_PathlossReferenceRS_referenceSignal, u)),
 };
 } // namespace
-constexpr Type type_PUSCH_PathlossReferenceRS_referenceSignal = {.name = "PUSCH_PathlossReferenceRS_referenceSignal", .kind = Kind::Choice, .align = alignof(PUSCH_PathlossReferenceRS_referenceSignal), .size = sizeof(PUSCH_PathlossReferenceRS_referenceSignal), .lower = 0, .upper = 0, .names = names_PUSCH_PathlossReferenceRS_referenceSignal, .members = members_PUSCH_PathlossReferenceRS_referenceSignal, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_PUSCH_PathlossReferenceRS_referenceSignal = {.name = "PUSCH_PathlossReferenceRS_referenceSignal", .kind = Kind::Choice, .align = alignof(PUSCH_PathlossReferenceRS_referenceSignal), .size = sizeof(PUSCH_PathlossReferenceRS_referenceSignal), .lower = 0, .upper = 0, .names = names_PUSCH_PathlossReferenceRS_referenceSignal, .members = members_PUSCH_PathlossReferenceRS_referenceSignal, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -4659,7 +4659,7 @@ constexpr Member members_PUSCH_PathlossReferenceRS[] = {
     member(type_PUSCH_PathlossReferenceRS_referenceSignal, offsetof(PUSCH_PathlossReferenceRS, referenceSignal)),
 };
 } // namespace
-constexpr Type type_PUSCH_PathlossReferenceRS = {.name = "PUSCH-PathlossReferenceRS", .kind = Kind::Sequence, .align = alignof(PUSCH_PathlossReferenceRS), .size = sizeof(PUSCH_PathlossReferenceRS), .lower = 0, .upper = 0, .names = names_PUSCH_PathlossReferenceRS, .members = members_PUSCH_PathlossReferenceRS, .memberCount = 2, .rootCount = 2};
+constexpr Type type_PUSCH_PathlossReferenceRS = {.name = "PUSCH-PathlossReferenceRS", .kind = Kind::Sequence, .align = alignof(PUSCH_PathlossReferenceRS), .size = sizeof(PUSCH_PathlossReferenceRS), .lower = 0, .upper = 0, .names = names_PUSCH_PathlossReferenceRS, .members = members_PUSCH_PathlossReferenceRS, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -4675,7 +4675,7 @@ constexpr Member members_PUSCH_PowerControl_pathlossReferenceRSToReleaseList[] =
     member(type_PUSCH_PathlossReferenceRS_Id, offsetof(PUSCH_PowerControl_pathlossReferenceRSToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PUSCH_PowerControl_pathlossReferenceRSToReleaseList = {.name = "PUSCH_PowerControl_pathlossReferenceRSToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUSCH_PowerControl_pathlossReferenceRSToReleaseList), .size = sizeof(PUSCH_PowerControl_pathlossReferenceRSToReleaseList), .lower = 1, .upper = 4, .members = members_PUSCH_PowerControl_pathlossReferenceRSToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PUSCH_PowerControl_pathlossReferenceRSToReleaseList = {.name = "PUSCH_PowerControl_pathlossReferenceRSToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUSCH_PowerControl_pathlossReferenceRSToReleaseList), .size = sizeof(PUSCH_PowerControl_pathlossReferenceRSToReleaseList), .lower = 1, .upper = 4, .members = members_PUSCH_PowerControl_pathlossReferenceRSToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -4707,7 +4707,7 @@ constexpr Member members_SRI_PUSCH_PowerControl[] = {
     member(type_SRI_PUSCH_PowerControl_sri_PUSCH_ClosedLoopIndex, offsetof(SRI_PUSCH_PowerControl, sri_PUSCH_ClosedLoopIndex)),
 };
 } // namespace
-constexpr Type type_SRI_PUSCH_PowerControl = {.name = "SRI-PUSCH-PowerControl", .kind = Kind::Sequence, .align = alignof(SRI_PUSCH_PowerControl), .size = sizeof(SRI_PUSCH_PowerControl), .lower = 0, .upper = 0, .names = names_SRI_PUSCH_PowerControl, .members = members_SRI_PUSCH_PowerControl, .memberCount = 4, .rootCount = 4};
+constexpr Type type_SRI_PUSCH_PowerControl = {.name = "SRI-PUSCH-PowerControl", .kind = Kind::Sequence, .align = alignof(SRI_PUSCH_PowerControl), .size = sizeof(SRI_PUSCH_PowerControl), .lower = 0, .upper = 0, .names = names_SRI_PUSCH_PowerControl, .members = members_SRI_PUSCH_PowerControl, .memberCount = 4, .rootCount = 4, .plain = true};
 
 namespace
 {
@@ -4723,7 +4723,7 @@ constexpr Member members_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList[] = {
     member(type_SRI_PUSCH_PowerControlId, offsetof(PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList = {.name = "PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList), .size = sizeof(PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList), .lower = 1, .upper = 16, .members = members_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList = {.name = "PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList), .size = sizeof(PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList), .lower = 1, .upper = 16, .members = members_PUSCH_PowerControl_sri_PUSCH_MappingToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -4769,7 +4769,7 @@ constexpr Member members_PUSCH_Config_frequencyHoppingOffsetLists[] = {
     member(type_PUSCH_Config_frequencyHoppingOffsetLists_element, offsetof(PUSCH_Config_frequencyHoppingOffsetLists, elem)),
 };
 } // namespace
-constexpr Type type_PUSCH_Config_frequencyHoppingOffsetLists = {.name = "PUSCH_Config_frequencyHoppingOffsetLists", .kind = Kind::Array, .width = 1, .align = alignof(PUSCH_Config_frequencyHoppingOffsetLists), .size = sizeof(PUSCH_Config_frequencyHoppingOffsetLists), .lower = 1, .upper = 4, .members = members_PUSCH_Config_frequencyHoppingOffsetLists, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_PUSCH_Config_frequencyHoppingOffsetLists = {.name = "PUSCH_Config_frequencyHoppingOffsetLists", .kind = Kind::Array, .width = 1, .align = alignof(PUSCH_Config_frequencyHoppingOffsetLists), .size = sizeof(PUSCH_Config_frequencyHoppingOffsetLists), .lower = 1, .upper = 4, .members = members_PUSCH_Config_frequencyHoppingOffsetLists, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -4865,7 +4865,7 @@ constexpr rtx::Need needs_BetaOffsets[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_BetaOffsets = {.name = "BetaOffsets", .kind = Kind::Sequence, .align = alignof(BetaOffsets), .size = sizeof(BetaOffsets), .lower = 0, .upper = 0, .names = names_BetaOffsets, .members = members_BetaOffsets, .memberCount = 7, .rootCount = 7, .bits = 7, .needs = needs_BetaOffsets};
+constexpr Type type_BetaOffsets = {.name = "BetaOffsets", .kind = Kind::Sequence, .align = alignof(BetaOffsets), .size = sizeof(BetaOffsets), .lower = 0, .upper = 0, .names = names_BetaOffsets, .members = members_BetaOffsets, .memberCount = 7, .rootCount = 7, .plain = true, .bits = 7, .needs = needs_BetaOffsets};
 
 namespace
 {
@@ -4873,7 +4873,7 @@ constexpr Member members_UCI_OnPUSCH_betaOffsets_dynamic[] = {
     member(type_BetaOffsets, 0),
 };
 } // namespace
-constexpr Type type_UCI_OnPUSCH_betaOffsets_dynamic = {.name = "UCI_OnPUSCH_betaOffsets_dynamic", .kind = Kind::List, .align = alignof(UCI_OnPUSCH_betaOffsets_dynamic), .size = sizeof(UCI_OnPUSCH_betaOffsets_dynamic), .lower = 4, .upper = 4, .members = members_UCI_OnPUSCH_betaOffsets_dynamic, .memberCount = 1, .rootCount = 1};
+constexpr Type type_UCI_OnPUSCH_betaOffsets_dynamic = {.name = "UCI_OnPUSCH_betaOffsets_dynamic", .kind = Kind::List, .align = alignof(UCI_OnPUSCH_betaOffsets_dynamic), .size = sizeof(UCI_OnPUSCH_betaOffsets_dynamic), .lower = 4, .upper = 4, .members = members_UCI_OnPUSCH_betaOffsets_dynamic, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -5005,7 +5005,7 @@ constexpr Member members_CG_UCI_OnPUSCH_dynamic[] = {
     member(type_BetaOffsets, 0),
 };
 } // namespace
-constexpr Type type_CG_UCI_OnPUSCH_dynamic = {.name = "CG_UCI_OnPUSCH_dynamic", .kind = Kind::List, .align = alignof(CG_UCI_OnPUSCH_dynamic), .size = sizeof(CG_UCI_OnPUSCH_dynamic), .lower = 1, .upper = 4, .members = members_CG_UCI_OnPUSCH_dynamic, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_CG_UCI_OnPUSCH_dynamic = {.name = "CG_UCI_OnPUSCH_dynamic", .kind = Kind::List, .align = alignof(CG_UCI_OnPUSCH_dynamic), .size = sizeof(CG_UCI_OnPUSCH_dynamic), .lower = 1, .upper = 4, .members = members_CG_UCI_OnPUSCH_dynamic, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -5121,7 +5121,7 @@ constexpr rtx::Need needs_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant[] = {
     {},
 };
 } // namespace
-constexpr Type type_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant = {.name = "ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant", .kind = Kind::Sequence, .extensible = true, .align = alignof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant), .size = sizeof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant), .lower = 0, .upper = 0, .names = names_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, .members = members_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, .memberCount = 10, .rootCount = 10, .bits = 3, .extElem = offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, extElem1), .needs = needs_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant};
+constexpr Type type_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant = {.name = "ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant", .kind = Kind::Sequence, .extensible = true, .align = alignof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant), .size = sizeof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant), .lower = 0, .upper = 0, .names = names_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, .members = members_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, .memberCount = 10, .rootCount = 10, .plain = true, .bits = 3, .extElem = offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, extElem1), .needs = needs_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant};
 
 namespace
 {
@@ -5185,7 +5185,7 @@ constexpr Member members_SRS_Config_srs_ResourceSetToReleaseList[] = {
     member(type_SRS_ResourceSetId, offsetof(SRS_Config_srs_ResourceSetToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_SRS_Config_srs_ResourceSetToReleaseList = {.name = "SRS_Config_srs_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SRS_Config_srs_ResourceSetToReleaseList), .size = sizeof(SRS_Config_srs_ResourceSetToReleaseList), .lower = 1, .upper = 16, .members = members_SRS_Config_srs_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_SRS_Config_srs_ResourceSetToReleaseList = {.name = "SRS_Config_srs_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SRS_Config_srs_ResourceSetToReleaseList), .size = sizeof(SRS_Config_srs_ResourceSetToReleaseList), .lower = 1, .upper = 16, .members = members_SRS_Config_srs_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -5193,7 +5193,7 @@ constexpr Member members_SRS_ResourceSet_srs_ResourceIdList[] = {
     member(type_SRS_ResourceId, offsetof(SRS_ResourceSet_srs_ResourceIdList, elem)),
 };
 } // namespace
-constexpr Type type_SRS_ResourceSet_srs_ResourceIdList = {.name = "SRS_ResourceSet_srs_ResourceIdList", .kind = Kind::Array, .width = 1, .align = alignof(SRS_ResourceSet_srs_ResourceIdList), .size = sizeof(SRS_ResourceSet_srs_ResourceIdList), .lower = 1, .upper = 16, .members = members_SRS_ResourceSet_srs_ResourceIdList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_SRS_ResourceSet_srs_ResourceIdList = {.name = "SRS_ResourceSet_srs_ResourceIdList", .kind = Kind::Array, .width = 1, .align = alignof(SRS_ResourceSet_srs_ResourceIdList), .size = sizeof(SRS_ResourceSet_srs_ResourceIdList), .lower = 1, .upper = 16, .members = members_SRS_ResourceSet_srs_ResourceIdList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 constexpr Type type_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTrigger = {.name = "SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTrigger", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 3};
 
@@ -5207,7 +5207,7 @@ constexpr Member members_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_Res
     member(type_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530_element, offsetof(SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530, elem)),
 };
 } // namespace
-constexpr Type type_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530 = {.name = "SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530", .kind = Kind::Array, .width = 1, .align = alignof(SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530), .size = sizeof(SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530), .lower = 1, .upper = 2, .members = members_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530, .memberCount = 1, .rootCount = 1, .bits = 1};
+constexpr Type type_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530 = {.name = "SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530", .kind = Kind::Array, .width = 1, .align = alignof(SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530), .size = sizeof(SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530), .lower = 1, .upper = 2, .members = members_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTriggerList_v1530, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1};
 
 namespace
 {
@@ -5226,7 +5226,7 @@ constexpr rtx::Need needs_SRS_ResourceSet_resourceType_aperiodic[] = {
     {.absence = Absence::Keep},
 };
 } // namespace
-constexpr Type type_SRS_ResourceSet_resourceType_aperiodic = {.name = "SRS_ResourceSet_resourceType_aperiodic", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_ResourceSet_resourceType_aperiodic), .size = sizeof(SRS_ResourceSet_resourceType_aperiodic), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_resourceType_aperiodic, .members = members_SRS_ResourceSet_resourceType_aperiodic, .memberCount = 4, .rootCount = 3, .additions = additions_SRS_ResourceSet_resourceType_aperiodic, .additionCount = 1, .bits = 2, .extElem = offsetof(SRS_ResourceSet_resourceType_aperiodic, extElem1), .needs = needs_SRS_ResourceSet_resourceType_aperiodic};
+constexpr Type type_SRS_ResourceSet_resourceType_aperiodic = {.name = "SRS_ResourceSet_resourceType_aperiodic", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_ResourceSet_resourceType_aperiodic), .size = sizeof(SRS_ResourceSet_resourceType_aperiodic), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_resourceType_aperiodic, .members = members_SRS_ResourceSet_resourceType_aperiodic, .memberCount = 4, .rootCount = 3, .plain = true, .additions = additions_SRS_ResourceSet_resourceType_aperiodic, .additionCount = 1, .bits = 2, .extElem = offsetof(SRS_ResourceSet_resourceType_aperiodic, extElem1), .needs = needs_SRS_ResourceSet_resourceType_aperiodic};
 
 namespace
 {
@@ -5238,7 +5238,7 @@ constexpr rtx::Need needs_SRS_ResourceSet_resourceType_semi_persistent[] = {
     {.absence = Absence::Keep, .condition = "NonCodebook"},
 };
 } // namespace
-constexpr Type type_SRS_ResourceSet_resourceType_semi_persistent = {.name = "SRS_ResourceSet_resourceType_semi_persistent", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_ResourceSet_resourceType_semi_persistent), .size = sizeof(SRS_ResourceSet_resourceType_semi_persistent), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_resourceType_semi_persistent, .members = members_SRS_ResourceSet_resourceType_semi_persistent, .memberCount = 1, .rootCount = 1, .bits = 1, .extElem = offsetof(SRS_ResourceSet_resourceType_semi_persistent, extElem1), .needs = needs_SRS_ResourceSet_resourceType_semi_persistent};
+constexpr Type type_SRS_ResourceSet_resourceType_semi_persistent = {.name = "SRS_ResourceSet_resourceType_semi_persistent", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_ResourceSet_resourceType_semi_persistent), .size = sizeof(SRS_ResourceSet_resourceType_semi_persistent), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_resourceType_semi_persistent, .members = members_SRS_ResourceSet_resourceType_semi_persistent, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .extElem = offsetof(SRS_ResourceSet_resourceType_semi_persistent, extElem1), .needs = needs_SRS_ResourceSet_resourceType_semi_persistent};
 
 namespace
 {
@@ -5250,7 +5250,7 @@ constexpr rtx::Need needs_SRS_ResourceSet_resourceType_periodic[] = {
     {.absence = Absence::Keep, .condition = "NonCodebook"},
 };
 } // namespace
-constexpr Type type_SRS_ResourceSet_resourceType_periodic = {.name = "SRS_ResourceSet_resourceType_periodic", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_ResourceSet_resourceType_periodic), .size = sizeof(SRS_ResourceSet_resourceType_periodic), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_resourceType_periodic, .members = members_SRS_ResourceSet_resourceType_periodic, .memberCount = 1, .rootCount = 1, .bits = 1, .extElem = offsetof(SRS_ResourceSet_resourceType_periodic, extElem1), .needs = needs_SRS_ResourceSet_resourceType_periodic};
+constexpr Type type_SRS_ResourceSet_resourceType_periodic = {.name = "SRS_ResourceSet_resourceType_periodic", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_ResourceSet_resourceType_periodic), .size = sizeof(SRS_ResourceSet_resourceType_periodic), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_resourceType_periodic, .members = members_SRS_ResourceSet_resourceType_periodic, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .extElem = offsetof(SRS_ResourceSet_resourceType_periodic, extElem1), .needs = needs_SRS_ResourceSet_resourceType_periodic};
 
 namespace
 {
@@ -5279,7 +5279,7 @@ constexpr Member members_SRS_ResourceSet_pathlossReferenceRS[] = {
     member(type_NZP_CSI_RS_ResourceId, offsetof(SRS_ResourceSet_pathlossReferenceRS, u)),
 };
 } // namespace
-constexpr Type type_SRS_ResourceSet_pathlossReferenceRS = {.name = "SRS_ResourceSet_pathlossReferenceRS", .kind = Kind::Choice, .align = alignof(SRS_ResourceSet_pathlossReferenceRS), .size = sizeof(SRS_ResourceSet_pathlossReferenceRS), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_pathlossReferenceRS, .members = members_SRS_ResourceSet_pathlossReferenceRS, .memberCount = 2, .rootCount = 2, .bits = 1};
+constexpr Type type_SRS_ResourceSet_pathlossReferenceRS = {.name = "SRS_ResourceSet_pathlossReferenceRS", .kind = Kind::Choice, .align = alignof(SRS_ResourceSet_pathlossReferenceRS), .size = sizeof(SRS_ResourceSet_pathlossReferenceRS), .lower = 0, .upper = 0, .names = names_SRS_ResourceSet_pathlossReferenceRS, .members = members_SRS_ResourceSet_pathlossReferenceRS, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1};
 
 namespace
 {
@@ -5327,7 +5327,7 @@ constexpr Member members_SRS_Config_srs_ResourceToReleaseList[] = {
     member(type_SRS_ResourceId, offsetof(SRS_Config_srs_ResourceToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_SRS_Config_srs_ResourceToReleaseList = {.name = "SRS_Config_srs_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SRS_Config_srs_ResourceToReleaseList), .size = sizeof(SRS_Config_srs_ResourceToReleaseList), .lower = 1, .upper = 64, .members = members_SRS_Config_srs_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_SRS_Config_srs_ResourceToReleaseList = {.name = "SRS_Config_srs_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SRS_Config_srs_ResourceToReleaseList), .size = sizeof(SRS_Config_srs_ResourceToReleaseList), .lower = 1, .upper = 64, .members = members_SRS_Config_srs_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 namespace
 {
@@ -5353,7 +5353,7 @@ constexpr Member members_SRS_Resource_transmissionComb_n2[] = {
     member(type_SRS_Resource_transmissionComb_n2_cyclicShift_n2, offsetof(SRS_Resource_transmissionComb_n2, cyclicShift_n2)),
 };
 } // namespace
-constexpr Type type_SRS_Resource_transmissionComb_n2 = {.name = "SRS_Resource_transmissionComb_n2", .kind = Kind::Sequence, .align = alignof(SRS_Resource_transmissionComb_n2), .size = sizeof(SRS_Resource_transmissionComb_n2), .lower = 0, .upper = 0, .names = names_SRS_Resource_transmissionComb_n2, .members = members_SRS_Resource_transmissionComb_n2, .memberCount = 2, .rootCount = 2};
+constexpr Type type_SRS_Resource_transmissionComb_n2 = {.name = "SRS_Resource_transmissionComb_n2", .kind = Kind::Sequence, .align = alignof(SRS_Resource_transmissionComb_n2), .size = sizeof(SRS_Resource_transmissionComb_n2), .lower = 0, .upper = 0, .names = names_SRS_Resource_transmissionComb_n2, .members = members_SRS_Resource_transmissionComb_n2, .memberCount = 2, .rootCount = 2, .plain = true};
 
 constexpr Type type_SRS_Resource_transmissionComb_n4_combOffset_n4 = {.name = "SRS_Resource_transmissionComb_n4_combOffset_n4", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 3};
 
@@ -5367,7 +5367,7 @@ constexpr Member members_SRS_Resource_transmissionComb_n4[] = {
     member(type_SRS_Resource_transmissionComb_n4_cyclicShift_n4, offsetof(SRS_Resource_transmissionComb_n4, cyclicShift_n4)),
 };
 } // namespace
-constexpr Type type_SRS_Resource_transmissionComb_n4 = {.name = "SRS_Resource_transmissionComb_n4", .kind = Kind::Sequence, .align = alignof(SRS_Resource_transmissionComb_n4), .size = sizeof(SRS_Resource_transmissionComb_n4), .lower = 0, .upper = 0, .names = names_SRS_Resource_transmissionComb_n4, .members = members_SRS_Resource_transmissionComb_n4, .memberCount = 2, .rootCount = 2};
+constexpr Type type_SRS_Resource_transmissionComb_n4 = {.name = "SRS_Resource_transmissionComb_n4", .kind = Kind::Sequence, .align = alignof(SRS_Resource_transmissionComb_n4), .size = sizeof(SRS_Resource_transmissionComb_n4), .lower = 0, .upper = 0, .names = names_SRS_Resource_transmissionComb_n4, .members = members_SRS_Resource_transmissionComb_n4, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -5402,7 +5402,7 @@ constexpr Member members_SRS_Resource_resourceMapping[] = {
     member(type_SRS_Resource_resourceMapping_repetitionFactor, offsetof(SRS_Resource_resourceMapping, repetitionFactor)),
 };
 } // namespace
-constexpr Type type_SRS_Resource_resourceMapping = {.name = "SRS_Resource_resourceMapping", .kind = Kind::Sequence, .align = alignof(SRS_Resource_resourceMapping), .size = sizeof(SRS_Resource_resourceMapping), .lower = 0, .upper = 0, .names = names_SRS_Resource_resourceMapping, .members = members_SRS_Resource_resourceMapping, .memberCount = 3, .rootCount = 3};
+constexpr Type type_SRS_Resource_resourceMapping = {.name = "SRS_Resource_resourceMapping", .kind = Kind::Sequence, .align = alignof(SRS_Resource_resourceMapping), .size = sizeof(SRS_Resource_resourceMapping), .lower = 0, .upper = 0, .names = names_SRS_Resource_resourceMapping, .members = members_SRS_Resource_resourceMapping, .memberCount = 3, .rootCount = 3, .plain = true};
 
 constexpr Type type_SRS_Resource_freqDomainPosition = {.name = "SRS_Resource_freqDomainPosition", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 67};
 
@@ -5423,7 +5423,7 @@ constexpr Member members_SRS_Resource_freqHopping[] = {
     member(type_SRS_Resource_freqHopping_b_hop, offsetof(SRS_Resource_freqHopping, b_hop)),
 };
 } // namespace
-constexpr Type type_SRS_Resource_freqHopping = {.name = "SRS_Resource_freqHopping", .kind = Kind::Sequence, .align = alignof(SRS_Resource_freqHopping), .size = sizeof(SRS_Resource_freqHopping), .lower = 0, .upper = 0, .names = names_SRS_Resource_freqHopping, .members = members_SRS_Resource_freqHopping, .memberCount = 3, .rootCount = 3};
+constexpr Type type_SRS_Resource_freqHopping = {.name = "SRS_Resource_freqHopping", .kind = Kind::Sequence, .align = alignof(SRS_Resource_freqHopping), .size = sizeof(SRS_Resource_freqHopping), .lower = 0, .upper = 0, .names = names_SRS_Resource_freqHopping, .members = members_SRS_Resource_freqHopping, .memberCount = 3, .rootCount = 3, .plain = true};
 
 namespace
 {
@@ -5490,7 +5490,7 @@ constexpr Member members_SRS_PeriodicityAndOffset[] = {
     member(type_SRS_PeriodicityAndOffset_sl2560, offsetof(SRS_PeriodicityAndOffset, u)),
 };
 } // namespace
-constexpr Type type_SRS_PeriodicityAndOffset = {.name = "SRS-PeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(SRS_PeriodicityAndOffset), .size = sizeof(SRS_PeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_SRS_PeriodicityAndOffset, .members = members_SRS_PeriodicityAndOffset, .memberCount = 17, .rootCount = 17, .bits = 5};
+constexpr Type type_SRS_PeriodicityAndOffset = {.name = "SRS-PeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(SRS_PeriodicityAndOffset), .size = sizeof(SRS_PeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_SRS_PeriodicityAndOffset, .members = members_SRS_PeriodicityAndOffset, .memberCount = 17, .rootCount = 17, .plain = true, .bits = 5};
 
 namespace
 {
@@ -5499,7 +5499,7 @@ constexpr Member members_SRS_Resource_resourceType_semi_persistent[] = {
     member(type_SRS_PeriodicityAndOffset, offsetof(SRS_Resource_resourceType_semi_persistent, periodicityAndOffset_sp)),
 };
 } // namespace
-constexpr Type type_SRS_Resource_resourceType_semi_persistent = {.name = "SRS_Resource_resourceType_semi_persistent", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_Resource_resourceType_semi_persistent), .size = sizeof(SRS_Resource_resourceType_semi_persistent), .lower = 0, .upper = 0, .names = names_SRS_Resource_resourceType_semi_persistent, .members = members_SRS_Resource_resourceType_semi_persistent, .memberCount = 1, .rootCount = 1, .extElem = offsetof(SRS_Resource_resourceType_semi_persistent, extElem1)};
+constexpr Type type_SRS_Resource_resourceType_semi_persistent = {.name = "SRS_Resource_resourceType_semi_persistent", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_Resource_resourceType_semi_persistent), .size = sizeof(SRS_Resource_resourceType_semi_persistent), .lower = 0, .upper = 0, .names = names_SRS_Resource_resourceType_semi_persistent, .members = members_SRS_Resource_resourceType_semi_persistent, .memberCount = 1, .rootCount = 1, .plain = true, .extElem = offsetof(SRS_Resource_resourceType_semi_persistent, extElem1)};
 
 namespace
 {
@@ -5508,7 +5508,7 @@ constexpr Member members_SRS_Resource_resourceType_periodic[] = {
     member(type_SRS_PeriodicityAndOffset, offsetof(SRS_Resource_resourceType_periodic, periodicityAndOffset_p)),
 };
 } // namespace
-constexpr Type type_SRS_Resource_resourceType_periodic = {.name = "SRS_Resource_resourceType_periodic", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_Resource_resourceType_periodic), .size = sizeof(SRS_Resource_resourceType_periodic), .lower = 0, .upper = 0, .names = names_SRS_Resource_resourceType_periodic, .members = members_SRS_Resource_resourceType_periodic, .memberCount = 1, .rootCount = 1, .extElem = offsetof(SRS_Resource_resourceType_periodic, extElem1)};
+constexpr Type type_SRS_Resource_resourceType_periodic = {.name = "SRS_Resource_resourceType_periodic", .kind = Kind::Sequence, .extensible = true, .align = alignof(SRS_Resource_resourceType_periodic), .size = sizeof(SRS_Resource_resourceType_periodic), .lower = 0, .upper = 0, .names = names_SRS_Resource_resourceType_periodic, .members = members_SRS_Resource_resourceType_periodic, .memberCount = 1, .rootCount = 1, .plain = true, .extElem = offsetof(SRS_Resource_resourceType_periodic, extElem1)};
 
 namespace
 {
@@ -5531,7 +5531,7 @@ constexpr Member members_SRS_SpatialRelationInfo_referenceSignal_srs[] = {
     member(type_BWP_Id, offsetof(SRS_SpatialRelationInfo_referenceSignal_srs, uplinkBWP)),
 };
 } // namespace
-constexpr Type type_SRS_SpatialRelationInfo_referenceSignal_srs = {.name = "SRS_SpatialRelationInfo_referenceSignal_srs", .kind = Kind::Sequence, .align = alignof(SRS_SpatialRelationInfo_referenceSignal_srs), .size = sizeof(SRS_SpatialRelationInfo_referenceSignal_srs), .lower = 0, .upper = 0, .names = names_SRS_SpatialRelationInfo_referenceSignal_srs, .members = members_SRS_SpatialRelationInfo_referenceSignal_srs, .memberCount = 2, .rootCount = 2};
+constexpr Type type_SRS_SpatialRelationInfo_referenceSignal_srs = {.name = "SRS_SpatialRelationInfo_referenceSignal_srs", .kind = Kind::Sequence, .align = alignof(SRS_SpatialRelationInfo_referenceSignal_srs), .size = sizeof(SRS_SpatialRelationInfo_referenceSignal_srs), .lower = 0, .upper = 0, .names = names_SRS_SpatialRelationInfo_referenceSignal_srs, .members = members_SRS_SpatialRelationInfo_referenceSignal_srs, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -5650,7 +5650,7 @@ constexpr Member members_BFR_SSB_Resource[] = {
     member(type_BFR_SSB_Resource_ra_PreambleIndex, offsetof(BFR_SSB_Resource, ra_PreambleIndex)),
 };
 } // namespace
-constexpr Type type_BFR_SSB_Resource = {.name = "BFR-SSB-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(BFR_SSB_Resource), .size = sizeof(BFR_SSB_Resource), .lower = 0, .upper = 0, .names = names_BFR_SSB_Resource, .members = members_BFR_SSB_Resource, .memberCount = 2, .rootCount = 2, .extElem = offsetof(BFR_SSB_Resource, extElem1)};
+constexpr Type type_BFR_SSB_Resource = {.name = "BFR-SSB-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(BFR_SSB_Resource), .size = sizeof(BFR_SSB_Resource), .lower = 0, .upper = 0, .names = names_BFR_SSB_Resource, .members = members_BFR_SSB_Resource, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(BFR_SSB_Resource, extElem1)};
 
 constexpr Type type_BFR_CSIRS_Resource_ra_OccasionList_element = {.name = "BFR_CSIRS_Resource_ra_OccasionList_element", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = 0, .upper = 511};
 
@@ -5660,7 +5660,7 @@ constexpr Member members_BFR_CSIRS_Resource_ra_OccasionList[] = {
     member(type_BFR_CSIRS_Resource_ra_OccasionList_element, offsetof(BFR_CSIRS_Resource_ra_OccasionList, elem)),
 };
 } // namespace
-constexpr Type type_BFR_CSIRS_Resource_ra_OccasionList = {.name = "BFR_CSIRS_Resource_ra_OccasionList", .kind = Kind::Array, .width = 1, .align = alignof(BFR_CSIRS_Resource_ra_OccasionList), .size = sizeof(BFR_CSIRS_Resource_ra_OccasionList), .lower = 1, .upper = 64, .members = members_BFR_CSIRS_Resource_ra_OccasionList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_BFR_CSIRS_Resource_ra_OccasionList = {.name = "BFR_CSIRS_Resource_ra_OccasionList", .kind = Kind::Array, .width = 1, .align = alignof(BFR_CSIRS_Resource_ra_OccasionList), .size = sizeof(BFR_CSIRS_Resource_ra_OccasionList), .lower = 1, .upper = 64, .members = members_BFR_CSIRS_Resource_ra_OccasionList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_BFR_CSIRS_Resource_ra_PreambleIndex = {.name = "BFR_CSIRS_Resource_ra_PreambleIndex", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 63};
 
@@ -5678,7 +5678,7 @@ constexpr rtx::Need needs_BFR_CSIRS_Resource[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_BFR_CSIRS_Resource = {.name = "BFR-CSIRS-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(BFR_CSIRS_Resource), .size = sizeof(BFR_CSIRS_Resource), .lower = 0, .upper = 0, .names = names_BFR_CSIRS_Resource, .members = members_BFR_CSIRS_Resource, .memberCount = 3, .rootCount = 3, .bits = 2, .extElem = offsetof(BFR_CSIRS_Resource, extElem1), .needs = needs_BFR_CSIRS_Resource};
+constexpr Type type_BFR_CSIRS_Resource = {.name = "BFR-CSIRS-Resource", .kind = Kind::Sequence, .extensible = true, .align = alignof(BFR_CSIRS_Resource), .size = sizeof(BFR_CSIRS_Resource), .lower = 0, .upper = 0, .names = names_BFR_CSIRS_Resource, .members = members_BFR_CSIRS_Resource, .memberCount = 3, .rootCount = 3, .plain = true, .bits = 2, .extElem = offsetof(BFR_CSIRS_Resource, extElem1), .needs = needs_BFR_CSIRS_Resource};
 
 namespace
 {
@@ -5779,7 +5779,7 @@ constexpr Member members_UplinkConfig_uplinkBWP_ToReleaseList[] = {
     member(type_BWP_Id, offsetof(UplinkConfig_uplinkBWP_ToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_UplinkConfig_uplinkBWP_ToReleaseList = {.name = "UplinkConfig_uplinkBWP_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(UplinkConfig_uplinkBWP_ToReleaseList), .size = sizeof(UplinkConfig_uplinkBWP_ToReleaseList), .lower = 1, .upper = 4, .members = members_UplinkConfig_uplinkBWP_ToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_UplinkConfig_uplinkBWP_ToReleaseList = {.name = "UplinkConfig_uplinkBWP_ToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(UplinkConfig_uplinkBWP_ToReleaseList), .size = sizeof(UplinkConfig_uplinkBWP_ToReleaseList), .lower = 1, .upper = 4, .members = members_UplinkConfig_uplinkBWP_ToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -5822,7 +5822,7 @@ constexpr Member members_PUSCH_CodeBlockGroupTransmission[] = {
     member(type_PUSCH_CodeBlockGroupTransmission_maxCodeBlockGroupsPerTransportBlock, offsetof(PUSCH_CodeBlockGroupTransmission, maxCodeBlockGroupsPerTransportBlock)),
 };
 } // namespace
-constexpr Type type_PUSCH_CodeBlockGroupTransmission = {.name = "PUSCH-CodeBlockGroupTransmission", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUSCH_CodeBlockGroupTransmission), .size = sizeof(PUSCH_CodeBlockGroupTransmission), .lower = 0, .upper = 0, .names = names_PUSCH_CodeBlockGroupTransmission, .members = members_PUSCH_CodeBlockGroupTransmission, .memberCount = 1, .rootCount = 1, .extElem = offsetof(PUSCH_CodeBlockGroupTransmission, extElem1)};
+constexpr Type type_PUSCH_CodeBlockGroupTransmission = {.name = "PUSCH-CodeBlockGroupTransmission", .kind = Kind::Sequence, .extensible = true, .align = alignof(PUSCH_CodeBlockGroupTransmission), .size = sizeof(PUSCH_CodeBlockGroupTransmission), .lower = 0, .upper = 0, .names = names_PUSCH_CodeBlockGroupTransmission, .members = members_PUSCH_CodeBlockGroupTransmission, .memberCount = 1, .rootCount = 1, .plain = true, .extElem = offsetof(PUSCH_CodeBlockGroupTransmission, extElem1)};
 
 namespace
 {
@@ -5907,7 +5907,7 @@ constexpr rtx::Need needs_SRS_CC_SetIndex[] = {
     {.absence = Absence::Keep},
 };
 } // namespace
-constexpr Type type_SRS_CC_SetIndex = {.name = "SRS-CC-SetIndex", .kind = Kind::Sequence, .align = alignof(SRS_CC_SetIndex), .size = sizeof(SRS_CC_SetIndex), .lower = 0, .upper = 0, .names = names_SRS_CC_SetIndex, .members = members_SRS_CC_SetIndex, .memberCount = 2, .rootCount = 2, .bits = 2, .needs = needs_SRS_CC_SetIndex};
+constexpr Type type_SRS_CC_SetIndex = {.name = "SRS-CC-SetIndex", .kind = Kind::Sequence, .align = alignof(SRS_CC_SetIndex), .size = sizeof(SRS_CC_SetIndex), .lower = 0, .upper = 0, .names = names_SRS_CC_SetIndex, .members = members_SRS_CC_SetIndex, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .needs = needs_SRS_CC_SetIndex};
 
 namespace
 {
@@ -5915,7 +5915,7 @@ constexpr Member members_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist[] = {
     member(type_SRS_CC_SetIndex, 0),
 };
 } // namespace
-constexpr Type type_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist = {.name = "SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist", .kind = Kind::List, .align = alignof(SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist), .size = sizeof(SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist), .lower = 1, .upper = 4, .members = members_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist = {.name = "SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist", .kind = Kind::List, .align = alignof(SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist), .size = sizeof(SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist), .lower = 1, .upper = 4, .members = members_SRS_TPC_PDCCH_Config_srs_CC_SetIndexlist, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -5927,7 +5927,7 @@ constexpr rtx::Need needs_SRS_TPC_PDCCH_Config[] = {
     {.absence = Absence::Keep},
 };
 } // namespace
-constexpr Type type_SRS_TPC_PDCCH_Config = {.name = "SRS-TPC-PDCCH-Config", .kind = Kind::Sequence, .align = alignof(SRS_TPC_PDCCH_Config), .size = sizeof(SRS_TPC_PDCCH_Config), .lower = 0, .upper = 0, .names = names_SRS_TPC_PDCCH_Config, .members = members_SRS_TPC_PDCCH_Config, .memberCount = 1, .rootCount = 1, .bits = 1, .needs = needs_SRS_TPC_PDCCH_Config};
+constexpr Type type_SRS_TPC_PDCCH_Config = {.name = "SRS-TPC-PDCCH-Config", .kind = Kind::Sequence, .align = alignof(SRS_TPC_PDCCH_Config), .size = sizeof(SRS_TPC_PDCCH_Config), .lower = 0, .upper = 0, .names = names_SRS_TPC_PDCCH_Config, .members = members_SRS_TPC_PDCCH_Config, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .needs = needs_SRS_TPC_PDCCH_Config};
 
 namespace
 {
@@ -5935,7 +5935,7 @@ constexpr Member members_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA[] = {
     member(type_SRS_TPC_PDCCH_Config, 0),
 };
 } // namespace
-constexpr Type type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA = {.name = "SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA", .kind = Kind::List, .align = alignof(SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA), .size = sizeof(SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA), .lower = 1, .upper = 32, .members = members_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA = {.name = "SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA", .kind = Kind::List, .align = alignof(SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA), .size = sizeof(SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA), .lower = 1, .upper = 32, .members = members_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 namespace
 {
@@ -5953,7 +5953,7 @@ constexpr Member members_SRS_CarrierSwitching_monitoringCells[] = {
     member(type_ServCellIndex, offsetof(SRS_CarrierSwitching_monitoringCells, elem)),
 };
 } // namespace
-constexpr Type type_SRS_CarrierSwitching_monitoringCells = {.name = "SRS_CarrierSwitching_monitoringCells", .kind = Kind::Array, .width = 1, .align = alignof(SRS_CarrierSwitching_monitoringCells), .size = sizeof(SRS_CarrierSwitching_monitoringCells), .lower = 1, .upper = 32, .members = members_SRS_CarrierSwitching_monitoringCells, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_SRS_CarrierSwitching_monitoringCells = {.name = "SRS_CarrierSwitching_monitoringCells", .kind = Kind::Array, .width = 1, .align = alignof(SRS_CarrierSwitching_monitoringCells), .size = sizeof(SRS_CarrierSwitching_monitoringCells), .lower = 1, .upper = 32, .members = members_SRS_CarrierSwitching_monitoringCells, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 namespace
 {
@@ -5991,7 +5991,7 @@ constexpr Member members_UplinkConfig_uplinkChannelBW_PerSCS_List[] = {
     member(type_SCS_SpecificCarrier, 0),
 };
 } // namespace
-constexpr Type type_UplinkConfig_uplinkChannelBW_PerSCS_List = {.name = "UplinkConfig_uplinkChannelBW_PerSCS_List", .kind = Kind::List, .align = alignof(UplinkConfig_uplinkChannelBW_PerSCS_List), .size = sizeof(UplinkConfig_uplinkChannelBW_PerSCS_List), .lower = 1, .upper = 5, .members = members_UplinkConfig_uplinkChannelBW_PerSCS_List, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_UplinkConfig_uplinkChannelBW_PerSCS_List = {.name = "UplinkConfig_uplinkChannelBW_PerSCS_List", .kind = Kind::List, .align = alignof(UplinkConfig_uplinkChannelBW_PerSCS_List), .size = sizeof(UplinkConfig_uplinkChannelBW_PerSCS_List), .lower = 1, .upper = 5, .members = members_UplinkConfig_uplinkChannelBW_PerSCS_List, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -6036,7 +6036,7 @@ constexpr Member members_SlotFormatCombination_slotFormats[] = {
     member(type_SlotFormatCombination_slotFormats_element, offsetof(SlotFormatCombination_slotFormats, elem)),
 };
 } // namespace
-constexpr Type type_SlotFormatCombination_slotFormats = {.name = "SlotFormatCombination_slotFormats", .kind = Kind::Array, .width = 2, .align = alignof(SlotFormatCombination_slotFormats), .size = sizeof(SlotFormatCombination_slotFormats), .lower = 1, .upper = 256, .members = members_SlotFormatCombination_slotFormats, .memberCount = 1, .rootCount = 1, .bits = 8};
+constexpr Type type_SlotFormatCombination_slotFormats = {.name = "SlotFormatCombination_slotFormats", .kind = Kind::Array, .width = 2, .align = alignof(SlotFormatCombination_slotFormats), .size = sizeof(SlotFormatCombination_slotFormats), .lower = 1, .upper = 256, .members = members_SlotFormatCombination_slotFormats, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 8};
 
 namespace
 {
@@ -6046,7 +6046,7 @@ constexpr Member members_SlotFormatCombination[] = {
     member(type_SlotFormatCombination_slotFormats, offsetof(SlotFormatCombination, slotFormats)),
 };
 } // namespace
-constexpr Type type_SlotFormatCombination = {.name = "SlotFormatCombination", .kind = Kind::Sequence, .align = alignof(SlotFormatCombination), .size = sizeof(SlotFormatCombination), .lower = 0, .upper = 0, .names = names_SlotFormatCombination, .members = members_SlotFormatCombination, .memberCount = 2, .rootCount = 2};
+constexpr Type type_SlotFormatCombination = {.name = "SlotFormatCombination", .kind = Kind::Sequence, .align = alignof(SlotFormatCombination), .size = sizeof(SlotFormatCombination), .lower = 0, .upper = 0, .names = names_SlotFormatCombination, .members = members_SlotFormatCombination, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -6054,7 +6054,7 @@ constexpr Member members_SlotFormatCombinationsPerCell_slotFormatCombinations[] 
     member(type_SlotFormatCombination, 0),
 };
 } // namespace
-constexpr Type type_SlotFormatCombinationsPerCell_slotFormatCombinations = {.name = "SlotFormatCombinationsPerCell_slotFormatCombinations", .kind = Kind::List, .align = alignof(SlotFormatCombinationsPerCell_slotFormatCombinations), .size = sizeof(SlotFormatCombinationsPerCell_slotFormatCombinations), .lower = 1, .upper = 512, .members = members_SlotFormatCombinationsPerCell_slotFormatCombinations, .memberCount = 1, .rootCount = 1, .bits = 9};
+constexpr Type type_SlotFormatCombinationsPerCell_slotFormatCombinations = {.name = "SlotFormatCombinationsPerCell_slotFormatCombinations", .kind = Kind::List, .align = alignof(SlotFormatCombinationsPerCell_slotFormatCombinations), .size = sizeof(SlotFormatCombinationsPerCell_slotFormatCombinations), .lower = 1, .upper = 512, .members = members_SlotFormatCombinationsPerCell_slotFormatCombinations, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 9};
 
 constexpr Type type_SlotFormatCombinationsPerCell_positionInDCI = {.name = "SlotFormatCombinationsPerCell_positionInDCI", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 127};
 
@@ -6076,7 +6076,7 @@ constexpr rtx::Need needs_SlotFormatCombinationsPerCell[] = {
     {.absence = Absence::Keep},
 };
 } // namespace
-constexpr Type type_SlotFormatCombinationsPerCell = {.name = "SlotFormatCombinationsPerCell", .kind = Kind::Sequence, .extensible = true, .align = alignof(SlotFormatCombinationsPerCell), .size = sizeof(SlotFormatCombinationsPerCell), .lower = 0, .upper = 0, .names = names_SlotFormatCombinationsPerCell, .members = members_SlotFormatCombinationsPerCell, .memberCount = 5, .rootCount = 5, .bits = 3, .extElem = offsetof(SlotFormatCombinationsPerCell, extElem1), .needs = needs_SlotFormatCombinationsPerCell};
+constexpr Type type_SlotFormatCombinationsPerCell = {.name = "SlotFormatCombinationsPerCell", .kind = Kind::Sequence, .extensible = true, .align = alignof(SlotFormatCombinationsPerCell), .size = sizeof(SlotFormatCombinationsPerCell), .lower = 0, .upper = 0, .names = names_SlotFormatCombinationsPerCell, .members = members_SlotFormatCombinationsPerCell, .memberCount = 5, .rootCount = 5, .plain = true, .bits = 3, .extElem = offsetof(SlotFormatCombinationsPerCell, extElem1), .needs = needs_SlotFormatCombinationsPerCell};
 
 namespace
 {
@@ -6092,7 +6092,7 @@ constexpr Member members_SlotFormatIndicator_slotFormatCombToReleaseList[] = {
     member(type_ServCellIndex, offsetof(SlotFormatIndicator_slotFormatCombToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_SlotFormatIndicator_slotFormatCombToReleaseList = {.name = "SlotFormatIndicator_slotFormatCombToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SlotFormatIndicator_slotFormatCombToReleaseList), .size = sizeof(SlotFormatIndicator_slotFormatCombToReleaseList), .lower = 1, .upper = 16, .members = members_SlotFormatIndicator_slotFormatCombToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_SlotFormatIndicator_slotFormatCombToReleaseList = {.name = "SlotFormatIndicator_slotFormatCombToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(SlotFormatIndicator_slotFormatCombToReleaseList), .size = sizeof(SlotFormatIndicator_slotFormatCombToReleaseList), .lower = 1, .upper = 16, .members = members_SlotFormatIndicator_slotFormatCombToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -6164,7 +6164,7 @@ constexpr Member members_PDSCH_CodeBlockGroupTransmission[] = {
     member(type_PDSCH_CodeBlockGroupTransmission_codeBlockGroupFlushIndicator, offsetof(PDSCH_CodeBlockGroupTransmission, codeBlockGroupFlushIndicator)),
 };
 } // namespace
-constexpr Type type_PDSCH_CodeBlockGroupTransmission = {.name = "PDSCH-CodeBlockGroupTransmission", .kind = Kind::Sequence, .extensible = true, .align = alignof(PDSCH_CodeBlockGroupTransmission), .size = sizeof(PDSCH_CodeBlockGroupTransmission), .lower = 0, .upper = 0, .names = names_PDSCH_CodeBlockGroupTransmission, .members = members_PDSCH_CodeBlockGroupTransmission, .memberCount = 2, .rootCount = 2, .extElem = offsetof(PDSCH_CodeBlockGroupTransmission, extElem1)};
+constexpr Type type_PDSCH_CodeBlockGroupTransmission = {.name = "PDSCH-CodeBlockGroupTransmission", .kind = Kind::Sequence, .extensible = true, .align = alignof(PDSCH_CodeBlockGroupTransmission), .size = sizeof(PDSCH_CodeBlockGroupTransmission), .lower = 0, .upper = 0, .names = names_PDSCH_CodeBlockGroupTransmission, .members = members_PDSCH_CodeBlockGroupTransmission, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(PDSCH_CodeBlockGroupTransmission, extElem1)};
 
 namespace
 {
@@ -6275,7 +6275,7 @@ constexpr Member members_CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList[] = {
     member(type_NZP_CSI_RS_ResourceId, offsetof(CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList = {.name = "CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList), .size = sizeof(CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList), .lower = 1, .upper = 192, .members = members_CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 8};
+constexpr Type type_CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList = {.name = "CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList), .size = sizeof(CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList), .lower = 1, .upper = 192, .members = members_CSI_MeasConfig_nzp_CSI_RS_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 8};
 
 constexpr Type type_NZP_CSI_RS_ResourceSetId = {.name = "NZP-CSI-RS-ResourceSetId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 63};
 
@@ -6285,7 +6285,7 @@ constexpr Member members_NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources[] = {
     member(type_NZP_CSI_RS_ResourceId, offsetof(NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources, elem)),
 };
 } // namespace
-constexpr Type type_NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources = {.name = "NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources", .kind = Kind::Array, .width = 1, .align = alignof(NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources), .size = sizeof(NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources), .lower = 1, .upper = 64, .members = members_NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources = {.name = "NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources", .kind = Kind::Array, .width = 1, .align = alignof(NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources), .size = sizeof(NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources), .lower = 1, .upper = 64, .members = members_NZP_CSI_RS_ResourceSet_nzp_CSI_RS_Resources, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 namespace
 {
@@ -6319,7 +6319,7 @@ constexpr rtx::Need needs_NZP_CSI_RS_ResourceSet[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_NZP_CSI_RS_ResourceSet = {.name = "NZP-CSI-RS-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(NZP_CSI_RS_ResourceSet), .size = sizeof(NZP_CSI_RS_ResourceSet), .lower = 0, .upper = 0, .names = names_NZP_CSI_RS_ResourceSet, .members = members_NZP_CSI_RS_ResourceSet, .memberCount = 5, .rootCount = 5, .bits = 3, .extElem = offsetof(NZP_CSI_RS_ResourceSet, extElem1), .needs = needs_NZP_CSI_RS_ResourceSet};
+constexpr Type type_NZP_CSI_RS_ResourceSet = {.name = "NZP-CSI-RS-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(NZP_CSI_RS_ResourceSet), .size = sizeof(NZP_CSI_RS_ResourceSet), .lower = 0, .upper = 0, .names = names_NZP_CSI_RS_ResourceSet, .members = members_NZP_CSI_RS_ResourceSet, .memberCount = 5, .rootCount = 5, .plain = true, .bits = 3, .extElem = offsetof(NZP_CSI_RS_ResourceSet, extElem1), .needs = needs_NZP_CSI_RS_ResourceSet};
 
 namespace
 {
@@ -6335,7 +6335,7 @@ constexpr Member members_CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList[] = 
     member(type_NZP_CSI_RS_ResourceSetId, offsetof(CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList = {.name = "CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList), .size = sizeof(CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList), .lower = 1, .upper = 64, .members = members_CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList = {.name = "CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList), .size = sizeof(CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList), .lower = 1, .upper = 64, .members = members_CSI_MeasConfig_nzp_CSI_RS_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_CSI_IM_ResourceId = {.name = "CSI-IM-ResourceId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 31};
 
@@ -6355,7 +6355,7 @@ constexpr Member members_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0[
     member(type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0_symbolLocation_p0, offsetof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, symbolLocation_p0)),
 };
 } // namespace
-constexpr Type type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0 = {.name = "CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0", .kind = Kind::Sequence, .align = alignof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0), .size = sizeof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0), .lower = 0, .upper = 0, .names = names_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, .members = members_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0 = {.name = "CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0", .kind = Kind::Sequence, .align = alignof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0), .size = sizeof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0), .lower = 0, .upper = 0, .names = names_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, .members = members_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -6373,7 +6373,7 @@ constexpr Member members_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1[
     member(type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1_symbolLocation_p1, offsetof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, symbolLocation_p1)),
 };
 } // namespace
-constexpr Type type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1 = {.name = "CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1", .kind = Kind::Sequence, .align = alignof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1), .size = sizeof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1), .lower = 0, .upper = 0, .names = names_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, .members = members_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1 = {.name = "CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1", .kind = Kind::Sequence, .align = alignof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1), .size = sizeof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1), .lower = 0, .upper = 0, .names = names_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, .members = members_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -6417,7 +6417,7 @@ constexpr Member members_CSI_MeasConfig_csi_IM_ResourceToReleaseList[] = {
     member(type_CSI_IM_ResourceId, offsetof(CSI_MeasConfig_csi_IM_ResourceToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_csi_IM_ResourceToReleaseList = {.name = "CSI_MeasConfig_csi_IM_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_IM_ResourceToReleaseList), .size = sizeof(CSI_MeasConfig_csi_IM_ResourceToReleaseList), .lower = 1, .upper = 32, .members = members_CSI_MeasConfig_csi_IM_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_CSI_MeasConfig_csi_IM_ResourceToReleaseList = {.name = "CSI_MeasConfig_csi_IM_ResourceToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_IM_ResourceToReleaseList), .size = sizeof(CSI_MeasConfig_csi_IM_ResourceToReleaseList), .lower = 1, .upper = 32, .members = members_CSI_MeasConfig_csi_IM_ResourceToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 constexpr Type type_CSI_IM_ResourceSetId = {.name = "CSI-IM-ResourceSetId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 63};
 
@@ -6427,7 +6427,7 @@ constexpr Member members_CSI_IM_ResourceSet_csi_IM_Resources[] = {
     member(type_CSI_IM_ResourceId, offsetof(CSI_IM_ResourceSet_csi_IM_Resources, elem)),
 };
 } // namespace
-constexpr Type type_CSI_IM_ResourceSet_csi_IM_Resources = {.name = "CSI_IM_ResourceSet_csi_IM_Resources", .kind = Kind::Array, .width = 1, .align = alignof(CSI_IM_ResourceSet_csi_IM_Resources), .size = sizeof(CSI_IM_ResourceSet_csi_IM_Resources), .lower = 1, .upper = 8, .members = members_CSI_IM_ResourceSet_csi_IM_Resources, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_CSI_IM_ResourceSet_csi_IM_Resources = {.name = "CSI_IM_ResourceSet_csi_IM_Resources", .kind = Kind::Array, .width = 1, .align = alignof(CSI_IM_ResourceSet_csi_IM_Resources), .size = sizeof(CSI_IM_ResourceSet_csi_IM_Resources), .lower = 1, .upper = 8, .members = members_CSI_IM_ResourceSet_csi_IM_Resources, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -6437,7 +6437,7 @@ constexpr Member members_CSI_IM_ResourceSet[] = {
     member(type_CSI_IM_ResourceSet_csi_IM_Resources, offsetof(CSI_IM_ResourceSet, csi_IM_Resources)),
 };
 } // namespace
-constexpr Type type_CSI_IM_ResourceSet = {.name = "CSI-IM-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_IM_ResourceSet), .size = sizeof(CSI_IM_ResourceSet), .lower = 0, .upper = 0, .names = names_CSI_IM_ResourceSet, .members = members_CSI_IM_ResourceSet, .memberCount = 2, .rootCount = 2, .extElem = offsetof(CSI_IM_ResourceSet, extElem1)};
+constexpr Type type_CSI_IM_ResourceSet = {.name = "CSI-IM-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_IM_ResourceSet), .size = sizeof(CSI_IM_ResourceSet), .lower = 0, .upper = 0, .names = names_CSI_IM_ResourceSet, .members = members_CSI_IM_ResourceSet, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(CSI_IM_ResourceSet, extElem1)};
 
 namespace
 {
@@ -6453,7 +6453,7 @@ constexpr Member members_CSI_MeasConfig_csi_IM_ResourceSetToReleaseList[] = {
     member(type_CSI_IM_ResourceSetId, offsetof(CSI_MeasConfig_csi_IM_ResourceSetToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_csi_IM_ResourceSetToReleaseList = {.name = "CSI_MeasConfig_csi_IM_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_IM_ResourceSetToReleaseList), .size = sizeof(CSI_MeasConfig_csi_IM_ResourceSetToReleaseList), .lower = 1, .upper = 64, .members = members_CSI_MeasConfig_csi_IM_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CSI_MeasConfig_csi_IM_ResourceSetToReleaseList = {.name = "CSI_MeasConfig_csi_IM_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_IM_ResourceSetToReleaseList), .size = sizeof(CSI_MeasConfig_csi_IM_ResourceSetToReleaseList), .lower = 1, .upper = 64, .members = members_CSI_MeasConfig_csi_IM_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_CSI_SSB_ResourceSetId = {.name = "CSI-SSB-ResourceSetId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 63};
 
@@ -6463,7 +6463,7 @@ constexpr Member members_CSI_SSB_ResourceSet_csi_SSB_ResourceList[] = {
     member(type_SSB_Index, offsetof(CSI_SSB_ResourceSet_csi_SSB_ResourceList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_SSB_ResourceSet_csi_SSB_ResourceList = {.name = "CSI_SSB_ResourceSet_csi_SSB_ResourceList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_SSB_ResourceSet_csi_SSB_ResourceList), .size = sizeof(CSI_SSB_ResourceSet_csi_SSB_ResourceList), .lower = 1, .upper = 64, .members = members_CSI_SSB_ResourceSet_csi_SSB_ResourceList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CSI_SSB_ResourceSet_csi_SSB_ResourceList = {.name = "CSI_SSB_ResourceSet_csi_SSB_ResourceList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_SSB_ResourceSet_csi_SSB_ResourceList), .size = sizeof(CSI_SSB_ResourceSet_csi_SSB_ResourceList), .lower = 1, .upper = 64, .members = members_CSI_SSB_ResourceSet_csi_SSB_ResourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 namespace
 {
@@ -6473,7 +6473,7 @@ constexpr Member members_CSI_SSB_ResourceSet[] = {
     member(type_CSI_SSB_ResourceSet_csi_SSB_ResourceList, offsetof(CSI_SSB_ResourceSet, csi_SSB_ResourceList)),
 };
 } // namespace
-constexpr Type type_CSI_SSB_ResourceSet = {.name = "CSI-SSB-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_SSB_ResourceSet), .size = sizeof(CSI_SSB_ResourceSet), .lower = 0, .upper = 0, .names = names_CSI_SSB_ResourceSet, .members = members_CSI_SSB_ResourceSet, .memberCount = 2, .rootCount = 2, .extElem = offsetof(CSI_SSB_ResourceSet, extElem1)};
+constexpr Type type_CSI_SSB_ResourceSet = {.name = "CSI-SSB-ResourceSet", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_SSB_ResourceSet), .size = sizeof(CSI_SSB_ResourceSet), .lower = 0, .upper = 0, .names = names_CSI_SSB_ResourceSet, .members = members_CSI_SSB_ResourceSet, .memberCount = 2, .rootCount = 2, .plain = true, .extElem = offsetof(CSI_SSB_ResourceSet, extElem1)};
 
 namespace
 {
@@ -6489,7 +6489,7 @@ constexpr Member members_CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList[] = {
     member(type_CSI_SSB_ResourceSetId, offsetof(CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList = {.name = "CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList), .size = sizeof(CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList), .lower = 1, .upper = 64, .members = members_CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList = {.name = "CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList), .size = sizeof(CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList), .lower = 1, .upper = 64, .members = members_CSI_MeasConfig_csi_SSB_ResourceSetToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_CSI_ResourceConfigId = {.name = "CSI-ResourceConfigId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 111};
 
@@ -6499,7 +6499,7 @@ constexpr Member members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SS
     member(type_NZP_CSI_RS_ResourceSetId, offsetof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList), .lower = 1, .upper = 16, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList), .lower = 1, .upper = 16, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_nzp_CSI_RS_ResourceSetList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -6507,7 +6507,7 @@ constexpr Member members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SS
     member(type_CSI_SSB_ResourceSetId, offsetof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList", .kind = Kind::Array, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList), .lower = 1, .upper = 1, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList, .memberCount = 1, .rootCount = 1};
+constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList", .kind = Kind::Array, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList), .lower = 1, .upper = 1, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB_csi_SSB_ResourceSetList, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -6521,7 +6521,7 @@ constexpr rtx::Need needs_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_S
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB", .kind = Kind::Sequence, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB), .lower = 0, .upper = 0, .names = names_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, .memberCount = 2, .rootCount = 2, .bits = 2, .needs = needs_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB};
+constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB", .kind = Kind::Sequence, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB), .lower = 0, .upper = 0, .names = names_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .needs = needs_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB};
 
 namespace
 {
@@ -6529,7 +6529,7 @@ constexpr Member members_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_Resour
     member(type_CSI_IM_ResourceSetId, offsetof(CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList), .lower = 1, .upper = 16, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList = {.name = "CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList), .size = sizeof(CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList), .lower = 1, .upper = 16, .members = members_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -6573,7 +6573,7 @@ constexpr Member members_CSI_MeasConfig_csi_ResourceConfigToReleaseList[] = {
     member(type_CSI_ResourceConfigId, offsetof(CSI_MeasConfig_csi_ResourceConfigToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_csi_ResourceConfigToReleaseList = {.name = "CSI_MeasConfig_csi_ResourceConfigToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_ResourceConfigToReleaseList), .size = sizeof(CSI_MeasConfig_csi_ResourceConfigToReleaseList), .lower = 1, .upper = 112, .members = members_CSI_MeasConfig_csi_ResourceConfigToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 7};
+constexpr Type type_CSI_MeasConfig_csi_ResourceConfigToReleaseList = {.name = "CSI_MeasConfig_csi_ResourceConfigToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_ResourceConfigToReleaseList), .size = sizeof(CSI_MeasConfig_csi_ResourceConfigToReleaseList), .lower = 1, .upper = 112, .members = members_CSI_MeasConfig_csi_ResourceConfigToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 7};
 
 constexpr Type type_CSI_ReportConfigId = {.name = "CSI-ReportConfigId", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 47};
 
@@ -6613,7 +6613,7 @@ constexpr Member members_CSI_ReportPeriodicityAndOffset[] = {
     member(type_CSI_ReportPeriodicityAndOffset_slots320, offsetof(CSI_ReportPeriodicityAndOffset, u)),
 };
 } // namespace
-constexpr Type type_CSI_ReportPeriodicityAndOffset = {.name = "CSI-ReportPeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(CSI_ReportPeriodicityAndOffset), .size = sizeof(CSI_ReportPeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_CSI_ReportPeriodicityAndOffset, .members = members_CSI_ReportPeriodicityAndOffset, .memberCount = 10, .rootCount = 10, .bits = 4};
+constexpr Type type_CSI_ReportPeriodicityAndOffset = {.name = "CSI-ReportPeriodicityAndOffset", .kind = Kind::Choice, .align = alignof(CSI_ReportPeriodicityAndOffset), .size = sizeof(CSI_ReportPeriodicityAndOffset), .lower = 0, .upper = 0, .names = names_CSI_ReportPeriodicityAndOffset, .members = members_CSI_ReportPeriodicityAndOffset, .memberCount = 10, .rootCount = 10, .plain = true, .bits = 4};
 
 namespace
 {
@@ -6623,7 +6623,7 @@ constexpr Member members_PUCCH_CSI_Resource[] = {
     member(type_PUCCH_ResourceId, offsetof(PUCCH_CSI_Resource, pucch_Resource)),
 };
 } // namespace
-constexpr Type type_PUCCH_CSI_Resource = {.name = "PUCCH-CSI-Resource", .kind = Kind::Sequence, .align = alignof(PUCCH_CSI_Resource), .size = sizeof(PUCCH_CSI_Resource), .lower = 0, .upper = 0, .names = names_PUCCH_CSI_Resource, .members = members_PUCCH_CSI_Resource, .memberCount = 2, .rootCount = 2};
+constexpr Type type_PUCCH_CSI_Resource = {.name = "PUCCH-CSI-Resource", .kind = Kind::Sequence, .align = alignof(PUCCH_CSI_Resource), .size = sizeof(PUCCH_CSI_Resource), .lower = 0, .upper = 0, .names = names_PUCCH_CSI_Resource, .members = members_PUCCH_CSI_Resource, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -6631,7 +6631,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_Re
     member(type_PUCCH_CSI_Resource, 0),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList = {.name = "CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList", .kind = Kind::List, .align = alignof(CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList), .size = sizeof(CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList), .lower = 1, .upper = 4, .members = members_CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList = {.name = "CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList", .kind = Kind::List, .align = alignof(CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList), .size = sizeof(CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList), .lower = 1, .upper = 4, .members = members_CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -6641,7 +6641,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_periodic[] = {
     member(type_CSI_ReportConfig_reportConfigType_periodic_pucch_CSI_ResourceList, offsetof(CSI_ReportConfig_reportConfigType_periodic, pucch_CSI_ResourceList)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_periodic = {.name = "CSI_ReportConfig_reportConfigType_periodic", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_periodic), .size = sizeof(CSI_ReportConfig_reportConfigType_periodic), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_periodic, .members = members_CSI_ReportConfig_reportConfigType_periodic, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CSI_ReportConfig_reportConfigType_periodic = {.name = "CSI_ReportConfig_reportConfigType_periodic", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_periodic), .size = sizeof(CSI_ReportConfig_reportConfigType_periodic), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_periodic, .members = members_CSI_ReportConfig_reportConfigType_periodic, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -6649,7 +6649,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH
     member(type_PUCCH_CSI_Resource, 0),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList", .kind = Kind::List, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList), .lower = 1, .upper = 4, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList", .kind = Kind::List, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList), .lower = 1, .upper = 4, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -6659,7 +6659,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH
     member(type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH_pucch_CSI_ResourceList, offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, pucch_CSI_ResourceList)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -6675,7 +6675,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH
     member(type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList_element, offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList), .lower = 1, .upper = 16, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList), .lower = 1, .upper = 16, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -6686,7 +6686,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH
     member(type_P0_PUSCH_AlphaSetId, offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, p0alpha)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, .memberCount = 3, .rootCount = 3};
+constexpr Type type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH = {.name = "CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH), .size = sizeof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, .members = members_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, .memberCount = 3, .rootCount = 3, .plain = true};
 
 constexpr Type type_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList_element = {.name = "CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList_element", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 32};
 
@@ -6696,7 +6696,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotO
     member(type_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList_element, offsetof(CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList = {.name = "CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList), .size = sizeof(CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList), .lower = 1, .upper = 16, .members = members_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList = {.name = "CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList), .size = sizeof(CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList), .lower = 1, .upper = 16, .members = members_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -6705,7 +6705,7 @@ constexpr Member members_CSI_ReportConfig_reportConfigType_aperiodic[] = {
     member(type_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList, offsetof(CSI_ReportConfig_reportConfigType_aperiodic, reportSlotOffsetList)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportConfigType_aperiodic = {.name = "CSI_ReportConfig_reportConfigType_aperiodic", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_aperiodic), .size = sizeof(CSI_ReportConfig_reportConfigType_aperiodic), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_aperiodic, .members = members_CSI_ReportConfig_reportConfigType_aperiodic, .memberCount = 1, .rootCount = 1};
+constexpr Type type_CSI_ReportConfig_reportConfigType_aperiodic = {.name = "CSI_ReportConfig_reportConfigType_aperiodic", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportConfigType_aperiodic), .size = sizeof(CSI_ReportConfig_reportConfigType_aperiodic), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportConfigType_aperiodic, .members = members_CSI_ReportConfig_reportConfigType_aperiodic, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -6741,7 +6741,7 @@ constexpr rtx::Need needs_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI[] = {
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI = {.name = "CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI), .size = sizeof(CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, .members = members_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, .memberCount = 1, .rootCount = 1, .bits = 1, .needs = needs_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI};
+constexpr Type type_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI = {.name = "CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI), .size = sizeof(CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, .members = members_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .needs = needs_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI};
 
 constexpr Type type_CSI_ReportConfig_reportQuantity_cri_RI_CQI = {.name = "CSI_ReportConfig_reportQuantity_cri_RI_CQI", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -6875,7 +6875,7 @@ constexpr Member members_CodebookConfig_codebookType_type1_subType_typeI_SingleP
     member(type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two_twoTX_CodebookSubsetRestriction, offsetof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, twoTX_CodebookSubsetRestriction)),
 };
 } // namespace
-constexpr Type type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two = {.name = "CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two", .kind = Kind::Sequence, .align = alignof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two), .size = sizeof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two), .lower = 0, .upper = 0, .names = names_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, .members = members_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, .memberCount = 1, .rootCount = 1};
+constexpr Type type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two = {.name = "CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two", .kind = Kind::Sequence, .align = alignof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two), .size = sizeof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two), .lower = 0, .upper = 0, .names = names_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, .members = members_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, .memberCount = 1, .rootCount = 1, .plain = true};
 
 constexpr Type type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_two_one_TypeI_SinglePanel_Restriction = {.name = "CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_two_one_TypeI_SinglePanel_Restriction", .kind = Kind::BitStr32, .align = alignof(ASN1BitStr32), .size = sizeof(ASN1BitStr32), .lower = 8, .upper = 8};
 
@@ -7107,7 +7107,7 @@ constexpr rtx::Need needs_CodebookConfig_codebookType_type2_subType_typeII_PortS
     {},
 };
 } // namespace
-constexpr Type type_CodebookConfig_codebookType_type2_subType_typeII_PortSelection = {.name = "CodebookConfig_codebookType_type2_subType_typeII_PortSelection", .kind = Kind::Sequence, .align = alignof(CodebookConfig_codebookType_type2_subType_typeII_PortSelection), .size = sizeof(CodebookConfig_codebookType_type2_subType_typeII_PortSelection), .lower = 0, .upper = 0, .names = names_CodebookConfig_codebookType_type2_subType_typeII_PortSelection, .members = members_CodebookConfig_codebookType_type2_subType_typeII_PortSelection, .memberCount = 2, .rootCount = 2, .bits = 1, .needs = needs_CodebookConfig_codebookType_type2_subType_typeII_PortSelection};
+constexpr Type type_CodebookConfig_codebookType_type2_subType_typeII_PortSelection = {.name = "CodebookConfig_codebookType_type2_subType_typeII_PortSelection", .kind = Kind::Sequence, .align = alignof(CodebookConfig_codebookType_type2_subType_typeII_PortSelection), .size = sizeof(CodebookConfig_codebookType_type2_subType_typeII_PortSelection), .lower = 0, .upper = 0, .names = names_CodebookConfig_codebookType_type2_subType_typeII_PortSelection, .members = members_CodebookConfig_codebookType_type2_subType_typeII_PortSelection, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1, .needs = needs_CodebookConfig_codebookType_type2_subType_typeII_PortSelection};
 
 namespace
 {
@@ -7188,7 +7188,7 @@ constexpr rtx::Need needs_CSI_ReportConfig_groupBasedBeamReporting_disabled[] = 
     {.absence = Absence::Default},
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_groupBasedBeamReporting_disabled = {.name = "CSI_ReportConfig_groupBasedBeamReporting_disabled", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_groupBasedBeamReporting_disabled), .size = sizeof(CSI_ReportConfig_groupBasedBeamReporting_disabled), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_groupBasedBeamReporting_disabled, .members = members_CSI_ReportConfig_groupBasedBeamReporting_disabled, .memberCount = 1, .rootCount = 1, .bits = 1, .needs = needs_CSI_ReportConfig_groupBasedBeamReporting_disabled};
+constexpr Type type_CSI_ReportConfig_groupBasedBeamReporting_disabled = {.name = "CSI_ReportConfig_groupBasedBeamReporting_disabled", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_groupBasedBeamReporting_disabled), .size = sizeof(CSI_ReportConfig_groupBasedBeamReporting_disabled), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_groupBasedBeamReporting_disabled, .members = members_CSI_ReportConfig_groupBasedBeamReporting_disabled, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 1, .needs = needs_CSI_ReportConfig_groupBasedBeamReporting_disabled};
 
 namespace
 {
@@ -7220,7 +7220,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank2_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank2_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank2_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank2_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank2_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank2_8), .lower = 2, .upper = 2, .members = members_PortIndexFor8Ranks_portIndex8_rank2_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank2_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank2_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank2_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank2_8), .lower = 2, .upper = 2, .members = members_PortIndexFor8Ranks_portIndex8_rank2_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7228,7 +7228,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank3_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank3_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank3_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank3_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank3_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank3_8), .lower = 3, .upper = 3, .members = members_PortIndexFor8Ranks_portIndex8_rank3_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank3_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank3_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank3_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank3_8), .lower = 3, .upper = 3, .members = members_PortIndexFor8Ranks_portIndex8_rank3_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7236,7 +7236,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank4_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank4_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank4_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank4_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank4_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank4_8), .lower = 4, .upper = 4, .members = members_PortIndexFor8Ranks_portIndex8_rank4_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank4_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank4_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank4_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank4_8), .lower = 4, .upper = 4, .members = members_PortIndexFor8Ranks_portIndex8_rank4_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7244,7 +7244,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank5_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank5_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank5_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank5_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank5_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank5_8), .lower = 5, .upper = 5, .members = members_PortIndexFor8Ranks_portIndex8_rank5_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank5_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank5_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank5_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank5_8), .lower = 5, .upper = 5, .members = members_PortIndexFor8Ranks_portIndex8_rank5_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7252,7 +7252,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank6_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank6_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank6_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank6_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank6_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank6_8), .lower = 6, .upper = 6, .members = members_PortIndexFor8Ranks_portIndex8_rank6_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank6_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank6_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank6_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank6_8), .lower = 6, .upper = 6, .members = members_PortIndexFor8Ranks_portIndex8_rank6_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7260,7 +7260,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank7_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank7_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank7_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank7_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank7_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank7_8), .lower = 7, .upper = 7, .members = members_PortIndexFor8Ranks_portIndex8_rank7_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank7_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank7_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank7_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank7_8), .lower = 7, .upper = 7, .members = members_PortIndexFor8Ranks_portIndex8_rank7_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7268,7 +7268,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex8_rank8_8[] = {
     member(type_PortIndex8, offsetof(PortIndexFor8Ranks_portIndex8_rank8_8, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8_rank8_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank8_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank8_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank8_8), .lower = 8, .upper = 8, .members = members_PortIndexFor8Ranks_portIndex8_rank8_8, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex8_rank8_8 = {.name = "PortIndexFor8Ranks_portIndex8_rank8_8", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex8_rank8_8), .size = sizeof(PortIndexFor8Ranks_portIndex8_rank8_8), .lower = 8, .upper = 8, .members = members_PortIndexFor8Ranks_portIndex8_rank8_8, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7294,7 +7294,7 @@ constexpr rtx::Need needs_PortIndexFor8Ranks_portIndex8[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex8 = {.name = "PortIndexFor8Ranks_portIndex8", .kind = Kind::Sequence, .align = alignof(PortIndexFor8Ranks_portIndex8), .size = sizeof(PortIndexFor8Ranks_portIndex8), .lower = 0, .upper = 0, .names = names_PortIndexFor8Ranks_portIndex8, .members = members_PortIndexFor8Ranks_portIndex8, .memberCount = 8, .rootCount = 8, .bits = 8, .needs = needs_PortIndexFor8Ranks_portIndex8};
+constexpr Type type_PortIndexFor8Ranks_portIndex8 = {.name = "PortIndexFor8Ranks_portIndex8", .kind = Kind::Sequence, .align = alignof(PortIndexFor8Ranks_portIndex8), .size = sizeof(PortIndexFor8Ranks_portIndex8), .lower = 0, .upper = 0, .names = names_PortIndexFor8Ranks_portIndex8, .members = members_PortIndexFor8Ranks_portIndex8, .memberCount = 8, .rootCount = 8, .plain = true, .bits = 8, .needs = needs_PortIndexFor8Ranks_portIndex8};
 
 constexpr Type type_PortIndex4 = {.name = "PortIndex4", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 3};
 
@@ -7304,7 +7304,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex4_rank2_4[] = {
     member(type_PortIndex4, offsetof(PortIndexFor8Ranks_portIndex4_rank2_4, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex4_rank2_4 = {.name = "PortIndexFor8Ranks_portIndex4_rank2_4", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex4_rank2_4), .size = sizeof(PortIndexFor8Ranks_portIndex4_rank2_4), .lower = 2, .upper = 2, .members = members_PortIndexFor8Ranks_portIndex4_rank2_4, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex4_rank2_4 = {.name = "PortIndexFor8Ranks_portIndex4_rank2_4", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex4_rank2_4), .size = sizeof(PortIndexFor8Ranks_portIndex4_rank2_4), .lower = 2, .upper = 2, .members = members_PortIndexFor8Ranks_portIndex4_rank2_4, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7312,7 +7312,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex4_rank3_4[] = {
     member(type_PortIndex4, offsetof(PortIndexFor8Ranks_portIndex4_rank3_4, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex4_rank3_4 = {.name = "PortIndexFor8Ranks_portIndex4_rank3_4", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex4_rank3_4), .size = sizeof(PortIndexFor8Ranks_portIndex4_rank3_4), .lower = 3, .upper = 3, .members = members_PortIndexFor8Ranks_portIndex4_rank3_4, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex4_rank3_4 = {.name = "PortIndexFor8Ranks_portIndex4_rank3_4", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex4_rank3_4), .size = sizeof(PortIndexFor8Ranks_portIndex4_rank3_4), .lower = 3, .upper = 3, .members = members_PortIndexFor8Ranks_portIndex4_rank3_4, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7320,7 +7320,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex4_rank4_4[] = {
     member(type_PortIndex4, offsetof(PortIndexFor8Ranks_portIndex4_rank4_4, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex4_rank4_4 = {.name = "PortIndexFor8Ranks_portIndex4_rank4_4", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex4_rank4_4), .size = sizeof(PortIndexFor8Ranks_portIndex4_rank4_4), .lower = 4, .upper = 4, .members = members_PortIndexFor8Ranks_portIndex4_rank4_4, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex4_rank4_4 = {.name = "PortIndexFor8Ranks_portIndex4_rank4_4", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex4_rank4_4), .size = sizeof(PortIndexFor8Ranks_portIndex4_rank4_4), .lower = 4, .upper = 4, .members = members_PortIndexFor8Ranks_portIndex4_rank4_4, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7338,7 +7338,7 @@ constexpr rtx::Need needs_PortIndexFor8Ranks_portIndex4[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex4 = {.name = "PortIndexFor8Ranks_portIndex4", .kind = Kind::Sequence, .align = alignof(PortIndexFor8Ranks_portIndex4), .size = sizeof(PortIndexFor8Ranks_portIndex4), .lower = 0, .upper = 0, .names = names_PortIndexFor8Ranks_portIndex4, .members = members_PortIndexFor8Ranks_portIndex4, .memberCount = 4, .rootCount = 4, .bits = 4, .needs = needs_PortIndexFor8Ranks_portIndex4};
+constexpr Type type_PortIndexFor8Ranks_portIndex4 = {.name = "PortIndexFor8Ranks_portIndex4", .kind = Kind::Sequence, .align = alignof(PortIndexFor8Ranks_portIndex4), .size = sizeof(PortIndexFor8Ranks_portIndex4), .lower = 0, .upper = 0, .names = names_PortIndexFor8Ranks_portIndex4, .members = members_PortIndexFor8Ranks_portIndex4, .memberCount = 4, .rootCount = 4, .plain = true, .bits = 4, .needs = needs_PortIndexFor8Ranks_portIndex4};
 
 constexpr Type type_PortIndex2 = {.name = "PortIndex2", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 1};
 
@@ -7348,7 +7348,7 @@ constexpr Member members_PortIndexFor8Ranks_portIndex2_rank2_2[] = {
     member(type_PortIndex2, offsetof(PortIndexFor8Ranks_portIndex2_rank2_2, elem)),
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex2_rank2_2 = {.name = "PortIndexFor8Ranks_portIndex2_rank2_2", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex2_rank2_2), .size = sizeof(PortIndexFor8Ranks_portIndex2_rank2_2), .lower = 2, .upper = 2, .members = members_PortIndexFor8Ranks_portIndex2_rank2_2, .memberCount = 1, .rootCount = 1};
+constexpr Type type_PortIndexFor8Ranks_portIndex2_rank2_2 = {.name = "PortIndexFor8Ranks_portIndex2_rank2_2", .kind = Kind::Array, .align = alignof(PortIndexFor8Ranks_portIndex2_rank2_2), .size = sizeof(PortIndexFor8Ranks_portIndex2_rank2_2), .lower = 2, .upper = 2, .members = members_PortIndexFor8Ranks_portIndex2_rank2_2, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7362,7 +7362,7 @@ constexpr rtx::Need needs_PortIndexFor8Ranks_portIndex2[] = {
     {.absence = Absence::Clear},
 };
 } // namespace
-constexpr Type type_PortIndexFor8Ranks_portIndex2 = {.name = "PortIndexFor8Ranks_portIndex2", .kind = Kind::Sequence, .align = alignof(PortIndexFor8Ranks_portIndex2), .size = sizeof(PortIndexFor8Ranks_portIndex2), .lower = 0, .upper = 0, .names = names_PortIndexFor8Ranks_portIndex2, .members = members_PortIndexFor8Ranks_portIndex2, .memberCount = 2, .rootCount = 2, .bits = 2, .needs = needs_PortIndexFor8Ranks_portIndex2};
+constexpr Type type_PortIndexFor8Ranks_portIndex2 = {.name = "PortIndexFor8Ranks_portIndex2", .kind = Kind::Sequence, .align = alignof(PortIndexFor8Ranks_portIndex2), .size = sizeof(PortIndexFor8Ranks_portIndex2), .lower = 0, .upper = 0, .names = names_PortIndexFor8Ranks_portIndex2, .members = members_PortIndexFor8Ranks_portIndex2, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 2, .needs = needs_PortIndexFor8Ranks_portIndex2};
 
 constexpr Type type_PortIndexFor8Ranks_portIndex1 = {.name = "PortIndexFor8Ranks_portIndex1", .kind = Kind::Null, .size = 0, .lower = 0, .upper = 0};
 
@@ -7399,7 +7399,7 @@ constexpr Member members_CSI_ReportConfig_semiPersistentOnPUSCH_v1530[] = {
     member(type_CSI_ReportConfig_semiPersistentOnPUSCH_v1530_reportSlotConfig_v1530, offsetof(CSI_ReportConfig_semiPersistentOnPUSCH_v1530, reportSlotConfig_v1530)),
 };
 } // namespace
-constexpr Type type_CSI_ReportConfig_semiPersistentOnPUSCH_v1530 = {.name = "CSI_ReportConfig_semiPersistentOnPUSCH_v1530", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_semiPersistentOnPUSCH_v1530), .size = sizeof(CSI_ReportConfig_semiPersistentOnPUSCH_v1530), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_semiPersistentOnPUSCH_v1530, .members = members_CSI_ReportConfig_semiPersistentOnPUSCH_v1530, .memberCount = 1, .rootCount = 1};
+constexpr Type type_CSI_ReportConfig_semiPersistentOnPUSCH_v1530 = {.name = "CSI_ReportConfig_semiPersistentOnPUSCH_v1530", .kind = Kind::Sequence, .align = alignof(CSI_ReportConfig_semiPersistentOnPUSCH_v1530), .size = sizeof(CSI_ReportConfig_semiPersistentOnPUSCH_v1530), .lower = 0, .upper = 0, .names = names_CSI_ReportConfig_semiPersistentOnPUSCH_v1530, .members = members_CSI_ReportConfig_semiPersistentOnPUSCH_v1530, .memberCount = 1, .rootCount = 1, .plain = true};
 
 namespace
 {
@@ -7460,7 +7460,7 @@ constexpr Member members_CSI_MeasConfig_csi_ReportConfigToReleaseList[] = {
     member(type_CSI_ReportConfigId, offsetof(CSI_MeasConfig_csi_ReportConfigToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CSI_MeasConfig_csi_ReportConfigToReleaseList = {.name = "CSI_MeasConfig_csi_ReportConfigToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_ReportConfigToReleaseList), .size = sizeof(CSI_MeasConfig_csi_ReportConfigToReleaseList), .lower = 1, .upper = 48, .members = members_CSI_MeasConfig_csi_ReportConfigToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CSI_MeasConfig_csi_ReportConfigToReleaseList = {.name = "CSI_MeasConfig_csi_ReportConfigToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CSI_MeasConfig_csi_ReportConfigToReleaseList), .size = sizeof(CSI_MeasConfig_csi_ReportConfigToReleaseList), .lower = 1, .upper = 48, .members = members_CSI_MeasConfig_csi_ReportConfigToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 constexpr Type type_CSI_MeasConfig_reportTriggerSize = {.name = "CSI_MeasConfig_reportTriggerSize", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 0, .upper = 6};
 
@@ -7474,7 +7474,7 @@ constexpr Member members_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_
     member(type_TCI_StateId, offsetof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info, elem)),
 };
 } // namespace
-constexpr Type type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info = {.name = "CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info", .kind = Kind::Array, .width = 1, .align = alignof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info), .size = sizeof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info), .lower = 1, .upper = 16, .members = members_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info, .memberCount = 1, .rootCount = 1, .bits = 4};
+constexpr Type type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info = {.name = "CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info", .kind = Kind::Array, .width = 1, .align = alignof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info), .size = sizeof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info), .lower = 1, .upper = 16, .members = members_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_qcl_info, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 4};
 
 namespace
 {
@@ -7488,7 +7488,7 @@ constexpr rtx::Need needs_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp
     {.absence = Absence::Fixed, .condition = "Aperiodic"},
 };
 } // namespace
-constexpr Type type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS = {.name = "CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS", .kind = Kind::Sequence, .align = alignof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS), .size = sizeof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS), .lower = 0, .upper = 0, .names = names_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, .members = members_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, .memberCount = 2, .rootCount = 2, .bits = 1, .needs = needs_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS};
+constexpr Type type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS = {.name = "CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS", .kind = Kind::Sequence, .align = alignof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS), .size = sizeof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS), .lower = 0, .upper = 0, .names = names_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, .members = members_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, .memberCount = 2, .rootCount = 2, .plain = true, .bits = 1, .needs = needs_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS};
 
 constexpr Type type_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet = {.name = "CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 1};
 
@@ -7568,7 +7568,7 @@ constexpr Member members_CSI_SemiPersistentOnPUSCH_TriggerState[] = {
     member(type_CSI_ReportConfigId, offsetof(CSI_SemiPersistentOnPUSCH_TriggerState, associatedReportConfigInfo)),
 };
 } // namespace
-constexpr Type type_CSI_SemiPersistentOnPUSCH_TriggerState = {.name = "CSI-SemiPersistentOnPUSCH-TriggerState", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_SemiPersistentOnPUSCH_TriggerState), .size = sizeof(CSI_SemiPersistentOnPUSCH_TriggerState), .lower = 0, .upper = 0, .names = names_CSI_SemiPersistentOnPUSCH_TriggerState, .members = members_CSI_SemiPersistentOnPUSCH_TriggerState, .memberCount = 1, .rootCount = 1, .extElem = offsetof(CSI_SemiPersistentOnPUSCH_TriggerState, extElem1)};
+constexpr Type type_CSI_SemiPersistentOnPUSCH_TriggerState = {.name = "CSI-SemiPersistentOnPUSCH-TriggerState", .kind = Kind::Sequence, .extensible = true, .align = alignof(CSI_SemiPersistentOnPUSCH_TriggerState), .size = sizeof(CSI_SemiPersistentOnPUSCH_TriggerState), .lower = 0, .upper = 0, .names = names_CSI_SemiPersistentOnPUSCH_TriggerState, .members = members_CSI_SemiPersistentOnPUSCH_TriggerState, .memberCount = 1, .rootCount = 1, .plain = true, .extElem = offsetof(CSI_SemiPersistentOnPUSCH_TriggerState, extElem1)};
 
 namespace
 {
@@ -7576,7 +7576,7 @@ constexpr Member members_CSI_SemiPersistentOnPUSCH_TriggerStateList[] = {
     member(type_CSI_SemiPersistentOnPUSCH_TriggerState, 0),
 };
 } // namespace
-constexpr Type type_CSI_SemiPersistentOnPUSCH_TriggerStateList = {.name = "CSI-SemiPersistentOnPUSCH-TriggerStateList", .kind = Kind::List, .align = alignof(CSI_SemiPersistentOnPUSCH_TriggerStateList), .size = sizeof(CSI_SemiPersistentOnPUSCH_TriggerStateList), .lower = 1, .upper = 64, .members = members_CSI_SemiPersistentOnPUSCH_TriggerStateList, .memberCount = 1, .rootCount = 1, .bits = 6};
+constexpr Type type_CSI_SemiPersistentOnPUSCH_TriggerStateList = {.name = "CSI-SemiPersistentOnPUSCH-TriggerStateList", .kind = Kind::List, .align = alignof(CSI_SemiPersistentOnPUSCH_TriggerStateList), .size = sizeof(CSI_SemiPersistentOnPUSCH_TriggerStateList), .lower = 1, .upper = 64, .members = members_CSI_SemiPersistentOnPUSCH_TriggerStateList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 6};
 
 namespace
 {
@@ -7657,7 +7657,7 @@ constexpr Member members_CrossCarrierSchedulingConfig_schedulingCellInfo_own[] =
     member(type_CrossCarrierSchedulingConfig_schedulingCellInfo_own_cif_Presence, offsetof(CrossCarrierSchedulingConfig_schedulingCellInfo_own, cif_Presence)),
 };
 } // namespace
-constexpr Type type_CrossCarrierSchedulingConfig_schedulingCellInfo_own = {.name = "CrossCarrierSchedulingConfig_schedulingCellInfo_own", .kind = Kind::Sequence, .align = alignof(CrossCarrierSchedulingConfig_schedulingCellInfo_own), .size = sizeof(CrossCarrierSchedulingConfig_schedulingCellInfo_own), .lower = 0, .upper = 0, .names = names_CrossCarrierSchedulingConfig_schedulingCellInfo_own, .members = members_CrossCarrierSchedulingConfig_schedulingCellInfo_own, .memberCount = 1, .rootCount = 1};
+constexpr Type type_CrossCarrierSchedulingConfig_schedulingCellInfo_own = {.name = "CrossCarrierSchedulingConfig_schedulingCellInfo_own", .kind = Kind::Sequence, .align = alignof(CrossCarrierSchedulingConfig_schedulingCellInfo_own), .size = sizeof(CrossCarrierSchedulingConfig_schedulingCellInfo_own), .lower = 0, .upper = 0, .names = names_CrossCarrierSchedulingConfig_schedulingCellInfo_own, .members = members_CrossCarrierSchedulingConfig_schedulingCellInfo_own, .memberCount = 1, .rootCount = 1, .plain = true};
 
 constexpr Type type_CrossCarrierSchedulingConfig_schedulingCellInfo_other_cif_InSchedulingCell = {.name = "CrossCarrierSchedulingConfig_schedulingCellInfo_other_cif_InSchedulingCell", .kind = Kind::Integer, .width = 1, .size = 1, .lower = 1, .upper = 7};
 
@@ -7669,7 +7669,7 @@ constexpr Member members_CrossCarrierSchedulingConfig_schedulingCellInfo_other[]
     member(type_CrossCarrierSchedulingConfig_schedulingCellInfo_other_cif_InSchedulingCell, offsetof(CrossCarrierSchedulingConfig_schedulingCellInfo_other, cif_InSchedulingCell)),
 };
 } // namespace
-constexpr Type type_CrossCarrierSchedulingConfig_schedulingCellInfo_other = {.name = "CrossCarrierSchedulingConfig_schedulingCellInfo_other", .kind = Kind::Sequence, .align = alignof(CrossCarrierSchedulingConfig_schedulingCellInfo_other), .size = sizeof(CrossCarrierSchedulingConfig_schedulingCellInfo_other), .lower = 0, .upper = 0, .names = names_CrossCarrierSchedulingConfig_schedulingCellInfo_other, .members = members_CrossCarrierSchedulingConfig_schedulingCellInfo_other, .memberCount = 2, .rootCount = 2};
+constexpr Type type_CrossCarrierSchedulingConfig_schedulingCellInfo_other = {.name = "CrossCarrierSchedulingConfig_schedulingCellInfo_other", .kind = Kind::Sequence, .align = alignof(CrossCarrierSchedulingConfig_schedulingCellInfo_other), .size = sizeof(CrossCarrierSchedulingConfig_schedulingCellInfo_other), .lower = 0, .upper = 0, .names = names_CrossCarrierSchedulingConfig_schedulingCellInfo_other, .members = members_CrossCarrierSchedulingConfig_schedulingCellInfo_other, .memberCount = 2, .rootCount = 2, .plain = true};
 
 namespace
 {
@@ -7730,7 +7730,7 @@ constexpr Member members_ServingCellConfig_rateMatchPatternToReleaseList[] = {
     member(type_RateMatchPatternId, offsetof(ServingCellConfig_rateMatchPatternToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_ServingCellConfig_rateMatchPatternToReleaseList = {.name = "ServingCellConfig_rateMatchPatternToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ServingCellConfig_rateMatchPatternToReleaseList), .size = sizeof(ServingCellConfig_rateMatchPatternToReleaseList), .lower = 1, .upper = 4, .members = members_ServingCellConfig_rateMatchPatternToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 2};
+constexpr Type type_ServingCellConfig_rateMatchPatternToReleaseList = {.name = "ServingCellConfig_rateMatchPatternToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(ServingCellConfig_rateMatchPatternToReleaseList), .size = sizeof(ServingCellConfig_rateMatchPatternToReleaseList), .lower = 1, .upper = 4, .members = members_ServingCellConfig_rateMatchPatternToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 2};
 
 namespace
 {
@@ -7738,7 +7738,7 @@ constexpr Member members_ServingCellConfig_downlinkChannelBW_PerSCS_List[] = {
     member(type_SCS_SpecificCarrier, 0),
 };
 } // namespace
-constexpr Type type_ServingCellConfig_downlinkChannelBW_PerSCS_List = {.name = "ServingCellConfig_downlinkChannelBW_PerSCS_List", .kind = Kind::List, .align = alignof(ServingCellConfig_downlinkChannelBW_PerSCS_List), .size = sizeof(ServingCellConfig_downlinkChannelBW_PerSCS_List), .lower = 1, .upper = 5, .members = members_ServingCellConfig_downlinkChannelBW_PerSCS_List, .memberCount = 1, .rootCount = 1, .bits = 3};
+constexpr Type type_ServingCellConfig_downlinkChannelBW_PerSCS_List = {.name = "ServingCellConfig_downlinkChannelBW_PerSCS_List", .kind = Kind::List, .align = alignof(ServingCellConfig_downlinkChannelBW_PerSCS_List), .size = sizeof(ServingCellConfig_downlinkChannelBW_PerSCS_List), .lower = 1, .upper = 5, .members = members_ServingCellConfig_downlinkChannelBW_PerSCS_List, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 3};
 
 namespace
 {
@@ -7850,7 +7850,7 @@ constexpr Member members_CellGroupConfig_sCellToReleaseList[] = {
     member(type_SCellIndex, offsetof(CellGroupConfig_sCellToReleaseList, elem)),
 };
 } // namespace
-constexpr Type type_CellGroupConfig_sCellToReleaseList = {.name = "CellGroupConfig_sCellToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CellGroupConfig_sCellToReleaseList), .size = sizeof(CellGroupConfig_sCellToReleaseList), .lower = 1, .upper = 31, .members = members_CellGroupConfig_sCellToReleaseList, .memberCount = 1, .rootCount = 1, .bits = 5};
+constexpr Type type_CellGroupConfig_sCellToReleaseList = {.name = "CellGroupConfig_sCellToReleaseList", .kind = Kind::Array, .width = 1, .align = alignof(CellGroupConfig_sCellToReleaseList), .size = sizeof(CellGroupConfig_sCellToReleaseList), .lower = 1, .upper = 31, .members = members_CellGroupConfig_sCellToReleaseList, .memberCount = 1, .rootCount = 1, .plain = true, .bits = 5};
 
 namespace
 {

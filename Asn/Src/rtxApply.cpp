@@ -38,6 +38,11 @@ private:
         {
             return;
         }
+        if (type.plain && message != nullptr && (complete_ || held == nullptr))
+        {
+            std::memcpy(result, message, type.size);
+            return;
+        }
         switch (type.kind)
         {
         case Kind::Sequence:
@@ -58,7 +63,13 @@ private:
         forMembers(type,
                    [&](unsigned i, const Addition* addition)
                    {
-                       switch (needOf(type, i).list)
+                       const ListRole role = needOf(type, i).list;
+                       if (role != ListRole::AddMod && !mayBeIn(type.members[i], held) &&
+                           !mayBeIn(type.members[i], message))
+                       {
+                           return;
+                       }
+                       switch (role)
                        {
                        case ListRole::Release:
                            break;

@@ -82,12 +82,17 @@ inline void* at(void* structure, const Member& member)
     return static_cast<OSOCTET*>(structure) + member.offset;
 }
 
+// Whether a member's own flag does not rule it out.
+inline bool mayBeIn(const Member& member, const void* structure)
+{
+    return structure != nullptr && isPresent(member, structure);
+}
+
 // A member that is sent, or null; so is each of no structure.
 inline const void* sent(const Type& type, unsigned index, const Addition* addition, const void* structure)
 {
     const Member& member = type.members[index];
-    const bool present = structure != nullptr && isPresent(member, structure) &&
-                         (addition == nullptr || isSent(type, *addition, structure));
+    const bool present = mayBeIn(member, structure) && (addition == nullptr || isSent(type, *addition, structure));
     return present ? at(structure, member) : nullptr;
 }
 

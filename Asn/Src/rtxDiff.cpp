@@ -149,6 +149,11 @@ private:
         {
             return Outcome::Blocked;
         }
+        if (type.plain && prev == nullptr)
+        {
+            std::memcpy(delta, next, type.size);
+            return Outcome::Changed;
+        }
         switch (type.kind)
         {
         case Kind::Sequence:
@@ -220,7 +225,8 @@ private:
         forMembers(type,
                    [&](unsigned i, const Addition* addition)
                    {
-                       if (sum != Outcome::Blocked)
+                       const Member& one = type.members[i];
+                       if (sum != Outcome::Blocked && (mayBeIn(one, prev) || mayBeIn(one, next)))
                        {
                            const Slot slot{type, i, addition, prev, next, delta};
                            sum = std::max(sum, any(slot, memberAt(place, type.names[i]), entry, cell));

@@ -134,6 +134,7 @@ struct RtxType
     uint16_t memberCount = 0;
     uint16_t rootCount = 0;
     bool setupRelease = false;                // Choice: SetupRelease { T }
+    bool plain = false;                       // has members or elements, and a delta takes its values as they are
     const rtx::Addition* additions = nullptr; // Sequence
     uint16_t additionCount = 0;
     uint8_t bits = 0; // on the wire before the content: presence flags, index of the alternative, count of elements
