@@ -3,7 +3,7 @@
 #include "rtxDelta.h"
 #include "rtxHeap.h"
 
-#include <new>
+#include <cstddef>
 
 namespace rtx
 {
@@ -40,11 +40,18 @@ bool anyFresh(const Entry* entry)
     return false;
 }
 
-// An item that waits until it is settled that the delta has it.
+// An item that waits until it is settled that the delta has it; as many steps of its path follow as it has.
 struct Event
 {
+    static constexpr size_t headSize = offsetof(RtxDeltaItem, path);
+
     Event* next;
-    RtxDeltaItem item;
+    alignas(RtxDeltaItem) OSOCTET head[headSize];
+
+    static size_t stepsSize(const RtxDeltaItem& item)
+    {
+        return std::min<size_t>(item.depth, RTX_MAX_DEPTH) * sizeof item.path[0];
+    }
 };
 
 // Why the walk could not go on, until something around takes it over.
@@ -87,7 +94,10 @@ public:
         }
         for (const Event* event = first_; event != nullptr; event = event->next)
         {
-            sink_(arg_, &event->item);
+            RtxDeltaItem item;
+            std::memcpy(&item, event->head, Event::headSize);
+            std::memcpy(item.path, event + 1, Event::stepsSize(item));
+            sink_(arg_, &item);
         }
         return more_ ? RTX_DELTA_MORE : RTX_DELTA_TO_SEND;
     }
@@ -108,14 +118,16 @@ private:
         {
             return;
         }
-        void* const memory = allocateFor(ctxt_, sizeof(Event));
-        if (memory == nullptr)
+        RtxDeltaItem item = deltaItem(kind, reason, need, place);
+        item.cause = cause;
+        auto* const event = static_cast<Event*>(allocateFor(ctxt_, sizeof(Event) + Event::stepsSize(item)));
+        if (event == nullptr)
         {
             status_ = RTX_E_HEAP;
             return;
         }
-        auto* const event = new (memory) Event{nullptr, deltaItem(kind, reason, need, place)};
-        event->item.cause = cause;
+        std::memcpy(event->head, &item, Event::headSize);
+        std::memcpy(event + 1, item.path, Event::stepsSize(item));
         *end_ = event;
         end_ = &event->next;
     }
@@ -709,6 +721,7 @@ private:
     {
         HeapMark mark(ctxt_);
         Event** const told = end_;
+        const bool more = more_;
         void* const delta = allocateFor(ctxt_, type.size);
         if (delta == nullptr)
         {
@@ -721,6 +734,10 @@ private:
         {
             outcome = blocked(RTX_DELTA_PUCCH_CELL, {}, place);
             forget(told);
+        }
+        if (outcome == Outcome::Blocked)
+        {
+            more_ = more;
         }
         if (outcome == Outcome::Changed)
         {
