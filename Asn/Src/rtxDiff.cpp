@@ -25,7 +25,7 @@ struct Entry
     const void* value; // as it shall be
     bool fresh;        // created by this delta, or reconfigurationWithSync is sent to it
     bool inList;
-    bool recreated; // without being asked for, where it has to be
+    bool recreated; // where it has to be
 };
 
 bool anyFresh(const Entry* entry)
@@ -422,7 +422,7 @@ private:
         return Outcome::Changed;
     }
 
-    // Whether something around is released and added again without being asked for.
+    // Whether something around is released and added again.
     static bool isRecreated(const Entry* entry)
     {
         for (; entry != nullptr; entry = entry->outer)
@@ -713,7 +713,7 @@ private:
         {
             return true;
         }
-        const Entry entry{&around, &type, next->data, false, true, isConfiguration(type)};
+        const Entry entry{&around, &type, next->data, false, true, mayRecreate(type)};
         switch (modify(type, held->data, *next, place, entry, changes))
         {
         case Outcome::Same:
@@ -798,12 +798,6 @@ private:
         const Entry entry{&around, &type, next.data, true, true, false};
         changes.sent[changes.sentCount++] = {next.id, delta, next.index};
         return whole(type, next.data, delta, place, entry) != Outcome::Blocked;
-    }
-
-    // Whether the entries of a list are no more than configuration: releasing one disturbs nothing else.
-    static bool isConfiguration(const Type& type)
-    {
-        return recreationFlag(type) == 0;
     }
 
     // The option that lets an entry be released and added again; 0 for one that needs none.
