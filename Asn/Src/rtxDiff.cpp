@@ -452,7 +452,9 @@ private:
         {
         case Change::Creation:
         case Change::CreationOptional:
-            reason = !entry.fresh && (comesOrGoes || !equal(slot.inner(), prev, next)) ? RTX_DELTA_AT_CREATION : reason;
+            reason = !entry.fresh && next != nullptr && (prev == nullptr || !equal(slot.inner(), prev, next))
+                         ? RTX_DELTA_AT_CREATION
+                         : reason;
             break;
         case Change::Mode:
             reason =
