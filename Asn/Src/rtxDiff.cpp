@@ -372,7 +372,7 @@ private:
             {
                 tell(RTX_DELTA_SENT, RTX_DELTA_CHANGED, need, place);
             }
-            if (mayBeActive(slot, prev, next) && !anyFresh(&entry))
+            if (mayBeActive(slot, prev, next) && !anyFresh(&entry) && !isSyncSent())
             {
                 tell(RTX_DELTA_NOTICE, RTX_DELTA_ACTIVE, need, place);
             }
@@ -477,7 +477,7 @@ private:
             final = true;
             break;
         case Change::Pucch:
-            reason = comesOrGoes && !anyFresh(&entry) ? RTX_DELTA_PUCCH : reason;
+            reason = comesOrGoes && !anyFresh(&entry) && !isSyncSent() ? RTX_DELTA_PUCCH : reason;
             break;
         case Change::McgRelease:
             reason = next == nullptr && !isMcg() ? RTX_DELTA_SCG : reason;
