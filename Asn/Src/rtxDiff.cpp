@@ -395,15 +395,17 @@ private:
         return Outcome::Same;
     }
 
-    // A member whose change is blocked because something inside would be kept: where that is asked for, it goes with
-    // this delta and comes back with the next one.
+    // A member whose change is blocked because something inside would be kept, or by an entry inside that may not be
+    // released: where that is asked for, it goes with this delta and comes back with the next one.
     Outcome takenAway(const Slot& slot, const DeltaPlace& place, const Entry& entry)
     {
         const Need& need = slot.need();
         const bool leave = need.absence == Absence::Clear || need.absence == Absence::Default;
         const bool setup =
             slot.inner().setupRelease && need.change != Change::Pucch && (need.change != Change::McgRelease || isMcg());
-        if (status_ != RTX_OK || obstacle_.item.reason != RTX_DELTA_KEPT || (!leave && !setup))
+        const bool helps =
+            obstacle_.item.reason == RTX_DELTA_KEPT || (!obstacle_.final && obstacle_.item.ancestor != 0);
+        if (status_ != RTX_OK || !helps || (!leave && !setup))
         {
             return Outcome::Blocked;
         }
@@ -412,13 +414,19 @@ private:
         {
             return Outcome::Blocked;
         }
-        more_ = true;
+        const auto cause = static_cast<RtxDeltaReason>(obstacle_.item.reason);
         std::memset(slot.room(), 0, slot.inner().size);
+        if (whole(slot.inner(), slot.next(), slot.room(), place, entry) == Outcome::Blocked)
+        {
+            return Outcome::Blocked; // it would not come back
+        }
+        std::memset(slot.room(), 0, slot.inner().size);
+        more_ = true;
         if (!leave)
         {
             release(slot);
         }
-        tell(leave ? RTX_DELTA_LEFT_OUT : RTX_DELTA_RELEASED, RTX_DELTA_FIRST, need, place, RTX_DELTA_KEPT);
+        tell(leave ? RTX_DELTA_LEFT_OUT : RTX_DELTA_RELEASED, RTX_DELTA_FIRST, need, place, cause);
         return Outcome::Changed;
     }
 
