@@ -260,6 +260,14 @@ public:
             forMembers(type, [&](unsigned i, const Addition* addition)
                        { whole = whole && member(type, i, addition, value, memberAt(place, type.names[i])); });
         }
+        else if (type.kind == Kind::List && type.identity == noIdentity)
+        {
+            uint32_t i = 0;
+            for (ElementCursor at(type, value); whole && !at.atEnd(); at.next(), ++i)
+            {
+                whole = holds(type.element(), at.data(), {&place, {nullptr, RTX_NO_INDEX, i, nullptr, 0}});
+            }
+        }
         return whole;
     }
 
