@@ -1,0 +1,42 @@
+// Pairs of configurations, one for each thing that may happen to each place of the tree.
+#ifndef CASES_H
+#define CASES_H
+
+#include "places.h"
+
+#include <optional>
+
+namespace delta
+{
+
+enum class Happening
+{
+    Appears,
+    Vanishes,
+    Changes,
+    Stays,       // beside a sibling that changes
+    StaysFarther // beside a sibling of the sequence around it that changes
+};
+constexpr Happening allHappenings[] = {Happening::Appears, Happening::Vanishes, Happening::Changes, Happening::Stays,
+                                       Happening::StaysFarther};
+const char* nameOf(Happening happening);
+
+struct Pair
+{
+    CellGroupConfig* prev;
+    CellGroupConfig* next;
+};
+
+// Null where it cannot happen: a member that is always there, a type of one value, a sequence with nothing else in it.
+std::optional<Pair> makePair(Heap& heap, const Place& place, Happening happening);
+
+// A member of the sequence at that step of a place that can change beside the step's own; changes it in a tree where
+// it is as makePair leaves it. Returns whether there is one.
+bool changeSibling(Heap& heap, const Place& place, size_t step, CellGroupConfig* tree);
+
+// The step of the sequence around the one that holds the place's member, or nothing.
+std::optional<size_t> fartherStep(const Place& place);
+
+} // namespace delta
+
+#endif
