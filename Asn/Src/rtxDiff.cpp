@@ -161,6 +161,12 @@ private:
         }
     }
 
+    // A value, or a list without identities: what is inside it has no items of its own.
+    static bool isSentWhole(const Type& type)
+    {
+        return type.kind != Kind::Sequence && type.kind != Kind::Choice;
+    }
+
     // What a sequence's members come to.
     struct Sum
     {
@@ -344,6 +350,10 @@ private:
         if (outcome == Outcome::Changed)
         {
             (void)slot.send();
+            if (isSentWhole(slot.inner()))
+            {
+                tell(RTX_DELTA_SENT, RTX_DELTA_CHANGED, need, place);
+            }
             if (mayBeActive(slot, prev, next) && !anyFresh(&entry))
             {
                 tell(RTX_DELTA_NOTICE, RTX_DELTA_ACTIVE, need, place);
@@ -559,7 +569,12 @@ private:
         if (alternative == nullptr) // unknown
         {
             std::memcpy(delta, next, type.size);
-            return same && equal(type, prev, next) ? Outcome::Same : Outcome::Changed;
+            if (same && equal(type, prev, next))
+            {
+                return Outcome::Same;
+            }
+            tell(RTX_DELTA_SENT, RTX_DELTA_CHANGED, {}, place);
+            return Outcome::Changed;
         }
         std::memcpy(delta, next, sizeof(OSUINT32));
         const Type& inner = *alternative->type;
@@ -578,7 +593,13 @@ private:
         }
         if (same)
         {
-            return content(inner, contentOf(*alternative, prev), contentOf(*alternative, next), to, inside, entry);
+            const Outcome outcome =
+                content(inner, contentOf(*alternative, prev), contentOf(*alternative, next), to, inside, entry);
+            if (outcome == Outcome::Changed && isSentWhole(inner))
+            {
+                tell(RTX_DELTA_SENT, RTX_DELTA_CHANGED, {}, inside);
+            }
+            return outcome;
         }
         if (prev != nullptr)
         {
