@@ -95,7 +95,7 @@ TEST_F(cellGroupDelta, AReportIsSentWithWhatItsAbsenceWouldClear)
                   R"({"codebookType":{"type1":{"subType":{"typeI-SinglePanel":{"nrOfAntennaPorts":{"moreThanTwo":)"
                   R"({"n1-n2":{"two-one-TypeI-SinglePanel-Restriction":"11111111"}}},)"
                   R"("typeI-SinglePanel-ri-Restriction":"00000011"}},"codebookMode":1}}},)"
-                  R"("groupBasedBeamReporting":{"disabled":null},"cqi-Table":"table2","subbandSize":"value2"}]}},)"
+                  R"("groupBasedBeamReporting":{"disabled":{}},"cqi-Table":"table2","subbandSize":"value2"}]}},)"
                   R"("tag-Id":0}}})");
 }
 
