@@ -3,21 +3,26 @@ _cellgroupcfg()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} words=
     local input='--as --color --help --verbose' messages='--lines --type'
+    local texts='--tree --json --compact --value-notation --flat --trace'
+    local octets='--hex --binary --c-array --base64 --output'
     case $previous in
         --as) words='binary hex hexdump c-array escaped base64 jer flat log' ;;
         --color) words='auto always never' ;;
         --format) words='text gcc json sarif' ;;
         --in) words='bare rrc-reconfiguration rrc-setup' ;;
+        --recreate) words='bearers scells bwps none' ;;
         --type) words=$(cellgroupcfg explain 2>/dev/null) ;;
         -o | --output) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='decode encode diff check find pcap explain --help --version'
+                words='decode encode diff delta apply check find pcap explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
-                    decode) words="$input $messages --tree --json --compact --value-notation --flat --trace" ;;
-                    encode) words="$input $messages --hex --binary --c-array --base64 --output" ;;
-                    diff) words="$input --type --json" ;;
+                    decode) words="$input $messages $texts" ;;
+                    encode) words="$input $messages $octets" ;;
+                    diff) words="$input --type --json --state" ;;
+                    delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
+                    apply) words="$input $messages --state $texts $octets" ;;
                     check) words="$input $messages --format" ;;
                     find) words="$input $messages --min-octets --decode --json" ;;
                     pcap) words="$input --lines --in --output" ;;

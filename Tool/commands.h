@@ -2,10 +2,11 @@
 #pragma once
 
 #include "findings.h"
+#include "messageForms.h"
 #include "rrcNesting.h"
-#include "session.h"
 
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace tool
@@ -13,28 +14,29 @@ namespace tool
 
 using Operands = std::vector<std::string>;
 
-enum class DecodeForm
-{
-    Tree,
-    Json,
-    CompactJson,
-    ValueNotation,
-    Flat,
-    Trace,
-    Verdict, // one line a message
-};
 void decode(Session& session, const Operands& operands, DecodeForm form);
 
-enum class OctetsForm
-{
-    Hex,
-    Binary,
-    CArray,
-    Base64,
-};
 void encode(Session& session, const Operands& operands, OctetsForm form);
 
-void diff(Session& session, const std::string& a, const std::string& b, bool json);
+struct DiffOptions
+{
+    bool json;
+    bool state; // what the messages leave behind
+};
+void diff(Session& session, const std::string& a, const std::string& b, const DiffOptions& options);
+
+struct DeltaOptions
+{
+    unsigned flags; // RTX_DELTA_...
+    bool explain;
+    OctetsForm form;
+};
+// From what is held, of a UE that has nothing `none`, to what shall be held.
+void delta(Session& session, const std::string& prev, const std::string& next, const DeltaOptions& options);
+
+// What is held after the deltas, in one of both forms.
+using StateForm = std::variant<OctetsForm, DecodeForm>;
+void apply(Session& session, const std::string& prev, const Operands& deltas, StateForm form);
 
 void check(Session& session, const Operands& operands, FindingsForm form);
 

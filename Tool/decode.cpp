@@ -1,6 +1,5 @@
 // decode: what a message says.
 #include "commands.h"
-#include "message.h"
 #include "text.h"
 #include "trace.h"
 
@@ -8,36 +7,6 @@ namespace tool
 {
 namespace
 {
-
-std::string textIn(DecodeForm form, const Message& message, const Given& given)
-{
-    const OSCTXT* const context = &message.context();
-    const RtxType* const type = message.pdu().type;
-    const auto write = [&](RtxPrintSink sink, void* arg)
-    {
-        // The writers' status is about trees that no message gives: the decoder's error says all.
-        switch (form)
-        {
-        case DecodeForm::Json:
-            (void)rtxToJson(context, type, message.value(), RTX_INDENTED, sink, arg);
-            break;
-        case DecodeForm::CompactJson:
-            (void)rtxToJson(context, type, message.value(), RTX_COMPACT, sink, arg);
-            break;
-        case DecodeForm::ValueNotation:
-            (void)rtxToValueNotation(context, type, message.value(), RTX_INDENTED, sink, arg);
-            break;
-        case DecodeForm::Flat:
-            (void)rtxToFlat(context, type, message.value(), sink, arg);
-            break;
-        default:
-            break;
-        }
-    };
-    return form == DecodeForm::Tree    ? treeText(message)
-           : form == DecodeForm::Trace ? traceText(message.pdu(), octetsOf(message.pdu(), given))
-                                       : written(write);
-}
 
 std::string canonicity(const Message& message, const Given& given)
 {

@@ -2,6 +2,7 @@
 #include "commands.h"
 #include "message.h"
 #include "octets.h"
+#include "states.h"
 #include "style.h"
 
 #include <nlohmann/json.hpp>
@@ -24,16 +25,15 @@ struct Difference
 class Comparison
 {
 public:
-    // Takes memory of a's heap while it compares.
-    // Takes memory of the heap of `a` while it compares.
-    Comparison(Message& a, const Message& b) : a_(a), b_(b)
+    // Takes memory of the heap of `a` while it compares the values, which are those of the messages or their states.
+    Comparison(Message& a, const void* valueA, const Message& b, const void* valueB) : a_(a), b_(b)
     {
         const auto sink = [](void* to, const RtxDifference* difference)
         {
             static_cast<Comparison*>(to)->add(*difference);
             return 0;
         };
-        if (rtxCompare(&a.context(), &b.context(), a.pdu().type, a.value(), b.value(), sink, this) < 0)
+        if (rtxCompare(&a.context(), &b.context(), a.pdu().type, valueA, valueB, sink, this) < 0)
         {
             throw Failure(Exit::Usage, "out of memory");
         }
@@ -140,16 +140,17 @@ std::string jsonOf(const std::vector<Difference>& differences)
 
 } // namespace
 
-void diff(Session& session, const std::string& a, const std::string& b, bool json)
+void diff(Session& session, const std::string& a, const std::string& b, const DiffOptions& options)
 {
     const Given givenA = session.only(a);
     const Given givenB = session.only(b);
     Message messageA(*session.common().type, givenA);
-    const Message messageB(*session.common().type, givenB);
+    Message messageB(*session.common().type, givenB);
     messageA.expectGood();
     messageB.expectGood();
-    const Comparison comparison(messageA, messageB);
-    if (json)
+    const Comparison comparison(messageA, options.state ? stateOf(messageA) : messageA.value(), messageB,
+                                options.state ? stateOf(messageB) : messageB.value());
+    if (options.json)
     {
         session.put(jsonOf(comparison.differences()));
     }

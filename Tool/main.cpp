@@ -43,7 +43,8 @@ private:
         return "\nA message is a file, '-' or nothing for standard input, or the octets themselves. What it looks "
                "like\n"
                "is found out: hex, dumps, C arrays, base64, binary, JER, flat lines, log lines.\n"
-               "Exit status: 0 done, 1 findings or differences, 2 usage or a file, 3 malformed input.\n"
+               "Exit status: 0 done, 1 findings, differences or a refusal, 2 usage or a file, 3 malformed input,\n"
+               "4 a delta has nothing to send.\n"
                "'cellgroupcfg COMMAND --help' tells more; so does the manual, cellgroupcfg(1).\n";
     }
 };
@@ -62,6 +63,7 @@ public:
         app_.footer("  cellgroupcfg decode 5c00b1                  what these octets say\n"
                     "  cellgroupcfg decode --flat trace.log | grep drx\n"
                     "  cellgroupcfg diff before.hex after.hex      what has changed\n"
+                    "  cellgroupcfg delta before.hex after.hex     the message that brings it about\n"
                     "  cellgroupcfg find capture.pcap --decode     the cell groups in anything\n"
                     "  cellgroupcfg explain t304                   what may stand there\n");
         app_.set_help_flag("-h,--help", "This help, for a command its own");
@@ -71,6 +73,8 @@ public:
         decode();
         encode();
         diff();
+        delta();
+        apply();
         check();
         find();
         pcap();
@@ -248,6 +252,11 @@ private:
                                 [this](Session& session) { tool::decode(session, operands_, decodeForm()); });
         messages(app);
         type(app);
+        decodeForms(app);
+    }
+
+    void decodeForms(CLI::App& app)
+    {
         form(app, "--tree", tree_, "Indented elements; the form if none is named");
         form(app, "--json", json_, "JER (X.697), indented");
         form(app, "--compact", compact_, "JER on one line");
@@ -282,6 +291,11 @@ private:
         messages(app);
         type(app);
         output(app);
+        octetsForms(app);
+    }
+
+    void octetsForms(CLI::App& app)
+    {
         form(app, "--hex", hex_, "Hex; the form if none is named");
         form(app, "--binary", binary_, "The octets themselves");
         form(app, "--c-array", cArray_, "A C array");
@@ -302,8 +316,11 @@ private:
         CLI::App& app = command("diff", "Show in what two messages differ.",
                                 "  cellgroupcfg diff before.hex after.hex\n"
                                 "  cellgroupcfg diff expected.json 5c00b1\n"
-                                "  cellgroupcfg diff --json a.bin b.bin\n",
-                                [this](Session& session) { tool::diff(session, operands_[0], operands_[1], json_); });
+                                "  cellgroupcfg diff --json a.bin b.bin\n"
+                                "  cellgroupcfg diff --state a.hex b.hex       of what they leave behind\n",
+                                [this](Session& session) {
+                                    tool::diff(session, operands_[0], operands_[1], {json_, state_});
+                                });
         app.add_option("A B", operands_, "The messages: files, '-' for standard input, or octets")
             ->option_text(" ")
             ->expected(2)
@@ -311,6 +328,103 @@ private:
         input(app);
         type(app);
         app.add_flag("--json", json_, "The differences as JSON");
+        app.add_flag("--state", state_, "Compare what a UE holds after each of them");
+    }
+
+    void delta()
+    {
+        CLI::App& app =
+            command("delta", "Make the smallest message from what a UE has to what it shall have.",
+                    "  cellgroupcfg delta has.hex shall.json\n"
+                    "  cellgroupcfg delta --explain has.hex shall.json\n"
+                    "  cellgroupcfg delta none shall.json          to a UE that has nothing\n"
+                    "  cellgroupcfg delta --recreate scells,bwps has.hex shall.hex\n"
+                    "  cellgroupcfg delta --two-steps has.hex shall.hex | cellgroupcfg apply --lines has.hex\n",
+                    [this](Session& session)
+                    {
+                        session.outputTo(output_);
+                        tool::delta(session, operands_[0], operands_[1], deltaOptions());
+                    });
+        app.add_option("PREV NEXT", operands_, "Complete messages: what the UE has confirmed, or none; and the new one")
+            ->option_text(" ")
+            ->expected(2)
+            ->required();
+        input(app);
+        type(app);
+        output(app);
+        app.add_flag("--explain", explain_, "A comment for each member sent or released, with its reason");
+        app.add_option("--recreate", recreate_,
+                       "What else may be released and added again: bearers, scells, bwps; or none of all lists")
+            ->option_text("LIST")
+            ->delimiter(',')
+            ->allow_extra_args(false)
+            ->check(CLI::IsMember({"bearers", "scells", "bwps", "none"}));
+        app.add_flag("--two-steps", twoSteps_, "Two messages, where one cannot do it");
+        app.add_flag("--sync", sync_, "Send reconfigurationWithSync also when it is the same");
+        app.add_flag("--switch", switch_, "Send the SpCell's first active bandwidth parts, too");
+        octetsForms(app);
+    }
+
+    tool::DeltaOptions deltaOptions() const
+    {
+        if (explain_ && (binary_ || cArray_))
+        {
+            throw Failure(Exit::Usage, "--explain and " + form_ + " exclude each other");
+        }
+        unsigned flags =
+            (twoSteps_ ? RTX_DELTA_TWO_STEPS : 0U) | (sync_ ? RTX_DELTA_SYNC : 0U) | (switch_ ? RTX_DELTA_SWITCH : 0U);
+        for (const std::string& what : recreate_)
+        {
+            flags |= what == "bearers"  ? RTX_DELTA_RECREATE_BEARERS
+                     : what == "scells" ? RTX_DELTA_RECREATE_SCELLS
+                     : what == "bwps"   ? RTX_DELTA_RECREATE_BWPS
+                                        : RTX_DELTA_RECREATE_NONE;
+        }
+        if ((flags & RTX_DELTA_RECREATE_NONE) != 0 && recreate_.size() != 1)
+        {
+            throw Failure(Exit::Usage, "--recreate: none stands alone");
+        }
+        return {flags, explain_, octetsForm()};
+    }
+
+    void apply()
+    {
+        CLI::App& app = command("apply", "Tell what a UE holds after messages.",
+                                "  cellgroupcfg apply has.hex delta.hex\n"
+                                "  cellgroupcfg apply --state has.hex first.hex second.json\n"
+                                "  cellgroupcfg delta has.hex shall.json | cellgroupcfg apply has.hex\n"
+                                "  cellgroupcfg find ue.log | cellgroupcfg apply --lines --state --json none\n",
+                                [this](Session& session)
+                                {
+                                    session.outputTo(output_);
+                                    const Operands deltas(operands_.begin() + 1, operands_.end());
+                                    tool::apply(session, operands_[0], deltas, stateForm());
+                                });
+        app.add_option("PREV DELTA", operands_,
+                       "What the UE has, or none; messages: files, '-' for standard input, or octets")
+            ->option_text("...")
+            ->required();
+        input(app);
+        app.add_flag("--lines", common_.lines, "One message a line, for logs; PREV is one message all the same");
+        type(app);
+        output(app);
+        octetsForms(app);
+        app.add_flag("--state", state_, "Show the state instead of its octets")->group("Form of the output");
+        decodeForms(app);
+    }
+
+    tool::StateForm stateForm() const
+    {
+        const bool isOctets = hex_ || binary_ || cArray_ || base64_;
+        if (state_ && isOctets)
+        {
+            throw Failure(Exit::Usage, "--state and " + form_ + " exclude each other");
+        }
+        if (!state_ && (isOctets || form_.empty()))
+        {
+            return octetsForm();
+        }
+        return form_.empty() ? tool::DecodeForm::Tree : decodeForm();
     }
 
     void check()
@@ -426,6 +540,12 @@ private:
     bool cArray_ = false;
     bool base64_ = false;
     bool decode_ = false;
+    bool state_ = false;
+    bool explain_ = false;
+    bool twoSteps_ = false;
+    bool sync_ = false;
+    bool switch_ = false;
+    std::vector<std::string> recreate_;
 };
 
 } // namespace

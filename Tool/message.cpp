@@ -86,14 +86,12 @@ void Message::expectGood() const
 std::vector<std::uint8_t> Message::encode()
 {
     expectGood();
-    std::vector<std::uint8_t> buffer(maxMessageOctets);
-    (void)pu_setBuffer(&context_, buffer.data(), buffer.size(), 0);
-    if (pdu_.encode(&context_, value_.data()) != 0)
+    std::vector<std::uint8_t> octets = encoding(pdu_, context_, value_.data(), maxMessageOctets);
+    if (octets.empty())
     {
         throw Failure(Exit::Malformed, given_.place() + ": " + errorText(context_.error));
     }
-    buffer.resize(pu_getMsgLen(&context_));
-    return buffer;
+    return octets;
 }
 
 std::string treeText(const Message& message)
@@ -117,6 +115,22 @@ std::string errorText(const RtxError& error)
     std::string text(longestLine, '\0');
     text.resize(std::min(rtxErrorFormat(&error, text.data(), text.size()), text.size() - 1));
     return text;
+}
+
+std::vector<std::uint8_t> encoding(const RtxPdu& pdu, OSCTXT& context, const void* value, std::size_t most)
+{
+    for (std::size_t size = maxMessageOctets;; size = std::min(2 * size, most))
+    {
+        std::vector<std::uint8_t> buffer(size);
+        rtxErrReset(&context);
+        (void)pu_setBuffer(&context, buffer.data(), buffer.size(), 0);
+        const int status = pdu.encode(&context, value);
+        if (status != RTX_E_OVERFLOW || size >= most)
+        {
+            buffer.resize(status == RTX_OK ? pu_getMsgLen(&context) : 0);
+            return buffer;
+        }
+    }
 }
 
 std::vector<std::uint8_t> octetsOf(const RtxPdu& pdu, const Given& given)

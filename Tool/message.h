@@ -97,6 +97,9 @@ std::string valueText(const OSCTXT* context, const RtxType& type, const void* va
 // "path: what is wrong", with octet and bit where they are known.
 std::string errorText(const RtxError& error);
 
+// The encoding of a tree, which is valid; empty, with the reason as the context's error, when it is longer than `most`.
+std::vector<std::uint8_t> encoding(const RtxPdu& pdu, OSCTXT& context, const void* value, std::size_t most);
+
 // The message's octets: as given, or the encoding of a text. Throws Failure.
 std::vector<std::uint8_t> octetsOf(const RtxPdu& pdu, const Given& given);
 

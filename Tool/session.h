@@ -25,6 +25,7 @@ enum class Exit
     Findings = 1,  // or differences
     Usage = 2,     // or a file that cannot be read or written
     Malformed = 3, // an input that cannot be recognised, read or decoded
+    Nothing = 4,   // a delta has nothing to send
 };
 
 // Ends the command with one line on standard error.

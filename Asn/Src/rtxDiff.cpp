@@ -184,17 +184,6 @@ private:
         return type.kind != Kind::Sequence && type.kind != Kind::Choice;
     }
 
-    // What a sequence's members come to.
-    struct Sum
-    {
-        Outcome outcome = Outcome::Same;
-
-        void add(Outcome one)
-        {
-            outcome = std::max(outcome, one);
-        }
-    };
-
     // A member of the sequence that is walked.
     struct Slot
     {

@@ -13,7 +13,7 @@ import sys
 import tempfile
 
 PROGRAM, PROJECT = str(pathlib.Path(sys.argv[1]).resolve()), pathlib.Path(sys.argv[2])
-DONE, FINDINGS, USAGE, MALFORMED = 0, 1, 2, 3
+DONE, FINDINGS, USAGE, MALFORMED, NOTHING = 0, 1, 2, 3, 4
 
 failures = []
 count = 0
@@ -287,6 +287,220 @@ def test_diff(folder):
     expect(["diff", a], USAGE, err=re.compile("cellgroupcfg diff --help"))
 
 
+# MAC-CellGroupConfig: not extended, five optional members, tag-Config the fourth, skipUplinkTxDynamic; TAG-Config: two
+# lists of 1..4, counted in 2 bits; TAG: not extended, tag-Id of 2 bits, timeAlignmentTimer of 3 bits.
+TAGS = {number: octets(f"0 0010000 00  0 00010 01 {number - 1:02b}" +
+                       "".join(f"0 {tag:02b} 111" for tag in range(number)) + "0") for number in (1, 2)}
+TAG_RELEASED = octets("0 0010000 00  0 00010 10 00 01 0")
+# Of a UE with one TAG this is also all that it holds afterwards.
+TAG_CHANGED = octets("0 0010000 00  0 00010 01 00 0 00 000 0")
+
+
+def with_mac(members):
+    return json.dumps({"cellGroupId": 0, "mac-CellGroupConfig": {**members, "skipUplinkTxDynamic": False}})
+
+
+def with_cell(members):
+    return json.dumps({"cellGroupId": 0, "spCellConfig": {"spCellConfigDedicated": {**members, "tag-Id": 0}}})
+
+
+def with_phy(members):
+    return json.dumps({"cellGroupId": 0,
+                       "physicalCellGroupConfig": {"pdsch-HARQ-ACK-Codebook": "dynamic", **members}})
+
+
+def timer(value):
+    return with_mac({"tag-Config": {"tag-ToAddModList": [{"tag-Id": 0, "timeAlignmentTimer": value}]}})
+
+
+def bearer(identity, **members):
+    """An RLC bearer of a DRB with all that its creation needs."""
+    rlc = {"am": {"ul-AM-RLC": {"sn-FieldLength": "size12", "t-PollRetransmit": "ms45", "pollPDU": "p32",
+                                "pollByte": "infinity", "maxRetxThreshold": "t32"},
+                  "dl-AM-RLC": {"sn-FieldLength": "size12", "t-Reassembly": "ms40", "t-StatusProhibit": "ms15"}}}
+    return {"logicalChannelIdentity": identity, "servedRadioBearer": {"drb-Identity": 1}, "rlc-Config": rlc,
+            "mac-LogicalChannelConfig": {}, **members}
+
+
+def with_bearers(*bearers):
+    return json.dumps({"cellGroupId": 0, "rlc-BearerToAddModList": bearers})
+
+
+def same_value(found, *values):
+    """The lines of a run are JER of these values, in any order of members."""
+    lines = found[1].decode().splitlines()
+    true([json.loads(line) for line in lines] == list(values), f"{found} is not {values}")
+
+
+def test_delta(folder):
+    one, two = TAGS[1].hex(), TAGS[2].hex()
+    expect(["delta", two, one], DONE, TAG_RELEASED.hex() + "\n")
+    expect(["delta", "--binary", two, one], DONE, TAG_RELEASED)
+    expect(["delta", "--base64", two, one], DONE, base64.b64encode(TAG_RELEASED) + b"\n")
+    expect(["delta", "--c-array", two, one], DONE, re.compile(r"^const uint8_t message\[\] = \{\n    0x10, "))
+    expect(["delta", timer("infinity"), "-"], DONE, TAG_CHANGED.hex() + "\n", stdin=timer("ms500"))
+    expect(["delta", "none", one], DONE, one + "\n")
+    expect(["delta", "-v", one, two], DONE, re.compile(".*"), re.compile(r"^cellgroupcfg: operand: hex, 4 octets\n"))
+    out = folder / "delta.bin"
+    expect(["delta", "--binary", "-o", str(out), two, one], DONE)
+    true(out.read_bytes() == TAG_RELEASED, "delta -o writes the octets")
+    out.unlink()
+    expect(["delta", "-o", str(out), one, EMPTY.hex()], FINDINGS, err=re.compile("another cell group"))
+    true(not out.exists(), "nothing is written for a refusal")
+
+    # Nothing to send: equal, or other only in what a state does not keep.
+    expect(["delta", one, one], NOTHING, err="cellgroupcfg: nothing to send\n")
+    expect(["delta", TAGS[1].hex(), "-"], NOTHING, err="cellgroupcfg: nothing to send\n", stdin=timer("infinity"))
+    expect(["delta", RELEASE_HEX, '{"cellGroupId":0}'], NOTHING, err="cellgroupcfg: nothing to send\n")
+    test_explain_delta()
+    test_refused_delta()
+    test_two_steps()
+    expect(["delta", one], USAGE, err=re.compile("cellgroupcfg delta --help"))
+    expect(["delta", one, two, one], USAGE, err=re.compile("cellgroupcfg delta --help"))
+    expect(["delta", "none", "none"], USAGE, err="cellgroupcfg: none: No such file or directory, and no message\n")
+    expect(["delta", "-", "-"], MALFORMED, err="cellgroupcfg: standard input: the input is empty\n")
+    expect(["delta", one, "2002"], MALFORMED, err=re.compile("the input ends before 5 more bits"))
+    expect(["delta", one, "-"], MALFORMED, err=re.compile("standard input:1:17: .*4 is not in 0..3"),
+           stdin='{"cellGroupId": 4}')
+    expect(["delta", "--as", "binary", one, "-"], USAGE, err=re.compile("No such file"), stdin=bytes(1 << 20))
+    expect(["delta", one, "-"], MALFORMED, err=re.compile("65537 octets are no message"), stdin=bytes(65537).hex())
+
+
+def test_explain_delta():
+    """Need R beside a changed sibling is sent again, Need M is not; SetupRelease is released."""
+    phr = {"phr-PeriodicTimer": "sf10", "phr-ProhibitTimer": "sf0", "phr-Tx-PowerFactorChange": "dB1",
+           "multiplePHR": False, "dummy": False, "phr-Type2OtherCell": False, "phr-ModeOtherCG": "real"}
+    found = run("delta", "--explain", with_phy({"p-NR-FR1": 23, "tpc-SRS-RNTI": 7, "cs-RNTI": {"setup": 8}}),
+                with_phy({"p-NR-FR1": 20, "tpc-SRS-RNTI": 7, "cs-RNTI": {"setup": 8}}))
+    true(found[0] == DONE and found[1].decode().splitlines()[:-1] == [
+        "# CellGroupConfig.cellGroupId: sent unchanged: mandatory beside a changed sibling",
+        "# CellGroupConfig.physicalCellGroupConfig.p-NR-FR1: sent: changed",
+        "# CellGroupConfig.physicalCellGroupConfig.pdsch-HARQ-ACK-Codebook: sent unchanged: mandatory beside a changed "
+        "sibling",
+        "# CellGroupConfig.physicalCellGroupConfig.tpc-SRS-RNTI: sent unchanged: Need R beside a changed sibling"],
+         f"delta --explain: {found}")
+    # Comments are passed over: what is explained is a message all the same.
+    same_value(run("decode", "--compact", stdin=found[1]), json.loads(with_phy({"p-NR-FR1": 20, "tpc-SRS-RNTI": 7})))
+    expect(["delta", "--explain", with_mac({"phr-Config": {"setup": phr}}), with_mac({})], DONE,
+           re.compile(r"^# CellGroupConfig\.mac-CellGroupConfig\.phr-Config: released: Need M: gone\n"
+                      "(# .*\n)" + octets("0 0010000 00  0 00001 0 0").hex() + "\n$", re.M))
+    for form in ("--binary", "--c-array"):
+        expect(["delta", "--explain", form, "00", "00"], USAGE,
+               err=f"cellgroupcfg: --explain and {form} exclude each other\n")
+    # A notice is no explanation, but a word to be heard.
+    sps = [with_cell({"initialDownlinkBWP": {"sps-Config": {"setup": {
+        "periodicity": "ms10", "nrofHARQ-Processes": number}}}}) for number in (1, 2)]
+    expect(["delta", *sps], DONE, re.compile("^[0-9a-f]+\n$"),
+           "cellgroupcfg: CellGroupConfig.spCellConfig.spCellConfigDedicated.initialDownlinkBWP.sps-Config: notice: "
+           "Need M: only while no assignment or grant of it is active, or with reconfigurationWithSync\n")
+
+
+def test_refused_delta():
+    """A refusal names path, reason, what could be released, and the option that does it."""
+    expect(["delta", timer("infinity"), '{"cellGroupId":0}'], FINDINGS,
+           err="cellgroupcfg: CellGroupConfig.mac-CellGroupConfig: refused: Need M: its absence would keep it; "
+               "nothing around it can be released\n")
+    served = with_bearers(bearer(4)), with_bearers(bearer(4, servedRadioBearer={"drb-Identity": 2}))
+    expect(["delta", *served], FINDINGS,
+           err="cellgroupcfg: CellGroupConfig.rlc-BearerToAddModList[logicalChannelIdentity 4].servedRadioBearer: "
+               "refused: Cond LCH-SetupOnly: it is sent only when its entry is created; "
+               "CellGroupConfig.rlc-BearerToAddModList[logicalChannelIdentity 4] can be released and set up again; "
+               "--recreate bearers brings it\n")
+    again = {**json.loads(served[1]), "rlc-BearerToReleaseList": [4]}
+    for recreate in ("bearers", "scells,bearers,bwps"):
+        same_value(run("decode", "--compact", stdin=run("delta", "--recreate", recreate, *served)[1]), again)
+    expect(["delta", "--recreate", "none", *served], FINDINGS, err=re.compile(r"can be released and set up again\n$"))
+    expect(["delta", "--recreate", "bearer", *served], USAGE, err=re.compile("bearers,scells,bwps,none"))
+    expect(["delta", "--recreate", "bearers,none", *served], USAGE, err="cellgroupcfg: --recreate: none stands alone\n")
+    expect(["delta", '{"cellGroupId":0}', with_bearers({"logicalChannelIdentity": 4})], FINDINGS,
+           err=re.compile("servedRadioBearer: refused: .*the creation of its entry asks for it, and it is absent"))
+
+
+def test_two_steps():
+    """Need M that goes within a SetupRelease: that is released first. --switch sends what is the same."""
+    csi = [with_cell({"csi-MeasConfig": {"setup": setup}}) for setup in ({"reportTriggerSize": 1}, {})]
+    expect(["delta", *csi], FINDINGS, err=re.compile(r"csi-MeasConfig\.setup\.reportTriggerSize: refused: Need M: .*"
+                                                     r"csi-MeasConfig can be released .*; --two-steps brings it\n$"))
+    found = run("delta", "--two-steps", *csi)
+    same_value(run("decode", "--lines", "--compact", stdin=found[1]),
+               json.loads(with_cell({"csi-MeasConfig": {"release": None}})), json.loads(csi[1]))
+    same_value(run("apply", "--lines", "--compact", csi[0], stdin=found[1]), json.loads(csi[1]))
+    expect(["delta", "--two-steps", "--binary", *csi], USAGE,
+           err="cellgroupcfg: two messages have no end in binary; say --hex or --base64\n")
+    expect(["delta", "--two-steps", "--c-array", *csi], DONE, re.compile(r"message1\[\](.*\n)+.*message2\[\]"))
+    active = with_cell({"firstActiveDownlinkBWP-Id": 1})
+    expect(["delta", active, active], NOTHING, err=re.compile("nothing to send"))
+    same_value(run("decode", "--compact", stdin=run("delta", "--switch", active, active)[1]), json.loads(active))
+    test_sync(active)
+
+
+def test_sync(active):
+    """--sync repeats a handover that is the same; with it the first active bandwidth part goes, too."""
+    sync = json.loads(active)
+    sync["spCellConfig"]["reconfigurationWithSync"] = {"newUE-Identity": 1, "t304": "ms50"}
+    text = json.dumps(sync)
+    expect(["delta", text, text], NOTHING, err=re.compile("nothing to send"))
+    same_value(run("decode", "--compact", stdin=run("delta", "--sync", text, text)[1]), sync)
+
+
+def test_apply(folder):
+    one, two = TAGS[1].hex(), TAGS[2].hex()
+    expect(["apply", two, TAG_RELEASED.hex()], DONE, one + "\n")
+    expect(["apply", "--binary", two], DONE, TAGS[1], stdin=TAG_RELEASED)
+    expect(["apply", "none", two, TAG_RELEASED.hex(), TAG_CHANGED.hex(), "--compact"], DONE,
+           json.dumps(json.loads(timer("ms500")), separators=(",", ":")) + "\n")
+    expect(["apply", "--state", RELEASE_HEX, '{"cellGroupId":0}'], DONE, "CellGroupConfig\n  cellGroupId 0\n")
+    expect(["apply", "--state", "--flat", RELEASE_HEX, '{"cellGroupId":0}'], DONE, "CellGroupConfig.cellGroupId = 0\n")
+    # What is released and not held is told, with the message that does it.
+    expect(["apply", one, TAG_CHANGED.hex(), TAG_RELEASED.hex()], DONE, TAG_CHANGED.hex() + "\n",
+           "cellgroupcfg: operand: message 2: CellGroupConfig.mac-CellGroupConfig.tag-Config.tag-ToReleaseList"
+           "[tag-Id 1]: notice: released and not held, no effect\n")
+    log = folder / "ue.log"
+    log.write_text(f"# since the call came up\n12:00 cfg {two} sent\n{TAG_RELEASED.hex()}\n{TAG_CHANGED.hex()}\n")
+    expect(["apply", "--lines", "none", str(log)], DONE, TAG_CHANGED.hex() + "\n")
+    out = folder / "state.hex"
+    expect(["apply", "-o", str(out), two, TAG_RELEASED.hex()], DONE)
+    true(out.read_text() == one + "\n", "apply -o writes the state")
+
+    # A message that cannot be applied is named; behind it nothing is applied and nothing shown.
+    missing = {"cellGroupId": 0, "rlc-BearerToAddModList": [{"logicalChannelIdentity": 4}]}
+    log.write_text(f"{two}\n{json.dumps(missing)}\n{TAG_CHANGED.hex()}\n")
+    expect(["apply", "--lines", "none", str(log)], FINDINGS,
+           err=f"cellgroupcfg: {log}:2: message 2: CellGroupConfig.rlc-BearerToAddModList[logicalChannelIdentity 4]."
+               "servedRadioBearer: refused: Cond LCH-SetupOnly: the creation of its entry asks for it, and it is absent; "
+               "nothing around it can be released\n"
+               "cellgroupcfg: no state is shown, as not all messages could be applied\n")
+    expect(["apply", two, OTHER.hex()], FINDINGS,
+           err="cellgroupcfg: operand: message 1: CellGroupConfig.cellGroupId: refused: another cell group; "
+               "nothing around it can be released\n")
+    full = json.dumps({"cellGroupId": 0, "sCellToAddModList": [{"sCellIndex": i} for i in range(1, 32)]})
+    bearers = [with_bearers(*(bearer(i) for i in numbers)) for numbers in (range(1, 32), (32,), (1,))]
+    expect(["apply", "--compact", *bearers], DONE, re.compile('"logicalChannelIdentity":32'))
+    true(run("apply", full, '{"cellGroupId":0}')[0] == DONE, "a state is taken as it is")
+    expect(["apply", two, "2002"], MALFORMED, err=re.compile("the input ends before 5 more bits"))
+    expect(["apply", two, "2002", TAG_RELEASED.hex()], MALFORMED,
+           err=re.compile("the input ends .*\ncellgroupcfg: no state is shown"))
+    expect(["apply", two, "nothing"], USAGE, err=re.compile("No such file"))
+    expect(["apply", two], MALFORMED, err="cellgroupcfg: standard input: the input is empty\n")
+    expect(["apply"], USAGE, err=re.compile("cellgroupcfg apply --help"))
+    expect(["apply", "--state", "--hex", one, one], USAGE, err="cellgroupcfg: --state and --hex exclude each other\n")
+    expect(["apply", "--json", "--flat", one, one], USAGE, err="cellgroupcfg: --json and --flat exclude each other\n")
+    # Memory is that of one message, whatever the log's length.
+    expect(["apply", "--lines", two], DONE, TAG_CHANGED.hex() + "\n",
+           stdin=f"{TAG_RELEASED.hex()}\n" + f"{TAG_CHANGED.hex()}\n" * (1 << 16))
+
+
+def test_diff_state(folder):
+    expect(["diff", "--state", RELEASE_HEX, '{"cellGroupId":0}'], DONE)
+    shuffled = with_mac({"tag-Config": {"tag-ToReleaseList": [3], "tag-ToAddModList": [
+        {"tag-Id": tag, "timeAlignmentTimer": "infinity"} for tag in (1, 0)]}})
+    expect(["diff", "--state", shuffled, TAGS[2].hex()], DONE)
+    expect(["diff", shuffled, TAGS[2].hex()], FINDINGS, re.compile("tag-ToReleaseList"))
+    expect(["diff", "--state", TAGS[2].hex(), TAGS[1].hex()], FINDINGS,
+           "- CellGroupConfig.mac-CellGroupConfig.tag-Config.tag-ToAddModList[tag-Id 1] = "
+           "{ tag-Id 1, timeAlignmentTimer infinity }\n")
+
+
 def test_check(folder):
     wrong = '{\n  "cellGroupId": 4,\n  "rlc-BearerToReleaseList": []\n}\n'
     expect(["check", RELEASE_HEX], DONE)
@@ -491,7 +705,7 @@ def test_help(folder):
     text = text.decode()
     true(status == DONE and text.startswith("Examples:\n"), "--help begins with examples")
     commands = re.findall(r"^  ([a-z]+) {5,}", text[text.index("\nCommands:\n"):], re.M)
-    true(len(commands) == 7, f"--help lists the commands: {commands}")
+    true(len(commands) == 9, f"--help lists the commands: {commands}")
     manual = (PROJECT / "docs/cellgroupcfg.1.scd").read_text(encoding="utf-8").replace("\\", "")
     completion = (PROJECT / "Tool/cellgroupcfg.bash").read_text(encoding="utf-8")
     for command in commands:
@@ -515,8 +729,8 @@ def test_help(folder):
 
 
 with tempfile.TemporaryDirectory() as name:
-    for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_check,
-                 test_find, test_pcap, test_wireshark, test_explain, test_streams, test_help):
+    for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta,
+                 test_apply, test_diff_state, test_check, test_find, test_pcap, test_wireshark, test_explain, test_streams, test_help):
         test(pathlib.Path(name))
 print("\n\n".join(failures))
 print(f"{count} checks, {len(failures)} failed")

@@ -14,18 +14,14 @@ import oracle_run
 import tshark_tree
 
 
-def example_message(program):
-    """What an example prints first: the number of octets, and the octets."""
-    lines = oracle_run.run([program])
-    count = re.fullmatch(r"(\d+) octets:", lines[0])
-    octets = ""
-    for line in lines[1:]:
-        if not re.fullmatch(r" +[0-9a-f]{2}(?: [0-9a-f]{2})*", line):
-            break
-        octets += line.replace(" ", "")
-    if not count or len(octets) != 2 * int(count[1]):
-        sys.exit(f"{program} does not begin with its octets: {lines[0]}")
-    return octets
+def example_messages(program):
+    """The messages that an example prints: the number of octets, and the octets."""
+    found = re.findall(r"^(\d+) octets:\n((?: +[0-9a-f]{2}(?: [0-9a-f]{2})*\n)+)", "\n".join(oracle_run.run([program])),
+                       re.M)
+    messages = ["".join(octets.split()) for _, octets in found]
+    if not found or any(len(octets) != 2 * int(count) for octets, (count, _) in zip(messages, found)):
+        sys.exit(f"{program} does not print its octets: {found}")
+    return messages
 
 
 def with_values(oracle, messages):
@@ -39,7 +35,8 @@ def with_values(oracle, messages):
 
 def examples(oracle, programs):
     found = []
-    for name, octets, value in with_values(oracle, [(program, example_message(program)) for program in programs]):
+    messages = [(program, octets) for program in programs for octets in example_messages(program)]
+    for name, octets, value in with_values(oracle, messages):
         meant = oracle_run.HERE / (pathlib.Path(name).name + ".json")
         if meant.exists():
             value = json.loads(meant.read_text(encoding="ascii"))

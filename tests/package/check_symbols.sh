@@ -14,6 +14,7 @@ expect()
 }
 
 expect "exported" "rrcComposeCellGroupCfg
+rrcComposeCellGroupDelta
 rrcComposeCellGroupTree
 rrcEncodeCellGroupCfg
 rrcEncodeCellGroupCfgInMemory

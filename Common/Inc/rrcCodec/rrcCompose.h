@@ -10,7 +10,7 @@
 /*
  * The calls for a careful caller, beside rrcComposeCellGroupCfg: they respect the buffer's capacity, say as status and
  * text what is wrong, print no element tree, and refuse what the heap has cut short, so that 0 means that the whole
- * record was composed.
+ * record was composed. And rrcComposeCellGroupDelta, which sends the difference of two records only.
  *
  * Lines of failing composers (rrcComposeRlc_BearerToAddModList Error) go to the platform's console all the same.
  * Calls on different threads are independent as long as each has memory of its own.
@@ -78,6 +78,30 @@ CELLGROUPCFG_API INT32 rrcEncodeCellGroupCfg(const RrcCellGroupCfg_t* pRrcCellGr
 CELLGROUPCFG_API INT32 rrcEncodeCellGroupCfgInMemory(const RrcCellGroupCfg_t* pRrcCellGroupCfg, void* memory,
                                                      size_t memorySize, UINT8* buf, size_t capacity, size_t* pLength,
                                                      char* error, size_t errorSize);
+
+/** rrcComposeCellGroupDelta: the UE has what it shall have */
+#define RRC_COMPOSE_NOTHING_TO_SEND 1
+
+/**
+ * Composes the smallest CellGroupConfig that takes a UE from one configuration to the next and encodes it with
+ * unaligned PER (TS 38.331 6.1.2, 5.3.5.5). What next has no more is released, what the UE keeps is not sent, what it
+ * would clear is sent again; what next carries to be done once (reestablishRLC) is sent unless the records are the
+ * same. reconfigurationWithSync and the SpCell's first active bandwidth parts are sent where they are others than in
+ * prev; where next carries none, nothing is said about them. Entries of configuration lists are released and added
+ * again where nothing else brings a change, RLC bearers, SCells and bandwidth parts are not; docs/delta.md has the
+ * rules, rtxDiff of asn1Runtime.h the options. A change of sps-Config, or of configuredGrantConfig without
+ * rrc-ConfiguredUplinkGrant, is for a time in which none is active.
+ * @param prev  what the UE has confirmed, as a complete record; null: it has nothing, as after full configuration. Only
+ *              read
+ * @param next  what the UE shall have, as a complete record, never null; only read. Of the same cellGroupId as prev
+ * @param pBuf  never null; buf points at at least 8192 octets of the caller's, which get the encoding; bufLen gets its
+ *              length, 0 when there is nothing to send, and is left alone after a failure. After a failure the octets
+ * at buf may hold part of an encoding
+ * @return      0; RRC_COMPOSE_NOTHING_TO_SEND; or -1 after lines on the console that say what failed: the record where
+ * a composer failed or a value is not allowed, and with its path and reason a change that no delta brings, with the
+ * nearest element around it whose release would help. Exhausted memory is always a failure
+ */
+CELLGROUPCFG_API INT32 rrcComposeCellGroupDelta(RrcCellGroupCfg_t* prev, RrcCellGroupCfg_t* next, Mbuf_t* pBuf);
 
 #ifdef __cplusplus
 }

@@ -74,18 +74,15 @@ INT32 composeCellGroup(OSCTXT* pAsnCxt, CellGroupConfig* pCellGroupConfig, RrcCe
 
 INT32 encode(OSCTXT* pAsnCxt, const CellGroupConfig* pCellGroupConfig, Mbuf_t* pBuf)
 {
-    // The encoder refuses to run on a buffer that was refused here.
-    (void)pu_setBuffer(pAsnCxt, pBuf->buf, bufferSize, 0);
-    if (asn1PE_CellGroupConfig(pAsnCxt, pCellGroupConfig) != 0)
+    const INT32 result = encodeTree(pAsnCxt, pCellGroupConfig, pBuf);
+    if (result != VOS_OK)
     {
         VOS_Printf("rrcComposeCellGroupCfg Error\r\n");
         rtxErrPrint(pAsnCxt);
         rtxPrintSetContext(pAsnCxt);
         asn1Print_CellGroupConfig("CELL GROUP", pCellGroupConfig);
-        return VOS_ERROR;
     }
-    pBuf->bufLen = static_cast<UINT32>(pu_getMsgLen(pAsnCxt));
-    return VOS_OK;
+    return result;
 }
 
 } // namespace
@@ -98,6 +95,18 @@ INT32 composeTree(OSCTXT* pAsnCxt, RrcCellGroupCfg_t* pRrcCellGroupCfg, CellGrou
         return compose::fail("pRrcCellGroupCfg Error\r\n");
     }
     return composeCellGroup(pAsnCxt, *ppCellGroupConfig, pRrcCellGroupCfg);
+}
+
+INT32 encodeTree(OSCTXT* pAsnCxt, const CellGroupConfig* pCellGroupConfig, Mbuf_t* pBuf)
+{
+    // The encoder refuses to run on a buffer that was refused here.
+    (void)pu_setBuffer(pAsnCxt, pBuf->buf, bufferSize, 0);
+    if (asn1PE_CellGroupConfig(pAsnCxt, pCellGroupConfig) != 0)
+    {
+        return VOS_ERROR;
+    }
+    pBuf->bufLen = static_cast<UINT32>(pu_getMsgLen(pAsnCxt));
+    return VOS_OK;
 }
 
 INT32 rrcComposeCellGroupCfg(RrcCellGroupCfg_t* rrcRrcCellGroupCfgInfo, Mbuf_t* pBuf)

@@ -33,13 +33,6 @@ INT32 say(const Text& error, RrcComposeStatus_e status, const char* line)
     return status;
 }
 
-// More SCells than the record holds would be cut by the composer, which writes their count back: refused here, the
-// record is only read.
-bool fits(const RrcCellGroupCfg_t& record)
-{
-    return record.sCellAddModNum <= MAX_NROF_SCellS;
-}
-
 INT32 composeWhole(OSCTXT* pAsnCxt, const RrcCellGroupCfg_t& record, CellGroupConfig** ppTree,
                    const FailureLines& lines)
 {
@@ -80,11 +73,10 @@ INT32 checkArguments(const Call& call)
     {
         return say(call.error, RRC_COMPOSE_E_ARGUMENT, "buf is null");
     }
-    if (!fits(*call.pRecord))
+    if (!sCellsFit(*call.pRecord))
     {
-        char line[40];
-        (void)std::snprintf(line, sizeof line, "sCellAddModNum: %d is not in 0..%d", call.pRecord->sCellAddModNum,
-                            MAX_NROF_SCellS);
+        char line[sCellLineSize];
+        writeSCellLine(line, *call.pRecord);
         return say(call.error, RRC_COMPOSE_E_ARGUMENT, line);
     }
     return RRC_COMPOSE_OK;
@@ -145,7 +137,7 @@ INT32 rrcComposeCellGroupTree(OSCTXT* pAsnCxt, const RrcCellGroupCfg_t* pRrcCell
         return RRC_COMPOSE_E_ARGUMENT;
     }
     *ppCellGroupConfig = nullptr;
-    if (pAsnCxt == nullptr || pRrcCellGroupCfg == nullptr || !fits(*pRrcCellGroupCfg))
+    if (pAsnCxt == nullptr || pRrcCellGroupCfg == nullptr || !sCellsFit(*pRrcCellGroupCfg))
     {
         return RRC_COMPOSE_E_ARGUMENT;
     }

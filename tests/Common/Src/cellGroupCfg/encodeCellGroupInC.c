@@ -31,3 +31,11 @@ INT32 amendInC(const RrcCellGroupCfg_t* record, UINT8* buf, size_t capacity, siz
     rtFreeContext(&context);
     return status;
 }
+
+INT32 deltaInC(RrcCellGroupCfg_t* prev, RrcCellGroupCfg_t* next, UINT8* buf, size_t* length)
+{
+    Mbuf_t message = {0, buf};
+    const INT32 status = rrcComposeCellGroupDelta(prev, next, &message);
+    *length = message.bufLen;
+    return status;
+}

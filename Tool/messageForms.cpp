@@ -1,0 +1,53 @@
+#include "messageForms.h"
+
+#include "trace.h"
+
+namespace tool
+{
+
+std::string textIn(DecodeForm form, const Message& message, const Given& given)
+{
+    const OSCTXT* const context = &message.context();
+    const RtxType* const type = message.pdu().type;
+    const auto write = [&](RtxPrintSink sink, void* arg)
+    {
+        // The writers' status is about trees that no message gives: the decoder's error says all.
+        switch (form)
+        {
+        case DecodeForm::Json:
+            (void)rtxToJson(context, type, message.value(), RTX_INDENTED, sink, arg);
+            break;
+        case DecodeForm::CompactJson:
+            (void)rtxToJson(context, type, message.value(), RTX_COMPACT, sink, arg);
+            break;
+        case DecodeForm::ValueNotation:
+            (void)rtxToValueNotation(context, type, message.value(), RTX_INDENTED, sink, arg);
+            break;
+        case DecodeForm::Flat:
+            (void)rtxToFlat(context, type, message.value(), sink, arg);
+            break;
+        default:
+            break;
+        }
+    };
+    return form == DecodeForm::Tree    ? treeText(message)
+           : form == DecodeForm::Trace ? traceText(message.pdu(), octetsOf(message.pdu(), given))
+                                       : written(write);
+}
+
+std::string octetsIn(OctetsForm form, Octets octets, const std::string& name)
+{
+    switch (form)
+    {
+    case OctetsForm::Binary:
+        return {reinterpret_cast<const char*>(octets.data()), octets.size()};
+    case OctetsForm::CArray:
+        return toCArray(octets, name);
+    case OctetsForm::Base64:
+        return toBase64(octets) + "\n";
+    default:
+        return toHex(octets) + "\n";
+    }
+}
+
+} // namespace tool

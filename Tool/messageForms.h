@@ -1,0 +1,35 @@
+// The forms in which messages are written, by the names of the options.
+#pragma once
+
+#include "message.h"
+#include "octets.h"
+
+#include <string>
+
+namespace tool
+{
+
+enum class DecodeForm
+{
+    Tree,
+    Json,
+    CompactJson,
+    ValueNotation,
+    Flat,
+    Trace,
+    Verdict, // one line a message
+};
+// What a message says, in any form but a verdict.
+std::string textIn(DecodeForm form, const Message& message, const Given& given);
+
+enum class OctetsForm
+{
+    Hex,
+    Binary,
+    CArray,
+    Base64,
+};
+// `name` is that of a C array.
+std::string octetsIn(OctetsForm form, Octets octets, const std::string& name);
+
+} // namespace tool
