@@ -250,14 +250,18 @@ private:
             const bool known = one.id == id && isHeld;
             if (!known && sink_ != nullptr)
             {
-                const RtxDeltaItem item =
-                    deltaItem(RTX_DELTA_NOTICE, RTX_DELTA_NOT_HELD, {},
-                              {&place, {nullptr, RTX_NO_INDEX, one.index, identityName(list), one.id}});
-                sink_(arg_, &item);
+                tellNotHeld({&place, {nullptr, RTX_NO_INDEX, one.index, identityName(list), one.id}});
             }
             found = found || one.id == id;
         }
         return found;
+    }
+
+    // Out of the walk's frames, which would be as large as an item each.
+    [[gnu::noinline]] void tellNotHeld(const DeltaPlace& place)
+    {
+        const RtxDeltaItem item = deltaItem(RTX_DELTA_NOTICE, RTX_DELTA_NOT_HELD, {}, place);
+        sink_(arg_, &item);
     }
 
     // What an entry of the message makes of the held one; null where that stops.

@@ -285,8 +285,14 @@ private:
         {
             return true;
         }
-        (void)refuse(ctxt_, deltaItem(RTX_DELTA_REFUSED, RTX_DELTA_INCOMPLETE, need, place), place, sink_, arg_);
+        refuseWithout(need, place);
         return false;
+    }
+
+    // Out of the walk's frames, which would be as large as an item each.
+    [[gnu::noinline]] void refuseWithout(const Need& need, const DeltaPlace& place)
+    {
+        (void)refuse(ctxt_, deltaItem(RTX_DELTA_REFUSED, RTX_DELTA_INCOMPLETE, need, place), place, sink_, arg_);
     }
 
     OSCTXT& ctxt_;

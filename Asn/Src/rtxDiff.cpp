@@ -103,7 +103,8 @@ public:
     }
 
 private:
-    // What there is to tell. It is forgotten again where it turns out that nothing is sent.
+    // What there is to tell. It is forgotten again where it turns out that nothing is sent. What makes items is not for
+    // the frames of the walk: an item is as large as all of those around it.
 
     void forget(Event** mark)
     {
@@ -111,8 +112,8 @@ private:
         *end_ = nullptr;
     }
 
-    void tell(RtxDeltaKind kind, RtxDeltaReason reason, const Need& need, const DeltaPlace& place,
-              RtxDeltaReason cause = {})
+    [[gnu::noinline]] void tell(RtxDeltaKind kind, RtxDeltaReason reason, const Need& need, const DeltaPlace& place,
+                                RtxDeltaReason cause = {})
     {
         if (sink_ == nullptr || quiet_ != 0)
         {
@@ -132,7 +133,8 @@ private:
         end_ = &event->next;
     }
 
-    Outcome blocked(RtxDeltaReason reason, const Need& need, const DeltaPlace& place, bool final = false)
+    [[gnu::noinline]] Outcome blocked(RtxDeltaReason reason, const Need& need, const DeltaPlace& place,
+                                      bool final = false)
     {
         obstacle_.item = deltaItem(RTX_DELTA_REFUSED, reason, need, place);
         obstacle_.final = final;
