@@ -91,6 +91,7 @@ CELLGROUPCFG_API INT32 rrcEncodeCellGroupCfgInMemory(const RrcCellGroupCfg_t* pR
  * again where nothing else brings a change, RLC bearers, SCells and bandwidth parts are not; docs/delta.md has the
  * rules, rtxDiff of asn1Runtime.h the options. A change of sps-Config, or of configuredGrantConfig without
  * rrc-ConfiguredUplinkGrant, is for a time in which none is active.
+ * Needs 64 KiB of the stack, and asks malloc where the trees take more than 16 KiB.
  * @param prev  what the UE has confirmed, as a complete record; null: it has nothing, as after full configuration. Only
  *              read
  * @param next  what the UE shall have, as a complete record, never null; only read. Of the same cellGroupId as prev

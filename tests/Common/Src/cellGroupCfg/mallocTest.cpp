@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "NR-RRC-Definitions.h"
+#include "cellGroupDeltas.h"
 #include "oneBearer.h"
 #include "reconfigurationWithSync.h"
 #include "releases.h"
@@ -92,6 +93,21 @@ void* composedInMemory(void* record)
     return record;
 }
 
+struct Records
+{
+    RrcCellGroupCfg_t prev;
+    RrcCellGroupCfg_t next;
+};
+
+void* deltaComposed(void* records)
+{
+    static UINT8 octets[8192];
+    Mbuf_t message = {0, octets};
+    auto* const both = static_cast<Records*>(records);
+    (void)rrcComposeCellGroupDelta(&both->prev, &both->next, &message);
+    return records;
+}
+
 } // namespace
 
 extern "C" void* __real_malloc(size_t size);
@@ -169,5 +185,30 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
         EXPECT_LE(refusal, 32U * 1024);
         EXPECT_LE(inMemory, 8U * 1024);
         EXPECT_LE(refusalInMemory, 8U * 1024);
+    }
+}
+
+TEST(Stack, ADeltaStaysWithin64Kibioctets)
+{
+    const auto records = std::make_unique<Records>();
+    secondaryCells(records->prev);
+    records->next = records->prev;
+    changeReport(records->next);
+    const size_t start = touchedBy(nothing, records.get());
+    const size_t success = touchedBy(deltaComposed, records.get()) - start;
+    records->next.rlcBearerCfg[0].rbId = 2;
+    size_t refusal = 0;
+    std::string printed;
+    {
+        test::CapturedOutput output;
+        refusal = touchedBy(deltaComposed, records.get()) - start;
+        printed = output.take();
+    }
+    EXPECT_THAT(printed, testing::HasSubstr("servedRadioBearer: refused: "));
+    EXPECT_GE(success, (sanitized ? 12U : 16U) * 1024);
+    if (!sanitized)
+    {
+        EXPECT_LE(success, 64U * 1024);
+        EXPECT_LE(refusal, 64U * 1024);
     }
 }
