@@ -97,7 +97,8 @@ void expectLaw(Trees& trees, const void* prev, const void* delta, const void* ne
     }
 }
 
-// One message or two, none when there is nothing to send. The last one has been shown to give `next`.
+// One message or two, none when there is nothing to send. The last one has been shown to give `next`. What is done once
+// is done by the first.
 std::vector<Made> makeAll(Trees& trees, const void* prev, const void* next, unsigned flags)
 {
     std::vector<Made> all;
@@ -123,6 +124,8 @@ std::vector<Made> makeAll(Trees& trees, const void* prev, const void* next, unsi
             return all;
         }
         held = after(trees, held, delta);
+        next = trees.state(next);
+        flags &= ~(RTX_DELTA_SYNC | RTX_DELTA_SWITCH);
     }
 }
 

@@ -35,14 +35,24 @@ void* newTree(OSCTXT& context, const RtxPdu& pdu)
     return tree;
 }
 
-const void* stateOf(Message& message)
+namespace
 {
-    void* const state = newTree(message.context(), message.pdu());
-    if (rtxState(&message.context(), message.pdu().type, message.value(), state) != RTX_OK)
+
+const void* stateOf(OSCTXT& context, const RtxPdu& pdu, const void* message)
+{
+    void* const state = newTree(context, pdu);
+    if (rtxState(&context, pdu.type, message, state) != RTX_OK)
     {
-        failWith(message.context().error, "");
+        failWith(context.error, "");
     }
     return state;
+}
+
+} // namespace
+
+const void* stateOf(Message& message)
+{
+    return stateOf(message.context(), message.pdu(), message.value());
 }
 
 void* Trees::room()
@@ -74,6 +84,11 @@ Encoding Trees::encoded(const void* tree)
         fail();
     }
     return octets;
+}
+
+const void* Trees::state(const void* message)
+{
+    return stateOf(context_, pdu_, message);
 }
 
 void Trees::fail(const std::string& place) const

@@ -47,6 +47,8 @@ public:
     // Null of nothing.
     const void* decoded(const std::optional<Encoding>& octets);
     Encoding encoded(const void* tree);
+    // What a complete message leaves behind.
+    const void* state(const void* message);
 
     // Throws Failure with what the context's error says: what cannot be, or that there is no memory.
     [[noreturn]] void fail(const std::string& place = "") const;

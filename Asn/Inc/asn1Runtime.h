@@ -425,7 +425,7 @@ typedef struct RtxDeltaOptions
 // What rtxDiff returns besides an RtxStatus.
 #define RTX_DELTA_TO_SEND 0
 #define RTX_DELTA_NOTHING 1 // nothing to send; the delta is cleared
-#define RTX_DELTA_MORE 2    // send the delta, then what rtxDiff makes of the state after it and the same next
+#define RTX_DELTA_MORE 2    // send the delta, then what rtxDiff makes of the state after it and rtxState(next)
 
 // What a UE that held nothing holds after a complete message: no release lists, no actions (Need N), lists ordered by
 // identity. The one-shot members reconfigurationWithSync, firstActiveDownlinkBWP-Id and firstActiveUplinkBWP-Id stay,

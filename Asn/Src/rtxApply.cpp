@@ -34,7 +34,7 @@ private:
     // `held` is null for nothing; of a sequence either may be null, which stands for the empty one.
     void content(const Type& type, const void* held, const void* message, void* result, const DeltaPlace& place)
     {
-        if (status_ != RTX_OK)
+        if (status_ != RTX_OK || (message == nullptr && type.kind != Kind::Sequence))
         {
             return;
         }

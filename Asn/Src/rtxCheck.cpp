@@ -50,20 +50,26 @@ private:
         ++findings_;
         if (sink_ != nullptr)
         {
-            RtxError finding;
-            finding.status = reason.status;
-            finding.depth = 0;
-            finding.value = reason.value;
-            finding.lower = reason.lower;
-            finding.upper = reason.upper;
-            finding.bitOffset = 0;
-            finding.hasOffset = 0;
-            for (const Place* p = &place; p != nullptr; p = p->outer)
-            {
-                push(finding, p->step);
-            }
-            ended_ = sink_(arg_, &finding) != 0;
+            tell(place, reason);
         }
+    }
+
+    // Out of line: a finding takes more of the stack than all else on the way down.
+    [[gnu::noinline]] void tell(const Place& place, const Reason& reason)
+    {
+        RtxError finding;
+        finding.status = reason.status;
+        finding.depth = 0;
+        finding.value = reason.value;
+        finding.lower = reason.lower;
+        finding.upper = reason.upper;
+        finding.bitOffset = 0;
+        finding.hasOffset = 0;
+        for (const Place* p = &place; p != nullptr; p = p->outer)
+        {
+            push(finding, p->step);
+        }
+        ended_ = sink_(arg_, &finding) != 0;
     }
 
     void content(const Type& type, const void* value, const Place& place)

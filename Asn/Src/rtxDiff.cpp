@@ -655,10 +655,14 @@ private:
         Changes changes{room, room + most};
         uint32_t i = 0;
         uint32_t j = 0;
-        while (i < old.count || j < wanted.count)
+        for (;;)
         {
             const ListElement* const held = i < old.count ? old.first + i : nullptr;
             const ListElement* const next = j < wanted.count ? wanted.first + j : nullptr;
+            if (held == nullptr && next == nullptr)
+            {
+                return write(slot, changes);
+            }
             const bool takeHeld = next == nullptr || (held != nullptr && held->id <= next->id);
             const bool takeNext = held == nullptr || (next != nullptr && next->id <= held->id);
             const ListElement& one = takeHeld ? *held : *next;
@@ -672,7 +676,6 @@ private:
             i += takeHeld ? 1 : 0;
             j += takeNext ? 1 : 0;
         }
-        return write(slot, changes);
     }
 
     Outcome write(const Slot& slot, const Changes& changes)
