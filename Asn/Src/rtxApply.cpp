@@ -107,7 +107,14 @@ private:
                 std::memcpy(setSent(type, i, addition, result), before, inner.size);
             }
         }
-        else if (!isRelease(inner, now) && (need.absence != Absence::Action || actions_ || isOneShot(need)))
+        else if (isRelease(inner, now))
+        {
+            if (before == nullptr)
+            {
+                notHeld(need, place);
+            }
+        }
+        else if (need.absence != Absence::Action || actions_ || isOneShot(need))
         {
             content(inner, before, now, setSent(type, i, addition, result), place);
         }
@@ -248,16 +255,23 @@ private:
         {
             const ListElement& one = released.first[next];
             const bool known = one.id == id && isHeld;
-            if (!known && sink_ != nullptr)
+            if (!known)
             {
-                const RtxDeltaItem item =
-                    deltaItem(RTX_DELTA_NOTICE, RTX_DELTA_NOT_HELD, {},
-                              {&place, {nullptr, RTX_NO_INDEX, one.index, identityName(list), one.id}});
-                sink_(arg_, &item);
+                notHeld({}, {&place, {nullptr, RTX_NO_INDEX, one.index, identityName(list), one.id}});
             }
             found = found || one.id == id;
         }
         return found;
+    }
+
+    // Tells that something is released in vain.
+    void notHeld(const Need& need, const DeltaPlace& place)
+    {
+        if (sink_ != nullptr)
+        {
+            const RtxDeltaItem item = deltaItem(RTX_DELTA_NOTICE, RTX_DELTA_NOT_HELD, need, place);
+            sink_(arg_, &item);
+        }
     }
 
     // What an entry of the message makes of the held one; null where that stops.
