@@ -312,7 +312,7 @@ private:
                 if (std::none_of(all.begin(), all.end(),
                                  [&](const ASN1OpenType* other) { return other->index == open->index; }))
                 {
-                    report(troubles, RTX_DELTA_KEPT);
+                    inside(".extElem1[" + std::to_string(open->index) + "]", [&] { report(troubles, RTX_DELTA_KEPT); });
                 }
             }
             break;
