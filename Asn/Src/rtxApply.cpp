@@ -92,7 +92,7 @@ private:
         const Type& inner = *type.members[i].type;
         const void* before = sent(type, i, addition, held);
         const void* const now = sent(type, i, addition, message);
-        if (sulReleased_ && std::strcmp(type.names[i], "supplementaryUplink") == 0)
+        if (sulReleased_ && std::strcmp(type.names[i], supplementaryUplink) == 0)
         {
             before = nullptr;
         }
@@ -104,7 +104,11 @@ private:
         {
             if (before != nullptr && stays(need, addition))
             {
-                std::memcpy(setSent(type, i, addition, result), before, inner.size);
+                void* const kept = std::memcpy(setSent(type, i, addition, result), before, inner.size);
+                if (sulReleased_ && inner.kind == Kind::Sequence)
+                {
+                    leaveOut(inner, memberNamed(inner, supplementaryUplink), kept);
+                }
             }
         }
         else if (isRelease(inner, now))

@@ -286,7 +286,7 @@ private:
             }
             return next != nullptr ? Outcome::Changed : Outcome::Same;
         }
-        const bool sul = sulReleased_ && std::strcmp(slot.type.names[slot.index], "supplementaryUplink") == 0;
+        const bool sul = sulReleased_ && std::strcmp(slot.type.names[slot.index], supplementaryUplink) == 0;
         const void* const prev = sul ? nullptr : slot.prev();
         if (prev == nullptr && next == nullptr)
         {
