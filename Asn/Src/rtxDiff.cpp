@@ -474,7 +474,8 @@ private:
             final = true;
             break;
         case Change::Pucch:
-            reason = comesOrGoes && !anyFresh(&entry) && !isSyncSent() ? RTX_DELTA_PUCCH : reason;
+            reason = comesOrGoes && slot.prevParent != nullptr && !anyFresh(&entry) && !isSyncSent() ? RTX_DELTA_PUCCH
+                                                                                                     : reason;
             break;
         case Change::McgRelease:
             reason = next == nullptr && !isMcg() ? RTX_DELTA_SCG : reason;
