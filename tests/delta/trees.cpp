@@ -641,7 +641,7 @@ namespace
 {
 
 // Whether something of it is held.
-bool makeState(Heap& heap, const Type& type, void* value)
+bool makeState(Heap& heap, const Type& type, void* value, bool actions)
 {
     switch (type.kind)
     {
@@ -649,8 +649,8 @@ bool makeState(Heap& heap, const Type& type, void* value)
         for (unsigned i = 0; i < type.memberCount; ++i)
         {
             const Need& code = need(type, i);
-            if (has(type, value, i) && (code.list == ListRole::Release || isAction(code) ||
-                                        !makeState(heap, *type.members[i].type, at(type, value, i))))
+            if (has(type, value, i) && (code.list == ListRole::Release || (isAction(code) && !actions) ||
+                                        !makeState(heap, *type.members[i].type, at(type, value, i), actions)))
             {
                 drop(type, value, i);
             }
@@ -662,7 +662,7 @@ bool makeState(Heap& heap, const Type& type, void* value)
             return false;
         }
         return alternative(value) >= type.memberCount ||
-               makeState(heap, *type.members[alternative(value)].type, content(type, value));
+               makeState(heap, *type.members[alternative(value)].type, content(type, value), actions);
     case Kind::Array:
     case Kind::List:
     {
@@ -671,7 +671,7 @@ bool makeState(Heap& heap, const Type& type, void* value)
         {
             for (void* const element : held)
             {
-                (void)makeState(heap, type.element(), element);
+                (void)makeState(heap, type.element(), element, actions);
             }
         }
         if (type.identity != rtx::noIdentity)
@@ -697,10 +697,10 @@ bool makeState(Heap& heap, const Type& type, void* value)
 
 } // namespace
 
-CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree)
+CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree, bool actions)
 {
     CellGroupConfig* const state = copy(heap, tree);
-    (void)makeState(heap, root(), state);
+    (void)makeState(heap, root(), state, actions);
     return state;
 }
 

@@ -118,8 +118,8 @@ CellGroupConfig* copy(Heap& heap, const CellGroupConfig* tree);
 bool vary(Heap& heap, const Type& type, void* value, const Where& where, int identity = rtx::noIdentity);
 bool varyEntry(Heap& heap, const Type& list, void* entry);
 
-// What a UE without any configuration holds after the message.
-CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree);
+// What a UE without any configuration holds after the message; or that and the actions that the message asks for.
+CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree, bool actions = false);
 // Where `wanted` has no one-shot, those of `held`; both are states.
 void keepOneShots(Heap& heap, const Type& type, const void* held, void* wanted);
 
