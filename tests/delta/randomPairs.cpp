@@ -73,10 +73,10 @@ CellGroupConfig* finished(Heap& heap, CellGroupConfig* tree)
 
 } // namespace
 
-Pair randomPair(Heap& heap, uint64_t seed, Distance distance)
+Pair randomPair(Heap& heap, uint64_t seed, Distance distance, bool unknown)
 {
     test::RandomTree::Options options;
-    options.unknown = seed % 4 == 0;
+    options.unknown = unknown;
     options.budget = static_cast<unsigned>(20 + seed * 37 % 400);
     test::RandomTree random(heap.ctxt, seed, options);
     Pair pair{finished(heap, randomTree(heap, random)), nullptr};

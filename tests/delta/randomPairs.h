@@ -14,8 +14,8 @@ enum class Distance
 };
 
 // Trees that a UE may have and shall have: new entries are complete, no identity comes twice. The same seed makes the
-// same pair.
-Pair randomPair(Heap& heap, uint64_t seed, Distance distance);
+// same pair. `unknown`: with additions and alternatives of later releases.
+Pair randomPair(Heap& heap, uint64_t seed, Distance distance, bool unknown = false);
 
 } // namespace delta
 

@@ -23,7 +23,7 @@ protected:
         for (uint64_t seed = 1; seed <= number() && !isEnough(); ++seed)
         {
             Heap heap;
-            const Pair pair = randomPair(heap, seed, distance);
+            const Pair pair = randomPair(heap, seed, distance, seed % 4 == 0);
             const unsigned flags = allFlags[seed % std::size(allFlags)] | (seed % 11 == 0 ? RTX_DELTA_SYNC : 0);
             const CellGroupConfig* const prev = seed % 50 == 0 ? nullptr : pair.prev;
             (void)check(heap, "seed " + std::to_string(seed), prev, pair.next, flags);
