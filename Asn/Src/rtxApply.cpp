@@ -92,7 +92,7 @@ private:
         const Type& inner = *type.members[i].type;
         const void* before = sent(type, i, addition, held);
         const void* const now = sent(type, i, addition, message);
-        if (sulReleased_ && std::strcmp(type.names[i], "supplementaryUplink") == 0)
+        if (sulReleased_ && std::strcmp(type.names[i], supplementaryUplink) == 0)
         {
             before = nullptr;
         }
@@ -104,10 +104,21 @@ private:
         {
             if (before != nullptr && stays(need, addition))
             {
-                std::memcpy(setSent(type, i, addition, result), before, inner.size);
+                void* const kept = std::memcpy(setSent(type, i, addition, result), before, inner.size);
+                if (sulReleased_ && inner.kind == Kind::Sequence)
+                {
+                    leaveOut(inner, memberNamed(inner, supplementaryUplink), kept);
+                }
             }
         }
-        else if (!isRelease(inner, now) && (need.absence != Absence::Action || actions_ || isOneShot(need)))
+        else if (isRelease(inner, now))
+        {
+            if (before == nullptr)
+            {
+                notHeld(need, place);
+            }
+        }
+        else if (need.absence != Absence::Action || actions_ || isOneShot(need))
         {
             content(inner, before, now, setSent(type, i, addition, result), place);
         }
@@ -248,20 +259,23 @@ private:
         {
             const ListElement& one = released.first[next];
             const bool known = one.id == id && isHeld;
-            if (!known && sink_ != nullptr)
+            if (!known)
             {
-                tellNotHeld({&place, {nullptr, RTX_NO_INDEX, one.index, identityName(list), one.id}});
+                notHeld({}, {&place, {nullptr, RTX_NO_INDEX, one.index, identityName(list), one.id}});
             }
             found = found || one.id == id;
         }
         return found;
     }
 
-    // Out of the walk's frames, which would be as large as an item each.
-    [[gnu::noinline]] void tellNotHeld(const DeltaPlace& place)
+    // Tells that something is released in vain; out of the walk's frames, which would be as large as an item each.
+    [[gnu::noinline]] void notHeld(const Need& need, const DeltaPlace& place)
     {
-        const RtxDeltaItem item = deltaItem(RTX_DELTA_NOTICE, RTX_DELTA_NOT_HELD, {}, place);
-        sink_(arg_, &item);
+        if (sink_ != nullptr)
+        {
+            const RtxDeltaItem item = deltaItem(RTX_DELTA_NOTICE, RTX_DELTA_NOT_HELD, need, place);
+            sink_(arg_, &item);
+        }
     }
 
     // What an entry of the message makes of the held one; null where that stops.

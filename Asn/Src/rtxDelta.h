@@ -143,6 +143,11 @@ inline void setFlag(void* structure, int flag)
     static_cast<OSOCTET*>(structure)[flag / 8] |= static_cast<OSOCTET>(1U << flag % 8);
 }
 
+inline void clearFlag(void* structure, int flag)
+{
+    static_cast<OSOCTET*>(structure)[flag / 8] &= static_cast<OSOCTET>(~(1U << flag % 8));
+}
+
 inline void* setSent(const Type& type, unsigned index, const Addition* addition, void* structure)
 {
     if (type.members[index].flag >= 0)
@@ -155,6 +160,18 @@ inline void* setSent(const Type& type, unsigned index, const Addition* addition,
     }
     return at(structure, type.members[index]);
 }
+
+// Takes a root member away, where there is such a one.
+inline void leaveOut(const Type& type, unsigned index, void* structure)
+{
+    if (index < type.rootCount && type.members[index].flag >= 0)
+    {
+        clearFlag(structure, type.members[index].flag);
+    }
+}
+
+// The member that goes with its cell's common configuration, where that comes without one.
+constexpr char supplementaryUplink[] = "supplementaryUplink";
 
 // An alternative's content, also behind a pointer; null stands for the empty one.
 inline const void* contentOf(const Member& alternative, const void* choice)

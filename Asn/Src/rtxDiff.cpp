@@ -288,7 +288,7 @@ private:
             }
             return next != nullptr ? Outcome::Changed : Outcome::Same;
         }
-        const bool sul = sulReleased_ && std::strcmp(slot.type.names[slot.index], "supplementaryUplink") == 0;
+        const bool sul = sulReleased_ && std::strcmp(slot.type.names[slot.index], supplementaryUplink) == 0;
         const void* const prev = sul ? nullptr : slot.prev();
         if (prev == nullptr && next == nullptr)
         {
@@ -476,7 +476,8 @@ private:
             final = true;
             break;
         case Change::Pucch:
-            reason = comesOrGoes && !anyFresh(&entry) && !isSyncSent() ? RTX_DELTA_PUCCH : reason;
+            reason = comesOrGoes && slot.prevParent != nullptr && !anyFresh(&entry) && !isSyncSent() ? RTX_DELTA_PUCCH
+                                                                                                     : reason;
             break;
         case Change::McgRelease:
             reason = next == nullptr && !isMcg() ? RTX_DELTA_SCG : reason;

@@ -29,6 +29,20 @@ const char* nameOf(Happening happening)
     return names[static_cast<size_t>(happening)];
 }
 
+const CellGroupConfig* laterMessage(Heap& heap, const Place& place, const CellGroupConfig* message)
+{
+    if (!place.passes("SCellConfig", "sCellConfigDedicated"))
+    {
+        return message;
+    }
+    CellGroupConfig* const later = copy(heap, message);
+    for (const OSRTDListNode* node = later->sCellToAddModList.head; node != nullptr; node = node->next)
+    {
+        static_cast<SCellConfig*>(node->data)->m.sCellConfigCommonPresent = 0;
+    }
+    return later;
+}
+
 std::optional<size_t> fartherStep(const Place& place)
 {
     for (size_t i = place.steps.size() - 1; i-- != 0;)
@@ -39,6 +53,18 @@ std::optional<size_t> fartherStep(const Place& place)
         }
     }
     return std::nullopt;
+}
+
+void setEntries(Heap& heap, const Place& place, CellGroupConfig* tree, const std::vector<int64_t>& ids,
+                unsigned variant)
+{
+    const Spot spot = reach(heap, tree, place);
+    std::vector<void*> entries;
+    for (const int64_t id : ids)
+    {
+        entries.push_back(makeEntry(heap, place.type(), id, variant));
+    }
+    setElements(heap, place.type(), put(place.parent(), spot.parent, place.index()), entries);
 }
 
 bool changeSibling(Heap& heap, const Place& place, size_t step, CellGroupConfig* tree)

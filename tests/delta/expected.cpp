@@ -57,7 +57,8 @@ public:
         }
         expected_.held = stateOf(heap_, prev);
         keepOneShots(heap_, root(), expected_.held, expected_.wanted);
-        if (heap_.encode(prev) == heap_.encode(next))
+        if (heap_.encode(stateOf(heap_, prev, true)) == heap_.encode(stateOf(heap_, next, true)) &&
+            (flags_ & RTX_DELTA_SYNC) == 0)
         {
             return;
         }
@@ -172,7 +173,7 @@ private:
     }
 
     // Whether two values are sent alike.
-    bool equal(const Type& type, const void* a, const void* b)
+    bool equal(const Type& type, const void* a, const void* b) const
     {
         return rtxCompare(&heap_.ctxt, nullptr, &type, a, b, nullptr, nullptr) == 0;
     }
@@ -312,7 +313,7 @@ private:
                 if (std::none_of(all.begin(), all.end(),
                                  [&](const ASN1OpenType* other) { return other->index == open->index; }))
                 {
-                    report(troubles, RTX_DELTA_KEPT);
+                    inside(".extElem1[" + std::to_string(open->index) + "]", [&] { report(troubles, RTX_DELTA_KEPT); });
                 }
             }
             break;
@@ -349,7 +350,7 @@ private:
     {
         const Need& code = need(type, index);
         const Type& kind = *type.members[index].type;
-        const bool before = has(type, held, index);
+        const bool before = has(type, held, index) && !isSulReleased(type, index, outer);
         const bool after = has(type, wanted, index);
         Around around = outer;
         if (isNamed(kind.name, "SpCellConfig"))
@@ -376,7 +377,7 @@ private:
         Troubles found;
         if (before && !after)
         {
-            gone(type, index, around, found);
+            gone(type, index, found);
         }
         else if (!before)
         {
@@ -393,7 +394,7 @@ private:
         troubles.insert(troubles.end(), found.begin(), found.end());
     }
 
-    void gone(const Type& type, unsigned index, const Around& around, Troubles& found)
+    void gone(const Type& type, unsigned index, Troubles& found)
     {
         const Need& code = need(type, index);
         const bool released = isSetupRelease(*type.members[index].type);
@@ -409,20 +410,50 @@ private:
         {
             report(found, RTX_DELTA_PUCCH);
         }
-        else if (!released && (code.absence == Absence::Keep || code.absence == Absence::Mandatory) &&
-                 !isSulReleased(type, index, around))
+        else if (!released && (code.absence == Absence::Keep || code.absence == Absence::Mandatory))
         {
             report(found, RTX_DELTA_KEPT);
         }
     }
 
-    // supplementaryUplink goes with a common configuration of the SpCell that comes without one.
+    // supplementaryUplink goes with a common configuration of the SpCell that is sent and has none.
     bool isSulReleased(const Type& type, unsigned index, const Around& around) const
     {
+        if (!expected_.sync || around.where.entry || !isNamed(type.names[index], "supplementaryUplink") ||
+            !isNamed(type.name, "ServingCellConfig"))
+        {
+            return false;
+        }
         const ReconfigurationWithSync* const sync = syncOf(expected_.wanted);
-        return isNamed(type.names[index], "supplementaryUplink") && isNamed(type.name, "ServingCellConfig") &&
-               !around.where.entry && expected_.sync && sync->m.spCellConfigCommonPresent != 0 &&
-               sync->spCellConfigCommon.m.supplementaryUplinkConfigPresent == 0;
+        return sync->m.spCellConfigCommonPresent != 0 &&
+               sync->spCellConfigCommon.m.supplementaryUplinkConfigPresent == 0 && isCommonSent(*sync);
+    }
+
+    bool isCommonSent(const ReconfigurationWithSync& sync) const
+    {
+        const ReconfigurationWithSync* const before = syncOf(expected_.held);
+        const Type& type = *asn1Type_CellGroupConfig()->members[indexOf(root(), "spCellConfig")].type;
+        const Type& syncType = *type.members[indexOf(type, "reconfigurationWithSync")].type;
+        const Type& common = *syncType.members[indexOf(syncType, "spCellConfigCommon")].type;
+        return before == nullptr || before->m.spCellConfigCommonPresent == 0 ||
+               !equal(common, &before->spCellConfigCommon, &sync.spCellConfigCommon) ||
+               isSentWithSync(common, &sync.spCellConfigCommon);
+    }
+
+    // Whether it has something that is sent with reconfigurationWithSync, changed or not.
+    static bool isSentWithSync(const Type& type, const void* value)
+    {
+        for (unsigned i = 0; type.kind == Kind::Sequence && i < type.memberCount; ++i)
+        {
+            const Change word = need(type, i).change;
+            if (has(type, value, i) &&
+                (word == Change::Setup || word == Change::Creation || word == Change::CreationOptional ||
+                 isSentWithSync(*type.members[i].type, at(type, value, i))))
+            {
+                return true;
+            }
+        }
+        return false;
     }
 
     void appears(const Type& type, unsigned index, const void* wanted, const Around& around, Troubles& found)

@@ -289,6 +289,11 @@ void setElements(Heap& heap, const Type& type, void* list, const std::vector<voi
     store(list, made);
 }
 
+void setNumber(const Type& type, void* value, int64_t number)
+{
+    storeInteger(value, type.size, number);
+}
+
 int64_t identity(const Type& list, const void* element)
 {
     return rtx::identityOf(list, element, 0);
@@ -299,7 +304,7 @@ void setIdentity(const Type& list, void* element, int64_t id)
     const Type& type = identityType(list);
     void* const place =
         list.identity == rtx::ownIdentity ? element : at(list.element(), element, static_cast<unsigned>(list.identity));
-    storeInteger(place, type.size, id);
+    setNumber(type, place, id);
 }
 
 int64_t firstIdentity(const Type& list)
@@ -558,7 +563,13 @@ CellGroupConfig* copy(Heap& heap, const CellGroupConfig* tree)
     return made;
 }
 
-bool vary(Heap& heap, const Type& type, void* value, const Where& where)
+bool varyEntry(Heap& heap, const Type& list, void* entry)
+{
+    return list.element().kind == Kind::Sequence &&
+           vary(heap, list.element(), entry, inEntry(list, entry), list.identity);
+}
+
+bool vary(Heap& heap, const Type& type, void* value, const Where& where, int identity)
 {
     switch (type.kind)
     {
@@ -584,7 +595,7 @@ bool vary(Heap& heap, const Type& type, void* value, const Where& where)
         for (unsigned i = 0; i < type.memberCount; ++i)
         {
             const Need& code = need(type, i);
-            if (isOptional(type, i) || code.change != Change::Free)
+            if (isOptional(type, i) || code.change != Change::Free || static_cast<int>(i) == identity)
             {
                 continue;
             }
@@ -630,7 +641,7 @@ namespace
 {
 
 // Whether something of it is held.
-bool makeState(Heap& heap, const Type& type, void* value)
+bool makeState(Heap& heap, const Type& type, void* value, bool actions)
 {
     switch (type.kind)
     {
@@ -638,8 +649,8 @@ bool makeState(Heap& heap, const Type& type, void* value)
         for (unsigned i = 0; i < type.memberCount; ++i)
         {
             const Need& code = need(type, i);
-            if (has(type, value, i) && (code.list == ListRole::Release || isAction(code) ||
-                                        !makeState(heap, *type.members[i].type, at(type, value, i))))
+            if (has(type, value, i) && (code.list == ListRole::Release || (isAction(code) && !actions) ||
+                                        !makeState(heap, *type.members[i].type, at(type, value, i), actions)))
             {
                 drop(type, value, i);
             }
@@ -651,7 +662,7 @@ bool makeState(Heap& heap, const Type& type, void* value)
             return false;
         }
         return alternative(value) >= type.memberCount ||
-               makeState(heap, *type.members[alternative(value)].type, content(type, value));
+               makeState(heap, *type.members[alternative(value)].type, content(type, value), actions);
     case Kind::Array:
     case Kind::List:
     {
@@ -660,7 +671,7 @@ bool makeState(Heap& heap, const Type& type, void* value)
         {
             for (void* const element : held)
             {
-                (void)makeState(heap, type.element(), element);
+                (void)makeState(heap, type.element(), element, actions);
             }
         }
         if (type.identity != rtx::noIdentity)
@@ -686,10 +697,10 @@ bool makeState(Heap& heap, const Type& type, void* value)
 
 } // namespace
 
-CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree)
+CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree, bool actions)
 {
     CellGroupConfig* const state = copy(heap, tree);
-    (void)makeState(heap, root(), state);
+    (void)makeState(heap, root(), state, actions);
     return state;
 }
 

@@ -70,6 +70,8 @@ void* choose(Heap& heap, const Type& type, void* choice, unsigned index);
 
 std::vector<void*> elements(const Type& type, const void* list);
 void setElements(Heap& heap, const Type& type, void* list, const std::vector<void*>& elements);
+// Of an integer or an enumeration.
+void setNumber(const Type& type, void* value, int64_t number);
 int64_t identity(const Type& list, const void* element);
 void setIdentity(const Type& list, void* element, int64_t id);
 // Of the identities that a list's elements may have.
@@ -113,10 +115,11 @@ CellGroupConfig* copy(Heap& heap, const CellGroupConfig* tree);
 
 // Changes a value to another one, where there is one, in the least way: not what identifies an entry, no word. Returns
 // whether it did.
-bool vary(Heap& heap, const Type& type, void* value, const Where& where);
+bool vary(Heap& heap, const Type& type, void* value, const Where& where, int identity = rtx::noIdentity);
+bool varyEntry(Heap& heap, const Type& list, void* entry);
 
-// What a UE without any configuration holds after the message.
-CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree);
+// What a UE without any configuration holds after the message; or that and the actions that the message asks for.
+CellGroupConfig* stateOf(Heap& heap, const CellGroupConfig* tree, bool actions = false);
 // Where `wanted` has no one-shot, those of `held`; both are states.
 void keepOneShots(Heap& heap, const Type& type, const void* held, void* wanted);
 
