@@ -91,6 +91,25 @@ function(cgc_test name)
     target_link_libraries(${name} PRIVATE GTest::gmock_main)
     add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    cgc_label_threads(${name})
+endfunction()
+
+# Gives a test that starts threads the label of that name and lets the target of that name build it: those are what the
+# thread sanitizer looks at.
+add_custom_target(threads)
+function(cgc_label_threads name)
+    get_target_property(sources ${name} SOURCES)
+    foreach(source IN LISTS sources)
+        get_filename_component(source "${source}" ABSOLUTE)
+        if(NOT EXISTS "${source}") # generated
+            continue()
+        endif()
+        file(STRINGS "${source}" starts REGEX "std::j?thread|std::async|pthread_create")
+        if(starts)
+            set_property(TEST ${name} PROPERTY LABELS threads)
+            add_dependencies(threads ${name})
+        endif()
+    endforeach()
 endfunction()
 
 # cgc_benchmark(<name> SOURCES <file>... LIBS <library>...)
