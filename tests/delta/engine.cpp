@@ -171,7 +171,7 @@ std::string faults(Heap& heap, const CellGroupConfig* prev, const CellGroupConfi
         {
             break;
         }
-        each = diff(heap, held, next, flags);
+        each = diff(heap, held, stateOf(heap, next), flags); // actions are done by the first
     }
     const Octets reached = held != nullptr ? heap.encode(held) : Octets();
     if (reached != wanted)
