@@ -87,7 +87,7 @@ bool isInitial(const Type& type)
 
 } // namespace
 
-Heap::Heap() : buffer_(1U << 20U)
+Heap::Heap()
 {
     if (rtxInitContext(&ctxt) != RTX_OK)
     {
@@ -113,14 +113,15 @@ CellGroupConfig* Heap::tree()
 
 Octets Heap::encode(const void* tree)
 {
+    static Octets buffer(size_t{1} << 20U);
     rtxErrReset(&ctxt);
-    if (pu_setBuffer(&ctxt, buffer_.data(), buffer_.size(), 0) != RTX_OK ||
+    if (pu_setBuffer(&ctxt, buffer.data(), buffer.size(), 0) != RTX_OK ||
         asn1PE_CellGroupConfig(&ctxt, static_cast<const CellGroupConfig*>(tree)) != RTX_OK)
     {
         rtxErrPrint(&ctxt);
         return {};
     }
-    return Octets(buffer_.begin(), buffer_.begin() + static_cast<std::ptrdiff_t>(pu_getMsgLen(&ctxt)));
+    return Octets(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(pu_getMsgLen(&ctxt)));
 }
 
 CellGroupConfig* Heap::decode(const Octets& octets)

@@ -39,9 +39,6 @@ public:
     CellGroupConfig* decode(const Octets& octets);
 
     OSCTXT ctxt;
-
-private:
-    Octets buffer_;
 };
 
 const Type& root();
