@@ -41,7 +41,7 @@ constexpr Values base64Values = []
     return values;
 }();
 
-void addHex(std::string& text, std::uint8_t octet, std::string_view digits)
+void appendDigits(std::string& text, std::uint8_t octet, std::string_view digits)
 {
     text += digits[octet >> 4];
     text += digits[octet & 15];
@@ -65,7 +65,7 @@ std::string toHex(Octets octets, Case digits)
     text.reserve(2 * octets.size());
     for (const auto octet : octets)
     {
-        addHex(text, octet, digits == Case::Lower ? lowerDigits : upperDigits);
+        appendDigits(text, octet, digits == Case::Lower ? lowerDigits : upperDigits);
     }
     return text;
 }
@@ -79,7 +79,7 @@ std::string toCArray(Octets octets, std::string_view name)
     for (std::size_t i = 0; i < octets.size(); ++i)
     {
         text += i % perLine == 0 ? "\n    0x" : " 0x";
-        addHex(text, octets[i], lowerDigits);
+        appendDigits(text, octets[i], lowerDigits);
         text += ',';
     }
     text += "\n};\n";

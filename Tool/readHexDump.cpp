@@ -11,7 +11,7 @@ namespace tool
 namespace
 {
 
-struct Group
+struct HexGroup
 {
     std::size_t begin;
     std::size_t end;
@@ -30,7 +30,7 @@ struct DumpLine
     std::size_t end = 0; // of the line
     bool prefixed = false;
     bool colon = false;
-    std::vector<Group> groups;
+    std::vector<HexGroup> groups;
 
     std::size_t offsetDigits() const
     {

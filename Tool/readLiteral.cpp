@@ -332,15 +332,15 @@ std::uint8_t escape(const Piece& text, std::size_t& i)
     {
         refuse(text, begin, "the string is escaped twice: write \\x for \\\\x");
     }
-    constexpr std::string_view names = "abtnvfr\"'\\?";
-    constexpr std::string_view values = "\a\b\t\n\v\f\r\"'\\?";
-    const auto known = names.find(c);
+    constexpr std::string_view letters = "abtnvfr\"'\\?";
+    constexpr std::string_view octets = "\a\b\t\n\v\f\r\"'\\?";
+    const auto known = letters.find(c);
     if (known == std::string_view::npos)
     {
         refuse(text, begin, "a backslash and " + shown(text, i) + " is no escape of one octet");
     }
     ++i;
-    return static_cast<std::uint8_t>(values[known]);
+    return static_cast<std::uint8_t>(octets[known]);
 }
 
 // The string in quotes at i, and i behind it.

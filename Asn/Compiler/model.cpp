@@ -212,24 +212,24 @@ struct Word
     std::string_view change; // enumerator of rtx::Change
     const Holder& holder;
 };
-constexpr std::array words = std::to_array<Word>({{"setup", "Setup", any},
-                                                  {"drb-setup", "DrbSetup", any},
-                                                  {"mode", "Mode", choice},
-                                                  {"creation", "Creation", kept},
-                                                  {"creation-optional", "CreationOptional", kept},
-                                                  {"switch", "Switch", action},
-                                                  {"sync", "Sync", sequence},
-                                                  {"reestablish", "Reestablish", kept},
-                                                  {"kind", "Kind", kept},
-                                                  {"fixed-kind", "FixedKind", kept},
-                                                  {"usage", "Usage", enumeration},
-                                                  {"pucch", "Pucch", setupRelease},
-                                                  {"scell", "SCell", sequence},
-                                                  {"inactive", "Inactive", setupRelease},
-                                                  {"inactive-type2", "InactiveType2", setupRelease},
-                                                  {"sul", "Sul", sequence},
-                                                  {"mcg-release", "McgRelease", setupRelease},
-                                                  {"identity", "Identity", integer}});
+constexpr std::array conditionWords = std::to_array<Word>({{"setup", "Setup", any},
+                                                           {"drb-setup", "DrbSetup", any},
+                                                           {"mode", "Mode", choice},
+                                                           {"creation", "Creation", kept},
+                                                           {"creation-optional", "CreationOptional", kept},
+                                                           {"switch", "Switch", action},
+                                                           {"sync", "Sync", sequence},
+                                                           {"reestablish", "Reestablish", kept},
+                                                           {"kind", "Kind", kept},
+                                                           {"fixed-kind", "FixedKind", kept},
+                                                           {"usage", "Usage", enumeration},
+                                                           {"pucch", "Pucch", setupRelease},
+                                                           {"scell", "SCell", sequence},
+                                                           {"inactive", "Inactive", setupRelease},
+                                                           {"inactive-type2", "InactiveType2", setupRelease},
+                                                           {"sul", "Sul", sequence},
+                                                           {"mcg-release", "McgRelease", setupRelease},
+                                                           {"identity", "Identity", integer}});
 
 // Whether a list's name ends so; the schema writes both "ToReleaseList" and "ToreleaseList".
 bool endsIn(std::string_view name, std::string_view end)
@@ -606,15 +606,15 @@ private:
 
     void change(Member& member, const ast::Name& source)
     {
-        const auto word =
-            std::find_if(words.begin(), words.end(), [&](const Word& w) { return w.word == source.name; });
+        const auto word = std::find_if(conditionWords.begin(), conditionWords.end(),
+                                       [&](const Word& w) { return w.word == source.name; });
         const auto refuse = [&](const std::string& reason)
         {
             diagnostics_.error(source.at, reason);
         };
-        if (word == words.end())
+        if (word == conditionWords.end())
         {
-            refuse("unknown word '" + source.name + "': " + listOf(words, &Word::word));
+            refuse("unknown word '" + source.name + "': " + listOf(conditionWords, &Word::word));
         }
         else if (word->holder.optional != member.optional || !word->holder.fits(member))
         {

@@ -9,7 +9,7 @@ namespace asncomp
 namespace
 {
 
-constexpr unsigned maxNesting = 40;
+constexpr unsigned maxTypeNesting = 40;
 
 bool isUpper(char c)
 {
@@ -333,7 +333,7 @@ private:
 
     std::unique_ptr<ast::Type> type(unsigned nesting)
     {
-        if (nesting > maxNesting)
+        if (nesting > maxTypeNesting)
         {
             refuse(current().at, "types are nested too deeply");
         }

@@ -12,13 +12,13 @@ namespace
 {
 
 // Where the walk stands: a step and the one around it.
-struct Place
+struct Level
 {
-    const Place* outer;
+    const Level* outer;
     RtxDifferenceStep step;
 };
 
-Place memberAt(const Place& place, const char* name)
+Level memberAt(const Level& place, const char* name)
 {
     return {&place, {name, 0, 0, nullptr, 0}};
 }
@@ -76,7 +76,7 @@ public:
     }
 
 private:
-    void report(const Place& place, RtxDifferenceKind kind, const Type* type = nullptr, const void* a = nullptr,
+    void report(const Level& place, RtxDifferenceKind kind, const Type* type = nullptr, const void* a = nullptr,
                 const void* b = nullptr)
     {
         if (ended_)
@@ -92,7 +92,7 @@ private:
             difference.a = a;
             difference.b = b;
             difference.depth = 0;
-            for (const Place* p = &place; p != nullptr; p = p->outer)
+            for (const Level* p = &place; p != nullptr; p = p->outer)
             {
                 push(difference, p->step);
             }
@@ -101,7 +101,7 @@ private:
     }
 
     // One structure is the same as itself. Of a sequence either may be null, which stands for the empty one.
-    void content(const Type& type, const void* a, const void* b, const Place& place)
+    void content(const Type& type, const void* a, const void* b, const Level& place)
     {
         if (ended_ || a == b)
         {
@@ -128,7 +128,7 @@ private:
         }
     }
 
-    void sequence(const Type& type, const void* a, const void* b, const Place& place)
+    void sequence(const Type& type, const void* a, const void* b, const Level& place)
     {
         members(type, 0, type.rootCount, a, b, place);
         for (unsigned i = 0; i < type.additionCount; ++i)
@@ -146,7 +146,7 @@ private:
         }
     }
 
-    void members(const Type& type, unsigned first, unsigned count, const void* a, const void* b, const Place& place)
+    void members(const Type& type, unsigned first, unsigned count, const void* a, const void* b, const Level& place)
     {
         for (unsigned i = first; i < first + count; ++i)
         {
@@ -158,7 +158,7 @@ private:
     }
 
     // What may be absent, null then, in either.
-    void both(const Type& type, const void* a, const void* b, const Place& place)
+    void both(const Type& type, const void* a, const void* b, const Level& place)
     {
         if (a != nullptr && b != nullptr)
         {
@@ -170,7 +170,7 @@ private:
         }
     }
 
-    void choice(const Type& type, const void* a, const void* b, const Place& place)
+    void choice(const Type& type, const void* a, const void* b, const Level& place)
     {
         const auto tag = load<OSUINT32>(a);
         if (tag != load<OSUINT32>(b))
@@ -180,7 +180,7 @@ private:
         else if (tag >= 1 && tag <= type.memberCount)
         {
             const Member& alternative = type.members[tag - 1];
-            const Place inside = memberAt(place, type.names[tag - 1]);
+            const Level inside = memberAt(place, type.names[tag - 1]);
             if (alternative.step == Step::Pointer)
             {
                 pointed(*alternative.type, load<const void*>(a, alternative.offset),
@@ -197,7 +197,7 @@ private:
         }
     }
 
-    void pointed(const Type& type, const void* a, const void* b, const Place& place)
+    void pointed(const Type& type, const void* a, const void* b, const Level& place)
     {
         if (a == b)
         {
@@ -219,7 +219,7 @@ private:
     }
 
     // Additions and alternatives that the schema does not know.
-    void unknown(const ASN1OpenType* a, const ASN1OpenType* b, const Place& place)
+    void unknown(const ASN1OpenType* a, const ASN1OpenType* b, const Level& place)
     {
         if (a == b)
         {
@@ -242,7 +242,7 @@ private:
         return open == nullptr || (refuse(&ctxt, open) == RTX_OK && refuse(&ctxt, *open) == RTX_OK);
     }
 
-    void unknownAdditions(const OSRTDList& a, const OSRTDList& b, const Place& place)
+    void unknownAdditions(const OSRTDList& a, const OSRTDList& b, const Level& place)
     {
         const OSRTDListNode* nodeA = a.head;
         const OSRTDListNode* nodeB = b.head;
@@ -304,7 +304,7 @@ private:
     }
 
     // The elements of a list or an array, with what identifies them.
-    void list(const Type& type, const void* a, const void* b, const Place& place)
+    void list(const Type& type, const void* a, const void* b, const Level& place)
     {
         const uint32_t numberA = elementCount(type, a);
         const uint32_t numberB = elementCount(type, b);
@@ -360,7 +360,7 @@ private:
     }
 
     void elements(const Type& type, const Element* a, uint32_t numberA, const Element* b, uint32_t numberB,
-                  const Place& place)
+                  const Level& place)
     {
         const char* const identity = identityName(type);
         for (uint32_t i = 0; i < numberA && !ended_; ++i)
@@ -498,7 +498,7 @@ void appendBoth(Line& line, const RtxDifference& difference, const Append& appen
     append(line, " in b");
 }
 
-void appendReason(Line& line, const RtxDifference& difference)
+void appendDifferenceReason(Line& line, const RtxDifference& difference)
 {
     switch (difference.kind)
     {
@@ -543,6 +543,6 @@ size_t rtxDifferenceFormat(const RtxDifference* difference, char* text, size_t s
 {
     rtx::Line line(text, size);
     rtx::appendPlace(line, *difference);
-    rtx::appendReason(line, *difference);
+    rtx::appendDifferenceReason(line, *difference);
     return line.length;
 }

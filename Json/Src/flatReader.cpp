@@ -29,7 +29,7 @@ unsigned formsOf(std::string_view word)
 }
 
 // A step of a path: a name, or the number of an element.
-struct Step
+struct PathStep
 {
     std::string_view name; // empty for an element
     std::uint64_t index = 0;
@@ -59,7 +59,7 @@ public:
     }
 
     // False where there is none as it should be.
-    bool next(Step& step)
+    bool next(PathStep& step)
     {
         step = {{}, 0, at_};
         const bool wellFormed = path_[at_] == '[' ? element(step) : name(step);
@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    bool element(Step& step)
+    bool element(PathStep& step)
     {
         const char* const end = path_.data() + path_.size();
         const auto [behind, error] = std::from_chars(path_.data() + at_ + 1, end, step.index);
@@ -80,7 +80,7 @@ private:
         return true;
     }
 
-    bool name(Step& step)
+    bool name(PathStep& step)
     {
         if (!first_)
         {
@@ -179,7 +179,7 @@ private:
     bool isPath(const Line& line)
     {
         Steps steps = stepsOf(line);
-        Step step;
+        PathStep step;
         for (unsigned count = 0; !steps.atEnd(); ++count)
         {
             if (!steps.next(step) || count == mostSteps)
@@ -197,8 +197,8 @@ private:
     {
         Steps left = stepsOf(a);
         Steps right = stepsOf(b);
-        Step l;
-        Step r;
+        PathStep l;
+        PathStep r;
         while (!left.atEnd() && !right.atEnd())
         {
             (void)left.next(l);
@@ -213,7 +213,7 @@ private:
 
     void build(const Line& line)
     {
-        std::vector<Step> path = pathOf(line);
+        std::vector<PathStep> path = pathOf(line);
         std::size_t keep = 0; // containers that stay open: container i holds step i
         while (keep < open_.size() && keep < path.size() && open_[keep].isElement() == path[keep].isElement())
         {
@@ -239,10 +239,10 @@ private:
     }
 
     // Without the root's name.
-    std::vector<Step> pathOf(const Line& line) const
+    std::vector<PathStep> pathOf(const Line& line) const
     {
-        std::vector<Step> path;
-        Step step;
+        std::vector<PathStep> path;
+        PathStep step;
         for (Steps steps = stepsOf(line); !steps.atEnd();)
         {
             (void)steps.next(step);
@@ -286,7 +286,7 @@ private:
     TreeBuilder& builder_;
     Mistakes& mistakes_;
     std::vector<Line> lines_;
-    std::vector<Step> open_; // the step that was last taken in each open object and array
+    std::vector<PathStep> open_; // the step that was last taken in each open object and array
 };
 
 } // namespace
