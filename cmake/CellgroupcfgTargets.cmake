@@ -89,9 +89,19 @@ function(cgc_test name)
     cgc_program(${name} ${ARGN})
     target_compile_options(${name} PRIVATE -O0) # what is tested is optimised, the test itself need not be
     target_link_libraries(${name} PRIVATE GTest::gmock_main)
+    cgc_use_test_headers(${name})
     add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}")
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
     cgc_label_threads(${name})
+endfunction()
+
+# Reading GoogleMock's headers takes longer than most tests: they are compiled once. A target with files in C, too, cannot
+# use that.
+function(cgc_use_test_headers name)
+    get_target_property(sources ${name} SOURCES)
+    if(NOT sources MATCHES "\\.c(;|$)")
+        target_precompile_headers(${name} REUSE_FROM cellgroupcfg_test_headers)
+    endif()
 endfunction()
 
 # Gives a test that starts threads the label of that name and lets the target of that name build it: those are what the
