@@ -4,7 +4,10 @@
 
 #define AT_SRB "rlc-BearerToAddModList[0]." // SRB1
 #define AT_DRB "rlc-BearerToAddModList[1]." // DRB 1
+#define AT_SRB_UL AT_SRB "mac-LogicalChannelConfig.ul-SpecificParameters."
+#define AT_DRB_UL AT_DRB "mac-LogicalChannelConfig.ul-SpecificParameters."
 #define AT_MAC "mac-CellGroupConfig."
+#define AT_PHR AT_MAC "phr-Config.setup."
 #define AT_PHY "physicalCellGroupConfig."
 #define AT_SYNC "spCellConfig.reconfigurationWithSync."
 #define AT_SYNC_PLACE "spCellConfig.reconfigurationWithSync"
@@ -26,5 +29,8 @@
 #define AT_SCELL "sCellToAddModList[0]."
 #define AT_SCELL_COMMON AT_SCELL "sCellConfigCommon."
 #define AT_SCELL_CELL AT_SCELL "sCellConfigDedicated."
+
+// What makes it a secondary cell group.
+#define AS_SCG "cellGroupId = 1\nspCellConfig.servCellIndex = 1\n" AT_PHR "multiplePHR = true\n"
 
 #endif

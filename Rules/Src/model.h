@@ -105,6 +105,11 @@ struct Bwp
     {
         return id == 0;
     }
+    // Whether `generic` is of the element, so that something can be said of it.
+    bool isTold() const
+    {
+        return downlinkCommon != nullptr || uplinkCommon != nullptr;
+    }
     // log2(spacing / 15 kHz).
     Known<OSUINT32> mu() const;
     // Resource blocks from its carrier's first.
@@ -172,6 +177,15 @@ struct Cell
     }
     Bwp* bwp(Direction direction, OSUINT32 id) const; // null where the element does not have it
 };
+
+constexpr Direction directions[] = {Direction::Downlink, Direction::Uplink, Direction::Supplementary};
+
+inline const char* nameOf(Direction direction)
+{
+    return direction == Direction::Downlink ? "downlink"
+           : direction == Direction::Uplink ? "uplink"
+                                            : "supplementary uplink";
+}
 
 // The carriers of a direction, of different spacings.
 struct Carriers
@@ -249,6 +263,8 @@ public:
     Cell* spCell();
     Cell* cell(OSUINT32 servCellIndex); // null where the element does not have it
     const Ids<SCellConfig>& sCells();
+    // Whether this message releases a bandwidth part, for good.
+    bool isReleased(const Cell& cell, Direction direction, OSUINT32 bwpId);
 
     std::span<Channel> channels();
     const Ids<RLC_BearerConfig>& bearers();
