@@ -58,6 +58,18 @@ enum class Direction : OSUINT8
     Supplementary // uplink
 };
 
+// What a message calls kHz15 to kHz240, as log2; a value that is none of them is above 4.
+inline OSUINT32 muOf(SubcarrierSpacing scs)
+{
+    return scs;
+}
+constexpr OSUINT32 highestMu = 4;
+
+inline OSUINT32 khzOf(OSUINT32 mu)
+{
+    return mu <= highestMu ? 15U << mu : 0;
+}
+
 struct Cell;
 struct Pdcch;
 struct Pdsch;
@@ -114,9 +126,10 @@ struct Bwp
     Known<OSUINT32> mu() const;
     // Resource blocks from its carrier's first.
     Known<NrSpan> rbs() const;
-    bool isExtended() const // the prefix; false where it is unknown
+    // The cyclic prefix, which only 60 kHz can have so; false where it is unknown.
+    bool isExtended() const
     {
-        return generic != nullptr && generic->m.cyclicPrefixPresent != 0;
+        return generic != nullptr && generic->m.cyclicPrefixPresent != 0 && muOf(generic->subcarrierSpacing) == 2;
     }
     OSUINT32 symbolsPerSlot() const
     {
@@ -213,18 +226,6 @@ struct Channel
     OSUINT32 bearerId; // srb-Identity or drb-Identity; of meaning where isSrb is known
     const LogicalChannelConfig_ul_SpecificParameters* uplink; // null where absent
 };
-
-// What a message calls kHz15 to kHz240, as log2; a value that is none of them is above 4.
-inline OSUINT32 muOf(SubcarrierSpacing scs)
-{
-    return scs;
-}
-constexpr OSUINT32 highestMu = 4;
-
-inline OSUINT32 khzOf(OSUINT32 mu)
-{
-    return mu <= highestMu ? 15U << mu : 0;
-}
 
 class Model
 {

@@ -310,9 +310,9 @@ void macDrx(Check& check)
 {
     static constexpr OSUINT32 longCycles[] = {10,  20,  32,  40,  60,   64,   70,   80,   128,  160,
                                               256, 320, 512, 640, 1024, 1280, 2048, 2560, 5120, 10240};
-    static constexpr OSUINT32 shortCycles[] = {2,  3,  4,  5,  6,  7,  8,   10,  14,  16,  20, 30,
+    static constexpr OSUINT32 shortCycles[] = {2,  3,  4,  5,  6,  7,   8,   10,  14,  16,  20, 30,
                                                32, 35, 40, 64, 80, 128, 160, 256, 320, 512, 640};
-    static constexpr OSUINT32 onDurations[] = {1,  2,  3,  4,   5,   6,   8,   10,  20,  30,   40,   50,
+    static constexpr OSUINT32 onDurations[] = {1,  2,  3,   4,   5,   6,   8,   10,  20,  30,   40,   50,
                                                60, 80, 100, 200, 300, 400, 500, 600, 800, 1000, 1200, 1600};
     constexpr OSUINT32 perMs = 32;
     const DRX_Config* const drx = drxOf(check);
@@ -344,8 +344,7 @@ void macDrx(Check& check)
         shortest = shortCycle;
     }
     const auto& timer = drx->drx_onDurationTimer;
-    const OSUINT32 onDuration = timer.t == T_DRX_Config_drx_onDurationTimer_subMilliSeconds
-                                    ? timer.u.subMilliSeconds
+    const OSUINT32 onDuration = timer.t == T_DRX_Config_drx_onDurationTimer_subMilliSeconds ? timer.u.subMilliSeconds
                                 : timer.t == T_DRX_Config_drx_onDurationTimer_milliSeconds
                                     ? meaning(onDurations, timer.u.milliSeconds) * perMs
                                     : 0;
@@ -458,7 +457,8 @@ constexpr Rule table[] = {
               .advice = "Add a SchedulingRequestResourceConfig for it.",
               .clause = "TS 38.321 5.4.4",
               .given = "",
-              .bad = AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[1].schedulingRequestId = 1\n" AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[1].sr-TransMax = n64",
+              .bad = AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[1].schedulingRequestId = 1\n" AT_MAC
+                            "schedulingRequestConfig.schedulingRequestToAddModList[1].sr-TransMax = n64",
               .good = AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[0].sr-TransMax = n32",
               .since = "0.1.0"},
      .run = macSrNoResource},
@@ -480,7 +480,8 @@ constexpr Rule table[] = {
               .clause = "TS 38.331 LogicalChannelConfig",
               .given = "",
               .bad = AT_DRB_UL "logicalChannelSR-DelayTimerApplied = true",
-              .good = AT_DRB_UL "logicalChannelSR-DelayTimerApplied = true\n" AT_MAC "bsr-Config.logicalChannelSR-DelayTimer = sf20",
+              .good = AT_DRB_UL "logicalChannelSR-DelayTimerApplied = true\n" AT_MAC
+                                "bsr-Config.logicalChannelSR-DelayTimer = sf20",
               .since = "0.1.0"},
      .run = macSrDelay},
     {.told = {.id = "mac-srb-pbr",
@@ -542,8 +543,12 @@ constexpr Rule table[] = {
               .advice = "Choose a short cycle that divides the long one.",
               .clause = "TS 38.331 DRX-Config; TS 38.321 5.7",
               .given = "",
-              .bad = AT_MAC "drx-Config.setup.drx-LongCycleStartOffset = absent\n" AT_MAC "drx-Config.setup.drx-LongCycleStartOffset.ms70 = 0\n" AT_MAC "drx-Config.setup.shortDRX.drx-ShortCycle = ms20",
-              .good = AT_MAC "drx-Config.setup.drx-LongCycleStartOffset = absent\n" AT_MAC "drx-Config.setup.drx-LongCycleStartOffset.ms70 = 0\n" AT_MAC "drx-Config.setup.shortDRX.drx-ShortCycle = ms35",
+              .bad = AT_MAC "drx-Config.setup.drx-LongCycleStartOffset = absent\n" AT_MAC
+                            "drx-Config.setup.drx-LongCycleStartOffset.ms70 = 0\n" AT_MAC
+                            "drx-Config.setup.shortDRX.drx-ShortCycle = ms20",
+              .good = AT_MAC "drx-Config.setup.drx-LongCycleStartOffset = absent\n" AT_MAC
+                             "drx-Config.setup.drx-LongCycleStartOffset.ms70 = 0\n" AT_MAC
+                             "drx-Config.setup.shortDRX.drx-ShortCycle = ms35",
               .since = "0.1.0"},
      .run = macDrx},
     {.told = {.id = "mac-csi-mask",

@@ -31,8 +31,8 @@ void phyCellGroupId(Check& check)
 // An RNTI is none of the reserved values.
 void phyRntiRange(Check& check)
 {
-    constexpr OSUINT32 last = 0xFFEF;       // TS 38.321 table 7.1-1
-    constexpr OSUINT32 laterLast = 0xFFF2;  // later releases use what is up to here
+    constexpr OSUINT32 last = 0xFFEF;      // TS 38.321 table 7.1-1
+    constexpr OSUINT32 laterLast = 0xFFF2; // later releases use what is up to here
     forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false},
               [&](const Value& value)
               {
@@ -156,8 +156,7 @@ bool monitors(const Tree& tree, const SearchSpace& space, bool is23)
 {
     const SearchSpace_searchSpaceType* const type = MEMBER(space, searchSpaceType);
     const auto* const common = CHOSEN(tree, type, SearchSpace_searchSpaceType, common);
-    return common != nullptr &&
-           (is23 ? common->m.dci_Format2_3Present != 0 : common->m.dci_Format2_2Present != 0);
+    return common != nullptr && (is23 ? common->m.dci_Format2_3Present != 0 : common->m.dci_Format2_2Present != 0);
 }
 
 void phyTpcRnti(Check& check)
@@ -187,7 +186,9 @@ void phyTpcRnti(Check& check)
                 used |= 1U << kind;
                 if (!kinds[kind].hasRnti)
                 {
-                    check.missing(check.model.complete, setup).found("set up").allowed("%s is absent", kinds[kind].name);
+                    check.missing(check.model.complete, setup)
+                        .found("set up")
+                        .allowed("%s is absent", kinds[kind].name);
                     return;
                 }
                 const bool isMonitored = std::any_of(pdcch.allSearchSpaces.begin(), pdcch.allSearchSpaces.end(),
@@ -202,8 +203,8 @@ void phyTpcRnti(Check& check)
                     check.undecided(cell.complete ? RRC_RULE_INPUT_COMMON : RRC_RULE_INPUT_PREVIOUS);
                     return;
                 }
-                check.warning(setup).found("set up").allowed("no search space of the bandwidth part is for DCI format %s",
-                                                             kinds[kind].format);
+                check.warning(setup).found("set up").allowed(
+                    "no search space of the bandwidth part is for DCI format %s", kinds[kind].format);
             };
             look(0, MEMBER(*bwp.pdcch, tpc_PUSCH));
             look(1, MEMBER(*bwp.pdcch, tpc_PUCCH));
@@ -376,8 +377,9 @@ void phyFourPathloss(Check& check)
                     }
                     const bool isCsiRs = signal.t == 2;
                     const OSUINT32 id = isCsiRs ? OSUINT32{signal.u.csi_RS_Index} : OSUINT32{signal.u.ssb_Index};
-                    const bool isSeen = std::any_of(seen.begin(), seen.end(), [&](const Reference& other)
-                                                    { return other.isCsiRs == isCsiRs && other.id == id; });
+                    const bool isSeen =
+                        std::any_of(seen.begin(), seen.end(),
+                                    [&](const Reference& other) { return other.isCsiRs == isCsiRs && other.id == id; });
                     if (isSeen)
                     {
                         return;
@@ -415,12 +417,13 @@ void phyFourPathloss(Check& check)
 
 // A semi-persistent report on PUSCH in the place of the first report.
 #define SP_REPORT                                                                                                      \
-    AT_CSI "csi-ReportConfigToAddModList[0].reportConfigType = absent\n" AT_CSI                                        \
-           "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI   \
-           "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n"      \
-    AT_CSI "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n"      \
-    AT_CSI "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI               \
-           "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 0"
+    AT_CSI                                                                                                             \
+        "csi-ReportConfigToAddModList[0].reportConfigType = absent\n" AT_CSI                                           \
+        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI      \
+        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n" AT_CSI  \
+        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n" AT_CSI  \
+        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI                  \
+        "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 0"
 #define SPS                                                                                                            \
     AT_DL "bwp-Dedicated.sps-Config.setup.periodicity = ms20\n" AT_DL                                                  \
           "bwp-Dedicated.sps-Config.setup.nrofHARQ-Processes = 2\n" AT_DL                                              \
@@ -434,8 +437,7 @@ void phyFourPathloss(Check& check)
 #define PATHLOSS                                                                                                       \
     PATHLOSS_AT("1")                                                                                                   \
     "pusch-PathlossReferenceRS-Id = 1\n" PATHLOSS_AT("1") "referenceSignal.csi-RS-Index = 1\n" PATHLOSS_AT(            \
-        "2") "pusch-PathlossReferenceRS-Id = 2\n" PATHLOSS_AT("2") "referenceSignal.csi-RS-Index = 2\n" PATHLOSS_AT(   \
-        "3") "pusch-PathlossReferenceRS-Id = 3\n" PATHLOSS_AT("3") "referenceSignal.csi-RS-Index = 3"
+        "2") "pusch-PathlossReferenceRS-Id = 2\n" PATHLOSS_AT("2") "referenceSignal.csi-RS-Index = 2\n" PATHLOSS_AT("3") "pusch-PathlossReferenceRS-Id = 3\n" PATHLOSS_AT("3") "referenceSignal.csi-RS-Index = 3"
 
 constexpr Rule table[] = {
     {.told = {.id = "phy-cell-group-id",
@@ -496,7 +498,8 @@ constexpr Rule table[] = {
               .clause = "TS 38.331 PhysicalCellGroupConfig; TS 38.213 11.3, 11.4",
               .given = "",
               .bad = TPC_PUSCH,
-              .good = TPC_PUSCH "\n" AT_PHY "tpc-PUSCH-RNTI = 17932\n" AT_PDCCH "searchSpacesToAddModList[2].searchSpaceType.common.dci-Format2-2 = {}",
+              .good = TPC_PUSCH "\n" AT_PHY "tpc-PUSCH-RNTI = 17932\n" AT_PDCCH
+                                "searchSpacesToAddModList[2].searchSpaceType.common.dci-Format2-2 = {}",
               .since = "0.1.0"},
      .run = phyTpcRnti},
     {.told = {.id = "phy-bundling",
@@ -506,7 +509,10 @@ constexpr Rule table[] = {
               .advice = "Drop one of the two.",
               .clause = "TS 38.331 PhysicalCellGroupConfig",
               .given = "",
-              .bad = BUNDLING CODEWORDS AT_CELL "pdsch-ServingCellConfig.setup.codeBlockGroupTransmission.setup.maxCodeBlockGroupsPerTransportBlock = n2\n" AT_CELL "pdsch-ServingCellConfig.setup.codeBlockGroupTransmission.setup.codeBlockGroupFlushIndicator = false",
+              .bad = BUNDLING CODEWORDS AT_CELL
+              "pdsch-ServingCellConfig.setup.codeBlockGroupTransmission.setup.maxCodeBlockGroupsPerTransportBlock = "
+              "n2\n" AT_CELL
+              "pdsch-ServingCellConfig.setup.codeBlockGroupTransmission.setup.codeBlockGroupFlushIndicator = false",
               .good = BUNDLING CODEWORDS,
               .since = "0.1.0"},
      .run = phyBundling},

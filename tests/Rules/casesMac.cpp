@@ -7,7 +7,10 @@ namespace
 
 Known with(RrcRuleConnectivity connectivity)
 {
-    return [connectivity](RrcRuleContext& known) { known.connectivity = static_cast<OSUINT8>(connectivity); };
+    return [connectivity](RrcRuleContext& known)
+    {
+        known.connectivity = static_cast<OSUINT8>(connectivity);
+    };
 }
 
 #define PHR AT_MAC "phr-Config.setup."
@@ -98,7 +101,7 @@ void macCases(CaseTable& table)
         .as(RRC_RULE_NOTICE);
 
 #define CYCLES(longCycle, shortCycle)                                                                                  \
-    DRX "drx-LongCycleStartOffset = absent\n" DRX "drx-LongCycleStartOffset." longCycle " = 0\n" DRX                    \
+    DRX "drx-LongCycleStartOffset = absent\n" DRX "drx-LongCycleStartOffset." longCycle " = 0\n" DRX                   \
         "shortDRX.drx-ShortCycle = " shortCycle
     table.rule("mac-drx")
         .bad(DRX "shortDRX.drx-ShortCycle")
@@ -106,8 +109,7 @@ void macCases(CaseTable& table)
         .good()
         .fires(DRX "shortDRX.drx-ShortCycle", CYCLES("ms40", "ms40"))
         .saying("ms40, but the long cycle has 40 ms")
-        .fires(DRX "drx-onDurationTimer",
-               CYCLES("ms40", "ms20") "\n" DRX "drx-onDurationTimer.milliSeconds = ms30")
+        .fires(DRX "drx-onDurationTimer", CYCLES("ms40", "ms20") "\n" DRX "drx-onDurationTimer.milliSeconds = ms30")
         .as(RRC_RULE_WARNING)
         .silent(CYCLES("ms40", "ms20") "\n" DRX "drx-onDurationTimer.milliSeconds = ms20")
         .silent(CYCLES("ms40", "ms2") "\n" DRX "drx-onDurationTimer = absent\n" DRX

@@ -7,17 +7,18 @@ namespace
 
 Known in(RrcRuleGroup group)
 {
-    return [group](RrcRuleContext& known) { known.group = static_cast<OSUINT8>(group); };
+    return [group](RrcRuleContext& known)
+    {
+        known.group = static_cast<OSUINT8>(group);
+    };
 }
 
 Known with(RrcRuleConnectivity connectivity)
 {
-    return [connectivity](RrcRuleContext& known) { known.connectivity = static_cast<OSUINT8>(connectivity); };
-}
-
-void inFr2(RrcRuleContext& known)
-{
-    known.range = RRC_RULE_RANGE_FR2;
+    return [connectivity](RrcRuleContext& known)
+    {
+        known.connectivity = static_cast<OSUINT8>(connectivity);
+    };
 }
 
 } // namespace
@@ -68,7 +69,8 @@ void phyCases(CaseTable& table)
         .bad(AT_PHY "cs-RNTI")
         .saying("absent, but bandwidth part 1 has sps-Config")
         .good()
-        .fires(AT_PHY "cs-RNTI", table.rule("phy-cs-rnti").example(&RrcRule::bad) + "\n" AT_PHY "cs-RNTI.release = null")
+        .fires(AT_PHY "cs-RNTI",
+               table.rule("phy-cs-rnti").example(&RrcRule::bad) + "\n" AT_PHY "cs-RNTI.release = null")
         .with(inDelta)
         .as(RRC_RULE_NOTICE);
 
@@ -98,12 +100,9 @@ void phyCases(CaseTable& table)
     table.rule("phy-power-fr")
         .bad(AT_PHY "p-UE-FR1")
         .good()
-        .fires(AT_PHY "p-NR-FR1", "cellGroupId = 0")
-        .with(inFr2)
+        .fires(AT_PHY "p-NR-FR1", AS_FR2 AT_PHY "p-NR-FR1 = 23")
         .as(RRC_RULE_WARNING)
-        .fires(AT_COMMON_UL "frequencyInfoUL.p-Max",
-               AT_COMMON_UL "frequencyInfoUL.p-Max = 23\n" AT_PHY "p-NR-FR1 = absent")
-        .with(inFr2)
+        .fires(AT_COMMON_UL "frequencyInfoUL.p-Max", AS_FR2 AT_COMMON_UL "frequencyInfoUL.p-Max = 23")
         .as(RRC_RULE_WARNING)
         .silent(AT_COMMON_UL "frequencyInfoUL.p-Max = 23");
 
@@ -118,9 +117,7 @@ void phyCases(CaseTable& table)
         .silent(AT_PHR "multiplePHR = true\n" AT_PHY "pdcch-BlindDetection.setup = 4")
         .with(with(RRC_RULE_CONNECTIVITY_NRDC));
 
-    table.rule("phy-four-pathloss")
-        .bad(AT_SRS "srs-ResourceSetToAddModList[0].pathlossReferenceRS")
-        .good();
+    table.rule("phy-four-pathloss").bad(AT_SRS "srs-ResourceSetToAddModList[0].pathlossReferenceRS").good();
 }
 
 } // namespace test

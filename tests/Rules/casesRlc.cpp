@@ -36,7 +36,17 @@ Known in(RrcRuleMessage message)
         "2") "prioritisedBitRate = infinity\n" UPLINK("2") "bucketSizeDuration = ms100\n" UPLINK("2") "logicalChannel" \
                                                                                                       "SR-Mask = "     \
                                                                                                       "false"          \
-                                                                                                      "\n" UPLINK("2") "logicalChannelSR-DelayTimerApplied = false\n"
+                                                                                                      "\n" UPLINK(     \
+                                                                                                          "2") "logic" \
+                                                                                                               "alCha" \
+                                                                                                               "nnelS" \
+                                                                                                               "R-"    \
+                                                                                                               "Delay" \
+                                                                                                               "Timer" \
+                                                                                                               "Appli" \
+                                                                                                               "ed = " \
+                                                                                                               "false" \
+                                                                                                               "\n"
 
 // A modification of DRB 1's channel.
 #define CHANNEL4 "rlc-BearerToAddModList[0].logicalChannelIdentity = 4\n"
@@ -158,10 +168,10 @@ void rlcCases(CaseTable& table)
                both + UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 0")
         .with(withDuplication)
         .as(RRC_RULE_WARNING)
-        .undecided(ADD_SCELL_WITH_UPLINK + both + UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK(
-                                                 "2") "allowedServingCells[0] = 1")
-        .silent(ADD_SCELL_WITH_UPLINK + both + UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK(
-                                              "2") "allowedServingCells[0] = 1")
+        .undecided(ADD_SCELL_WITH_UPLINK + both +
+                   UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 1")
+        .silent(ADD_SCELL_WITH_UPLINK + both +
+                UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 1")
         .with(withDuplication);
 
     table.rule("rlc-release-srb")

@@ -144,6 +144,8 @@ private:
 // Changes that add an SCell, without an uplink and with one.
 #define ADD_SCELL "+ sCell.flat\n"
 #define ADD_SCELL_WITH_UPLINK ADD_SCELL "+ sCellUplink.flat\n"
+// Changes that move the cell to FR2.
+#define AS_FR2 "+ fr2.flat\n"
 
 // Contexts that many cases share.
 void inDelta(RrcRuleContext& known);

@@ -311,11 +311,11 @@ TEST_F(RuleTest, WholeCellIsClean)
     }
 }
 
-TEST_F(RuleTest, WholeCellWithSCellIsClean)
+TEST_F(RuleTest, ItsVariantsAreClean)
 {
     RrcRuleContext known{};
     known.extent = RRC_RULE_EXTENT_FULL;
-    for (const char* const changes : {ADD_SCELL, ADD_SCELL_WITH_UPLINK})
+    for (const char* const changes : {ADD_SCELL, ADD_SCELL_WITH_UPLINK, AS_FR2, AS_SCG})
     {
         std::vector<std::string> lines = wholeCell();
         change(lines, changes);
