@@ -806,14 +806,14 @@ void bwpSpcellCss(Check& check)
 #define SUPPLEMENTARY AT_CELL "supplementaryUplink.initialUplinkBWP.srs-Config.release = null"
 #define SUPPLEMENTARY_COMMON                                                                                           \
     AT_COMMON                                                                                                          \
-        "supplementaryUplinkConfig.frequencyInfoUL.frequencyBandList[0] = 80\n" AT_COMMON                              \
-        "supplementaryUplinkConfig.frequencyInfoUL.absoluteFrequencyPointA = 342000\n" AT_COMMON                       \
-        "supplementaryUplinkConfig.frequencyInfoUL.scs-SpecificCarrierList[0].offsetToCarrier = 0\n" AT_COMMON         \
-        "supplementaryUplinkConfig.frequencyInfoUL.scs-SpecificCarrierList[0].subcarrierSpacing = kHz15\n" AT_COMMON   \
-        "supplementaryUplinkConfig.frequencyInfoUL.scs-SpecificCarrierList[0].carrierBandwidth = 106\n" AT_COMMON      \
-        "supplementaryUplinkConfig.initialUplinkBWP.genericParameters.locationAndBandwidth = 28875\n" AT_COMMON        \
-        "supplementaryUplinkConfig.initialUplinkBWP.genericParameters.subcarrierSpacing = kHz15\n" AT_COMMON           \
-        "supplementaryUplinkConfig.dummy = infinity"
+    "supplementaryUplinkConfig.frequencyInfoUL.frequencyBandList[0] = 80\n" AT_COMMON                                  \
+    "supplementaryUplinkConfig.frequencyInfoUL.absoluteFrequencyPointA = 342000\n" AT_COMMON                           \
+    "supplementaryUplinkConfig.frequencyInfoUL.scs-SpecificCarrierList[0].offsetToCarrier = 0\n" AT_COMMON             \
+    "supplementaryUplinkConfig.frequencyInfoUL.scs-SpecificCarrierList[0].subcarrierSpacing = kHz15\n" AT_COMMON       \
+    "supplementaryUplinkConfig.frequencyInfoUL.scs-SpecificCarrierList[0].carrierBandwidth = 106\n" AT_COMMON          \
+    "supplementaryUplinkConfig.initialUplinkBWP.genericParameters.locationAndBandwidth = 28875\n" AT_COMMON            \
+    "supplementaryUplinkConfig.initialUplinkBWP.genericParameters.subcarrierSpacing = kHz15\n" AT_COMMON               \
+    "supplementaryUplinkConfig.dummy = infinity"
 // The initial bandwidth parts of both directions, with a CORESET that fits; CORESET#0 is at the common RB 113..160.
 #define INITIAL(locationAndBandwidth)                                                                                  \
     AT_COMMON_DL "initialDownlinkBWP.genericParameters.locationAndBandwidth = " locationAndBandwidth "\n" AT_COMMON_DL \

@@ -418,12 +418,12 @@ void phyFourPathloss(Check& check)
 // A semi-persistent report on PUSCH in the place of the first report.
 #define SP_REPORT                                                                                                      \
     AT_CSI                                                                                                             \
-        "csi-ReportConfigToAddModList[0].reportConfigType = absent\n" AT_CSI                                           \
-        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI      \
-        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n" AT_CSI  \
-        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n" AT_CSI  \
-        "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI                  \
-        "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 0"
+    "csi-ReportConfigToAddModList[0].reportConfigType = absent\n" AT_CSI                                               \
+    "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI          \
+    "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n" AT_CSI      \
+    "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n" AT_CSI      \
+    "csi-ReportConfigToAddModList[0].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI                      \
+    "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 0"
 #define SPS                                                                                                            \
     AT_DL "bwp-Dedicated.sps-Config.setup.periodicity = ms20\n" AT_DL                                                  \
           "bwp-Dedicated.sps-Config.setup.nrofHARQ-Processes = 2\n" AT_DL                                              \
