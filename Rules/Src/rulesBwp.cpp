@@ -699,14 +699,14 @@ Known<int64_t> coreset0Start(const Cell& cell, const NrCoreset0& coreset, OSUINT
     constexpr int64_t subcarriersToCentre = 120; // of a block of 20 resource blocks
     const FrequencyInfoDL* const frequency = cell.frequencyDl();
     const ARFCN_ValueNR* const ssb = frequency == nullptr ? nullptr : MEMBER(*frequency, absoluteFrequencySSB);
-    if (ssb == nullptr || coreset.offset < 0)
+    const int64_t blockKhz = int64_t{12} * khzOf(muPdcch);
+    if (ssb == nullptr || coreset.offset < 0 || blockKhz == 0)
     {
         return Known<int64_t>::unless(RRC_RULE_INPUT_COMMON);
     }
     const int64_t first = int64_t{nrArfcnKhz(*ssb)} - subcarriersToCentre * khzOf(muSsb);
     const int64_t fromPointA = first - nrArfcnKhz(frequency->absoluteFrequencyPointA);
-    return fromPointA < 0 ? Known<int64_t>::unless(0)
-                          : Known<int64_t>(fromPointA / (int64_t{12} * khzOf(muPdcch)) - coreset.offset);
+    return fromPointA < 0 ? Known<int64_t>::unless(0) : Known<int64_t>(fromPointA / blockKhz - coreset.offset);
 }
 
 // The initial bandwidth part contains CORESET#0.

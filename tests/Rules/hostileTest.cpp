@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+extern "C" int64_t findingsInC(void);
+
 namespace
 {
 
@@ -164,6 +166,11 @@ TEST_F(Hostile, EndsWhenAskedTo)
     told = 0;
     EXPECT_EQ(0, rrcCheckSomeRules(&context_, &tree, nullptr, none, end, &told));
     EXPECT_EQ(0, told);
+}
+
+TEST(RulesInC, Find)
+{
+    EXPECT_EQ(1, findingsInC());
 }
 
 TEST(RuleNames, AreThere)
