@@ -1,0 +1,8 @@
+#include "ruleCases.h"
+
+namespace test
+{
+
+void pdschCases(CaseTable&) {}
+
+} // namespace test

@@ -1,0 +1,8 @@
+#include "ruleCases.h"
+
+namespace test
+{
+
+void rachCases(CaseTable&) {}
+
+} // namespace test
