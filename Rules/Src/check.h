@@ -104,7 +104,14 @@ public:
         const bool isReleased = ids.isReleased(id);
         Report told = missing(ids.complete || isReleased, at);
         told.found("%u", id);
-        isReleased ? told.allowed("%s %u is released by this message", what, id) : listIds(told, ids, what);
+        if (isReleased)
+        {
+            told.allowed("%s %u is released by this message", what, id);
+        }
+        else
+        {
+            listIds(told, ids, what);
+        }
         return nullptr;
     }
 
