@@ -72,4 +72,7 @@
             "searchSpacesToAddModList[0].searchSpaceId = 2\n" SOME_CANDIDATES(AT_SCHEDULED                             \
                                                                               "searchSpacesToAddModList[0].")
 
+#define AT_TDD AT_COMMON "tdd-UL-DL-ConfigurationCommon."
+#define AT_TDD_DEDICATED AT_CELL "tdd-UL-DL-ConfigurationDedicated.slotSpecificConfigurationsToAddModList[0]."
+
 #endif
