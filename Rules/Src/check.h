@@ -130,6 +130,19 @@ public:
         return cell;
     }
 
+    // The bandwidth part that an id names; null, and said at the place of the id, where there is none. Of one that this
+    // message releases bwp-release-in-use speaks.
+    template <typename Id>
+    Bwp* resolveBwp(const Cell& cell, Direction direction, const Id* at)
+    {
+        Bwp* const bwp = cell.bwp(direction, *at);
+        if (bwp == nullptr && !model.isReleased(cell, direction, *at))
+        {
+            missing(cell.complete, at).allowed("there is no %s bandwidth part %u", nameOf(direction), OSUINT32{*at});
+        }
+        return bwp;
+    }
+
     // Whether a value is known; where it is not, the rule is told as undecided.
     template <typename T>
     bool decided(const Known<T>& known)

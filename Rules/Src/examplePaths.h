@@ -4,7 +4,10 @@
 
 #define AT_SRB "rlc-BearerToAddModList[0]." // SRB1
 #define AT_DRB "rlc-BearerToAddModList[1]." // DRB 1
+#define AT_SRB_UL AT_SRB "mac-LogicalChannelConfig.ul-SpecificParameters."
+#define AT_DRB_UL AT_DRB "mac-LogicalChannelConfig.ul-SpecificParameters."
 #define AT_MAC "mac-CellGroupConfig."
+#define AT_PHR AT_MAC "phr-Config.setup."
 #define AT_PHY "physicalCellGroupConfig."
 #define AT_SYNC "spCellConfig.reconfigurationWithSync."
 #define AT_SYNC_PLACE "spCellConfig.reconfigurationWithSync"
@@ -74,5 +77,10 @@
 
 #define AT_TDD AT_COMMON "tdd-UL-DL-ConfigurationCommon."
 #define AT_TDD_DEDICATED AT_CELL "tdd-UL-DL-ConfigurationDedicated.slotSpecificConfigurationsToAddModList[0]."
+
+// What makes it a secondary cell group.
+#define AS_SCG "cellGroupId = 1\nspCellConfig.servCellIndex = 1\n" AT_PHR "multiplePHR = true\n"
+
+#define AT_STATE(n) AT_PDSCH "tci-StatesToAddModList[" n "]." // 0, 1: of an ssb; 2, 3: of CSI-RS for tracking 1, 2
 
 #endif

@@ -129,8 +129,6 @@ void tddPeriod20ms(Check& check)
     }
 }
 
-constexpr Direction directions[] = {Direction::Downlink, Direction::Uplink, Direction::Supplementary};
-
 // The reference spacing is one of the frequency range and not above that of any bandwidth part.
 void tddRefScs(Check& check)
 {
@@ -162,7 +160,7 @@ void tddRefScs(Check& check)
         if (coarsest != nullptr)
         {
             check.error(at).allowed("%s bandwidth part %u has %u kHz",
-                                    coarsest->direction == Direction::Downlink ? "downlink" : "uplink", coarsest->id,
+                                    nameOf(coarsest->direction), coarsest->id,
                                     khzOf(*coarsest->mu()));
         }
     }

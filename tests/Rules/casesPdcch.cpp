@@ -149,8 +149,8 @@ void coresetCases(CaseTable& table)
         "bwp-Dedicated.pdsch-Config.setup.tci-StatesToAddModList[0].qcl-Type1.referenceSignal.ssb = 0\n" AT_SCELL_DL
         "bwp-Dedicated.pdsch-Config.setup.tci-StatesToAddModList[0].qcl-Type1.qcl-Type = typeC\n";
     table.rule("pdcch-tci-present")
-        .fires(AT_CORESETS "[0].tci-PresentInDCI", sCell() + linked)
-        .silent(sCell() + linked + AT_CORESETS "[0].tci-PresentInDCI = enabled");
+        .fires(AT_CORESETS "[0].tci-PresentInDCI", std::string(ADD_SCELL) + linked)
+        .silent(std::string(ADD_SCELL) + linked + AT_CORESETS "[0].tci-PresentInDCI = enabled");
 }
 
 void searchSpaceCases(CaseTable& table)
@@ -269,7 +269,7 @@ void searchSpaceCases(CaseTable& table)
         .saying("72 CCEs")
         .silent(AT_SPACE "nrofCandidates.aggregationLevel16 = n2")
         .fires(AT_SCHEDULED "searchSpacesToAddModList",
-               sCell() + AT_SCHEDULED "searchSpacesToAddModList[0].nrofCandidates.aggregationLevel16 = n4")
+               std::string(ADD_SCELL) + AT_SCHEDULED "searchSpacesToAddModList[0].nrofCandidates.aggregationLevel16 = n4")
         .fires(AT_SPACES, AT_SPACE "nrofCandidates.aggregationLevel1 = n8\n" AT_SPACE
                                    "nrofCandidates.aggregationLevel2 = n8\n" SYMBOLS(AT_SPACE, "A000"))
         .as(RRC_RULE_WARNING)
@@ -365,9 +365,9 @@ void groupCases(CaseTable& table)
         .saying("14, but 14 bits from there on leave the dci-PayloadSize of 14")
         .good()
         .fires(AT_INT("0") "positionInDCI", A_PREEMPTION AT_INT("0") "positionInDCI = 7")
-        .fires(AT_INT("1") "positionInDCI", sCell() + two + AT_INT("1") "positionInDCI = 0")
+        .fires(AT_INT("1") "positionInDCI", std::string(ADD_SCELL) + two + AT_INT("1") "positionInDCI = 0")
         .saying("another cell has the same field")
-        .silent(sCell() + two + AT_INT("1") "positionInDCI = 14")
+        .silent(std::string(ADD_SCELL) + two + AT_INT("1") "positionInDCI = 14")
         .fires(AT_INT("1") "servingCellId", two + AT_INT("1") "positionInDCI = 14")
         .saying("no cell of that ServCellIndex is configured")
         .fires(AT_INT("1") "servingCellId", two + AT_INT("1") "positionInDCI = 14")
@@ -441,10 +441,10 @@ void otherCases(CaseTable& table)
 
 #define AT_OTHER AT_SCELL_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.other."
     Cases cross = table.rule("pdcch-cross-carrier");
-    const std::string scheduled = sCell() + CROSS_CARRIER;
+    const std::string scheduled = std::string(ADD_SCELL) + CROSS_CARRIER;
     const auto not_ = [&](const char* changes) { return scheduled + changes; };
-    cross.fires(AT_OTHER "schedulingCellId", sCell() + cross.example(&RrcRule::bad))
-        .silent(sCell() + cross.example(&RrcRule::good))
+    cross.fires(AT_OTHER "schedulingCellId", std::string(ADD_SCELL) + cross.example(&RrcRule::bad))
+        .silent(std::string(ADD_SCELL) + cross.example(&RrcRule::good))
         .fires(AT_OTHER "schedulingCellId", not_(AT_CELL "crossCarrierSchedulingConfig = absent"))
         .saying("cell 0 has no crossCarrierSchedulingConfig with own")
         .fires(AT_OTHER "schedulingCellId", not_(AT_OTHER "schedulingCellId = 1"))
@@ -458,7 +458,7 @@ void otherCases(CaseTable& table)
         .fires(AT_SCHEDULED "controlResourceSetToAddModList",
                not_(A_CORESET(AT_SCHEDULED "controlResourceSetToAddModList[0].", "2")))
         .fires(AT_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId",
-               sCell() + AT_CELL
+               std::string(ADD_SCELL) + AT_CELL
                    "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 1\n" AT_CELL
                    "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1")
         .saying("the SpCell schedules itself");
