@@ -83,4 +83,14 @@
 
 #define AT_STATE(n) AT_PDSCH "tci-StatesToAddModList[" n "]." // 0, 1: of an ssb; 2, 3: of CSI-RS for tracking 1, 2
 
+#define AT_SCELL_BFR                                                                                                   \
+    AT_SCELL_CELL "uplinkConfig.uplinkBWP-ToAddModList[0].bwp-Dedicated.beamFailureRecoveryConfig.setup."               \
+                  "recoverySearchSpaceId = 2"
+#define AT_SCELL_RLM                                                                                                   \
+    AT_SCELL_DL "bwp-Dedicated.radioLinkMonitoringConfig.setup.failureDetectionResourcesToAddModList[0]."
+#define SSBLESS_SCELL                                                                                                  \
+    AT_SCELL_COMMON "downlinkConfigCommon.frequencyInfoDL.absoluteFrequencySSB = absent\n" AT_SCELL_COMMON             \
+                    "ssb-PositionsInBurst = absent\n" AT_SCELL_COMMON                                                  \
+                    "ssb-periodicityServingCell = absent\n" AT_SCELL_COMMON "ssbSubcarrierSpacing = absent\n"
+
 #endif

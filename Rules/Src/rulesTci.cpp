@@ -1,5 +1,6 @@
 // TCI states and quasi co-location.
 #include "examplePaths.h"
+#include "modelLists.h"
 #include "rules.h"
 
 namespace rules
@@ -37,43 +38,33 @@ bool isSsb(const QCL_Info& info)
     return isChosen(&info.referenceSignal, T_QCL_Info_referenceSignal_ssb);
 }
 
-// The bandwidth parts in which a set is measured, as the CSI-ResourceConfigs that name it say.
-template <typename Each>
-void forBwpsOfSet(Check& check, Cell& cell, const NZP_CSI_RS_ResourceSet& set, const Each& each)
-{
-    const Csi& csi = check.model.csi(cell);
-    for (const IdEntry<CSI_ResourceConfig>& config : csi.resourceConfigs)
-    {
-        const CsiSets sets = csiSets(check.model, csi, *config.element);
-        Bwp* const bwp = cell.bwp(Direction::Downlink, config.element->bwp_Id);
-        if (bwp != nullptr && std::find(sets.nzp.begin(), sets.nzp.end(), &set) != sets.nzp.end())
-        {
-            each(*bwp);
-        }
-    }
-}
-
-// The TCI states that periodic CSI-RS name, each once for a bandwidth part.
+// The TCI states that periodic CSI-RS name, once for each bandwidth part in which the CSI-ResourceConfigs have them.
 template <typename Each>
 void forPeriodicStates(Check& check, const Each& each)
 {
     for (Cell& cell : check.model.cells())
     {
         const Csi& csi = check.model.csi(cell);
-        for (const IdEntry<NZP_CSI_RS_ResourceSet>& set : csi.nzpSets)
+        bool seen[maxNrofBWPs + 1][maxNrofNZP_CSI_RS_Resources] = {};
+        for (const IdEntry<CSI_ResourceConfig>& config : csi.resourceConfigs)
         {
-            forBwpsOfSet(check, cell, *set.element,
-                         [&](Bwp& bwp)
-                         {
-                             for (const NZP_CSI_RS_Resource* const resource :
-                                  nzpResources(check.model, csi, *set.element))
-                             {
-                                 if (const TCI_StateId* const id = MEMBER(*resource, qcl_InfoPeriodicCSI_RS))
-                                 {
-                                     each(bwp, *set.element, *resource, *id);
-                                 }
-                             }
-                         });
+            Bwp* const bwp = cell.bwp(Direction::Downlink, config.element->bwp_Id);
+            const CsiSets sets = csiSets(check.model, csi, *config.element);
+            for (const NZP_CSI_RS_ResourceSet* const set : sets.nzp)
+            {
+                for (const auto& resourceId : entries(&set->nzp_CSI_RS_Resources))
+                {
+                    const NZP_CSI_RS_Resource* const resource = csi.nzpResources.element(resourceId);
+                    const TCI_StateId* const id =
+                        resource == nullptr ? nullptr : MEMBER(*resource, qcl_InfoPeriodicCSI_RS);
+                    const bool fits = bwp != nullptr && bwp->id <= maxNrofBWPs && resourceId < maxNrofNZP_CSI_RS_Resources;
+                    if (id != nullptr && fits && !seen[bwp->id][resourceId])
+                    {
+                        seen[bwp->id][resourceId] = true;
+                        each(*bwp, *set, *id);
+                    }
+                }
+            }
         }
     }
 }
@@ -174,7 +165,7 @@ void tciRef(Check& check)
                     }
                 });
     forPeriodicStates(check,
-                      [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet&, const NZP_CSI_RS_Resource&, const TCI_StateId& id)
+                      [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet&, const TCI_StateId& id)
                       { check.resolve(check.model.pdsch(bwp).tciStates, id, &id, "a TCI state"); });
     for (Cell& cell : check.model.cells())
     {
@@ -263,7 +254,7 @@ void tciUsage(Check& check)
 {
     forPeriodicStates(
         check,
-        [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet& set, const NZP_CSI_RS_Resource&, const TCI_StateId& id)
+        [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet& set, const TCI_StateId& id)
         {
             const TCI_State* const state = check.model.pdsch(bwp).tciStates.element(id);
             if (state == nullptr)

@@ -149,7 +149,8 @@ void tddRefScs(Check& check)
             continue;
         }
         const Bwp* coarsest = nullptr;
-        for (const Direction direction : directions)
+        // A supplementary uplink, commonly of 15 kHz, follows no pattern.
+        for (const Direction direction : {Direction::Downlink, Direction::Uplink})
         {
             for (const Bwp& bwp : cell.bwps(direction))
             {

@@ -44,9 +44,8 @@ void tciCases(CaseTable& table)
                    "3") "qcl-Type2.qcl-Type = typeD")
         .as(RRC_RULE_WARNING)
         .saying("in FR1")
-        .silent(AT_STATE("3") "qcl-Type2.bwp-Id = 1\n" AT_STATE("3") "qcl-Type2.referenceSignal.csi-rs = 2\n" AT_STATE(
-            "3") "qcl-Type2.qcl-Type = typeD")
-        .with([](RrcRuleContext& known) { known.range = RRC_RULE_RANGE_FR2; })
+        .silent(AS_FR2 AT_STATE("3") "qcl-Type2.bwp-Id = 1\n" AT_STATE(
+            "3") "qcl-Type2.referenceSignal.csi-rs = 2\n" AT_STATE("3") "qcl-Type2.qcl-Type = typeD")
         .fires(AT_STATE("0") "qcl-Type1.qcl-Type",
                std::string(ADD_SCELL) + AT_STATE("0") "qcl-Type1.cell = 1\n" AT_STATE("0") "qcl-Type1.qcl-Type = typeA")
         .silent(std::string(ADD_SCELL) + AT_STATE("0") "qcl-Type1.cell = 1")

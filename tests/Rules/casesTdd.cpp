@@ -50,7 +50,9 @@ void tddCases(CaseTable& table)
     table.rule("tdd-cell-kind")
         .bad(AT_CELL "tdd-UL-DL-ConfigurationDedicated")
         .good()
-        .fires(AT_COMMON "tdd-UL-DL-ConfigurationCommon", "cellGroupId = 0")
+        .fires(AT_COMMON "tdd-UL-DL-ConfigurationCommon",
+               AT_COMMON_UL "frequencyInfoUL.frequencyBandList[0] = 78\n" AT_COMMON_UL
+                            "frequencyInfoUL.absoluteFrequencyPointA = 630058")
         .with([](RrcRuleContext& known) { known.duplex = RRC_RULE_DUPLEX_FDD; })
         .undecided(AT_SYNC_ABSENT "\n" AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED
                                   "symbols.explicit.nrofDownlinkSymbols = 12")
