@@ -59,9 +59,9 @@ typedef struct NrCoreset0
 // is reserved or the pair of spacings has no table.
 int nrCoreset0(uint32_t muSsb, uint32_t muPdcch, int wide, uint32_t index, NrCoreset0* coreset);
 
-// Limits of a slot (TS 38.213 tables 10.1-2, 10.1-3): PDCCH candidates and non-overlapping CCEs of a serving cell that a
-// UE monitors; 0 where mu is above 3. The first CCE of a candidate (10.1, equation of the search space): candidate m of
-// `candidates` with aggregation level `level` in a CORESET of `cces`, hashed by y, 0 in a common search space.
+// Limits of a slot (TS 38.213 tables 10.1-2, 10.1-3): PDCCH candidates and non-overlapping CCEs of a serving cell that
+// a UE monitors; 0 where mu is above 3. The first CCE of a candidate (10.1, equation of the search space): candidate m
+// of `candidates` with aggregation level `level` in a CORESET of `cces`, hashed by y, 0 in a common search space.
 uint32_t nrMostCandidates(uint32_t mu);
 uint32_t nrMostCces(uint32_t mu);
 uint32_t nrCandidateStart(uint32_t y, uint32_t m, uint32_t candidates, uint32_t level, uint32_t cces);

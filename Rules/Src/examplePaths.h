@@ -32,12 +32,12 @@
 
 // PDCCH.
 #define AT_INITIAL_PDCCH AT_COMMON_DL "initialDownlinkBWP.pdcch-ConfigCommon.setup."
-#define AT_CORESET AT_PDCCH "controlResourceSetToAddModList[1]."   // 3: interleaved, 8 groups, 2 symbols
-#define AT_SPACE AT_PDCCH "searchSpacesToAddModList[0]."           // 2, in CORESET 2: formats 0_1 and 1_1
-#define AT_FALLBACK_SPACE AT_PDCCH "searchSpacesToAddModList[1]."  // 3, in CORESET 3: formats 0_0 and 1_0
-#define AT_COMMON_SPACE AT_PDCCH "searchSpacesToAddModList[2]."    // 4, in CORESET 3: common, every 20 slots
+#define AT_CORESET AT_PDCCH "controlResourceSetToAddModList[1]."  // 3: interleaved, 8 groups, 2 symbols
+#define AT_SPACE AT_PDCCH "searchSpacesToAddModList[0]."          // 2, in CORESET 2: formats 0_1 and 1_1
+#define AT_FALLBACK_SPACE AT_PDCCH "searchSpacesToAddModList[1]." // 3, in CORESET 3: formats 0_0 and 1_0
+#define AT_COMMON_SPACE AT_PDCCH "searchSpacesToAddModList[2]."   // 4, in CORESET 3: common, every 20 slots
 #define A_CORESET(path, id)                                                                                            \
-    path "controlResourceSetId = " id "\n" path "frequencyDomainResources = FF0000000000\n" path "duration = 1\n" path   \
+    path "controlResourceSetId = " id "\n" path "frequencyDomainResources = FF0000000000\n" path "duration = 1\n" path \
          "cce-REG-MappingType.nonInterleaved = null\n" path "precoderGranularity = sameAsREG-bundle\n"
 #define SOME_CANDIDATES(path)                                                                                          \
     path "nrofCandidates.aggregationLevel1 = n0\n" path "nrofCandidates.aggregationLevel2 = n0\n" path                 \
@@ -68,12 +68,12 @@
 #define AT_SCELL_DL AT_SCELL_CELL "downlinkBWP-ToAddModList[0]."
 #define AT_SCHEDULED AT_SCELL_DL "bwp-Dedicated.pdcch-Config.setup."
 #define CROSS_CARRIER                                                                                                  \
-    AT_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = true\n" AT_SCELL_CELL                  \
-            "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 0\n" AT_SCELL_CELL               \
-            "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1\n" AT_SCELL_DL             \
-            "bwp-Dedicated.pdcch-Config = absent\n" AT_SCHEDULED                                                       \
-            "searchSpacesToAddModList[0].searchSpaceId = 2\n" SOME_CANDIDATES(AT_SCHEDULED                             \
-                                                                              "searchSpacesToAddModList[0].")
+    AT_CELL                                                                                                            \
+        "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = true\n" AT_SCELL_CELL                      \
+        "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 0\n" AT_SCELL_CELL                   \
+        "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1\n" AT_SCELL_DL                 \
+        "bwp-Dedicated.pdcch-Config = absent\n" AT_SCHEDULED                                                           \
+        "searchSpacesToAddModList[0].searchSpaceId = 2\n" SOME_CANDIDATES(AT_SCHEDULED "searchSpacesToAddModList[0].")
 
 #define AT_TDD AT_COMMON "tdd-UL-DL-ConfigurationCommon."
 #define AT_TDD_DEDICATED AT_CELL "tdd-UL-DL-ConfigurationDedicated.slotSpecificConfigurationsToAddModList[0]."
@@ -84,7 +84,7 @@
 #define AT_STATE(n) AT_PDSCH "tci-StatesToAddModList[" n "]." // 0, 1: of an ssb; 2, 3: of CSI-RS for tracking 1, 2
 
 #define AT_SCELL_BFR                                                                                                   \
-    AT_SCELL_CELL "uplinkConfig.uplinkBWP-ToAddModList[0].bwp-Dedicated.beamFailureRecoveryConfig.setup."               \
+    AT_SCELL_CELL "uplinkConfig.uplinkBWP-ToAddModList[0].bwp-Dedicated.beamFailureRecoveryConfig.setup."              \
                   "recoverySearchSpaceId = 2"
 #define AT_SCELL_RLM                                                                                                   \
     AT_SCELL_DL "bwp-Dedicated.radioLinkMonitoringConfig.setup.failureDetectionResourcesToAddModList[0]."

@@ -820,7 +820,7 @@ void bwpSpcellCss(Check& check)
                  "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonControlResourceSet.frequencyDomainResources = "    \
                  "FE0000000000\n" AT_COMMON_DL                                                                         \
                  "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."                \
-                 "aggregationLevel8 = n0\n" AT_COMMON_UL                                                                         \
+                 "aggregationLevel8 = n0\n" AT_COMMON_UL                                                               \
                  "initialUplinkBWP.genericParameters.locationAndBandwidth = " locationAndBandwidth
 #define WITHOUT_COMMON AT_PDCCH "searchSpacesToAddModList[2] = absent"
 

@@ -138,9 +138,8 @@ void uniqueIds(Check& check, const Vector<NamedAt>& all, const char* what)
             const bool isSameList = all[k].bwp == all[i].bwp && all[k].isCommon == all[i].isCommon;
             if (all[k].id == all[i].id && all[i].id != 0 && !isSameList)
             {
-                check.error(all[i].at)
-                    .allowed("%s bandwidth part %u has a %s of that id", all[k].isCommon ? "the common part of" : "",
-                             all[k].bwp, what);
+                check.error(all[i].at).allowed("%s bandwidth part %u has a %s of that id",
+                                               all[k].isCommon ? "the common part of" : "", all[k].bwp, what);
                 break;
             }
         }
@@ -159,8 +158,8 @@ void pdcchIds(Check& check)
             const Pdcch& pdcch = check.model.pdcch(bwp);
             for (const Coreset& coreset : pdcch.allCoresets)
             {
-                coresets.add(check.model.memory, {coreset.id, &coreset.element->controlResourceSetId, bwp.id,
-                                                  coreset.isCommon});
+                coresets.add(check.model.memory,
+                             {coreset.id, &coreset.element->controlResourceSetId, bwp.id, coreset.isCommon});
             }
             for (const SearchSpaceEntry& space : pdcch.allSearchSpaces)
             {
@@ -384,7 +383,8 @@ private:
         {
             const uint64_t width = uint64_t{12} * khzOf(mu_);
             const uint64_t first = bwpStart_ + nrCoresetGroupStart(bwpStart_, i);
-            if (hasBit(coreset_.frequencyDomainResources, i) && kilohertz.overlaps({first * width, (first + 6) * width}))
+            if (hasBit(coreset_.frequencyDomainResources, i) &&
+                kilohertz.overlaps({first * width, (first + 6) * width}))
             {
                 return true;
             }
@@ -427,7 +427,7 @@ const RateMatchPatternLTE_CRS* crsOf(const Check& check, const Cell& cell)
 {
     const RateMatchPatternLTE_CRS* const dedicated =
         cell.dedicated == nullptr ? nullptr : check.tree.setup(ADDITION(*cell.dedicated, 2, lte_CRS_ToMatchAround));
-    return dedicated != nullptr    ? dedicated
+    return dedicated != nullptr     ? dedicated
            : cell.common == nullptr ? nullptr
                                     : check.tree.setup(MEMBER(*cell.common, lte_CRS_ToMatchAround));
 }
@@ -654,8 +654,8 @@ void pdcchSsSymbols(Check& check)
                 return;
             }
             const auto* const id = coresetIdOf(space);
-            const Known<Region> region = id == nullptr ? Known<Region>::unless(RRC_RULE_INPUT_PREVIOUS)
-                                                       : regionOf(check.model, bwp, *id);
+            const Known<Region> region =
+                id == nullptr ? Known<Region>::unless(RRC_RULE_INPUT_PREVIOUS) : regionOf(check.model, bwp, *id);
             if (mayBeScheduledByOther(check, *bwp.cell) || !check.decided(region))
             {
                 return;
@@ -682,7 +682,8 @@ void pdcchSsSymbols(Check& check)
                 }
                 const Known<Monitoring> when = monitoringOf(space);
                 const Known<Monitoring> otherWhen = monitoringOf(*other.element);
-                const bool meets = otherId != nullptr && *otherId == *id && when && otherWhen && meet(*when, *otherWhen);
+                const bool meets =
+                    otherId != nullptr && *otherId == *id && when && otherWhen && meet(*when, *otherWhen);
                 if (meets && tooClose(firstSymbolsOf(*other.element), symbols, region->symbols) != NR_SYMBOLS)
                 {
                     check.error(bits).allowed("search space %u has occasions of the same CORESET that overlap them",
@@ -721,52 +722,51 @@ bool isOneSpan(OSUINT32 symbols)
 void pdcchSsLateSymbols(Check& check)
 {
     constexpr OSUINT32 firstThree = 7;
-    forPdcch(
-        check,
-        [&](Bwp& bwp, const Pdcch& pdcch)
-        {
-            const Known<OSUINT32> mu = bwp.mu();
-            if (bwp.pdcch == nullptr || mayBeScheduledByOther(check, *bwp.cell) || !check.decided(mu))
-            {
-                return;
-            }
-            OSUINT32 dedicated = 0;
-            OSUINT32 common = 0;
-            bool areAllKnown = true;
-            for (const SearchSpaceEntry& entry : pdcch.allSearchSpaces)
-            {
-                const OSUINT32 symbols = monitoredSymbols(check, bwp, *entry.element);
-                areAllKnown = areAllKnown && symbols != 0;
-                (entry.isCommon ? common : dedicated) |= symbols;
-            }
-            if (!areAllKnown)
-            {
-                return;
-            }
-            // Of common search spaces with id 0 the symbols are the table's.
-            const bool isWhole = pdcch.searchSpaces.complete && pdcch.isCommonKnown &&
-                                 (pdcch.common == nullptr || pdcch.common->m.searchSpaceZeroPresent == 0);
-            const OSUINT32 all = dedicated | common;
-            const auto* const at = &bwp.pdcch->searchSpacesToAddModList;
-            if (*mu != 0 && isWhole && isOneSpan(all) && (all & ~firstThree) != 0)
-            {
-                check.error(at)
-                    .found("all occasions within three symbols, the last of them symbol %u",
-                           static_cast<OSUINT32>(std::bit_width(all)) - 1)
-                    .allowed("at %u kHz such a span lies within the first three", khzOf(*mu));
-                return;
-            }
-            const OSUINT32 needed =
-                RRC_RULE_FEATURE_MONITORING_ANY | RRC_RULE_FEATURE_MONITORING_ANY_GAP |
-                (*mu == 0 && isOneSpan(dedicated) ? OSUINT32{RRC_RULE_FEATURE_MONITORING_SINGLE} : 0);
-            if ((dedicated & ~firstThree) != 0 && !hasFeature(check, needed))
-            {
-                check.warning(at)
-                    .found("occasions up to symbol %u", static_cast<OSUINT32>(std::bit_width(dedicated)) - 1)
-                    .allowed("beyond the first three symbols of a slot a UE monitors only with "
-                             "pdcch-MonitoringAnyOccasions");
-            }
-        });
+    forPdcch(check,
+             [&](Bwp& bwp, const Pdcch& pdcch)
+             {
+                 const Known<OSUINT32> mu = bwp.mu();
+                 if (bwp.pdcch == nullptr || mayBeScheduledByOther(check, *bwp.cell) || !check.decided(mu))
+                 {
+                     return;
+                 }
+                 OSUINT32 dedicated = 0;
+                 OSUINT32 common = 0;
+                 bool areAllKnown = true;
+                 for (const SearchSpaceEntry& entry : pdcch.allSearchSpaces)
+                 {
+                     const OSUINT32 symbols = monitoredSymbols(check, bwp, *entry.element);
+                     areAllKnown = areAllKnown && symbols != 0;
+                     (entry.isCommon ? common : dedicated) |= symbols;
+                 }
+                 if (!areAllKnown)
+                 {
+                     return;
+                 }
+                 // Of common search spaces with id 0 the symbols are the table's.
+                 const bool isWhole = pdcch.searchSpaces.complete && pdcch.isCommonKnown &&
+                                      (pdcch.common == nullptr || pdcch.common->m.searchSpaceZeroPresent == 0);
+                 const OSUINT32 all = dedicated | common;
+                 const auto* const at = &bwp.pdcch->searchSpacesToAddModList;
+                 if (*mu != 0 && isWhole && isOneSpan(all) && (all & ~firstThree) != 0)
+                 {
+                     check.error(at)
+                         .found("all occasions within three symbols, the last of them symbol %u",
+                                static_cast<OSUINT32>(std::bit_width(all)) - 1)
+                         .allowed("at %u kHz such a span lies within the first three", khzOf(*mu));
+                     return;
+                 }
+                 const OSUINT32 needed =
+                     RRC_RULE_FEATURE_MONITORING_ANY | RRC_RULE_FEATURE_MONITORING_ANY_GAP |
+                     (*mu == 0 && isOneSpan(dedicated) ? OSUINT32{RRC_RULE_FEATURE_MONITORING_SINGLE} : 0);
+                 if ((dedicated & ~firstThree) != 0 && !hasFeature(check, needed))
+                 {
+                     check.warning(at)
+                         .found("occasions up to symbol %u", static_cast<OSUINT32>(std::bit_width(dedicated)) - 1)
+                         .allowed("beyond the first three symbols of a slot a UE monitors only with "
+                                  "pdcch-MonitoringAnyOccasions");
+                 }
+             });
 }
 
 // A search space lasts less than its period.
@@ -996,8 +996,9 @@ Vector<LoadSet> loadSetsOf(Check& check, Bwp& bwp, const Pdcch& pdcch)
         set.when = *when;
         set.symbols = firstSymbolsOf(space);
         set.isCommon = common != nullptr;
-        set.isFallback = specific != nullptr &&
-                         specific->dci_Formats == SearchSpace_searchSpaceType_ue_Specific_dci_Formats_formats0_0_And_1_0;
+        set.isFallback =
+            specific != nullptr &&
+            specific->dci_Formats == SearchSpace_searchSpaceType_ue_Specific_dci_Formats_formats0_0_And_1_0;
         for (OSUINT32 level = 0; level < levelCount; ++level)
         {
             set.candidates[level] = candidatesOf(space, level);
@@ -1076,8 +1077,8 @@ void pdcchBlindLimit(Check& check)
                      return;
                  }
                  const bool isError = isOfCommon || !bwp.cell->isSpCell();
-                 const auto* const at = bwp.pdcch != nullptr ? &bwp.pdcch->searchSpacesToAddModList
-                                                             : &pdcch.common->commonSearchSpaceList;
+                 const auto* const at =
+                     bwp.pdcch != nullptr ? &bwp.pdcch->searchSpacesToAddModList : &pdcch.common->commonSearchSpaceList;
                  (isError ? check.error(at) : check.warning(at))
                      .found("at least %u candidates and %u CCEs in slot %u%s", load.candidates, load.cces, slot,
                             isOfCommon ? " of common search spaces alone" : "")
@@ -1100,9 +1101,9 @@ const DownlinkPreemption* preemptionOf(const Check& check, const Bwp& bwp)
 // What the search spaces of a bandwidth part monitor.
 struct Formats
 {
-    bool fallback; // 0_0 and 1_0
-    bool other;    // 0_1 and 1_1
-    bool slots;    // 2_0
+    bool fallback;   // 0_0 and 1_0
+    bool other;      // 0_1 and 1_1
+    bool slots;      // 2_0
     bool preemption; // 2_1
 };
 
@@ -1131,7 +1132,10 @@ Formats formatsOf(const Check& check, const Pdcch& pdcch)
 void pdcchDciSizes(Check& check)
 {
     // What 1_0 can have: 28 bits and those of a resource allocation among 11 to 275 resource blocks.
-    const auto maybeFallback = [](OSUINT32 bits) { return bits >= 28 + 7 && bits <= 28 + 16; };
+    const auto maybeFallback = [](OSUINT32 bits)
+    {
+        return bits >= 28 + 7 && bits <= 28 + 16;
+    };
     forPdcch(check,
              [&](const Bwp& bwp, const Pdcch& pdcch)
              {
@@ -1210,46 +1214,46 @@ const char* lacksCoreset0(Check& check, const Bwp& bwp)
 // Search spaces for common purposes are there.
 void pdcchCssRefs(Check& check)
 {
-    forPdcch(
-        check,
-        [&](const Bwp& bwp, const Pdcch& pdcch)
-        {
-            if (pdcch.common == nullptr)
-            {
-                return;
-            }
-            const PDCCH_ConfigCommon& common = *pdcch.common;
-            const SearchSpaceId* const ids[] = {
-                MEMBER(common, searchSpaceSIB1), MEMBER(common, searchSpaceOtherSystemInformation),
-                MEMBER(common, pagingSearchSpace), MEMBER(common, ra_SearchSpace)};
-            for (const SearchSpaceId* const id : ids)
-            {
-                if (id == nullptr)
-                {
-                    continue;
-                }
-                const SearchSpaceEntry* const entry = pdcch.searchSpace(*id);
-                const char* const lacks = *id == 0 && !bwp.isInitial() ? lacksCoreset0(check, bwp) : nullptr;
-                const bool isOfPCellSib1 = id == ids[0] && bwp.isInitial() && bwp.cell->isSpCell() &&
-                                           !check.model.isScg();
-                if (isOfPCellSib1 && *id != 0)
-                {
-                    check.error(id).allowed("in the initial bandwidth part of the PCell it is 0");
-                }
-                else if (lacks != nullptr)
-                {
-                    check.error(id).allowed("%s", lacks);
-                }
-                else if (*id != 0 && entry == nullptr)
-                {
-                    check.error(id).allowed("commonSearchSpaceList has none of that id");
-                }
-                else if (*id != 0 && !entry->isCommon)
-                {
-                    check.warning(id).allowed("that search space is in PDCCH-Config, not in commonSearchSpaceList");
-                }
-            }
-        });
+    forPdcch(check,
+             [&](const Bwp& bwp, const Pdcch& pdcch)
+             {
+                 if (pdcch.common == nullptr)
+                 {
+                     return;
+                 }
+                 const PDCCH_ConfigCommon& common = *pdcch.common;
+                 const SearchSpaceId* const ids[] = {MEMBER(common, searchSpaceSIB1),
+                                                     MEMBER(common, searchSpaceOtherSystemInformation),
+                                                     MEMBER(common, pagingSearchSpace), MEMBER(common, ra_SearchSpace)};
+                 for (const SearchSpaceId* const id : ids)
+                 {
+                     if (id == nullptr)
+                     {
+                         continue;
+                     }
+                     const SearchSpaceEntry* const entry = pdcch.searchSpace(*id);
+                     const char* const lacks = *id == 0 && !bwp.isInitial() ? lacksCoreset0(check, bwp) : nullptr;
+                     const bool isOfPCellSib1 =
+                         id == ids[0] && bwp.isInitial() && bwp.cell->isSpCell() && !check.model.isScg();
+                     if (isOfPCellSib1 && *id != 0)
+                     {
+                         check.error(id).allowed("in the initial bandwidth part of the PCell it is 0");
+                     }
+                     else if (lacks != nullptr)
+                     {
+                         check.error(id).allowed("%s", lacks);
+                     }
+                     else if (*id != 0 && entry == nullptr)
+                     {
+                         check.error(id).allowed("commonSearchSpaceList has none of that id");
+                     }
+                     else if (*id != 0 && !entry->isCommon)
+                     {
+                         check.warning(id).allowed(
+                             "that search space is in PDCCH-Config, not in commonSearchSpaceList");
+                     }
+                 }
+             });
 }
 
 // What only the initial bandwidth part has, and what only others have.
@@ -1311,8 +1315,9 @@ void pdcchRecoverySs(Check& check)
             const SearchSpaceEntry* const entry = pdcch.searchSpace(*id);
             if (entry == nullptr)
             {
-                check.missing(pdcch.searchSpaces.complete && (pdcch.isCommonKnown || pdcch.searchSpaces.isReleased(*id)),
-                              id)
+                check
+                    .missing(pdcch.searchSpaces.complete && (pdcch.isCommonKnown || pdcch.searchSpaces.isReleased(*id)),
+                             id)
                     .allowed("downlink bandwidth part %u has no such search space", bwp->id);
                 continue;
             }
@@ -1379,8 +1384,8 @@ void pdcchDci20(Check& check)
                         .allowed("exactly one is configured");
                 }
                 const auto* const id = coresetIdOf(*entry.element);
-                const Known<Region> region = id == nullptr ? Known<Region>::unless(RRC_RULE_INPUT_PREVIOUS)
-                                                           : regionOf(check.model, bwp, *id);
+                const Known<Region> region =
+                    id == nullptr ? Known<Region>::unless(RRC_RULE_INPUT_PREVIOUS) : regionOf(check.model, bwp, *id);
                 if (check.decided(region) && region->symbols <= 3 &&
                     firstSymbolsOf(*entry.element) >> (4 - region->symbols) != 0)
                 {
@@ -1421,8 +1426,7 @@ void pdcchDci21(Check& check)
                      {
                          continue;
                      }
-                     periodAmong(check, *entry.element, periods,
-                                 "DCI format 2_1 is monitored every 1, 2 or 4 slots");
+                     periodAmong(check, *entry.element, periods, "DCI format 2_1 is monitored every 1, 2 or 4 slots");
                      const int occasions = std::popcount(firstSymbolsOf(*entry.element));
                      if (occasions > 1)
                      {
@@ -1459,8 +1463,8 @@ void pdcchIntPosition(Check& check)
                  {
                      return;
                  }
-                 const auto cells = check.tree.list<INT_ConfigurationPerServingCell>(
-                     &preemption->int_ConfigurationPerServingCell);
+                 const auto cells =
+                     check.tree.list<INT_ConfigurationPerServingCell>(&preemption->int_ConfigurationPerServingCell);
                  OSUINT32 used = 0; // bit i: the field at 14 i
                  for (const INT_ConfigurationPerServingCell& cell : cells)
                  {
@@ -1550,8 +1554,8 @@ void sfiOfCell(Check& check, const Cell& monitoring, const SlotFormatIndicator& 
         check.error(&given.subcarrierSpacing)
             .allowed("bandwidth part %u has %u kHz", coarser->id, khzOf(*coarser->mu()));
     }
-    if (given.m.subcarrierSpacing2Present != 0 && cell != nullptr && cell->complete &&
-        check.decided(cell->duplex) && !hasUplinkOfItsOwnBand(cell->duplex, *cell))
+    if (given.m.subcarrierSpacing2Present != 0 && cell != nullptr && cell->complete && check.decided(cell->duplex) &&
+        !hasUplinkOfItsOwnBand(cell->duplex, *cell))
     {
         check.error(&given.subcarrierSpacing2).allowed("the cell has neither paired spectrum nor SUL");
     }
@@ -1564,8 +1568,8 @@ void pdcchSfi(Check& check)
     {
         if (const SlotFormatIndicator* const indicator = slotFormatIndicatorOf(check, cell))
         {
-            for (const auto& given : check.tree.list<SlotFormatCombinationsPerCell>(
-                     MEMBER(*indicator, slotFormatCombToAddModList)))
+            for (const auto& given :
+                 check.tree.list<SlotFormatCombinationsPerCell>(MEMBER(*indicator, slotFormatCombToAddModList)))
             {
                 sfiOfCell(check, cell, *indicator, given);
             }
@@ -1814,46 +1818,57 @@ void pdcchCrossCarrier(Check& check)
 constexpr Rule table[] = {
     {.told = {.id = "pdcch-counts",
               .severity = RRC_RULE_ERROR,
-              .statement = "A downlink bandwidth part has at most 3 CORESETs and 10 search spaces, the common ones, CORESET#0 and search space 0 among them.",
+              .statement = "A downlink bandwidth part has at most 3 CORESETs and 10 search spaces, the common ones, "
+                           "CORESET#0 and search space 0 among them.",
               .advice = "Release one, or let two search spaces share a CORESET.",
               .clause = "TS 38.331 PDCCH-Config; TS 38.213 10.1",
               .given = "",
-              .bad = A_CORESET(AT_PDCCH "controlResourceSetToAddModList[2].", "4") A_CORESET(AT_PDCCH_COMMON "commonControlResourceSet.", "5"),
+              .bad = A_CORESET(AT_PDCCH "controlResourceSetToAddModList[2].", "4")
+                  A_CORESET(AT_PDCCH_COMMON "commonControlResourceSet.", "5"),
               .good = A_CORESET(AT_PDCCH "controlResourceSetToAddModList[2].", "4"),
               .since = "0.1.0"},
      .run = pdcchCounts},
     {.told = {.id = "pdcch-ids",
               .severity = RRC_RULE_ERROR,
-              .statement = "Ids of CORESETs and of search spaces are not 0 in their lists and unique among the bandwidth parts of a cell; PDCCH-Config may replace the commonControlResourceSet of its bandwidth part.",
+              .statement =
+                  "Ids of CORESETs and of search spaces are not 0 in their lists and unique among the bandwidth parts "
+                  "of a cell; PDCCH-Config may replace the commonControlResourceSet of its bandwidth part.",
               .advice = "Number CORESETs and search spaces through all bandwidth parts of the cell.",
               .clause = "TS 38.331 ControlResourceSet, SearchSpace, PDCCH-Config",
               .given = "",
               .bad = AT_CORESET "controlResourceSetId = 1\n" // the initial bandwidth part has it
- AT_FALLBACK_SPACE "controlResourceSetId = 1\n" AT_COMMON_SPACE "controlResourceSetId = 1",
-              .good = AT_CORESET "controlResourceSetId = 4\n" AT_FALLBACK_SPACE "controlResourceSetId = 4\n" AT_COMMON_SPACE "controlResourceSetId = 4",
+              AT_FALLBACK_SPACE "controlResourceSetId = 1\n" AT_COMMON_SPACE "controlResourceSetId = 1",
+              .good = AT_CORESET "controlResourceSetId = 4\n" AT_FALLBACK_SPACE
+                                 "controlResourceSetId = 4\n" AT_COMMON_SPACE "controlResourceSetId = 4",
               .since = "0.1.0"},
      .run = pdcchIds},
-    {.told = {.id = "pdcch-coreset-bits",
-              .severity = RRC_RULE_ERROR,
-              .statement = "frequencyDomainResources sets at least one bit, and none of a group of 6 resource blocks that is not wholly within the bandwidth part.",
-              .advice = "Count the groups from the first common resource block of the bandwidth part that is a multiple of 6.",
-              .clause = "TS 38.331 ControlResourceSet; TS 38.213 10.1; TS 38.211 7.3.2.2",
-              .given = "",
-              .bad = AT_COMMON_DL "frequencyInfoDL.scs-SpecificCarrierList[0].offsetToCarrier = 1\n" // 44 groups
- AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[0].offsetToCarrier = 1",
-              .good = AT_COMMON_DL "frequencyInfoDL.scs-SpecificCarrierList[0].offsetToCarrier = 6\n" // 45 of them
- AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[0].offsetToCarrier = 6",
-              .since = "0.1.0"},
+    {.told =
+         {.id = "pdcch-coreset-bits",
+          .severity = RRC_RULE_ERROR,
+          .statement = "frequencyDomainResources sets at least one bit, and none of a group of 6 resource blocks that "
+                       "is not wholly within the bandwidth part.",
+          .advice =
+              "Count the groups from the first common resource block of the bandwidth part that is a multiple of 6.",
+          .clause = "TS 38.331 ControlResourceSet; TS 38.213 10.1; TS 38.211 7.3.2.2",
+          .given = "",
+          .bad = AT_COMMON_DL "frequencyInfoDL.scs-SpecificCarrierList[0].offsetToCarrier = 1\n" // 44 groups
+          AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[0].offsetToCarrier = 1",
+          .good = AT_COMMON_DL "frequencyInfoDL.scs-SpecificCarrierList[0].offsetToCarrier = 6\n" // 45 of them
+          AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[0].offsetToCarrier = 6",
+          .since = "0.1.0"},
      .run = pdcchCoresetBits},
     {.told = {.id = "pdcch-coreset-interleaver",
               .severity = RRC_RULE_ERROR,
-              .statement = "An interleaved CORESET has REG bundles of 2 or 6 with one symbol, of as many REGs as it has symbols or 6 with more, and its REGs are a multiple of reg-BundleSize x interleaverSize.",
+              .statement =
+                  "An interleaved CORESET has REG bundles of 2 or 6 with one symbol, of as many REGs as it has symbols "
+                  "or 6 with more, and its REGs are a multiple of reg-BundleSize x interleaverSize.",
               .advice = "Take another interleaverSize, or a number of resource blocks that it divides.",
               .clause = "TS 38.211 7.3.2.2",
               .given = "",
               .bad = AT_CORESET "cce-REG-MappingType.interleaved.interleaverSize = n6\n" // 96 REGs, 36 at a time
-,
-              .good = AT_CORESET "cce-REG-MappingType.interleaved.interleaverSize = n6\n" AT_CORESET "frequencyDomainResources = FF8000000000",
+              ,
+              .good = AT_CORESET "cce-REG-MappingType.interleaved.interleaverSize = n6\n" AT_CORESET
+                                 "frequencyDomainResources = FF8000000000",
               .since = "0.1.0"},
      .run = pdcchCoresetInterleaver},
     {.told = {.id = "pdcch-coreset-dur3",
@@ -1868,17 +1883,21 @@ constexpr Rule table[] = {
      .run = pdcchCoresetDur3},
     {.told = {.id = "pdcch-coreset-contiguous",
               .severity = RRC_RULE_ERROR,
-              .statement = "A CORESET with allContiguousRBs has at most 4 separate runs of resource blocks and overlaps neither an SS/PBCH block nor lte-CRS-ToMatchAround.",
+              .statement = "A CORESET with allContiguousRBs has at most 4 separate runs of resource blocks and "
+                           "overlaps neither an SS/PBCH block nor lte-CRS-ToMatchAround.",
               .advice = "Close the gaps, or use sameAsREG-bundle.",
               .clause = "TS 38.213 10.1",
               .given = "",
-              .bad = AT_CORESET "precoderGranularity = allContiguousRBs\n" AT_CORESET "frequencyDomainResources = AA8000000000",
-              .good = AT_CORESET "precoderGranularity = allContiguousRBs\n" AT_CORESET "frequencyDomainResources = AA0000000000",
+              .bad = AT_CORESET "precoderGranularity = allContiguousRBs\n" AT_CORESET
+                                "frequencyDomainResources = AA8000000000",
+              .good = AT_CORESET "precoderGranularity = allContiguousRBs\n" AT_CORESET
+                                 "frequencyDomainResources = AA0000000000",
               .since = "0.1.0"},
      .run = pdcchCoresetContiguous},
     {.told = {.id = "pdcch-coreset-tci",
               .severity = RRC_RULE_ERROR,
-              .statement = "Each id of tci-StatesPDCCH-ToAddList is a TCI state of PDSCH-Config in the same bandwidth part; the common CORESET of the initial bandwidth part has no such list.",
+              .statement = "Each id of tci-StatesPDCCH-ToAddList is a TCI state of PDSCH-Config in the same bandwidth "
+                           "part; the common CORESET of the initial bandwidth part has no such list.",
               .advice = "Add the TCI state to PDSCH-Config of that bandwidth part.",
               .clause = "TS 38.331 ControlResourceSet",
               .given = "",
@@ -1888,7 +1907,8 @@ constexpr Rule table[] = {
      .run = pdcchCoresetTci},
     {.told = {.id = "pdcch-tci-present",
               .severity = RRC_RULE_WARNING,
-              .statement = "tci-PresentInDCI is enabled only where PDSCH-Config of the bandwidth part has TCI states, and enabled on a CORESET that schedules the TCI states of another cell.",
+              .statement = "tci-PresentInDCI is enabled only where PDSCH-Config of the bandwidth part has TCI states, "
+                           "and enabled on a CORESET that schedules the TCI states of another cell.",
               .advice = "Leave tci-PresentInDCI out, or configure TCI states.",
               .clause = "TS 38.331 ControlResourceSet; TS 38.214 5.1.5",
               .given = "",
@@ -1898,7 +1918,8 @@ constexpr Rule table[] = {
      .run = pdcchTciPresent},
     {.told = {.id = "pdcch-ss-new-incomplete",
               .severity = RRC_RULE_ERROR,
-              .statement = "A new search space has its CORESET, period, symbols, candidates and type; one that is modified does not name its CORESET again.",
+              .statement = "A new search space has its CORESET, period, symbols, candidates and type; one that is "
+                           "modified does not name its CORESET again.",
               .advice = "Send the whole search space, or release and add it in the same message.",
               .clause = "TS 38.331 SearchSpace, Cond Setup, SetupOnly",
               .given = "",
@@ -1918,24 +1939,29 @@ constexpr Rule table[] = {
      .run = pdcchSsCoresetRef},
     {.told = {.id = "pdcch-ss-symbols",
               .severity = RRC_RULE_ERROR,
-              .statement = "A search space is monitored from at least one symbol on, each occasion lies within the slot, and occasions of one CORESET do not overlap.",
+              .statement = "A search space is monitored from at least one symbol on, each occasion lies within the "
+                           "slot, and occasions of one CORESET do not overlap.",
               .advice = "Leave as many symbols between first symbols as the CORESET has.",
               .clause = "TS 38.213 10.1",
               .given = "",
               .bad = AT_SPACE "monitoringSymbolsWithinSlot = C000\n" // symbols 0-1 and 1-2
-,
+              ,
               .good = AT_SPACE "monitoringSymbolsWithinSlot = A000",
               .since = "0.1.0"},
      .run = pdcchSsSymbols},
     {.told = {.id = "pdcch-ss-late-symbols",
               .severity = RRC_RULE_ERROR,
-              .statement = "Above 15 kHz, where all search spaces share one span of three symbols, it lies within the first three of the slot; any other occasion beyond them needs a capability.",
+              .statement = "Above 15 kHz, where all search spaces share one span of three symbols, it lies within the "
+                           "first three of the slot; any other occasion beyond them needs a capability.",
               .advice = "Monitor within the first three symbols.",
               .clause = "TS 38.213 10.1; TS 38.306",
               .given = "",
               .bad = AT_SPACE "monitoringSymbolsWithinSlot = 0800\n" // symbols 4-5
- AT_FALLBACK_SPACE "monitoringSymbolsWithinSlot = 0800\n" AT_COMMON_SPACE "monitoringSymbolsWithinSlot = 0800",
-              .good = AT_SPACE "monitoringSymbolsWithinSlot = 4000\n" AT_FALLBACK_SPACE "monitoringSymbolsWithinSlot = 4000\n" AT_COMMON_SPACE "monitoringSymbolsWithinSlot = 4000",
+              AT_FALLBACK_SPACE "monitoringSymbolsWithinSlot = 0800\n" AT_COMMON_SPACE
+                              "monitoringSymbolsWithinSlot = 0800",
+              .good =
+                  AT_SPACE "monitoringSymbolsWithinSlot = 4000\n" AT_FALLBACK_SPACE
+                           "monitoringSymbolsWithinSlot = 4000\n" AT_COMMON_SPACE "monitoringSymbolsWithinSlot = 4000",
               .since = "0.1.0"},
      .run = pdcchSsLateSymbols},
     {.told = {.id = "pdcch-ss-duration",
@@ -1950,29 +1976,43 @@ constexpr Rule table[] = {
      .run = pdcchSsDuration},
     {.told = {.id = "pdcch-ss-candidates",
               .severity = RRC_RULE_ERROR,
-              .statement = "A search space has a candidate of some aggregation level, each level fits into the CCEs of its CORESET, and so do all candidates of a level side by side.",
+              .statement = "A search space has a candidate of some aggregation level, each level fits into the CCEs of "
+                           "its CORESET, and so do all candidates of a level side by side.",
               .advice = "Take away candidates of high levels, or widen the CORESET.",
               .clause = "TS 38.213 10.1",
               .given = "",
-              .bad = AT_FALLBACK_SPACE "nrofCandidates.aggregationLevel16 = n1\n" AT_CORESET "frequencyDomainResources = FC0000000000\n" // 12 CCEs
-,
-              .good = AT_FALLBACK_SPACE "nrofCandidates.aggregationLevel16 = n1\n" AT_CORESET "frequencyDomainResources = FF0000000000\n" // 16 of them
-,
+              .bad = AT_FALLBACK_SPACE "nrofCandidates.aggregationLevel16 = n1\n" AT_CORESET
+                                       "frequencyDomainResources = FC0000000000\n" // 12 CCEs
+              ,
+              .good = AT_FALLBACK_SPACE "nrofCandidates.aggregationLevel16 = n1\n" AT_CORESET
+                                        "frequencyDomainResources = FF0000000000\n" // 16 of them
+              ,
               .since = "0.1.0"},
      .run = pdcchSsCandidates},
     {.told = {.id = "pdcch-blind-limit",
               .severity = RRC_RULE_ERROR,
-              .statement = "No slot has more PDCCH candidates (44, 36, 22, 20 at 15 to 120 kHz) or CCEs (56, 56, 48, 32) than a UE monitors: not of common search spaces, nor of an SCell; of UE-specific ones on the SpCell the UE drops what is too much.",
+              .statement = "No slot has more PDCCH candidates (44, 36, 22, 20 at 15 to 120 kHz) or CCEs (56, 56, 48, "
+                           "32) than a UE monitors: not of common search spaces, nor of an SCell; of UE-specific ones "
+                           "on the SpCell the UE drops what is too much.",
               .advice = "Take away candidates, or move search spaces to other slots.",
               .clause = "TS 38.213 10.1, tables 10.1-2, 10.1-3",
               .given = "",
-              .bad = AT_COMMON_SPACE "monitoringSymbolsWithinSlot = A000\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel1 = n8\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel2 = n8\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel4 = n4\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel8 = n2",
-              .good = AT_COMMON_SPACE "monitoringSymbolsWithinSlot = A000\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel1 = n8\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel2 = n4\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel4 = n2\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel8 = n0",
+              .bad = AT_COMMON_SPACE "monitoringSymbolsWithinSlot = A000\n" AT_COMMON_SPACE
+                                     "nrofCandidates.aggregationLevel1 = n8\n" AT_COMMON_SPACE
+                                     "nrofCandidates.aggregationLevel2 = n8\n" AT_COMMON_SPACE
+                                     "nrofCandidates.aggregationLevel4 = n4\n" AT_COMMON_SPACE
+                                     "nrofCandidates.aggregationLevel8 = n2",
+              .good = AT_COMMON_SPACE "monitoringSymbolsWithinSlot = A000\n" AT_COMMON_SPACE
+                                      "nrofCandidates.aggregationLevel1 = n8\n" AT_COMMON_SPACE
+                                      "nrofCandidates.aggregationLevel2 = n4\n" AT_COMMON_SPACE
+                                      "nrofCandidates.aggregationLevel4 = n2\n" AT_COMMON_SPACE
+                                      "nrofCandidates.aggregationLevel8 = n0",
               .since = "0.1.0"},
      .run = pdcchBlindLimit},
     {.told = {.id = "pdcch-dci-sizes",
               .severity = RRC_RULE_WARNING,
-              .statement = "A UE monitors four sizes of DCI: where formats 0_0/1_0, 0_1 and 1_1 take three, formats 2_0 and 2_1 of a bandwidth part share the fourth.",
+              .statement = "A UE monitors four sizes of DCI: where formats 0_0/1_0, 0_1 and 1_1 take three, formats "
+                           "2_0 and 2_1 of a bandwidth part share the fourth.",
               .advice = "Give both formats the same dci-PayloadSize.",
               .clause = "TS 38.213 10.1; TS 38.212 7.3.1.0",
               .given = "",
@@ -1980,19 +2020,26 @@ constexpr Rule table[] = {
               .good = A_PREEMPTION AN_SFI AT_SFI "dci-PayloadSize = 14",
               .since = "0.1.0"},
      .run = pdcchDciSizes},
-    {.told = {.id = "pdcch-common-list",
-              .severity = RRC_RULE_ERROR,
-              .statement = "What commonSearchSpaceList and commonControlResourceSet hold has an id other than 0, and the search spaces are of type common.",
-              .advice = "Use searchSpaceZero and controlResourceSetZero for 0, and PDCCH-Config for UE-specific search spaces.",
-              .clause = "TS 38.331 PDCCH-ConfigCommon",
-              .given = "",
-              .bad = AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType = absent\n" AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType.ue-Specific.dci-Formats = formats0-0-And-1-0",
-              .good = AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType.common.dci-Format0-0-AndFormat1-0 = {}",
-              .since = "0.1.0"},
+    {.told =
+         {.id = "pdcch-common-list",
+          .severity = RRC_RULE_ERROR,
+          .statement = "What commonSearchSpaceList and commonControlResourceSet hold has an id other than 0, and the "
+                       "search spaces are of type common.",
+          .advice =
+              "Use searchSpaceZero and controlResourceSetZero for 0, and PDCCH-Config for UE-specific search spaces.",
+          .clause = "TS 38.331 PDCCH-ConfigCommon",
+          .given = "",
+          .bad =
+              AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType = absent\n" AT_INITIAL_PDCCH
+                               "commonSearchSpaceList[0].searchSpaceType.ue-Specific.dci-Formats = formats0-0-And-1-0",
+          .good = AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType.common.dci-Format0-0-AndFormat1-0 = {}",
+          .since = "0.1.0"},
      .run = pdcchCommonList},
     {.told = {.id = "pdcch-css-refs",
               .severity = RRC_RULE_ERROR,
-              .statement = "searchSpaceSIB1, searchSpaceOtherSystemInformation, pagingSearchSpace and ra-SearchSpace are 0 or an id of commonSearchSpaceList; 0 outside the initial bandwidth part only where that contains CORESET#0; searchSpaceSIB1 of the PCell is 0.",
+              .statement = "searchSpaceSIB1, searchSpaceOtherSystemInformation, pagingSearchSpace and ra-SearchSpace "
+                           "are 0 or an id of commonSearchSpaceList; 0 outside the initial bandwidth part only where "
+                           "that contains CORESET#0; searchSpaceSIB1 of the PCell is 0.",
               .advice = "Add the search space to commonSearchSpaceList.",
               .clause = "TS 38.331 PDCCH-ConfigCommon; TS 38.213 10.1",
               .given = "",
@@ -2002,7 +2049,8 @@ constexpr Rule table[] = {
      .run = pdcchCssRefs},
     {.told = {.id = "pdcch-initial-only",
               .severity = RRC_RULE_ERROR,
-              .statement = "controlResourceSetZero and searchSpaceZero are in the initial bandwidth part alone; firstPDCCH-MonitoringOccasionOfPO only in others, beside pagingSearchSpace.",
+              .statement = "controlResourceSetZero and searchSpaceZero are in the initial bandwidth part alone; "
+                           "firstPDCCH-MonitoringOccasionOfPO only in others, beside pagingSearchSpace.",
               .advice = "Leave the member out: CORESET#0 and search space 0 have their ids in every bandwidth part.",
               .clause = "TS 38.331 PDCCH-ConfigCommon, Cond InitialBWP-Only, OtherBWP",
               .given = "",
@@ -2012,7 +2060,8 @@ constexpr Rule table[] = {
      .run = pdcchInitialOnly},
     {.told = {.id = "pdcch-recovery-ss",
               .severity = RRC_RULE_ERROR,
-              .statement = "recoverySearchSpaceId is there with candidateBeamRSList, a search space of the downlink bandwidth part with the same id, and alone in its CORESET.",
+              .statement = "recoverySearchSpaceId is there with candidateBeamRSList, a search space of the downlink "
+                           "bandwidth part with the same id, and alone in its CORESET.",
               .advice = "Give beam failure recovery a search space with a CORESET of its own.",
               .clause = "TS 38.331 BeamFailureRecoveryConfig; TS 38.213 6",
               .given = "",
@@ -2020,39 +2069,49 @@ constexpr Rule table[] = {
               .good = AT_UL "bwp-Dedicated.beamFailureRecoveryConfig.setup.recoverySearchSpaceId = 2",
               .since = "0.1.0"},
      .run = pdcchRecoverySs},
-    {.told = {.id = "pdcch-dci2-0",
-              .severity = RRC_RULE_ERROR,
-              .statement = "DCI format 2_0 is monitored every 1, 2, 4, 5, 8, 10, 16 or 20 slots with one aggregation level, from the first symbols of the slot, and in a cell with slotFormatIndicator, which is set up only there.",
-              .advice = "Configure both slotFormatIndicator and a search space for format 2_0.",
-              .clause = "TS 38.331 SearchSpace; TS 38.213 11.1.1",
-              .given = "",
-              .bad = AN_SFI AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset = absent\n" AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset.sl40 = 5",
-              .good = AN_SFI,
-              .since = "0.1.0"},
+    {.told =
+         {.id = "pdcch-dci2-0",
+          .severity = RRC_RULE_ERROR,
+          .statement =
+              "DCI format 2_0 is monitored every 1, 2, 4, 5, 8, 10, 16 or 20 slots with one aggregation level, from "
+              "the first symbols of the slot, and in a cell with slotFormatIndicator, which is set up only there.",
+          .advice = "Configure both slotFormatIndicator and a search space for format 2_0.",
+          .clause = "TS 38.331 SearchSpace; TS 38.213 11.1.1",
+          .given = "",
+          .bad = AN_SFI AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset = absent\n" AT_COMMON_SPACE
+                                        "monitoringSlotPeriodicityAndOffset.sl40 = 5",
+          .good = AN_SFI,
+          .since = "0.1.0"},
      .run = pdcchDci20},
     {.told = {.id = "pdcch-dci2-1",
               .severity = RRC_RULE_ERROR,
-              .statement = "DCI format 2_1 is monitored every 1, 2 or 4 slots, once in a slot, and in a bandwidth part with downlinkPreemption, which is set up only there.",
+              .statement = "DCI format 2_1 is monitored every 1, 2 or 4 slots, once in a slot, and in a bandwidth part "
+                           "with downlinkPreemption, which is set up only there.",
               .advice = "Configure both downlinkPreemption and a search space for format 2_1.",
               .clause = "TS 38.331 SearchSpace; TS 38.213 11.2",
               .given = "",
-              .bad = A_PREEMPTION AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset = absent\n" AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset.sl5 = 0",
+              .bad = A_PREEMPTION AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset = absent\n" AT_COMMON_SPACE
+                                                  "monitoringSlotPeriodicityAndOffset.sl5 = 0",
               .good = A_PREEMPTION,
               .since = "0.1.0"},
      .run = pdcchDci21},
     {.told = {.id = "pdcch-int-position",
               .severity = RRC_RULE_ERROR,
-              .statement = "positionInDCI of a cell is a multiple of 14, its 14 bits lie within dci-PayloadSize, no two cells have the same, and each cell is configured.",
+              .statement = "positionInDCI of a cell is a multiple of 14, its 14 bits lie within dci-PayloadSize, no "
+                           "two cells have the same, and each cell is configured.",
               .advice = "Number the cells and give each 14 times its number.",
               .clause = "TS 38.331 DownlinkPreemption; TS 38.213 11.2",
               .given = "",
               .bad = A_PREEMPTION AT_PREEMPTION "int-ConfigurationPerServingCell[0].positionInDCI = 14",
-              .good = A_PREEMPTION AT_PREEMPTION "int-ConfigurationPerServingCell[0].positionInDCI = 14\n" AT_PREEMPTION "dci-PayloadSize = 28",
+              .good = A_PREEMPTION AT_PREEMPTION "int-ConfigurationPerServingCell[0].positionInDCI = 14\n" AT_PREEMPTION
+                                                 "dci-PayloadSize = 28",
               .since = "0.1.0"},
      .run = pdcchIntPosition},
     {.told = {.id = "pdcch-sfi",
               .severity = RRC_RULE_ERROR,
-              .statement = "Slot formats are 0..55 or 255, at most 512 for a cell; the combination index fits into dci-PayloadSize; the spacing is not above that of a bandwidth part of the cell or of the monitoring one; subcarrierSpacing2 is for paired spectrum and SUL; the cell is configured.",
+              .statement = "Slot formats are 0..55 or 255, at most 512 for a cell; the combination index fits into "
+                           "dci-PayloadSize; the spacing is not above that of a bandwidth part of the cell or of the "
+                           "monitoring one; subcarrierSpacing2 is for paired spectrum and SUL; the cell is configured.",
               .advice = "Mend the combinations of the cell.",
               .clause = "TS 38.331 SlotFormatCombinationsPerCell; TS 38.213 11.1.1",
               .given = "",
@@ -2062,33 +2121,49 @@ constexpr Rule table[] = {
      .run = pdcchSfi},
     {.told = {.id = "pdcch-fmt01-needs-config",
               .severity = RRC_RULE_WARNING,
-              .statement = "Where formats 0_1 and 1_1 are monitored, the bandwidth part has pdsch-Config and its uplink pusch-Config, which tell their fields.",
+              .statement = "Where formats 0_1 and 1_1 are monitored, the bandwidth part has pdsch-Config and its "
+                           "uplink pusch-Config, which tell their fields.",
               .advice = "Configure pdsch-Config and pusch-Config, or monitor formats 0_0 and 1_0.",
               .clause = "TS 38.212 7.3.1.1.2, 7.3.1.2.2",
               .given = "",
-              .bad = A_CORESET(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList[0].", "4") A_SPACE(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.searchSpacesToAddModList[0].", "5", "4", "ue-Specific.dci-Formats = formats0-1-And-1-1"),
-              .good = A_CORESET(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList[0].", "4") A_SPACE(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.searchSpacesToAddModList[0].", "5", "4", "ue-Specific.dci-Formats = formats0-0-And-1-0"),
+              .bad = A_CORESET(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList[0].", "4")
+                  A_SPACE(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.searchSpacesToAddModList[0].", "5", "4",
+                          "ue-Specific.dci-Formats = formats0-1-And-1-1"),
+              .good = A_CORESET(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList[0].", "4")
+                  A_SPACE(AT_CELL "initialDownlinkBWP.pdcch-Config.setup.searchSpacesToAddModList[0].", "5", "4",
+                          "ue-Specific.dci-Formats = formats0-0-And-1-0"),
               .since = "0.1.0"},
      .run = pdcchFmt01NeedsConfig},
-    {.told = {.id = "pdcch-tpc-index",
-              .severity = RRC_RULE_ERROR,
-              .statement = "tpc-Index is present unless there is a supplementary uplink, tpc-IndexSUL only with one; tpc-IndexPCell is in the SpCell alone, tpc-IndexPUCCH-SCell where there is a PUCCH SCell; targetCell is configured.",
-              .advice = "Send the indices that the cell has.",
-              .clause = "TS 38.331 PUSCH-TPC-CommandConfig, PUCCH-TPC-CommandConfig, Cond SUL, SUL-Only, PDCCH-OfSpcell, PDCCH-ofSpCellOrPUCCH-Scell",
-              .given = "",
-              .bad = AT_PHY "tpc-PUSCH-RNTI = 1002\n" AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-2 = {}\n" AT_PDCCH "tpc-PUSCH.setup.targetCell = 0",
-              .good = AT_PHY "tpc-PUSCH-RNTI = 1002\n" AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-2 = {}\n" AT_PDCCH "tpc-PUSCH.setup.targetCell = 0\n" AT_PDCCH "tpc-PUSCH.setup.tpc-Index = 1",
-              .since = "0.1.0"},
+    {.told =
+         {.id = "pdcch-tpc-index",
+          .severity = RRC_RULE_ERROR,
+          .statement =
+              "tpc-Index is present unless there is a supplementary uplink, tpc-IndexSUL only with one; tpc-IndexPCell "
+              "is in the SpCell alone, tpc-IndexPUCCH-SCell where there is a PUCCH SCell; targetCell is configured.",
+          .advice = "Send the indices that the cell has.",
+          .clause = "TS 38.331 PUSCH-TPC-CommandConfig, PUCCH-TPC-CommandConfig, Cond SUL, SUL-Only, PDCCH-OfSpcell, "
+                    "PDCCH-ofSpCellOrPUCCH-Scell",
+          .given = "",
+          .bad = AT_PHY "tpc-PUSCH-RNTI = 1002\n" AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-2 = {}\n" AT_PDCCH
+                        "tpc-PUSCH.setup.targetCell = 0",
+          .good =
+              AT_PHY "tpc-PUSCH-RNTI = 1002\n" AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-2 = {}\n" AT_PDCCH
+                     "tpc-PUSCH.setup.targetCell = 0\n" AT_PDCCH "tpc-PUSCH.setup.tpc-Index = 1",
+          .since = "0.1.0"},
      .run = pdcchTpcIndex},
-    {.told = {.id = "pdcch-cross-carrier",
-              .severity = RRC_RULE_ERROR,
-              .statement = "An SCell is scheduled by another configured cell that has own with cif-Presence, with a cif-InSchedulingCell of its own; its PDCCH-Config has search spaces alone, with ids of the scheduling cell and nrofCandidates.",
-              .advice = "Configure the scheduling cell with own and cif-Presence TRUE, and search spaces of the same ids there.",
-              .clause = "TS 38.331 CrossCarrierSchedulingConfig, SearchSpace, PDCCH-Config; TS 38.213 10.1",
-              .given = "SCell 1 is configured.",
-              .bad = CROSS_CARRIER AT_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = false",
-              .good = CROSS_CARRIER,
-              .since = "0.1.0"},
+    {.told =
+         {.id = "pdcch-cross-carrier",
+          .severity = RRC_RULE_ERROR,
+          .statement = "An SCell is scheduled by another configured cell that has own with cif-Presence, with a "
+                       "cif-InSchedulingCell of its own; its PDCCH-Config has search spaces alone, with ids of the "
+                       "scheduling cell and nrofCandidates.",
+          .advice =
+              "Configure the scheduling cell with own and cif-Presence TRUE, and search spaces of the same ids there.",
+          .clause = "TS 38.331 CrossCarrierSchedulingConfig, SearchSpace, PDCCH-Config; TS 38.213 10.1",
+          .given = "SCell 1 is configured.",
+          .bad = CROSS_CARRIER AT_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = false",
+          .good = CROSS_CARRIER,
+          .since = "0.1.0"},
      .run = pdcchCrossCarrier},
 };
 

@@ -231,7 +231,8 @@ void scellSsbless(Check& check)
 constexpr Rule table[] = {
     {.told = {.id = "scell-add-content",
               .severity = RRC_RULE_ERROR,
-              .statement = "An SCell that is added has sCellConfigCommon and sCellConfigDedicated; one that is modified has no sCellConfigCommon.",
+              .statement = "An SCell that is added has sCellConfigCommon and sCellConfigDedicated; one that is "
+                           "modified has no sCellConfigCommon.",
               .advice = "Send both when the SCell is added.",
               .clause = "TS 38.331 SCellConfig, Cond SCellAdd, SCellAddMod",
               .given = "SCell 1 is added.",
@@ -241,7 +242,8 @@ constexpr Rule table[] = {
      .run = scellAddContent},
     {.told = {.id = "scell-index",
               .severity = RRC_RULE_ERROR,
-              .statement = "sCellIndex is neither the servCellIndex of the PSCell nor an index of the other cell group.",
+              .statement =
+                  "sCellIndex is neither the servCellIndex of the PSCell nor an index of the other cell group.",
               .advice = "Take an index that is free in both cell groups.",
               .clause = "TS 38.331 SCellConfig; 5.3.5.5.9",
               .given = "The other cell group has cell 1.",
@@ -259,15 +261,18 @@ constexpr Rule table[] = {
               .good = "sCellToReleaseList[0] = 1\n" AT_STATE("0") "qcl-Type1.cell = 0",
               .since = "0.1.0"},
      .run = scellReleaseUsed},
-    {.told = {.id = "scell-kind-fields",
-              .severity = RRC_RULE_ERROR,
-              .statement = "beamFailureRecoveryConfig is on the SpCell alone, sCellDeactivationTimer on SCells without PUCCH, pathlossReferenceLinking on SCells.",
-              .advice = "Leave the member out.",
-              .clause = "TS 38.331 ServingCellConfig, BWP-UplinkDedicated, Cond SpCellOnly, ServingCellWithoutPUCCH, SCellOnly",
-              .given = "SCell 1 has an uplink.",
-              .bad = AT_SCELL_BFR,
-              .good = AT_UL "bwp-Dedicated.beamFailureRecoveryConfig.setup.recoverySearchSpaceId = 2",
-              .since = "0.1.0"},
+    {.told =
+         {.id = "scell-kind-fields",
+          .severity = RRC_RULE_ERROR,
+          .statement = "beamFailureRecoveryConfig is on the SpCell alone, sCellDeactivationTimer on SCells without "
+                       "PUCCH, pathlossReferenceLinking on SCells.",
+          .advice = "Leave the member out.",
+          .clause =
+              "TS 38.331 ServingCellConfig, BWP-UplinkDedicated, Cond SpCellOnly, ServingCellWithoutPUCCH, SCellOnly",
+          .given = "SCell 1 has an uplink.",
+          .bad = AT_SCELL_BFR,
+          .good = AT_UL "bwp-Dedicated.beamFailureRecoveryConfig.setup.recoverySearchSpaceId = 2",
+          .since = "0.1.0"},
      .run = scellKindFields},
     {.told = {.id = "scell-rlm",
               .severity = RRC_RULE_ERROR,
@@ -275,13 +280,16 @@ constexpr Rule table[] = {
               .advice = "Take purpose beamFailure and a CSI-RS resource of one port.",
               .clause = "TS 38.331 RadioLinkMonitoringConfig; TS 38.213 5, 6",
               .given = "SCell 1 has NZP CSI-RS resource 0, periodic and of one port.",
-              .bad = AT_SCELL_RLM "radioLinkMonitoringRS-Id = 0\n" AT_SCELL_RLM "purpose = rlf\n" AT_SCELL_RLM "detectionResource.csi-RS-Index = 0",
-              .good = AT_SCELL_RLM "radioLinkMonitoringRS-Id = 0\n" AT_SCELL_RLM "purpose = beamFailure\n" AT_SCELL_RLM "detectionResource.csi-RS-Index = 0",
+              .bad = AT_SCELL_RLM "radioLinkMonitoringRS-Id = 0\n" AT_SCELL_RLM "purpose = rlf\n" AT_SCELL_RLM
+                                  "detectionResource.csi-RS-Index = 0",
+              .good = AT_SCELL_RLM "radioLinkMonitoringRS-Id = 0\n" AT_SCELL_RLM "purpose = beamFailure\n" AT_SCELL_RLM
+                                   "detectionResource.csi-RS-Index = 0",
               .since = "0.1.0"},
      .run = scellRlm},
     {.told = {.id = "scell-ssbless",
               .severity = RRC_RULE_ERROR,
-              .statement = "An SCell without absoluteFrequencySSB has no smtc, no spacing or period of SS/PBCH blocks, names none of its own, and is in the band of the SpCell.",
+              .statement = "An SCell without absoluteFrequencySSB has no smtc, no spacing or period of SS/PBCH blocks, "
+                           "names none of its own, and is in the band of the SpCell.",
               .advice = "Send absoluteFrequencySSB, or leave out what speaks of the blocks.",
               .clause = "TS 38.331 FrequencyInfoDL, ServingCellConfigCommon",
               .given = "SCell 1 is added.",

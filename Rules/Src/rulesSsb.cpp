@@ -140,14 +140,14 @@ void ssbScs(Check& check)
                   const NrBand* const band = cell.band ? nrBand(*cell.band) : nullptr;
                   if (isFr2 ? mu != 3 && mu != 4 : mu > 1)
                   {
-                      check.error(scs).allowed("in FR%u it is %s kHz", isFr2 ? 2U : 1U, isFr2 ? "120 or 240" : "15 or 30");
+                      check.error(scs).allowed("in FR%u it is %s kHz", isFr2 ? 2U : 1U,
+                                               isFr2 ? "120 or 240" : "15 or 30");
                   }
                   else if (band != nullptr && (band->ssbMus >> mu & 1) == 0)
                   {
-                      check.warning(scs).allowed("band n%u has blocks of %s%s%s", band->number,
-                                                 (band->ssbMus & 1) != 0 ? "15 kHz" : "",
-                                                 (band->ssbMus & 3) == 3 ? " and " : "",
-                                                 (band->ssbMus & 2) != 0 ? "30 kHz" : "");
+                      check.warning(scs).allowed(
+                          "band n%u has blocks of %s%s%s", band->number, (band->ssbMus & 1) != 0 ? "15 kHz" : "",
+                          (band->ssbMus & 3) == 3 ? " and " : "", (band->ssbMus & 2) != 0 ? "30 kHz" : "");
                   }
               });
 }
@@ -224,7 +224,9 @@ void ssbRaster(Check& check)
 constexpr Rule table[] = {
     {.told = {.id = "ssb-bitmap",
               .severity = RRC_RULE_ERROR,
-              .statement = "ssb-PositionsInBurst has at least one bit, 4 bits up to 3 GHz, 8 above, 64 in FR2; unpaired bands with case C have 8 above 2.4 GHz already, or above 1.88 GHz as later releases say.",
+              .statement =
+                  "ssb-PositionsInBurst has at least one bit, 4 bits up to 3 GHz, 8 above, 64 in FR2; unpaired bands "
+                  "with case C have 8 above 2.4 GHz already, or above 1.88 GHz as later releases say.",
               .advice = "Take the bitmap of the frequency.",
               .clause = "TS 38.331 ServingCellConfigCommon; TS 38.213 4.1",
               .given = "",
@@ -234,7 +236,8 @@ constexpr Rule table[] = {
      .run = ssbBitmap},
     {.told = {.id = "ssb-cond",
               .severity = RRC_RULE_ERROR,
-              .statement = "ssb-PositionsInBurst is present with absoluteFrequencySSB and absent without; a cell that is added with SS/PBCH blocks has ssbSubcarrierSpacing.",
+              .statement = "ssb-PositionsInBurst is present with absoluteFrequencySSB and absent without; a cell that "
+                           "is added with SS/PBCH blocks has ssbSubcarrierSpacing.",
               .advice = "Send both, or none of them for an SCell without SS/PBCH blocks.",
               .clause = "TS 38.331 ServingCellConfigCommon, Cond AbsFreqSSB, HOAndServCellWithSSB",
               .given = "",
@@ -254,17 +257,20 @@ constexpr Rule table[] = {
      .run = ssbScs},
     {.told = {.id = "ssb-index-transmitted",
               .severity = RRC_RULE_ERROR,
-              .statement = "Each SSB-Index is less than the bits of ssb-PositionsInBurst of its cell, and its block is sent.",
+              .statement =
+                  "Each SSB-Index is less than the bits of ssb-PositionsInBurst of its cell, and its block is sent.",
               .advice = "Name a block that the cell sends.",
               .clause = "TS 38.331 SSB-Index; TS 38.213 4.1",
               .given = "",
               .bad = AT_STATE("1") "qcl-Type1.referenceSignal.ssb = 8",
-              .good = AT_STATE("1") "qcl-Type1.referenceSignal.ssb = 7\n" AT_COMMON "ssb-PositionsInBurst.mediumBitmap = C1",
+              .good = AT_STATE("1") "qcl-Type1.referenceSignal.ssb = 7\n" AT_COMMON
+                                    "ssb-PositionsInBurst.mediumBitmap = C1",
               .since = "0.1.0"},
      .run = ssbIndexTransmitted},
     {.told = {.id = "ssb-raster",
               .severity = RRC_RULE_ERROR,
-              .statement = "absoluteFrequencySSB of a PCell is on the synchronisation raster, and the block lies in a carrier of the cell.",
+              .statement = "absoluteFrequencySSB of a PCell is on the synchronisation raster, and the block lies in a "
+                           "carrier of the cell.",
               .advice = "Take the frequency of a GSCN within the carrier.",
               .clause = "TS 38.331 FrequencyInfoDL; TS 38.101-1 5.4.3; TS 38.104 5.4.3.1",
               .given = "",

@@ -280,7 +280,8 @@ void syncSmtc(Check& check)
         if (period != 0 && window != 0 && window != period)
         {
             check.error(&smtc->periodicityAndOffset)
-                .allowed("ssb-periodicityServingCell is %u ms%s", period, given == nullptr ? " where it is absent" : "");
+                .allowed("ssb-periodicityServingCell is %u ms%s", period,
+                         given == nullptr ? " where it is absent" : "");
         }
     }
 }
@@ -393,7 +394,8 @@ void syncServingMo(Check& check)
 constexpr Rule table[] = {
     {.told = {.id = "sync-present",
               .severity = RRC_RULE_ERROR,
-              .statement = "reconfigurationWithSync is present where the message changes or adds the SpCell or its key, and absent in RRCResume.",
+              .statement = "reconfigurationWithSync is present where the message changes or adds the SpCell or its "
+                           "key, and absent in RRCResume.",
               .advice = "Send it in RRCReconfiguration alone, when the SpCell changes.",
               .clause = "TS 38.331 SpCellConfig, Cond ReconfWithSync",
               .given = "The message changes the SpCell.",
@@ -403,7 +405,8 @@ constexpr Rule table[] = {
      .run = syncPresent},
     {.told = {.id = "sync-common-content",
               .severity = RRC_RULE_ERROR,
-              .statement = "A cell that is added has physCellId and downlinkConfigCommon, a PSCell and an SCell frequencies and initial bandwidth parts as well; an SpCell has absoluteFrequencySSB.",
+              .statement = "A cell that is added has physCellId and downlinkConfigCommon, a PSCell and an SCell "
+                           "frequencies and initial bandwidth parts as well; an SpCell has absoluteFrequencySSB.",
               .advice = "Send all of ServingCellConfigCommon when a cell is added.",
               .clause = "TS 38.331 ServingCellConfigCommon, DownlinkConfigCommon, UplinkConfigCommon, FrequencyInfoDL",
               .given = "",
@@ -413,7 +416,9 @@ constexpr Rule table[] = {
      .run = syncCommonContent},
     {.told = {.id = "sync-ul-band",
               .severity = RRC_RULE_ERROR,
-              .statement = "The uplink of paired spectrum and a supplementary one have frequencyBandList and absoluteFrequencyPointA, that of unpaired spectrum neither; frequencyShift7p5khz is for bands that share their grid with E-UTRA.",
+              .statement = "The uplink of paired spectrum and a supplementary one have frequencyBandList and "
+                           "absoluteFrequencyPointA, that of unpaired spectrum neither; frequencyShift7p5khz is for "
+                           "bands that share their grid with E-UTRA.",
               .advice = "Send the uplink's band and point A where it has its own.",
               .clause = "TS 38.331 FrequencyInfoUL, Cond FDD-OrSUL, FDD-OrSUL-Optional",
               .given = "",
@@ -423,7 +428,9 @@ constexpr Rule table[] = {
      .run = syncUlBand},
     {.told = {.id = "sync-band-list",
               .severity = RRC_RULE_ERROR,
-              .statement = "frequencyBandList has one entry; the SS/PBCH block lies in that band, the uplink of a cell is in the band of its downlink, a supplementary one in a band for it; uplinks of a band have the same additionalSpectrumEmission.",
+              .statement = "frequencyBandList has one entry; the SS/PBCH block lies in that band, the uplink of a cell "
+                           "is in the band of its downlink, a supplementary one in a band for it; uplinks of a band "
+                           "have the same additionalSpectrumEmission.",
               .advice = "Name the one band of the cell.",
               .clause = "TS 38.331 FrequencyInfoDL, FrequencyInfoUL; TS 38.101-1 5.2, 5.4",
               .given = "",
@@ -443,7 +450,8 @@ constexpr Rule table[] = {
      .run = syncSmtc},
     {.told = {.id = "sync-scg-index",
               .severity = RRC_RULE_ERROR,
-              .statement = "servCellIndex is absent for the PCell, and for the PSCell present, not 0 and no index of the master cell group.",
+              .statement = "servCellIndex is absent for the PCell, and for the PSCell present, not 0 and no index of "
+                           "the master cell group.",
               .advice = "Give the PSCell an index of its own.",
               .clause = "TS 38.331 SpCellConfig, Cond SCG",
               .given = "",
@@ -453,7 +461,8 @@ constexpr Rule table[] = {
      .run = syncScgIndex},
     {.told = {.id = "sync-rlf",
               .severity = RRC_RULE_ERROR,
-              .statement = "rlf-TimersAndConstants of a secondary cell group is setup alone, and there when the group is added; rlmInSyncOutOfSyncThreshold is not sent.",
+              .statement = "rlf-TimersAndConstants of a secondary cell group is setup alone, and there when the group "
+                           "is added; rlmInSyncOutOfSyncThreshold is not sent.",
               .advice = "Set up the timers of the secondary cell group.",
               .clause = "TS 38.331 SpCellConfig",
               .given = "",
@@ -463,7 +472,8 @@ constexpr Rule table[] = {
      .run = syncRlf},
     {.told = {.id = "sync-serving-mo",
               .severity = RRC_RULE_ERROR,
-              .statement = "Where the UE has a measConfig, the SpCell names its measurement object; an object that is named is a measObjectNR with the ssbFrequency of the cell.",
+              .statement = "Where the UE has a measConfig, the SpCell names its measurement object; an object that is "
+                           "named is a measObjectNR with the ssbFrequency of the cell.",
               .advice = "Name the object with the cell's absoluteFrequencySSB.",
               .clause = "TS 38.331 ServingCellConfig servingCellMO, Cond MeasObject",
               .given = "measConfig has object 1 with ssbFrequency 633312.",

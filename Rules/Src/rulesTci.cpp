@@ -30,7 +30,8 @@ void forQclInfos(Check& check, const Each& each)
 
 const NZP_CSI_RS_ResourceId* csiRsOf(const QCL_Info& info)
 {
-    return isChosen(&info.referenceSignal, T_QCL_Info_referenceSignal_csi_rs) ? &info.referenceSignal.u.csi_rs : nullptr;
+    return isChosen(&info.referenceSignal, T_QCL_Info_referenceSignal_csi_rs) ? &info.referenceSignal.u.csi_rs
+                                                                              : nullptr;
 }
 
 bool isSsb(const QCL_Info& info)
@@ -57,7 +58,8 @@ void forPeriodicStates(Check& check, const Each& each)
                     const NZP_CSI_RS_Resource* const resource = csi.nzpResources.element(resourceId);
                     const TCI_StateId* const id =
                         resource == nullptr ? nullptr : MEMBER(*resource, qcl_InfoPeriodicCSI_RS);
-                    const bool fits = bwp != nullptr && bwp->id <= maxNrofBWPs && resourceId < maxNrofNZP_CSI_RS_Resources;
+                    const bool fits =
+                        bwp != nullptr && bwp->id <= maxNrofBWPs && resourceId < maxNrofNZP_CSI_RS_Resources;
                     if (id != nullptr && fits && !seen[bwp->id][resourceId])
                     {
                         seen[bwp->id][resourceId] = true;
@@ -79,9 +81,8 @@ void tciOfTriggers(Check& check, Cell& cell)
     {
         for (const auto& info : check.tree.list<CSI_AssociatedReportConfigInfo>(&state.associatedReportConfigInfoList))
         {
-            const auto* const channel =
-                CHOSEN(check.tree, &info.resourcesForChannel, CSI_AssociatedReportConfigInfo_resourcesForChannel,
-                       nzp_CSI_RS);
+            const auto* const channel = CHOSEN(check.tree, &info.resourcesForChannel,
+                                               CSI_AssociatedReportConfigInfo_resourcesForChannel, nzp_CSI_RS);
             const CSI_ReportConfig* const report = csi.reports.element(info.reportConfigId);
             // The report may measure another carrier.
             const CSI_ResourceConfig* const config =
@@ -161,11 +162,11 @@ void tciRef(Check& check)
                     const bool isThere = bwp == nullptr || check.resolveBwp(*cell, Direction::Downlink, bwp) != nullptr;
                     if (isThere && resource != nullptr)
                     {
-                        check.resolve(check.model.csi(*cell).nzpResources, *resource, resource, "an NZP CSI-RS resource");
+                        check.resolve(check.model.csi(*cell).nzpResources, *resource, resource,
+                                      "an NZP CSI-RS resource");
                     }
                 });
-    forPeriodicStates(check,
-                      [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet&, const TCI_StateId& id)
+    forPeriodicStates(check, [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet&, const TCI_StateId& id)
                       { check.resolve(check.model.pdsch(bwp).tciStates, id, &id, "a TCI state"); });
     for (Cell& cell : check.model.cells())
     {
@@ -252,28 +253,28 @@ bool isTracking(const NZP_CSI_RS_ResourceSet& set)
 // Sources are of the kind that the target takes.
 void tciUsage(Check& check)
 {
-    forPeriodicStates(
-        check,
-        [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet& set, const TCI_StateId& id)
-        {
-            const TCI_State* const state = check.model.pdsch(bwp).tciStates.element(id);
-            if (state == nullptr)
-            {
-                return;
-            }
-            const QCL_Info& main = mainOf(*state);
-            const bool isOfSsb = isSsb(main) && main.qcl_Type == QCL_Info_qcl_Type_typeC;
-            const bool isOfTracking = csiRsOf(main) != nullptr && (main.qcl_Type == QCL_Info_qcl_Type_typeA ||
-                                                                   main.qcl_Type == QCL_Info_qcl_Type_typeB);
-            if (isTracking(set) && !isOfSsb)
-            {
-                check.warning(&id).allowed("CSI-RS for tracking take typeC from an ssb");
-            }
-            else if (!isTracking(set) && !isOfTracking && !(set.m.repetitionPresent != 0 && isOfSsb))
-            {
-                check.warning(&id).allowed("CSI-RS for CSI take typeA or typeB from CSI-RS for tracking");
-            }
-        });
+    forPeriodicStates(check,
+                      [&](Bwp& bwp, const NZP_CSI_RS_ResourceSet& set, const TCI_StateId& id)
+                      {
+                          const TCI_State* const state = check.model.pdsch(bwp).tciStates.element(id);
+                          if (state == nullptr)
+                          {
+                              return;
+                          }
+                          const QCL_Info& main = mainOf(*state);
+                          const bool isOfSsb = isSsb(main) && main.qcl_Type == QCL_Info_qcl_Type_typeC;
+                          const bool isOfTracking =
+                              csiRsOf(main) != nullptr &&
+                              (main.qcl_Type == QCL_Info_qcl_Type_typeA || main.qcl_Type == QCL_Info_qcl_Type_typeB);
+                          if (isTracking(set) && !isOfSsb)
+                          {
+                              check.warning(&id).allowed("CSI-RS for tracking take typeC from an ssb");
+                          }
+                          else if (!isTracking(set) && !isOfTracking && !(set.m.repetitionPresent != 0 && isOfSsb))
+                          {
+                              check.warning(&id).allowed("CSI-RS for CSI take typeA or typeB from CSI-RS for tracking");
+                          }
+                      });
     for (Cell& cell : check.model.cells())
     {
         for (Bwp& bwp : cell.downlink)
@@ -303,15 +304,18 @@ void tciUsage(Check& check)
 }
 
 constexpr Rule table[] = {
-    {.told = {.id = "tci-ref",
-              .severity = RRC_RULE_ERROR,
-              .statement = "The CSI-RS, cell and bandwidth part that a QCL-Info names are configured, TCI states that CSI-RS name are in PDSCH-Config of the bandwidth part where they are measured, and no CSI-RS is its own source.",
-              .advice = "Add what is named, or name what there is.",
-              .clause = "TS 38.331 TCI-State, NZP-CSI-RS-Resource",
-              .given = "",
-              .bad = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 4",
-              .good = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 2",
-              .since = "0.1.0"},
+    {.told =
+         {.id = "tci-ref",
+          .severity = RRC_RULE_ERROR,
+          .statement =
+              "The CSI-RS, cell and bandwidth part that a QCL-Info names are configured, TCI states that CSI-RS name "
+              "are in PDSCH-Config of the bandwidth part where they are measured, and no CSI-RS is its own source.",
+          .advice = "Add what is named, or name what there is.",
+          .clause = "TS 38.331 TCI-State, NZP-CSI-RS-Resource",
+          .given = "",
+          .bad = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 4",
+          .good = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 2",
+          .since = "0.1.0"},
      .run = tciRef},
     {.told = {.id = "tci-bwp-cond",
               .severity = RRC_RULE_ERROR,
@@ -325,17 +329,20 @@ constexpr Rule table[] = {
      .run = tciBwpCond},
     {.told = {.id = "tci-type-pair",
               .severity = RRC_RULE_ERROR,
-              .statement = "The two types of a TCI state differ, one of them is typeD and goes with typeA or typeC; a source in another cell gives typeC or typeD; typeD is for FR2.",
+              .statement = "The two types of a TCI state differ, one of them is typeD and goes with typeA or typeC; a "
+                           "source in another cell gives typeC or typeD; typeD is for FR2.",
               .advice = "Take typeA or typeC, with typeD in FR2.",
               .clause = "TS 38.214 5.1.5; TS 38.331 TCI-State",
               .given = "",
-              .bad = AT_STATE("3") "qcl-Type2.bwp-Id = 1\n" AT_STATE("3") "qcl-Type2.referenceSignal.csi-rs = 2\n" AT_STATE("3") "qcl-Type2.qcl-Type = typeA",
+              .bad = AT_STATE("3") "qcl-Type2.bwp-Id = 1\n" AT_STATE(
+                  "3") "qcl-Type2.referenceSignal.csi-rs = 2\n" AT_STATE("3") "qcl-Type2.qcl-Type = typeA",
               .good = AT_STATE("3") "qcl-Type1.qcl-Type = typeA",
               .since = "0.1.0"},
      .run = tciTypePair},
     {.told = {.id = "tci-usage",
               .severity = RRC_RULE_WARNING,
-              .statement = "CSI-RS for tracking take typeC from an ssb, CSI-RS for CSI typeA or typeB from those for tracking, PDCCH typeA from CSI-RS.",
+              .statement = "CSI-RS for tracking take typeC from an ssb, CSI-RS for CSI typeA or typeB from those for "
+                           "tracking, PDCCH typeA from CSI-RS.",
               .advice = "Let the chain be: ssb, CSI-RS for tracking, the rest.",
               .clause = "TS 38.214 5.1.5",
               .given = "",

@@ -47,8 +47,7 @@ void tddPeriodScs(Check& check)
                     const OSUINT32 period = patternOf(pattern).period;
                     if (period != 0 && nrTddPeriodAllowed(period, mu) == 0)
                     {
-                        atPeriod(check, pattern)
-                            .allowed("%u kHz as reference does not go with that period", khzOf(mu));
+                        atPeriod(check, pattern).allowed("%u kHz as reference does not go with that period", khzOf(mu));
                     }
                 });
 }
@@ -160,8 +159,7 @@ void tddRefScs(Check& check)
         }
         if (coarsest != nullptr)
         {
-            check.error(at).allowed("%s bandwidth part %u has %u kHz",
-                                    nameOf(coarsest->direction), coarsest->id,
+            check.error(at).allowed("%s bandwidth part %u has %u kHz", nameOf(coarsest->direction), coarsest->id,
                                     khzOf(*coarsest->mu()));
         }
     }
@@ -252,8 +250,7 @@ void tddDedicatedSlot(Check& check, const TddGrid& grid, OSUINT32 length, const 
     {
         ul = NR_SYMBOLS;
     }
-    else if (const auto* const given =
-                 CHOSEN(check.tree, &config.symbols, TDD_UL_DL_SlotConfig_symbols, explicit_))
+    else if (const auto* const given = CHOSEN(check.tree, &config.symbols, TDD_UL_DL_SlotConfig_symbols, explicit_))
     {
         dl = given->m.nrofDownlinkSymbolsPresent != 0 ? given->nrofDownlinkSymbols : 0U;
         ul = given->m.nrofUplinkSymbolsPresent != 0 ? given->nrofUplinkSymbols : 0U;
@@ -292,8 +289,8 @@ void tddDedicated(Check& check)
             continue;
         }
         const OSUINT32 length = hasOnlyExtended(cell) ? NR_SYMBOLS_EXTENDED : NR_SYMBOLS;
-        for (const auto& slot : check.tree.list<TDD_UL_DL_SlotConfig>(
-                 MEMBER(*dedicated, slotSpecificConfigurationsToAddModList)))
+        for (const auto& slot :
+             check.tree.list<TDD_UL_DL_SlotConfig>(MEMBER(*dedicated, slotSpecificConfigurationsToAddModList)))
         {
             tddDedicatedSlot(check, *grid, length, slot);
         }
@@ -386,14 +383,18 @@ void periodic(Check& check, const T* at, const Timing& timing, const Slots& slot
     (lost == all ? check.warning(at) : check.notice(at))
         .found("slot %u of every %u, symbols %u..%u", slots.offset, slots.period, symbols.start,
                symbols.start + symbols.size - 1)
-        .allowed("%u of %u occasions meet %s symbols", lost, all, against == NR_SYMBOL_DOWNLINK ? "downlink" : "uplink");
+        .allowed("%u of %u occasions meet %s symbols", lost, all,
+                 against == NR_SYMBOL_DOWNLINK ? "downlink" : "uplink");
 }
 
 // The symbols of a PUCCH resource; none where it is broken.
 NrSpan symbolsOf(const Tree& tree, const PUCCH_Resource* resource)
 {
     const PUCCH_Resource_format* const format = resource == nullptr ? nullptr : &resource->format;
-    const auto span = [](const auto* of) { return NrSpan{of->startingSymbolIndex, of->nrofSymbols}; };
+    const auto span = [](const auto* of)
+    {
+        return NrSpan{of->startingSymbolIndex, of->nrofSymbols};
+    };
     if (const auto* const of = CHOSEN(tree, format, PUCCH_Resource_format, format0))
     {
         return span(of);
@@ -458,8 +459,7 @@ void directionOfSrs(Check& check, Bwp& bwp, const Timing& timing)
     for (const IdEntry<SRS_Resource>& entry : check.model.srs(bwp).resources)
     {
         const SRS_Resource_resourceMapping& mapping = entry.element->resourceMapping;
-        const auto* const type =
-            CHOSEN(check.tree, &entry.element->resourceType, SRS_Resource_resourceType, periodic);
+        const auto* const type = CHOSEN(check.tree, &entry.element->resourceType, SRS_Resource_resourceType, periodic);
         if (type != nullptr && mapping.nrofSymbols < std::size(counts) && mapping.startPosition < NR_SYMBOLS)
         {
             const NrSpan symbols = {NR_SYMBOLS - 1U - mapping.startPosition, counts[mapping.nrofSymbols]};
@@ -490,10 +490,10 @@ void directionOfPusch(Check& check, const Timing& timing, const PUSCH_TimeDomain
     {
         NrSpan symbols{};
         const OSUINT32 k2 = row.m.k2Present != 0 ? row.k2 : timing.mu < 4 ? defaults[timing.mu] : 0;
-        if (nrSlivDecode(row.startSymbolAndLength, &symbols) != 0 &&
-            !isAlive(timing, k2, symbols, NR_SYMBOL_DOWNLINK))
+        if (nrSlivDecode(row.startSymbolAndLength, &symbols) != 0 && !isAlive(timing, k2, symbols, NR_SYMBOL_DOWNLINK))
         {
-            check.warning(&row).found("k2 %u, symbols %u..%u", k2, symbols.start, symbols.start + symbols.size - 1)
+            check.warning(&row)
+                .found("k2 %u, symbols %u..%u", k2, symbols.start, symbols.start + symbols.size - 1)
                 .allowed("from no downlink slot that leads to uplink symbols");
         }
     }
@@ -507,7 +507,8 @@ void directionOfPdsch(Check& check, const Timing& timing, const PDSCH_TimeDomain
         const OSUINT32 k0 = row.m.k0Present != 0 ? row.k0 : 0U;
         if (nrSlivDecode(row.startSymbolAndLength, &symbols) != 0 && !isAlive(timing, k0, symbols, NR_SYMBOL_UPLINK))
         {
-            check.warning(&row).found("k0 %u, symbols %u..%u", k0, symbols.start, symbols.start + symbols.size - 1)
+            check.warning(&row)
+                .found("k0 %u, symbols %u..%u", k0, symbols.start, symbols.start + symbols.size - 1)
                 .allowed("from no downlink slot that leads to downlink symbols");
         }
     }
@@ -569,14 +570,12 @@ void directionOfCsi(Check& check, Cell& cell)
     {
         const auto* const choice = MEMBER(*entry.element, periodicityAndOffset);
         const auto* const pattern = MEMBER(*entry.element, csi_IM_ResourceElementPattern);
-        const auto* const one =
-            CHOSEN(check.tree, pattern, CSI_IM_Resource_csi_IM_ResourceElementPattern, pattern1);
-        const auto* const zero =
-            CHOSEN(check.tree, pattern, CSI_IM_Resource_csi_IM_ResourceElementPattern, pattern0);
+        const auto* const one = CHOSEN(check.tree, pattern, CSI_IM_Resource_csi_IM_ResourceElementPattern, pattern1);
+        const auto* const zero = CHOSEN(check.tree, pattern, CSI_IM_Resource_csi_IM_ResourceElementPattern, pattern0);
         if (choice != nullptr && (one != nullptr || zero != nullptr))
         {
-            const NrSpan symbols = one != nullptr ? NrSpan{one->symbolLocation_p1, 1}
-                                                  : NrSpan{zero->symbolLocation_p0, 2};
+            const NrSpan symbols =
+                one != nullptr ? NrSpan{one->symbolLocation_p1, 1} : NrSpan{zero->symbolLocation_p0, 2};
             periodic(check, choice, *timing, slotsOf(choice, rsPeriods), symbols, NR_SYMBOL_UPLINK);
         }
     }
@@ -592,8 +591,8 @@ void directionOfReports(Check& check, Cell& cell)
     }
     for (const IdEntry<CSI_ReportConfig>& entry : check.model.csi(cell).reports)
     {
-        const auto* const type = CHOSEN(check.tree, &entry.element->reportConfigType,
-                                        CSI_ReportConfig_reportConfigType, periodic);
+        const auto* const type =
+            CHOSEN(check.tree, &entry.element->reportConfigType, CSI_ReportConfig_reportConfigType, periodic);
         if (type == nullptr)
         {
             continue;
@@ -688,7 +687,8 @@ void tddDirection(Check& check)
 constexpr Rule table[] = {
     {.told = {.id = "tdd-period-scs",
               .severity = RRC_RULE_ERROR,
-              .statement = "The period of a pattern goes with the reference spacing: 0.5 and 2.5 ms from 30 kHz, 1.25 ms from 60 kHz, 0.625 ms from 120 kHz on.",
+              .statement = "The period of a pattern goes with the reference spacing: 0.5 and 2.5 ms from 30 kHz, 1.25 "
+                           "ms from 60 kHz, 0.625 ms from 120 kHz on.",
               .advice = "Take a period that is a whole number of slots of the reference spacing.",
               .clause = "TS 38.213 11.1",
               .given = "",
@@ -698,7 +698,8 @@ constexpr Rule table[] = {
      .run = tddPeriodScs},
     {.told = {.id = "tdd-slots-sum",
               .severity = RRC_RULE_ERROR,
-              .statement = "Downlink and uplink slots of a pattern fit into its period, their symbols into the slots that are left, 14 in one; a cell has symbols of both directions.",
+              .statement = "Downlink and uplink slots of a pattern fit into its period, their symbols into the slots "
+                           "that are left, 14 in one; a cell has symbols of both directions.",
               .advice = "Take away slots or symbols, or lengthen the period.",
               .clause = "TS 38.213 11.1; TS 38.331 TDD-UL-DL-Pattern",
               .given = "",
@@ -718,7 +719,8 @@ constexpr Rule table[] = {
      .run = tddPeriod20ms},
     {.told = {.id = "tdd-ref-scs",
               .severity = RRC_RULE_ERROR,
-              .statement = "The reference spacing is 15, 30 or 60 kHz in FR1, 60 or 120 kHz in FR2, and not above that of any bandwidth part of the cell.",
+              .statement = "The reference spacing is 15, 30 or 60 kHz in FR1, 60 or 120 kHz in FR2, and not above that "
+                           "of any bandwidth part of the cell.",
               .advice = "Take the lowest spacing of the cell's bandwidth parts.",
               .clause = "TS 38.331 TDD-UL-DL-ConfigCommon; TS 38.213 11.1",
               .given = "",
@@ -728,17 +730,20 @@ constexpr Rule table[] = {
      .run = tddRefScs},
     {.told = {.id = "tdd-cell-kind",
               .severity = RRC_RULE_ERROR,
-              .statement = "tdd-UL-DL-ConfigurationCommon and tdd-UL-DL-ConfigurationDedicated are for cells in unpaired spectrum, the latter only beside the former.",
+              .statement = "tdd-UL-DL-ConfigurationCommon and tdd-UL-DL-ConfigurationDedicated are for cells in "
+                           "unpaired spectrum, the latter only beside the former.",
               .advice = "Leave the configuration out.",
               .clause = "TS 38.331 ServingCellConfigCommon, ServingCellConfig, Cond TDD",
               .given = "",
-              .bad = AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.allDownlink = null\n" AT_COMMON "tdd-UL-DL-ConfigurationCommon = absent",
+              .bad = AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.allDownlink = null\n" AT_COMMON
+                                      "tdd-UL-DL-ConfigurationCommon = absent",
               .good = AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.explicit.nrofDownlinkSymbols = 12",
               .since = "0.1.0"},
      .run = tddCellKind},
     {.told = {.id = "tdd-dedicated",
               .severity = RRC_RULE_ERROR,
-              .statement = "A dedicated slot is within the common period, gives at least one and no more symbols a direction than a slot has, and none the other direction than the common pattern.",
+              .statement = "A dedicated slot is within the common period, gives at least one and no more symbols a "
+                           "direction than a slot has, and none the other direction than the common pattern.",
               .advice = "Give directions to flexible symbols alone.",
               .clause = "TS 38.331 TDD-UL-DL-SlotConfig; TS 38.213 11.1",
               .given = "",
@@ -748,7 +753,8 @@ constexpr Rule table[] = {
      .run = tddDedicated},
     {.told = {.id = "tdd-direction",
               .severity = RRC_RULE_WARNING,
-              .statement = "What is periodic, search spaces, SS/PBCH blocks and rows of time domain allocations fall on symbols of their direction; acknowledgements reach uplink from every downlink slot.",
+              .statement = "What is periodic, search spaces, SS/PBCH blocks and rows of time domain allocations fall "
+                           "on symbols of their direction; acknowledgements reach uplink from every downlink slot.",
               .advice = "Move the resource to slots of its direction.",
               .clause = "TS 38.213 11.1, 9.2.3",
               .given = "",

@@ -72,8 +72,9 @@ private:
 
     bool isLinkedElsewhere() const
     {
-        const auto* const linking =
-            cell_ == nullptr || cell_->dedicated == nullptr ? nullptr : MEMBER(*cell_->dedicated, pathlossReferenceLinking);
+        const auto* const linking = cell_ == nullptr || cell_->dedicated == nullptr
+                                        ? nullptr
+                                        : MEMBER(*cell_->dedicated, pathlossReferenceLinking);
         return linking != nullptr && *linking == ServingCellConfig_pathlossReferenceLinking_spCell;
     }
 

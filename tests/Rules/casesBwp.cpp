@@ -8,7 +8,7 @@ namespace
 #define DL_BWP(member) AT_DL "bwp-Common.genericParameters." member
 #define UL_BWP(member) AT_UL "bwp-Common.genericParameters." member
 #define UPLINK_FREQUENCY                                                                                               \
-    AT_COMMON_UL "frequencyInfoUL.frequencyBandList[0] = 78\n" AT_COMMON_UL                                           \
+    AT_COMMON_UL "frequencyInfoUL.frequencyBandList[0] = 78\n" AT_COMMON_UL                                            \
                  "frequencyInfoUL.absoluteFrequencyPointA = 630058"
 #define SECOND_DL AT_CELL "downlinkBWP-ToAddModList[1]."
 
@@ -109,9 +109,8 @@ void bwpCases(CaseTable& table)
         .bad(UL_BWP("locationAndBandwidth"))
         .saying("RB 0..271, but downlink bandwidth part 1, RB 0..272, has another centre, by 0.5 RB")
         .good()
-        .silent(table.rule("bwp-tdd-centre").example(&RrcRule::bad) + "\n" AT_COMMON
-                                                                      "tdd-UL-DL-ConfigurationCommon = absent\n"
-                                                                      UPLINK_FREQUENCY)
+        .silent(table.rule("bwp-tdd-centre").example(&RrcRule::bad) +
+                "\n" AT_COMMON "tdd-UL-DL-ConfigurationCommon = absent\n" UPLINK_FREQUENCY)
         .with([](RrcRuleContext& known) { known.duplex = RRC_RULE_DUPLEX_FDD; })
         .undecided(AT_SYNC_ABSENT);
 
@@ -119,10 +118,10 @@ void bwpCases(CaseTable& table)
         .bad(AT_CELL "downlinkBWP-ToReleaseList[0]")
         .good()
         .fires(AT_UL "bwp-Id", AT_UL "bwp-Id = 0\n" AT_UPLINK "firstActiveUplinkBWP-Id = 0\n" AT_CELL
-                                     "firstActiveDownlinkBWP-Id = 0\n" AT_CELL
-                          "csi-MeasConfig = absent\n" AT_PDSCH "tci-StatesToAddModList = absent\n" AT_PDCCH
-                          "controlResourceSetToAddModList[0].tci-StatesPDCCH-ToAddList = absent\n" AT_PDCCH
-                          "controlResourceSetToAddModList[1].tci-StatesPDCCH-ToAddList = absent")
+                                     "firstActiveDownlinkBWP-Id = 0\n" AT_CELL "csi-MeasConfig = absent\n" AT_PDSCH
+                                     "tci-StatesToAddModList = absent\n" AT_PDCCH
+                                     "controlResourceSetToAddModList[0].tci-StatesPDCCH-ToAddList = absent\n" AT_PDCCH
+                                     "controlResourceSetToAddModList[1].tci-StatesPDCCH-ToAddList = absent")
         .fires(SECOND_DL "bwp-Id",
                SECOND_DL "bwp-Id = 3\n" SECOND_DL "bwp-Common.genericParameters.locationAndBandwidth = 1099\n" SECOND_DL
                          "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" SECOND_DL

@@ -29,9 +29,8 @@ void ableAnywhere(RrcRuleContext& known)
 void coresetCases(CaseTable& table)
 {
 #define AT_INITIAL_CORESETS AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList"
-    const std::string threeInInitial =
-        AT_SYNC_ABSENT "\n" A_CORESET(AT_INITIAL_CORESETS "[0].", "4") A_CORESET(AT_INITIAL_CORESETS "[1].", "5")
-            A_CORESET(AT_INITIAL_CORESETS "[2].", "6");
+    const std::string threeInInitial = AT_SYNC_ABSENT "\n" A_CORESET(AT_INITIAL_CORESETS "[0].", "4")
+        A_CORESET(AT_INITIAL_CORESETS "[1].", "5") A_CORESET(AT_INITIAL_CORESETS "[2].", "6");
     table.rule("pdcch-counts")
         .bad(AT_CORESETS)
         .saying("4 CORESETs, but a bandwidth part has at most 3")
@@ -77,7 +76,7 @@ void coresetCases(CaseTable& table)
         // Without the carrier the bandwidth part may begin at a multiple of 6.
         .fires(AT_CORESETS "[0].frequencyDomainResources",
                AT_SYNC_ABSENT "\n" AT_DL "bwp-Common.genericParameters.locationAndBandwidth = 2199\n" // 269 PRB
-                   AT_UL "bwp-Common.genericParameters.locationAndBandwidth = 2199")
+               AT_UL "bwp-Common.genericParameters.locationAndBandwidth = 2199")
         .with(inDelta)
         .undecided(AT_SYNC_ABSENT)
         .with(inDelta);
@@ -171,8 +170,8 @@ void searchSpaceCases(CaseTable& table)
         .fires(AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType",
                AT_INITIAL_PDCCH "commonSearchSpaceList[0].searchSpaceType = absent")
         .with(inDelta)
-        .fires(AT_SPACE "controlResourceSetId", AT_CELL "tag-Id = 0\n" AT_DL "bwp-Id = 1\n" AT_SPACE "searchSpaceId = 2\n" AT_SPACE
-                                                      "controlResourceSetId = 2")
+        .fires(AT_SPACE "controlResourceSetId", AT_CELL "tag-Id = 0\n" AT_DL "bwp-Id = 1\n" AT_SPACE
+                                                        "searchSpaceId = 2\n" AT_SPACE "controlResourceSetId = 2")
         .after("", "")
         .saying("search space 2 is there: its CORESET stays")
         .silent(AT_CELL "tag-Id = 0\n" AT_DL "bwp-Id = 1\n" AT_SPACE "searchSpaceId = 2\n" SYMBOLS(AT_SPACE, "8000"))
@@ -245,10 +244,9 @@ void searchSpaceCases(CaseTable& table)
         .as(RRC_RULE_WARNING)
         .saying("no more than 2 candidates differ")
         .silent(AT_FALLBACK_SPACE "nrofCandidates.aggregationLevel8 = n2")
-        .fires(AT_COMMON_SPACE "nrofCandidates",
-               AT_COMMON_SPACE "nrofCandidates.aggregationLevel2 = n0\n" AT_COMMON_SPACE
-                               "nrofCandidates.aggregationLevel4 = n0\n" AT_COMMON_SPACE
-                               "nrofCandidates.aggregationLevel8 = n0")
+        .fires(AT_COMMON_SPACE "nrofCandidates", AT_COMMON_SPACE
+               "nrofCandidates.aggregationLevel2 = n0\n" AT_COMMON_SPACE
+               "nrofCandidates.aggregationLevel4 = n0\n" AT_COMMON_SPACE "nrofCandidates.aggregationLevel8 = n0")
         .silent(AN_SFI AT_COMMON_SPACE "searchSpaceType.common.dci-Format0-0-AndFormat1-0 = absent\n" AT_COMMON_SPACE
                                        "nrofCandidates.aggregationLevel2 = n0\n" AT_COMMON_SPACE
                                        "nrofCandidates.aggregationLevel4 = n0\n" AT_COMMON_SPACE
@@ -269,7 +267,8 @@ void searchSpaceCases(CaseTable& table)
         .saying("72 CCEs")
         .silent(AT_SPACE "nrofCandidates.aggregationLevel16 = n2")
         .fires(AT_SCHEDULED "searchSpacesToAddModList",
-               std::string(ADD_SCELL) + AT_SCHEDULED "searchSpacesToAddModList[0].nrofCandidates.aggregationLevel16 = n4")
+               std::string(ADD_SCELL) + AT_SCHEDULED
+                   "searchSpacesToAddModList[0].nrofCandidates.aggregationLevel16 = n4")
         .fires(AT_SPACES, AT_SPACE "nrofCandidates.aggregationLevel1 = n8\n" AT_SPACE
                                    "nrofCandidates.aggregationLevel2 = n8\n" SYMBOLS(AT_SPACE, "A000"))
         .as(RRC_RULE_WARNING)
@@ -312,9 +311,8 @@ void groupCases(CaseTable& table)
                AT_PDCCH_COMMON "firstPDCCH-MonitoringOccasionOfPO.sCS15KHZoneT[0] = 0")
         .silent(AT_PDCCH_COMMON "pagingSearchSpace = 0\n" AT_PDCCH_COMMON
                                 "firstPDCCH-MonitoringOccasionOfPO.sCS15KHZoneT[0] = 0")
-        .fires(AT_INITIAL_PDCCH "firstPDCCH-MonitoringOccasionOfPO",
-               AT_INITIAL_PDCCH "pagingSearchSpace = 0\n" AT_INITIAL_PDCCH
-                                "firstPDCCH-MonitoringOccasionOfPO.sCS15KHZoneT[0] = 0");
+        .fires(AT_INITIAL_PDCCH "firstPDCCH-MonitoringOccasionOfPO", AT_INITIAL_PDCCH
+               "pagingSearchSpace = 0\n" AT_INITIAL_PDCCH "firstPDCCH-MonitoringOccasionOfPO.sCS15KHZoneT[0] = 0");
 
 #define AT_BFR AT_UL "bwp-Dedicated.beamFailureRecoveryConfig.setup."
     table.rule("pdcch-recovery-ss")
@@ -352,8 +350,7 @@ void groupCases(CaseTable& table)
         .saying("2 occasions in a slot")
         .fires(AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-1",
                A_PREEMPTION AT_PDCCH "downlinkPreemption = absent")
-        .fires(AT_PREEMPTION "int-RNTI",
-               A_PREEMPTION AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-1 = absent")
+        .fires(AT_PREEMPTION "int-RNTI", A_PREEMPTION AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-1 = absent")
         .undecided(A_PREEMPTION AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-1 = absent")
         .with(inDelta);
 
@@ -380,9 +377,8 @@ void groupCases(CaseTable& table)
         .fires(AT_SFI_CELL "positionInDCI", AN_SFI AT_SFI_CELL "positionInDCI = 20")
         .saying("1 bits from there on leave the dci-PayloadSize of 20")
         .silent(AN_SFI AT_SFI_CELL "positionInDCI = 19")
-        .fires(AT_SFI_CELL "positionInDCI",
-               AN_SFI AT_SFI_CELL "positionInDCI = 18\n" AT_SFI_CELL
-                                  "slotFormatCombinations[0].slotFormatCombinationId = 4")
+        .fires(AT_SFI_CELL "positionInDCI", AN_SFI AT_SFI_CELL "positionInDCI = 18\n" AT_SFI_CELL
+                                                               "slotFormatCombinations[0].slotFormatCombinationId = 4")
         .silent(AN_SFI AT_SFI_CELL "positionInDCI = 18\n" AT_SFI_CELL
                                    "slotFormatCombinations[0].slotFormatCombinationId = 3")
         .fires(AT_SFI_CELL "subcarrierSpacing", AN_SFI AT_SFI_CELL "subcarrierSpacing = kHz60")
@@ -421,7 +417,7 @@ void otherCases(CaseTable& table)
 
 #define AT_TPC AT_PDCCH "tpc-PUSCH.setup."
 #define FORMAT_2_2                                                                                                     \
-    AT_PHY "tpc-PUSCH-RNTI = 1002\n" AT_PHY "tpc-PUCCH-RNTI = 1003\n" AT_COMMON_SPACE                                   \
+    AT_PHY "tpc-PUSCH-RNTI = 1002\n" AT_PHY "tpc-PUCCH-RNTI = 1003\n" AT_COMMON_SPACE                                  \
            "searchSpaceType.common.dci-Format2-2 = {}\n"
     table.rule("pdcch-tpc-index")
         .bad(AT_TPC "tpc-Index")
@@ -432,16 +428,17 @@ void otherCases(CaseTable& table)
         .undecided(FORMAT_2_2 AT_TPC "tpc-IndexSUL = 2")
         .with(inDelta)
         .silent(FORMAT_2_2 AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPCell = 1")
-        .fires(AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPUCCH-SCell",
-               FORMAT_2_2 AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPCell = 1\n" AT_PDCCH
-                                   "tpc-PUCCH.setup.tpc-IndexPUCCH-SCell = 1")
-        .fires(AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPCell",
-               FORMAT_2_2 AT_PDCCH "tpc-PUCCH.setup = {}");
+        .fires(AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPUCCH-SCell", FORMAT_2_2 AT_PDCCH
+               "tpc-PUCCH.setup.tpc-IndexPCell = 1\n" AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPUCCH-SCell = 1")
+        .fires(AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPCell", FORMAT_2_2 AT_PDCCH "tpc-PUCCH.setup = {}");
 
 #define AT_OTHER AT_SCELL_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.other."
     Cases cross = table.rule("pdcch-cross-carrier");
     const std::string scheduled = std::string(ADD_SCELL) + CROSS_CARRIER;
-    const auto not_ = [&](const char* changes) { return scheduled + changes; };
+    const auto not_ = [&](const char* changes)
+    {
+        return scheduled + changes;
+    };
     cross.fires(AT_OTHER "schedulingCellId", std::string(ADD_SCELL) + cross.example(&RrcRule::bad))
         .silent(std::string(ADD_SCELL) + cross.example(&RrcRule::good))
         .fires(AT_OTHER "schedulingCellId", not_(AT_CELL "crossCarrierSchedulingConfig = absent"))

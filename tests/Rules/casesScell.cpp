@@ -12,7 +12,9 @@ void scellCases(CaseTable& table)
     };
 
     const auto withSCell = [](const Cases& cases, const char* RrcRule::*which)
-    { return ADD_SCELL_WITH_UPLINK + cases.example(which); };
+    {
+        return ADD_SCELL_WITH_UPLINK + cases.example(which);
+    };
 
     Cases content = table.rule("scell-add-content");
     content.fires(AT_SCELL "sCellConfigDedicated", withSCell(content, &RrcRule::bad))
@@ -63,14 +65,12 @@ void scellCases(CaseTable& table)
 
 #define AT_SCELL_RS AT_SCELL_CELL "csi-MeasConfig.setup.nzp-CSI-RS-ResourceToAddModList[0]."
 #define SCELL_RS                                                                                                       \
-    AT_SCELL_RS "nzp-CSI-RS-ResourceId = 0\n" AT_SCELL_RS                                                              \
-                "resourceMapping.frequencyDomainAllocation.row1 = 10\n" AT_SCELL_RS                                    \
-                "resourceMapping.nrofPorts = p1\n" AT_SCELL_RS                                                         \
-                "resourceMapping.firstOFDMSymbolInTimeDomain = 4\n" AT_SCELL_RS                                        \
-                "resourceMapping.cdm-Type = noCDM\n" AT_SCELL_RS "resourceMapping.density.three = null\n" AT_SCELL_RS  \
-                "resourceMapping.freqBand.startingRB = 0\n" AT_SCELL_RS                                                \
-                "resourceMapping.freqBand.nrofRBs = 276\n" AT_SCELL_RS "powerControlOffset = 0\n" AT_SCELL_RS          \
-                "scramblingID = 43\n"
+    AT_SCELL_RS                                                                                                        \
+        "nzp-CSI-RS-ResourceId = 0\n" AT_SCELL_RS "resourceMapping.frequencyDomainAllocation.row1 = 10\n" AT_SCELL_RS  \
+        "resourceMapping.nrofPorts = p1\n" AT_SCELL_RS "resourceMapping.firstOFDMSymbolInTimeDomain = 4\n" AT_SCELL_RS \
+        "resourceMapping.cdm-Type = noCDM\n" AT_SCELL_RS "resourceMapping.density.three = null\n" AT_SCELL_RS          \
+        "resourceMapping.freqBand.startingRB = 0\n" AT_SCELL_RS "resourceMapping.freqBand.nrofRBs = 276\n" AT_SCELL_RS \
+        "powerControlOffset = 0\n" AT_SCELL_RS "scramblingID = 43\n"
 #define SCELL_RS_PERIOD AT_SCELL_RS "periodicityAndOffset.slots80 = 2\n"
     Cases rlm = table.rule("scell-rlm");
     const std::string bad = rlm.example(&RrcRule::bad);
@@ -80,9 +80,9 @@ void scellCases(CaseTable& table)
         .silent(ADD_SCELL SCELL_RS SCELL_RS_PERIOD + good)
         .fires(AT_SCELL_RLM "detectionResource.csi-RS-Index", ADD_SCELL SCELL_RS + good)
         .saying("not a periodic one of one port")
-        .fires(AT_SCELL_RLM "detectionResource",
-               ADD_SCELL + good + "\n" AT_SCELL_RLM "detectionResource = absent\n" AT_SCELL_RLM
-                                  "detectionResource.ssb-Index = 0");
+        .fires(AT_SCELL_RLM "detectionResource", ADD_SCELL + good +
+                                                     "\n" AT_SCELL_RLM "detectionResource = absent\n" AT_SCELL_RLM
+                                                     "detectionResource.ssb-Index = 0");
 
     Cases without = table.rule("scell-ssbless");
     without.fires(AT_SCELL "smtc", ADD_SCELL + without.example(&RrcRule::bad))

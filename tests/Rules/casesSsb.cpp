@@ -60,12 +60,12 @@ void ssbCases(CaseTable& table)
                AT_PUSCH "pusch-PowerControl.pathlossReferenceRSToAddModList[0].referenceSignal.ssb-Index = 8")
         // The block is one of the cell that is named.
         .silent(ADD_SCELL AT_STATE("1") "qcl-Type1.cell = 1\n" AT_SCELL_COMMON
-                                        "ssb-PositionsInBurst.mediumBitmap = C1\n" AT_STATE("1")
-                                            "qcl-Type1.referenceSignal.ssb = 7")
+                                        "ssb-PositionsInBurst.mediumBitmap = C1\n" AT_STATE(
+                                            "1") "qcl-Type1.referenceSignal.ssb = 7")
         .fires(AT_STATE("1") "qcl-Type1.referenceSignal.ssb",
                ADD_SCELL AT_STATE("1") "qcl-Type1.cell = 1\n" AT_COMMON
-                                       "ssb-PositionsInBurst.mediumBitmap = C1\n" AT_STATE("1")
-                                           "qcl-Type1.referenceSignal.ssb = 7")
+                                       "ssb-PositionsInBurst.mediumBitmap = C1\n" AT_STATE(
+                                           "1") "qcl-Type1.referenceSignal.ssb = 7")
         .as(RRC_RULE_WARNING)
         .undecided(AT_SYNC_ABSENT)
         .with(inDelta)

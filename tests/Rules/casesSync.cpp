@@ -62,9 +62,12 @@ void syncCases(CaseTable& table)
 
 #define AT_UL_FREQUENCY AT_COMMON_UL "frequencyInfoUL."
 #define OWN_UPLINK                                                                                                     \
-    AT_UL_FREQUENCY "frequencyBandList[0] = 78\n" AT_UL_FREQUENCY "absoluteFrequencyPointA = 630058\n" AT_COMMON        \
+    AT_UL_FREQUENCY "frequencyBandList[0] = 78\n" AT_UL_FREQUENCY "absoluteFrequencyPointA = 630058\n" AT_COMMON       \
                     "tdd-UL-DL-ConfigurationCommon = absent\n"
-    const auto inPaired = [](RrcRuleContext& known) { known.duplex = RRC_RULE_DUPLEX_FDD; };
+    const auto inPaired = [](RrcRuleContext& known)
+    {
+        known.duplex = RRC_RULE_DUPLEX_FDD;
+    };
     table.rule("sync-ul-band")
         .bad(AT_UL_FREQUENCY "frequencyShift7p5khz")
         .saying("band n78 shares no grid with E-UTRA")
@@ -75,8 +78,7 @@ void syncCases(CaseTable& table)
         .as(RRC_RULE_WARNING)
         .silent(OWN_UPLINK)
         .with(inPaired)
-        .fires(AT_UL_FREQUENCY "absoluteFrequencyPointA",
-               OWN_UPLINK AT_UL_FREQUENCY "absoluteFrequencyPointA = absent")
+        .fires(AT_UL_FREQUENCY "absoluteFrequencyPointA", OWN_UPLINK AT_UL_FREQUENCY "absoluteFrequencyPointA = absent")
         .with(inPaired)
         .fires(AT_UL_FREQUENCY "frequencyBandList", OWN_UPLINK AT_UL_FREQUENCY "frequencyBandList = absent")
         .with(inPaired);
@@ -94,8 +96,9 @@ void syncCases(CaseTable& table)
         .as(RRC_RULE_WARNING)
         .saying("downlink of band n79 is 4400..5000 MHz")
         .fires(AT_SCELL_COMMON "uplinkConfigCommon.frequencyInfoUL.additionalSpectrumEmission",
-               ADD_SCELL_WITH_UPLINK AT_UL_FREQUENCY "additionalSpectrumEmission = 1\n" AT_SCELL_COMMON
-                                                     "uplinkConfigCommon.frequencyInfoUL.additionalSpectrumEmission = 2")
+               ADD_SCELL_WITH_UPLINK AT_UL_FREQUENCY
+               "additionalSpectrumEmission = 1\n" AT_SCELL_COMMON
+               "uplinkConfigCommon.frequencyInfoUL.additionalSpectrumEmission = 2")
         .as(RRC_RULE_WARNING)
         .silent(ADD_SCELL_WITH_UPLINK AT_UL_FREQUENCY
                 "additionalSpectrumEmission = 1\n" AT_SCELL_COMMON
@@ -133,8 +136,7 @@ void syncCases(CaseTable& table)
         .good()
         .silent(AS_SCG "spCellConfig.rlf-TimersAndConstants = absent")
         .with(inDelta)
-        .fires("spCellConfig.rlf-TimersAndConstants",
-               AS_SCG
+        .fires("spCellConfig.rlf-TimersAndConstants", AS_SCG
                "spCellConfig.rlf-TimersAndConstants = absent\nspCellConfig.rlf-TimersAndConstants.release = null")
         .with(inDelta)
         .saying("release, but a secondary cell group has setup alone")

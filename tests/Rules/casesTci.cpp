@@ -61,8 +61,8 @@ void tciCases(CaseTable& table)
         .saying("CSI-RS for tracking take typeC from an ssb")
         .fires(AT_CORESET "tci-StatesPDCCH-ToAddList[0]", AT_CORESET "tci-StatesPDCCH-ToAddList[0] = 0")
         .as(RRC_RULE_NOTICE)
-        .fires(AT_CORESET "tci-StatesPDCCH-ToAddList[0]", AT_STATE("3") "qcl-Type1.qcl-Type = typeC\n" AT_CORESET
-                                                                        "tci-StatesPDCCH-ToAddList[0] = 3")
+        .fires(AT_CORESET "tci-StatesPDCCH-ToAddList[0]",
+               AT_STATE("3") "qcl-Type1.qcl-Type = typeC\n" AT_CORESET "tci-StatesPDCCH-ToAddList[0] = 3")
         .silent(AT_CORESET "tci-StatesPDCCH-ToAddList[0] = 3");
 }
 

@@ -5,7 +5,7 @@ namespace test
 
 #define AT_PATTERN2 AT_TDD "pattern2."
 #define A_PATTERN2(period)                                                                                             \
-    AT_PATTERN2 "dl-UL-TransmissionPeriodicity = " period "\n" AT_PATTERN2 "nrofDownlinkSlots = 1\n" AT_PATTERN2        \
+    AT_PATTERN2 "dl-UL-TransmissionPeriodicity = " period "\n" AT_PATTERN2 "nrofDownlinkSlots = 1\n" AT_PATTERN2       \
                 "nrofDownlinkSymbols = 0\n" AT_PATTERN2 "nrofUplinkSlots = 0\n" AT_PATTERN2 "nrofUplinkSymbols = 0\n"
 
 void tddCases(CaseTable& table)
@@ -25,12 +25,12 @@ void tddCases(CaseTable& table)
         .saying("0 of 5 slots are left")
         .silent(AT_TDD "pattern1.nrofDownlinkSlots = 2\n" AT_TDD "pattern1.nrofDownlinkSymbols = 13\n" AT_TDD
                        "pattern1.nrofUplinkSymbols = 13")
-        .fires(AT_TDD "pattern1", AT_TDD "pattern1.nrofDownlinkSlots = 5\n" AT_TDD
-                                         "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
-                                         "pattern1.nrofUplinkSlots = 0\n" AT_TDD "pattern1.nrofUplinkSymbols = 0")
+        .fires(AT_TDD "pattern1",
+               AT_TDD "pattern1.nrofDownlinkSlots = 5\n" AT_TDD "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
+                      "pattern1.nrofUplinkSlots = 0\n" AT_TDD "pattern1.nrofUplinkSymbols = 0")
         .as(RRC_RULE_WARNING)
-        .fires(AT_PATTERN2 "nrofUplinkSymbols", A_PATTERN2("ms2p5") AT_PATTERN2 "nrofUplinkSlots = 4\n" AT_PATTERN2
-                                                                                "nrofUplinkSymbols = 1");
+        .fires(AT_PATTERN2 "nrofUplinkSymbols",
+               A_PATTERN2("ms2p5") AT_PATTERN2 "nrofUplinkSlots = 4\n" AT_PATTERN2 "nrofUplinkSymbols = 1");
 
     table.rule("tdd-period-20ms")
         .bad(AT_TDD "pattern1.dl-UL-TransmissionPeriodicity-v1530")
@@ -68,9 +68,9 @@ void tddCases(CaseTable& table)
         .silent(AT_TDD_DEDICATED "slotIndex = 4\n" AT_TDD_DEDICATED "symbols.allUplink = null")
         .fires(AT_TDD_DEDICATED "symbols",
                AT_TDD_DEDICATED "slotIndex = 2\n" AT_TDD_DEDICATED "symbols.allUplink = null")
-        .fires(AT_TDD_DEDICATED "symbols", AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED
-                                                            "symbols.explicit.nrofDownlinkSymbols = 10\n"
-                                                            AT_TDD_DEDICATED "symbols.explicit.nrofUplinkSymbols = 5")
+        .fires(AT_TDD_DEDICATED "symbols", AT_TDD_DEDICATED
+               "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.explicit.nrofDownlinkSymbols = 10\n" AT_TDD_DEDICATED
+               "symbols.explicit.nrofUplinkSymbols = 5")
         .saying("10 downlink and 5 uplink symbols")
         .fires(AT_TDD_DEDICATED "symbols", AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.explicit = {}")
         .undecided(AT_SYNC_ABSENT "\n" AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED
@@ -112,11 +112,10 @@ void tddCases(CaseTable& table)
                AT_PUCCH "dl-DataToUL-ACK[0] = 1\n" AT_PUCCH "dl-DataToUL-ACK[1] = absent\n" AT_PUCCH
                         "dl-DataToUL-ACK[1] = absent\n" AT_PUCCH "dl-DataToUL-ACK[1] = absent")
         .saying("from downlink slot 0 of 5 none of them reaches uplink")
-        .fires(AT_COMMON "ssb-PositionsInBurst", AT_COMMON "ssb-PositionsInBurst = absent\n" AT_COMMON
-                                                           "ssb-PositionsInBurst.mediumBitmap = FF\n" AT_TDD
-                                                           "pattern1.nrofUplinkSlots = 2\n" AT_TDD
-                                                           "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
-                                                           "pattern1.nrofUplinkSymbols = 0")
+        .fires(AT_COMMON "ssb-PositionsInBurst",
+               AT_COMMON "ssb-PositionsInBurst = absent\n" AT_COMMON "ssb-PositionsInBurst.mediumBitmap = FF\n" AT_TDD
+                         "pattern1.nrofUplinkSlots = 2\n" AT_TDD "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
+                         "pattern1.nrofUplinkSymbols = 0")
         .saying("block 6 at symbol 44")
         .undecided(AT_SYNC_ABSENT)
         .with(inDelta);
