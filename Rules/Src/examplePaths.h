@@ -69,11 +69,11 @@
 #define AT_SCHEDULED AT_SCELL_DL "bwp-Dedicated.pdcch-Config.setup."
 #define CROSS_CARRIER                                                                                                  \
     AT_CELL                                                                                                            \
-        "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = true\n" AT_SCELL_CELL                      \
-        "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 0\n" AT_SCELL_CELL                   \
-        "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1\n" AT_SCELL_DL                 \
-        "bwp-Dedicated.pdcch-Config = absent\n" AT_SCHEDULED                                                           \
-        "searchSpacesToAddModList[0].searchSpaceId = 2\n" SOME_CANDIDATES(AT_SCHEDULED "searchSpacesToAddModList[0].")
+    "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = true\n" AT_SCELL_CELL                          \
+    "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 0\n" AT_SCELL_CELL                       \
+    "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1\n" AT_SCELL_DL                     \
+    "bwp-Dedicated.pdcch-Config = absent\n" AT_SCHEDULED                                                               \
+    "searchSpacesToAddModList[0].searchSpaceId = 2\n" SOME_CANDIDATES(AT_SCHEDULED "searchSpacesToAddModList[0].")
 
 #define AT_TDD AT_COMMON "tdd-UL-DL-ConfigurationCommon."
 #define AT_TDD_DEDICATED AT_CELL "tdd-UL-DL-ConfigurationDedicated.slotSpecificConfigurationsToAddModList[0]."

@@ -64,7 +64,8 @@ int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext
     forRules(
         [&](const Rule& rule, OSUINT32 index)
         {
-            if (wanted == nullptr || wanted(arg, &rule.told) != 0)
+            const bool isWanted = wanted == nullptr || wanted(arg, &rule.told) != 0;
+            if (isWanted && !memory.failed())
             {
                 check.begin(rule, index);
                 rule.run(check);

@@ -549,6 +549,10 @@ void directionOfSearchSpaces(Check& check, Bwp& bwp, const Timing& timing)
 // Reference signals of a cell whose bandwidth parts all count slots alike.
 void directionOfCsi(Check& check, Cell& cell)
 {
+    if (cell.downlink.empty())
+    {
+        return; // the heap is exhausted
+    }
     const Known<Timing> timing = timingOf(check.model, cell.downlink.back());
     for (const Bwp& bwp : cell.downlink)
     {

@@ -66,11 +66,11 @@ void scellCases(CaseTable& table)
 #define AT_SCELL_RS AT_SCELL_CELL "csi-MeasConfig.setup.nzp-CSI-RS-ResourceToAddModList[0]."
 #define SCELL_RS                                                                                                       \
     AT_SCELL_RS                                                                                                        \
-        "nzp-CSI-RS-ResourceId = 0\n" AT_SCELL_RS "resourceMapping.frequencyDomainAllocation.row1 = 10\n" AT_SCELL_RS  \
-        "resourceMapping.nrofPorts = p1\n" AT_SCELL_RS "resourceMapping.firstOFDMSymbolInTimeDomain = 4\n" AT_SCELL_RS \
-        "resourceMapping.cdm-Type = noCDM\n" AT_SCELL_RS "resourceMapping.density.three = null\n" AT_SCELL_RS          \
-        "resourceMapping.freqBand.startingRB = 0\n" AT_SCELL_RS "resourceMapping.freqBand.nrofRBs = 276\n" AT_SCELL_RS \
-        "powerControlOffset = 0\n" AT_SCELL_RS "scramblingID = 43\n"
+    "nzp-CSI-RS-ResourceId = 0\n" AT_SCELL_RS "resourceMapping.frequencyDomainAllocation.row1 = 10\n" AT_SCELL_RS      \
+    "resourceMapping.nrofPorts = p1\n" AT_SCELL_RS "resourceMapping.firstOFDMSymbolInTimeDomain = 4\n" AT_SCELL_RS     \
+    "resourceMapping.cdm-Type = noCDM\n" AT_SCELL_RS "resourceMapping.density.three = null\n" AT_SCELL_RS              \
+    "resourceMapping.freqBand.startingRB = 0\n" AT_SCELL_RS "resourceMapping.freqBand.nrofRBs = 276\n" AT_SCELL_RS     \
+    "powerControlOffset = 0\n" AT_SCELL_RS "scramblingID = 43\n"
 #define SCELL_RS_PERIOD AT_SCELL_RS "periodicityAndOffset.slots80 = 2\n"
     Cases rlm = table.rule("scell-rlm");
     const std::string bad = rlm.example(&RrcRule::bad);
