@@ -19,7 +19,8 @@ public:
     // Null where that is not known.
     const Cell* ownerOf(const Value& value)
     {
-        const std::string_view name = value.type.name;
+        const std::string_view name =
+            value.type.kind == rtx::Kind::Sequence ? std::string_view(value.type.name) : std::string_view();
         if (name == "SpCellConfig" || name == "SCellConfig")
         {
             enter(value.at);
@@ -107,10 +108,16 @@ template <typename Each>
 void forSsbIndices(Check& check, const Each& each)
 {
     SsbOwner owner(check);
+    constexpr int64_t highest = 63; // of an SSB-Index, which few other numbers have
     const auto visit = [&](const Value& value)
     {
+        const bool isNumber = value.type.kind == rtx::Kind::Integer && value.type.upper == highest;
+        if (!isNumber && value.type.kind != rtx::Kind::Sequence)
+        {
+            return;
+        }
         const Cell* const cell = owner.ownerOf(value);
-        if (cell != nullptr && std::string_view(value.type.name) == "SSB-Index")
+        if (isNumber && cell != nullptr && std::string_view(value.type.name) == "SSB-Index")
         {
             each(*cell, value);
         }
