@@ -85,13 +85,17 @@ void scellReleaseUsed(Check& check)
     {
         return;
     }
+    const auto look = [&](const RtxType& type, const void* at)
+    {
+        if (std::string_view(type.name) == "ServCellIndex" &&
+            check.model.sCells().isReleased(*static_cast<const ServCellIndex*>(at)))
+        {
+            check.tell(RRC_RULE_WARNING, type, at).allowed("the message releases that SCell");
+        }
+    };
     const auto visit = [&](const Value& value)
     {
-        if (std::string_view(value.type.name) == "ServCellIndex" &&
-            check.model.sCells().isReleased(*static_cast<const ServCellIndex*>(value.at)))
-        {
-            check.tell(RRC_RULE_WARNING, value.type, value.at).allowed("the message releases that SCell");
-        }
+        forNumbers(check.tree.heap(), value, look);
     };
     forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false}, visit);
 }
@@ -217,11 +221,11 @@ void scellSsbless(Check& check)
     if (isAny)
     {
         forSsbIndices(check,
-                      [&](const Cell& cell, const Value& value)
+                      [&](const Cell& cell, const RtxType& type, const void* at)
                       {
                           if (isWithout(cell))
                           {
-                              check.tell(RRC_RULE_ERROR, value.type, value.at)
+                              check.tell(RRC_RULE_ERROR, type, at)
                                   .allowed("the SCell has no SS/PBCH blocks: absoluteFrequencySSB is absent");
                           }
                       });

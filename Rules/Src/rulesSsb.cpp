@@ -155,27 +155,26 @@ void ssbScs(Check& check)
 // A block that is named is sent.
 void ssbIndexTransmitted(Check& check)
 {
-    forSsbIndices(check,
-                  [&](const Cell& cell, const Value& value)
-                  {
-                      const Known<SsbPositions> positions = ssbPositions(check.model, cell);
-                      const bool hasNone = cell.frequencyDl() != nullptr && ssbArfcn(cell) == nullptr;
-                      if (hasNone || !check.decided(positions)) // scell-ssbless speaks of cells that have none
-                      {
-                          return;
-                      }
-                      const OSUINT32 index = *static_cast<const SSB_Index*>(value.at);
-                      if (index >= positions->count)
-                      {
-                          check.tell(RRC_RULE_ERROR, value.type, value.at)
-                              .allowed("ssb-PositionsInBurst has %u bits", positions->count);
-                      }
-                      else if (!positions->isSent(index))
-                      {
-                          check.tell(RRC_RULE_WARNING, value.type, value.at)
-                              .allowed("ssb-PositionsInBurst says that the block is not sent");
-                      }
-                  });
+    forSsbIndices(
+        check,
+        [&](const Cell& cell, const RtxType& type, const void* at)
+        {
+            const Known<SsbPositions> positions = ssbPositions(check.model, cell);
+            const bool hasNone = cell.frequencyDl() != nullptr && ssbArfcn(cell) == nullptr;
+            if (hasNone || !check.decided(positions)) // scell-ssbless speaks of cells that have none
+            {
+                return;
+            }
+            const OSUINT32 index = *static_cast<const SSB_Index*>(at);
+            if (index >= positions->count)
+            {
+                check.tell(RRC_RULE_ERROR, type, at).allowed("ssb-PositionsInBurst has %u bits", positions->count);
+            }
+            else if (!positions->isSent(index))
+            {
+                check.tell(RRC_RULE_WARNING, type, at).allowed("ssb-PositionsInBurst says that the block is not sent");
+            }
+        });
 }
 
 // The block of a PCell can be found, and lies in a carrier.

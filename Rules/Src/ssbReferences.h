@@ -103,23 +103,40 @@ private:
     uintptr_t to_ = 0;
 };
 
-// Calls `each(cell, value)` for every SSB-Index of a cell that is known.
+// Calls `each(type, at)` for a value that is a number, or for the numbers of an array.
+template <typename Each>
+void forNumbers(const OSCTXT& heap, const Value& value, const Each& each)
+{
+    if (value.type.kind == rtx::Kind::Integer)
+    {
+        each(value.type, value.at);
+    }
+    else if (value.type.kind == rtx::Kind::Array && value.type.element().kind == rtx::Kind::Integer)
+    {
+        forElements(heap, value.type, value.at, [&](const void* at) { each(value.type.element(), at); });
+    }
+}
+
+constexpr int64_t highestSsb = 63; // which few other numbers have
+
+// Calls `each(cell, type, at)` for every SSB-Index of a cell that is known.
 template <typename Each>
 void forSsbIndices(Check& check, const Each& each)
 {
     SsbOwner owner(check);
-    constexpr int64_t highest = 63; // of an SSB-Index, which few other numbers have
     const auto visit = [&](const Value& value)
     {
-        const bool isNumber = value.type.kind == rtx::Kind::Integer && value.type.upper == highest;
-        if (!isNumber && value.type.kind != rtx::Kind::Sequence)
-        {
-            return;
-        }
         const Cell* const cell = owner.ownerOf(value);
-        if (isNumber && cell != nullptr && std::string_view(value.type.name) == "SSB-Index")
+        if (cell != nullptr)
         {
-            each(*cell, value);
+            forNumbers(check.tree.heap(), value,
+                       [&](const RtxType& type, const void* at)
+                       {
+                           if (type.upper == highestSsb && std::string_view(type.name) == "SSB-Index")
+                           {
+                               each(*cell, type, at);
+                           }
+                       });
         }
     };
     forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false}, visit);

@@ -6,6 +6,7 @@ namespace test
 void ssbCases(CaseTable& table)
 {
 #define AT_BITMAP AT_COMMON "ssb-PositionsInBurst"
+#define AT_SSB_SET AT_CSI "csi-SSB-ResourceSetToAddModList[0]."
 #define AT_SSB AT_COMMON_DL "frequencyInfoDL.absoluteFrequencySSB"
     table.rule("ssb-bitmap")
         .bad(AT_BITMAP)
@@ -58,6 +59,9 @@ void ssbCases(CaseTable& table)
         .as(RRC_RULE_WARNING)
         .fires(AT_PUSCH "pusch-PowerControl.pathlossReferenceRSToAddModList[0].referenceSignal.ssb-Index",
                AT_PUSCH "pusch-PowerControl.pathlossReferenceRSToAddModList[0].referenceSignal.ssb-Index = 8")
+        .fires(AT_SSB_SET "csi-SSB-ResourceList[1]",
+               AT_SSB_SET "csi-SSB-ResourceSetId = 0\n" AT_SSB_SET "csi-SSB-ResourceList[0] = 0\n" AT_SSB_SET
+                          "csi-SSB-ResourceList[1] = 8")
         // The block is one of the cell that is named.
         .silent(ADD_SCELL AT_STATE("1") "qcl-Type1.cell = 1\n" AT_SCELL_COMMON
                                         "ssb-PositionsInBurst.mediumBitmap = C1\n" AT_STATE(
