@@ -30,7 +30,67 @@
 #define AT_SCELL_COMMON AT_SCELL "sCellConfigCommon."
 #define AT_SCELL_CELL AT_SCELL "sCellConfigDedicated."
 
+// PDCCH.
+#define AT_INITIAL_PDCCH AT_COMMON_DL "initialDownlinkBWP.pdcch-ConfigCommon.setup."
+#define AT_CORESET AT_PDCCH "controlResourceSetToAddModList[1]."  // 3: interleaved, 8 groups, 2 symbols
+#define AT_SPACE AT_PDCCH "searchSpacesToAddModList[0]."          // 2, in CORESET 2: formats 0_1 and 1_1
+#define AT_FALLBACK_SPACE AT_PDCCH "searchSpacesToAddModList[1]." // 3, in CORESET 3: formats 0_0 and 1_0
+#define AT_COMMON_SPACE AT_PDCCH "searchSpacesToAddModList[2]."   // 4, in CORESET 3: common, every 20 slots
+#define A_CORESET(path, id)                                                                                            \
+    path "controlResourceSetId = " id "\n" path "frequencyDomainResources = FF0000000000\n" path "duration = 1\n" path \
+         "cce-REG-MappingType.nonInterleaved = null\n" path "precoderGranularity = sameAsREG-bundle\n"
+#define SOME_CANDIDATES(path)                                                                                          \
+    path "nrofCandidates.aggregationLevel1 = n0\n" path "nrofCandidates.aggregationLevel2 = n0\n" path                 \
+         "nrofCandidates.aggregationLevel4 = n1\n" path "nrofCandidates.aggregationLevel8 = n0\n" path                 \
+         "nrofCandidates.aggregationLevel16 = n0\n"
+#define A_SPACE(path, id, coreset, type)                                                                               \
+    path "searchSpaceId = " id "\n" path "controlResourceSetId = " coreset "\n" path                                   \
+         "monitoringSlotPeriodicityAndOffset.sl20 = 0\n" path                                                          \
+         "monitoringSymbolsWithinSlot = 8000\n" SOME_CANDIDATES(path) path "searchSpaceType." type "\n"
+#define A_COMMON_SPACE(path, id, coreset) A_SPACE(path, id, coreset, "common.dci-Format0-0-AndFormat1-0 = {}")
+#define AT_PREEMPTION AT_PDCCH "downlinkPreemption.setup."
+#define A_PREEMPTION                                                                                                   \
+    AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset = absent\n" AT_COMMON_SPACE                                    \
+                    "monitoringSlotPeriodicityAndOffset.sl4 = 0\n" AT_COMMON_SPACE                                     \
+                    "searchSpaceType.common.dci-Format2-1 = {}\n" AT_PREEMPTION "int-RNTI = 1000\n" AT_PREEMPTION      \
+                    "timeFrequencySet = set0\n" AT_PREEMPTION "dci-PayloadSize = 14\n" AT_PREEMPTION                   \
+                    "int-ConfigurationPerServingCell[0].servingCellId = 0\n" AT_PREEMPTION                             \
+                    "int-ConfigurationPerServingCell[0].positionInDCI = 0\n"
+#define AT_SFI AT_CELL "pdcch-ServingCellConfig.setup.slotFormatIndicator.setup."
+#define AT_SFI_CELL AT_SFI "slotFormatCombToAddModList[0]."
+#define AN_SFI                                                                                                         \
+    AT_COMMON_SPACE "searchSpaceType.common.dci-Format2-0.nrofCandidates-SFI.aggregationLevel4 = n1\n" AT_SFI          \
+                    "sfi-RNTI = 1001\n" AT_SFI "dci-PayloadSize = 20\n" AT_SFI_CELL "servingCellId = 0\n" AT_SFI_CELL  \
+                    "subcarrierSpacing = kHz30\n" AT_SFI_CELL                                                          \
+                    "slotFormatCombinations[0].slotFormatCombinationId = 0\n" AT_SFI_CELL                              \
+                    "slotFormatCombinations[0].slotFormats[0] = 28\n" AT_SFI_CELL "positionInDCI = 0\n"
+// The SpCell schedules the SCell.
+#define AT_SCELL_DL AT_SCELL_CELL "downlinkBWP-ToAddModList[0]."
+#define AT_SCHEDULED AT_SCELL_DL "bwp-Dedicated.pdcch-Config.setup."
+#define CROSS_CARRIER                                                                                                  \
+    AT_CELL                                                                                                            \
+    "crossCarrierSchedulingConfig.schedulingCellInfo.own.cif-Presence = true\n" AT_SCELL_CELL                          \
+    "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 0\n" AT_SCELL_CELL                       \
+    "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1\n" AT_SCELL_DL                     \
+    "bwp-Dedicated.pdcch-Config = absent\n" AT_SCHEDULED                                                               \
+    "searchSpacesToAddModList[0].searchSpaceId = 2\n" SOME_CANDIDATES(AT_SCHEDULED "searchSpacesToAddModList[0].")
+
+#define AT_TDD AT_COMMON "tdd-UL-DL-ConfigurationCommon."
+#define AT_TDD_DEDICATED AT_CELL "tdd-UL-DL-ConfigurationDedicated.slotSpecificConfigurationsToAddModList[0]."
+
 // What makes it a secondary cell group.
 #define AS_SCG "cellGroupId = 1\nspCellConfig.servCellIndex = 1\n" AT_PHR "multiplePHR = true\n"
+
+#define AT_STATE(n) AT_PDSCH "tci-StatesToAddModList[" n "]." // 0, 1: of an ssb; 2, 3: of CSI-RS for tracking 1, 2
+
+#define AT_SCELL_BFR                                                                                                   \
+    AT_SCELL_CELL "uplinkConfig.uplinkBWP-ToAddModList[0].bwp-Dedicated.beamFailureRecoveryConfig.setup."              \
+                  "recoverySearchSpaceId = 2"
+#define AT_SCELL_RLM                                                                                                   \
+    AT_SCELL_DL "bwp-Dedicated.radioLinkMonitoringConfig.setup.failureDetectionResourcesToAddModList[0]."
+#define SSBLESS_SCELL                                                                                                  \
+    AT_SCELL_COMMON "downlinkConfigCommon.frequencyInfoDL.absoluteFrequencySSB = absent\n" AT_SCELL_COMMON             \
+                    "ssb-PositionsInBurst = absent\n" AT_SCELL_COMMON                                                  \
+                    "ssb-periodicityServingCell = absent\n" AT_SCELL_COMMON "ssbSubcarrierSpacing = absent\n"
 
 #endif

@@ -303,10 +303,11 @@ public:
     template <typename T>
     Novelty noveltyOf(const T& element, Novelty owner)
     {
-        return previous != nullptr     ? (before(element) == nullptr ? Novelty::New : Novelty::Old)
-               : isFull                ? Novelty::New
-               : owner == Novelty::New ? Novelty::New
-                                       : Novelty::Unknown;
+        // What is released and added again takes nothing over.
+        return owner == Novelty::New || isFull ? Novelty::New
+               : previous == nullptr           ? Novelty::Unknown
+               : before(element) == nullptr    ? Novelty::New
+                                               : Novelty::Old;
     }
 
     // What *owner, null where it is absent, lists by ids. `added` and `removed` give its two lists, or null.

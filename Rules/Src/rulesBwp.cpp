@@ -837,7 +837,9 @@ void bwpSpcellCss(Check& check)
 #define INITIAL(locationAndBandwidth)                                                                                  \
     AT_COMMON_DL "initialDownlinkBWP.genericParameters.locationAndBandwidth = " locationAndBandwidth "\n" AT_COMMON_DL \
                  "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonControlResourceSet.frequencyDomainResources = "    \
-                 "FE0000000000\n" AT_COMMON_UL                                                                         \
+                 "FE0000000000\n" AT_COMMON_DL                                                                         \
+                 "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."                \
+                 "aggregationLevel8 = n0\n" AT_COMMON_UL                                                               \
                  "initialUplinkBWP.genericParameters.locationAndBandwidth = " locationAndBandwidth
 #define WITHOUT_COMMON AT_PDCCH "searchSpacesToAddModList[2] = absent"
 

@@ -222,6 +222,96 @@ TEST(Coreset, Zero)
 }
 
 // The period as a fraction of milliseconds; TS 38.213 11.1 names the spacings of the short ones.
+// TS 38.213 tables 10.1-2, 10.1-3.
+TEST(Pdcch, LimitsOfASlot)
+{
+    const uint32_t candidates[] = {44, 36, 22, 20};
+    const uint32_t cces[] = {56, 56, 48, 32};
+    for (uint32_t mu = 0; mu < 4; ++mu)
+    {
+        EXPECT_EQ(candidates[mu], nrMostCandidates(mu));
+        EXPECT_EQ(cces[mu], nrMostCces(mu));
+    }
+    EXPECT_EQ(0U, nrMostCandidates(4));
+    EXPECT_EQ(0U, nrMostCces(4));
+}
+
+// A candidate begins at a multiple of its level and lies within the CORESET; in a common search space candidates that
+// fit side by side do not overlap.
+TEST(Pdcch, CandidatesLieWithinTheCoreset)
+{
+    for (uint32_t cces = 1; cces <= 135; ++cces)
+    {
+        for (const uint32_t level : {1U, 2U, 4U, 8U, 16U})
+        {
+            for (const uint32_t count : {1U, 2U, 3U, 4U, 5U, 6U, 8U})
+            {
+                std::set<uint32_t> starts;
+                for (uint32_t m = 0; m < count; ++m)
+                {
+                    for (const uint32_t y : {0U, 1U, 65536U})
+                    {
+                        const uint32_t start = nrCandidateStart(y, m, count, level, cces);
+                        EXPECT_EQ(0U, start % level);
+                        EXPECT_TRUE(level > cces ? start == 0 : start + level <= cces);
+                    }
+                    starts.insert(nrCandidateStart(0, m, count, level, cces));
+                }
+                EXPECT_EQ(level > cces ? 1 : std::min(count, cces / level), starts.size())
+                    << count << " of level " << level << " on " << cces;
+            }
+        }
+    }
+    // Two of level 4 on 16 CCEs stand half of it apart.
+    EXPECT_EQ(8U, nrCandidateStart(0, 1, 2, 4, 16));
+    EXPECT_EQ(0U, nrCandidateStart(2, 1, 2, 4, 16));
+}
+
+// TS 38.213 4.1: the first symbols of each case in the words of the standard.
+TEST(Ssb, FirstSymbols)
+{
+    const auto symbolsOf = [](const std::vector<uint32_t>& first, uint32_t apart, const std::vector<uint32_t>& n)
+    {
+        std::vector<uint32_t> all;
+        for (const uint32_t group : n)
+        {
+            for (const uint32_t symbol : first)
+            {
+                all.push_back(symbol + apart * group);
+            }
+        }
+        return all;
+    };
+    struct Case
+    {
+        uint32_t mu;
+        int caseB;
+        std::vector<uint32_t> symbols;
+    };
+    const Case cases[] = {
+        {0, 0, symbolsOf({2, 8}, 14, {0, 1, 2, 3})},
+        {1, 1, symbolsOf({4, 8, 16, 20}, 28, {0, 1})},
+        {1, 0, symbolsOf({2, 8}, 14, {0, 1, 2, 3})},
+        {3, 0, symbolsOf({4, 8, 16, 20}, 28, {0, 1, 2, 3, 5, 6, 7, 8, 10, 11, 12, 13, 15, 16, 17, 18})},
+        {4, 0, symbolsOf({8, 12, 16, 20, 32, 36, 40, 44}, 56, {0, 1, 2, 3, 5, 6, 7, 8})},
+    };
+    for (const Case& one : cases)
+    {
+        for (uint32_t index = 0; index < 80; ++index)
+        {
+            uint32_t symbol = 0;
+            ASSERT_EQ(index < one.symbols.size() ? 1 : 0, nrSsbFirstSymbol(one.mu, one.caseB, index, &symbol));
+            if (index < one.symbols.size())
+            {
+                EXPECT_EQ(one.symbols[index], symbol) << one.mu << " " << index;
+            }
+        }
+    }
+    uint32_t symbol = 0;
+    EXPECT_EQ(0, nrSsbFirstSymbol(2, 0, 0, &symbol));
+    EXPECT_EQ(0, nrSsbFirstSymbol(5, 0, 0, &symbol));
+}
+
 TEST(Tdd, Periods)
 {
     const std::map<uint32_t, std::set<uint32_t>> allowed = {

@@ -7,6 +7,9 @@ namespace
 
 #define DL_BWP(member) AT_DL "bwp-Common.genericParameters." member
 #define UL_BWP(member) AT_UL "bwp-Common.genericParameters." member
+#define UPLINK_FREQUENCY                                                                                               \
+    AT_COMMON_UL "frequencyInfoUL.frequencyBandList[0] = 78\n" AT_COMMON_UL                                            \
+                 "frequencyInfoUL.absoluteFrequencyPointA = 630058"
 #define SECOND_DL AT_CELL "downlinkBWP-ToAddModList[1]."
 
 Known in(RrcRuleMessage message)
@@ -106,7 +109,8 @@ void bwpCases(CaseTable& table)
         .bad(UL_BWP("locationAndBandwidth"))
         .saying("RB 0..271, but downlink bandwidth part 1, RB 0..272, has another centre, by 0.5 RB")
         .good()
-        .silent(table.rule("bwp-tdd-centre").example(&RrcRule::bad))
+        .silent(table.rule("bwp-tdd-centre").example(&RrcRule::bad) +
+                "\n" AT_COMMON "tdd-UL-DL-ConfigurationCommon = absent\n" UPLINK_FREQUENCY)
         .with([](RrcRuleContext& known) { known.duplex = RRC_RULE_DUPLEX_FDD; })
         .undecided(AT_SYNC_ABSENT);
 
@@ -114,7 +118,10 @@ void bwpCases(CaseTable& table)
         .bad(AT_CELL "downlinkBWP-ToReleaseList[0]")
         .good()
         .fires(AT_UL "bwp-Id", AT_UL "bwp-Id = 0\n" AT_UPLINK "firstActiveUplinkBWP-Id = 0\n" AT_CELL
-                                     "firstActiveDownlinkBWP-Id = 0\n" AT_CELL "csi-MeasConfig = absent")
+                                     "firstActiveDownlinkBWP-Id = 0\n" AT_CELL "csi-MeasConfig = absent\n" AT_PDSCH
+                                     "tci-StatesToAddModList = absent\n" AT_PDCCH
+                                     "controlResourceSetToAddModList[0].tci-StatesPDCCH-ToAddList = absent\n" AT_PDCCH
+                                     "controlResourceSetToAddModList[1].tci-StatesPDCCH-ToAddList = absent")
         .fires(SECOND_DL "bwp-Id",
                SECOND_DL "bwp-Id = 3\n" SECOND_DL "bwp-Common.genericParameters.locationAndBandwidth = 1099\n" SECOND_DL
                          "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" SECOND_DL
@@ -207,7 +214,9 @@ void bwpCases(CaseTable& table)
         .fires(AT_COMMON_DL "initialDownlinkBWP.genericParameters.locationAndBandwidth",
                AT_COMMON_DL "initialDownlinkBWP.genericParameters.locationAndBandwidth = 13037\n" AT_COMMON_DL
                             "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonControlResourceSet."
-                            "frequencyDomainResources = FE0000000000\n" AT_COMMON_UL
+                            "frequencyDomainResources = FE0000000000\n" AT_COMMON_DL
+                            "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."
+                            "aggregationLevel8 = n0\n" AT_COMMON_UL
                             "initialUplinkBWP.genericParameters.locationAndBandwidth = 13037")
         .undecided(AT_SYNC_ABSENT);
 
