@@ -132,6 +132,13 @@ const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t por
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs);
 uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs);
 
+// Resource blocks from freqDomainShift on that a sounding resource comes to use (6.4.1.4.3), `position` its
+// freqDomainPosition: without hopping (bHop >= bSrs) those of its one place. Size 0 for indices that the table has not.
+NrSpan nrSrsSpan(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position);
+// Symbols without transmission between the resources of a set for antenna switching (TS 38.214 table 6.2.1.2-1); 0 for
+// spacings that have no sounding.
+uint32_t nrSrsGuardSymbols(uint32_t mu);
+
 // Subbands of CSI reports (TS 38.214 table 5.2.1.4-2): resource blocks of one, 0 where a bandwidth part of n has none;
 // how many there are in a bandwidth part that begins at common resource block `start`.
 uint32_t nrSubbandSize(uint32_t n, int value2);
@@ -140,6 +147,9 @@ uint32_t nrSubbands(uint32_t start, uint32_t n, uint32_t size);
 // Nominal resource block group (TS 38.214 tables 5.1.2.2.1-1, 6.1.2.2.1-1); how many groups there are.
 uint32_t nrRbgSize(uint32_t n, int config2);
 uint32_t nrRbgs(uint32_t start, uint32_t n, uint32_t size);
+
+// Whether PUSCH can have these symbols of a slot (TS 38.214 table 6.1.2.1-1), by its mapping type and cyclic prefix.
+int nrPuschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols);
 
 // Orthogonal sequences of PUCCH format 1 (TS 38.211 table 6.3.2.4.1-1): timeDomainOCC is below this; 0 for other
 // numbers of symbols than 4..14.

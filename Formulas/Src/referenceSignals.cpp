@@ -72,6 +72,24 @@ uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs)
     return cSrs < 64 && bSrs < 4 ? soundings[cSrs][bSrs] : 0;
 }
 
+NrSpan nrSrsSpan(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position)
+{
+    // Below bHop the place is fixed, from there on the hops take each part in turn.
+    const uint32_t fixed = bHop < bSrs ? bHop : bSrs;
+    NrSpan span = {0, nrSrsBandwidth(cSrs, fixed)};
+    for (uint32_t b = 1; b <= fixed && span.size != 0; ++b)
+    {
+        const uint32_t part = nrSrsBandwidth(cSrs, b);
+        span.start += part * (4 * position / part % nrSrsParts(cSrs, b));
+    }
+    return span;
+}
+
+uint32_t nrSrsGuardSymbols(uint32_t mu)
+{
+    return mu > 3 ? 0 : mu == 3 ? 2 : 1;
+}
+
 uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs)
 {
     const uint32_t part = nrSrsBandwidth(cSrs, bSrs);

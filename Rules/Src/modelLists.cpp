@@ -21,6 +21,23 @@ const T& made(Memory& memory, const T*& kept, const Make& make)
     return kept == nullptr ? none : *kept; // the check ends when the heap is exhausted
 }
 
+// What the common part of a bandwidth part sets up. `input` tells it of the SpCell's initial one.
+template <typename T, typename Member>
+Known<const T*> common(const Model& model, const Bwp& bwp, OSUINT32 input, const Member& member)
+{
+    if (bwp.uplinkCommon == nullptr)
+    {
+        const bool isOfSib1 = bwp.isInitial() && bwp.cell->isSpCell() && bwp.direction == Direction::Uplink;
+        return Known<const T*>::unless(isOfSib1 ? input : bwp.missing);
+    }
+    const auto* const choice = member(*bwp.uplinkCommon);
+    if (choice == nullptr && !model.isWhole(bwp))
+    {
+        return Known<const T*>::unless(RRC_RULE_INPUT_PREVIOUS);
+    }
+    return static_cast<const T*>(model.tree.setup(choice));
+}
+
 template <typename Element, typename Entry>
 const Entry* byId(const Vector<Entry>& all, OSUINT32 id)
 {
@@ -314,6 +331,35 @@ Known<OSUINT32> typeAPosition(const Model& model, const Cell& cell)
         return Known<OSUINT32>::unless(cell.isSpCell() ? RRC_RULE_INPUT_TYPEA : RRC_RULE_INPUT_PREVIOUS);
     }
     return *position == ServingCellConfigCommon_dmrs_TypeA_Position_pos3 ? 3U : 2U;
+}
+
+Known<const RACH_ConfigCommon*> rachCommon(const Model& model, const Bwp& bwp)
+{
+    if (bwp.uplinkCommon == nullptr && bwp.isInitial() && bwp.cell->isSpCell() && bwp.direction == Direction::Uplink &&
+        model.known.rachCommon != nullptr)
+    {
+        return model.known.rachCommon;
+    }
+    return common<RACH_ConfigCommon>(model, bwp, RRC_RULE_INPUT_RACH,
+                                     [](const BWP_UplinkCommon& of) { return MEMBER(of, rach_ConfigCommon); });
+}
+
+Known<const PUSCH_ConfigCommon*> puschCommon(const Model& model, const Bwp& bwp)
+{
+    return common<PUSCH_ConfigCommon>(model, bwp, RRC_RULE_INPUT_COMMON,
+                                      [](const BWP_UplinkCommon& of) { return MEMBER(of, pusch_ConfigCommon); });
+}
+
+Known<bool> msg3Precoding(const Model& model, const Bwp& bwp)
+{
+    Known<const RACH_ConfigCommon*> rach = rachCommon(model, bwp);
+    const Bwp* const initial = bwp.cell->bwp(bwp.direction, 0);
+    if (rach && *rach == nullptr && initial != nullptr)
+    {
+        rach = rachCommon(model, *initial);
+    }
+    return rach ? Known<bool>(*rach != nullptr && (*rach)->m.msg3_transformPrecoderPresent != 0)
+                : Known<bool>::unless(rach.inputs());
 }
 
 Known<const TDD_UL_DL_ConfigCommon*> tddPattern(const Model& model, const Cell& cell)

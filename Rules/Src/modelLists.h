@@ -112,6 +112,13 @@ Known<SsbPositions> ssbPositions(const Model& model, const Cell& cell);
 // dmrs-TypeA-Position: the symbol, 2 or 3.
 Known<OSUINT32> typeAPosition(const Model& model, const Cell& cell);
 
+// What a bandwidth part of the uplink has in common with other UEs; null where it has none.
+Known<const RACH_ConfigCommon*> rachCommon(const Model& model, const Bwp& bwp);
+Known<const PUSCH_ConfigCommon*> puschCommon(const Model& model, const Bwp& bwp);
+// Whether Msg3 is sent with transform precoding; as the initial bandwidth part says where this one has no random
+// access.
+Known<bool> msg3Precoding(const Model& model, const Bwp& bwp);
+
 // tdd-UL-DL-ConfigurationCommon.
 struct TddGrid
 {

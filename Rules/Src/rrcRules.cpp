@@ -45,6 +45,7 @@ constexpr const char* inputNames[RRC_RULE_INPUTS] = {
     "the measurement configuration",
     "the other cell group",
     "the UE's capabilities",
+    "rach-ConfigCommon of the initial uplink bandwidth part",
 };
 
 int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext& known,
