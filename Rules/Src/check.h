@@ -77,12 +77,19 @@ public:
         return report(RRC_RULE_NOTICE, at, sizeof(T), 0);
     }
 
+    // Of any severity, at a place of any type.
+    Report tell(RrcRuleSeverity severity, const RtxType& type, const void* at)
+    {
+        return report(severity, at, type.size, 0);
+    }
+
     // An error where the configuration is known as a whole; else a notice, as an earlier message may have brought what
     // is missing.
     template <typename T>
-    Report missing(bool complete, const T* at)
+    Report missing(bool complete, const T* at, RrcRuleSeverity severity = RRC_RULE_ERROR)
     {
-        return complete ? error(at) : report(RRC_RULE_NOTICE, at, sizeof(T), RRC_RULE_INPUT_PREVIOUS);
+        return complete ? report(severity, at, sizeof(T), 0)
+                        : report(RRC_RULE_NOTICE, at, sizeof(T), RRC_RULE_INPUT_PREVIOUS);
     }
 
     // The element that an id names; null, and said at the place of the id, where there is none. `what` is its kind:

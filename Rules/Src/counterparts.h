@@ -24,6 +24,12 @@ public:
         return entry == nullptr ? nullptr : static_cast<const T*>(entry->before);
     }
 
+    const void* before(const void* element, size_t size) const
+    {
+        const Entry* const entry = find(element, size);
+        return entry == nullptr ? nullptr : entry->before;
+    }
+
     template <typename T>
     const T* sent(const T& element) const
     {

@@ -7,6 +7,8 @@
 #define AT_MAC "mac-CellGroupConfig."
 #define AT_PHY "physicalCellGroupConfig."
 #define AT_SYNC "spCellConfig.reconfigurationWithSync."
+#define AT_SYNC_PLACE "spCellConfig.reconfigurationWithSync"
+#define AT_SYNC_ABSENT AT_SYNC_PLACE " = absent"
 #define AT_COMMON AT_SYNC "spCellConfigCommon."
 #define AT_COMMON_DL AT_COMMON "downlinkConfigCommon."
 #define AT_COMMON_UL AT_COMMON "uplinkConfigCommon."

@@ -18,7 +18,7 @@
 
 // The alternative that the union of *choice holds by pointer, null where it is not chosen or cannot be followed.
 #define CHOSEN(tree, choice, type, alternative)                                                                        \
-    ((choice) != nullptr && (choice)->t == T_##type##_##alternative ? (tree).follow((choice)->u.alternative) : nullptr)
+    (rules::isChosen(choice, T_##type##_##alternative) ? (tree).follow((choice)->u.alternative) : nullptr)
 
 namespace rules
 {
@@ -28,6 +28,12 @@ constexpr OSUINT32 setupTag = 2;
 constexpr OSUINT32 releaseTag = 1;
 
 constexpr OSUINT32 mostElements = maxNrofSlotFormatCombinationsPerSet; // of any list of the schema
+
+template <typename Choice>
+bool isChosen(const Choice* choice, OSUINT32 tag)
+{
+    return choice != nullptr && choice->t == tag;
+}
 
 // The elements of a list, those that cannot be followed left out.
 template <typename T>

@@ -38,6 +38,7 @@ struct RuleCase
     std::size_t times = 1;                         // Fires: findings, the first of them at the place
     // With an earlier configuration: changes that make it of wholeCell.flat; `changes` then make the message of an
     // empty one, and `after` the state that it leads to of the earlier one.
+    bool hasEarlier = false;
     std::string before;
     std::string after;
     int line = 0; // of the source
@@ -95,18 +96,19 @@ public:
     }
     Cases& after(std::string before, std::string after)
     {
+        all_.back().hasEarlier = true;
         all_.back().before = std::move(before);
         all_.back().after = std::move(after);
         return *this;
     }
 
-private:
     std::string example(const char* RrcRule::*which) const
     {
         const RrcRule* const rule = rrcRuleById(rule_);
         return rule == nullptr ? "there is no such rule" : rule->*which;
     }
 
+private:
     Cases& add(Outcome outcome, std::string changes, std::string place, int line)
     {
         RuleCase made;
@@ -138,6 +140,9 @@ public:
 private:
     std::vector<RuleCase> all_;
 };
+
+// Changes that add an SCell: sCell.flat.
+std::string sCell();
 
 // Contexts that many cases share.
 void inDelta(RrcRuleContext& known);
