@@ -108,6 +108,21 @@ public:
         return nullptr;
     }
 
+    // The cell that an index names; null, and said at its place, where there is none. What is released by the message
+    // scell-release-used tells.
+    template <typename Id>
+    Cell* resolveCell(OSUINT32 index, const Id* at)
+    {
+        Cell* const cell = model.cell(index);
+        if (cell == nullptr && !model.sCells().isReleased(index))
+        {
+            const Cell* const spCell = model.spCell();
+            const bool areKnown = spCell != nullptr && spCell->index && model.sCells().complete;
+            missing(areKnown, at).found("%u", index).allowed("no cell of that ServCellIndex is configured");
+        }
+        return cell;
+    }
+
     // Whether a value is known; where it is not, the rule is told as undecided.
     template <typename T>
     bool decided(const Known<T>& known)
