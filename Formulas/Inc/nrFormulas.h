@@ -46,6 +46,10 @@ uint32_t nrCoresetGroupStart(uint32_t bwpStart, uint32_t group);
 int nrCoresetBundleFits(uint32_t symbols, uint32_t bundle);
 int nrCoresetInterleaverFits(uint32_t rbs, uint32_t symbols, uint32_t bundle, uint32_t rows);
 
+// PDSCH symbols (TS 38.214 table 5.1.2.1-1): whether mapping type A, or B, may start and last so. A start at symbol 3 with
+// type A also needs dmrs-TypeA-Position pos3.
+int nrPdschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols);
+
 // CORESET#0 (TS 38.213 tables 13-1 to 13-10).
 typedef struct NrCoreset0
 {
@@ -140,6 +144,10 @@ typedef struct NrCsiRsRow
 const NrCsiRsRow* nrCsiRsRow(uint32_t row);
 // The row of a mapping; null where there is none.
 const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t ports, NrCdm cdm, NrCsiRsDensity density);
+
+// The common resource blocks that a CSI-RS takes in a bandwidth part (TS 38.214 5.2.2.3.1): of startingRB and nrofRBs what
+// lies within the bandwidth part; size 0 where nothing does.
+NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp);
 
 // Sounding (TS 38.211 table 6.4.1.4.3-1): m_SRS,b resource blocks and N_b for c-SRS 0..63 and b-SRS 0..3; 0 for others.
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs);

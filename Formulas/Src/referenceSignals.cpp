@@ -67,6 +67,14 @@ const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t por
     return nullptr;
 }
 
+NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp)
+{
+    const uint32_t first = configured.start < bwp.start ? bwp.start : configured.start;
+    const uint32_t end = bwp.start + bwp.size;
+    const uint32_t room = first < end ? end - first : 0;
+    return {first, configured.size < room ? configured.size : room};
+}
+
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs)
 {
     return cSrs < 64 && bSrs < 4 ? soundings[cSrs][bSrs] : 0;
