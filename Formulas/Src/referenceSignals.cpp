@@ -106,13 +106,16 @@ uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs)
 
 int nrSsbFirstSymbol(uint32_t mu, int caseB, uint32_t index, uint32_t* symbol)
 {
-    static constexpr uint32_t oneSlot[] = {2, 8};                           // cases A, C
-    static constexpr uint32_t twoSlots[] = {4, 8, 16, 20};                  // cases B, D
+    static constexpr uint32_t oneSlot[] = {2, 8};                            // cases A, C
+    static constexpr uint32_t twoSlots[] = {4, 8, 16, 20};                   // cases B, D
     static constexpr uint32_t fourSlots[] = {8, 12, 16, 20, 32, 36, 40, 44}; // case E
     constexpr uint32_t blocksInFr1 = 8;
     constexpr uint32_t blocksInFr2 = 64;
     // In FR2 every fifth group stays free.
-    const auto group = [](uint32_t number) { return number + number / 4; };
+    const auto group = [](uint32_t number)
+    {
+        return number + number / 4;
+    };
     if (mu == 0 || (mu == 1 && caseB == 0))
     {
         *symbol = oneSlot[index % 2] + NR_SYMBOLS * (index / 2);

@@ -112,8 +112,8 @@ CsiSets csiSets(Model& model, const Csi& csi, const CSI_ResourceConfig& config);
 Vector<const NZP_CSI_RS_Resource*> nzpResources(Model& model, const Csi& csi, const NZP_CSI_RS_ResourceSet& set);
 Vector<const CSI_IM_Resource*> imResources(Model& model, const Csi& csi, const CSI_IM_ResourceSet& set);
 
-// CSI-RS-ResourceMapping: the row of the standard's table, null where it is none of them; nrofPorts as a number, 0 where
-// it has no value.
+// CSI-RS-ResourceMapping: the row of the standard's table, null where it is none of them; nrofPorts as a number, 0
+// where it has no value.
 const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping);
 OSUINT32 portsOf(const CSI_RS_ResourceMapping& mapping);
 

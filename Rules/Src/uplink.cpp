@@ -36,6 +36,30 @@ OSUINT32 portsOf(const SRS_Resource& resource)
     return resource.nrofSRS_Ports <= SRS_Resource_nrofSRS_Ports_ports4 ? 1U << resource.nrofSRS_Ports : 0;
 }
 
+Recurrence recurrenceOf(const Tree& tree, const SRS_Resource& resource)
+{
+    static constexpr OSUINT16 periods[] = {1, 2, 4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640, 1280, 2560};
+    const auto* const type = &resource.resourceType;
+    const SRS_PeriodicityAndOffset* choice = nullptr;
+    if (const auto* const some = CHOSEN(tree, type, SRS_Resource_resourceType, semi_persistent))
+    {
+        choice = &some->periodicityAndOffset_sp;
+    }
+    if (const auto* const some = CHOSEN(tree, type, SRS_Resource_resourceType, periodic))
+    {
+        choice = &some->periodicityAndOffset_p;
+    }
+    if (choice == nullptr || choice->t < T_SRS_PeriodicityAndOffset_sl1 ||
+        choice->t > T_SRS_PeriodicityAndOffset_sl2560)
+    {
+        return {};
+    }
+    const OSUINT32 offset = choice->t == T_SRS_PeriodicityAndOffset_sl1    ? 0
+                            : choice->t < T_SRS_PeriodicityAndOffset_sl320 ? choice->u.sl160
+                                                                           : choice->u.sl2560;
+    return {periods[choice->t - 1], offset};
+}
+
 Known<OSUINT32> codebookPorts(Model& model, Bwp& bwp)
 {
     const Srs& srs = model.srs(bwp);

@@ -39,6 +39,9 @@ const SRS_ResourceSet* srsSetFor(const Srs& srs, SRS_ResourceSet_usage usage);
 // Antenna ports; 0 where the tree is broken.
 OSUINT32 portsOf(const SRS_Resource& resource);
 
+// Its time behaviour in slots; period 0 where it is aperiodic, or the tree broken.
+Recurrence recurrenceOf(const Tree& tree, const SRS_Resource& resource);
+
 // The most ports of the resources for codebook based transmission.
 Known<OSUINT32> codebookPorts(Model& model, Bwp& bwp);
 

@@ -36,7 +36,17 @@ Known in(RrcRuleMessage message)
         "2") "prioritisedBitRate = infinity\n" UPLINK("2") "bucketSizeDuration = ms100\n" UPLINK("2") "logicalChannel" \
                                                                                                       "SR-Mask = "     \
                                                                                                       "false"          \
-                                                                                                      "\n" UPLINK("2") "logicalChannelSR-DelayTimerApplied = false\n"
+                                                                                                      "\n" UPLINK(     \
+                                                                                                          "2") "logic" \
+                                                                                                               "alCha" \
+                                                                                                               "nnelS" \
+                                                                                                               "R-"    \
+                                                                                                               "Delay" \
+                                                                                                               "Timer" \
+                                                                                                               "Appli" \
+                                                                                                               "ed = " \
+                                                                                                               "false" \
+                                                                                                               "\n"
 
 #define SCELL_UPLINK ""
 
