@@ -866,36 +866,52 @@ void srsCarrierSwitching(Check& check)
 
 // A further resource of a symbol.
 #define AT_RESOURCE(i) AT_SRS "srs-ResourceToAddModList[" i "]."
-#define EXAMPLE_RESOURCE(i, ports, position)                                                                                                                                                                             \
-    AT_RESOURCE(i)                                                                                                                                                                                                       \
-    "srs-ResourceId = " i "\n" AT_RESOURCE(                                                                                                                                                                              \
-        i) "nrofSRS-Ports = " ports                                                                                                                                                                                      \
-           "\n" AT_RESOURCE(i) "transmissionComb.n2.combOffset-n2 = 1\n" AT_RESOURCE(                                                                                                                                    \
-               i) "transmissionComb.n2.cyclicShift-n2 = 0\n" AT_RESOURCE(i) "resourceMapping.startPosition "                                                                                                             \
-                                                                            "= " position "\n" AT_RESOURCE(                                                                                                              \
-                                                                                i) "resourceMapping."                                                                                                                    \
-                                                                                   "nrofSymbols = "                                                                                                                      \
-                                                                                   "n1\n" AT_RESOURCE(                                                                                                                   \
-                                                                                       i) "resourceMap"                                                                                                                  \
-                                                                                          "ping."                                                                                                                        \
-                                                                                          "repetitionF"                                                                                                                  \
-                                                                                          "actor = "                                                                                                                     \
-                                                                                          "n1"                                                                                                                           \
-                                                                                          "\n" AT_RESOURCE(i) "freqDo"                                                                                                   \
-                                                                                                              "mainPo"                                                                                                   \
-                                                                                                              "sition"                                                                                                   \
-                                                                                                              " = "                                                                                                      \
-                                                                                                              "0"                                                                                                        \
-                                                                                                              "\n" AT_RESOURCE(i) "freqDomainShift = 0\n" AT_RESOURCE(                                                   \
-                                                                                                                  i) "freq"                                                                                              \
-                                                                                                                     "Hopp"                                                                                              \
-                                                                                                                     "ing."                                                                                              \
-                                                                                                                     "c-"                                                                                                \
-                                                                                                                     "SRS "                                                                                              \
-                                                                                                                     "= "                                                                                                \
-                                                                                                                     "61"                                                                                                \
-                                                                                                                     "\n" AT_RESOURCE(i) "freqHopping.b-SRS = 0\n" AT_RESOURCE(i) "freqHopping.b-hop = 3\n" AT_RESOURCE( \
-                                                                                                                         i) "groupOrSequenceHopping = neither\n" AT_RESOURCE(i) "sequenceId = 42\n"
+#define EXAMPLE_RESOURCE(i, ports, position)                                                                                                                       \
+    AT_RESOURCE(i)                                                                                                                                                 \
+    "srs-ResourceId = " i "\n" AT_RESOURCE(                                                                                                                        \
+        i) "nrofSRS-Ports = " ports                                                                                                                                \
+           "\n" AT_RESOURCE(i) "transmissionComb.n2.combOffset-n2 = 1\n" AT_RESOURCE(                                                                              \
+               i) "transmissionComb.n2.cyclicShift-n2 = 0\n" AT_RESOURCE(i) "resourceMapping.startPosition "                                                       \
+                                                                            "= " position "\n" AT_RESOURCE(                                                        \
+                                                                                i) "resourceMapping."                                                              \
+                                                                                   "nrofSymbols = "                                                                \
+                                                                                   "n1\n" AT_RESOURCE(                                                             \
+                                                                                       i) "resourceMap"                                                            \
+                                                                                          "ping."                                                                  \
+                                                                                          "repetitionF"                                                            \
+                                                                                          "actor = "                                                               \
+                                                                                          "n1"                                                                     \
+                                                                                          "\n" AT_RESOURCE(                                                        \
+                                                                                              i) "freqDo"                                                          \
+                                                                                                 "mainPo"                                                          \
+                                                                                                 "sition"                                                          \
+                                                                                                 " = "                                                             \
+                                                                                                 "0"                                                               \
+                                                                                                 "\n" AT_RESOURCE(i) "freqDomainShift = 0\n" AT_RESOURCE(          \
+                                                                                                     i) "freq"                                                     \
+                                                                                                        "Hopp"                                                     \
+                                                                                                        "ing."                                                     \
+                                                                                                        "c-"                                                       \
+                                                                                                        "SRS "                                                     \
+                                                                                                        "= "                                                       \
+                                                                                                        "61"                                                       \
+                                                                                                        "\n" AT_RESOURCE(i) "freqHopping.b-SRS = 0\n" AT_RESOURCE( \
+                                                                                                            i) "freqH"                                             \
+                                                                                                               "oppin"                                             \
+                                                                                                               "g.b-"                                              \
+                                                                                                               "hop "                                              \
+                                                                                                               "= "                                                \
+                                                                                                               "3"                                                 \
+                                                                                                               "\n" AT_RESOURCE(                                   \
+                                                                                                                   i) "group"                                      \
+                                                                                                                      "OrSeq"                                      \
+                                                                                                                      "uence"                                      \
+                                                                                                                      "Hoppi"                                      \
+                                                                                                                      "ng = "                                      \
+                                                                                                                      "neith"                                      \
+                                                                                                                      "er"                                         \
+                                                                                                                      "\n" AT_RESOURCE(                            \
+                                                                                                                          i) "sequenceId = 42\n"
 #define EXAMPLE_PERIODIC(i) AT_RESOURCE(i) "resourceType.periodic.periodicityAndOffset-p.sl40 = 19\n"
 
 // Transmissions without codebook.

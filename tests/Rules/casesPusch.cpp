@@ -144,6 +144,7 @@ void ofTransmission(CaseTable& table)
             {
                 static RACH_ConfigCommon rach;
                 rach.m.msg3_transformPrecoderPresent = 1;
+                rach.rach_ConfigGeneric.prach_ConfigurationIndex = 159;
                 known.rachCommon = &rach;
             })
         .fires(AT_PUSCH "tp-pi2BPSK", AT_PUSCH "tp-pi2BPSK = enabled")
