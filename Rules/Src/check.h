@@ -107,9 +107,11 @@ public:
         if (isReleased)
         {
             told.allowed("%s %u is released by this message", what, id);
-            return nullptr;
         }
-        listIds(told, ids, what);
+        else
+        {
+            listIds(told, ids, what);
+        }
         return nullptr;
     }
 
@@ -126,6 +128,19 @@ public:
             missing(areKnown, at).found("%u", index).allowed("no cell of that ServCellIndex is configured");
         }
         return cell;
+    }
+
+    // The bandwidth part that an id names; null, and said at the place of the id, where there is none. Of one that this
+    // message releases bwp-release-in-use speaks.
+    template <typename Id>
+    Bwp* resolveBwp(const Cell& cell, Direction direction, const Id* at)
+    {
+        Bwp* const bwp = cell.bwp(direction, *at);
+        if (bwp == nullptr && !model.isReleased(cell, direction, *at))
+        {
+            missing(cell.complete, at).allowed("there is no %s bandwidth part %u", nameOf(direction), OSUINT32{*at});
+        }
+        return bwp;
     }
 
     // Whether a value is known; where it is not, the rule is told as undecided.

@@ -4,7 +4,10 @@
 
 #define AT_SRB "rlc-BearerToAddModList[0]." // SRB1
 #define AT_DRB "rlc-BearerToAddModList[1]." // DRB 1
+#define AT_SRB_UL AT_SRB "mac-LogicalChannelConfig.ul-SpecificParameters."
+#define AT_DRB_UL AT_DRB "mac-LogicalChannelConfig.ul-SpecificParameters."
 #define AT_MAC "mac-CellGroupConfig."
+#define AT_PHR AT_MAC "phr-Config.setup."
 #define AT_PHY "physicalCellGroupConfig."
 #define AT_SYNC "spCellConfig.reconfigurationWithSync."
 #define AT_SYNC_PLACE "spCellConfig.reconfigurationWithSync"
@@ -45,5 +48,8 @@
                   "pusch-Config.setup.resourceAllocation = resourceAllocationType1\n" AT_SUL_BWP                       \
                   "pusch-Config.setup.pusch-PowerControl.p0-AlphaSets[0].p0-PUSCH-AlphaSetId = 0\n" AT_SUL             \
                   "firstActiveUplinkBWP-Id = 0\n"
+
+// What makes it a secondary cell group.
+#define AS_SCG "cellGroupId = 1\nspCellConfig.servCellIndex = 1\n" AT_PHR "multiplePHR = true\n"
 
 #endif

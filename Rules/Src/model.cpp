@@ -82,7 +82,7 @@ OSUINT8 Model::messageKind() const
 
 bool Model::isScg() const
 {
-    return known.group != RRC_RULE_GROUP_UNKNOWN ? known.group == RRC_RULE_GROUP_SCG : config.cellGroupId != 0;
+    return known.group != RRC_RULE_GROUP_UNKNOWN ? known.group == RRC_RULE_GROUP_SCG : config.cellGroupId == 1;
 }
 
 const Counterparts& Model::counterparts()
@@ -395,6 +395,26 @@ Known<RrcRuleDuplex> Model::duplexOf(const Cell& cell) const
         return RRC_RULE_DUPLEX_TDD;
     }
     return Known<RrcRuleDuplex>::unless(cell.isSpCell() ? RRC_RULE_INPUT_DUPLEX : RRC_RULE_INPUT_PREVIOUS);
+}
+
+bool Model::isReleased(const Cell& cell, Direction direction, OSUINT32 bwpId)
+{
+    const ServingCellConfig* const sent = cell.dedicated == nullptr ? nullptr : this->sent(*cell.dedicated);
+    if (sent == nullptr || cell.bwp(direction, bwpId) != nullptr)
+    {
+        return false;
+    }
+    const auto isIn = [&](const auto& list)
+    {
+        return std::find(list.begin(), list.end(), bwpId) != list.end();
+    };
+    if (direction == Direction::Downlink)
+    {
+        return isIn(entries(MEMBER(*sent, downlinkBWP_ToReleaseList)));
+    }
+    const UplinkConfig* const uplink =
+        direction == Direction::Uplink ? MEMBER(*sent, uplinkConfig) : MEMBER(*sent, supplementaryUplink);
+    return uplink != nullptr && isIn(entries(MEMBER(*uplink, uplinkBWP_ToReleaseList)));
 }
 
 Known<Carriers> Model::carriers(const Cell& cell, Direction direction) const

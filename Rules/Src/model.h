@@ -58,6 +58,18 @@ enum class Direction : OSUINT8
     Supplementary // uplink
 };
 
+// What a message calls kHz15 to kHz240, as log2; a value that is none of them is above 4.
+inline OSUINT32 muOf(SubcarrierSpacing scs)
+{
+    return scs;
+}
+constexpr OSUINT32 highestMu = 4;
+
+inline OSUINT32 khzOf(OSUINT32 mu)
+{
+    return mu <= highestMu ? 15U << mu : 0;
+}
+
 struct Cell;
 struct Pdcch;
 struct Pdsch;
@@ -105,13 +117,19 @@ struct Bwp
     {
         return id == 0;
     }
+    // Whether `generic` is of the element, so that something can be said of it.
+    bool isTold() const
+    {
+        return downlinkCommon != nullptr || uplinkCommon != nullptr;
+    }
     // log2(spacing / 15 kHz).
     Known<OSUINT32> mu() const;
     // Resource blocks from its carrier's first.
     Known<NrSpan> rbs() const;
-    bool isExtended() const // the prefix; false where it is unknown
+    // The cyclic prefix, which only 60 kHz can have so; false where it is unknown.
+    bool isExtended() const
     {
-        return generic != nullptr && generic->m.cyclicPrefixPresent != 0;
+        return generic != nullptr && generic->m.cyclicPrefixPresent != 0 && muOf(generic->subcarrierSpacing) == 2;
     }
     OSUINT32 symbolsPerSlot() const
     {
@@ -173,6 +191,15 @@ struct Cell
     Bwp* bwp(Direction direction, OSUINT32 id) const; // null where the element does not have it
 };
 
+constexpr Direction directions[] = {Direction::Downlink, Direction::Uplink, Direction::Supplementary};
+
+inline const char* nameOf(Direction direction)
+{
+    return direction == Direction::Downlink ? "downlink"
+           : direction == Direction::Uplink ? "uplink"
+                                            : "supplementary uplink";
+}
+
 // The carriers of a direction, of different spacings.
 struct Carriers
 {
@@ -199,18 +226,6 @@ struct Channel
     OSUINT32 bearerId; // srb-Identity or drb-Identity; of meaning where isSrb is known
     const LogicalChannelConfig_ul_SpecificParameters* uplink; // null where absent
 };
-
-// What a message calls kHz15 to kHz240, as log2; a value that is none of them is above 4.
-inline OSUINT32 muOf(SubcarrierSpacing scs)
-{
-    return scs;
-}
-constexpr OSUINT32 highestMu = 4;
-
-inline OSUINT32 khzOf(OSUINT32 mu)
-{
-    return mu <= highestMu ? 15U << mu : 0;
-}
 
 class Model
 {
@@ -249,6 +264,8 @@ public:
     Cell* spCell();
     Cell* cell(OSUINT32 servCellIndex); // null where the element does not have it
     const Ids<SCellConfig>& sCells();
+    // Whether this message releases a bandwidth part, for good.
+    bool isReleased(const Cell& cell, Direction direction, OSUINT32 bwpId);
 
     std::span<Channel> channels();
     const Ids<RLC_BearerConfig>& bearers();

@@ -232,6 +232,22 @@ const Pusch& Model::pusch(Bwp& bwp)
     return made(memory, bwp.lists.pusch, make);
 }
 
+Known<PuschRows> puschRows(const Model& model, const Bwp& bwp)
+{
+    const OSRTDList* list =
+        bwp.pusch == nullptr ? nullptr : model.tree.setup(MEMBER(*bwp.pusch, pusch_TimeDomainAllocationList));
+    if (list == nullptr && bwp.uplinkCommon == nullptr)
+    {
+        return Known<PuschRows>::unless(bwp.cell->isSpCell() ? RRC_RULE_INPUT_COMMON : RRC_RULE_INPUT_PREVIOUS);
+    }
+    if (list == nullptr)
+    {
+        const PUSCH_ConfigCommon* const common = model.tree.setup(MEMBER(*bwp.uplinkCommon, pusch_ConfigCommon));
+        list = common == nullptr ? nullptr : MEMBER(*common, pusch_TimeDomainAllocationList);
+    }
+    return PuschRows{list == nullptr, model.tree.list<PUSCH_TimeDomainResourceAllocation>(list)};
+}
+
 const Srs& Model::srs(Bwp& bwp)
 {
     const auto make = [&](Srs& made)

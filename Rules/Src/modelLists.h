@@ -63,6 +63,20 @@ struct Pusch
     List<P0_PUSCH_AlphaSet> alphaSets;
 };
 
+// pusch-TimeDomainAllocationList in force: that of PUSCH-Config, else that of PUSCH-ConfigCommon, else the 16 rows of
+// TS 38.214 table 6.1.2.1.1-2, which are not listed here.
+struct PuschRows
+{
+    bool isDefault;
+    List<PUSCH_TimeDomainResourceAllocation> rows;
+
+    OSUINT32 count() const
+    {
+        return isDefault ? 16 : rows.size();
+    }
+};
+Known<PuschRows> puschRows(const Model& model, const Bwp& bwp);
+
 struct Srs
 {
     Ids<SRS_ResourceSet> sets;

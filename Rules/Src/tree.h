@@ -176,6 +176,13 @@ private:
     OSCTXT heap_{};
 };
 
+// What an enumeration's value stands for, in the order of its values; 0 of a value that stands for nothing.
+template <typename T, size_t N>
+T meaning(const T (&meanings)[N], OSUINT32 value)
+{
+    return value < N ? meanings[value] : T{};
+}
+
 template <typename SetupRelease>
 bool isRelease(const SetupRelease* choice)
 {

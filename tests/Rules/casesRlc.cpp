@@ -48,8 +48,6 @@ Known in(RrcRuleMessage message)
                                                                                                                "false" \
                                                                                                                "\n"
 
-#define SCELL_UPLINK ""
-
 // A modification of DRB 1's channel.
 #define CHANNEL4 "rlc-BearerToAddModList[0].logicalChannelIdentity = 4\n"
 
@@ -170,12 +168,10 @@ void rlcCases(CaseTable& table)
                both + UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 0")
         .with(withDuplication)
         .as(RRC_RULE_WARNING)
-        .undecided(
-            sCell() + both +
-            UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 1\n" SCELL_UPLINK)
-        .silent(
-            sCell() + both +
-            UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 1\n" SCELL_UPLINK)
+        .undecided(ADD_SCELL_WITH_UPLINK + both +
+                   UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 1")
+        .silent(ADD_SCELL_WITH_UPLINK + both +
+                UM_BOTH UPLINK("1") "allowedServingCells[0] = 0\n" UPLINK("2") "allowedServingCells[0] = 1")
         .with(withDuplication);
 
     table.rule("rlc-release-srb")
@@ -184,13 +180,8 @@ void rlcCases(CaseTable& table)
         .good()
         .with(inDelta)
         // A split SRB1 leaves the secondary cell group.
-        .silent("rlc-BearerToReleaseList[0] = 1\nrlc-BearerToAddModList[0] = absent")
-        .with(
-            [](RrcRuleContext& known)
-            {
-                inDelta(known);
-                known.group = RRC_RULE_GROUP_SCG;
-            })
+        .silent(AS_SCG "rlc-BearerToReleaseList[0] = 1\nrlc-BearerToAddModList[0] = absent")
+        .with(inDelta)
         .undecided("rlc-BearerToReleaseList[0] = 7")
         .with(inDelta)
         .fires("rlc-BearerToReleaseList[0]", "rlc-BearerToReleaseList[0] = 4")

@@ -141,8 +141,11 @@ private:
     std::vector<RuleCase> all_;
 };
 
-// Changes that add an SCell: sCell.flat.
-std::string sCell();
+// Changes that add an SCell, without an uplink and with one.
+#define ADD_SCELL "+ sCell.flat\n"
+#define ADD_SCELL_WITH_UPLINK ADD_SCELL "+ sCellUplink.flat\n"
+// Changes that move the cell to FR2.
+#define AS_FR2 "+ fr2.flat\n"
 
 // Contexts that many cases share.
 void inDelta(RrcRuleContext& known);
