@@ -57,11 +57,6 @@ std::string candidate(int csiRs)
            std::to_string(csiRs) + "\n";
 }
 
-void inFr2(RrcRuleContext& known)
-{
-    known.range = RRC_RULE_RANGE_FR2;
-}
-
 void inFr1(RrcRuleContext& known)
 {
     known.range = RRC_RULE_RANGE_FR1;
@@ -123,11 +118,9 @@ void ofPreambles(CaseTable& table)
         .fires(AT_RACH "msg1-SubcarrierSpacing", AT_RACH "msg1-SubcarrierSpacing = absent")
         .fires(AT_RACH "msg1-SubcarrierSpacing", longOne + indices(66) + AT_RACH "msg1-SubcarrierSpacing = kHz30")
         .fires(AT_RACH "msg1-SubcarrierSpacing", AT_RACH "msg1-SubcarrierSpacing = kHz240")
-        .fires(AT_RACH "msg1-SubcarrierSpacing", AT_RACH "msg1-SubcarrierSpacing = kHz30")
-        .with(inFr2)
+        .fires(AT_RACH "msg1-SubcarrierSpacing", AS_FR2 AT_RACH "msg1-SubcarrierSpacing = kHz30")
         .saying("FR2 has 60 or 120 kHz")
-        .silent(AT_RACH "msg1-SubcarrierSpacing = kHz120")
-        .with(inFr2)
+        .silent(AS_FR2)
         .fires(AT_BFR "msg1-SubcarrierSpacing-v1530", recovery + AT_BFR "msg1-SubcarrierSpacing-v1530 = kHz60")
         .silent(recovery + AT_BFR "msg1-SubcarrierSpacing-v1530 = kHz15");
 

@@ -15,7 +15,8 @@ namespace
 #define AT_GROUP AT_SWITCHING "srs-TPC-PDCCH-Group."
 #define AT_RELATION AT_SOUNDING "spatialRelationInfo."
 #define NO_SYNC "spCellConfig.reconfigurationWithSync = absent\n"
-#define UL_RIV AT_UL "bwp-Common.genericParameters.locationAndBandwidth = "
+#define AT_UL2 AT_UPLINK "uplinkBWP-ToAddModList[1]."
+#define AT_SECOND AT_UL2 "bwp-Dedicated.srs-Config.setup."
 
 // A further resource of a symbol, `type` its resourceType with its value.
 std::string resource(int id, const std::string& ports, int position,
@@ -42,6 +43,23 @@ std::string set(int id, const std::string& usage, const std::string& type, int f
         text += at + "srs-ResourceIdList[" + std::to_string(i) + "] = " + std::to_string(first + i) + "\n";
     }
     return text;
+}
+
+// Sounding of 272 resource blocks on bandwidth part 2, of so many from the first on.
+std::string second(int blocks)
+{
+    const std::string location =
+        "bwp-Common.genericParameters.locationAndBandwidth = " + std::to_string(275 * (276 - blocks) + 274) + "\n";
+    const std::string dl = AT_CELL "downlinkBWP-ToAddModList[1].";
+    std::string text = dl + "bwp-Id = 2\n" + dl + location + dl +
+                       "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" AT_UL2 "bwp-Id = 2\n" AT_UL2 +
+                       location + AT_UL2 "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n";
+    std::string sounding = resource(0, "port1", 0);
+    for (std::size_t at = 0; (at = sounding.find("uplinkBWP-ToAddModList[0]", at)) != std::string::npos; ++at)
+    {
+        sounding.replace(at, 25, "uplinkBWP-ToAddModList[1]");
+    }
+    return text + sounding;
 }
 
 const std::string nonCodebook =
@@ -141,35 +159,38 @@ void ofResources(CaseTable& table)
         .fires(AT_MAPPING "repetitionFactor", AT_MAPPING "repetitionFactor = n2")
         .silent(AT_MAPPING "nrofSymbols = n2\n" AT_MAPPING "startPosition = 5\n" AT_MAPPING "repetitionFactor = n2");
 
-    // c-SRS 62: 272, 68, 4, 4. The place at b = 1: 4 * freqDomainPosition / 68.
+    // c-SRS 61: 272 resource blocks. 62: 272, 68, 4, 4; the place at b = 1 is 4 * freqDomainPosition / 68.
+    const std::string wide = AT_HOPPING "c-SRS = 61\n";
+    const std::string narrow = AT_HOPPING "c-SRS = 62\n" AT_HOPPING "b-SRS = 1\n" AT_HOPPING "b-hop = 1\n";
     table.rule("srs-bandwidth")
         .bad(AT_SOUNDING "freqDomainShift")
         .saying("2: resource blocks 2..273, but the bandwidth part ends with 272")
         .good()
-        // 28875: RB 0..105.
-        .fires(AT_HOPPING "c-SRS", UL_RIV "28875\n" AT_UL "bwp-Dedicated.pucch-Config = absent")
-        .with(inDelta)
-        .saying("61: 272 resource blocks, but the bandwidth part has 106")
-        .silent(AT_HOPPING "c-SRS = 62\n" AT_HOPPING "b-SRS = 1\n" AT_HOPPING "b-hop = 1\n" AT_SOUNDING
-                           "freqDomainPosition = 17\n" AT_SOUNDING "freqDomainShift = 137")
+        .silent(narrow + AT_SOUNDING "freqDomainPosition = 17\n" AT_SOUNDING "freqDomainShift = 137")
         .fires(AT_SOUNDING "freqDomainShift",
-               AT_HOPPING "c-SRS = 62\n" AT_HOPPING "b-SRS = 1\n" AT_HOPPING "b-hop = 1\n" AT_SOUNDING
-                          "freqDomainPosition = 17\n" AT_SOUNDING "freqDomainShift = 138")
+               narrow + AT_SOUNDING "freqDomainPosition = 17\n" AT_SOUNDING "freqDomainShift = 138")
         // With hopping over all of it the place is nothing.
-        .fires(AT_SOUNDING "freqDomainShift", AT_HOPPING "c-SRS = 62\n" AT_HOPPING "b-SRS = 1\n" AT_HOPPING
-                                                         "b-hop = 0\n" AT_SOUNDING "freqDomainShift = 137")
-        .fires(AT_HOPPING "c-SRS", UL_RIV "28875\n" AT_HOPPING "c-SRS = 62\n" AT_HOPPING "b-SRS = 1\n" AT_HOPPING
-                                          "b-hop = 1\n" AT_UL "bwp-Dedicated.pucch-Config = absent")
+        .fires(AT_SOUNDING "freqDomainShift",
+               narrow + AT_HOPPING "b-hop = 0\n" AT_SOUNDING "freqDomainShift = 137")
+        .fires(AT_SECOND "srs-ResourceToAddModList[0].freqHopping.c-SRS", second(271))
+        .with(inDelta)
+        .saying("61: 272 resource blocks, but the bandwidth part has 271")
+        .silent(second(272))
+        .with(inDelta)
+        .fires(AT_SECOND "srs-ResourceToAddModList[0].freqHopping.c-SRS",
+               second(271) + AT_SECOND "srs-ResourceToAddModList[0].freqHopping.c-SRS = 62\n" AT_SECOND
+                                       "srs-ResourceToAddModList[0].freqHopping.b-SRS = 1")
         .with(inDelta)
         .as(RRC_RULE_WARNING)
+        .saying("62: 272 resource blocks, of which b-SRS leaves 68")
         // A shift of 100 is the bandwidth part's first block, 99 one of the bandwidth part, behind whose end it leads.
-        .silent(offset100 + AT_SOUNDING "freqDomainShift = 101")
-        .fires(AT_SOUNDING "freqDomainShift", offset100 + AT_SOUNDING "freqDomainShift = 102")
+        .silent(offset100 + wide + AT_SOUNDING "freqDomainShift = 101")
+        .fires(AT_SOUNDING "freqDomainShift", offset100 + wide + AT_SOUNDING "freqDomainShift = 102")
         .saying("102: resource blocks 102..373, but the bandwidth part ends with 372")
-        .fires(AT_SOUNDING "freqDomainShift", offset100 + AT_SOUNDING "freqDomainShift = 99")
-        .undecided(NO_SYNC AT_SOUNDING "freqDomainShift = 2")
-        .silent(NO_SYNC AT_SOUNDING "freqDomainShift = 1")
-        .fires(AT_SOUNDING "freqDomainShift", NO_SYNC AT_SOUNDING "freqDomainShift = 2")
+        .fires(AT_SOUNDING "freqDomainShift", offset100 + wide + AT_SOUNDING "freqDomainShift = 99")
+        .undecided(std::string(NO_SYNC) + wide + AT_SOUNDING "freqDomainShift = 2")
+        .silent(std::string(NO_SYNC) + wide + AT_SOUNDING "freqDomainShift = 1")
+        .fires(AT_SOUNDING "freqDomainShift", std::string(NO_SYNC) + wide + AT_SOUNDING "freqDomainShift = 2")
         .with(
             [](RrcRuleContext& known)
             {
@@ -348,9 +369,9 @@ void ofOtherCells(CaseTable& table)
         .fires(AT_SWITCHING "srs-SwitchFromServCellIndex", nothing + AT_SWITCHING "srs-SwitchFromServCellIndex = 0")
         .saying("0, but that is this cell itself")
         .fires(AT_SWITCHING "srs-SwitchFromServCellIndex", nothing + AT_SWITCHING "srs-SwitchFromServCellIndex = 1")
-        .silent(nothing + AT_SWITCHING "srs-SwitchFromServCellIndex = 1\n" + sCell())
+        .silent(nothing + AT_SWITCHING "srs-SwitchFromServCellIndex = 1\n" ADD_SCELL)
         .fires(AT_SWITCHING "monitoringCells[0]", nothing + AT_SWITCHING "monitoringCells[0] = 1")
-        .silent(nothing + AT_SWITCHING "monitoringCells[0] = 1\n" + sCell())
+        .silent(nothing + AT_SWITCHING "monitoringCells[0] = 1\n" ADD_SCELL)
         .fires(AT_SUL "carrierSwitching", EXAMPLE_SUL AT_SUL "carrierSwitching.setup.srs-SwitchFromCarrier = nUL");
 }
 
