@@ -4,18 +4,27 @@
 
 #include "finding.h"
 #include "model.h"
+#include "walk.h"
 
 namespace rules
 {
 
 class Check;
 
-// A rule: what documents tell of it, and the function of its name.
+// A rule: what documents tell of it, and the function of its name. One that holds wherever a type occurs is called for
+// each value of the message instead, of the kinds that it asks for: all of them share one walk.
 struct Rule
 {
     RrcRule told;
-    void (*run)(Check& check);
+    void (*run)(Check& check) = nullptr;
+    void (*visit)(Check& check, const Value& value) = nullptr;
+    OSUINT32 kinds = 0; // of `visit`: kindBit() of each
 };
+
+constexpr OSUINT32 kindBit(rtx::Kind kind)
+{
+    return 1U << static_cast<unsigned>(kind);
+}
 
 // The rules of one file, in the order of the documents.
 struct RuleGroup

@@ -95,6 +95,20 @@ const Counterparts& Model::counterparts()
     return counterparts_.value;
 }
 
+const void* Model::beforeSent(const void* at, size_t size)
+{
+    if (previous == nullptr)
+    {
+        return nullptr;
+    }
+    if (!sentCounterparts_.made)
+    {
+        sentCounterparts_.made = true;
+        sentCounterparts_.value.build(memory, tree, *asn1Type_CellGroupConfig(), &message, previous, nullptr);
+    }
+    return sentCounterparts_.value.before(at, size);
+}
+
 const Ids<SCellConfig>& Model::sCells()
 {
     if (!sCells_.made)

@@ -303,6 +303,9 @@ public:
         return &config == &message ? &element : counterparts().sent(element);
     }
 
+    // What a sequence of the message was before it.
+    const void* beforeSent(const void* at, size_t size);
+
     // Whether an element of `owner` was there before the message.
     template <typename T>
     Novelty noveltyOf(const T& element, Novelty owner)
@@ -364,6 +367,7 @@ private:
     Known<RrcRuleDuplex> duplexOf(const Cell& cell) const;
 
     Lazy<Counterparts> counterparts_;
+    Lazy<Counterparts> sentCounterparts_;
     Lazy<Vector<Cell>> cells_;
     Vector<Bwp> bwps_;
     Lazy<Ids<SCellConfig>> sCells_;

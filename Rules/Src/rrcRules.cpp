@@ -48,6 +48,52 @@ constexpr const char* inputNames[RRC_RULE_INPUTS] = {
     "rach-ConfigCommon of the initial uplink bandwidth part",
 };
 
+// The rules that are called for values.
+class Visitors
+{
+public:
+    void add(Memory& memory, const Rule& rule, OSUINT32 index)
+    {
+        all_.add(memory, {&rule, index});
+        kinds_ |= rule.kinds;
+    }
+
+    void walk(Check& check, const Tree& tree, const CellGroupConfig& element) const
+    {
+        if (all_.empty())
+        {
+            return;
+        }
+        forValues(tree.heap(), {*asn1Type_CellGroupConfig(), &element, nullptr, false},
+                  [&](const Value& value)
+                  {
+                      const OSUINT32 kind = kindBit(value.type.kind);
+                      if ((kinds_ & kind) == 0)
+                      {
+                          return;
+                      }
+                      for (const Entry& entry : all_)
+                      {
+                          if ((entry.rule->kinds & kind) != 0)
+                          {
+                              check.begin(*entry.rule, entry.index);
+                              entry.rule->visit(check, value);
+                          }
+                      }
+                  });
+    }
+
+private:
+    struct Entry
+    {
+        const Rule* rule;
+        OSUINT32 index;
+    };
+
+    Vector<Entry> all_;
+    OSUINT32 kinds_ = 0;
+};
+
 int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext& known,
               int (*wanted)(void* arg, const RrcRule* rule), RrcRuleSink sink, void* arg)
 {
@@ -61,16 +107,25 @@ int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext
     {
         return RTX_E_HEAP;
     }
+    (void)model.cells(); // whole, or no rule is asked
     Check check(model, findings, undecided);
+    Visitors visitors{};
     forRules(
         [&](const Rule& rule, OSUINT32 index)
         {
-            if (wanted == nullptr || wanted(arg, &rule.told) != 0)
+            if (memory.failed() || (wanted != nullptr && wanted(arg, &rule.told) == 0))
             {
-                check.begin(rule, index);
-                rule.run(check);
+                return;
             }
+            if (rule.visit != nullptr)
+            {
+                visitors.add(memory, rule, index);
+                return;
+            }
+            check.begin(rule, index);
+            rule.run(check);
         });
+    visitors.walk(check, tree, element);
     if (memory.failed())
     {
         return RTX_E_HEAP;

@@ -1,8 +1,8 @@
 // Bandwidth parts and carriers.
+#include "NR-RRC-Tables.h"
 #include "examplePaths.h"
 #include "modelLists.h"
 #include "rules.h"
-#include "walk.h"
 
 #include <string_view>
 
@@ -124,83 +124,103 @@ void carrierWidths(Check& check, const Cell& cell, const OSRTDList* list)
     }
 }
 
+// Calls `each(list)` for the lists of carriers of a cell, null for those that it does not have.
+template <typename Each>
+void forCarrierLists(const Cell& cell, const Each& each)
+{
+    const FrequencyInfoDL* const downlink = cell.frequencyDl();
+    each(downlink == nullptr ? nullptr : &downlink->scs_SpecificCarrierList);
+    for (const FrequencyInfoUL* const frequency : {cell.frequencyUl(), cell.frequencySul()})
+    {
+        each(frequency == nullptr ? nullptr : &frequency->scs_SpecificCarrierList);
+    }
+    each(cell.dedicated == nullptr ? nullptr : ADDITION(*cell.dedicated, 2, downlinkChannelBW_PerSCS_List));
+    for (const UplinkConfig* const uplink : {cell.uplinkConfig, cell.supplementary})
+    {
+        each(uplink == nullptr ? nullptr : ADDITION(*uplink, 2, uplinkChannelBW_PerSCS_List));
+    }
+}
+
 void bwpCarrierWidth(Check& check)
 {
     for (const Cell& cell : check.model.cells())
     {
-        if (const FrequencyInfoDL* const frequency = cell.frequencyDl())
-        {
-            carrierWidths(check, cell, &frequency->scs_SpecificCarrierList);
-        }
-        for (const FrequencyInfoUL* const frequency : {cell.frequencyUl(), cell.frequencySul()})
-        {
-            carrierWidths(check, cell, frequency == nullptr ? nullptr : &frequency->scs_SpecificCarrierList);
-        }
-        if (cell.dedicated != nullptr)
-        {
-            carrierWidths(check, cell, ADDITION(*cell.dedicated, 2, downlinkChannelBW_PerSCS_List));
-        }
-        for (const UplinkConfig* const uplink : {cell.uplinkConfig, cell.supplementary})
-        {
-            carrierWidths(check, cell, uplink == nullptr ? nullptr : ADDITION(*uplink, 2, uplinkChannelBW_PerSCS_List));
-        }
+        forCarrierLists(cell, [&](const OSRTDList* list) { carrierWidths(check, cell, list); });
     }
 }
 
-// Spacings are those of the cell's frequency range. Others than these members have rules of their own.
-void spacings(Check& check, const Cell& cell, const Value& root)
+// A spacing is one of the cell's frequency range.
+void spacing(Check& check, const Cell& cell, const SubcarrierSpacing& scs)
 {
-    forValues(check.tree.heap(), root,
-              [&](const Value& value)
-              {
-                  if (value.name == nullptr || std::string_view(value.type.name) != "SubcarrierSpacing" ||
-                      !std::string_view(value.name).starts_with("subcarrierSpacing"))
-                  {
-                      return;
-                  }
-                  const OSUINT32 mu = muOf(rtx::load<OSUINT32>(value.at));
-                  if (mu == highestMu)
-                  {
-                      check.tell(RRC_RULE_ERROR, value.type, value.at).allowed("only SS/PBCH blocks have that spacing");
-                  }
-                  else if (mu < highestMu && check.decided(cell.range) && !isOfRange(mu, *cell.range))
-                  {
-                      const bool isFr1 = *cell.range == RRC_RULE_RANGE_FR1;
-                      check.tell(RRC_RULE_ERROR, value.type, value.at)
-                          .allowed("cells of %s", isFr1 ? "FR1 have 15, 30 and 60 kHz" : "FR2 have 60 and 120 kHz");
-                  }
-              });
-}
-
-const RtxType& memberType(const RtxType& type, std::string_view name)
-{
-    for (unsigned i = 0; i < type.memberCount; ++i)
+    const OSUINT32 mu = muOf(scs);
+    if (mu == highestMu)
     {
-        if (name == type.names[i])
-        {
-            return *type.members[i].type;
-        }
+        check.error(&scs).allowed("only SS/PBCH blocks have that spacing");
     }
-    return type;
+    else if (mu < highestMu && check.decided(cell.range) && !isOfRange(mu, *cell.range))
+    {
+        const bool isFr1 = *cell.range == RRC_RULE_RANGE_FR1;
+        check.error(&scs).allowed("cells of %s", isFr1 ? "FR1 have 15, 30 and 60 kHz" : "FR2 have 60 and 120 kHz");
+    }
 }
 
+void spacingsOf(Check& check, const Cell& cell, const OSRTDList* carriers)
+{
+    for (const SCS_SpecificCarrier& carrier : check.tree.list<SCS_SpecificCarrier>(carriers))
+    {
+        spacing(check, cell, carrier.subcarrierSpacing);
+    }
+}
+
+void patternSpacings(Check& check, const Cell& cell, const OSRTDList* patterns)
+{
+    for (const RateMatchPattern& pattern : check.tree.list<RateMatchPattern>(patterns))
+    {
+        if (const SubcarrierSpacing* const scs = MEMBER(pattern, subcarrierSpacing))
+        {
+            spacing(check, cell, *scs);
+        }
+    }
+}
+
+// Of bandwidth parts, carriers, rate match patterns and slot formats; other spacings have rules of their own.
 void bwpScsRange(Check& check)
 {
-    const RtxType& group = *asn1Type_CellGroupConfig();
-    const RtxType& spCell = memberType(group, "spCellConfig");
-    const RtxType& common = memberType(memberType(spCell, "reconfigurationWithSync"), "spCellConfigCommon");
-    const RtxType& dedicated = memberType(spCell, "spCellConfigDedicated");
     for (const Cell& cell : check.model.cells())
     {
+        forCarrierLists(cell, [&](const OSRTDList* list) { spacingsOf(check, cell, list); });
         if (cell.common != nullptr)
         {
-            spacings(check, cell, {common, cell.common, nullptr, false});
+            patternSpacings(check, cell, MEMBER(*cell.common, rateMatchPatternToAddModList));
         }
-        if (cell.dedicated != nullptr)
+        if (cell.dedicated == nullptr)
         {
-            spacings(check, cell, {dedicated, cell.dedicated, nullptr, false});
+            continue;
+        }
+        patternSpacings(check, cell, ADDITION(*cell.dedicated, 2, rateMatchPatternToAddModList));
+        const PDCCH_ServingCellConfig* const pdcch = check.tree.setup(MEMBER(*cell.dedicated, pdcch_ServingCellConfig));
+        const SlotFormatIndicator* const indicator =
+            pdcch == nullptr ? nullptr : check.tree.setup(MEMBER(*pdcch, slotFormatIndicator));
+        for (const SlotFormatCombinationsPerCell& combinations : check.tree.list<SlotFormatCombinationsPerCell>(
+                 indicator == nullptr ? nullptr : MEMBER(*indicator, slotFormatCombToAddModList)))
+        {
+            const Cell* const formatted = check.model.cell(combinations.servingCellId);
+            if (formatted != nullptr)
+            {
+                spacing(check, *formatted, combinations.subcarrierSpacing);
+            }
         }
     }
+    forBwps(check,
+            [&](const Cell& cell, const Bwp& bwp)
+            {
+                if (bwp.isTold())
+                {
+                    spacing(check, cell, bwp.generic->subcarrierSpacing);
+                }
+                patternSpacings(check, cell,
+                                bwp.pdsch == nullptr ? nullptr : MEMBER(*bwp.pdsch, rateMatchPatternToAddModList));
+            });
 }
 
 // Only 60 kHz has an extended prefix, and both directions have the same.
@@ -577,23 +597,22 @@ const char* userOf(Check& check, const Cell& cell, Direction direction, OSUINT32
     {
         return index == nullptr || (cell.index && *cell.index == *index);
     };
-    const RtxType& type = memberType(memberType(*asn1Type_CellGroupConfig(), "spCellConfig"), "spCellConfigDedicated");
-    forValues(check.tree.heap(), {type, cell.dedicated, nullptr, false},
+    forValues(check.tree.heap(), {nr_rrc::type_ServingCellConfig, cell.dedicated, nullptr, false},
               [&](const Value& value)
               {
-                  const std::string_view name = value.type.name;
-                  if (isDownlink && name == "CSI-ResourceConfig")
+                  const RtxType* const type = &value.type;
+                  if (isDownlink && type == &nr_rrc::type_CSI_ResourceConfig)
                   {
                       user = static_cast<const CSI_ResourceConfig*>(value.at)->bwp_Id == id ? value.type.name : user;
                   }
-                  else if (isDownlink && name == "QCL-Info")
+                  else if (isDownlink && type == &nr_rrc::type_QCL_Info)
                   {
                       const auto& info = *static_cast<const QCL_Info*>(value.at);
                       const BWP_Id* const named = MEMBER(info, bwp_Id);
                       const bool isIt = named != nullptr && *named == id && isHere(MEMBER(info, cell));
                       user = isIt ? value.type.name : user;
                   }
-                  else if (!isDownlink && name == "PUCCH-CSI-Resource" && cell.isSpCell())
+                  else if (!isDownlink && type == &nr_rrc::type_PUCCH_CSI_Resource && cell.isSpCell())
                   {
                       const auto& resource = *static_cast<const PUCCH_CSI_Resource*>(value.at);
                       user = resource.uplinkBandwidthPartId == id ? value.type.name : user;

@@ -1,7 +1,7 @@
 // The element as a whole: what holds wherever a type occurs.
+#include "NR-RRC-Tables.h"
 #include "examplePaths.h"
 #include "rules.h"
-#include "walk.h"
 
 #include <string_view>
 
@@ -9,13 +9,6 @@ namespace rules
 {
 namespace
 {
-
-// Every value of the message.
-template <typename Each>
-void forMessage(Check& check, const Each& each)
-{
-    forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.message, nullptr, false}, each);
-}
 
 bool contains(const char* name, std::string_view part)
 {
@@ -30,18 +23,18 @@ bool isReleaseList(const char* name)
 // What tells the elements of lists apart that are replaced as a whole, and so have no identity in the schema.
 struct Key
 {
-    const char* type;
+    const RtxType* type;
     const char* member;
 };
-constexpr Key keys[] = {{"SearchSpace", "searchSpaceId"},
-                        {"P0-PUSCH-AlphaSet", "p0-PUSCH-AlphaSetId"},
-                        {"P0-PUCCH", "p0-PUCCH-Id"},
-                        {"PUCCH-PathlossReferenceRS", "pucch-PathlossReferenceRS-Id"},
-                        {"SCS-SpecificCarrier", "subcarrierSpacing"},
-                        {"INT-ConfigurationPerServingCell", "servingCellId"},
-                        {"SlotFormatCombination", "slotFormatCombinationId"},
-                        {"CFRA-SSB-Resource", "ssb"},
-                        {"CFRA-CSIRS-Resource", "csi-RS"}};
+constexpr Key keys[] = {{&nr_rrc::type_SearchSpace, "searchSpaceId"},
+                        {&nr_rrc::type_P0_PUSCH_AlphaSet, "p0-PUSCH-AlphaSetId"},
+                        {&nr_rrc::type_P0_PUCCH, "p0-PUCCH-Id"},
+                        {&nr_rrc::type_PUCCH_PathlossReferenceRS, "pucch-PathlossReferenceRS-Id"},
+                        {&nr_rrc::type_SCS_SpecificCarrier, "subcarrierSpacing"},
+                        {&nr_rrc::type_INT_ConfigurationPerServingCell, "servingCellId"},
+                        {&nr_rrc::type_SlotFormatCombination, "slotFormatCombinationId"},
+                        {&nr_rrc::type_CFRA_SSB_Resource, "ssb"},
+                        {&nr_rrc::type_CFRA_CSIRS_Resource, "csi-RS"}};
 
 // The place of what identifies an element of a list.
 struct Identity
@@ -79,7 +72,7 @@ Identity identityOf(const RtxType& list)
     }
     for (const Key& key : keys)
     {
-        if (std::string_view(element.name) == key.type)
+        if (&element == key.type)
         {
             return memberNamed(element, key.member);
         }
@@ -111,33 +104,32 @@ bool hasId(const OSCTXT& heap, const RtxType& list, const void* at, int64_t id, 
     return has;
 }
 
-// Within a list an id occurs once.
-void genDupId(Check& check)
+// How many elements a list says to have.
+OSUINT32 numberOf(const RtxType& type, const void* list)
 {
-    forMessage(check,
-               [&](const Value& value)
-               {
-                   const bool isList = value.type.kind == rtx::Kind::Array || value.type.kind == rtx::Kind::List;
-                   const Identity identity = isList ? identityOf(value.type) : Identity{nullptr, 0};
-                   if (identity.type == nullptr)
-                   {
-                       return;
-                   }
-                   OSUINT32 index = 0;
-                   forElements(check.tree.heap(), value.type, value.at,
-                               [&](const void* element)
-                               {
-                                   const int64_t id = idOf(identity, element);
-                                   if (hasId(check.tree.heap(), value.type, value.at, id, index++))
-                                   {
-                                       const bool isGone = isReleaseList(value.name);
-                                       check
-                                           .tell(isGone ? RRC_RULE_WARNING : RRC_RULE_ERROR, *identity.type,
-                                                 identityAt(identity, element))
-                                           .allowed("an earlier element of the list has it, too");
-                                   }
-                               });
-               });
+    return type.kind == rtx::Kind::List ? rtx::load<OSRTDList>(list).count : rtx::countOf(type, list);
+}
+
+// Within a list an id occurs once.
+void genDupId(Check& check, const Value& list)
+{
+    const Identity identity = numberOf(list.type, list.at) < 2 ? Identity{nullptr, 0} : identityOf(list.type);
+    if (identity.type == nullptr)
+    {
+        return;
+    }
+    OSUINT32 index = 0;
+    forElements(check.tree.heap(), list.type, list.at,
+                [&](const void* element)
+                {
+                    if (hasId(check.tree.heap(), list.type, list.at, idOf(identity, element), index++))
+                    {
+                        check
+                            .tell(isReleaseList(list.name) ? RRC_RULE_WARNING : RRC_RULE_ERROR, *identity.type,
+                                  identityAt(identity, element))
+                            .allowed("an earlier element of the list has it, too");
+                    }
+                });
 }
 
 // The list that a release list takes elements from, in the same sequence; -1 where it is none.
@@ -164,55 +156,47 @@ int addedListOf(const RtxType& type, unsigned release)
 // Calls `each(release, added)` for the release lists that a sequence of the message has, with the numbers of the
 // members.
 template <typename Each>
-void forReleases(const Value& value, const Each& each)
+void forReleases(const Value& sequence, const Each& each)
 {
-    if (value.type.kind != rtx::Kind::Sequence)
+    const RtxType& type = sequence.type;
+    for (unsigned i = 0; i < type.memberCount; ++i)
     {
-        return;
-    }
-    for (unsigned i = 0; i < value.type.memberCount; ++i)
-    {
-        const int added = isSentMember(value.type, i, value.at) ? addedListOf(value.type, i) : -1;
-        if (added >= 0)
+        if (type.members[i].type->kind == rtx::Kind::Array && isSentMember(type, i, sequence.at))
         {
-            each(i, static_cast<unsigned>(added));
+            if (const int added = addedListOf(type, i); added >= 0)
+            {
+                each(i, static_cast<unsigned>(added));
+            }
         }
     }
 }
 
 // What is released and added in one message is new.
-void genAddAndRelease(Check& check)
+void genAddAndRelease(Check& check, const Value& sequence)
 {
     const OSCTXT& heap = check.tree.heap();
-    forMessage(check,
-               [&](const Value& value)
-               {
-                   forReleases(value,
-                               [&](unsigned release, unsigned added)
-                               {
-                                   if (!isSentMember(value.type, added, value.at))
-                                   {
-                                       return;
-                                   }
-                                   const rtx::Member& gone = value.type.members[release];
-                                   const rtx::Member& list = value.type.members[added];
-                                   const Identity identity = identityOf(*list.type);
-                                   forElements(heap, *list.type, memberAt(list, value.at),
-                                               [&](const void* element)
-                                               {
-                                                   const int64_t id = idOf(identity, element);
-                                                   if (hasId(heap, *gone.type, memberAt(gone, value.at), id))
-                                                   {
-                                                       check
-                                                           .tell(RRC_RULE_NOTICE, *identity.type,
-                                                                 identityAt(identity, element))
-                                                           .allowed("%s has it, too: the element is new, and nothing "
-                                                                    "of the earlier one stays",
-                                                                    value.type.names[release]);
-                                                   }
-                                               });
-                               });
-               });
+    const RtxType& type = sequence.type;
+    const auto look = [&](unsigned release, unsigned added)
+    {
+        if (!isSentMember(type, added, sequence.at))
+        {
+            return;
+        }
+        const rtx::Member& gone = type.members[release];
+        const rtx::Member& list = type.members[added];
+        const Identity identity = identityOf(*list.type);
+        forElements(heap, *list.type, memberAt(list, sequence.at),
+                    [&](const void* element)
+                    {
+                        if (hasId(heap, *gone.type, memberAt(gone, sequence.at), idOf(identity, element)))
+                        {
+                            check.tell(RRC_RULE_NOTICE, *identity.type, identityAt(identity, element))
+                                .allowed("%s has it, too: the element is new, and nothing of the earlier one stays",
+                                         type.names[release]);
+                        }
+                    });
+    };
+    forReleases(sequence, look);
 }
 
 // What is known of a member before the message: its place, null where it was not there.
@@ -221,74 +205,60 @@ const void* beforeOf(const RtxType& type, unsigned number, const void* before)
     return before != nullptr && isSentMember(type, number, before) ? memberAt(type.members[number], before) : nullptr;
 }
 
-bool isSetupRelease(const RtxType& type)
+// Whether a choice is a SetupRelease that releases.
+bool isReleased(const RtxType& type, const void* choice)
 {
-    return type.kind == rtx::Kind::Choice && type.memberCount == 2 && std::string_view(type.names[0]) == "release";
+    return rtx::load<OSUINT32>(choice) == releaseTag && type.memberCount == 2 &&
+           std::string_view(type.names[0]) == "release";
+}
+
+void tellUnknown(Check& check, const RtxType& type, const void* at)
+{
+    if (!check.model.complete)
+    {
+        check.undecided(RRC_RULE_INPUT_PREVIOUS);
+        return;
+    }
+    check.tell(check.model.isFull ? RRC_RULE_WARNING : RRC_RULE_NOTICE, type, at)
+        .allowed("it was not configured before");
 }
 
 // What is released was configured.
-void genReleaseUnknown(Check& check)
+void genReleaseUnknown(Check& check, const Value& sequence)
 {
     const OSCTXT& heap = check.tree.heap();
-    Model& model = check.model;
-    Counterparts earlier;
-    if (model.previous != nullptr)
+    const RtxType& type = sequence.type;
+    const auto releaseList = [&](unsigned release, unsigned added)
     {
-        earlier.build(model.memory, check.tree, *asn1Type_CellGroupConfig(), &model.message, model.previous, nullptr);
-    }
-    const auto tell = [&](const RtxType& type, const void* at)
-    {
-        if (!model.complete)
-        {
-            check.undecided(RRC_RULE_INPUT_PREVIOUS);
-            return;
-        }
-        check.tell(model.isFull ? RRC_RULE_WARNING : RRC_RULE_NOTICE, type, at).allowed("it was not configured before");
-    };
-    const auto releaseIds = [&](const Value& value, const void* before)
-    {
-        forReleases(value,
-                    [&](unsigned release, unsigned added)
+        const rtx::Member& list = type.members[release];
+        const rtx::Member& source = type.members[added];
+        const void* const there = beforeOf(type, added, check.model.beforeSent(sequence.at, type.size));
+        forElements(heap, *list.type, memberAt(list, sequence.at),
+                    [&](const void* id)
                     {
-                        const rtx::Member& list = value.type.members[release];
-                        const rtx::Member& source = value.type.members[added];
-                        const void* const there = beforeOf(value.type, added, before);
-                        forElements(heap, *list.type, memberAt(list, value.at),
-                                    [&](const void* id)
-                                    {
-                                        const RtxType& type = list.type->element();
-                                        if (there == nullptr ||
-                                            !hasId(heap, *source.type, there, rtx::loadNumber(type, id)))
-                                        {
-                                            tell(type, id);
-                                        }
-                                    });
+                        const RtxType& idType = list.type->element();
+                        if (there == nullptr || !hasId(heap, *source.type, there, rtx::loadNumber(idType, id)))
+                        {
+                            tellUnknown(check, idType, id);
+                        }
                     });
     };
-    forMessage(check,
-               [&](const Value& value)
-               {
-                   if (value.type.kind != rtx::Kind::Sequence)
-                   {
-                       return;
-                   }
-                   const void* const before = earlier.before(value.at, value.type.size);
-                   releaseIds(value, before);
-                   for (unsigned i = 0; i < value.type.memberCount; ++i)
-                   {
-                       const rtx::Member& member = value.type.members[i];
-                       if (!isSetupRelease(*member.type) || !isSentMember(value.type, i, value.at) ||
-                           rtx::load<OSUINT32>(memberAt(member, value.at)) != releaseTag)
-                       {
-                           continue;
-                       }
-                       const void* const there = beforeOf(value.type, i, before);
-                       if (there == nullptr || rtx::load<OSUINT32>(there) != setupTag)
-                       {
-                           tell(*member.type, memberAt(member, value.at));
-                       }
-                   }
-               });
+    forReleases(sequence, releaseList);
+    for (unsigned i = 0; i < type.memberCount; ++i)
+    {
+        const rtx::Member& member = type.members[i];
+        const void* const choice = memberAt(member, sequence.at);
+        if (member.type->kind != rtx::Kind::Choice || !isSentMember(type, i, sequence.at) ||
+            !isReleased(*member.type, choice))
+        {
+            continue;
+        }
+        const void* const there = beforeOf(type, i, check.model.beforeSent(sequence.at, type.size));
+        if (there == nullptr || rtx::load<OSUINT32>(there) != setupTag)
+        {
+            tellUnknown(check, *member.type, choice);
+        }
+    }
 }
 
 // RRCSetup brings SRB1 and what it needs.
@@ -333,73 +303,64 @@ void genSetupContent(Check& check)
     }
 }
 
-// No spare value is sent, and no dummy.
-void genSpareValue(Check& check)
+bool isSpare(const RtxType& type, int64_t number, int64_t last)
 {
-    forMessage(
-        check,
-        [&](const Value& value)
-        {
-            const bool isEnumerated = value.type.kind == rtx::Kind::Enumerated;
-            const int64_t number = isEnumerated                           ? rtx::loadNumber(value.type, value.at)
-                                   : value.type.kind == rtx::Kind::Choice ? rtx::load<OSUINT32>(value.at) - int64_t{1}
-                                                                          : -1;
-            const int64_t last = isEnumerated ? value.type.upper : int64_t{value.type.memberCount} - 1;
-            if (number >= 0 && number <= last && std::string_view(value.type.names[number]).starts_with("spare"))
-            {
-                check.tell(value.isOptional ? RRC_RULE_WARNING : RRC_RULE_ERROR, value.type, value.at)
-                    .allowed("a spare value means nothing to a UE: %s",
-                             value.isOptional ? "it takes the member for absent" : "a member that it needs is missing");
-            }
-            if (value.isOptional && contains(value.name, "dummy"))
-            {
-                check.tell(RRC_RULE_NOTICE, value.type, value.at).allowed("a UE ignores it");
-            }
-        });
+    return number >= 0 && number <= last && std::string_view(type.names[number]).starts_with("spare");
+}
+
+// No spare value is sent, and no dummy.
+void genSpareValue(Check& check, const Value& value)
+{
+    const bool isSpareValue =
+        value.type.kind == rtx::Kind::Enumerated
+            ? isSpare(value.type, rtx::loadNumber(value.type, value.at), value.type.upper)
+            : isSpare(value.type, rtx::load<OSUINT32>(value.at) - int64_t{1}, int64_t{value.type.memberCount} - 1);
+    if (isSpareValue)
+    {
+        check.tell(value.isOptional ? RRC_RULE_WARNING : RRC_RULE_ERROR, value.type, value.at)
+            .allowed("a spare value means nothing to a UE: %s",
+                     value.isOptional ? "it takes the member for absent" : "a member that it needs is missing");
+    }
+    if (value.isOptional && contains(value.name, "dummy"))
+    {
+        check.tell(RRC_RULE_NOTICE, value.type, value.at).allowed("a UE ignores it");
+    }
 }
 
 // Containers that do nothing without a member: all of theirs keep or replace something by themselves.
-constexpr const char* containers[] = {"UplinkConfig",
-                                      "BWP-DownlinkDedicated",
-                                      "BWP-UplinkDedicated",
-                                      "PDCCH-ServingCellConfig",
-                                      "PDCCH-Config",
-                                      "PUCCH-Config",
-                                      "SRS-Config",
-                                      "CSI-MeasConfig",
-                                      "RadioLinkMonitoringConfig",
-                                      "SchedulingRequestConfig",
-                                      "TAG-Config",
-                                      "TDD-UL-DL-ConfigDedicated",
-                                      "SRS-CC-SetIndex"};
+constexpr const RtxType* containers[] = {&nr_rrc::type_UplinkConfig,
+                                         &nr_rrc::type_BWP_DownlinkDedicated,
+                                         &nr_rrc::type_BWP_UplinkDedicated,
+                                         &nr_rrc::type_PDCCH_ServingCellConfig,
+                                         &nr_rrc::type_PDCCH_Config,
+                                         &nr_rrc::type_PUCCH_Config,
+                                         &nr_rrc::type_SRS_Config,
+                                         &nr_rrc::type_CSI_MeasConfig,
+                                         &nr_rrc::type_RadioLinkMonitoringConfig,
+                                         &nr_rrc::type_SchedulingRequestConfig,
+                                         &nr_rrc::type_TAG_Config,
+                                         &nr_rrc::type_TDD_UL_DL_ConfigDedicated,
+                                         &nr_rrc::type_SRS_CC_SetIndex};
 
 // A container that is present has a member.
-void genEmptyContainer(Check& check)
+void genEmptyContainer(Check& check, const Value& sequence)
 {
-    forMessage(check,
-               [&](const Value& value)
-               {
-                   const auto is = [&](const char* name)
-                   {
-                       return std::string_view(value.type.name) == name;
-                   };
-                   // A new bandwidth part has bwp-Dedicated, be it empty.
-                   if (value.type.kind != rtx::Kind::Sequence || contains(value.name, "bwp-Dedicated") ||
-                       std::none_of(std::begin(containers), std::end(containers), is))
-                   {
-                       return;
-                   }
-                   for (unsigned i = 0; i < value.type.memberCount; ++i)
-                   {
-                       if (isSentMember(value.type, i, value.at))
-                       {
-                           return;
-                       }
-                   }
-                   check.tell(RRC_RULE_WARNING, value.type, value.at)
-                       .found("empty")
-                       .allowed("it says nothing without a member");
-               });
+    for (unsigned i = 0; i < sequence.type.memberCount; ++i)
+    {
+        if (isSentMember(sequence.type, i, sequence.at))
+        {
+            return;
+        }
+    }
+    // A new bandwidth part has bwp-Dedicated, be it empty.
+    const bool isContainer =
+        std::find(std::begin(containers), std::end(containers), &sequence.type) != std::end(containers);
+    if (isContainer && !contains(sequence.name, "bwp-Dedicated"))
+    {
+        check.tell(RRC_RULE_WARNING, sequence.type, sequence.at)
+            .found("empty")
+            .allowed("it says nothing without a member");
+    }
 }
 
 constexpr Rule table[] = {
@@ -413,7 +374,8 @@ constexpr Rule table[] = {
               .bad = AT_PUCCH "resourceSetToAddModList[0].resourceList[1] = 0",
               .good = AT_PUCCH "resourceSetToAddModList[0].resourceList[1] = 1",
               .since = "0.1.0"},
-     .run = genDupId},
+     .visit = genDupId,
+     .kinds = kindBit(rtx::Kind::Array) | kindBit(rtx::Kind::List)},
     {.told = {.id = "gen-add-and-release",
               .severity = RRC_RULE_NOTICE,
               .statement = "An id that is released and added in one message is legal, and names a new element.",
@@ -423,7 +385,8 @@ constexpr Rule table[] = {
               .bad = "rlc-BearerToReleaseList[0] = 4",
               .good = "rlc-BearerToReleaseList[0] = 5",
               .since = "0.1.0"},
-     .run = genAddAndRelease},
+     .visit = genAddAndRelease,
+     .kinds = kindBit(rtx::Kind::Sequence)},
     {.told = {.id = "gen-release-unknown",
               .severity = RRC_RULE_WARNING,
               .statement = "What is released was configured before; where nothing was, there is nothing to release.",
@@ -433,7 +396,8 @@ constexpr Rule table[] = {
               .bad = AT_MAC "drx-Config = absent\n" AT_MAC "drx-Config.release = null",
               .good = AT_MAC "drx-Config = absent",
               .since = "0.1.0"},
-     .run = genReleaseUnknown},
+     .visit = genReleaseUnknown,
+     .kinds = kindBit(rtx::Kind::Sequence)},
     {.told = {.id = "gen-setup-content",
               .severity = RRC_RULE_ERROR,
               .statement = "The masterCellGroup of RRCSetup has the RLC bearer of SRB1, MAC and physical layer and the "
@@ -454,7 +418,8 @@ constexpr Rule table[] = {
               .bad = AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[0].sr-TransMax = spare3",
               .good = AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[0].sr-TransMax = n64",
               .since = "0.1.0"},
-     .run = genSpareValue},
+     .visit = genSpareValue,
+     .kinds = kindBit(rtx::Kind::Enumerated) | kindBit(rtx::Kind::Choice)},
     {.told = {.id = "gen-empty-container",
               .severity = RRC_RULE_WARNING,
               .statement = "A container whose members all are optional has at least one where it is present.",
@@ -467,7 +432,8 @@ constexpr Rule table[] = {
               "tdd-UL-DL-ConfigurationDedicated.slotSpecificConfigurationsToAddModList[0].symbols."
               "explicit.nrofDownlinkSymbols = 10",
               .since = "0.1.0"},
-     .run = genEmptyContainer},
+     .visit = genEmptyContainer,
+     .kinds = kindBit(rtx::Kind::Sequence)},
 };
 
 } // namespace

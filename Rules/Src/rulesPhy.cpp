@@ -2,9 +2,6 @@
 #include "examplePaths.h"
 #include "modelLists.h"
 #include "rules.h"
-#include "walk.h"
-
-#include <string_view>
 
 namespace rules
 {
@@ -28,27 +25,63 @@ void phyCellGroupId(Check& check)
     }
 }
 
+// Calls `each(name, rnti)` for every RNTI of the configuration. Bandwidth parts and cells repeat theirs.
+template <typename Each>
+void forRntis(Check& check, const Each& each)
+{
+    const auto look = [&](const char* name, const RNTI_Value* rnti)
+    {
+        if (rnti != nullptr)
+        {
+            each(name, *rnti);
+        }
+    };
+    const SpCellConfig* const spCell = MEMBER(check.model.config, spCellConfig);
+    if (const auto* const sync = spCell == nullptr ? nullptr : MEMBER(*spCell, reconfigurationWithSync))
+    {
+        look("newUE-Identity", &sync->newUE_Identity);
+    }
+    if (const PhysicalCellGroupConfig* const phy = check.model.phy())
+    {
+        look("tpc-SRS-RNTI", MEMBER(*phy, tpc_SRS_RNTI));
+        look("tpc-PUCCH-RNTI", MEMBER(*phy, tpc_PUCCH_RNTI));
+        look("tpc-PUSCH-RNTI", MEMBER(*phy, tpc_PUSCH_RNTI));
+        look("sp-CSI-RNTI", MEMBER(*phy, sp_CSI_RNTI));
+        look("cs-RNTI", check.tree.setup(MEMBER(*phy, cs_RNTI)));
+        look("mcs-C-RNTI", ADDITION(*phy, 2, mcs_C_RNTI));
+    }
+    for (const Cell& cell : check.model.cells())
+    {
+        for (const Bwp& bwp : cell.downlink)
+        {
+            const DownlinkPreemption* const preemption =
+                bwp.pdcch == nullptr ? nullptr : check.tree.setup(MEMBER(*bwp.pdcch, downlinkPreemption));
+            look("int-RNTI", preemption == nullptr ? nullptr : &preemption->int_RNTI);
+        }
+        const PDCCH_ServingCellConfig* const pdcch =
+            cell.dedicated == nullptr ? nullptr : check.tree.setup(MEMBER(*cell.dedicated, pdcch_ServingCellConfig));
+        const SlotFormatIndicator* const indicator =
+            pdcch == nullptr ? nullptr : check.tree.setup(MEMBER(*pdcch, slotFormatIndicator));
+        look("sfi-RNTI", indicator == nullptr ? nullptr : &indicator->sfi_RNTI);
+    }
+}
+
 // An RNTI is none of the reserved values.
 void phyRntiRange(Check& check)
 {
     constexpr OSUINT32 last = 0xFFEF;      // TS 38.321 table 7.1-1
     constexpr OSUINT32 laterLast = 0xFFF2; // later releases use what is up to here
-    forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false},
-              [&](const Value& value)
-              {
-                  if (std::string_view(value.type.name) != "RNTI-Value")
-                  {
-                      return;
-                  }
-                  const auto rnti = static_cast<OSUINT32>(rtx::loadNumber(value.type, value.at));
-                  if (rnti == 0 || rnti > last)
-                  {
-                      const bool isLater = rnti > last && rnti <= laterLast;
-                      check.tell(isLater ? RRC_RULE_WARNING : RRC_RULE_ERROR, value.type, value.at)
-                          .found("%u (0x%04X)", rnti, rnti)
-                          .allowed("the RNTIs of a UE are 0x0001..0xFFEF");
-                  }
-              });
+    forRntis(check,
+             [&](const char*, const RNTI_Value& rnti)
+             {
+                 if (rnti == 0 || rnti > last)
+                 {
+                     const bool isLater = rnti > last && rnti <= laterLast;
+                     check.missing(true, &rnti, isLater ? RRC_RULE_WARNING : RRC_RULE_ERROR)
+                         .found("%u (0x%04X)", rnti, rnti)
+                         .allowed("the RNTIs of a UE are 0x0001..0xFFEF");
+                 }
+             });
 }
 
 // The RNTIs of a UE are different from each other.
@@ -57,31 +90,22 @@ void phyRntiDistinct(Check& check)
     struct Seen
     {
         const char* name;
-        int64_t value;
+        OSUINT32 value;
     };
     Vector<Seen> seen;
-    const char* name = nullptr; // of the member that the value belongs to, through its setup
-    forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false},
-              [&](const Value& value)
-              {
-                  const bool isSetup = value.name != nullptr && std::string_view(value.name) == "setup";
-                  name = isSetup ? name : value.name;
-                  if (std::string_view(value.type.name) != "RNTI-Value")
-                  {
-                      return;
-                  }
-                  const int64_t rnti = rtx::loadNumber(value.type, value.at);
-                  for (const Seen& other : seen)
-                  {
-                      // Each bandwidth part and cell says again what is the same for all.
-                      if (other.value == rnti && std::string_view(other.name) != name)
-                      {
-                          check.tell(RRC_RULE_ERROR, value.type, value.at).allowed("%s is the same", other.name);
-                          return;
-                      }
-                  }
-                  seen.add(check.model.memory, {name, rnti});
-              });
+    forRntis(check,
+             [&](const char* name, const RNTI_Value& rnti)
+             {
+                 for (const Seen& other : seen)
+                 {
+                     if (other.value == rnti && other.name != name)
+                     {
+                         check.error(&rnti).allowed("%s is the same", other.name);
+                         return;
+                     }
+                 }
+                 seen.add(check.model.memory, {name, rnti});
+             });
 }
 
 // An error in a whole configuration, at the RNTI that is not there or at the configuration of the physical layer.

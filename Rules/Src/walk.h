@@ -91,15 +91,26 @@ void forValues(const OSCTXT& heap, const Value& value, const Each& each)
 {
     each(value);
     const RtxType& type = value.type;
+    const auto members = [&](unsigned first, unsigned count)
+    {
+        for (unsigned i = first; i < first + count; ++i)
+        {
+            const rtx::Member& member = type.members[i];
+            if (rtx::isPresent(member, value.at))
+            {
+                forValues(heap, {*member.type, memberAt(member, value.at), type.names[i], member.flag >= 0}, each);
+            }
+        }
+    };
     switch (type.kind)
     {
     case rtx::Kind::Sequence:
-        for (unsigned i = 0; i < type.memberCount; ++i)
+        members(0, type.rootCount);
+        for (unsigned i = 0; i < type.additionCount; ++i)
         {
-            if (isSentMember(type, i, value.at))
+            if (rtx::isSent(type, type.additions[i], value.at))
             {
-                const rtx::Member& member = type.members[i];
-                forValues(heap, {*member.type, memberAt(member, value.at), type.names[i], member.flag >= 0}, each);
+                members(type.additions[i].first, type.additions[i].count);
             }
         }
         break;
@@ -111,6 +122,11 @@ void forValues(const OSCTXT& heap, const Value& value, const Each& each)
         }
         break;
     case rtx::Kind::Array:
+        if (type.element().kind == rtx::Kind::Integer)
+        {
+            break; // its rules are those of the array
+        }
+        [[fallthrough]];
     case rtx::Kind::List:
         forElements(heap, type, value.at,
                     [&](const void* element) {

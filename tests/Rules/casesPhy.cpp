@@ -48,8 +48,8 @@ void phyCases(CaseTable& table)
         .fires(AT_PHY "cs-RNTI.setup", AT_PHY "cs-RNTI.setup = 65535");
 
     table.rule("phy-rnti-distinct")
-        .bad(AT_SYNC "newUE-Identity")
-        .saying("17921, but mcs-C-RNTI is the same")
+        .bad(AT_PHY "mcs-C-RNTI")
+        .saying("17921, but newUE-Identity is the same")
         .good()
         .fires(AT_PHY "cs-RNTI.setup", AT_PHY "cs-RNTI.setup = 500\n" AT_PHY "sp-CSI-RNTI = 500");
 
