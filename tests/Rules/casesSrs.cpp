@@ -170,8 +170,7 @@ void ofResources(CaseTable& table)
         .fires(AT_SOUNDING "freqDomainShift",
                narrow + AT_SOUNDING "freqDomainPosition = 17\n" AT_SOUNDING "freqDomainShift = 138")
         // With hopping over all of it the place is nothing.
-        .fires(AT_SOUNDING "freqDomainShift",
-               narrow + AT_HOPPING "b-hop = 0\n" AT_SOUNDING "freqDomainShift = 137")
+        .fires(AT_SOUNDING "freqDomainShift", narrow + AT_HOPPING "b-hop = 0\n" AT_SOUNDING "freqDomainShift = 137")
         .fires(AT_SECOND "srs-ResourceToAddModList[0].freqHopping.c-SRS", second(271))
         .with(inDelta)
         .saying("61: 272 resource blocks, but the bandwidth part has 271")
