@@ -46,6 +46,10 @@ uint32_t nrCoresetGroupStart(uint32_t bwpStart, uint32_t group);
 int nrCoresetBundleFits(uint32_t symbols, uint32_t bundle);
 int nrCoresetInterleaverFits(uint32_t rbs, uint32_t symbols, uint32_t bundle, uint32_t rows);
 
+// PDSCH symbols (TS 38.214 table 5.1.2.1-1): whether mapping type A, or B, may start and last so. A start at symbol 3
+// with type A also needs dmrs-TypeA-Position pos3.
+int nrPdschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols);
+
 // CORESET#0 (TS 38.213 tables 13-1 to 13-10).
 typedef struct NrCoreset0
 {
@@ -141,9 +145,20 @@ const NrCsiRsRow* nrCsiRsRow(uint32_t row);
 // The row of a mapping; null where there is none.
 const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t ports, NrCdm cdm, NrCsiRsDensity density);
 
+// The common resource blocks that a CSI-RS takes in a bandwidth part (TS 38.214 5.2.2.3.1): of startingRB and nrofRBs
+// what lies within the bandwidth part; size 0 where nothing does.
+NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp);
+
 // Sounding (TS 38.211 table 6.4.1.4.3-1): m_SRS,b resource blocks and N_b for c-SRS 0..63 and b-SRS 0..3; 0 for others.
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs);
 uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs);
+
+// Resource blocks from freqDomainShift on that a sounding resource comes to use (6.4.1.4.3), `position` its
+// freqDomainPosition: without hopping (bHop >= bSrs) those of its one place. Size 0 for indices that the table has not.
+NrSpan nrSrsSpan(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position);
+// Symbols without transmission between the resources of a set for antenna switching (TS 38.214 table 6.2.1.2-1); 0 for
+// spacings that have no sounding.
+uint32_t nrSrsGuardSymbols(uint32_t mu);
 
 // Subbands of CSI reports (TS 38.214 table 5.2.1.4-2): resource blocks of one, 0 where a bandwidth part of n has none;
 // how many there are in a bandwidth part that begins at common resource block `start`.
@@ -153,6 +168,9 @@ uint32_t nrSubbands(uint32_t start, uint32_t n, uint32_t size);
 // Nominal resource block group (TS 38.214 tables 5.1.2.2.1-1, 6.1.2.2.1-1); how many groups there are.
 uint32_t nrRbgSize(uint32_t n, int config2);
 uint32_t nrRbgs(uint32_t start, uint32_t n, uint32_t size);
+
+// Whether PUSCH can have these symbols of a slot (TS 38.214 table 6.1.2.1-1), by its mapping type and cyclic prefix.
+int nrPuschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols);
 
 // Orthogonal sequences of PUCCH format 1 (TS 38.211 table 6.3.2.4.1-1): timeDomainOCC is below this; 0 for other
 // numbers of symbols than 4..14.

@@ -67,9 +67,35 @@ const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t por
     return nullptr;
 }
 
+NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp)
+{
+    const uint32_t first = configured.start < bwp.start ? bwp.start : configured.start;
+    const uint32_t end = bwp.start + bwp.size;
+    const uint32_t room = first < end ? end - first : 0;
+    return {first, configured.size < room ? configured.size : room};
+}
+
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs)
 {
     return cSrs < 64 && bSrs < 4 ? soundings[cSrs][bSrs] : 0;
+}
+
+NrSpan nrSrsSpan(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position)
+{
+    // Below bHop the place is fixed, from there on the hops take each part in turn.
+    const uint32_t fixed = bHop < bSrs ? bHop : bSrs;
+    NrSpan span = {0, nrSrsBandwidth(cSrs, fixed)};
+    for (uint32_t b = 1; b <= fixed && span.size != 0; ++b)
+    {
+        const uint32_t part = nrSrsBandwidth(cSrs, b);
+        span.start += part * (4 * position / part % nrSrsParts(cSrs, b));
+    }
+    return span;
+}
+
+uint32_t nrSrsGuardSymbols(uint32_t mu)
+{
+    return mu > 3 ? 0 : mu == 3 ? 2 : 1;
 }
 
 uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs)

@@ -15,6 +15,14 @@ bool has(const uint16_t (&values)[N], uint32_t value)
 
 } // namespace
 
+int nrPuschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols)
+{
+    const uint32_t slot = extendedPrefix != 0 ? NR_SYMBOLS_EXTENDED : NR_SYMBOLS;
+    const uint32_t least = typeB != 0 ? 1 : 4;
+    const bool begins = typeB != 0 || symbols.start == 0;
+    return begins && symbols.size >= least && symbols.size <= slot && symbols.start <= slot - symbols.size ? 1 : 0;
+}
+
 uint32_t nrPucchF1Sequences(uint32_t symbols, int hopping)
 {
     if (symbols < 4 || symbols > NR_SYMBOLS)

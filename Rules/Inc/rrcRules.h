@@ -43,10 +43,11 @@ typedef enum RrcRuleInput
     RRC_RULE_INPUT_BEARERS = 1 << 14,      // `bearers`
     RRC_RULE_INPUT_MEAS = 1 << 15,         // `meas`
     RRC_RULE_INPUT_CONNECTIVITY = 1 << 16, // `connectivity`, `otherGroupCells`
-    RRC_RULE_INPUT_CAPABILITIES = 1 << 17  // `capabilities`
+    RRC_RULE_INPUT_CAPABILITIES = 1 << 17, // `capabilities`
+    RRC_RULE_INPUT_RACH = 1 << 18          // `rachCommon`
 } RrcRuleInput;
 
-#define RRC_RULE_INPUTS 18
+#define RRC_RULE_INPUTS 19
 
 // Whether the element is all that the UE has.
 typedef enum RrcRuleExtent
@@ -166,6 +167,8 @@ typedef struct RrcRuleContext
     const OSUINT32* typeAPosition;          // ServingCellConfigCommon_dmrs_TypeA_Position
     const ControlResourceSetZero* coreset0; // 0..15
     const TDD_UL_DL_ConfigCommon* tdd;      // tdd-UL-DL-ConfigurationCommon
+
+    const RACH_ConfigCommon* rachCommon; // of the initial uplink bandwidth part
 
     const RrcRuleBearers* bearers;
     const RrcRuleMeasObject* measObjects; // an array; known where hasMeas is set

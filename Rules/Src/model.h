@@ -272,6 +272,13 @@ public:
     const Ids<SchedulingRequestToAddMod>& schedulingRequests();
     const Ids<TAG>& tags();
 
+    // Whether what is absent of a bandwidth part is absent in truth: nothing of it was configured before, or that is
+    // known.
+    bool isWhole(const Bwp& bwp) const
+    {
+        return complete || bwp.novelty == Novelty::New;
+    }
+
     // What members of a bandwidth part or a cell list: modelLists.h.
     const Pdcch& pdcch(Bwp& bwp);
     const Pdsch& pdsch(Bwp& bwp);
@@ -335,6 +342,7 @@ public:
                 sent(element) != nullptr;
             result.all.add(memory, {number, &element, isAgain ? Novelty::New : noveltyOf(element, ownerNovelty)});
         }
+        result.index(memory);
         return result;
     }
 

@@ -21,6 +21,23 @@ const T& made(Memory& memory, const T*& kept, const Make& make)
     return kept == nullptr ? none : *kept; // the check ends when the heap is exhausted
 }
 
+// What the common part of a bandwidth part sets up. `input` tells it of the SpCell's initial one.
+template <typename T, typename Member>
+Known<const T*> common(const Model& model, const Bwp& bwp, OSUINT32 input, const Member& member)
+{
+    if (bwp.uplinkCommon == nullptr)
+    {
+        const bool isOfSib1 = bwp.isInitial() && bwp.cell->isSpCell() && bwp.direction == Direction::Uplink;
+        return Known<const T*>::unless(isOfSib1 ? input : bwp.missing);
+    }
+    const auto* const choice = member(*bwp.uplinkCommon);
+    if (choice == nullptr && !model.isWhole(bwp))
+    {
+        return Known<const T*>::unless(RRC_RULE_INPUT_PREVIOUS);
+    }
+    return static_cast<const T*>(model.tree.setup(choice));
+}
+
 template <typename Element, typename Entry>
 const Entry* byId(const Vector<Entry>& all, OSUINT32 id)
 {
@@ -32,6 +49,64 @@ const Entry* byId(const Vector<Entry>& all, OSUINT32 id)
         }
     }
     return nullptr;
+}
+
+template <size_t N>
+void addUse(CsiUse (&uses)[N], OSUINT32 id, CsiUse use)
+{
+    if (id < N)
+    {
+        uses[id].types |= use.types;
+        uses[id].bwps |= use.bwps;
+    }
+}
+
+// A config with a value that is none is of no use.
+void addUses(const Tree& tree, Csi& csi, const CSI_ResourceConfig& config)
+{
+    if (config.resourceType > CSI_ResourceConfig_resourceType_periodic || config.bwp_Id > maxNrofBWPs)
+    {
+        return;
+    }
+    const CsiUse use = {static_cast<OSUINT8>(1U << config.resourceType), static_cast<OSUINT8>(1U << config.bwp_Id)};
+    const auto* const list = &config.csi_RS_ResourceSetList;
+    if (const auto* const rs = CHOSEN(tree, list, CSI_ResourceConfig_csi_RS_ResourceSetList, nzp_CSI_RS_SSB))
+    {
+        for (const auto id : entries(MEMBER(*rs, nzp_CSI_RS_ResourceSetList)))
+        {
+            addUse(csi.nzpSetUse, id, use);
+        }
+    }
+    if (const auto* const im = CHOSEN(tree, list, CSI_ResourceConfig_csi_RS_ResourceSetList, csi_IM_ResourceSetList))
+    {
+        for (const auto id : entries(im))
+        {
+            addUse(csi.imSetUse, id, use);
+        }
+    }
+}
+
+// A resource is used as its sets are.
+void addUses(const Tree& tree, Csi& csi)
+{
+    for (const IdEntry<CSI_ResourceConfig>& config : csi.resourceConfigs)
+    {
+        addUses(tree, csi, *config.element);
+    }
+    for (const IdEntry<NZP_CSI_RS_ResourceSet>& set : csi.nzpSets)
+    {
+        for (const auto id : entries(&set.element->nzp_CSI_RS_Resources))
+        {
+            addUse(csi.nzpUse, id, set.id < std::size(csi.nzpSetUse) ? csi.nzpSetUse[set.id] : CsiUse{});
+        }
+    }
+    for (const IdEntry<CSI_IM_ResourceSet>& set : csi.imSets)
+    {
+        for (const auto id : entries(&set.element->csi_IM_Resources))
+        {
+            addUse(csi.imUse, id, set.id < std::size(csi.imSetUse) ? csi.imSetUse[set.id] : CsiUse{});
+        }
+    }
 }
 
 } // namespace
@@ -226,6 +301,7 @@ const Csi& Model::csi(Cell& cell)
             &CSI_ReportConfig::reportConfigId,
             [](const CSI_MeasConfig& of) { return MEMBER(of, csi_ReportConfigToAddModList); },
             [](const CSI_MeasConfig& of) { return MEMBER(of, csi_ReportConfigToReleaseList); });
+        addUses(tree, made);
     };
     return made(memory, cell.csi, make);
 }
@@ -287,6 +363,63 @@ Vector<const CSI_IM_Resource*> imResources(Model& model, const Csi& csi, const C
     return resources;
 }
 
+const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping)
+{
+    const auto* const allocation = &mapping.frequencyDomainAllocation;
+    const ASN1BitStr32* const alternatives[] = {
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, row1),
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, row2),
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, row4),
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, other),
+    };
+    for (const ASN1BitStr32* const bits : alternatives)
+    {
+        if (bits != nullptr)
+        {
+            return nrCsiRsRowOf(static_cast<NrCsiRsBranch>(allocation->t), bitsSet(*bits, rtx::bitCount(*bits)),
+                                portsOf(mapping), static_cast<NrCdm>(mapping.cdm_Type),
+                                static_cast<NrCsiRsDensity>(mapping.density.t));
+        }
+    }
+    return nullptr;
+}
+
+OSUINT32 portsOf(const CSI_RS_ResourceMapping& mapping)
+{
+    static constexpr OSUINT32 ports[] = {1, 2, 4, 8, 12, 16, 24, 32};
+    return mapping.nrofPorts < std::size(ports) ? ports[mapping.nrofPorts] : 0;
+}
+
+Recurrence recurrenceOf(const CSI_ResourcePeriodicityAndOffset& choice)
+{
+    static constexpr OSUINT32 periods[] = {4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640};
+    if (choice.t == 0 || choice.t > std::size(periods))
+    {
+        return {};
+    }
+    const OSUINT32 offset = choice.t == T_CSI_ResourcePeriodicityAndOffset_slots640   ? choice.u.slots640
+                            : choice.t == T_CSI_ResourcePeriodicityAndOffset_slots320 ? choice.u.slots320
+                                                                                      : choice.u.slots4;
+    return {periods[choice.t - 1], offset};
+}
+
+Known<NrSpan> commonRbs(const Model& model, const Bwp& bwp)
+{
+    const Known<NrSpan> rbs = bwp.rbs();
+    const Known<const SCS_SpecificCarrier*> carrier = model.carrier(bwp);
+    if (!rbs || !carrier || *carrier == nullptr)
+    {
+        return Known<NrSpan>::unless(rbs.inputs() | carrier.inputs());
+    }
+    return NrSpan{(*carrier)->offsetToCarrier + rbs->start, rbs->size};
+}
+
+Known<NrSpan> csiBand(const Model& model, const Bwp& bwp, const CSI_FrequencyOccupation& band)
+{
+    const Known<NrSpan> rbs = commonRbs(model, bwp);
+    return rbs ? Known<NrSpan>(nrCsiRsBand({band.startingRB, band.nrofRBs}, *rbs)) : rbs;
+}
+
 Known<SsbPositions> ssbPositions(const Model& model, const Cell& cell)
 {
     const auto* const positions = cell.common == nullptr ? nullptr : MEMBER(*cell.common, ssb_PositionsInBurst);
@@ -330,6 +463,35 @@ Known<OSUINT32> typeAPosition(const Model& model, const Cell& cell)
         return Known<OSUINT32>::unless(cell.isSpCell() ? RRC_RULE_INPUT_TYPEA : RRC_RULE_INPUT_PREVIOUS);
     }
     return *position == ServingCellConfigCommon_dmrs_TypeA_Position_pos3 ? 3U : 2U;
+}
+
+Known<const RACH_ConfigCommon*> rachCommon(const Model& model, const Bwp& bwp)
+{
+    if (bwp.uplinkCommon == nullptr && bwp.isInitial() && bwp.cell->isSpCell() && bwp.direction == Direction::Uplink &&
+        model.known.rachCommon != nullptr)
+    {
+        return model.known.rachCommon;
+    }
+    return common<RACH_ConfigCommon>(model, bwp, RRC_RULE_INPUT_RACH,
+                                     [](const BWP_UplinkCommon& of) { return MEMBER(of, rach_ConfigCommon); });
+}
+
+Known<const PUSCH_ConfigCommon*> puschCommon(const Model& model, const Bwp& bwp)
+{
+    return common<PUSCH_ConfigCommon>(model, bwp, RRC_RULE_INPUT_COMMON,
+                                      [](const BWP_UplinkCommon& of) { return MEMBER(of, pusch_ConfigCommon); });
+}
+
+Known<bool> msg3Precoding(const Model& model, const Bwp& bwp)
+{
+    Known<const RACH_ConfigCommon*> rach = rachCommon(model, bwp);
+    const Bwp* const initial = bwp.cell->bwp(bwp.direction, 0);
+    if (rach && *rach == nullptr && initial != nullptr)
+    {
+        rach = rachCommon(model, *initial);
+    }
+    return rach ? Known<bool>(*rach != nullptr && (*rach)->m.msg3_transformPrecoderPresent != 0)
+                : Known<bool>::unless(rach.inputs());
 }
 
 Known<const TDD_UL_DL_ConfigCommon*> tddPattern(const Model& model, const Cell& cell)

@@ -45,6 +45,7 @@ constexpr const char* inputNames[RRC_RULE_INPUTS] = {
     "the measurement configuration",
     "the other cell group",
     "the UE's capabilities",
+    "rach-ConfigCommon of the initial uplink bandwidth part",
 };
 
 // The rules that are called for values.

@@ -1015,7 +1015,7 @@ constexpr Rule table[] = {
               .clause = "TS 38.331 ServingCellConfig, ServingCellConfigCommon",
               .given = "",
               .bad = SUPPLEMENTARY,
-              .good = SUPPLEMENTARY "\n" SUPPLEMENTARY_COMMON,
+              .good = SUPPLEMENTARY "\n" SUPPLEMENTARY_COMMON "\n" AT_RACH "rsrp-ThresholdSSB-SUL = 30",
               .since = "0.1.0"},
      .run = bwpUlNeedsCommon},
     {.told = {.id = "bwp-initial-coreset0",
