@@ -59,6 +59,19 @@ typedef struct NrCoreset0
 // is reserved or the pair of spacings has no table.
 int nrCoreset0(uint32_t muSsb, uint32_t muPdcch, int wide, uint32_t index, NrCoreset0* coreset);
 
+// Limits of a slot (TS 38.213 tables 10.1-2, 10.1-3): PDCCH candidates and non-overlapping CCEs of a serving cell that a
+// UE monitors; 0 where mu is above 3. The first CCE of a candidate (10.1, equation of the search space): candidate m of
+// `candidates` with aggregation level `level` in a CORESET of `cces`, hashed by y, 0 in a common search space.
+uint32_t nrMostCandidates(uint32_t mu);
+uint32_t nrMostCces(uint32_t mu);
+uint32_t nrCandidateStart(uint32_t y, uint32_t m, uint32_t candidates, uint32_t level, uint32_t cces);
+
+// SS/PBCH blocks (TS 38.213 4.1): the first symbol of candidate `index`, counted from the half frame's first at the
+// spacing of the block; 4 symbols each. At 30 kHz there are case B and case C. 0 where there is no such block.
+int nrSsbFirstSymbol(uint32_t mu, int caseB, uint32_t index, uint32_t* symbol);
+#define NR_SSB_SYMBOLS 4
+#define NR_SSB_RBS 20 // absoluteFrequencySSB is the first subcarrier of the eleventh
+
 // dl-UL-TransmissionPeriodicity (TS 38.213 11.1), in units of 1/8 ms: 4 for 0.5 ms, 5 for 0.625, 24 for 3 ms.
 typedef struct NrTddPattern
 {

@@ -191,6 +191,28 @@ int nrCoresetInterleaverFits(uint32_t rbs, uint32_t symbols, uint32_t bundle, ui
     return bundle != 0 && rows != 0 && rbs * symbols % (bundle * rows) == 0 ? 1 : 0;
 }
 
+uint32_t nrMostCandidates(uint32_t mu)
+{
+    static constexpr uint32_t most[] = {44, 36, 22, 20};
+    return mu < 4 ? most[mu] : 0;
+}
+
+uint32_t nrMostCces(uint32_t mu)
+{
+    static constexpr uint32_t most[] = {56, 56, 48, 32};
+    return mu < 4 ? most[mu] : 0;
+}
+
+uint32_t nrCandidateStart(uint32_t y, uint32_t m, uint32_t candidates, uint32_t level, uint32_t cces)
+{
+    if (level == 0 || candidates == 0 || cces < level)
+    {
+        return 0;
+    }
+    const uint32_t apart = m * cces / (level * candidates);
+    return level * ((y + apart) % (cces / level));
+}
+
 int nrCoreset0(uint32_t muSsb, uint32_t muPdcch, int wide, uint32_t index, NrCoreset0* coreset)
 {
     for (const Table& table : tables)

@@ -1,4 +1,4 @@
-// Reference signals: CSI-RS and sounding.
+// Reference signals: CSI-RS and sounding; SS/PBCH blocks.
 #include "nrFormulas.h"
 
 namespace
@@ -76,4 +76,36 @@ uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs)
 {
     const uint32_t part = nrSrsBandwidth(cSrs, bSrs);
     return part == 0 ? 0 : bSrs == 0 ? 1 : nrSrsBandwidth(cSrs, bSrs - 1) / part;
+}
+
+int nrSsbFirstSymbol(uint32_t mu, int caseB, uint32_t index, uint32_t* symbol)
+{
+    static constexpr uint32_t oneSlot[] = {2, 8};                           // cases A, C
+    static constexpr uint32_t twoSlots[] = {4, 8, 16, 20};                  // cases B, D
+    static constexpr uint32_t fourSlots[] = {8, 12, 16, 20, 32, 36, 40, 44}; // case E
+    constexpr uint32_t blocksInFr1 = 8;
+    constexpr uint32_t blocksInFr2 = 64;
+    // In FR2 every fifth group stays free.
+    const auto group = [](uint32_t number) { return number + number / 4; };
+    if (mu == 0 || (mu == 1 && caseB == 0))
+    {
+        *symbol = oneSlot[index % 2] + NR_SYMBOLS * (index / 2);
+        return index < blocksInFr1 ? 1 : 0;
+    }
+    if (mu == 1)
+    {
+        *symbol = twoSlots[index % 4] + 2 * NR_SYMBOLS * (index / 4);
+        return index < blocksInFr1 ? 1 : 0;
+    }
+    if (mu == 3)
+    {
+        *symbol = twoSlots[index % 4] + 2 * NR_SYMBOLS * group(index / 4);
+        return index < blocksInFr2 ? 1 : 0;
+    }
+    if (mu == 4)
+    {
+        *symbol = fourSlots[index % 8] + 4 * NR_SYMBOLS * group(index / 8);
+        return index < blocksInFr2 ? 1 : 0;
+    }
+    return 0;
 }

@@ -124,6 +124,21 @@ public:
         return nullptr;
     }
 
+    // The cell that an index names; null, and said at its place, where there is none. What is released by the message
+    // scell-release-used tells.
+    template <typename Id>
+    Cell* resolveCell(OSUINT32 index, const Id* at)
+    {
+        Cell* const cell = model.cell(index);
+        if (cell == nullptr && !model.sCells().isReleased(index))
+        {
+            const Cell* const spCell = model.spCell();
+            const bool areKnown = spCell != nullptr && spCell->index && model.sCells().complete;
+            missing(areKnown, at).found("%u", index).allowed("no cell of that ServCellIndex is configured");
+        }
+        return cell;
+    }
+
     // The bandwidth part that an id names; null, and said at the place of the id, where there is none. Of one that this
     // message releases bwp-release-in-use speaks.
     template <typename Id>
