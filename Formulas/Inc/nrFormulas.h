@@ -46,6 +46,10 @@ uint32_t nrCoresetGroupStart(uint32_t bwpStart, uint32_t group);
 int nrCoresetBundleFits(uint32_t symbols, uint32_t bundle);
 int nrCoresetInterleaverFits(uint32_t rbs, uint32_t symbols, uint32_t bundle, uint32_t rows);
 
+// PDSCH symbols (TS 38.214 table 5.1.2.1-1): whether mapping type A, or B, may start and last so. A start at symbol 3
+// with type A also needs dmrs-TypeA-Position pos3.
+int nrPdschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols);
+
 // CORESET#0 (TS 38.213 tables 13-1 to 13-10).
 typedef struct NrCoreset0
 {
@@ -59,9 +63,9 @@ typedef struct NrCoreset0
 // is reserved or the pair of spacings has no table.
 int nrCoreset0(uint32_t muSsb, uint32_t muPdcch, int wide, uint32_t index, NrCoreset0* coreset);
 
-// Limits of a slot (TS 38.213 tables 10.1-2, 10.1-3): PDCCH candidates and non-overlapping CCEs of a serving cell that a
-// UE monitors; 0 where mu is above 3. The first CCE of a candidate (10.1, equation of the search space): candidate m of
-// `candidates` with aggregation level `level` in a CORESET of `cces`, hashed by y, 0 in a common search space.
+// Limits of a slot (TS 38.213 tables 10.1-2, 10.1-3): PDCCH candidates and non-overlapping CCEs of a serving cell that
+// a UE monitors; 0 where mu is above 3. The first CCE of a candidate (10.1, equation of the search space): candidate m
+// of `candidates` with aggregation level `level` in a CORESET of `cces`, hashed by y, 0 in a common search space.
 uint32_t nrMostCandidates(uint32_t mu);
 uint32_t nrMostCces(uint32_t mu);
 uint32_t nrCandidateStart(uint32_t y, uint32_t m, uint32_t candidates, uint32_t level, uint32_t cces);
@@ -140,6 +144,10 @@ typedef struct NrCsiRsRow
 const NrCsiRsRow* nrCsiRsRow(uint32_t row);
 // The row of a mapping; null where there is none.
 const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t ports, NrCdm cdm, NrCsiRsDensity density);
+
+// The common resource blocks that a CSI-RS takes in a bandwidth part (TS 38.214 5.2.2.3.1): of startingRB and nrofRBs
+// what lies within the bandwidth part; size 0 where nothing does.
+NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp);
 
 // Sounding (TS 38.211 table 6.4.1.4.3-1): m_SRS,b resource blocks and N_b for c-SRS 0..63 and b-SRS 0..3; 0 for others.
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs);

@@ -56,6 +56,20 @@ int nrSlivDecode(uint32_t sliv, NrSpan* span)
     return decode(sliv, NR_SYMBOLS, *span) ? 1 : 0;
 }
 
+int nrPdschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols)
+{
+    const uint32_t slot = extendedPrefix != 0 ? NR_SYMBOLS_EXTENDED : NR_SYMBOLS;
+    if (symbols.start >= slot || symbols.size > slot - symbols.start)
+    {
+        return 0;
+    }
+    if (typeB == 0)
+    {
+        return symbols.start <= 3 && symbols.size >= 3 ? 1 : 0;
+    }
+    return symbols.size == 2 || symbols.size == 4 || symbols.size == slot / 2 ? 1 : 0;
+}
+
 uint32_t nrSubbandSize(uint32_t n, int value2)
 {
     static constexpr SizeRow rows[] = {{23, {0, 0}}, {72, {4, 8}}, {144, {8, 16}}, {275, {16, 32}}};

@@ -67,6 +67,14 @@ const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t por
     return nullptr;
 }
 
+NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp)
+{
+    const uint32_t first = configured.start < bwp.start ? bwp.start : configured.start;
+    const uint32_t end = bwp.start + bwp.size;
+    const uint32_t room = first < end ? end - first : 0;
+    return {first, configured.size < room ? configured.size : room};
+}
+
 uint32_t nrSrsBandwidth(uint32_t cSrs, uint32_t bSrs)
 {
     return cSrs < 64 && bSrs < 4 ? soundings[cSrs][bSrs] : 0;
@@ -80,13 +88,16 @@ uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs)
 
 int nrSsbFirstSymbol(uint32_t mu, int caseB, uint32_t index, uint32_t* symbol)
 {
-    static constexpr uint32_t oneSlot[] = {2, 8};                           // cases A, C
-    static constexpr uint32_t twoSlots[] = {4, 8, 16, 20};                  // cases B, D
+    static constexpr uint32_t oneSlot[] = {2, 8};                            // cases A, C
+    static constexpr uint32_t twoSlots[] = {4, 8, 16, 20};                   // cases B, D
     static constexpr uint32_t fourSlots[] = {8, 12, 16, 20, 32, 36, 40, 44}; // case E
     constexpr uint32_t blocksInFr1 = 8;
     constexpr uint32_t blocksInFr2 = 64;
     // In FR2 every fifth group stays free.
-    const auto group = [](uint32_t number) { return number + number / 4; };
+    const auto group = [](uint32_t number)
+    {
+        return number + number / 4;
+    };
     if (mu == 0 || (mu == 1 && caseB == 0))
     {
         *symbol = oneSlot[index % 2] + NR_SYMBOLS * (index / 2);

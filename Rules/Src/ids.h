@@ -6,6 +6,8 @@
 
 #include "asn1Runtime.h"
 
+#include <algorithm>
+
 namespace rules
 {
 
@@ -35,6 +37,10 @@ public:
     // Of those with the same id the last: it overwrites the others.
     const Entry* find(OSUINT32 id) const
     {
+        if (!places_.empty())
+        {
+            return id < places_.size() && places_[id] != 0 ? &all[places_[id] - 1U] : nullptr;
+        }
         for (size_t i = all.size(); i-- != 0;)
         {
             if (all[i].id == id)
@@ -81,9 +87,37 @@ public:
         return all.empty();
     }
 
+    // So that many elements are found fast; after the last of them is in `all`.
+    void index(Memory& memory)
+    {
+        OSUINT32 largest = 0;
+        for (const Entry& entry : all)
+        {
+            largest = std::max(largest, entry.id);
+        }
+        if (all.size() <= few || largest > largestIndexed)
+        {
+            return;
+        }
+        for (OSUINT32 id = 0; id <= largest; ++id)
+        {
+            places_.add(memory, 0);
+        }
+        for (size_t i = 0; i < all.size() && !memory.failed(); ++i)
+        {
+            places_[all[i].id] = static_cast<OSUINT16>(i + 1);
+        }
+    }
+
     Vector<Entry> all;
     Vector<OSUINT32> released; // as the message says
     bool complete = false;     // there are no others
+
+private:
+    static constexpr size_t few = 8;
+    static constexpr OSUINT32 largestIndexed = 1023;
+
+    Vector<OSUINT16> places_; // by the id: 1 + the index in `all`; empty: not indexed
 };
 
 } // namespace rules

@@ -334,6 +334,7 @@ public:
                 sent(element) != nullptr;
             result.all.add(memory, {number, &element, isAgain ? Novelty::New : noveltyOf(element, ownerNovelty)});
         }
+        result.index(memory);
         return result;
     }
 

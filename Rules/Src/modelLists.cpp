@@ -34,6 +34,64 @@ const Entry* byId(const Vector<Entry>& all, OSUINT32 id)
     return nullptr;
 }
 
+template <size_t N>
+void addUse(CsiUse (&uses)[N], OSUINT32 id, CsiUse use)
+{
+    if (id < N)
+    {
+        uses[id].types |= use.types;
+        uses[id].bwps |= use.bwps;
+    }
+}
+
+// A config with a value that is none is of no use.
+void addUses(const Tree& tree, Csi& csi, const CSI_ResourceConfig& config)
+{
+    if (config.resourceType > CSI_ResourceConfig_resourceType_periodic || config.bwp_Id > maxNrofBWPs)
+    {
+        return;
+    }
+    const CsiUse use = {static_cast<OSUINT8>(1U << config.resourceType), static_cast<OSUINT8>(1U << config.bwp_Id)};
+    const auto* const list = &config.csi_RS_ResourceSetList;
+    if (const auto* const rs = CHOSEN(tree, list, CSI_ResourceConfig_csi_RS_ResourceSetList, nzp_CSI_RS_SSB))
+    {
+        for (const auto id : entries(MEMBER(*rs, nzp_CSI_RS_ResourceSetList)))
+        {
+            addUse(csi.nzpSetUse, id, use);
+        }
+    }
+    if (const auto* const im = CHOSEN(tree, list, CSI_ResourceConfig_csi_RS_ResourceSetList, csi_IM_ResourceSetList))
+    {
+        for (const auto id : entries(im))
+        {
+            addUse(csi.imSetUse, id, use);
+        }
+    }
+}
+
+// A resource is used as its sets are.
+void addUses(const Tree& tree, Csi& csi)
+{
+    for (const IdEntry<CSI_ResourceConfig>& config : csi.resourceConfigs)
+    {
+        addUses(tree, csi, *config.element);
+    }
+    for (const IdEntry<NZP_CSI_RS_ResourceSet>& set : csi.nzpSets)
+    {
+        for (const auto id : entries(&set.element->nzp_CSI_RS_Resources))
+        {
+            addUse(csi.nzpUse, id, set.id < std::size(csi.nzpSetUse) ? csi.nzpSetUse[set.id] : CsiUse{});
+        }
+    }
+    for (const IdEntry<CSI_IM_ResourceSet>& set : csi.imSets)
+    {
+        for (const auto id : entries(&set.element->csi_IM_Resources))
+        {
+            addUse(csi.imUse, id, set.id < std::size(csi.imSetUse) ? csi.imSetUse[set.id] : CsiUse{});
+        }
+    }
+}
+
 } // namespace
 
 const Coreset* Pdcch::coreset(OSUINT32 id) const
@@ -226,6 +284,7 @@ const Csi& Model::csi(Cell& cell)
             &CSI_ReportConfig::reportConfigId,
             [](const CSI_MeasConfig& of) { return MEMBER(of, csi_ReportConfigToAddModList); },
             [](const CSI_MeasConfig& of) { return MEMBER(of, csi_ReportConfigToReleaseList); });
+        addUses(tree, made);
     };
     return made(memory, cell.csi, make);
 }
@@ -285,6 +344,63 @@ Vector<const CSI_IM_Resource*> imResources(Model& model, const Csi& csi, const C
         }
     }
     return resources;
+}
+
+const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping)
+{
+    const auto* const allocation = &mapping.frequencyDomainAllocation;
+    const ASN1BitStr32* const alternatives[] = {
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, row1),
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, row2),
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, row4),
+        CHOSEN(tree, allocation, CSI_RS_ResourceMapping_frequencyDomainAllocation, other),
+    };
+    for (const ASN1BitStr32* const bits : alternatives)
+    {
+        if (bits != nullptr)
+        {
+            return nrCsiRsRowOf(static_cast<NrCsiRsBranch>(allocation->t), bitsSet(*bits, rtx::bitCount(*bits)),
+                                portsOf(mapping), static_cast<NrCdm>(mapping.cdm_Type),
+                                static_cast<NrCsiRsDensity>(mapping.density.t));
+        }
+    }
+    return nullptr;
+}
+
+OSUINT32 portsOf(const CSI_RS_ResourceMapping& mapping)
+{
+    static constexpr OSUINT32 ports[] = {1, 2, 4, 8, 12, 16, 24, 32};
+    return mapping.nrofPorts < std::size(ports) ? ports[mapping.nrofPorts] : 0;
+}
+
+Recurrence recurrenceOf(const CSI_ResourcePeriodicityAndOffset& choice)
+{
+    static constexpr OSUINT32 periods[] = {4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640};
+    if (choice.t == 0 || choice.t > std::size(periods))
+    {
+        return {};
+    }
+    const OSUINT32 offset = choice.t == T_CSI_ResourcePeriodicityAndOffset_slots640   ? choice.u.slots640
+                            : choice.t == T_CSI_ResourcePeriodicityAndOffset_slots320 ? choice.u.slots320
+                                                                                      : choice.u.slots4;
+    return {periods[choice.t - 1], offset};
+}
+
+Known<NrSpan> commonRbs(const Model& model, const Bwp& bwp)
+{
+    const Known<NrSpan> rbs = bwp.rbs();
+    const Known<const SCS_SpecificCarrier*> carrier = model.carrier(bwp);
+    if (!rbs || !carrier || *carrier == nullptr)
+    {
+        return Known<NrSpan>::unless(rbs.inputs() | carrier.inputs());
+    }
+    return NrSpan{(*carrier)->offsetToCarrier + rbs->start, rbs->size};
+}
+
+Known<NrSpan> csiBand(const Model& model, const Bwp& bwp, const CSI_FrequencyOccupation& band)
+{
+    const Known<NrSpan> rbs = commonRbs(model, bwp);
+    return rbs ? Known<NrSpan>(nrCsiRsBand({band.startingRB, band.nrofRBs}, *rbs)) : rbs;
 }
 
 Known<SsbPositions> ssbPositions(const Model& model, const Cell& cell)

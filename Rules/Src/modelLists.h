@@ -83,6 +83,18 @@ struct Srs
     Ids<SRS_Resource> resources;
 };
 
+// What the CSI-ResourceConfigs that a resource or a set belongs to say of it.
+struct CsiUse
+{
+    OSUINT8 types; // bit resourceType
+    OSUINT8 bwps;  // bit bwp-Id
+
+    bool is(CSI_ResourceConfig_resourceType type) const
+    {
+        return types == 1U << type;
+    }
+};
+
 struct Csi
 {
     const CSI_MeasConfig* config;
@@ -93,6 +105,10 @@ struct Csi
     Ids<CSI_SSB_ResourceSet> ssbSets;
     Ids<CSI_ResourceConfig> resourceConfigs;
     Ids<CSI_ReportConfig> reports;
+    CsiUse nzpUse[maxNrofNZP_CSI_RS_Resources]; // by the id; nothing set: in no CSI-ResourceConfig that is there
+    CsiUse nzpSetUse[maxNrofNZP_CSI_RS_ResourceSets];
+    CsiUse imUse[maxNrofCSI_IM_Resources];
+    CsiUse imSetUse[maxNrofCSI_IM_ResourceSets];
 };
 
 // The sets that a CSI-ResourceConfig names, those that do not resolve left out.
@@ -109,6 +125,25 @@ CsiSets csiSets(Model& model, const Csi& csi, const CSI_ResourceConfig& config);
 // The resources that a set names, those that do not resolve left out.
 Vector<const NZP_CSI_RS_Resource*> nzpResources(Model& model, const Csi& csi, const NZP_CSI_RS_ResourceSet& set);
 Vector<const CSI_IM_Resource*> imResources(Model& model, const Csi& csi, const CSI_IM_ResourceSet& set);
+
+// CSI-RS-ResourceMapping: the row of the standard's table, null where it is none of them; nrofPorts as a number, 0
+// where it has no value.
+const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping);
+OSUINT32 portsOf(const CSI_RS_ResourceMapping& mapping);
+
+// CSI-ResourcePeriodicityAndOffset, in slots.
+struct Recurrence
+{
+    OSUINT32 period; // 0: no value
+    OSUINT32 offset;
+};
+Recurrence recurrenceOf(const CSI_ResourcePeriodicityAndOffset& choice);
+
+// CSI-FrequencyOccupation: the common resource blocks that are left of it within a bandwidth part; none where they do
+// not meet.
+Known<NrSpan> csiBand(const Model& model, const Bwp& bwp, const CSI_FrequencyOccupation& band);
+// The common resource blocks of a bandwidth part.
+Known<NrSpan> commonRbs(const Model& model, const Bwp& bwp);
 
 // ServingCellConfigCommon.ssb-PositionsInBurst: L bits.
 struct SsbPositions
