@@ -7,8 +7,7 @@ namespace rules
 
 Known<Monitoring> monitoringOf(const SearchSpace& space)
 {
-    static constexpr OSUINT16 periods[] = {1,  2,  4,   5,   8,   10,   16,  20,
-                                           40, 80, 160, 320, 640, 1280, 2560};
+    static constexpr OSUINT16 periods[] = {1, 2, 4, 5, 8, 10, 16, 20, 40, 80, 160, 320, 640, 1280, 2560};
     const auto* const slots = MEMBER(space, monitoringSlotPeriodicityAndOffset);
     if (slots == nullptr)
     {
@@ -88,9 +87,10 @@ Known<NrCoreset0> coreset0Of(const Model& model, const Cell& cell)
 {
     using Found = Known<NrCoreset0>;
     const Bwp* const initial = cell.bwp(Direction::Downlink, 0);
-    const PDCCH_ConfigCommon* const common = initial == nullptr || initial->downlinkCommon == nullptr
-                                                 ? nullptr
-                                                 : model.tree.setup(MEMBER(*initial->downlinkCommon, pdcch_ConfigCommon));
+    const PDCCH_ConfigCommon* const common =
+        initial == nullptr || initial->downlinkCommon == nullptr
+            ? nullptr
+            : model.tree.setup(MEMBER(*initial->downlinkCommon, pdcch_ConfigCommon));
     const ControlResourceSetZero* index = common == nullptr ? nullptr : MEMBER(*common, controlResourceSetZero);
     index = index == nullptr && cell.isSpCell() ? model.known.coreset0 : index;
     if (index == nullptr)
@@ -102,13 +102,12 @@ Known<NrCoreset0> coreset0Of(const Model& model, const Cell& cell)
     const NrBand* const band = cell.band ? nrBand(*cell.band) : nullptr;
     if (ssb == nullptr || !mu || band == nullptr)
     {
-        return Found::unless((ssb == nullptr ? OSUINT32{RRC_RULE_INPUT_COMMON} : 0) | mu.inputs() |
-                             cell.band.inputs());
+        return Found::unless((ssb == nullptr ? OSUINT32{RRC_RULE_INPUT_COMMON} : 0) | mu.inputs() | cell.band.inputs());
     }
     constexpr OSUINT32 wideMhz = 40;
     NrCoreset0 coreset{};
     return nrCoreset0(muOf(*ssb), *mu, band->leastMhz >= wideMhz ? 1 : 0, *index, &coreset) != 0 ? Found(coreset)
-                                                                                                : Found::unless(0);
+                                                                                                 : Found::unless(0);
 }
 
 } // namespace rules
