@@ -87,10 +87,13 @@ Known<NrCoreset0> coreset0Of(const Model& model, const Cell& cell)
 {
     using Found = Known<NrCoreset0>;
     const Bwp* const initial = cell.bwp(Direction::Downlink, 0);
+    if (initial == nullptr)
+    {
+        return Found::unless(0); // the heap is exhausted
+    }
     const PDCCH_ConfigCommon* const common =
-        initial == nullptr || initial->downlinkCommon == nullptr
-            ? nullptr
-            : model.tree.setup(MEMBER(*initial->downlinkCommon, pdcch_ConfigCommon));
+        initial->downlinkCommon == nullptr ? nullptr
+                                           : model.tree.setup(MEMBER(*initial->downlinkCommon, pdcch_ConfigCommon));
     const ControlResourceSetZero* index = common == nullptr ? nullptr : MEMBER(*common, controlResourceSetZero);
     index = index == nullptr && cell.isSpCell() ? model.known.coreset0 : index;
     if (index == nullptr)
