@@ -908,8 +908,8 @@ constexpr Rule table[] = {
               .advice = "Give both the same spacing.",
               .clause = "TS 38.331 BWP",
               .given = "",
-              .bad = UPLINK_CARRIER AT_UL "bwp-Common.genericParameters.subcarrierSpacing = kHz60\n" AT_UL
-                                          "bwp-Common.genericParameters.locationAndBandwidth = 36850",
+              .bad = WITHIN_135_RB UPLINK_CARRIER AT_UL "bwp-Common.genericParameters.subcarrierSpacing = kHz60\n" AT_UL
+                                                        "bwp-Common.genericParameters.locationAndBandwidth = 36850",
               .good = UPLINK_CARRIER AT_UL "bwp-Common.genericParameters.subcarrierSpacing = kHz30",
               .since = "0.1.0"},
      .run = bwpPairScs},

@@ -129,6 +129,41 @@ TEST(Allocation, ResourceBlockGroups)
     }
 }
 
+// TS 38.214 table 5.1.2.1-1, row by row.
+TEST(Allocation, PdschSymbols)
+{
+    for (const uint32_t slot : {NR_SYMBOLS + 0U, NR_SYMBOLS_EXTENDED + 0U})
+    {
+        const int extended = slot == NR_SYMBOLS ? 0 : 1;
+        std::set<std::pair<uint32_t, uint32_t>> ofA;
+        std::set<std::pair<uint32_t, uint32_t>> ofB;
+        for (uint32_t end = 1; end <= slot; ++end)
+        {
+            for (uint32_t start = 0; start < end; ++start)
+            {
+                const uint32_t length = end - start;
+                if (start <= 3 && length >= 3)
+                {
+                    ofA.emplace(start, length);
+                }
+                if (length == 2 || length == 4 || length == (extended == 0 ? 7U : 6U))
+                {
+                    ofB.emplace(start, length);
+                }
+            }
+        }
+        for (uint32_t start = 0; start < 20; ++start)
+        {
+            for (uint32_t length = 0; length < 20; ++length)
+            {
+                EXPECT_EQ(ofA.count({start, length}), nrPdschSymbolsAllowed(0, extended, {start, length}));
+                EXPECT_EQ(ofB.count({start, length}), nrPdschSymbolsAllowed(1, extended, {start, length}));
+            }
+        }
+    }
+    EXPECT_EQ(0, nrPdschSymbolsAllowed(0, 0, {1, UINT32_MAX}));
+}
+
 // TS 38.213 10.1: groups of six common resource blocks, of which all six are in the bandwidth part.
 TEST(Coreset, Groups)
 {
@@ -408,6 +443,34 @@ TEST(Tdd, TwoPatternsAtAFinerSpacing)
         {
             const uint32_t fine = 2 * i + half;
             EXPECT_EQ(symbols[i % symbols.size()], nrTddSymbol(&first, &second, 1, 2, fine / 14, fine % 14));
+        }
+    }
+}
+
+// TS 38.214 5.2.2.3.1, one resource block after the other: from startingRB, or the bandwidth part's first where that is
+// later, nrofRBs of them unless the bandwidth part ends before.
+TEST(CsiRs, BandWithinABandwidthPart)
+{
+    for (const NrSpan bwp : {NrSpan{0, 24}, NrSpan{2, 51}, NrSpan{50, 106}, NrSpan{3, 273}})
+    {
+        for (uint32_t start = 0; start < 276; start += 4)
+        {
+            for (uint32_t size = 24; size <= 276; size += 4)
+            {
+                uint32_t first = start;
+                while (first < bwp.start)
+                {
+                    ++first;
+                }
+                uint32_t count = 0;
+                for (uint32_t rb = first; rb < bwp.start + bwp.size && count < size; ++rb)
+                {
+                    ++count;
+                }
+                const NrSpan band = nrCsiRsBand({start, size}, bwp);
+                EXPECT_EQ(count, band.size);
+                EXPECT_EQ(first, band.start);
+            }
         }
     }
 }
