@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 scripts/build.sh clang cellgroupcfg_pdu_sources
 
 folders=()
-for folder in Platform Asn Common Du Json Tool; do
+for folder in Platform Asn Common Du Formulas Rules Json Tool; do
     [ -d "$folder" ] && folders+=("$folder")
 done
 stamps=build/lint
