@@ -26,7 +26,7 @@ typedef enum RrcRuleSeverity
 // Inputs of a check besides the element, each one bit: what a rule may need.
 typedef enum RrcRuleInput
 {
-    RRC_RULE_INPUT_PREVIOUS = 1 << 0,      // `previous` and `after`, or that the element is complete
+    RRC_RULE_INPUT_PREVIOUS = 1 << 0,      // `previous`, or that the element is complete
     RRC_RULE_INPUT_MESSAGE = 1 << 1,       // `message`
     RRC_RULE_INPUT_GROUP = 1 << 2,         // `group`
     RRC_RULE_INPUT_BAND = 1 << 3,          // `band`
@@ -140,11 +140,10 @@ typedef enum RrcRuleFeature
 // What it points to is the caller's and only read during a call; it need not lie in a context's heap.
 typedef struct RrcRuleContext
 {
-    // The configuration before the message, and what the message makes of it (release lists applied, entries merged).
-    // Both or none: trees in the heap of the context that is given to the check. With them nothing is undecided for
-    // want of earlier messages.
+    // The configuration that the UE has before the message: a tree in the heap of the context that is given to the
+    // check. The message is applied to it (rtxApply), and the rules judge what it leads to; nothing is undecided for
+    // want of earlier messages. Of no meaning with `fullConfig`.
     const CellGroupConfig* previous;
-    const CellGroupConfig* after;
     OSUINT8 extent;       // RrcRuleExtent; of no meaning with `previous`
     OSUINT8 message;      // RrcRuleMessage
     OSBOOL fullConfig;    // the message's fullConfig
@@ -198,7 +197,7 @@ typedef struct RrcRuleFinding
     const char* advice;  // what to do
     const char* clause;  // "TS 38.213 12"
     const void* value;   // the member in the tree; null for RRC_RULE_UNDECIDED
-    OSBOOL configuredBefore; // the message does not have the place: indices are those of `after`
+    OSBOOL configuredBefore; // the message does not have the place: indices count in lists ordered by identity
     OSUINT32 depth;          // steps of the path; 0 for CellGroupConfig itself and for RRC_RULE_UNDECIDED
     const RrcRuleStep* path; // outermost step first; CellGroupConfig itself is not one of them
 } RrcRuleFinding;
@@ -225,8 +224,9 @@ typedef struct RrcRule
 // may be broken: pointers that do not lead into the heap are not followed, and nothing is said of what lies behind
 // them. Takes from the heap what the number of cells, bandwidth parts, resources and findings asks for and gives it
 // back, unless the heap had to grow. `known` may be null. Returns the number of findings without RRC_RULE_UNDECIDED;
-// RTX_E_NULL without context or element or with only one of `previous` and `after`; RTX_E_HEAP when the heap is
-// exhausted: then the sink has not been called.
+// or, without a call of the sink, RTX_E_NULL without context or element, RTX_E_HEAP when the heap is exhausted, and
+// with `previous` the status of rtxApply and the context's error where one of the two trees is broken, a list would
+// become too long or they are of different cell groups. (That an entry lacks what its creation asks for is a finding.)
 int64_t rrcCheckRules(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRuleContext* known, RrcRuleSink sink,
                       void* arg);
 

@@ -57,12 +57,13 @@ Bwp* Cell::bwp(Direction direction, OSUINT32 id) const
     return nullptr;
 }
 
-Model::Model(Memory& memoryOf, const Tree& treeOf, const CellGroupConfig& element, const RrcRuleContext& context)
+Model::Model(Memory& memoryOf, const Tree& treeOf, const CellGroupConfig& element, const CellGroupConfig& after,
+             const RrcRuleContext& context)
     : memory(memoryOf),
       tree(treeOf),
       known(context),
       message(element),
-      config(context.after != nullptr && context.fullConfig == 0 ? *context.after : element),
+      config(after),
       previous(context.fullConfig == 0 ? context.previous : nullptr),
       isFull(isFullElement(context)),
       complete(isFull || previous != nullptr)

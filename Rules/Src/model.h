@@ -231,7 +231,8 @@ class Model
 {
 public:
     // `after` is what rules judge: the message's element, or the state that it leads to.
-    Model(Memory& memory, const Tree& tree, const CellGroupConfig& message, const RrcRuleContext& known);
+    Model(Memory& memory, const Tree& tree, const CellGroupConfig& message, const CellGroupConfig& after,
+          const RrcRuleContext& known);
 
     Model(const Model&) = delete;
     Model& operator=(const Model&) = delete;

@@ -1,6 +1,6 @@
 #include "rrcRules.h"
 
-#include "rtxLine.h"
+#include "rtxDelta.h"
 #include "rules.h"
 
 namespace rules
@@ -94,13 +94,35 @@ private:
     OSUINT32 kinds_ = 0;
 };
 
+// What the message leads to; null where it cannot be applied, with `status`.
+const CellGroupConfig* stateAfter(OSCTXT& ctxt, const CellGroupConfig& message, const RrcRuleContext& known,
+                                  int& status)
+{
+    if (known.previous == nullptr || known.fullConfig != 0)
+    {
+        return &message;
+    }
+    void* const state = rtx::allocateFor(ctxt, sizeof message);
+    // What an entry lacks is for the rules to say.
+    status = state == nullptr
+                 ? int{RTX_E_HEAP}
+                 : rtx::apply(ctxt, *asn1Type_CellGroupConfig(), known.previous, &message, state, {.incomplete = true});
+    return status == RTX_OK ? static_cast<const CellGroupConfig*>(state) : nullptr;
+}
+
 int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext& known,
               int (*wanted)(void* arg, const RrcRule* rule), RrcRuleSink sink, void* arg)
 {
     const rtx::HeapMark mark(ctxt);
+    int status = RTX_OK;
+    const CellGroupConfig* const after = stateAfter(ctxt, element, known, status);
+    if (after == nullptr)
+    {
+        return status;
+    }
     const Tree tree(ctxt);
     Memory memory(ctxt);
-    Model model(memory, tree, element, known);
+    Model model(memory, tree, element, *after, known);
     Vector<Finding*> findings;
     auto* const undecided = memory.take<OSUINT32>(rrcRuleCount());
     if (undecided == nullptr)
@@ -171,7 +193,7 @@ int64_t rrcCheckSomeRules(OSCTXT* pctxt, const CellGroupConfig* pvalue, const Rr
 {
     static constexpr RrcRuleContext nothing{};
     const RrcRuleContext& context = known == nullptr ? nothing : *known;
-    if (pctxt == nullptr || pvalue == nullptr || (context.previous == nullptr) != (context.after == nullptr))
+    if (pctxt == nullptr || pvalue == nullptr)
     {
         return RTX_E_NULL;
     }

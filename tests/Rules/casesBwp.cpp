@@ -167,10 +167,10 @@ void bwpCases(CaseTable& table)
         .fires(AT_SCELL_CELL "firstActiveDownlinkBWP-Id", ADD_SCELL AT_SCELL_CELL "firstActiveDownlinkBWP-Id = absent")
         .fires(AT_SCELL_CELL "firstActiveDownlinkBWP-Id", "sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL
                                                           "tag-Id = 0\n" AT_SCELL_CELL "firstActiveDownlinkBWP-Id = 1")
-        .after(ADD_SCELL, ADD_SCELL)
+        .after(ADD_SCELL)
         .saying("1, but a modification of an SCell activates nothing")
         .silent("sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL "tag-Id = 0")
-        .after(ADD_SCELL, ADD_SCELL)
+        .after(ADD_SCELL)
         .undecided("sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL "tag-Id = 0")
         .with(inDelta);
 

@@ -172,10 +172,10 @@ void searchSpaceCases(CaseTable& table)
         .with(inDelta)
         .fires(AT_SPACE "controlResourceSetId", AT_CELL "tag-Id = 0\n" AT_DL "bwp-Id = 1\n" AT_SPACE
                                                         "searchSpaceId = 2\n" AT_SPACE "controlResourceSetId = 2")
-        .after("", "")
+        .after("")
         .saying("search space 2 is there: its CORESET stays")
         .silent(AT_CELL "tag-Id = 0\n" AT_DL "bwp-Id = 1\n" AT_SPACE "searchSpaceId = 2\n" SYMBOLS(AT_SPACE, "8000"))
-        .after("", "");
+        .after("");
 
     table.rule("pdcch-ss-coreset-ref")
         .bad(AT_SPACE "controlResourceSetId")

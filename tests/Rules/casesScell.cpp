@@ -24,12 +24,12 @@ void scellCases(CaseTable& table)
         .undecided(ADD_SCELL AT_SCELL "sCellConfigCommon = absent")
         .with(inDelta)
         .fires(AT_SCELL "sCellConfigCommon", ADD_SCELL AT_SCELL "sCellConfigDedicated = absent")
-        .after(ADD_SCELL, ADD_SCELL)
+        .after(ADD_SCELL)
         .saying("SCell 1 is there")
         .silent(ADD_SCELL)
-        .after("", ADD_SCELL)
+        .after("")
         .silent(ADD_SCELL "sCellToReleaseList[0] = 1")
-        .after(ADD_SCELL, ADD_SCELL);
+        .after(ADD_SCELL);
 
     Cases index = table.rule("scell-index");
     index.fires(AT_SCELL "sCellIndex", withSCell(index, &RrcRule::bad))

@@ -38,9 +38,9 @@ protected:
         return tree;
     }
 
-    std::vector<std::string> check(const CellGroupConfig& tree, const RrcRuleContext& known)
+    // What rrcCheckRules returns, and a line for each call of its sink.
+    int64_t tryCheck(const CellGroupConfig& tree, const RrcRuleContext& known, std::vector<std::string>& lines)
     {
-        std::vector<std::string> lines;
         const auto sink = [](void* to, const RrcRuleFinding* finding)
         {
             char line[1500];
@@ -50,8 +50,21 @@ protected:
             EXPECT_NE(nullptr, rrcRuleById(finding->rule));
             return 0;
         };
-        EXPECT_GE(rrcCheckRules(&context_, &tree, &known, sink, &lines), 0);
+        return rrcCheckRules(&context_, &tree, &known, sink, &lines);
+    }
+
+    std::vector<std::string> check(const CellGroupConfig& tree, const RrcRuleContext& known)
+    {
+        std::vector<std::string> lines;
+        EXPECT_GE(tryCheck(tree, known, lines), 0);
         return lines;
+    }
+
+    std::string error() const
+    {
+        char line[500];
+        rtxErrFormat(&context_, line, sizeof line);
+        return line;
     }
 
     OSCTXT context_;
@@ -80,20 +93,55 @@ TEST_F(Hostile, RandomTrees)
     }
 }
 
-// The earlier configuration and what becomes of it need not fit each other.
+// A message is applied to what was there before, or it is said why not and nothing is told.
 TEST_F(Hostile, RandomTreesWithAnEarlierConfiguration)
 {
+    unsigned applied = 0;
     for (uint64_t seed = 0; seed < 200; ++seed)
     {
         SCOPED_TRACE("seed " + std::to_string(seed));
         RrcRuleContext known = some(seed);
-        known.previous = &random(seed, 1000, seed % 3 == 0 ? 2 : 0);
-        known.after = &random(seed % 5 == 0 ? seed : seed + 1000, 1000, seed % 7 == 0 ? 2 : 0);
-        const CellGroupConfig& tree = random(seed % 2 == 0 ? seed : seed + 2000, 500, seed % 5 == 0 ? 2 : 0);
-        const std::vector<std::string> first = check(tree, known);
-        EXPECT_EQ(first, check(tree, known));
+        CellGroupConfig& earlier = random(seed, 1000, seed % 3 == 0 ? 2 : 0);
+        CellGroupConfig& tree = random(seed % 2 == 0 ? seed : seed + 2000, 500, seed % 5 == 0 ? 2 : 0);
+        tree.cellGroupId = seed % 11 == 0 ? tree.cellGroupId : earlier.cellGroupId;
+        known.previous = &earlier;
+        std::vector<std::string> first;
+        const int64_t result = tryCheck(tree, known, first);
+        std::vector<std::string> second;
+        EXPECT_EQ(result, tryCheck(tree, known, second));
+        EXPECT_EQ(first, second);
+        applied += result >= 0 ? 1 : 0;
+        if (result < 0)
+        {
+            EXPECT_EQ(context_.error.status, result);
+            EXPECT_TRUE(first.empty());
+        }
         rtFreeContext(&context_);
     }
+    EXPECT_GT(applied, 50U);
+    EXPECT_LT(applied, 200U);
+}
+
+TEST_F(Hostile, TellsWhyAMessageCannotBeApplied)
+{
+    CellGroupConfig& tree = random(11, 500, 0);
+    auto& other = *static_cast<CellGroupConfig*>(rtxMemHeapAlloc(&context_, sizeof tree));
+    other = tree;
+    other.cellGroupId = tree.cellGroupId + 1;
+    RrcRuleContext known{};
+    known.previous = &other;
+    std::vector<std::string> lines;
+    EXPECT_EQ(RTX_E_DELTA, tryCheck(tree, known, lines));
+    EXPECT_TRUE(lines.empty());
+    EXPECT_EQ("CellGroupConfig.cellGroupId: another cell group", error());
+
+    other.cellGroupId = 255;
+    EXPECT_EQ(RTX_E_RANGE, tryCheck(tree, known, lines));
+    EXPECT_TRUE(lines.empty());
+    EXPECT_EQ("CellGroupConfig.cellGroupId: 255 is not in 0..3", error());
+
+    known.fullConfig = 1; // what was there before is of no meaning
+    EXPECT_GE(tryCheck(tree, known, lines), 0);
 }
 
 // Either all findings, or the heap is said to be exhausted and nothing is told.
@@ -142,8 +190,6 @@ TEST_F(Hostile, Arguments)
     RrcRuleContext known{};
     EXPECT_EQ(RTX_E_NULL, rrcCheckRules(nullptr, &tree, &known, nullptr, nullptr));
     EXPECT_EQ(RTX_E_NULL, rrcCheckRules(&context_, nullptr, &known, nullptr, nullptr));
-    known.previous = &tree;
-    EXPECT_EQ(RTX_E_NULL, rrcCheckRules(&context_, &tree, &known, nullptr, nullptr));
     EXPECT_GE(rrcCheckRules(&context_, &tree, nullptr, nullptr, nullptr), 0);
 }
 

@@ -37,10 +37,9 @@ struct RuleCase
     std::string words;                             // Fires: what the first finding's line has to contain
     std::size_t times = 1;                         // Fires: findings, the first of them at the place
     // With an earlier configuration: changes that make it of wholeCell.flat; `changes` then make the message of an
-    // empty one, and `after` the state that it leads to of the earlier one.
+    // empty one.
     bool hasEarlier = false;
     std::string before;
-    std::string after;
     int line = 0; // of the source
 };
 
@@ -94,11 +93,10 @@ public:
         all_.back().known = std::move(known);
         return *this;
     }
-    Cases& after(std::string before, std::string after)
+    Cases& after(std::string before)
     {
         all_.back().hasEarlier = true;
         all_.back().before = std::move(before);
-        all_.back().after = std::move(after);
         return *this;
     }
 
