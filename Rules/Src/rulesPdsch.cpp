@@ -3,6 +3,7 @@
 #include "rules.h"
 
 #include "modelLists.h"
+#include "uplink.h"
 
 #include <algorithm>
 
@@ -28,11 +29,6 @@ void forPdschs(Check& check, const Each& each)
 }
 
 // Null where the cell has none, or an earlier message has brought it.
-const PDSCH_ServingCellConfig* servingConfig(const Tree& tree, const Cell& cell)
-{
-    return cell.dedicated == nullptr ? nullptr : tree.setup(MEMBER(*cell.dedicated, pdsch_ServingCellConfig));
-}
-
 void judgeTdra(Check& check, const Bwp& bwp, const PDSCH_TimeDomainResourceAllocation& row)
 {
     const bool isTypeB = row.mappingType == PDSCH_TimeDomainResourceAllocation_mappingType_typeB;
@@ -672,18 +668,10 @@ void pdschPtrs(Check& check)
     }
 }
 
-// The cell that carries the PUCCH of another; null where it is not known.
-Cell* pucchCellOf(Check& check, const Cell& cell)
-{
-    const PDSCH_ServingCellConfig* const serving = servingConfig(check.tree, cell);
-    const ServCellIndex* const named = serving == nullptr ? nullptr : MEMBER(*serving, pucch_Cell);
-    return named == nullptr ? check.model.spCell() : check.model.cell(*named);
-}
-
 // n1PUCCH-AN: in some bandwidth part of the PUCCH, where the id is a resource, it is of format 0 or 1.
 void judgeSpsResource(Check& check, const Cell& cell, const PUCCH_ResourceId& id)
 {
-    Cell* const pucchCell = pucchCellOf(check, cell);
+    Cell* const pucchCell = pucchCellOf(check.model, cell);
     if (pucchCell == nullptr)
     {
         return;

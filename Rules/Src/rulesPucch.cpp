@@ -4,6 +4,7 @@
 
 #include "modelLists.h"
 #include "searchSpaces.h"
+#include "uplink.h"
 
 namespace rules
 {
@@ -776,11 +777,16 @@ bool judgeCsiResource(Check& check, const Cell& cell, const PUCCH_CSI_Resource& 
     return true;
 }
 
-// A CSI report on PUCCH has a resource in each bandwidth part that has a PUCCH.
+// A CSI report on PUCCH has a resource in each bandwidth part that has a PUCCH, in the cell that carries it.
 void pucchCsiResource(Check& check)
 {
     for (Cell& cell : check.model.cells())
     {
+        const Cell* const pucchCell = pucchCellOf(check.model, cell);
+        if (pucchCell == nullptr)
+        {
+            continue;
+        }
         for (const IdEntry<CSI_ReportConfig>& entry : check.model.csi(cell).reports)
         {
             OSUINT32 seen = 0;
@@ -794,11 +800,11 @@ void pucchCsiResource(Check& check)
                     check.error(&named.uplinkBandwidthPartId).allowed("it has a resource before");
                 }
                 seen |= bit;
-                areThere = judgeCsiResource(check, cell, named) && areThere;
+                areThere = judgeCsiResource(check, *pucchCell, named) && areThere;
             }
             for (OSUINT32 id = 0; id <= maxNrofBWPs; ++id)
             {
-                if (!list.empty() && areThere && pucchBwp(cell, id) != nullptr && (seen >> id & 1) == 0)
+                if (!list.empty() && areThere && pucchBwp(*pucchCell, id) != nullptr && (seen >> id & 1) == 0)
                 {
                     check.warning(&entry.element->reportConfigType)
                         .found("no resource in uplink bandwidth part %u", id)

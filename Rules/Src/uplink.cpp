@@ -93,6 +93,18 @@ Cell* pathlossCell(Model& model, Cell& cell)
     return isSpCell ? model.spCell() : &cell;
 }
 
+const PDSCH_ServingCellConfig* servingConfig(const Tree& tree, const Cell& cell)
+{
+    return cell.dedicated == nullptr ? nullptr : tree.setup(MEMBER(*cell.dedicated, pdsch_ServingCellConfig));
+}
+
+Cell* pucchCellOf(Model& model, const Cell& cell)
+{
+    const PDSCH_ServingCellConfig* const serving = servingConfig(model.tree, cell);
+    const ServCellIndex* const named = serving == nullptr ? nullptr : MEMBER(*serving, pucch_Cell);
+    return named == nullptr ? model.spCell() : model.cell(*named);
+}
+
 Known<bool> isAperiodic(const Model& model, const Cell& cell, const NZP_CSI_RS_Resource& resource)
 {
     if (resource.m.periodicityAndOffsetPresent != 0)

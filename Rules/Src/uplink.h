@@ -52,6 +52,11 @@ Known<bool> hasTwoLoops(Model& model, Bwp& bwp);
 // element.
 Cell* pathlossCell(Model& model, Cell& cell);
 
+const PDSCH_ServingCellConfig* servingConfig(const Tree& tree, const Cell& cell);
+
+// The cell that carries the PUCCH of this one (pucch-Cell); null where it is not in the element.
+Cell* pucchCellOf(Model& model, const Cell& cell);
+
 // Whether the CSI-RS is sent only when triggered.
 Known<bool> isAperiodic(const Model& model, const Cell& cell, const NZP_CSI_RS_Resource& resource);
 

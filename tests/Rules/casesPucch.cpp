@@ -93,6 +93,25 @@ void ableOfSrPeriods(RrcRuleContext& known)
 
 } // namespace
 
+// A report of an SCell, which goes out on the SpCell's PUCCH.
+#define AT_SCELL_CSI AT_SCELL_CELL "csi-MeasConfig.setup."
+#define AT_SCELL_REPORT AT_SCELL_CSI "csi-ReportConfigToAddModList[0]."
+#define SCELL_PUCCH AT_SCELL_REPORT "reportConfigType.periodic.pucch-CSI-ResourceList[0]."
+#define SCELL_REPORT                                                                                                   \
+    ADD_SCELL AT_SCELL_CSI                                                                                             \
+        "csi-SSB-ResourceSetToAddModList[0].csi-SSB-ResourceSetId = 0\n" AT_SCELL_CSI                                  \
+        "csi-SSB-ResourceSetToAddModList[0].csi-SSB-ResourceList[0] = 0\n" AT_SCELL_CSI                                \
+        "csi-ResourceConfigToAddModList[0].csi-ResourceConfigId = 0\n" AT_SCELL_CSI                                    \
+        "csi-ResourceConfigToAddModList[0].csi-RS-ResourceSetList.nzp-CSI-RS-SSB."                                     \
+        "csi-SSB-ResourceSetList[0] = 0\n" AT_SCELL_CSI "csi-ResourceConfigToAddModList[0].bwp-Id = 1\n" AT_SCELL_CSI  \
+        "csi-ResourceConfigToAddModList[0].resourceType = periodic\n" AT_SCELL_REPORT                                  \
+        "reportConfigId = 0\n" AT_SCELL_REPORT "resourcesForChannelMeasurement = 0\n" AT_SCELL_REPORT                  \
+        "reportConfigType.periodic.reportSlotConfig.slots80 = 19\n" AT_SCELL_REPORT                                    \
+        "reportQuantity.ssb-Index-RSRP = null\n" AT_SCELL_REPORT                                                       \
+        "timeRestrictionForChannelMeasurements = notConfigured\n" AT_SCELL_REPORT                                      \
+        "timeRestrictionForInterferenceMeasurements = notConfigured\n" AT_SCELL_REPORT                                 \
+        "groupBasedBeamReporting.disabled = {}\n" AT_SCELL_REPORT "subbandSize = value2\n"
+
 void pucchCases(CaseTable& table)
 {
     table.rule("pucch-resource-ref")
@@ -265,7 +284,11 @@ void pucchCases(CaseTable& table)
         .fires(AT_REPORT "reportConfigType.periodic.pucch-CSI-ResourceList[1].uplinkBandwidthPartId",
                AT_REPORT "reportConfigType.periodic.pucch-CSI-ResourceList[1].uplinkBandwidthPartId = 0\n" AT_REPORT
                          "reportConfigType.periodic.pucch-CSI-ResourceList[1].pucch-Resource = 4")
-        .saying("has no pucch-Config");
+        .saying("has no pucch-Config")
+        .silent(SCELL_REPORT SCELL_PUCCH "uplinkBandwidthPartId = 1\n" SCELL_PUCCH "pucch-Resource = 7")
+        .fires(SCELL_PUCCH "pucch-Resource",
+               SCELL_REPORT SCELL_PUCCH "uplinkBandwidthPartId = 1\n" SCELL_PUCCH "pucch-Resource = 3")
+        .saying("of format 1");
 
     table.rule("pucch-spatial-refs")
         .bad(AT_PUCCH "spatialRelationInfoToAddModList[0].p0-PUCCH-Id")
