@@ -247,6 +247,9 @@ OSUINT32 rrcRuleCount(void);
 const RrcRule* rrcRuleAt(OSUINT32 index);
 // By its id; null where there is none.
 const RrcRule* rrcRuleById(const char* id);
+// The title of the group that an id belongs to by what stands before its first '-': "Bandwidth parts and carriers" of
+// "bwp-in-carrier" and of "bwp"; null where there is no such group.
+const char* rrcRuleGroupTitle(const char* id);
 
 // "error", "warning", "notice", "undecided".
 const char* rrcRuleSeverityName(OSUINT8 severity);

@@ -3,6 +3,8 @@
 #include "rtxDelta.h"
 #include "rules.h"
 
+#include <string_view>
+
 namespace rules
 {
 namespace
@@ -12,6 +14,33 @@ namespace
 constexpr const RuleGroup* groups[] = {&genRules,   &rlcRules,   &macRules,   &phyRules,   &bwpRules, &pdcchRules,
                                        &pdschRules, &pucchRules, &puschRules, &srsRules,   &csiRules, &tciRules,
                                        &tddRules,   &syncRules,  &rachRules,  &scellRules, &ssbRules};
+
+struct GroupTitle
+{
+    const char* prefix; // of the ids
+    const char* title;
+};
+
+constexpr GroupTitle titles[] = {
+    {"gen", "The element as a whole"},
+    {"rlc", "RLC bearers"},
+    {"mac", "MAC and logical channels"},
+    {"phy", "Physical layer of the cell group"},
+    {"bwp", "Bandwidth parts and carriers"},
+    {"pdcch", "PDCCH: CORESETs, search spaces, group DCI, cross-carrier scheduling"},
+    {"pdsch", "PDSCH"},
+    {"pucch", "PUCCH"},
+    {"pusch", "PUSCH and configured grants"},
+    {"srs", "SRS"},
+    {"csi", "CSI measurement and reporting"},
+    {"tci", "TCI states"},
+    {"tdd", "Uplink and downlink in time"},
+    {"sync", "Reconfiguration with sync and the SpCell"},
+    {"rach", "Random access and beam failure recovery"},
+    {"scell", "SCells"},
+    {"ssb", "SS/PBCH blocks"},
+};
+static_assert(std::size(titles) == std::size(groups));
 
 template <typename Each>
 void forRules(const Each& each)
@@ -258,6 +287,19 @@ const RrcRule* rrcRuleById(const char* id)
             }
         });
     return found;
+}
+
+const char* rrcRuleGroupTitle(const char* id)
+{
+    const std::string_view prefix(id, id == nullptr ? 0 : std::strcspn(id, "-"));
+    for (const rules::GroupTitle& group : rules::titles)
+    {
+        if (prefix == group.prefix)
+        {
+            return group.title;
+        }
+    }
+    return nullptr;
 }
 
 const char* rrcRuleSeverityName(OSUINT8 severity)
