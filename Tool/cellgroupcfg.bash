@@ -15,7 +15,7 @@ _cellgroupcfg()
         -o | --output) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='decode encode diff delta apply check find pcap explain --help --version'
+                words='decode encode diff delta apply check find pcap rules explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
                     decode) words="$input $messages $texts" ;;
@@ -26,10 +26,13 @@ _cellgroupcfg()
                     check) words="$input $messages --format" ;;
                     find) words="$input $messages --min-octets --decode --json" ;;
                     pcap) words="$input --lines --in --output" ;;
+                    rules) words="--color --help --json"
+                        [[ $current == -* ]] || words=$(cellgroupcfg rules 2>/dev/null | cut -d ' ' -f 1) ;;
                     explain) words="--color --help --tree"
-                        [[ $current == -* ]] || words=$(cellgroupcfg explain 2>/dev/null) ;;
+                        [[ $current == -* ]] ||
+                            words=$(cellgroupcfg explain 2>/dev/null; cellgroupcfg rules 2>/dev/null | cut -d ' ' -f 1) ;;
                 esac
-                if [[ $current != -* && ${COMP_WORDS[1]} != explain ]]; then
+                if [[ $current != -* && ${COMP_WORDS[1]} != explain && ${COMP_WORDS[1]} != rules ]]; then
                     compopt -o default
                     COMPREPLY=()
                     return

@@ -50,7 +50,10 @@ void find(Session& session, const Operands& operands, const FindOptions& options
 
 void pcap(Session& session, const Operands& operands, Nesting nesting);
 
-// An empty path lists the named types.
-void explain(Session& session, const std::string& path, bool tree);
+// The table of rules, of which an id begins with one of the prefixes; without prefixes all.
+void rules(Session& session, const Operands& prefixes, bool json);
+
+// A rule's id, a type, a path or a member's name. An empty name lists the named types.
+void explain(Session& session, const std::string& name, bool tree);
 
 } // namespace tool

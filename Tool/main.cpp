@@ -65,7 +65,8 @@ public:
                     "  cellgroupcfg diff before.hex after.hex      what has changed\n"
                     "  cellgroupcfg delta before.hex after.hex     the message that brings it about\n"
                     "  cellgroupcfg find capture.pcap --decode     the cell groups in anything\n"
-                    "  cellgroupcfg explain t304                   what may stand there\n");
+                    "  cellgroupcfg explain t304                   what may stand there\n"
+                    "  cellgroupcfg explain bwp-in-carrier         what a rule says\n");
         app_.set_help_flag("-h,--help", "This help, for a command its own");
         app_.set_version_flag("--version", versionText, "Version, the standard's release and the commit");
         app_.require_subcommand(1);
@@ -78,6 +79,7 @@ public:
         check();
         find();
         pcap();
+        rules();
         explain();
     }
 
@@ -486,16 +488,30 @@ private:
                                                    : tool::Nesting::Bare;
     }
 
+    void rules()
+    {
+        CLI::App& app = command("rules", "List the rules of what holds between the members of a cell group.",
+                                "  cellgroupcfg rules                          all of them\n"
+                                "  cellgroupcfg rules bwp pdcch-coreset        those whose ids begin so\n"
+                                "  cellgroupcfg rules --json > rules.json\n",
+                                [this](Session& session) { tool::rules(session, operands_, json_); });
+        app.add_option("PREFIX", operands_, "What ids begin with, such as a group: bwp")->option_text("...");
+        app.add_flag("--json", json_, "All that explain tells of them, as JSON");
+    }
+
     void explain()
     {
-        CLI::App& app = command("explain", "Tell what the schema says of a type, a path or a member.",
-                                "  cellgroupcfg explain RLC-Config\n"
-                                "  cellgroupcfg explain CellGroupConfig.spCellConfig.reconfigurationWithSync.t304\n"
-                                "  cellgroupcfg explain t304\n"
-                                "  cellgroupcfg explain --tree MAC-CellGroupConfig\n"
-                                "  cellgroupcfg explain                        all named types\n",
-                                [this](Session& session) { tool::explain(session, path_, tree_); });
-        app.add_option("PATH", path_, "A type, a path from a type on, or a member's name")->option_text(" ");
+        CLI::App& app =
+            command("explain", "Tell what the schema says of a type, a path or a member, or what a rule says.",
+                    "  cellgroupcfg explain bwp-in-carrier         a rule\n"
+                    "  cellgroupcfg explain RLC-Config\n"
+                    "  cellgroupcfg explain CellGroupConfig.spCellConfig.reconfigurationWithSync.t304\n"
+                    "  cellgroupcfg explain t304\n"
+                    "  cellgroupcfg explain --tree MAC-CellGroupConfig\n"
+                    "  cellgroupcfg explain                        all named types\n",
+                    [this](Session& session) { tool::explain(session, name_, tree_); });
+        app.add_option("NAME", name_, "A rule's id, a type, a path from a type on, or a member's name")
+            ->option_text(" ");
         app.add_flag("--tree", tree_, "With all that is below it");
     }
 
@@ -526,7 +542,7 @@ private:
     std::string output_;
     std::string format_ = "text";
     std::string nesting_ = "bare";
-    std::string path_;
+    std::string name_;
     std::uint32_t minOctets_ = 16;
     std::string form_;
     bool tree_ = false;

@@ -631,7 +631,7 @@ def test_explain(folder):
     expect(["explain", "CellGroupConfig.spCellConfg"], USAGE,
            err="cellgroupcfg: CellGroupConfig has no member 'spCellConfg'; did you mean spCellConfig?\n")
     expect(["explain", "CelGroupConfig"], USAGE,
-           err="cellgroupcfg: there is no type 'CelGroupConfig'; did you mean CellGroupConfig?\n")
+           err="cellgroupcfg: there is no rule, type or member 'CelGroupConfig'; did you mean CellGroupConfig?\n")
     expect(["explain", "CellGroupConfig.cellGroupId.x"], USAGE, err=re.compile("no SEQUENCE and no CHOICE"))
     expect(["explain", "CellGroupConfig.cellGroupId[0]"], USAGE, err=re.compile("has no elements"))
     for path in ("CellGroupConfig..x", "CellGroupConfig[", "CellGroupConfig[x]", "CellGroupConfig]"):
@@ -641,6 +641,68 @@ def test_explain(folder):
     # The whole schema, each line a member with its type.
     status, tree, _ = run("explain", "--tree", "CellGroupConfig")
     true(status == DONE and all(len(line.split()) >= 2 for line in tree.decode().splitlines()[1:]), "explain --tree")
+
+
+def test_rules(folder):
+    """The table of rules, as text and as JSON, and what is told of one."""
+    status, text, _ = run("rules")
+    lines = text.decode().splitlines()
+    columns = re.compile(r"([a-z0-9-]+) +(error|warning|notice) +(\S.*\.)$")
+    rows = [columns.match(line) for line in lines]
+    true(status == DONE and all(rows), "rules: id, severity and statement in each line")
+    true(len({row.start(2) for row in rows}) == 1 and len({row.start(3) for row in rows}) == 1, "rules: columns")
+    status, text, _ = run("rules", "--json")
+    table = json.loads(text)
+    true(status == DONE and list(table) == ["version", "rules"] and table["version"] == 1, "rules --json has a version")
+    true([(rule["id"], rule["severity"], rule["statement"]) for rule in table["rules"]] == [row.groups() for row in rows],
+         "rules --json tells the same")
+    true(len(rows) == 214, f"{len(rows)} rules")
+    for rule in table["rules"]:
+        true(list(rule) == ["id", "group", "severity", "statement", "advice", "clause", "given", "bad", "good", "since"],
+             f"{rule['id']}: its members")
+        true(rule["bad"] and rule["good"] and all(re.match(r"CellGroupConfig\.\S+ = .", line)
+                                                  for line in rule["bad"] + rule["good"]), f"{rule['id']}: flat lines")
+        # Whole, whatever lines it is written in.
+        status, text, _ = run("explain", rule["id"])
+        told = " ".join(text.decode().split())
+        for part in (rule["statement"], rule["advice"], rule["clause"], rule["given"], *rule["bad"], *rule["good"],
+                     f"check --disable {rule['id']}", f'[[silence]] rule = "{rule["id"]}"'):
+            true(status == DONE and " ".join(part.split()) in told, f"explain {rule['id']} tells {part!r}")
+    expect(["rules", "phy-cell"], DONE,
+           "phy-cell-group-id  error    The master cell group has cellGroupId 0, the secondary one 1.\n")
+    bwp = run("rules", "bwp")[1].decode()
+    true(bwp and all(line.startswith("bwp-") for line in bwp.splitlines()), "rules of a group")
+    # In the order of the table, each once, however often it is named.
+    true([line.split()[0] for line in run("rules", "tdd", "bwp", "bwp-in")[1].decode().splitlines()] ==
+         [rule["id"] for rule in table["rules"] if rule["id"].startswith(("bwp", "tdd"))], "rules of two groups")
+    expect(["rules", "bpw"], USAGE, err="cellgroupcfg: no rule's id begins with 'bpw'; did you mean bwp?\n")
+    expect(["rules", "bwp", "bwp-in-carier"], USAGE,
+           err="cellgroupcfg: no rule's id begins with 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
+    expect(["rules", "--jsn"], USAGE, err=re.compile("no option '--jsn'; did you mean --json\\?"))
+    expect(["explain", "bwp-in-carier"], USAGE,
+           err="cellgroupcfg: there is no rule, type or member 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
+    expect(["explain", "t30"], USAGE,
+           err="cellgroupcfg: there is no rule, type or member 't30'; did you mean t304?\n")
+    expect(["explain", "phy-cell-group-id"], DONE, """phy-cell-group-id
+  severity     error
+  statement    The master cell group has cellGroupId 0, the secondary one 1.
+  what to do   Use 0 or 1.
+  clause       TS 38.331 CellGroupId
+  group        Physical layer of the cell group
+  since        0.1.0
+  examples     change a cell group that a UE takes; 'absent' takes away.
+  bad
+    CellGroupConfig.cellGroupId = 2
+  good
+    CellGroupConfig.cellGroupId = 0
+  to silence it
+    cellgroupcfg check --disable phy-cell-group-id
+  or, with the reason, in .cellgroupcfg.toml
+    [[silence]]
+    rule = "phy-cell-group-id"
+    path = "CellGroupConfig.cellGroupId" # left out: everywhere
+    reason = "why it is meant so"
+""")
 
 
 def on_terminal(arguments, **environment):
@@ -705,7 +767,7 @@ def test_help(folder):
     text = text.decode()
     true(status == DONE and text.startswith("Examples:\n"), "--help begins with examples")
     commands = re.findall(r"^  ([a-z]+) {5,}", text[text.index("\nCommands:\n"):], re.M)
-    true(len(commands) == 9, f"--help lists the commands: {commands}")
+    true(len(commands) == 10, f"--help lists the commands: {commands}")
     manual = (PROJECT / "docs/cellgroupcfg.1.scd").read_text(encoding="utf-8").replace("\\", "")
     completion = (PROJECT / "Tool/cellgroupcfg.bash").read_text(encoding="utf-8")
     for command in commands:
@@ -720,6 +782,8 @@ def test_help(folder):
     true(completed("cellgroupcfg", "decode", "--va") == ["--value-notation"], "an option is completed")
     true(completed("cellgroupcfg", "check", "--format", "s") == ["sarif"], "a value is completed")
     true(completed("cellgroupcfg", "explain", "RLC-Conf") == ["RLC-Config"], "a type is completed")
+    true(completed("cellgroupcfg", "explain", "bwp-in-c") == ["bwp-in-carrier"], "a rule is completed")
+    true(completed("cellgroupcfg", "rules", "tdd-dir") == ["tdd-direction"], "a rule's prefix is completed")
     expect([], USAGE, err=re.compile("command is required(.*\n)+.*--help"))
     expect(["decod", "00"], USAGE, err=re.compile("^cellgroupcfg: there is no command 'decod'; did you mean decode\\?\n"))
     expect(["decode", "--flatt", "00"], USAGE,
@@ -730,7 +794,8 @@ def test_help(folder):
 
 with tempfile.TemporaryDirectory() as name:
     for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta,
-                 test_apply, test_diff_state, test_check, test_find, test_pcap, test_wireshark, test_explain, test_streams, test_help):
+                 test_apply, test_diff_state, test_check, test_find, test_pcap, test_wireshark, test_explain,
+                 test_rules, test_streams, test_help):
         test(pathlib.Path(name))
 print("\n\n".join(failures))
 print(f"{count} checks, {len(failures)} failed")
