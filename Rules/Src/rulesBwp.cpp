@@ -871,8 +871,8 @@ constexpr Rule table[] = {
      .run = bwpScsCarrier},
     {.told = {.id = "bwp-carrier-width",
               .severity = RRC_RULE_ERROR,
-              .statement = "A carrier has the resource blocks of a channel bandwidth at its spacing, of one "
-                           "that the band has, and the same in all spacings.",
+              .statement = "carrierBandwidth is a transmission bandwidth of TS 38.101 for its subcarrier spacing, of a "
+                           "channel that the band has, and of the same channel in all spacings.",
               .advice = "Take the number of resource blocks from TS 38.101.",
               .clause = "TS 38.101-1, TS 38.101-2 tables 5.3.2-1, 5.3.5-1; TS 38.331 ServingCellConfig",
               .given = "",

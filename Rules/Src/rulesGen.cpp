@@ -378,7 +378,7 @@ constexpr Rule table[] = {
      .kinds = kindBit(rtx::Kind::Array) | kindBit(rtx::Kind::List)},
     {.told = {.id = "gen-add-and-release",
               .severity = RRC_RULE_NOTICE,
-              .statement = "An id that is released and added in one message is legal, and names a new element.",
+              .statement = "An id may be released and added in one message; it then names a new element.",
               .advice = "Leave the id out of the release list if the element is to be modified.",
               .clause = "TS 38.331 A.3.9, 5.3.5.5",
               .given = "A delta.",
@@ -400,8 +400,9 @@ constexpr Rule table[] = {
      .kinds = kindBit(rtx::Kind::Sequence)},
     {.told = {.id = "gen-setup-content",
               .severity = RRC_RULE_ERROR,
-              .statement = "The masterCellGroup of RRCSetup has the RLC bearer of SRB1, MAC and physical layer and the "
-                           "dedicated configuration of the SpCell, and nothing else.",
+              .statement =
+                  "The masterCellGroup of RRCSetup has the RLC bearer of SRB1, mac-CellGroupConfig, "
+                  "physicalCellGroupConfig and spCellConfig without reconfigurationWithSync, and nothing else.",
               .advice = "Send the rest in an RRCReconfiguration.",
               .clause = "TS 38.331 RRCSetup masterCellGroup",
               .given = "RRCSetup.",
@@ -422,7 +423,7 @@ constexpr Rule table[] = {
      .kinds = kindBit(rtx::Kind::Enumerated) | kindBit(rtx::Kind::Choice)},
     {.told = {.id = "gen-empty-container",
               .severity = RRC_RULE_WARNING,
-              .statement = "A container whose members all are optional has at least one where it is present.",
+              .statement = "A container that has only optional members is sent with at least one of them.",
               .advice = "Leave it out, or say what is to be configured.",
               .clause = "TS 38.331 6.1.2",
               .given = "",

@@ -538,8 +538,9 @@ constexpr Rule table[] = {
      .run = macTagRef},
     {.told = {.id = "mac-drx",
               .severity = RRC_RULE_ERROR,
-              .statement = "The long DRX cycle is a multiple of the short one and longer, and drx- "
-                           "onDurationTimer is not longer than the shortest cycle.",
+              .statement =
+                  "The long DRX cycle is a multiple of the short one and longer, and drx-onDurationTimer is not "
+                  "longer than the shortest cycle.",
               .advice = "Choose a short cycle that divides the long one.",
               .clause = "TS 38.331 DRX-Config; TS 38.321 5.7",
               .given = "",

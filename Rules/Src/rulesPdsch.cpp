@@ -827,7 +827,7 @@ constexpr Rule table[] = {
               .severity = RRC_RULE_ERROR,
               .statement = "startSymbolAndLength of PDSCH is a pair that its mapping type has: type A S = 0..3, 3 only "
                            "with dmrs-TypeA-Position pos3, and L = 3..14; type B L = 2, 4 or 7; S + L within the slot.",
-              .advice = "Compute it with 14: for L - 1 up to 7 it is 14 (L - 1) + S.",
+              .advice = "Compute it as 14 (L - 1) + S for L up to 8, else as 14 (15 - L) + 13 - S.",
               .clause = "TS 38.214 5.1.2.1, table 5.1.2.1-1",
               .given = "",
               .bad = AT_PDSCH "pdsch-TimeDomainAllocationList.setup[0].mappingType = typeB",
@@ -927,9 +927,10 @@ constexpr Rule table[] = {
      .run = pdschRmPattern},
     {.told = {.id = "pdsch-lte-crs",
               .severity = RRC_RULE_WARNING,
-              .statement = "lte-CRS-ToMatchAround is for a cell with a bandwidth part of 15 kHz, and the dedicated one "
-                           "is the common one.",
-              .advice = "Remove it.",
+              .statement =
+                  "lte-CRS-ToMatchAround is for a cell with a bandwidth part of 15 kHz; where the common and the "
+                  "dedicated configuration have it, both say the same.",
+              .advice = "Leave it out, or give both the same values.",
               .clause = "TS 38.214 5.1.4.2",
               .given = "",
               .bad = AT_CELL "lte-CRS-ToMatchAround.setup.carrierFreqDL = 100\n" AT_CELL
@@ -991,8 +992,9 @@ constexpr Rule table[] = {
      .run = pdschZpSets},
     {.told = {.id = "pdsch-ptrs",
               .severity = RRC_RULE_ERROR,
-              .statement = "Thresholds of PT-RS, of the downlink and the uplink, do not fall; timeDensity is at most "
-                           "28 with qam256.",
+              .statement =
+                  "The thresholds of PT-RS in timeDensity, frequencyDensity and sampleDensity do not fall; those "
+                  "of timeDensity are at most 28 with qam256.",
               .advice = "Sort the thresholds.",
               .clause = "TS 38.214 5.1.6.3, 6.2.3; TS 38.331 PTRS-DownlinkConfig, PTRS-UplinkConfig",
               .given = "",

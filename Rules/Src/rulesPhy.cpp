@@ -542,8 +542,7 @@ constexpr Rule table[] = {
      .run = phyBundling},
     {.told = {.id = "phy-power-fr",
               .severity = RRC_RULE_ERROR,
-              .statement = "p-UE-FR1 is in the master cell group alone, and power limits of FR1 are for "
-                           "cells of FR1.",
+              .statement = "p-UE-FR1 is only in the master cell group, and power limits of FR1 are for cells of FR1.",
               .advice = "Leave the limit out.",
               .clause = "TS 38.331 PhysicalCellGroupConfig Cond MCG-Only, FrequencyInfoUL",
               .given = "",
@@ -553,8 +552,9 @@ constexpr Rule table[] = {
      .run = phyPowerFr},
     {.told = {.id = "phy-dc-only",
               .severity = RRC_RULE_ERROR,
-              .statement = "xScale is in a secondary cell group beside an E-UTRA one alone, pdcch- "
-                           "BlindDetection in NR-DC alone.",
+              .statement =
+                  "xScale is only in a secondary cell group beside an E-UTRA one, pdcch-BlindDetection only in "
+                  "NR-DC.",
               .advice = "Leave it out.",
               .clause = "TS 38.331 PhysicalCellGroupConfig Cond SCG-Only",
               .given = "",
@@ -564,8 +564,10 @@ constexpr Rule table[] = {
      .run = phyDcOnly},
     {.told = {.id = "phy-four-pathloss",
               .severity = RRC_RULE_WARNING,
-              .statement = "At most four signals of a serving cell are references of path loss.",
-              .advice = "Use one of the four again.",
+              .statement =
+                  "PUSCH, PUCCH and SRS of a serving cell have together at most four different reference signals "
+                  "for path loss.",
+              .advice = "Name one of the four again.",
               .clause = "TS 38.213 7",
               .given = "",
               .bad = PATHLOSS "\n" AT_SRS "srs-ResourceSetToAddModList[0].pathlossReferenceRS.ssb-Index = 1",

@@ -1113,7 +1113,7 @@ constexpr Rule table[] = {
     {.told = {.id = "pucch-f3-prbs",
               .severity = RRC_RULE_ERROR,
               .statement = "nrofPRBs of format 3 is a product of 2, 3 and 5: not 7, 11, 13 or 14.",
-              .advice = "Take 6, 8, 12 or 15.",
+              .advice = "Take a number beside it: 6 or 8, 10 or 12, 15.",
               .clause = "TS 38.331 PUCCH-format3; TS 38.213 9.2.3",
               .given = "",
               .bad = AT_PUCCH_RESOURCE
@@ -1205,8 +1205,9 @@ constexpr Rule table[] = {
      .run = pucchSrResource},
     {.told = {.id = "pucch-sr-period",
               .severity = RRC_RULE_ERROR,
-              .statement = "periodicityAndOffset of a scheduling request is a period of the bandwidth part's "
-                           "subcarrier spacing, not below the resource.",
+              .statement =
+                  "The period of a scheduling request is one of those of the bandwidth part's subcarrier spacing; "
+                  "a period below a slot is for a resource that is no longer.",
               .advice = "Choose a period that the standard lists for the spacing.",
               .clause = "TS 38.331 SchedulingRequestResourceConfig",
               .given = "",
@@ -1279,8 +1280,9 @@ constexpr Rule table[] = {
      .run = pucchCommon},
     {.told = {.id = "pucch-one-uplink",
               .severity = RRC_RULE_ERROR,
-              .statement = "The PUCCH of a cell is on one of its uplinks, in each bandwidth part but perhaps the "
-                           "initial one; the SpCell has one, and one more SCell may.",
+              .statement =
+                  "The PUCCH of a cell is on one of its uplinks, in each bandwidth part but perhaps the initial "
+                  "one; the SpCell has one, and at most one SCell.",
               .advice = "Add pucch-Config to the bandwidth part.",
               .clause = "TS 38.331 BWP-UplinkDedicated",
               .given = "",

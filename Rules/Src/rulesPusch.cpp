@@ -963,7 +963,7 @@ constexpr Rule table[] = {
               .severity = RRC_RULE_ERROR,
               .statement = "startSymbolAndLength of PUSCH stands for symbols of the slot: with mapping type A at least "
                            "4 from symbol 0 on, with type B any.",
-              .advice = "Compute startSymbolAndLength of symbols that the mapping type has.",
+              .advice = "Compute it from S and L as 14 (L - 1) + S for L up to 8, else as 14 (15 - L) + 13 - S.",
               .clause = "TS 38.214 6.1.2.1, table 6.1.2.1-1",
               .given = "",
               .bad = AT_PUSCH "pusch-TimeDomainAllocationList.setup[0].startSymbolAndLength = 53",
@@ -982,8 +982,8 @@ constexpr Rule table[] = {
      .run = puschCodebookCond},
     {.told = {.id = "pusch-maxrank",
               .severity = RRC_RULE_ERROR,
-              .statement = "maxRank is maxMIMO-Layers of the cell's PUSCH, and not above the antenna ports of the "
-                           "sounding resources for codebook.",
+              .statement = "maxRank is maxMIMO-Layers of the cell's PUSCH, and not above the antenna ports of the SRS "
+                           "resources for codebook.",
               .advice = "Set maxRank to maxMIMO-Layers.",
               .clause = "TS 38.331 PUSCH-ServingCellConfig; TS 38.214 6.1.1.1",
               .given = "",
@@ -993,8 +993,9 @@ constexpr Rule table[] = {
      .run = puschMaxrank},
     {.told = {.id = "pusch-subset-ports",
               .severity = RRC_RULE_ERROR,
-              .statement = "codebookSubset is not partialAndNonCoherent where the sounding resources for codebook have "
-                           "2 antenna ports.",
+              .statement =
+                  "codebookSubset is not partialAndNonCoherent where the SRS resources for codebook have 2 antenna "
+                  "ports.",
               .advice = "Use nonCoherent, or fullyAndPartialAndNonCoherent.",
               .clause = "TS 38.214 6.1.1.1",
               .given = "",
@@ -1004,8 +1005,8 @@ constexpr Rule table[] = {
      .run = puschSubsetPorts},
     {.told = {.id = "pusch-txconfig-srs",
               .severity = RRC_RULE_ERROR,
-              .statement = "With txConfig codebook or nonCodebook the bandwidth part has a sounding resource set of "
-                           "that usage.",
+              .statement =
+                  "With txConfig codebook or nonCodebook the bandwidth part has an SRS resource set of that usage.",
               .advice = "Add an SRS-ResourceSet of the usage, or take txConfig away.",
               .clause = "TS 38.214 6.1.1",
               .given = "",
@@ -1015,8 +1016,8 @@ constexpr Rule table[] = {
      .run = puschTxconfigSrs},
     {.told = {.id = "pusch-dfts",
               .severity = RRC_RULE_ERROR,
-              .statement = "Transform precoding goes with resource allocation type 1, DM-RS type 1 and one layer; tp- "
-                           "pi2BPSK goes with transform precoding.",
+              .statement = "Transform precoding goes with resource allocation type 1, DM-RS type 1 and one layer; "
+                           "tp-pi2BPSK goes with transform precoding.",
               .advice = "Disable transform precoding, or take what goes with it.",
               .clause = "TS 38.214 6.1.2.2, 6.2.2; TS 38.212 7.3.1.1.2",
               .given = "",
@@ -1137,9 +1138,10 @@ constexpr Rule table[] = {
      .run = puschCgRepkRv},
     {.told = {.id = "pusch-cg-type1",
               .severity = RRC_RULE_ERROR,
-              .statement = "A configured grant of type 1 says all that a DCI would: a fixed allocation type, mcsAndTBS "
-                           "up to 27, a row of the table, resource blocks of the bandwidth part, dmrs- "
-                           "SeqInitialization without transform precoding, frequencyHoppingOffset with hopping.",
+              .statement =
+                  "A configured grant of type 1 says all that a DCI would: a fixed allocation type, mcsAndTBS up "
+                  "to 27, a row of the table, resource blocks of the bandwidth part, dmrs-SeqInitialization "
+                  "without transform precoding, frequencyHoppingOffset with hopping.",
               .advice = "Give the grant a value that a DCI could have.",
               .clause = "TS 38.331 ConfiguredGrantConfig; TS 38.214 6.1.2.3",
               .given = "",
@@ -1149,8 +1151,9 @@ constexpr Rule table[] = {
      .run = puschCgType1},
     {.told = {.id = "pusch-cg-single",
               .severity = RRC_RULE_ERROR,
-              .statement = "A configured grant of type 1 is on the uplink or on the supplementary uplink of a cell, "
-                           "not on both, and names the sounding resource that it follows among several.",
+              .statement =
+                  "A configured grant of type 1 is on the uplink or on the supplementary uplink of a cell, not on "
+                  "both, and names the SRS resource that it follows among several.",
               .advice = "Configure it on one of them.",
               .clause = "TS 38.331 BWP-UplinkDedicated",
               .given = "",

@@ -920,9 +920,9 @@ constexpr Rule table[] = {
      .run = rachPower},
     {.told = {.id = "rach-cfra",
               .severity = RRC_RULE_ERROR,
-              .statement = "Contention free random access has ssb-perRACH-Occasion with blocks and occasions of its "
-                           "own, its number of preambles with occasions alone, preambles that are not for contention, "
-                           "and CSI-RS of the serving cell's measurement object.",
+              .statement = "The occasions of contention-free access by SS/PBCH blocks have ssb-perRACH-Occasion, "
+                           "totalNumberOfRA-Preambles-v1530 comes only with occasions, the preambles are not those of "
+                           "contention, and CSI-RS are of the serving cell's measurement object.",
               .advice = "Say how many blocks share an occasion.",
               .clause = "TS 38.331 RACH-ConfigDedicated, Cond SSB-CFRA, Cond Occasions; TS 38.213 8.1",
               .given = "",

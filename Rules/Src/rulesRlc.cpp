@@ -509,8 +509,9 @@ constexpr Rule table[] = {
      .run = rlcReleaseSrb},
     {.told = {.id = "rlc-reestablish-new",
               .severity = RRC_RULE_WARNING,
-              .statement = "reestablishRLC is sent for channels that exist; at resume and after a re- "
-                           "establishment for SRB2 and DRBs, not for SRB1.",
+              .statement =
+                  "reestablishRLC is sent for channels that exist; at resume and after a re-establishment for SRB2 "
+                  "and DRBs, not for SRB1.",
               .advice = "Leave it out for a new channel.",
               .clause = "TS 38.331 RLC-BearerConfig reestablishRLC",
               .given = "",

@@ -927,8 +927,7 @@ void srsCarrierSwitching(Check& check)
 constexpr Rule table[] = {
     {.told = {.id = "srs-set-ref",
               .severity = RRC_RULE_ERROR,
-              .statement = "A new sounding resource set names resources, and each resource that a set names is "
-                           "configured.",
+              .statement = "A new SRS resource set names resources, and each resource that a set names is configured.",
               .advice = "Add the resource, or name one that there is.",
               .clause = "TS 38.331 SRS-Config, Cond Setup",
               .given = "",
@@ -938,8 +937,9 @@ constexpr Rule table[] = {
      .run = srsSetRef},
     {.told = {.id = "srs-set-size",
               .severity = RRC_RULE_ERROR,
-              .statement = "A bandwidth part has one sounding resource set for PUSCH at most: for codebook of up to 2 "
-                           "resources of equal ports, or for nonCodebook of up to 4 resources of one port.",
+              .statement =
+                  "A bandwidth part has one SRS resource set for PUSCH at most: for codebook of up to 2 resources "
+                  "of equal ports, or for nonCodebook of up to 4 resources of one port.",
               .advice = "Give the set the resources that its usage takes.",
               .clause = "TS 38.331 SRS-Config; TS 38.214 6.1.1, 6.2.1",
               .given = "",
@@ -949,8 +949,9 @@ constexpr Rule table[] = {
      .run = srsSetSize},
     {.told = {.id = "srs-set-behaviour",
               .severity = RRC_RULE_ERROR,
-              .statement = "A sounding resource set and its resources are all aperiodic, all semi-persistent or all "
-                           "periodic, and of one period.",
+              .statement =
+                  "An SRS resource set and its resources are all aperiodic, all semi-persistent or all periodic, "
+                  "and of one period.",
               .advice = "Give the set and its resources the same resourceType and period.",
               .clause = "TS 38.214 6.2.1",
               .given = "",
@@ -960,8 +961,9 @@ constexpr Rule table[] = {
      .run = srsSetBehaviour},
     {.told = {.id = "srs-symbols",
               .severity = RRC_RULE_ERROR,
-              .statement = "A sounding resource ends with its slot at the latest, startPosition counted from the last "
-                           "symbol, and repeats no more than it has symbols.",
+              .statement =
+                  "An SRS resource ends with its slot at the latest, startPosition counted from the last symbol, "
+                  "and repeats no more than it has symbols.",
               .advice = "Lower repetitionFactor, or take more symbols.",
               .clause = "TS 38.211 6.4.1.4; TS 38.214 6.2.1",
               .given = "",
@@ -971,8 +973,8 @@ constexpr Rule table[] = {
      .run = srsSymbols},
     {.told = {.id = "srs-bandwidth",
               .severity = RRC_RULE_ERROR,
-              .statement = "The resource blocks that a sounding resource takes, by c-SRS, b-SRS, freqDomainPosition "
-                           "and freqDomainShift, lie in the bandwidth part.",
+              .statement = "The resource blocks that an SRS resource takes, by c-SRS, b-SRS, freqDomainPosition and "
+                           "freqDomainShift, lie in the bandwidth part.",
               .advice = "Take a smaller c-SRS or freqDomainShift.",
               .clause = "TS 38.211 6.4.1.4.3, table 6.4.1.4.3-1",
               .given = "",
@@ -982,8 +984,7 @@ constexpr Rule table[] = {
      .run = srsBandwidth},
     {.told = {.id = "srs-ptrs-port",
               .severity = RRC_RULE_ERROR,
-              .statement = "ptrs-PortIndex is a port of the PT-RS of PUSCH, and is configured for transmissions "
-                           "without codebook.",
+              .statement = "ptrs-PortIndex is a port of the PT-RS of PUSCH, and is configured for nonCodebook only.",
               .advice = "Take a port below maxNrofPorts.",
               .clause = "TS 38.331 SRS-Config",
               .given = "",
@@ -993,8 +994,9 @@ constexpr Rule table[] = {
      .run = srsPtrsPort},
     {.told = {.id = "srs-noncodebook",
               .severity = RRC_RULE_ERROR,
-              .statement = "A sounding resource set is associated with a CSI-RS only for nonCodebook, with one that is "
-                           "configured and as regular as the set, and without spatial relations of its resources.",
+              .statement =
+                  "An SRS resource set is associated with a CSI-RS only for nonCodebook, with one that is "
+                  "configured and has the set's time behaviour, and without spatial relations of its resources.",
               .advice = "Associate sets for nonCodebook alone.",
               .clause = "TS 38.331 SRS-Config, Cond NonCodebook; TS 38.214 6.1.1.2",
               .given = "",
@@ -1005,8 +1007,9 @@ constexpr Rule table[] = {
      .run = srsNoncodebook},
     {.told = {.id = "srs-antenna-switching",
               .severity = RRC_RULE_ERROR,
-              .statement = "A sounding resource set for antenna switching has the resources and ports of 1T=1R, 2T=2R, "
-                           "4T=4R, 1T2R, 2T4R or 1T4R, with symbols to switch in between.",
+              .statement =
+                  "An SRS resource set for antenna switching has the resources and ports of 1T=1R, 2T=2R, 4T=4R, "
+                  "1T2R, 2T4R or 1T4R, with symbols to switch in between.",
               .advice = "Give the set the resources of one of the patterns.",
               .clause = "TS 38.214 6.2.1.2",
               .given = "",
@@ -1020,8 +1023,9 @@ constexpr Rule table[] = {
      .run = srsAntennaSwitching},
     {.told = {.id = "srs-aperiodic-trigger",
               .severity = RRC_RULE_WARNING,
-              .statement = "An aperiodic sounding resource set names each of its codepoints once, and sets of one "
-                           "codepoint are sent in different symbols.",
+              .statement =
+                  "An aperiodic SRS resource set names each of its codepoints once, and sets of one codepoint are "
+                  "sent in different symbols.",
               .advice = "Name each codepoint once.",
               .clause = "TS 38.331 SRS-Config; TS 38.214 6.2.1",
               .given = "",
@@ -1039,9 +1043,10 @@ constexpr Rule table[] = {
      .run = srsAperiodicTrigger},
     {.told = {.id = "srs-spatial-refs",
               .severity = RRC_RULE_ERROR,
-              .statement = "What the spatial relation and the pathloss reference of sounding name is configured; a "
-                           "periodic resource follows what is sent without a trigger, an SRS only if it is periodic, a "
-                           "semi-persistent one nothing aperiodic.",
+              .statement =
+                  "What spatialRelationInfo and pathlossReferenceRS name is configured; a periodic SRS follows an "
+                  "SS/PBCH block, a CSI-RS that is not aperiodic or a periodic SRS, a semi-persistent one nothing "
+                  "aperiodic.",
               .advice = "Name a signal that there is.",
               .clause = "TS 38.331 SRS-Config; TS 38.214 6.2.1",
               .given = "",
@@ -1051,8 +1056,9 @@ constexpr Rule table[] = {
      .run = srsSpatialRefs},
     {.told = {.id = "srs-power",
               .severity = RRC_RULE_ERROR,
-              .statement = "A new sounding resource set has p0, which is even; srs-PowerControlAdjustmentStates is for "
-                           "carriers with PUSCH.",
+              .statement =
+                  "A new SRS resource set has p0, which is even; srs-PowerControlAdjustmentStates is for carriers "
+                  "with PUSCH.",
               .advice = "Give an even p0.",
               .clause = "TS 38.331 SRS-Config, Cond Setup; TS 38.213 7.3",
               .given = "",

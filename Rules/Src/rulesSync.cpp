@@ -420,7 +420,7 @@ constexpr Rule table[] = {
                            "absoluteFrequencyPointA, that of unpaired spectrum neither; frequencyShift7p5khz is for "
                            "bands that share their grid with E-UTRA.",
               .advice = "Send the uplink's band and point A where it has its own.",
-              .clause = "TS 38.331 FrequencyInfoUL, Cond FDD-OrSUL, FDD-OrSUL-Optional",
+              .clause = "TS 38.331 FrequencyInfoUL, Cond FDD-OrSUL, FDD-TDD-OrSUL-Optional",
               .given = "",
               .bad = AT_COMMON_UL "frequencyInfoUL.frequencyShift7p5khz = true",
               .good = AT_COMMON_UL "frequencyInfoUL.p-Max = 23",

@@ -746,8 +746,9 @@ constexpr Rule table[] = {
      .run = tddCellKind},
     {.told = {.id = "tdd-dedicated",
               .severity = RRC_RULE_ERROR,
-              .statement = "A dedicated slot is within the common period, gives at least one and no more symbols a "
-                           "direction than a slot has, and none the other direction than the common pattern.",
+              .statement =
+                  "A dedicated slot lies within the common period, gives a direction to at least one symbol, to no "
+                  "more than the slot has, and to none against the common pattern.",
               .advice = "Give directions to flexible symbols alone.",
               .clause = "TS 38.331 TDD-UL-DL-SlotConfig; TS 38.213 11.1",
               .given = "",
