@@ -97,7 +97,7 @@ std::span<const CSI_IM_ResourceSetId> imSetIds(Check& check, const CSI_ResourceC
 
 size_t sizeOf(const NZP_CSI_RS_ResourceSet& set)
 {
-    return entries(&set.nzp_CSI_RS_Resources).size();
+    return countOf(entries(&set.nzp_CSI_RS_Resources));
 }
 
 OSUINT32 channelPorts(Check& check, const ReportView& view)

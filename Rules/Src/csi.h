@@ -122,6 +122,21 @@ void forChannelResources(Check& check, const ReportView& view, const Each& each)
                { forResources(*view.csi, set, [&](const NZP_CSI_RS_Resource& one, const auto&) { each(one); }); });
 }
 
+// How many different ids a list names; of the same id twice gen-dup-id speaks.
+template <typename Id>
+size_t countOf(std::span<const Id> ids)
+{
+    size_t count = 0;
+    for (size_t i = 0; i < ids.size(); ++i)
+    {
+        count += std::find(ids.begin(), ids.begin() + static_cast<std::ptrdiff_t>(i), ids[i]) ==
+                         ids.begin() + static_cast<std::ptrdiff_t>(i)
+                     ? 1U
+                     : 0U;
+    }
+    return count;
+}
+
 size_t sizeOf(const NZP_CSI_RS_ResourceSet& set);
 
 // How many ports the resources of a channel setting have: 0 where none is known, or they differ.

@@ -425,12 +425,12 @@ void csiInterferenceCount(Check& check)
                                return;
                            }
                            const size_t resources = sizeOf(*channel);
-                           if (imSet != nullptr && entries(&imSet->csi_IM_Resources).size() != resources)
+                           const size_t ims = imSet == nullptr ? resources : countOf(entries(&imSet->csi_IM_Resources));
+                           if (ims != resources)
                            {
                                isTold = true;
                                check.error(im)
-                                   .found("%zu CSI-IM resources in set %u", entries(&imSet->csi_IM_Resources).size(),
-                                          imSet->csi_IM_ResourceSetId)
+                                   .found("%zu CSI-IM resources in set %u", ims, imSet->csi_IM_ResourceSetId)
                                    .allowed("NZP-CSI-RS-ResourceSet %u for the channel has %zu",
                                             channel->nzp_CSI_ResourceSetId, resources);
                            }

@@ -321,8 +321,9 @@ void judgeTrackingResource(Check& check, const Tracking& tracking, const NZP_CSI
     }
     const Known<NrSpan> rbs = commonRbs(check.model, *tracking.bwp);
     const Known<NrSpan> left = csiBand(check.model, *tracking.bwp, band);
-    // The grid of four leaves up to three blocks on either side.
-    if (check.decided(rbs) && left->size >= std::min(rbs->size, 24U) && left->size != 52 && left->size + 7 <= rbs->size)
+    // The grid of four leaves up to three blocks on either side, and takes as many from 52.
+    const bool isNarrow = left && (left->size == 52 || band.nrofRBs == 52);
+    if (check.decided(rbs) && left->size >= std::min(rbs->size, 24U) && !isNarrow && left->size + 7 <= rbs->size)
     {
         check.error(&band.nrofRBs)
             .found("%u RB in the bandwidth part, in a set for tracking", left->size)
@@ -335,6 +336,10 @@ void judgeTrackingPlaces(Check& check, const Tracking& tracking)
 {
     const NZP_CSI_RS_ResourceSet& set = tracking.set;
     const size_t count = sizeOf(set);
+    if (count != entries(&set.nzp_CSI_RS_Resources).size())
+    {
+        return; // gen-dup-id
+    }
     if (count != 2 && count != 4)
     {
         check.error(&set.nzp_CSI_RS_Resources)

@@ -71,7 +71,7 @@ void judgeSlotOffsets(Check& check, const Cell& cell, const OffsetList& list)
     forUplinkBwps(cell, judge);
     if (tables != 0 && !fits)
     {
-        check.error(&list)
+        check.missing(cell.complete, &list)
             .found("%zu entr%s", offsets.size(), offsets.size() == 1 ? "y" : "ies")
             .allowed("pusch-TimeDomainAllocationList has %u", rows);
     }

@@ -2,6 +2,7 @@
 #include "examplePaths.h"
 #include "pdcch.h"
 #include "rules.h"
+#include "uplink.h"
 
 namespace rules
 {
@@ -57,7 +58,14 @@ const char* lacksCoreset0(Check& check, const Bwp& bwp)
     }
     const Known<NrCoreset0> coreset = coreset0Of(check.model, *bwp.cell);
     const Known<NrSpan> rbs = bwp.rbs();
-    return coreset && rbs && rbs->size < coreset->rbs ? "CORESET#0 is wider than the bandwidth part" : nullptr;
+    if (coreset && rbs && rbs->size < coreset->rbs)
+    {
+        return "CORESET#0 is wider than the bandwidth part";
+    }
+    const Known<int64_t> start = coreset0Start(check.model, *bwp.cell);
+    const Known<NrSpan> common = commonRbs(check.model, bwp);
+    return start && common && !contains(*common, *start, coreset->rbs) ? "CORESET#0 is not within the bandwidth part"
+                                                                       : nullptr;
 }
 
 // Search spaces for common purposes are there.
@@ -137,51 +145,52 @@ void pdcchInitialOnly(Check& check)
              });
 }
 
+// Of an uplink bandwidth part, in the downlink one of its id.
+void recoverySpace(Check& check, const Bwp& uplink, Bwp& downlink)
+{
+    const BeamFailureRecoveryConfig& bfr = *uplink.bfr;
+    const SearchSpaceId* const id = MEMBER(bfr, recoverySearchSpaceId);
+    const Pdcch& pdcch = check.model.pdcch(downlink);
+    if (id == nullptr)
+    {
+        if (bfr.m.candidateBeamRSListPresent != 0)
+        {
+            check.missing(isComplete(uplink), &bfr.recoverySearchSpaceId).allowed("candidateBeamRSList is present");
+        }
+        return;
+    }
+    const SearchSpaceEntry* const entry = pdcch.searchSpace(*id);
+    if (entry == nullptr)
+    {
+        const bool areKnown =
+            pdcch.searchSpaces.complete && (pdcch.isCommonKnown || pdcch.searchSpaces.isReleased(*id));
+        check.missing(areKnown, id).allowed("downlink bandwidth part %u has no such search space", downlink.id);
+        return;
+    }
+    const auto* const coreset = coresetIdOf(*entry->element);
+    for (const SearchSpaceEntry& other : pdcch.allSearchSpaces)
+    {
+        const auto* const otherCoreset = coresetIdOf(*other.element);
+        if (other.id != entry->id && coreset != nullptr && otherCoreset != nullptr && *otherCoreset == *coreset)
+        {
+            check.error(id).allowed("search space %u has the same CORESET %u", other.id, *coreset);
+            return;
+        }
+    }
+}
+
 // The search space for beam failure recovery has a CORESET of its own.
 void pdcchRecoverySs(Check& check)
 {
-    for (Cell& cell : check.model.cells())
-    {
-        for (const Bwp& uplink : cell.uplink)
-        {
-            Bwp* const bwp = cell.bwp(Direction::Downlink, uplink.id);
-            if (uplink.bfr == nullptr || bwp == nullptr)
-            {
-                continue;
-            }
-            const BeamFailureRecoveryConfig& bfr = *uplink.bfr;
-            const SearchSpaceId* const id = MEMBER(bfr, recoverySearchSpaceId);
-            const Pdcch& pdcch = check.model.pdcch(*bwp);
-            if (id == nullptr)
-            {
-                if (bfr.m.candidateBeamRSListPresent != 0)
-                {
-                    check.missing(isComplete(uplink), &bfr.recoverySearchSpaceId)
-                        .allowed("candidateBeamRSList is present");
-                }
-                continue;
-            }
-            const SearchSpaceEntry* const entry = pdcch.searchSpace(*id);
-            if (entry == nullptr)
-            {
-                check
-                    .missing(pdcch.searchSpaces.complete && (pdcch.isCommonKnown || pdcch.searchSpaces.isReleased(*id)),
-                             id)
-                    .allowed("downlink bandwidth part %u has no such search space", bwp->id);
-                continue;
-            }
-            const auto* const coreset = coresetIdOf(*entry->element);
-            for (const SearchSpaceEntry& other : pdcch.allSearchSpaces)
-            {
-                const auto* const otherCoreset = coresetIdOf(*other.element);
-                if (other.id != entry->id && coreset != nullptr && otherCoreset != nullptr && *otherCoreset == *coreset)
-                {
-                    check.error(id).allowed("search space %u has the same CORESET %u", other.id, *coreset);
-                    break;
-                }
-            }
-        }
-    }
+    forUplinks(check,
+               [&](Cell& cell, const Bwp& uplink)
+               {
+                   Bwp* const bwp = cell.bwp(Direction::Downlink, uplink.id);
+                   if (uplink.bfr != nullptr && bwp != nullptr)
+                   {
+                       recoverySpace(check, uplink, *bwp);
+                   }
+               });
 }
 
 constexpr Rule table[] = {

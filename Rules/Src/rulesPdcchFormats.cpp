@@ -222,7 +222,9 @@ void sfiOfCell(Check& check, const Cell& monitoring, const SlotFormatIndicator& 
                                       indicator.dci_PayloadSize);
     }
     const OSUINT32 mu = muOf(given.subcarrierSpacing);
-    const Bwp* coarser = cell == nullptr ? nullptr : coarserBwp(*cell, mu, false);
+    // In paired spectrum subcarrierSpacing2 is that of the uplink.
+    const bool isOfDownlink = given.m.subcarrierSpacing2Present != 0;
+    const Bwp* coarser = cell == nullptr ? nullptr : coarserBwp(*cell, mu, isOfDownlink);
     coarser = coarser == nullptr ? coarserBwp(monitoring, mu, true) : coarser;
     if (coarser != nullptr)
     {

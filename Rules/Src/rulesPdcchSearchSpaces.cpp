@@ -182,6 +182,17 @@ bool isOneSpan(OSUINT32 symbols)
     return symbols != 0 && symbols >> std::countr_zero(symbols) <= 7;
 }
 
+// Whether search space 0, whose symbols are the table's, is monitored or may be.
+bool monitorsZero(const PDCCH_ConfigCommon& common)
+{
+    const SearchSpaceId* const ids[] = {MEMBER(common, searchSpaceSIB1),
+                                        MEMBER(common, searchSpaceOtherSystemInformation),
+                                        MEMBER(common, pagingSearchSpace), MEMBER(common, ra_SearchSpace)};
+    return common.m.searchSpaceZeroPresent != 0 ||
+           std::any_of(std::begin(ids), std::end(ids),
+                       [](const SearchSpaceId* id) { return id != nullptr && *id == 0; });
+}
+
 // Late occasions are for UEs that can.
 void pdcchSsLateSymbols(Check& check)
 {
@@ -207,9 +218,8 @@ void pdcchSsLateSymbols(Check& check)
                  {
                      return;
                  }
-                 // Of common search spaces with id 0 the symbols are the table's.
                  const bool isWhole = pdcch.searchSpaces.complete && pdcch.isCommonKnown &&
-                                      (pdcch.common == nullptr || pdcch.common->m.searchSpaceZeroPresent == 0);
+                                      (pdcch.common == nullptr || !monitorsZero(*pdcch.common));
                  const OSUINT32 all = dedicated | common;
                  const auto* const at = &bwp.pdcch->searchSpacesToAddModList;
                  if (*mu != 0 && isWhole && isOneSpan(all) && (all & ~firstThree) != 0)
