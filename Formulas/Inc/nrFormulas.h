@@ -171,6 +171,9 @@ uint32_t nrRbgs(uint32_t start, uint32_t n, uint32_t size);
 
 // Whether PUSCH can have these symbols of a slot (TS 38.214 table 6.1.2.1-1), by its mapping type and cyclic prefix.
 int nrPuschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols);
+// Row 0..15 of the default time domain allocations of PUSCH (TS 38.214 tables 6.1.2.1.1-2 to -4): the slots behind the
+// grant's (k2) and the symbols. 0 where there is none.
+int nrPuschDefaultRow(uint32_t mu, int extendedPrefix, uint32_t row, uint32_t* k2, NrSpan* symbols);
 
 // Orthogonal sequences of PUCCH format 1 (TS 38.211 table 6.3.2.4.1-1): timeDomainOCC is below this; 0 for other
 // numbers of symbols than 4..14.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace
 {
@@ -21,6 +22,29 @@ int nrPuschSymbolsAllowed(int typeB, int extendedPrefix, NrSpan symbols)
     const uint32_t least = typeB != 0 ? 1 : 4;
     const bool begins = typeB != 0 || symbols.start == 0;
     return begins && symbols.size >= least && symbols.size <= slot && symbols.start <= slot - symbols.size ? 1 : 0;
+}
+
+int nrPuschDefaultRow(uint32_t mu, int extendedPrefix, uint32_t row, uint32_t* k2, NrSpan* symbols)
+{
+    struct Row
+    {
+        uint32_t later; // slots more than those of the spacing
+        NrSpan normal;
+        NrSpan extended;
+    };
+    static constexpr Row rows[] = {
+        {0, {0, 14}, {0, 8}},  {0, {0, 12}, {0, 12}}, {0, {0, 10}, {0, 10}}, {0, {2, 10}, {2, 10}},
+        {0, {4, 10}, {4, 4}},  {0, {4, 8}, {4, 8}},   {0, {4, 6}, {4, 6}},   {1, {0, 14}, {0, 8}},
+        {1, {0, 12}, {0, 12}}, {1, {0, 10}, {0, 10}}, {2, {0, 14}, {0, 6}},  {2, {0, 12}, {0, 12}},
+        {2, {0, 10}, {0, 10}}, {0, {8, 6}, {8, 4}},   {3, {0, 14}, {0, 8}},  {3, {0, 10}, {0, 10}}};
+    static constexpr uint32_t ofSpacing[] = {1, 1, 2, 3};
+    if (mu >= std::size(ofSpacing) || row >= std::size(rows))
+    {
+        return 0;
+    }
+    *k2 = ofSpacing[mu] + rows[row].later;
+    *symbols = extendedPrefix != 0 ? rows[row].extended : rows[row].normal;
+    return 1;
 }
 
 uint32_t nrPucchF1Sequences(uint32_t symbols, int hopping)

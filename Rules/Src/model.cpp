@@ -34,7 +34,7 @@ Known<OSUINT32> Bwp::mu() const
     return mu <= highestMu ? Known<OSUINT32>(mu) : Known<OSUINT32>::unless(0);
 }
 
-Known<NrSpan> Bwp::rbs() const
+Known<NrSpan> Bwp::located() const
 {
     if (generic == nullptr)
     {
@@ -159,6 +159,12 @@ void Model::makeCells()
         cell.band = bandOf(cell);
         cell.range = rangeOf(cell);
         cell.duplex = duplexOf(cell);
+    }
+    for (Bwp& bwp : bwps_)
+    {
+        const Known<NrSpan> rbs = bwp.located();
+        const Known<const SCS_SpecificCarrier*> in = carrier(bwp);
+        bwp.isOutside = rbs && in && *in != nullptr && rbs->start + rbs->size > (*in)->carrierBandwidth;
     }
 }
 

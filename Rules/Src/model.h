@@ -93,6 +93,7 @@ struct Bwp
     const BWP_UplinkDedicated* uplinkDedicated;
     const BWP* generic;        // null where it is unknown; perhaps of the context
     OSUINT32 missing;          // RrcRuleInput bits: what would tell it
+    bool isOutside;            // of its carrier, which bwp-in-carrier tells
     const PDCCH_Config* pdcch; // what the dedicated part sets up
     const PDSCH_Config* pdsch;
     const SPS_Config* sps;
@@ -124,8 +125,12 @@ struct Bwp
     }
     // log2(spacing / 15 kHz).
     Known<OSUINT32> mu() const;
-    // Resource blocks from its carrier's first.
-    Known<NrSpan> rbs() const;
+    // Resource blocks from its carrier's first: as locationAndBandwidth says, and where they lie in the carrier.
+    Known<NrSpan> located() const;
+    Known<NrSpan> rbs() const
+    {
+        return isOutside ? Known<NrSpan>::unless(0) : located();
+    }
     // The cyclic prefix, which only 60 kHz can have so; false where it is unknown.
     bool isExtended() const
     {

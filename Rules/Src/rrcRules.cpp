@@ -11,9 +11,31 @@ namespace
 {
 
 // In the order in which they are told and documented.
-constexpr const RuleGroup* groups[] = {&genRules,   &rlcRules,   &macRules,   &phyRules,   &bwpRules, &pdcchRules,
-                                       &pdschRules, &pucchRules, &puschRules, &srsRules,   &csiRules, &tciRules,
-                                       &tddRules,   &syncRules,  &rachRules,  &scellRules, &ssbRules};
+constexpr const RuleGroup* groups[] = {&genRules,
+                                       &rlcRules,
+                                       &macRules,
+                                       &phyRules,
+                                       &bwpRules,
+                                       &pdcchCoresetRules,
+                                       &pdcchSearchSpaceRules,
+                                       &pdcchCommonRules,
+                                       &pdcchFormatRules,
+                                       &pdcchCrossCarrierRules,
+                                       &pdschRules,
+                                       &pucchRules,
+                                       &puschRules,
+                                       &srsRules,
+                                       &csiChainRules,
+                                       &csiReportRules,
+                                       &csiTriggerRules,
+                                       &csiResourceRules,
+                                       &csiPortRules,
+                                       &tciRules,
+                                       &tddRules,
+                                       &syncRules,
+                                       &rachRules,
+                                       &scellRules,
+                                       &ssbRules};
 
 struct GroupTitle
 {

@@ -3,6 +3,7 @@
 #include "examplePaths.h"
 #include "modelLists.h"
 #include "rules.h"
+#include "searchSpaces.h"
 
 #include <string_view>
 
@@ -50,14 +51,14 @@ void bwpInCarrier(Check& check)
         check,
         [&](const Cell&, const Bwp& bwp)
         {
-            const Known<NrSpan> rbs = bwp.rbs();
+            const Known<NrSpan> rbs = bwp.located();
             const Known<const SCS_SpecificCarrier*> carrier = check.model.carrier(bwp);
             if (!check.decided(rbs) || !check.decided(carrier) || *carrier == nullptr || !bwp.isTold())
             {
                 return;
             }
             const OSUINT32 last = rbs->start + rbs->size - 1;
-            if (last >= (*carrier)->carrierBandwidth)
+            if (bwp.isOutside)
             {
                 check.error(&bwp.generic->locationAndBandwidth)
                     .found("%u, which with N = 275 is RB %u..%u", bwp.generic->locationAndBandwidth, rbs->start, last)
@@ -88,6 +89,14 @@ bool isOfRange(OSUINT32 mu, RrcRuleRange range)
     return range == RRC_RULE_RANGE_FR1 ? mu <= 2 : mu == 2 || mu == 3;
 }
 
+// Resource blocks of the channels that came to FR1 later: 3, 35 and 45 MHz.
+bool isLaterWidth(OSUINT32 mu, OSUINT32 rbs)
+{
+    static constexpr OSUINT32 widths[][3] = {{15, 0, 0}, {188, 92, 44}, {242, 119, 58}};
+    return std::any_of(std::begin(widths), std::end(widths),
+                       [&](const auto& width) { return mu < std::size(width) && rbs != 0 && width[mu] == rbs; });
+}
+
 // The carriers of one list have widths of the standard, and all those of one channel.
 void carrierWidths(Check& check, const Cell& cell, const OSRTDList* list)
 {
@@ -102,6 +111,11 @@ void carrierWidths(Check& check, const Cell& cell, const OSRTDList* list)
         const bool isFr2 = *cell.range == RRC_RULE_RANGE_FR2;
         const OSUINT32 mhz = nrChannelMhz(isFr2 ? 1 : 0, mu, carrier.carrierBandwidth);
         const NrBand* const band = cell.band ? nrBand(*cell.band) : nullptr;
+        if (mhz == 0 && !isFr2 && isLaterWidth(mu, carrier.carrierBandwidth))
+        {
+            check.warning(&carrier.carrierBandwidth).allowed("only later releases have a channel of that width");
+            continue;
+        }
         if (mhz == 0)
         {
             check.error(&carrier.carrierBandwidth)
@@ -477,6 +491,17 @@ const BWP_Id* firstActive(const Cell& cell, Direction direction)
     return uplink == nullptr ? nullptr : MEMBER(*uplink, firstActiveUplinkBWP_Id);
 }
 
+// The bandwidth part that becomes active by being named; null, and said, where there is none or it is released.
+const Bwp* namedBwp(Check& check, const Cell& cell, Direction direction, const BWP_Id* id)
+{
+    const Bwp* const bwp = check.resolveBwp(cell, direction, id);
+    if (bwp == nullptr && check.model.isReleased(cell, direction, *id))
+    {
+        check.error(id).allowed("%s bandwidth part %u is released by this message", nameOf(direction), OSUINT32{*id});
+    }
+    return bwp;
+}
+
 // What firstActive names is a bandwidth part that is there.
 void bwpActiveRef(Check& check)
 {
@@ -486,7 +511,7 @@ void bwpActiveRef(Check& check)
         {
             if (const BWP_Id* const id = firstActive(cell, direction))
             {
-                (void)check.resolveBwp(cell, direction, id);
+                (void)namedBwp(check, cell, direction, id);
             }
         }
     }
@@ -563,7 +588,7 @@ void bwpDefaultRef(Check& check)
         const ServingCellConfig& dedicated = *cell.dedicated;
         const BWP_Id* const id = MEMBER(dedicated, defaultDownlinkBWP_Id);
         const auto* const timer = MEMBER(dedicated, bwp_InactivityTimer);
-        if (id != nullptr && check.resolveBwp(cell, Direction::Downlink, id) == nullptr)
+        if (id != nullptr && namedBwp(check, cell, Direction::Downlink, id) == nullptr)
         {
             continue;
         }
@@ -578,20 +603,10 @@ void bwpDefaultRef(Check& check)
     }
 }
 
-// Who names a bandwidth part of a cell; null where nobody does.
+// Who names a bandwidth part of a cell, besides what activates it; null where nobody does.
 const char* userOf(Check& check, const Cell& cell, Direction direction, OSUINT32 id)
 {
-    const BWP_Id* const active = firstActive(cell, direction);
-    if (active != nullptr && *active == id)
-    {
-        return direction == Direction::Downlink ? "firstActiveDownlinkBWP-Id" : "firstActiveUplinkBWP-Id";
-    }
     const bool isDownlink = direction == Direction::Downlink;
-    const BWP_Id* const fallback = isDownlink ? MEMBER(*cell.dedicated, defaultDownlinkBWP_Id) : nullptr;
-    if (fallback != nullptr && *fallback == id)
-    {
-        return "defaultDownlinkBWP-Id";
-    }
     const char* user = nullptr;
     const auto isHere = [&](const ServCellIndex* index)
     {
@@ -642,7 +657,7 @@ void bwpReleaseInUse(Check& check)
                 const bool isGone = id != 0 && cell.bwp(direction, id) == nullptr;
                 if (const char* const user = isGone ? userOf(check, cell, direction, id) : nullptr)
                 {
-                    check.error(&id).allowed("%s still names it", user);
+                    check.warning(&id).allowed("%s still names it", user);
                 }
             }
         };
@@ -666,13 +681,14 @@ void bwpUlNeedsCommon(Check& check)
                 check.error(&cell.common->supplementaryUplinkConfig)
                     .allowed("there is no uplinkConfigCommon beside it");
             }
+            // In a handover within the cell the earlier ones stay.
             if (cell.uplinkConfig != nullptr && cell.uplinkCommon() == nullptr)
             {
-                check.error(cell.uplinkConfig).allowed("the cell has no uplinkConfigCommon");
+                check.missing(cell.complete, cell.uplinkConfig).allowed("the cell has no uplinkConfigCommon");
             }
             if (cell.supplementary != nullptr && cell.supplementaryCommon() == nullptr)
             {
-                check.error(cell.supplementary).allowed("the cell has no supplementaryUplinkConfig");
+                check.missing(cell.complete, cell.supplementary).allowed("the cell has no supplementaryUplinkConfig");
             }
             continue;
         }
@@ -693,74 +709,36 @@ void bwpUlNeedsCommon(Check& check)
     }
 }
 
-// The first common resource block of CORESET#0, by the place of the SS/PBCH block.
-Known<int64_t> coreset0Start(const Cell& cell, const NrCoreset0& coreset, OSUINT32 muSsb, OSUINT32 muPdcch)
-{
-    constexpr int64_t subcarriersToCentre = 120; // of a block of 20 resource blocks
-    const FrequencyInfoDL* const frequency = cell.frequencyDl();
-    const ARFCN_ValueNR* const ssb = frequency == nullptr ? nullptr : MEMBER(*frequency, absoluteFrequencySSB);
-    const int64_t blockKhz = int64_t{12} * khzOf(muPdcch);
-    if (ssb == nullptr || coreset.offset < 0 || blockKhz == 0)
-    {
-        return Known<int64_t>::unless(RRC_RULE_INPUT_COMMON);
-    }
-    const int64_t first = int64_t{nrArfcnKhz(*ssb)} - subcarriersToCentre * khzOf(muSsb);
-    const int64_t fromPointA = first - nrArfcnKhz(frequency->absoluteFrequencyPointA);
-    return fromPointA < 0 ? Known<int64_t>::unless(0) : Known<int64_t>(fromPointA / blockKhz - coreset.offset);
-}
-
 // The initial bandwidth part contains CORESET#0.
 void bwpInitialCoreset0(Check& check)
 {
-    constexpr OSUINT32 wideMhz = 40;
-    Cell* const cell = check.model.spCell();
-    if (cell == nullptr)
+    const Cell* const cell = check.model.spCell();
+    const Bwp* const initial = cell == nullptr ? nullptr : cell->bwp(Direction::Downlink, 0);
+    if (initial == nullptr)
     {
         return;
     }
-    Bwp& initial = cell->downlink[0];
-    const PDCCH_ConfigCommon* const common = check.model.pdcch(initial).common;
-    const ControlResourceSetZero* index = common == nullptr ? nullptr : MEMBER(*common, controlResourceSetZero);
-    if (index == nullptr)
-    {
-        index = check.model.known.coreset0;
-    }
-    const auto* const ssbScs = cell->common == nullptr ? nullptr : MEMBER(*cell->common, ssbSubcarrierSpacing);
-    const NrBand* const band = cell->band ? nrBand(*cell->band) : nullptr;
-    const Known<NrSpan> rbs = initial.rbs();
-    const Known<const SCS_SpecificCarrier*> carrier = check.model.carrier(initial);
-    if (index == nullptr || ssbScs == nullptr || band == nullptr)
-    {
-        check.undecided((index == nullptr ? OSUINT32{RRC_RULE_INPUT_CORESET0} : 0) |
-                        (ssbScs == nullptr ? OSUINT32{RRC_RULE_INPUT_COMMON} : 0) |
-                        (band == nullptr ? OSUINT32{RRC_RULE_INPUT_BAND} : 0));
-        return;
-    }
-    NrCoreset0 coreset{};
-    if (!check.decided(rbs) || !initial.mu() || !initial.isTold() ||
-        nrCoreset0(muOf(*ssbScs), *initial.mu(), band->leastMhz >= wideMhz ? 1 : 0, *index, &coreset) == 0)
+    const Known<NrCoreset0> coreset = coreset0Of(check.model, *cell);
+    const Known<NrSpan> rbs = initial->rbs();
+    if (!check.decided(coreset) || !check.decided(rbs) || !initial->isTold())
     {
         return;
     }
-    if (rbs->size < coreset.rbs)
+    if (rbs->size < coreset->rbs)
     {
-        check.error(&initial.generic->locationAndBandwidth)
-            .found("%u, %u RB", initial.generic->locationAndBandwidth, rbs->size)
-            .allowed("CORESET#0 has %u", coreset.rbs);
+        check.error(&initial->generic->locationAndBandwidth)
+            .found("%u, %u RB", initial->generic->locationAndBandwidth, rbs->size)
+            .allowed("CORESET#0 has %u", coreset->rbs);
         return;
     }
-    const Known<int64_t> start = coreset0Start(*cell, coreset, muOf(*ssbScs), *initial.mu());
-    if (!start || !check.decided(carrier) || *carrier == nullptr)
+    const Known<int64_t> start = coreset0Start(check.model, *cell);
+    const Known<NrSpan> common = commonRbs(check.model, *initial);
+    if (start && check.decided(common) && !contains(*common, *start, coreset->rbs))
     {
-        return;
-    }
-    const int64_t bwpStart = int64_t{(*carrier)->offsetToCarrier} + rbs->start;
-    if (*start < bwpStart || *start + coreset.rbs > bwpStart + rbs->size)
-    {
-        check.error(&initial.generic->locationAndBandwidth)
-            .found("%u, common RB %" PRId64 "..%" PRId64, initial.generic->locationAndBandwidth, bwpStart,
-                   bwpStart + rbs->size - 1)
-            .allowed("CORESET#0 is at %" PRId64 "..%" PRId64, *start, *start + coreset.rbs - 1);
+        check.error(&initial->generic->locationAndBandwidth)
+            .found("%u, common RB %u..%u", initial->generic->locationAndBandwidth, common->start,
+                   common->start + common->size - 1)
+            .allowed("CORESET#0 is at %" PRId64 "..%" PRId64, *start, *start + coreset->rbs - 1);
     }
 }
 
@@ -994,16 +972,15 @@ constexpr Rule table[] = {
               .since = "0.1.0"},
      .run = bwpDefaultRef},
     {.told = {.id = "bwp-release-in-use",
-              .severity = RRC_RULE_ERROR,
-              .statement = "A bandwidth part that is released is not named any more, unless it is added "
-                           "again.",
+              .severity = RRC_RULE_WARNING,
+              .statement =
+                  "A bandwidth part that is released is not named by CSI resources, TCI states, PUCCH resources "
+                  "of reports or spatial relations any more, unless it is added again.",
               .advice = "Change what names it, too.",
               .clause = "TS 38.331 ServingCellConfig",
               .given = "A delta.",
-              .bad = AT_CELL "downlinkBWP-ToReleaseList[0] = 2\n" AT_CELL "defaultDownlinkBWP-Id = 2\n" AT_CELL
-                             "bwp-InactivityTimer = ms100",
-              .good = AT_CELL "downlinkBWP-ToReleaseList[0] = 2\n" AT_CELL "defaultDownlinkBWP-Id = 1\n" AT_CELL
-                              "bwp-InactivityTimer = ms100",
+              .bad = AT_CELL "downlinkBWP-ToReleaseList[0] = 2\n" AT_STATE("2") "qcl-Type1.bwp-Id = 2",
+              .good = AT_CELL "downlinkBWP-ToReleaseList[0] = 2\n" AT_STATE("2") "qcl-Type1.bwp-Id = 1",
               .since = "0.1.0"},
      .run = bwpReleaseInUse},
     {.told = {.id = "bwp-ul-needs-common",

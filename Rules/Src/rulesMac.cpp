@@ -280,7 +280,7 @@ void macAllowedScs(Check& check)
     }
 }
 
-// A cell's timing advance group is configured; that of the SpCell is 0.
+// A cell's timing advance group is configured; that of the SpCell is 0, which a PCell has without being told.
 void macTagRef(Check& check)
 {
     for (const Cell& cell : check.model.cells())
@@ -293,6 +293,13 @@ void macTagRef(Check& check)
         if (cell.isSpCell() && id != 0)
         {
             check.error(&id).allowed("the SpCell is in timing advance group 0");
+            continue;
+        }
+        const bool isOfPCell = cell.isSpCell() && !check.model.isScg();
+        if (isOfPCell && !check.model.tags().isReleased(id) && check.model.tags().find(id) == nullptr)
+        {
+            check.missing(check.model.complete, &id, RRC_RULE_WARNING)
+                .allowed("the group is not configured: the UE has timeAlignmentTimerCommon of SIB1 for it");
             continue;
         }
         (void)check.resolve(check.model.tags(), id, &id, "a timing advance group");
@@ -336,9 +343,9 @@ void macDrx(Check& check)
                          longCycle % shortCycle);
             return;
         }
-        if (shortCycle >= longCycle)
+        if (shortCycle == longCycle)
         {
-            check.error(&shortDrx->drx_ShortCycle).allowed("the long cycle has %u ms", longCycle);
+            check.warning(&shortDrx->drx_ShortCycle).allowed("the long cycle has %u ms, too", longCycle);
             return;
         }
         shortest = shortCycle;
@@ -384,12 +391,16 @@ void macPhr(Check& check)
         uplinks += cell.uplink.empty() ? 0 : 1;
     }
     const OSUINT8 connectivity = check.model.known.connectivity;
-    const bool isDual = connectivity > RRC_RULE_CONNECTIVITY_SINGLE || check.model.isScg();
-    if (phr->multiplePHR == 0 && (uplinks > 1 || isDual))
+    const bool isToldDual = connectivity > RRC_RULE_CONNECTIVITY_SINGLE;
+    const bool isDual = isToldDual || check.model.isScg();
+    if (phr->multiplePHR == 0 && uplinks > 1)
     {
-        Report told = check.error(&phr->multiplePHR);
-        uplinks > 1 ? told.allowed("the cell group has %u uplinks", uplinks)
-                    : told.allowed("the UE has another cell group");
+        check.error(&phr->multiplePHR).allowed("the cell group has %u uplinks", uplinks);
+    }
+    else if (phr->multiplePHR == 0 && isDual)
+    {
+        check.missing(true, &phr->multiplePHR, isToldDual ? RRC_RULE_ERROR : RRC_RULE_WARNING)
+            .allowed("the UE has another cell group");
     }
     else if (phr->multiplePHR != 0 && uplinks <= 1 && !isDual)
     {

@@ -498,7 +498,7 @@ void pdschLteCrs(Check& check)
         {
             continue;
         }
-        bool isAt15 = false;
+        bool isAt15 = !cell.complete;
         for (const Bwp& bwp : cell.downlink)
         {
             const Known<OSUINT32> mu = bwp.mu();
@@ -941,7 +941,8 @@ constexpr Rule table[] = {
                               "initialUplinkBWP.genericParameters.subcarrierSpacing = kHz15\n" AT_COMMON
                               "tdd-UL-DL-ConfigurationCommon.referenceSubcarrierSpacing = kHz15\n" AT_COMMON
                               "tdd-UL-DL-ConfigurationCommon.pattern1.dl-UL-TransmissionPeriodicity = ms5\n" AT_PUCCH
-                              "schedulingRequestResourceToAddModList[0].periodicityAndOffset.sl20 = 8",
+                              "schedulingRequestResourceToAddModList[0].periodicityAndOffset.sl20 = 8\n" AT_RACH
+                              "rach-ConfigGeneric.ra-ResponseWindow = sl10",
               .since = "0.1.0"},
      .run = pdschLteCrs},
     {.told = {.id = "pdsch-zp-sets",

@@ -100,7 +100,7 @@ void phyRntiDistinct(Check& check)
                  {
                      if (other.value == rnti && other.name != name)
                      {
-                         check.error(&rnti).allowed("%s is the same", other.name);
+                         check.warning(&rnti).allowed("%s is the same", other.name);
                          return;
                      }
                  }
@@ -485,7 +485,7 @@ constexpr Rule table[] = {
               .since = "0.1.0"},
      .run = phyRntiRange},
     {.told = {.id = "phy-rnti-distinct",
-              .severity = RRC_RULE_ERROR,
+              .severity = RRC_RULE_WARNING,
               .statement = "The RNTIs of a UE are different from each other.",
               .advice = "Assign another RNTI.",
               .clause = "TS 38.321 7.1; TS 38.213 10.1",

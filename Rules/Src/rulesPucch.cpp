@@ -230,12 +230,16 @@ void pucchSetZero(Check& check)
 {
     forPucchs(
         check,
-        [&](Cell&, Bwp&, const PUCCH_Config& pucch, const Pucch& lists)
+        [&](Cell&, const Bwp& bwp, const PUCCH_Config& pucch, const Pucch& lists)
         {
             if (!lists.sets.complete)
             {
                 check.undecided(RRC_RULE_INPUT_PREVIOUS);
                 return;
+            }
+            if (bwp.isInitial() && lists.sets.empty())
+            {
+                return; // it has those of pucch-ResourceCommon
             }
             if (lists.sets.find(0) == nullptr)
             {
@@ -828,7 +832,7 @@ bool hasId(const Ids& list, Id id)
     return false;
 }
 
-// What a spatial relation names as the signal to follow.
+// What a spatial relation names as the signal to follow; of SS/PBCH blocks ssb-index-transmitted speaks.
 void judgeSource(Check& check, Cell& own, const PUCCH_SpatialRelationInfo& relation)
 {
     const ServCellIndex* const index = MEMBER(relation, servingCellId);
@@ -842,14 +846,6 @@ void judgeSource(Check& check, Cell& own, const PUCCH_SpatialRelationInfo& relat
     {
         check.resolve(check.model.csi(*cell).nzpResources, signal->u.csi_RS_Index, &signal->u.csi_RS_Index,
                       "an NZP-CSI-RS-Resource");
-    }
-    if (signal->t == T_PUCCH_SpatialRelationInfo_referenceSignal_ssb_Index)
-    {
-        const Known<SsbPositions> positions = ssbPositions(check.model, *cell);
-        if (check.decided(positions) && !positions->isSent(signal->u.ssb_Index))
-        {
-            check.error(&signal->u.ssb_Index).allowed("the cell does not send that SS/PBCH block");
-        }
     }
     if (const auto* const srs = CHOSEN(check.tree, signal, PUCCH_SpatialRelationInfo_referenceSignal, srs))
     {

@@ -706,31 +706,6 @@ void puschUci(Check& check)
               });
 }
 
-// Of ConfiguredGrantConfig.periodicity, in symbols; 0 for a value that is none.
-OSUINT32 periodOf(const ConfiguredGrantConfig& grant)
-{
-    static constexpr OSUINT32 slots[] = {1,  2,   4,   5,   8,   10,  16,  20,   32,   40,   64,
-                                         80, 128, 160, 256, 320, 512, 640, 1024, 1280, 2560, 5120};
-    static constexpr OSUINT32 extendedSlots[] = {1,  2,  4,   5,   8,   10,  16,  20,  32,   40,
-                                                 64, 80, 128, 160, 256, 320, 512, 640, 1280, 2560};
-    const OSUINT32 value = grant.periodicity;
-    if (value < ConfiguredGrantConfig_periodicity_sym1x14)
-    {
-        return value == ConfiguredGrantConfig_periodicity_sym2 ? 2 : 7;
-    }
-    if (value < ConfiguredGrantConfig_periodicity_sym6)
-    {
-        return slots[value - ConfiguredGrantConfig_periodicity_sym1x14] * NR_SYMBOLS;
-    }
-    if (value == ConfiguredGrantConfig_periodicity_sym6)
-    {
-        return 6;
-    }
-    return value <= ConfiguredGrantConfig_periodicity_sym2560x12
-               ? extendedSlots[value - ConfiguredGrantConfig_periodicity_sym1x12] * NR_SYMBOLS_EXTENDED
-               : 0;
-}
-
 // A period that the spacing has, and that the repetitions fit into.
 void puschCgPeriod(Check& check)
 {
@@ -738,7 +713,7 @@ void puschCgPeriod(Check& check)
               [&](const Bwp& bwp, const ConfiguredGrantConfig& grant)
               {
                   const Known<OSUINT32> mu = bwp.mu();
-                  const OSUINT32 period = periodOf(grant);
+                  const OSUINT32 period = grantPeriod(grant);
                   if (!check.decided(mu) || period == 0)
                   {
                       return;
@@ -883,7 +858,7 @@ void puschCgType1(Check& check)
                            .allowed("frequencyHopping is not configured")
                            .advice("Configure frequencyHopping, or take the offset away.");
                    }
-                   const OSUINT32 slots = (periodOf(grant) + bwp.symbolsPerSlot() - 1) / bwp.symbolsPerSlot();
+                   const OSUINT32 slots = (grantPeriod(grant) + bwp.symbolsPerSlot() - 1) / bwp.symbolsPerSlot();
                    if (bwp.generic != nullptr && slots != 0 && typeOne.timeDomainOffset >= slots)
                    {
                        check.notice(&typeOne.timeDomainOffset)

@@ -663,16 +663,20 @@ void rachCommonNeeded(Check& check)
     rachOfSync(check);
     forRach(check,
             [&](Cell& cell, const Bwp& bwp, const RACH_ConfigCommon& rach) { rachOfBwp(check, cell, bwp, rach); });
-    forRecovery(check,
-                [&](const Cell&, const Bwp& bwp, const BeamFailureRecoveryConfig&)
-                {
-                    const Known<const RACH_ConfigCommon*> rach = rachCommon(check.model, bwp);
-                    if (check.decided(rach) && *rach == nullptr && bwp.uplinkCommon != nullptr)
-                    {
-                        check.error(&bwp.uplinkCommon->rach_ConfigCommon)
-                            .allowed("the bandwidth part has beamFailureRecoveryConfig");
-                    }
-                });
+    forRecovery(
+        check,
+        [&](const Cell& cell, const Bwp& bwp, const BeamFailureRecoveryConfig& recovery)
+        {
+            if (recovery.m.candidateBeamRSListPresent == 0 || !cell.isSpCell()) // no contention free access
+            {
+                return;
+            }
+            const Known<const RACH_ConfigCommon*> rach = rachCommon(check.model, bwp);
+            if (check.decided(rach) && *rach == nullptr && bwp.uplinkCommon != nullptr)
+            {
+                check.error(&bwp.uplinkCommon->rach_ConfigCommon).allowed("the bandwidth part has candidateBeamRSList");
+            }
+        });
 }
 
 // The threshold that chooses the supplementary uplink is there with it.

@@ -55,6 +55,13 @@ SnPlaces snPlaces(const Tree& tree, const RLC_Config& rlc)
     return places;
 }
 
+// A full configuration gives SRBs their defaults (5.3.5.11): what the message says of their channels modifies these.
+bool hasDefaults(const Check& check, const Channel& channel)
+{
+    constexpr OSUINT32 lastOfSrbs = 3;
+    return check.model.known.fullConfig != 0 && channel.id <= lastOfSrbs;
+}
+
 // A new logical channel says which bearer it serves, that of a DRB how.
 void rlcNewIncomplete(Check& check)
 {
@@ -63,7 +70,7 @@ void rlcNewIncomplete(Check& check)
         const RLC_BearerConfig& bearer = *channel.bearer;
         const bool hasAll = bearer.m.servedRadioBearerPresent != 0 && bearer.m.rlc_ConfigPresent != 0 &&
                             bearer.m.mac_LogicalChannelConfigPresent != 0;
-        if (hasAll || !check.isNew(channel.novelty))
+        if (hasAll || hasDefaults(check, channel) || !check.isNew(channel.novelty))
         {
             continue;
         }
@@ -142,7 +149,7 @@ void rlcSnMissing(Check& check)
             }
             if (!places.isPresent[direction])
             {
-                if (check.isNew(channel.novelty))
+                if (!hasDefaults(check, channel) && check.isNew(channel.novelty))
                 {
                     check.error(length).allowed("a bearer that is set up has it");
                 }

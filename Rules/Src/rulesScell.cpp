@@ -181,7 +181,63 @@ void scellRlm(Check& check)
               });
 }
 
-// An SCell without SS/PBCH blocks takes its timing from the SpCell, and names none.
+// Whether a cell is known to have SS/PBCH blocks in a band, or may have.
+bool mayTime(const Cell& cell, OSUINT32 band)
+{
+    const bool hasBlocks =
+        cell.isSpCell() || cell.frequencyDl() == nullptr || cell.frequencyDl()->m.absoluteFrequencySSBPresent != 0;
+    return hasBlocks && (!cell.band || *cell.band == band);
+}
+
+// The timing of an SCell without SS/PBCH blocks is that of another cell in its band.
+void lacksTiming(Check& check, const Cell& cell)
+{
+    const Cell* const spCell = check.model.spCell();
+    if (!cell.band || spCell == nullptr || !check.decided(spCell->band))
+    {
+        return;
+    }
+    for (const Cell& other : check.model.cells())
+    {
+        if (&other != &cell && mayTime(other, *cell.band))
+        {
+            return;
+        }
+    }
+    if (!check.model.complete)
+    {
+        check.undecided(RRC_RULE_INPUT_PREVIOUS);
+        return;
+    }
+    check.error(&cell.frequencyDl()->absoluteFrequencySSB)
+        .allowed("no cell of the group that would give the timing is in band n%u", *cell.band);
+}
+
+// It is measured on no block either.
+void lacksObject(Check& check, const Cell& cell)
+{
+    const MeasObjectId* const id = cell.dedicated == nullptr ? nullptr : MEMBER(*cell.dedicated, servingCellMO);
+    const RrcRuleContext& known = check.model.known;
+    if (id == nullptr)
+    {
+        return;
+    }
+    if (known.hasMeas == 0)
+    {
+        check.undecided(RRC_RULE_INPUT_MEAS);
+        return;
+    }
+    for (const RrcRuleMeasObject& object : std::span(known.measObjects, known.numMeasObjects))
+    {
+        if (object.id == *id && object.hasSsb != 0)
+        {
+            check.warning(id).allowed("that object has ssbFrequency %u, and the cell no block there",
+                                      object.ssbFrequency);
+        }
+    }
+}
+
+// An SCell without SS/PBCH blocks takes its timing from another cell, and names none of its own.
 void scellSsbless(Check& check)
 {
     const auto isWithout = [](const Cell& cell)
@@ -210,13 +266,8 @@ void scellSsbless(Check& check)
                   {
                       check.warning(scs).allowed("absoluteFrequencySSB is absent");
                   }
-                  const Cell* const spCell = check.model.spCell();
-                  if (spCell != nullptr && check.decided(spCell->band) && cell.band && *cell.band != *spCell->band)
-                  {
-                      check.error(&cell.frequencyDl()->absoluteFrequencySSB)
-                          .allowed("the SpCell, which would give the timing, is in band n%u, not n%u", *spCell->band,
-                                   *cell.band);
-                  }
+                  lacksTiming(check, cell);
+                  lacksObject(check, cell);
               });
     if (isAny)
     {
@@ -293,7 +344,7 @@ constexpr Rule table[] = {
     {.told = {.id = "scell-ssbless",
               .severity = RRC_RULE_ERROR,
               .statement = "An SCell without absoluteFrequencySSB has no smtc, no spacing or period of SS/PBCH blocks, "
-                           "names none of its own, and is in the band of the SpCell.",
+                           "names none of its own, and is in the band of a cell that has them.",
               .advice = "Send absoluteFrequencySSB, or leave out what speaks of the blocks.",
               .clause = "TS 38.331 FrequencyInfoDL, ServingCellConfigCommon",
               .given = "SCell 1 is added.",

@@ -1050,7 +1050,7 @@ constexpr Rule table[] = {
               .advice = "Name a signal that there is.",
               .clause = "TS 38.331 SRS-Config; TS 38.214 6.2.1",
               .given = "",
-              .bad = AT_SOUNDING "spatialRelationInfo.referenceSignal.csi-RS-Index = 4",
+              .bad = AT_SOUNDING "spatialRelationInfo.referenceSignal.csi-RS-Index = 6",
               .good = AT_SOUNDING "spatialRelationInfo.referenceSignal.csi-RS-Index = 0",
               .since = "0.1.0"},
      .run = srsSpatialRefs},

@@ -84,12 +84,14 @@ void tciOfTriggers(Check& check, Cell& cell)
             const auto* const channel = CHOSEN(check.tree, &info.resourcesForChannel,
                                                CSI_AssociatedReportConfigInfo_resourcesForChannel, nzp_CSI_RS);
             const CSI_ReportConfig* const report = csi.reports.element(info.reportConfigId);
-            // The report may measure another carrier.
+            Cell* const measured = report == nullptr               ? nullptr
+                                   : report->m.carrierPresent == 0 ? &cell
+                                                                   : check.model.cell(report->carrier);
             const CSI_ResourceConfig* const config =
-                report == nullptr || report->m.carrierPresent != 0
+                measured == nullptr
                     ? nullptr
-                    : csi.resourceConfigs.element(report->resourcesForChannelMeasurement);
-            Bwp* const bwp = config == nullptr ? nullptr : cell.bwp(Direction::Downlink, config->bwp_Id);
+                    : check.model.csi(*measured).resourceConfigs.element(report->resourcesForChannelMeasurement);
+            Bwp* const bwp = config == nullptr ? nullptr : measured->bwp(Direction::Downlink, config->bwp_Id);
             if (channel == nullptr || bwp == nullptr)
             {
                 continue;
@@ -155,7 +157,7 @@ void tciRef(Check& check)
                     Cell* const cell = named == nullptr ? &own : check.resolveCell(*named, named);
                     const BWP_Id* const bwp = MEMBER(info, bwp_Id);
                     const auto* const resource = csiRsOf(info);
-                    if (cell == nullptr)
+                    if (cell == nullptr || isSsb(info)) // with an ssb a bandwidth part means nothing
                     {
                         return;
                     }
@@ -313,7 +315,7 @@ constexpr Rule table[] = {
           .advice = "Add what is named, or name what there is.",
           .clause = "TS 38.331 TCI-State, NZP-CSI-RS-Resource",
           .given = "",
-          .bad = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 4",
+          .bad = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 6",
           .good = AT_STATE("2") "qcl-Type1.referenceSignal.csi-rs = 2",
           .since = "0.1.0"},
      .run = tciRef},

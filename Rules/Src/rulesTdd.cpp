@@ -2,6 +2,7 @@
 #include "examplePaths.h"
 #include "rules.h"
 #include "searchSpaces.h"
+#include "uplink.h"
 
 #include <numeric>
 
@@ -428,29 +429,6 @@ void directionOfPucch(Check& check, Bwp& bwp, const Timing& timing)
             periodic(check, choice, timing, slotsOf(choice, srPeriods), symbols, NR_SYMBOL_DOWNLINK);
         }
     }
-    // Acknowledgements, where both directions count slots alike.
-    const auto* const k1 = bwp.pucch == nullptr ? nullptr : MEMBER(*bwp.pucch, dl_DataToUL_ACK);
-    const Bwp* const downlink = bwp.cell->bwp(Direction::Downlink, bwp.id);
-    const Known<OSUINT32> downlinkMu = downlink == nullptr ? Known<OSUINT32>::unless(0) : downlink->mu();
-    if (k1 == nullptr || !downlinkMu || *downlinkMu != timing.mu)
-    {
-        return;
-    }
-    constexpr NrSpan first = {0, 1};
-    constexpr NrSpan last = {NR_SYMBOLS - 1, 1};
-    for (OSUINT32 slot = 0; slot < timing.slots(); ++slot)
-    {
-        bool reaches = !timing.goes(slot, first, NR_SYMBOL_UPLINK);
-        for (const auto& offset : entries(k1))
-        {
-            reaches = reaches || timing.goes(slot + offset, last, NR_SYMBOL_DOWNLINK);
-        }
-        if (!reaches)
-        {
-            check.warning(k1).allowed("from downlink slot %u of %u none of them reaches uplink", slot, timing.slots());
-            return;
-        }
-    }
 }
 
 void directionOfSrs(Check& check, Bwp& bwp, const Timing& timing)
@@ -483,10 +461,11 @@ bool isAlive(const Timing& timing, OSUINT32 offset, NrSpan symbols, NrSymbolKind
     return false;
 }
 
-void directionOfPusch(Check& check, const Timing& timing, const PUSCH_TimeDomainResourceAllocationList* rows)
+void directionOfPusch(Check& check, const Timing& timing, const Bwp& bwp)
 {
     static constexpr OSUINT32 defaults[] = {1, 1, 2, 3};
-    for (const auto& row : check.tree.list<PUSCH_TimeDomainResourceAllocation>(rows))
+    const auto* const own = check.tree.setup(MEMBER(*bwp.pusch, pusch_TimeDomainAllocationList));
+    for (const auto& row : check.tree.list<PUSCH_TimeDomainResourceAllocation>(own))
     {
         NrSpan symbols{};
         const OSUINT32 k2 = row.m.k2Present != 0 ? row.k2 : timing.mu < 4 ? defaults[timing.mu] : 0;
@@ -496,6 +475,68 @@ void directionOfPusch(Check& check, const Timing& timing, const PUSCH_TimeDomain
                 .found("k2 %u, symbols %u..%u", k2, symbols.start, symbols.start + symbols.size - 1)
                 .allowed("from no downlink slot that leads to uplink symbols");
         }
+    }
+    const Known<PuschRows> rows = puschRows(check.model, bwp);
+    if (!check.model.isWhole(bwp) || !rows || !rows->isDefault)
+    {
+        return;
+    }
+    // Nobody chose the default rows: some of them lead nowhere in most patterns.
+    bool isAnyAlive = false;
+    OSUINT32 k2 = 0;
+    NrSpan symbols{};
+    for (OSUINT32 i = 0; nrPuschDefaultRow(timing.mu, bwp.isExtended() ? 1 : 0, i, &k2, &symbols) != 0; ++i)
+    {
+        isAnyAlive = isAnyAlive || isAlive(timing, k2, symbols, NR_SYMBOL_DOWNLINK);
+    }
+    if (!isAnyAlive)
+    {
+        check.warning(&bwp.pusch->pusch_TimeDomainAllocationList)
+            .allowed("no row of the default table leads from a downlink slot to uplink symbols");
+    }
+}
+
+// The symbols of the row that a configured grant names, in the table in force.
+Known<NrSpan> grantSymbols(const Model& model, const Bwp& bwp, OSUINT32 number)
+{
+    const Known<PuschRows> rows = puschRows(model, bwp);
+    NrSpan symbols{};
+    OSUINT32 k2 = 0;
+    if (rows && rows->isDefault)
+    {
+        const int isThere =
+            bwp.mu() ? nrPuschDefaultRow(*bwp.mu(), bwp.isExtended() ? 1 : 0, number, &k2, &symbols) : 0;
+        return isThere != 0 ? Known<NrSpan>(symbols) : Known<NrSpan>::unless(0);
+    }
+    if (rows)
+    {
+        for (const PUSCH_TimeDomainResourceAllocation& row : rows->rows)
+        {
+            if (number-- == 0)
+            {
+                return nrSlivDecode(row.startSymbolAndLength, &symbols) != 0 ? Known<NrSpan>(symbols)
+                                                                             : Known<NrSpan>::unless(0);
+            }
+        }
+    }
+    return Known<NrSpan>::unless(rows.inputs());
+}
+
+// A configured grant of type 1 with a period of whole slots.
+void directionOfGrant(Check& check, const Timing& timing, const Bwp& bwp)
+{
+    const auto* const grant = bwp.grant == nullptr ? nullptr : MEMBER(*bwp.grant, rrc_ConfiguredUplinkGrant);
+    const OSUINT32 period = grant == nullptr ? 0 : grantPeriod(*bwp.grant);
+    const bool hasTable = bwp.pusch != nullptr && bwp.pusch->m.pusch_TimeDomainAllocationListPresent != 0;
+    if ((!hasTable && !check.model.isWhole(bwp)) || period == 0 || period % bwp.symbolsPerSlot() != 0)
+    {
+        return;
+    }
+    const Known<NrSpan> symbols = grantSymbols(check.model, bwp, grant->timeDomainAllocation);
+    if (symbols)
+    {
+        periodic(check, &grant->timeDomainOffset, timing, {period / bwp.symbolsPerSlot(), grant->timeDomainOffset},
+                 *symbols, NR_SYMBOL_DOWNLINK);
     }
 }
 
@@ -678,10 +719,10 @@ void tddDirection(Check& check)
             {
                 directionOfPucch(check, bwp, *timing);
                 directionOfSrs(check, bwp, *timing);
+                directionOfGrant(check, *timing, bwp);
                 if (bwp.pusch != nullptr)
                 {
-                    directionOfPusch(check, *timing,
-                                     check.tree.setup(MEMBER(*bwp.pusch, pusch_TimeDomainAllocationList)));
+                    directionOfPusch(check, *timing, bwp);
                 }
             }
         }
@@ -758,8 +799,8 @@ constexpr Rule table[] = {
      .run = tddDedicated},
     {.told = {.id = "tdd-direction",
               .severity = RRC_RULE_WARNING,
-              .statement = "What is periodic, search spaces, SS/PBCH blocks and rows of time domain allocations fall "
-                           "on symbols of their direction; acknowledgements reach uplink from every downlink slot.",
+              .statement = "What is periodic, configured grants, search spaces, SS/PBCH blocks and rows of time domain "
+                           "allocations fall on symbols of their direction.",
               .advice = "Move the resource to slots of its direction.",
               .clause = "TS 38.213 11.1, 9.2.3",
               .given = "",

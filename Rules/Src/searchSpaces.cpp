@@ -113,4 +113,21 @@ Known<NrCoreset0> coreset0Of(const Model& model, const Cell& cell)
                                                                                                  : Found::unless(0);
 }
 
+Known<int64_t> coreset0Start(const Model& model, const Cell& cell)
+{
+    constexpr int64_t subcarriersToCentre = 120; // of a block of 20 resource blocks
+    const FrequencyInfoDL* const frequency = cell.frequencyDl();
+    const ARFCN_ValueNR* const ssb = frequency == nullptr ? nullptr : MEMBER(*frequency, absoluteFrequencySSB);
+    const Known<NrCoreset0> coreset = coreset0Of(model, cell);
+    if (ssb == nullptr || !coreset || coreset->offset < 0)
+    {
+        return Known<int64_t>::unless(RRC_RULE_INPUT_COMMON | coreset.inputs());
+    }
+    const int64_t blockKhz = int64_t{12} * khzOf(*cell.bwp(Direction::Downlink, 0)->mu());
+    const int64_t first =
+        int64_t{nrArfcnKhz(*ssb)} - subcarriersToCentre * khzOf(muOf(cell.common->ssbSubcarrierSpacing));
+    const int64_t fromPointA = first - nrArfcnKhz(frequency->absoluteFrequencyPointA);
+    return fromPointA < 0 ? Known<int64_t>::unless(0) : Known<int64_t>(fromPointA / blockKhz - coreset->offset);
+}
+
 } // namespace rules

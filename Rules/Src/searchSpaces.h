@@ -45,6 +45,13 @@ Region regionOf(const ControlResourceSet& coreset);
 Known<Region> regionOf(Model& model, Bwp& bwp, OSUINT32 id);
 
 Known<NrCoreset0> coreset0Of(const Model& model, const Cell& cell);
+// Its first common resource block, by the place of the SS/PBCH block.
+Known<int64_t> coreset0Start(const Model& model, const Cell& cell);
+
+inline bool contains(const NrSpan& rbs, int64_t first, OSUINT32 count)
+{
+    return first >= rbs.start && first + count <= int64_t{rbs.start} + rbs.size;
+}
 
 constexpr OSUINT32 coresetBits = 45; // of frequencyDomainResources
 

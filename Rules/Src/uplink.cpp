@@ -60,6 +60,30 @@ Recurrence recurrenceOf(const Tree& tree, const SRS_Resource& resource)
     return {periods[choice->t - 1], offset};
 }
 
+OSUINT32 grantPeriod(const ConfiguredGrantConfig& grant)
+{
+    static constexpr OSUINT32 slots[] = {1,  2,   4,   5,   8,   10,  16,  20,   32,   40,   64,
+                                         80, 128, 160, 256, 320, 512, 640, 1024, 1280, 2560, 5120};
+    static constexpr OSUINT32 extendedSlots[] = {1,  2,  4,   5,   8,   10,  16,  20,  32,   40,
+                                                 64, 80, 128, 160, 256, 320, 512, 640, 1280, 2560};
+    const OSUINT32 value = grant.periodicity;
+    if (value < ConfiguredGrantConfig_periodicity_sym1x14)
+    {
+        return value == ConfiguredGrantConfig_periodicity_sym2 ? 2 : 7;
+    }
+    if (value < ConfiguredGrantConfig_periodicity_sym6)
+    {
+        return slots[value - ConfiguredGrantConfig_periodicity_sym1x14] * NR_SYMBOLS;
+    }
+    if (value == ConfiguredGrantConfig_periodicity_sym6)
+    {
+        return 6;
+    }
+    return value <= ConfiguredGrantConfig_periodicity_sym2560x12
+               ? extendedSlots[value - ConfiguredGrantConfig_periodicity_sym1x12] * NR_SYMBOLS_EXTENDED
+               : 0;
+}
+
 Known<OSUINT32> codebookPorts(Model& model, Bwp& bwp)
 {
     const Srs& srs = model.srs(bwp);

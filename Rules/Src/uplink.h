@@ -42,6 +42,9 @@ OSUINT32 portsOf(const SRS_Resource& resource);
 // Its time behaviour in slots; period 0 where it is aperiodic, or the tree broken.
 Recurrence recurrenceOf(const Tree& tree, const SRS_Resource& resource);
 
+// Of ConfiguredGrantConfig.periodicity, in symbols; 0 for a value that is none.
+OSUINT32 grantPeriod(const ConfiguredGrantConfig& grant);
+
 // The most ports of the resources for codebook based transmission.
 Known<OSUINT32> codebookPorts(Model& model, Bwp& bwp);
 

@@ -43,6 +43,45 @@ TEST(Pusch, SymbolsAreThoseOfTheTable)
     }
 }
 
+// TS 38.214 tables 6.1.2.1.1-2 to -4: rows 1, 5, 11, 14 and 16, at 30, 60 and 120 kHz.
+TEST(Pusch, DefaultRowsAreThoseOfTheTable)
+{
+    struct Row
+    {
+        uint32_t mu;
+        bool isExtended;
+        uint32_t row;
+        uint32_t k2;
+        uint32_t start;
+        uint32_t size;
+    };
+    static constexpr Row rows[] = {{1, false, 0, 1, 0, 14}, {0, false, 4, 1, 4, 10},  {2, false, 10, 4, 0, 14},
+                                   {3, false, 13, 3, 8, 6}, {3, false, 15, 6, 0, 10}, {2, true, 0, 2, 0, 8},
+                                   {2, true, 4, 2, 4, 4},   {2, true, 10, 4, 0, 6},   {2, true, 13, 2, 8, 4},
+                                   {2, true, 15, 5, 0, 10}};
+    for (const Row& row : rows)
+    {
+        uint32_t k2 = 0;
+        NrSpan symbols{};
+        ASSERT_EQ(1, nrPuschDefaultRow(row.mu, row.isExtended ? 1 : 0, row.row, &k2, &symbols));
+        EXPECT_EQ(row.k2, k2) << row.row;
+        EXPECT_EQ(row.start, symbols.start) << row.row;
+        EXPECT_EQ(row.size, symbols.size) << row.row;
+    }
+    uint32_t k2 = 0;
+    NrSpan symbols{};
+    EXPECT_EQ(0, nrPuschDefaultRow(1, 0, 16, &k2, &symbols));
+    EXPECT_EQ(0, nrPuschDefaultRow(4, 0, 0, &k2, &symbols));
+    for (uint32_t row = 0; row < 16; ++row)
+    {
+        for (const bool isExtended : {false, true})
+        {
+            ASSERT_EQ(1, nrPuschDefaultRow(2, isExtended ? 1 : 0, row, &k2, &symbols));
+            EXPECT_TRUE(nrPuschSymbolsAllowed(1, isExtended ? 1 : 0, symbols)) << row;
+        }
+    }
+}
+
 // TS 38.211 6.4.1.4.3: n_b of the n-th transmission.
 uint32_t hoppingPlace(uint32_t cSrs, uint32_t b, uint32_t bHop, uint32_t position, uint32_t n)
 {

@@ -34,6 +34,26 @@ void withCarriers(RrcRuleContext& known)
     known.band = 78;
 }
 
+// Bandwidth parts of 60 kHz, with what fits into slots of 12 symbols, too.
+const std::string sixty =
+    AT_SYNC_ABSENT "\n" DL_BWP("subcarrierSpacing = kHz60\n") UL_BWP("subcarrierSpacing = kHz60\n") AT_UL
+    "bwp-Dedicated.pucch-Config = absent\n" AT_UL "bwp-Dedicated.srs-Config = absent\n" AT_PUSCH
+    "pusch-TimeDomainAllocationList.setup[0].startSymbolAndLength = 55\n" AT_PUSCH
+    "pusch-TimeDomainAllocationList.setup[1].startSymbolAndLength = 55\n" AT_PDSCH
+    "pdsch-TimeDomainAllocationList.setup[0].startSymbolAndLength = 81\n" AT_PDSCH
+    "pdsch-TimeDomainAllocationList.setup[1].startSymbolAndLength = 81\n" AT_CSI "csi-ReportConfigToAddModList[0] = "
+    "absent\n";
+
+// A further downlink bandwidth part, with a common search space.
+std::string furtherBwp(int index, int id)
+{
+    const std::string at = AT_CELL "downlinkBWP-ToAddModList[" + std::to_string(index) + "].";
+    return at + "bwp-Id = " + std::to_string(id) + "\n" + at +
+           "bwp-Common.genericParameters.locationAndBandwidth = 1099\n" + at +
+           "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" + at +
+           "bwp-Common.pdcch-ConfigCommon.setup.searchSpaceSIB1 = 0\n" + at + "bwp-Dedicated = {}\n";
+}
+
 } // namespace
 
 void bwpCases(CaseTable& table)
@@ -43,6 +63,17 @@ void bwpCases(CaseTable& table)
         .times(2)
         .saying("RB 0..273, but the carrier at 30 kHz has RB 0..272")
         .good()
+        // Of 106 resource blocks: computed with N = 106 where it has to be 275.
+        .fires(DL_BWP("locationAndBandwidth"),
+               AS_106_RB DL_BWP("locationAndBandwidth = 211\n") UL_BWP("locationAndBandwidth = 211"))
+        .times(2)
+        .saying("211, which with N = 275 is RB 211..211, but the carrier at 30 kHz has RB 0..105")
+        .silent(AS_106_RB DL_BWP("locationAndBandwidth = 28875\n") UL_BWP("locationAndBandwidth = 28875"))
+        // Nothing else speaks of resource blocks that the carrier does not have.
+        .fires(DL_BWP("locationAndBandwidth"), DL_BWP("locationAndBandwidth = 824"))
+        .fires(AT_COMMON_SUL "initialUplinkBWP.genericParameters.locationAndBandwidth",
+               EXAMPLE_SUL AT_COMMON_SUL "initialUplinkBWP.genericParameters.locationAndBandwidth = 13751")
+        .silent(EXAMPLE_SUL)
         .undecided(AT_SYNC_ABSENT)
         .fires(DL_BWP("locationAndBandwidth"),
                table.rule("bwp-in-carrier").example(&RrcRule::bad) + "\n" AT_SYNC_ABSENT)
@@ -56,6 +87,9 @@ void bwpCases(CaseTable& table)
         .times(2)
         .saying("kHz30, but scs-SpecificCarrierList of the uplink has no carrier of that spacing")
         .good()
+        .fires(AT_COMMON_SUL "initialUplinkBWP.genericParameters.subcarrierSpacing",
+               EXAMPLE_SUL AT_COMMON_SUL "initialUplinkBWP.genericParameters.subcarrierSpacing = kHz15")
+        .saying("scs-SpecificCarrierList of the supplementary uplink has no carrier")
         .undecided(AT_SYNC_ABSENT);
 
     table.rule("bwp-carrier-width")
@@ -71,6 +105,13 @@ void bwpCases(CaseTable& table)
                             "frequencyInfoDL.scs-SpecificCarrierList[1].carrierBandwidth = 107")
         .as(RRC_RULE_WARNING)
         .saying("107, a channel of 80 MHz, but the other spacing has a channel of 100 MHz")
+        // 35 MHz came with a later release.
+        .fires(AT_CELL "downlinkChannelBW-PerSCS-List[0].carrierBandwidth",
+               AT_CELL "downlinkChannelBW-PerSCS-List[0].offsetToCarrier = 0\n" AT_CELL
+                       "downlinkChannelBW-PerSCS-List[0].subcarrierSpacing = kHz30\n" AT_CELL
+                       "downlinkChannelBW-PerSCS-List[0].carrierBandwidth = 92")
+        .as(RRC_RULE_WARNING)
+        .saying("only later releases have a channel of that width")
         // A bandwidth of the UE: 10 MHz, in a band from 40 MHz on.
         .fires(AT_CELL "downlinkChannelBW-PerSCS-List[0].carrierBandwidth",
                AT_CELL "downlinkChannelBW-PerSCS-List[0].offsetToCarrier = 0\n" AT_CELL
@@ -97,7 +138,12 @@ void bwpCases(CaseTable& table)
     table.rule("bwp-ecp")
         .bad(DL_BWP("cyclicPrefix"))
         .saying("extended, but a bandwidth part of 30 kHz has the normal prefix")
-        .good();
+        .good()
+        .fires(UL_BWP("cyclicPrefix"), sixty + UL_BWP("cyclicPrefix = extended"))
+        .with(inDelta)
+        .saying("extended, but downlink bandwidth part 1 has the normal prefix")
+        .silent(sixty + UL_BWP("cyclicPrefix = extended\n") DL_BWP("cyclicPrefix = extended"))
+        .with(inDelta);
 
     table.rule("bwp-pair-scs")
         .bad(UL_BWP("subcarrierSpacing"))
@@ -127,6 +173,11 @@ void bwpCases(CaseTable& table)
                          "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" SECOND_DL
                          "bwp-Common.pdcch-ConfigCommon.setup.searchSpaceSIB1 = 0\n" SECOND_DL "bwp-Dedicated = {}")
         .as(RRC_RULE_WARNING)
+        // The initial one counts where it is configured.
+        .fires(AT_CELL "downlinkBWP-ToAddModList[3].bwp-Id", furtherBwp(1, 2) + furtherBwp(2, 3) + furtherBwp(3, 4))
+        .saying("5 downlink bandwidth parts with it, and a UE has four")
+        .silent(furtherBwp(1, 2) + furtherBwp(2, 3))
+        .silent(furtherBwp(1, 2) + furtherBwp(2, 3) + furtherBwp(3, 4) + AT_CELL "initialDownlinkBWP = absent")
         .undecided("")
         .with(inDelta);
 
@@ -152,7 +203,16 @@ void bwpCases(CaseTable& table)
         .silent(AT_CELL "firstActiveDownlinkBWP-Id = 0\n" AT_UPLINK "firstActiveUplinkBWP-Id = 0")
         .fires(AT_CELL "firstActiveDownlinkBWP-Id", AT_CELL "firstActiveDownlinkBWP-Id = 2")
         .with(inDelta)
-        .as(RRC_RULE_NOTICE);
+        .as(RRC_RULE_NOTICE)
+        .fires(AT_CELL "firstActiveDownlinkBWP-Id",
+               AT_CELL "firstActiveDownlinkBWP-Id = 2\n" AT_CELL "downlinkBWP-ToReleaseList[0] = 2")
+        .with(inDelta)
+        .saying("2, but downlink bandwidth part 2 is released by this message")
+        .fires(AT_UPLINK "firstActiveUplinkBWP-Id",
+               AT_UPLINK "firstActiveUplinkBWP-Id = 2\n" AT_UPLINK "uplinkBWP-ToReleaseList[0] = 2")
+        .with(inDelta)
+        .fires(AT_SUL "firstActiveUplinkBWP-Id", EXAMPLE_SUL AT_SUL "firstActiveUplinkBWP-Id = 1")
+        .saying("there is no supplementary uplink bandwidth part 1");
 
     table.rule("bwp-active-present")
         .bad(AT_UPLINK "firstActiveUplinkBWP-Id")
@@ -180,12 +240,17 @@ void bwpCases(CaseTable& table)
         .fires(AT_CELL "defaultDownlinkBWP-Id", AT_CELL "defaultDownlinkBWP-Id = 1")
         .as(RRC_RULE_NOTICE)
         .saying("without bwp-InactivityTimer")
+        .fires(AT_CELL "defaultDownlinkBWP-Id",
+               AT_CELL "downlinkBWP-ToReleaseList[0] = 2\n" AT_CELL "defaultDownlinkBWP-Id = 2\n" AT_CELL
+                       "bwp-InactivityTimer = ms100")
+        .with(inDelta)
+        .saying("is released by this message")
         .silent(AT_CELL "defaultDownlinkBWP-Id = 0\n" AT_CELL "bwp-InactivityTimer = ms100");
 
     table.rule("bwp-release-in-use")
         .bad(AT_CELL "downlinkBWP-ToReleaseList[0]")
         .with(inDelta)
-        .saying("2, but defaultDownlinkBWP-Id still names it")
+        .saying("2, but QCL-Info still names it")
         .good()
         .with(inDelta)
         .fires(AT_CELL "downlinkBWP-ToReleaseList[0]",
@@ -204,6 +269,17 @@ void bwpCases(CaseTable& table)
         .bad(AT_CELL "supplementaryUplink")
         .good()
         .fires(AT_SCELL_CELL "uplinkConfig", ADD_SCELL_WITH_UPLINK AT_SCELL_COMMON "uplinkConfigCommon = absent")
+        // In a handover within the cell the earlier one stays.
+        .fires(AT_CELL "uplinkConfig", AT_COMMON "uplinkConfigCommon = absent")
+        .with(inDelta)
+        .as(RRC_RULE_NOTICE)
+        .fires(AT_COMMON "supplementaryUplinkConfig", EXAMPLE_SUL AT_COMMON "uplinkConfigCommon = absent")
+        .with(inDelta)
+        .times(2)
+        .fires(AT_SCELL_CELL "uplinkConfig",
+               "sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL "tag-Id = 0\n" AT_SCELL_CELL
+               "uplinkConfig.initialUplinkBWP.srs-Config.release = null")
+        .after(ADD_SCELL AT_PHR "multiplePHR = true")
         .undecided(AT_SYNC_ABSENT);
 
     table.rule("bwp-initial-coreset0")
@@ -218,6 +294,18 @@ void bwpCases(CaseTable& table)
                             "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."
                             "aggregationLevel8 = n0\n" AT_COMMON_UL
                             "initialUplinkBWP.genericParameters.locationAndBandwidth = 13037")
+        // RB 113..136: narrower than CORESET#0.
+        .fires(AT_COMMON_DL "initialDownlinkBWP.genericParameters.locationAndBandwidth", AT_COMMON_DL
+               "initialDownlinkBWP.genericParameters.locationAndBandwidth = 6438\n" AT_COMMON_DL
+               "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonControlResourceSet."
+               "frequencyDomainResources = E00000000000\n" AT_COMMON_DL
+               "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."
+               "aggregationLevel8 = n0\n" AT_COMMON_DL
+               "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."
+               "aggregationLevel4 = n0\n" AT_COMMON_DL
+               "initialDownlinkBWP.pdcch-ConfigCommon.setup.commonSearchSpaceList[0].nrofCandidates."
+               "aggregationLevel2 = n1\n" AT_COMMON_UL "initialUplinkBWP.genericParameters.locationAndBandwidth = 6438")
+        .saying("6438, 24 RB, but CORESET#0 has 48")
         .undecided(AT_SYNC_ABSENT);
 
     table.rule("bwp-spcell-css")

@@ -30,6 +30,11 @@ constexpr const char* typeII = AT_TRIGGERED
     "codebookConfig.codebookType.type2.subbandAmplitude = false\n" AT_TRIGGERED
     "codebookConfig.codebookType.type2.numberOfBeams = two\n";
 
+// SS/PBCH blocks in each half frame.
+const std::string everyHalfFrame =
+    AT_COMMON "ssb-periodicityServingCell = ms5\n" AT_SYNC "smtc.periodicityAndOffset = absent\n" AT_SYNC
+              "smtc.periodicityAndOffset.sf5 = 0\n";
+
 constexpr const char* rsrp =
     AT_REPORT "reportQuantity = absent\n" AT_REPORT "reportFreqConfiguration = absent\n" AT_REPORT
               "codebookConfig = absent\n" AT_REPORT "csi-IM-ResourcesForInterference = absent\n";
@@ -56,6 +61,88 @@ void inDeltaKnowingCarrier(RrcRuleContext& known)
     known.extent = RRC_RULE_EXTENT_DELTA;
     known.carriersDl = &carrier;
     known.numCarriersDl = 1;
+}
+
+// The aperiodic report without what depends on its quantity, and named by no trigger.
+const std::string untriggered =
+    AT_CSI "aperiodicTriggerStateList = absent\n" AT_CSI "reportTriggerSize = absent\n" AT_TRIGGERED
+           "reportQuantity = absent\n" AT_TRIGGERED "reportFreqConfiguration = absent\n" AT_TRIGGERED
+           "codebookConfig = absent\n" AT_TRIGGERED "csi-IM-ResourcesForInterference = absent\n";
+
+// Sets of CSI-RS with one port, of so many resources each, for the aperiodic report.
+std::string manySets(std::initializer_list<int> sizes)
+{
+    std::string text;
+    int set = 3;
+    int resource = 6;
+    for (const int size : sizes)
+    {
+        const std::string number = std::to_string(set);
+        text += AT_NZP_SET "[" + number + "].nzp-CSI-ResourceSetId = " + number +
+                "\n" AT_CSI_RESOURCES "[3].csi-RS-ResourceSetList.nzp-CSI-RS-SSB.nzp-CSI-RS-ResourceSetList[" +
+                std::to_string(set - 3) + "] = " + number + "\n";
+        for (int i = 0; i < size; ++i, ++resource)
+        {
+            const std::string at = AT_NZP "[" + std::to_string(resource) + "].";
+            text += AT_NZP_SET "[" + number + "].nzp-CSI-RS-Resources[" + std::to_string(i) +
+                    "] = " + std::to_string(resource) + "\n" + at +
+                    "nzp-CSI-RS-ResourceId = " + std::to_string(resource) + "\n" + at +
+                    "resourceMapping.frequencyDomainAllocation.row2 = 8000\n" + at +
+                    "resourceMapping.nrofPorts = p1\n" + at + "resourceMapping.firstOFDMSymbolInTimeDomain = 13\n" +
+                    at + "resourceMapping.cdm-Type = noCDM\n" + at + "resourceMapping.density.one = null\n" + at +
+                    "resourceMapping.freqBand.startingRB = 0\n" + at + "resourceMapping.freqBand.nrofRBs = 276\n" + at +
+                    "powerControlOffset = 0\n" + at + "scramblingID = 42\n";
+        }
+        ++set;
+    }
+    return text;
+}
+
+// The first CSI-RS with 16 ports, and a codebook of four panels for it.
+const std::string fourPanels = AT_NZP
+    "[0].resourceMapping.frequencyDomainAllocation = absent\n" AT_NZP
+    "[0].resourceMapping.frequencyDomainAllocation.other = F0\n" AT_NZP "[0].resourceMapping.nrofPorts = p16\n" AT_NZP
+    "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 12\n" AT_REPORT
+    "codebookConfig.codebookType.type1.subType = absent\n" AT_REPORT
+    "codebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2.four-two-one-TypeI-MultiPanel-"
+    "Restriction = FF\n" AT_REPORT "codebookConfig.codebookType.type1.subType.typeI-MultiPanel.ri-Restriction = F0\n";
+
+// A codebook of selected ports, with so many beams, every so many ports.
+std::string portSelection(const std::string& beams, const std::string& step)
+{
+    return AT_TRIGGERED "codebookConfig.codebookType = absent\n" AT_TRIGGERED
+                        "codebookConfig.codebookType.type2.subType.typeII-PortSelection.portSelectionSamplingSize = " +
+           step +
+           "\n" AT_TRIGGERED
+           "codebookConfig.codebookType.type2.subType.typeII-PortSelection.typeII-PortSelectionRI-Restriction = "
+           "C0\n" AT_TRIGGERED "codebookConfig.codebookType.type2.phaseAlphabetSize = n4\n" AT_TRIGGERED
+           "codebookConfig.codebookType.type2.subbandAmplitude = false\n" AT_TRIGGERED
+           "codebookConfig.codebookType.type2.numberOfBeams = " +
+           beams + "\n";
+}
+
+// The aperiodic CSI-RS with more ports: row 6 has 8, row 9 has 12, row 13 has 24.
+std::string moreTriggeredPorts(const std::string& bits, const std::string& ports, int symbol)
+{
+    return AT_NZP "[3].resourceMapping.frequencyDomainAllocation = absent\n" AT_NZP
+                  "[3].resourceMapping.frequencyDomainAllocation.other = " +
+           bits + "\n" AT_NZP "[3].resourceMapping.nrofPorts = " + ports +
+           "\n" AT_NZP "[3].resourceMapping.firstOFDMSymbolInTimeDomain = " + std::to_string(symbol) + "\n";
+}
+
+// The first CSI-RS with 24 ports, row 13, from a symbol on.
+std::string row13(int symbol)
+{
+    return AT_NZP "[0].resourceMapping.frequencyDomainAllocation = absent\n" AT_NZP
+                  "[0].resourceMapping.frequencyDomainAllocation.other = E0\n" AT_NZP
+                  "[0].resourceMapping.nrofPorts = p24\n" AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain = " +
+           std::to_string(symbol) +
+           "\n" AT_REPORT
+           "codebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo.n1-n2 = "
+           "absent\n" AT_REPORT
+           "codebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo.n1-n2.six-two-"
+           "TypeI-SinglePanel-Restriction = " +
+           std::string(48, 'F') + "\n";
 }
 
 void chainCases(CaseTable& table)
@@ -186,19 +273,67 @@ void reportCases(CaseTable& table)
                "codebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts = absent\n" AT_REPORT
                "codebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.two.twoTX-"
                "CodebookSubsetRestriction = FC")
-        .silent(typeII);
+        .silent(typeII)
+        .silent(fourPanels)
+        .fires(AT_REPORT "codebookConfig.codebookType.type1.codebookMode",
+               fourPanels + AT_REPORT "codebookConfig.codebookType.type1.codebookMode = 2")
+        .saying("with four panels it is 1")
+        .fires(AT_REPORT "codebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2",
+               fourPanels + AT_REPORT
+                   "codebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2 = absent\n" AT_REPORT
+                   "codebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2.two-two-one-TypeI-"
+                   "MultiPanel-Restriction = FF")
+        .saying("8 ports of Ng = 2, N1 = 2, N2 = 1, but the resources have 16")
+        .fires(AT_TRIGGERED "codebookConfig.codebookType.type2.subType",
+               portSelection("two", "n1") + moreTriggeredPorts("80", "p2", 13))
+        .saying("ports are selected of 4 to 32, and the resources have 2");
 
     table.rule("csi-codebook-type2")
         .bad(AT_REPORT "codebookConfig.codebookType.type1.subType.typeI-SinglePanel.typeI-SinglePanel-ri-Restriction")
         .good()
         .silent(typeII)
         .fires(AT_TRIGGERED "codebookConfig.codebookType.type2.numberOfBeams",
-               with(typeII, AT_TRIGGERED "codebookConfig.codebookType.type2.numberOfBeams = three"));
+               with(typeII, AT_TRIGGERED "codebookConfig.codebookType.type2.numberOfBeams = three"))
+        // At most half of the ports, and the beams.
+        .silent(portSelection("two", "n2"))
+        .fires(AT_TRIGGERED "codebookConfig.codebookType.type2.subType.typeII-PortSelection.portSelectionSamplingSize",
+               portSelection("two", "n3"))
+        .saying("n3, but with 4 ports and 2 beams it is at most n2")
+        .silent(portSelection("three", "n3") + moreTriggeredPorts("F0", "p8", 13))
+        .fires(AT_TRIGGERED "codebookConfig.codebookType.type2.subType.typeII-PortSelection.portSelectionSamplingSize",
+               portSelection("three", "n4") + moreTriggeredPorts("F0", "p8", 13))
+        .saying("n4, but with 8 ports and 3 beams it is at most n3")
+        .fires(AT_TRIGGERED "codebookConfig.codebookType.type2.subType.typeII-PortSelection.typeII-"
+                            "PortSelectionRI-Restriction",
+               portSelection("two", "n2") + AT_TRIGGERED
+                   "codebookConfig.codebookType.type2.subType.typeII-PortSelection.typeII-PortSelectionRI-"
+                   "Restriction = 00")
+        .saying("no rank is left to report")
+        .fires(AT_TRIGGERED "codebookConfig.codebookType",
+               std::string(typeII) + AT_NZP_SET "[2].nzp-CSI-RS-Resources[1] = 6\n" ONE_MORE_NZP("6", "6") AT_NZP
+                   "[6].periodicityAndOffset = absent\n" AT_IM_SET "[1].csi-IM-Resources[1] = 2\n" AT_IM
+                   "[2].csi-IM-ResourceId = 2\n" AT_IM
+                   "[2].csi-IM-ResourceElementPattern.pattern1.subcarrierLocation-p1 = s4\n" AT_IM
+                   "[2].csi-IM-ResourceElementPattern.pattern1.symbolLocation-p1 = 13\n" AT_IM
+                   "[2].freqBand.startingRB = 0\n" AT_IM "[2].freqBand.nrofRBs = 276\n" AT_TRIGGER
+                   "resourcesForChannel.nzp-CSI-RS.qcl-info[1] = 2")
+        .saying("Type II is of one resource, and NZP-CSI-RS-ResourceSet 2 has 2");
 
     table.rule("csi-resource-count")
         .bad(AT_REPORT "resourcesForChannelMeasurement")
         .saying("9 resources in NZP-CSI-RS-ResourceSet 0")
-        .good();
+        .good()
+        .fires(AT_TRIGGERED "resourcesForChannelMeasurement",
+               untriggered + manySets({17}) + AT_TRIGGERED "reportQuantity.cri-RSRP = null")
+        .saying("17 resources in NZP-CSI-RS-ResourceSet 3, but a set of this quantity has at most 16")
+        .silent(untriggered + manySets({16}) + AT_TRIGGERED "reportQuantity.cri-RSRP = null")
+        .silent(untriggered + manySets({17}) +
+                AT_TRIGGERED "reportQuantity.cri-RI-CQI = null\n" AT_TRIGGERED
+                             "reportFreqConfiguration.cqi-FormatIndicator = widebandCQI")
+        .fires(AT_TRIGGERED "resourcesForChannelMeasurement",
+               untriggered + manySets({16, 16, 16, 16, 1}) + AT_TRIGGERED "reportQuantity.none = null")
+        .saying("65 resources, but a setting of this quantity has at most 64")
+        .silent(untriggered + manySets({16, 16, 16, 16}) + AT_TRIGGERED "reportQuantity.none = null");
 
     // Of 19 ports at least: 16 and 4.
     const std::string nzpInterference = AT_TRIGGERED
@@ -267,6 +402,15 @@ void reportCases(CaseTable& table)
         .fires(AT_TRIGGERED "reportFreqConfiguration.csi-ReportingBand",
                AT_TRIGGERED "reportFreqConfiguration.csi-ReportingBand = absent")
         .fires(AT_TRIGGERED "reportFreqConfiguration.csi-ReportingBand", AT_TRIGGERED "subbandSize = value1")
+        // Of 106 resource blocks there are 14 subbands of 8, or 7 of 16.
+        .fires(AT_TRIGGERED "reportFreqConfiguration.csi-ReportingBand", AS_106_RB AT_TRIGGERED
+               "subbandSize = value1\n" AT_TRIGGERED "reportFreqConfiguration.csi-ReportingBand = absent\n" AT_TRIGGERED
+               "reportFreqConfiguration.csi-ReportingBand.subbands9 = FF80")
+        .saying("subbands9, but a bandwidth part of 106 PRB from common RB 0 with subband size 8 has 14")
+        .silent(AS_106_RB AT_TRIGGERED "subbandSize = value1\n" AT_TRIGGERED
+                                       "reportFreqConfiguration.csi-ReportingBand = absent\n" AT_TRIGGERED
+                                       "reportFreqConfiguration.csi-ReportingBand.subbands14 = FFFC")
+        .silent(AS_106_RB)
         .undecided("spCellConfig.reconfigurationWithSync = absent")
         .with(inDelta)
         .silent("spCellConfig.reconfigurationWithSync = absent")
@@ -289,7 +433,12 @@ void reportCases(CaseTable& table)
         .as(RRC_RULE_WARNING)
         .saying("an offset of at most 2 slots, but the UE needs 43 symbols")
         .silent(AS_FR2 AT_TRIGGERED "reportConfigType.aperiodic.reportSlotOffsetList[0] = 1\n" AT_TRIGGERED
-                                    "reportConfigType.aperiodic.reportSlotOffsetList[1] = 3");
+                                    "reportConfigType.aperiodic.reportSlotOffsetList[1] = 3")
+        // Another bandwidth part may have as many.
+        .fires(AT_TRIGGERED "reportConfigType.aperiodic.reportSlotOffsetList",
+               table.rule("csi-slot-offset-list").example(&RrcRule::bad))
+        .with(inDelta)
+        .as(RRC_RULE_NOTICE);
 
     table.rule("csi-sp-pusch")
         .bad(AT_CSI "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo")
@@ -316,7 +465,12 @@ void triggerCases(CaseTable& table)
                AT_TRIGGER "resourcesForChannel.nzp-CSI-RS.qcl-info[1] = 3")
         .fires(AT_TRIGGER "csi-IM-ResourcesForInterference", AT_TRIGGER "csi-IM-ResourcesForInterference = absent")
         .fires(AT_TRIGGER "csi-IM-ResourcesForInterference", AT_TRIGGER "csi-IM-ResourcesForInterference = 2")
-        .fires(AT_TRIGGER "nzp-CSI-RS-ResourcesForInterference", AT_TRIGGER "nzp-CSI-RS-ResourcesForInterference = 1");
+        .fires(AT_TRIGGER "nzp-CSI-RS-ResourcesForInterference", AT_TRIGGER "nzp-CSI-RS-ResourcesForInterference = 1")
+        .fires(AT_TRIGGER "resourcesForChannel.csi-SSB-ResourceSet",
+               AT_TRIGGER "resourcesForChannel = absent\n" AT_TRIGGER "resourcesForChannel.csi-SSB-ResourceSet = 1")
+        .saying("1, but CSI-ResourceConfig 3 lists 0 sets of SS/PBCH blocks")
+        .fires(AT_TRIGGER "resourcesForChannel.nzp-CSI-RS.resourceSet",
+               AT_CSI "reportTriggerSize = 1\n" AT_TRIGGER "resourcesForChannel.nzp-CSI-RS.resourceSet = 2");
 
     table.rule("csi-trigger-size")
         .bad(AT_CSI "reportTriggerSize")
@@ -343,7 +497,23 @@ void resourceCases(CaseTable& table)
         .good()
         .fires(AT_NZP "[0].resourceMapping", AT_NZP "[0].resourceMapping.frequencyDomainAllocation.row4 = 60")
         .fires(AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2",
-               AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 12");
+               AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 12")
+        // Row 4 is there with fd-CDM2 alone.
+        .fires(AT_NZP "[0].resourceMapping", AT_NZP "[0].resourceMapping.frequencyDomainAllocation.row4 = 20\n" AT_NZP
+                                                    "[0].resourceMapping.cdm-Type = noCDM")
+        .silent(AT_NZP "[0].resourceMapping.frequencyDomainAllocation.row4 = 20")
+        .fires(AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2", row13(9))
+        .saying("absent, but row 13 needs it")
+        .silent(row13(9) + AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 12")
+        .silent(row13(9) + AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 11")
+        .fires(AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2",
+               row13(10) + AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 11")
+        .as(RRC_RULE_WARNING)
+        .saying("11, but row 13 takes symbols 10 and 11 before")
+        // From symbol 13 on it would leave the slot.
+        .fires(AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain",
+               row13(13) + AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 12")
+        .times(2);
 
     table.rule("csi-rs-band")
         .bad(AT_NZP "[0].resourceMapping.freqBand")
@@ -407,12 +577,12 @@ void resourceCases(CaseTable& table)
         .good()
         .fires(AT_NZP "[0].resourceMapping", AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 4")
         .saying("which is for tracking")
-        .fires(AT_NZP "[0].resourceMapping",
-               AT_COMMON "ssb-periodicityServingCell = ms5\n" AT_NZP "[0].periodicityAndOffset.slots80 = 10\n" AT_NZP
-                         "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 5")
+        .fires(AT_NZP "[0].resourceMapping", everyHalfFrame + AT_NZP
+                                                 "[0].periodicityAndOffset.slots80 = 10\n" AT_NZP
+                                                 "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 5")
         .saying("SS/PBCH blocks")
-        .silent(AT_COMMON "ssb-periodicityServingCell = ms5\n" AT_NZP "[0].periodicityAndOffset.slots80 = 10\n" AT_NZP
-                          "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 6")
+        .silent(everyHalfFrame + AT_NZP "[0].periodicityAndOffset.slots80 = 10\n" AT_NZP
+                                        "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 6")
         .silent(AT_NZP "[0].periodicityAndOffset.slots80 = 10\n" AT_NZP
                        "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 5");
 

@@ -29,6 +29,44 @@ void genCases(CaseTable& table)
                AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[1].offsetToCarrier = 0\n" AT_COMMON_UL
                             "frequencyInfoUL.scs-SpecificCarrierList[1].subcarrierSpacing = kHz30\n" AT_COMMON_UL
                             "frequencyInfoUL.scs-SpecificCarrierList[1].carrierBandwidth = 273")
+        .fires(AT_UPLINK "carrierSwitching.setup.monitoringCells[1]",
+               ADD_SCELL AT_UPLINK "carrierSwitching.setup.srs-SwitchFromCarrier = nUL\n" AT_UPLINK
+                                   "carrierSwitching.setup.monitoringCells[0] = 1\n" AT_UPLINK
+                                   "carrierSwitching.setup.monitoringCells[1] = 1")
+        .fires(AT_DRB_UL "allowedServingCells[1]",
+               AT_DRB_UL "allowedServingCells[0] = 0\n" AT_DRB_UL "allowedServingCells[1] = 0")
+        .fires(AT_PDCCH "controlResourceSetToAddModList[0].tci-StatesPDCCH-ToAddList[1]",
+               AT_PDCCH "controlResourceSetToAddModList[0].tci-StatesPDCCH-ToAddList[1] = 2")
+        .fires(AT_PREEMPTION "int-ConfigurationPerServingCell[1].servingCellId",
+               A_PREEMPTION AT_PREEMPTION "dci-PayloadSize = 28\n" AT_PREEMPTION
+                                          "int-ConfigurationPerServingCell[1].servingCellId = 0\n" AT_PREEMPTION
+                                          "int-ConfigurationPerServingCell[1].positionInDCI = 14")
+        .fires(AT_SFI_CELL "slotFormatCombinations[1].slotFormatCombinationId",
+               AN_SFI AT_SFI_CELL "slotFormatCombinations[1].slotFormatCombinationId = 0\n" AT_SFI_CELL
+                                  "slotFormatCombinations[1].slotFormats[0] = 28")
+        .fires(AT_PUCCH "pucch-PowerControl.p0-Set[1].p0-PUCCH-Id",
+               AT_PUCCH "pucch-PowerControl.p0-Set[1].p0-PUCCH-Id = 1\n" AT_PUCCH
+                        "pucch-PowerControl.p0-Set[1].p0-PUCCH-Value = 0")
+        .fires(AT_PUCCH "pucch-PowerControl.pathlossReferenceRSs[1].pucch-PathlossReferenceRS-Id",
+               AT_PUCCH "pucch-PowerControl.pathlossReferenceRSs[1].pucch-PathlossReferenceRS-Id = 0\n" AT_PUCCH
+                        "pucch-PowerControl.pathlossReferenceRSs[1].referenceSignal.ssb-Index = 1")
+        .fires(AT_PUCCH "multi-CSI-PUCCH-ResourceList[1]",
+               AT_PUCCH "multi-CSI-PUCCH-ResourceList[0] = 7\n" AT_PUCCH "multi-CSI-PUCCH-ResourceList[1] = 7")
+        .fires(AT_PUSCH "pusch-PowerControl.p0-AlphaSets[1].p0-PUSCH-AlphaSetId",
+               AT_PUSCH "pusch-PowerControl.p0-AlphaSets[1].p0-PUSCH-AlphaSetId = 0")
+        .fires(AT_SRS "srs-ResourceSetToAddModList[0].srs-ResourceIdList[1]",
+               AT_SRS "srs-ResourceSetToAddModList[0].srs-ResourceIdList[1] = 0")
+        .fires(AT_NZP_SET "[0].nzp-CSI-RS-Resources[1]", AT_NZP_SET "[0].nzp-CSI-RS-Resources[1] = 0")
+        .fires(AT_NZP_SET "[1].nzp-CSI-RS-Resources[3]", AT_NZP_SET "[1].nzp-CSI-RS-Resources[3] = 4")
+        .fires(AT_IM_SET "[0].csi-IM-Resources[1]", AT_IM_SET "[0].csi-IM-Resources[1] = 0")
+        .fires(AT_CSI_RESOURCES "[3].csi-RS-ResourceSetList.nzp-CSI-RS-SSB.nzp-CSI-RS-ResourceSetList[1]",
+               AT_CSI_RESOURCES "[3].csi-RS-ResourceSetList.nzp-CSI-RS-SSB.nzp-CSI-RS-ResourceSetList[1] = 2")
+        .fires(AT_CSI "csi-SSB-ResourceSetToAddModList[0].csi-SSB-ResourceList[1]",
+               AT_CSI "csi-SSB-ResourceSetToAddModList[0].csi-SSB-ResourceSetId = 0\n" AT_CSI
+                      "csi-SSB-ResourceSetToAddModList[0].csi-SSB-ResourceList[0] = 0\n" AT_CSI
+                      "csi-SSB-ResourceSetToAddModList[0].csi-SSB-ResourceList[1] = 0")
+        .fires(AT_SYNC "rach-ConfigDedicated.uplink.cfra.resources.ssb.ssb-ResourceList[1].ssb",
+               AT_SYNC "rach-ConfigDedicated.uplink.cfra.resources.ssb.ssb-ResourceList[1].ssb = 0")
         // Several resources may have the same transmission configuration.
         .silent(AT_CSI "aperiodicTriggerStateList.setup[0].associatedReportConfigInfoList[0].resourcesForChannel."
                        "nzp-CSI-RS.qcl-info[0] = 0");

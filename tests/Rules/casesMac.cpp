@@ -98,7 +98,13 @@ void macCases(CaseTable& table)
                                         "tag-Config.tag-ToAddModList[1].timeAlignmentTimer = infinity")
         .fires(AT_CELL "tag-Id", AT_MAC "tag-Config = absent")
         .with(inDelta)
-        .as(RRC_RULE_NOTICE);
+        .as(RRC_RULE_NOTICE)
+        // The PCell has a timer of SIB1, the PSCell has none.
+        .fires(AT_CELL "tag-Id", AT_MAC "tag-Config = absent")
+        .as(RRC_RULE_WARNING)
+        .fires(AT_CELL "tag-Id", AS_SCG AT_MAC "tag-Config = absent")
+        .fires(AT_CELL "tag-Id", AT_MAC "tag-Config = absent\n" AT_MAC "tag-Config.tag-ToReleaseList[0] = 0")
+        .saying("a timing advance group 0 is released by this message");
 
 #define CYCLES(longCycle, shortCycle)                                                                                  \
     DRX "drx-LongCycleStartOffset = absent\n" DRX "drx-LongCycleStartOffset." longCycle " = 0\n" DRX                   \
@@ -108,7 +114,8 @@ void macCases(CaseTable& table)
         .saying("ms20, but the long cycle of 70 ms is no multiple of it: 10 ms are left")
         .good()
         .fires(DRX "shortDRX.drx-ShortCycle", CYCLES("ms40", "ms40"))
-        .saying("ms40, but the long cycle has 40 ms")
+        .as(RRC_RULE_WARNING)
+        .saying("ms40, but the long cycle has 40 ms, too")
         .fires(DRX "drx-onDurationTimer", CYCLES("ms40", "ms20") "\n" DRX "drx-onDurationTimer.milliSeconds = ms30")
         .as(RRC_RULE_WARNING)
         .silent(CYCLES("ms40", "ms20") "\n" DRX "drx-onDurationTimer.milliSeconds = ms20")
@@ -140,6 +147,8 @@ void macCases(CaseTable& table)
         .fires(PHR "multiplePHR", ADD_SCELL_WITH_UPLINK PHR "multiplePHR = false")
         .saying("FALSE, but the cell group has 2 uplinks")
         .silent(ADD_SCELL_WITH_UPLINK)
+        .fires(PHR "multiplePHR", AS_SCG PHR "multiplePHR = false")
+        .as(RRC_RULE_WARNING)
         .fires(PHR "phr-Type2OtherCell", PHR "phr-Type2OtherCell = true")
         .with(with(RRC_RULE_CONNECTIVITY_SINGLE))
         .undecided(PHR "phr-Type2OtherCell = true")

@@ -26,6 +26,17 @@ void ableAnywhere(RrcRuleContext& known)
     known.capabilities = &able;
 }
 
+#define SECOND_DL AT_CELL "downlinkBWP-ToAddModList[1]."
+
+// A second downlink bandwidth part, in which random access is answered in CORESET#0.
+std::string secondBwp(int location)
+{
+    return SECOND_DL "bwp-Id = 2\n" SECOND_DL "bwp-Common.genericParameters.locationAndBandwidth = " +
+           std::to_string(location) + "\n" +
+           SECOND_DL "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" SECOND_DL
+                     "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace = 0\n" SECOND_DL "bwp-Dedicated = {}\n";
+}
+
 void coresetCases(CaseTable& table)
 {
 #define AT_INITIAL_CORESETS AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList"
@@ -69,6 +80,11 @@ void coresetCases(CaseTable& table)
         .times(2)
         .saying("bit 44, but a bandwidth part of 273 PRB that begins within a group has 44 groups of 6")
         .good()
+        // Of 106 resource blocks from a multiple of 6 on there are 17 groups, the last of RB 96..101.
+        .fires(AT_CORESETS "[0].frequencyDomainResources",
+               AS_106_RB AT_CORESETS "[0].frequencyDomainResources = FFFFC0000000")
+        .saying("bit 17")
+        .silent(AS_106_RB AT_CORESETS "[0].frequencyDomainResources = FFFF80000000")
         .fires(AT_CORESET "frequencyDomainResources",
                AT_CORESET "frequencyDomainResources = 000000000000\n" AT_CORESET
                           "cce-REG-MappingType = absent\n" AT_CORESET "cce-REG-MappingType.nonInterleaved = null")
@@ -222,7 +238,10 @@ void searchSpaceCases(CaseTable& table)
         .with(ableAnywhere)
         .fires(AT_SPACES, SYMBOLS(AT_SPACE, "2000"))
         .as(RRC_RULE_WARNING)
-        .silent(SYMBOLS(AT_SPACE, "4000"));
+        .silent(SYMBOLS(AT_SPACE, "4000"))
+        // Search space 0, which is in the first symbols, is monitored, too.
+        .silent(table.rule("pdcch-ss-late-symbols").example(&RrcRule::bad) + "\n" AT_PDCCH_COMMON "ra-SearchSpace = 0")
+        .with(ableAnywhere);
 
     table.rule("pdcch-ss-duration")
         .bad(AT_COMMON_SPACE "duration")
@@ -301,7 +320,15 @@ void groupCases(CaseTable& table)
         .silent(AT_INITIAL_PDCCH "searchSpaceSIB1 = 0")
         .silent(AT_PDCCH_COMMON "ra-SearchSpace = 0")
         .fires(AT_PDCCH_COMMON "ra-SearchSpace", AT_PDCCH_COMMON "ra-SearchSpace = 4")
-        .as(RRC_RULE_WARNING);
+        .as(RRC_RULE_WARNING)
+        // CORESET#0 is at the common RB 113..160: 275 * (L - 1) + S.
+        .silent(secondBwp(275 * 47 + 113))
+        .fires(SECOND_DL "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace", secondBwp(275 * 47 + 114))
+        .saying("0, but CORESET#0 is not within the bandwidth part")
+        .fires(SECOND_DL "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace", secondBwp(275 * 46 + 113))
+        .saying("CORESET#0 is wider than the bandwidth part")
+        .silent(secondBwp(275 * 46 + 113) + AT_SYNC_ABSENT)
+        .with(inDelta);
 
     table.rule("pdcch-initial-only")
         .bad(AT_PDCCH_COMMON "searchSpaceZero")
@@ -322,7 +349,17 @@ void groupCases(CaseTable& table)
         .fires(AT_BFR "recoverySearchSpaceId", AT_BFR "recoverySearchSpaceId = 5")
         .fires(AT_BFR "recoverySearchSpaceId", AT_BFR "recoverySearchSpaceId = 5")
         .with(inDelta)
-        .as(RRC_RULE_NOTICE);
+        .as(RRC_RULE_NOTICE)
+        .fires(AT_BFR "recoverySearchSpaceId", WITH_RANDOM_ACCESS AT_BFR
+               "candidateBeamRSList[0].ssb.ssb = 0\n" AT_BFR "candidateBeamRSList[0].ssb.ra-PreambleIndex = 60")
+        .saying("absent, but candidateBeamRSList is present")
+        .fires(AT_BFR "recoverySearchSpaceId", WITH_RANDOM_ACCESS AT_BFR
+               "candidateBeamRSList[0].ssb.ssb = 0\n" AT_BFR "candidateBeamRSList[0].ssb.ra-PreambleIndex = 60")
+        .with(inDelta)
+        .as(RRC_RULE_NOTICE)
+        .silent(AT_BFR "rootSequenceIndex-BFR = 4")
+        .fires(AT_SUL_BWP "beamFailureRecoveryConfig.setup.recoverySearchSpaceId",
+               EXAMPLE_SUL AT_SUL_BWP "beamFailureRecoveryConfig.setup.recoverySearchSpaceId = 9");
 
     table.rule("pdcch-dci2-0")
         .bad(AT_COMMON_SPACE "monitoringSlotPeriodicityAndOffset")
@@ -384,7 +421,8 @@ void groupCases(CaseTable& table)
         .fires(AT_SFI_CELL "subcarrierSpacing", AN_SFI AT_SFI_CELL "subcarrierSpacing = kHz60")
         .saying("kHz60, but bandwidth part 0 has 30 kHz")
         .fires(AT_SFI_CELL "subcarrierSpacing2", AN_SFI AT_SFI_CELL "subcarrierSpacing2 = kHz30")
-        .fires(AT_SFI_CELL "servingCellId", AN_SFI AT_SFI_CELL "servingCellId = 3");
+        .fires(AT_SFI_CELL "servingCellId", AN_SFI AT_SFI_CELL "servingCellId = 3")
+        .silent(EXAMPLE_SUL AN_SFI AT_SFI_CELL "subcarrierSpacing2 = kHz30");
     {
         std::string many = AN_SFI;
         for (int combination = 0; combination < 3; ++combination)
@@ -425,6 +463,7 @@ void otherCases(CaseTable& table)
         .good()
         .fires(AT_TPC "tpc-IndexSUL", FORMAT_2_2 AT_TPC "tpc-Index = 1\n" AT_TPC "tpc-IndexSUL = 2")
         .fires(AT_TPC "targetCell", FORMAT_2_2 AT_TPC "tpc-Index = 1\n" AT_TPC "targetCell = 3")
+        .silent(EXAMPLE_SUL FORMAT_2_2 AT_TPC "tpc-IndexSUL = 2")
         .undecided(FORMAT_2_2 AT_TPC "tpc-IndexSUL = 2")
         .with(inDelta)
         .silent(FORMAT_2_2 AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPCell = 1")

@@ -43,6 +43,52 @@ std::string good(const char* rule, const char* changes)
     return std::string(rrcRuleById(rule)->good) + "\n" + changes;
 }
 
+#define AT_NARROW AT_SCELL_CELL "downlinkBWP-ToAddModList[1]."
+#define AT_NARROW_PDSCH AT_NARROW "bwp-Dedicated.pdsch-Config.setup."
+
+// A second bandwidth part of the SCell, of so many resource blocks, with bundles of four.
+std::string narrow(int blocks)
+{
+    return ADD_SCELL AT_NARROW "bwp-Id = 2\n" AT_NARROW "bwp-Common.genericParameters.locationAndBandwidth = " +
+           std::to_string(275 * (blocks - 1)) + "\n" +
+           AT_NARROW "bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" AT_NARROW_PDSCH
+                     "resourceAllocation = resourceAllocationType0\n" AT_NARROW_PDSCH
+                     "rbg-Size = config1\n" AT_NARROW_PDSCH "prb-BundlingType.staticBundling.bundleSize = n4\n";
+}
+
+#define AT_PATTERN(n) AT_CELL "rateMatchPatternToAddModList[" n "]."
+
+// The bits of 275 resource blocks, with one of them set.
+std::string resourceBlock(std::size_t number)
+{
+    std::string octets(70, '0');
+    octets[number / 4] = "8421"[number % 4];
+    return octets;
+}
+
+// A rate matching pattern of the cell: every second slot of 40, or the slots of 40 pairs.
+std::string cellPattern(const std::string& symbols, const std::string& spacing)
+{
+    return AT_PATTERN("0") "rateMatchPatternId = 0\n" AT_PATTERN("0") "patternType.bitmaps.resourceBlocks = " +
+           resourceBlock(0) + "\n" + AT_PATTERN("0") "patternType.bitmaps.symbolsInResourceBlock." + symbols + "\n" +
+           AT_PATTERN("0") "patternType.bitmaps.periodicityAndPattern.n40 = AAAAAAAAAA\n" AT_PATTERN(
+               "0") "subcarrierSpacing = " +
+           spacing + "\n" + AT_PATTERN("0") "dummy = dynamic\n";
+}
+
+// Patterns of the common configuration, as many as a list has.
+std::string commonPatterns()
+{
+    std::string text;
+    for (int i = 0; i < 4; ++i)
+    {
+        const std::string at = AT_COMMON "rateMatchPatternToAddModList[" + std::to_string(i) + "].";
+        text += at + "rateMatchPatternId = " + std::to_string(i) + "\n" + at + "patternType.controlResourceSet = 0\n" +
+                at + "subcarrierSpacing = kHz30\n" + at + "dummy = dynamic\n";
+    }
+    return text;
+}
+
 void ableOfNothing(RrcRuleContext& known)
 {
     static constexpr RrcRuleCapabilities nothing{};
@@ -94,7 +140,14 @@ void pdschCases(CaseTable& table)
                "prb-BundlingType.dynamicBundling.bundleSizeSet1 = n4-wideband\n" AT_PDSCH "vrb-ToPRB-Interleaver = n2")
         .fires(AT_PDSCH "prb-BundlingType.dynamicBundling.bundleSizeSet2",
                AT_PDSCH "prb-BundlingType = absent\n" AT_PDSCH
-                        "prb-BundlingType.dynamicBundling.bundleSizeSet2 = n4\n" AT_PDSCH "vrb-ToPRB-Interleaver = n2");
+                        "prb-BundlingType.dynamicBundling.bundleSizeSet2 = n4\n" AT_PDSCH "vrb-ToPRB-Interleaver = n2")
+        .fires(AT_NARROW_PDSCH "prb-BundlingType.staticBundling.bundleSize", narrow(36))
+        .saying("n4, but a bandwidth part of 36 PRB has resource block groups of 2")
+        .silent(narrow(37))
+        .silent(narrow(36) + AT_NARROW_PDSCH "rbg-Size = config2")
+        .silent(narrow(36) + AT_NARROW_PDSCH "resourceAllocation = resourceAllocationType1")
+        .fires(AT_NARROW_PDSCH "prb-BundlingType.staticBundling.bundleSize",
+               narrow(36) + AT_NARROW_PDSCH "resourceAllocation = dynamicSwitch");
 
     table.rule("pdsch-codewords")
         .bad(AT_CELL "pdsch-ServingCellConfig.setup.codeBlockGroupTransmission.setup."
@@ -122,9 +175,36 @@ void pdschCases(CaseTable& table)
         .fires(AT_CELL "rateMatchPatternToAddModList[0].subcarrierSpacing",
                AT_CELL "rateMatchPatternToAddModList[0].rateMatchPatternId = 0\n" AT_CELL
                        "rateMatchPatternToAddModList[0].patternType.controlResourceSet = 2\n" AT_CELL
-                       "rateMatchPatternToAddModList[0].dummy = dynamic");
+                       "rateMatchPatternToAddModList[0].dummy = dynamic")
+        .fires(AT_PATTERN("0") "patternType.bitmaps.periodicityAndPattern", cellPattern("twoSlots = FFFFFFF0", "kHz15"))
+        .saying("40 times 2 slots, but a pattern has a period of at most 40 ms")
+        .silent(cellPattern("oneSlot = FFFC", "kHz15"))
+        .silent(cellPattern("twoSlots = FFFFFFF0", "kHz30"))
+        .fires(AT_PATTERN("0") "patternType.bitmaps.resourceBlocks",
+               cellPattern("oneSlot = FFFC", "kHz30") +
+                   AT_PATTERN("0") "patternType.bitmaps.resourceBlocks = " + resourceBlock(273))
+        .as(RRC_RULE_WARNING)
+        .saying("bit 273 set, but there are RB 0..272")
+        .silent(cellPattern("oneSlot = FFFC", "kHz30") +
+                AT_PATTERN("0") "patternType.bitmaps.resourceBlocks = " + resourceBlock(272))
+        .fires(AT_PATTERN("0") "rateMatchPatternId", commonPatterns() + cellPattern("oneSlot = FFFC", "kHz30"))
+        .saying("5 patterns, but a cell has at most 4")
+        .silent(commonPatterns());
 
-    table.rule("pdsch-lte-crs").bad(AT_CELL "lte-CRS-ToMatchAround.setup").good();
+#define CRS(at)                                                                                                        \
+    at "carrierFreqDL = 1000\n" at "carrierBandwidthDL = n50\n" at "nrofCRS-Ports = n2\n" at "v-Shift = n0\n"
+    table.rule("pdsch-lte-crs")
+        .bad(AT_CELL "lte-CRS-ToMatchAround.setup")
+        .good()
+        .silent(table.rule("pdsch-lte-crs").example(&RrcRule::bad))
+        .with(inDelta)
+        .fires(AT_CELL "lte-CRS-ToMatchAround.setup",
+               CRS(AT_COMMON "lte-CRS-ToMatchAround.setup.") CRS(AT_CELL "lte-CRS-ToMatchAround.setup.") AT_CELL
+               "lte-CRS-ToMatchAround.setup.v-Shift = n1")
+        .with(inDelta)
+        .saying("the common configuration has one")
+        .silent(CRS(AT_COMMON "lte-CRS-ToMatchAround.setup.") CRS(AT_CELL "lte-CRS-ToMatchAround.setup."))
+        .with(inDelta);
 
     table.rule("pdsch-zp-sets")
         .bad(AT_PDSCH "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceSetId")
@@ -190,7 +270,20 @@ void pdschCases(CaseTable& table)
                ADD_SCELL AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell = 1")
         .saying("1, but cell 1 has no PUCCH")
         .fires(AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell",
-               ADD_SCELL AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell = 2");
+               ADD_SCELL AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell = 2")
+        .fires(AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell", ADD_SCELL_WITH_UPLINK AT_SCELL_CELL
+               "uplinkConfig.uplinkBWP-ToAddModList[0].bwp-Dedicated.pucch-Config.setup.dl-DataToUL-ACK[0] = "
+               "8\n" AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell = 0")
+        .saying("0, but the cell has a PUCCH of its own")
+        .fires(AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell",
+               "sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL "tag-Id = 0\n" AT_SCELL_CELL
+               "pdsch-ServingCellConfig.setup.pucch-Cell = 0")
+        .after(ADD_SCELL)
+        .saying("this one was before")
+        .fires(AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell",
+               ADD_SCELL AT_SCELL_CELL "pdsch-ServingCellConfig.setup.pucch-Cell = 3")
+        .with(inDelta)
+        .as(RRC_RULE_NOTICE);
 }
 
 } // namespace test

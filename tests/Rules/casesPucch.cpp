@@ -1,5 +1,8 @@
 #include "ruleCases.h"
 
+#include <fstream>
+#include <sstream>
+
 namespace test
 {
 
@@ -79,6 +82,31 @@ void srPeriodCases(Cases period)
     }
 }
 
+// PUCCH resource set 1 with so many resources of format 2.
+std::string largeSet(int count)
+{
+    std::string text;
+    for (int i = 4; i < count; ++i)
+    {
+        const std::string at = AT_PUCCH_RESOURCE "[" + std::to_string(4 + i) + "].";
+        text += at + "pucch-ResourceId = " + std::to_string(4 + i) + "\n" + at +
+                "startingPRB = " + std::to_string(4 + i) + "\n" + at + "format.format2.nrofPRBs = 1\n" + at +
+                "format.format2.nrofSymbols = 2\n" + at + "format.format2.startingSymbolIndex = 12\n" +
+                AT_PUCCH "resourceSetToAddModList[1].resourceList[" + std::to_string(i) +
+                "] = " + std::to_string(4 + i) + "\n";
+    }
+    return text;
+}
+
+// The uplink bandwidth part at 60 kHz, with one PUCCH resource and without what depends on the others.
+const std::string sixty =
+    "spCellConfig.reconfigurationWithSync = absent\n" AT_CELL "downlinkBWP-ToAddModList = absent\n" AT_UL
+    "bwp-Common.genericParameters.subcarrierSpacing = kHz60\n" AT_UL "bwp-Dedicated.pusch-Config = absent\n" AT_UL
+    "bwp-Dedicated.srs-Config = absent\n" AT_PUCCH "resourceSetToAddModList = absent\n" AT_PUCCH_RESOURCE
+    "[1] = absent\n" AT_PUCCH_RESOURCE "[1] = absent\n" AT_PUCCH_RESOURCE "[1] = absent\n" AT_PUCCH_RESOURCE
+    "[1] = absent\n" AT_PUCCH_RESOURCE "[1] = absent\n" AT_PUCCH_RESOURCE "[1] = absent\n" AT_PUCCH_RESOURCE
+    "[1] = absent\n";
+
 void ableOfNothing(RrcRuleContext& known)
 {
     static constexpr RrcRuleCapabilities nothing{};
@@ -89,6 +117,28 @@ void ableOfSrPeriods(RrcRuleContext& known)
 {
     static constexpr RrcRuleCapabilities periods{RRC_RULE_FEATURE_SR_PERIODS};
     known.capabilities = &periods;
+}
+
+// The same changes of a second SCell, of another carrier.
+std::string asSecond(const std::string& changes)
+{
+    std::string text;
+    std::istringstream given(changes);
+    for (std::string line; std::getline(given, line);)
+    {
+        if (line.starts_with("+ "))
+        {
+            std::ifstream file("tests/Rules/" + line.substr(2));
+            text += asSecond(std::string(std::istreambuf_iterator<char>(file), {}));
+            continue;
+        }
+        if (line.starts_with("sCellToAddModList[0]"))
+        {
+            line.replace(0, 20, "sCellToAddModList[1]");
+        }
+        text += line.ends_with("sCellIndex = 1") ? line.substr(0, line.size() - 1) + "2\n" : line + "\n";
+    }
+    return text;
 }
 
 } // namespace
@@ -129,7 +179,10 @@ void pucchCases(CaseTable& table)
         .saying("3, of format 1, but set 1 is of formats 2 to 4")
         .good()
         .fires(AT_PUCCH "resourceSetToAddModList[0].resourceList[3]",
-               AT_PUCCH "resourceSetToAddModList[0].resourceList[3] = 4");
+               AT_PUCCH "resourceSetToAddModList[0].resourceList[3] = 4")
+        .fires(AT_PUCCH "resourceSetToAddModList[1].resourceList", largeSet(9))
+        .saying("9 resources, but set 1 has at most 8")
+        .silent(largeSet(8));
 
     table.rule("pucch-set-payload")
         .bad(AT_PUCCH "resourceSetToAddModList[1].maxPayloadMinus1")
@@ -162,6 +215,8 @@ void pucchCases(CaseTable& table)
         .bad(AT_PUCCH "resourceSetToAddModList[1].pucch-ResourceSetId")
         .good()
         .fires(AT_PUCCH "resourceSetToAddModList", AT_PUCCH "resourceSetToAddModList[0] = absent")
+        // Without sets the initial bandwidth part has that of pucch-ResourceCommon.
+        .silent(AT_UPLINK "initialUplinkBWP.pucch-Config.setup.dl-DataToUL-ACK[0] = 4")
         .undecided(AT_PUCCH "resourceSetToAddModList[0] = absent")
         .with(inDelta);
 
@@ -187,9 +242,23 @@ void pucchCases(CaseTable& table)
         .saying("14 symbols from symbol 1 on, but the slot has 14")
         .good()
         .fires(AT_PUCCH_RESOURCE "[4].format.format2.nrofSymbols",
-               AT_PUCCH_RESOURCE "[4].format.format2.startingSymbolIndex = 13");
+               AT_PUCCH_RESOURCE "[4].format.format2.startingSymbolIndex = 13")
+        .fires(AT_PUCCH_RESOURCE "[0].format.format1.nrofSymbols",
+               sixty + AT_UL "bwp-Common.genericParameters.cyclicPrefix = extended")
+        .with(inDelta)
+        .saying("14 symbols from symbol 0 on, but the slot has 12")
+        .silent(sixty + AT_UL "bwp-Common.genericParameters.cyclicPrefix = extended\n" AT_PUCCH_RESOURCE
+                              "[0].format.format1.nrofSymbols = 12")
+        .with(inDelta)
+        .silent(sixty)
+        .with(inDelta);
 
-    f1Cases(table.rule("pucch-f1-occ").bad(AT_PUCCH_RESOURCE "[0].format.format1.timeDomainOCC").good());
+    f1Cases(table.rule("pucch-f1-occ")
+                .bad(AT_PUCCH_RESOURCE "[0].format.format1.timeDomainOCC")
+                .good()
+                .fires(AT_PUCCH_RESOURCE "[0].format.format1.timeDomainOCC",
+                       format1(4, false, 2) + AT_PUCCH_RESOURCE "[0].format.format1.startingSymbolIndex = 10")
+                .saying("2, but 4 symbols without hopping have sequences 0..1"));
     f3Cases(table.rule("pucch-f3-prbs").bad(AT_PUCCH_RESOURCE "[4].format.format3.nrofPRBs").good());
 
     table.rule("pucch-f4-occ")
@@ -261,7 +330,15 @@ void pucchCases(CaseTable& table)
             .with(ableOfSrPeriods)
             .fires(std::string(srAt) + "periodicityAndOffset",
                    std::string(srAt) + "periodicityAndOffset = absent\n" + srAt + "periodicityAndOffset.sym2 = null")
-            .as(RRC_RULE_WARNING));
+            .as(RRC_RULE_WARNING)
+            .fires(std::string(srAt) + "periodicityAndOffset",
+                   sixty + srAt + "periodicityAndOffset = absent\n" + srAt + "periodicityAndOffset.sl10 = 0")
+            .with(inDelta)
+            .saying("at 60 kHz there is no such period")
+            .silent(sixty + srAt + "periodicityAndOffset = absent\n" + srAt + "periodicityAndOffset.sl8 = 0")
+            .with(inDelta)
+            .silent(sixty + srAt + "periodicityAndOffset = absent\n" + srAt + "periodicityAndOffset.sl16 = 0")
+            .with(inDelta));
 
     table.rule("pucch-k1")
         .bad(AT_PUCCH "dl-DataToUL-ACK[1]")
@@ -271,6 +348,8 @@ void pucchCases(CaseTable& table)
         .with(inDelta)
         .fires(AT_PUCCH "dl-DataToUL-ACK", AT_PUCCH "dl-DataToUL-ACK = absent\n" AT_PUCCH "dl-DataToUL-ACK[0] = 4")
         .saying("none of them leads from slot 1 to an uplink slot")
+        .fires(AT_PUCCH "dl-DataToUL-ACK", AT_PUCCH "dl-DataToUL-ACK = absent\n" AT_PUCCH "dl-DataToUL-ACK[0] = 1")
+        .saying("none of them leads from slot 0 to an uplink slot")
         .silent(AT_PUCCH "dl-DataToUL-ACK[1] = 0");
 
     table.rule("pucch-csi-resource")
@@ -302,9 +381,6 @@ void pucchCases(CaseTable& table)
         .silent(std::string(rrcRuleById("pucch-spatial-refs")->good) +
                 "\n" AT_PUCCH "spatialRelationInfoToAddModList[0].closedLoopIndex = i1\n" AT_PUCCH
                 "pucch-PowerControl.twoPUCCH-PC-AdjustmentStates = twoStates")
-        .fires(AT_PUCCH "spatialRelationInfoToAddModList[0].referenceSignal.ssb-Index",
-               std::string(rrcRuleById("pucch-spatial-refs")->good) +
-                   "\n" AT_PUCCH "spatialRelationInfoToAddModList[0].referenceSignal.ssb-Index = 2")
         .fires(AT_PUCCH "spatialRelationInfoToAddModList[0].servingCellId",
                std::string(rrcRuleById("pucch-spatial-refs")->good) +
                    "\n" AT_PUCCH "spatialRelationInfoToAddModList[0].servingCellId = 3");
@@ -350,9 +426,13 @@ void pucchCases(CaseTable& table)
         .silent(sCellPucch)
         .fires(AT_CELL "supplementaryUplink.initialUplinkBWP.pucch-Config",
                AT_CELL "supplementaryUplink.initialUplinkBWP.pucch-Config.setup.dl-DataToUL-ACK[0] = 4\n" AT_COMMON
-                       "supplementaryUplinkConfig.dummy = infinity")
+                       "supplementaryUplinkConfig.dummy = infinity\n" AT_RACH "rsrp-ThresholdSSB-SUL = 30")
         .with(inDelta)
-        .saying("the other uplink of the cell has one, too");
+        .saying("the other uplink of the cell has one, too")
+        .fires(AT_SUL_BWP "pucch-Config", EXAMPLE_SUL AT_SUL_BWP "pucch-Config.setup.dl-DataToUL-ACK[0] = 4")
+        .fires("sCellToAddModList[1].sCellIndex", sCellPucch + asSecond(sCellPucch))
+        .saying("SCell 2 with a PUCCH, but SCell 1 has one, and at most one SCell does")
+        .silent(sCellPucch + asSecond(ADD_SCELL_WITH_UPLINK));
 }
 
 } // namespace test

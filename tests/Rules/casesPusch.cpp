@@ -54,6 +54,13 @@ void ofTransmission(CaseTable& table)
         .bad(AT_TIMES "startSymbolAndLength")
         .saying("53: 12 symbols from symbol 2 on, but mapping type A begins at symbol 0")
         .good()
+        .fires(AT_TIMES "startSymbolAndLength", AT_TIMES "k2 = 4\n" AT_TIMES "startSymbolAndLength = 53")
+        .silent(AT_TIMES "k2 = 4\n" AT_TIMES "startSymbolAndLength = 27")
+        .fires(AT_SUL_BWP "pusch-Config.setup.pusch-TimeDomainAllocationList.setup[0].startSymbolAndLength",
+               EXAMPLE_SUL AT_SUL_BWP "pusch-Config.setup.pusch-TimeDomainAllocationList.setup[0].k2 = 4\n" AT_SUL_BWP
+                                      "pusch-Config.setup.pusch-TimeDomainAllocationList.setup[0].mappingType = "
+                                      "typeA\n" AT_SUL_BWP "pusch-Config.setup.pusch-TimeDomainAllocationList.setup[0]."
+                                      "startSymbolAndLength = 53")
         // SLIV 105 is none, 104 is symbol 13 alone.
         .fires(AT_TIMES "startSymbolAndLength", AT_TIMES "startSymbolAndLength = 105")
         .fires(AT_TIMES "startSymbolAndLength", AT_TIMES "mappingType = typeB\n" AT_TIMES "startSymbolAndLength = 127")
@@ -168,8 +175,8 @@ void ofPower(CaseTable& table)
         .fires(AT_MAPPING "sri-PUSCH-PathlossReferenceRS-Id", AT_MAPPING "sri-PUSCH-PathlossReferenceRS-Id = 1")
         .silent(AT_PUSCH "pusch-PowerControl.pathlossReferenceRSToAddModList = absent")
         .fires(AT_PATHLOSS "referenceSignal.csi-RS-Index",
-               AT_PATHLOSS "referenceSignal = absent\n" AT_PATHLOSS "referenceSignal.csi-RS-Index = 4")
-        .saying("0..3")
+               AT_PATHLOSS "referenceSignal = absent\n" AT_PATHLOSS "referenceSignal.csi-RS-Index = 6")
+        .saying("0..5")
         .silent(AT_PATHLOSS "referenceSignal = absent\n" AT_PATHLOSS "referenceSignal.csi-RS-Index = 3")
         .fires(AT_MAPPING "sri-P0-PUSCH-AlphaSetId", AT_PUSCH "pusch-PowerControl.p0-AlphaSets = absent")
         .fires(AT_MAPPING "sri-P0-PUSCH-AlphaSetId", AT_PUSCH "pusch-PowerControl.p0-AlphaSets = absent")

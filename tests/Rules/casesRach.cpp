@@ -35,7 +35,7 @@ const std::string rach1 = generic(AT_RACH1 "rach-ConfigGeneric.", 159) + AT_RACH
                           "msg1-SubcarrierSpacing = kHz30\n" AT_RACH1 "restrictedSetConfig = unrestrictedSet\n";
 const std::string search1 =
     AT_PDCCH_COMMON "commonSearchSpaceList[0].searchSpaceId = 9\n" AT_PDCCH_COMMON
-                    "commonSearchSpaceList[0].controlResourceSetId = 2\n" AT_PDCCH_COMMON
+                    "commonSearchSpaceList[0].controlResourceSetId = 3\n" AT_PDCCH_COMMON
                     "commonSearchSpaceList[0].monitoringSlotPeriodicityAndOffset.sl10 = 0\n" AT_PDCCH_COMMON
                     "commonSearchSpaceList[0].monitoringSymbolsWithinSlot = 8000\n" AT_PDCCH_COMMON
                     "commonSearchSpaceList[0].nrofCandidates.aggregationLevel1 = n0\n" AT_PDCCH_COMMON
@@ -53,12 +53,13 @@ const std::string recovery = rach1 + response1 + AT_BFR "rootSequenceIndex-BFR =
 // With a CSI-RS that it may lead to.
 std::string candidate(int csiRs)
 {
-    return recovery + AT_BFR "recoverySearchSpaceId = 4\n" AT_BFR "candidateBeamRSList[0].csi-RS.csi-RS = " +
+    return recovery + AT_BFR "recoverySearchSpaceId = 2\n" AT_BFR "candidateBeamRSList[0].csi-RS.csi-RS = " +
            std::to_string(csiRs) + "\n";
 }
 
 void inFr1(RrcRuleContext& known)
 {
+    inDelta(known);
     known.range = RRC_RULE_RANGE_FR1;
 }
 
@@ -96,7 +97,8 @@ void ofPreambles(CaseTable& table)
         // In a paired band the long ones go on up to 86.
         .silent(longOne + indices(86) +
                 AT_COMMON_DL "frequencyInfoDL.frequencyBandList[0] = 1\n" AT_COMMON_UL
-                             "frequencyInfoUL.frequencyBandList[0] = 1\n" AT_COMMON
+                             "frequencyInfoUL.frequencyBandList[0] = 1\n" AT_COMMON_UL
+                             "frequencyInfoUL.absoluteFrequencyPointA = 630058\n" AT_COMMON
                              "tdd-UL-DL-ConfigurationCommon = absent\n")
         .with([](RrcRuleContext& known) { known.duplex = RRC_RULE_DUPLEX_FDD; })
         .fires(AT_OCCASIONS "rach-ConfigGeneric.prach-ConfigurationIndex",
@@ -264,7 +266,9 @@ void ofDedicated(CaseTable& table)
         .fires(AT_DL "bwp-Common.pdcch-ConfigCommon", rach1)
         .fires(AT_PDCCH_COMMON "ra-SearchSpace", rach1 + search1)
         .fires(AT_UL "bwp-Common.rach-ConfigCommon",
-               AT_BFR "rootSequenceIndex-BFR = 4\n" AT_BFR "beamFailureRecoveryTimer = ms60")
+               AT_BFR "recoverySearchSpaceId = 2\n" AT_BFR "candidateBeamRSList[0].ssb.ssb = 0\n" AT_BFR
+                      "candidateBeamRSList[0].ssb.ra-PreambleIndex = 60")
+        .silent(AT_BFR "recoverySearchSpaceId = 2\n" AT_BFR "rootSequenceIndex-BFR = 4")
         .silent(recovery)
         .undecided("spCellConfig.reconfigurationWithSync.spCellConfigCommon = absent")
         .silent(second(275 * 20 + 125)) // 125..145
@@ -326,6 +330,7 @@ void ofRecovery(CaseTable& table)
         .fires(AT_BFR "candidateBeamRSList[0].csi-RS.csi-RS", candidate(9))
         .fires(AT_BFR "candidateBeamRSList[0].csi-RS.csi-RS",
                candidate(3) + AT_CSI
+                   "csi-ReportConfigToAddModList[1] = absent\n" AT_CSI "aperiodicTriggerStateList = absent\n" AT_CSI
                    "nzp-CSI-RS-ResourceToAddModList[3].resourceMapping.frequencyDomainAllocation = absent\n" AT_CSI
                    "nzp-CSI-RS-ResourceToAddModList[3].resourceMapping.frequencyDomainAllocation.row2 = 8000\n" AT_CSI
                    "nzp-CSI-RS-ResourceToAddModList[3].resourceMapping.nrofPorts = p1\n" AT_CSI

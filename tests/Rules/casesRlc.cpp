@@ -17,6 +17,12 @@ void withDuplication(RrcRuleContext& known)
     known.bearers = &bearers;
 }
 
+void inFullConfig(RrcRuleContext& known)
+{
+    known = {};
+    known.fullConfig = 1;
+}
+
 Known in(RrcRuleMessage message)
 {
     return [message](RrcRuleContext& known)
@@ -77,6 +83,12 @@ void rlcCases(CaseTable& table)
         .fires(AT_DRB "mac-LogicalChannelConfig", AT_DRB "mac-LogicalChannelConfig = absent")
         // An SRB has defaults.
         .silent(AT_SRB "rlc-Config = absent\n" AT_SRB "mac-LogicalChannelConfig = absent")
+        // That a full configuration gives back.
+        .silent(AT_SRB "servedRadioBearer = absent")
+        .with(inFullConfig)
+        .fires(AT_SRB "servedRadioBearer", AT_SRB "servedRadioBearer = absent")
+        .fires(AT_DRB "servedRadioBearer", AT_DRB "servedRadioBearer = absent")
+        .with(inFullConfig)
         .undecided(AT_DRB "rlc-Config = absent")
         .with(inDelta)
         .silent(CHANNEL4)
@@ -128,6 +140,8 @@ void rlcCases(CaseTable& table)
                       "rlc-Config.um-Bi-Directional.dl-UM-RLC.t-Reassembly = ms35")
         .undecided(AT_DRB "rlc-Config.am.dl-AM-RLC.sn-FieldLength = absent")
         .with(inDelta)
+        .silent(AT_SRB "rlc-Config.am.dl-AM-RLC.sn-FieldLength = absent")
+        .with(inFullConfig)
         .fires("rlc-BearerToAddModList[0].rlc-Config.um-Uni-Directional-UL.ul-UM-RLC.sn-FieldLength",
                CHANNEL4 "rlc-BearerToAddModList[0].rlc-Config.um-Uni-Directional-UL.ul-UM-RLC.sn-FieldLength = size6")
         .after(AT_DRB "rlc-Config = absent\n" AT_DRB

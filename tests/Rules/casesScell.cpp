@@ -11,6 +11,16 @@ void scellCases(CaseTable& table)
         known.otherGroupCells = &cells;
     };
 
+    const auto withMeas = [](RrcRuleContext& known)
+    {
+        // The second one has CSI-RS alone.
+        static constexpr RrcRuleMeasObject objects[] = {{1, 1, 633312, SubcarrierSpacing_kHz30, {}},
+                                                        {2, 0, 0, SubcarrierSpacing_kHz30, {}}};
+        known.hasMeas = 1;
+        known.measObjects = objects;
+        known.numMeasObjects = 2;
+    };
+
     const auto withSCell = [](const Cases& cases, const char* RrcRule::*which)
     {
         return ADD_SCELL_WITH_UPLINK + cases.example(which);
@@ -95,7 +105,18 @@ void scellCases(CaseTable& table)
         .as(RRC_RULE_WARNING)
         .fires(AT_SCELL_COMMON "downlinkConfigCommon.frequencyInfoDL.absoluteFrequencySSB",
                ADD_SCELL SSBLESS_SCELL AT_SCELL_COMMON "downlinkConfigCommon.frequencyInfoDL.frequencyBandList[0] = 77")
-        .saying("in band n78, not n77")
+        .saying("no cell of the group that would give the timing is in band n77")
+        .undecided(ADD_SCELL SSBLESS_SCELL AT_SCELL_COMMON
+                   "downlinkConfigCommon.frequencyInfoDL.frequencyBandList[0] = 77")
+        .with(inDelta)
+        .fires(AT_SCELL_CELL "servingCellMO",
+               ADD_SCELL SSBLESS_SCELL AT_CELL "servingCellMO = 1\n" AT_SCELL_CELL "servingCellMO = 1")
+        .with(withMeas)
+        .as(RRC_RULE_WARNING)
+        .saying("that object has ssbFrequency 633312, and the cell no block there")
+        .silent(ADD_SCELL SSBLESS_SCELL AT_CELL "servingCellMO = 1\n" AT_SCELL_CELL "servingCellMO = 2")
+        .with(withMeas)
+        .undecided(ADD_SCELL SSBLESS_SCELL AT_SCELL_CELL "servingCellMO = 1")
         .fires(AT_STATE("0") "qcl-Type1.referenceSignal.ssb",
                ADD_SCELL SSBLESS_SCELL AT_STATE("0") "qcl-Type1.cell = 1")
         .silent(ADD_SCELL SSBLESS_SCELL AT_STATE("0") "qcl-Type1.cell = 0");

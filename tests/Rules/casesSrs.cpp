@@ -154,6 +154,9 @@ void ofResources(CaseTable& table)
         .bad(AT_MAPPING "nrofSymbols")
         .saying("n4, but from startPosition 2 on the slot has 3")
         .good()
+        .fires(AT_MAPPING "nrofSymbols",
+               AT_MAPPING "startPosition = 0\n" AT_MAPPING "nrofSymbols = n4\n" AT_MAPPING "repetitionFactor = n1")
+        .silent(AT_MAPPING "startPosition = 3\n" AT_MAPPING "nrofSymbols = n4\n" AT_MAPPING "repetitionFactor = n1")
         .fires(AT_MAPPING "nrofSymbols", AT_MAPPING "nrofSymbols = n2")
         .silent(AT_MAPPING "nrofSymbols = n2\n" AT_MAPPING "startPosition = 1")
         .fires(AT_MAPPING "repetitionFactor", AT_MAPPING "repetitionFactor = n2")
@@ -222,7 +225,7 @@ void ofResources(CaseTable& table)
         .good()
         .fires(AT_SET "resourceType.periodic.associatedCSI-RS",
                nonCodebook + AT_SET "resourceType = absent\n" AT_SET "resourceType.periodic.associatedCSI-RS = 9")
-        .saying("there is 0..3")
+        .saying("there is 0..5")
         // CSI-RS 3 is sent when triggered.
         .fires(AT_SET "resourceType.periodic.associatedCSI-RS",
                nonCodebook + AT_SET "resourceType = absent\n" AT_SET "resourceType.periodic.associatedCSI-RS = 3")

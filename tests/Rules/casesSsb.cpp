@@ -3,6 +3,24 @@
 namespace test
 {
 
+namespace
+{
+
+#define AT_FREQUENCY AT_COMMON_DL "frequencyInfoDL."
+
+// In an unpaired band below 3 GHz, whose raster has steps of 5 kHz.
+std::string inBand(const std::string& band, int ssb)
+{
+    return AT_FREQUENCY "frequencyBandList[0] = " + band + "\n" +
+           AT_FREQUENCY "absoluteFrequencySSB = " + std::to_string(ssb) + "\n" +
+           AT_FREQUENCY "absoluteFrequencyPointA = " + std::to_string(ssb - 9762) + "\n";
+}
+
+constexpr const char* four =
+    AT_COMMON "ssb-PositionsInBurst = absent\n" AT_COMMON "ssb-PositionsInBurst.shortBitmap = C0\n";
+
+} // namespace
+
 void ssbCases(CaseTable& table)
 {
 #define AT_BITMAP AT_COMMON "ssb-PositionsInBurst"
@@ -18,7 +36,16 @@ void ssbCases(CaseTable& table)
         .fires(AT_BITMAP, AS_FR2 AT_BITMAP " = absent\n" AT_BITMAP ".mediumBitmap = C0")
         .saying("64 blocks")
         .silent(AT_SYNC_ABSENT)
-        .with(inDelta);
+        .with(inDelta)
+        // Between 1.88 and 2.4 GHz releases differ for case C.
+        .silent(inBand("40", 469950) + four)
+        .silent(inBand("40", 469950))
+        .fires(AT_BITMAP, inBand("41", 519870) + four)
+        .saying("in band n41 at 2599 MHz a half frame has 8 blocks")
+        .silent(inBand("41", 519870))
+        .fires(AT_BITMAP, inBand("41", 519870) + AT_COMMON "ssbSubcarrierSpacing = kHz15\n" AT_INITIAL_PDCCH
+                                                           "controlResourceSetZero = absent")
+        .saying("a half frame has 4 blocks");
 
     table.rule("ssb-cond")
         .bad(AT_COMMON "ssbSubcarrierSpacing")
@@ -62,6 +89,21 @@ void ssbCases(CaseTable& table)
         .fires(AT_SSB_SET "csi-SSB-ResourceList[1]",
                AT_SSB_SET "csi-SSB-ResourceSetId = 0\n" AT_SSB_SET "csi-SSB-ResourceList[0] = 0\n" AT_SSB_SET
                           "csi-SSB-ResourceList[1] = 8")
+        .fires(AT_PUCCH "pucch-PowerControl.pathlossReferenceRSs[0].referenceSignal.ssb-Index",
+               AT_PUCCH "pucch-PowerControl.pathlossReferenceRSs[0].referenceSignal.ssb-Index = 8")
+        .fires(AT_PUCCH "spatialRelationInfoToAddModList[0].referenceSignal.ssb-Index",
+               std::string(rrcRuleById("pucch-spatial-refs")->good) +
+                   "\n" AT_PUCCH "spatialRelationInfoToAddModList[0].referenceSignal.ssb-Index = 2")
+        .as(RRC_RULE_WARNING)
+        .fires(AT_SRS "srs-ResourceSetToAddModList[0].pathlossReferenceRS.ssb-Index",
+               AT_SRS "srs-ResourceSetToAddModList[0].pathlossReferenceRS.ssb-Index = 8")
+        .fires(AT_SRS "srs-ResourceToAddModList[0].spatialRelationInfo.referenceSignal.ssb-Index",
+               AT_SRS "srs-ResourceToAddModList[0].spatialRelationInfo.referenceSignal.ssb-Index = 8")
+        .fires(AT_UL "bwp-Dedicated.beamFailureRecoveryConfig.setup.candidateBeamRSList[0].ssb.ssb",
+               WITH_RANDOM_ACCESS AT_UL
+               "bwp-Dedicated.beamFailureRecoveryConfig.setup.recoverySearchSpaceId = 2\n" AT_UL
+               "bwp-Dedicated.beamFailureRecoveryConfig.setup.candidateBeamRSList[0].ssb.ssb = 8\n" AT_UL
+               "bwp-Dedicated.beamFailureRecoveryConfig.setup.candidateBeamRSList[0].ssb.ra-PreambleIndex = 60")
         // The block is one of the cell that is named.
         .silent(ADD_SCELL AT_STATE("1") "qcl-Type1.cell = 1\n" AT_SCELL_COMMON
                                         "ssb-PositionsInBurst.mediumBitmap = C1\n" AT_STATE(

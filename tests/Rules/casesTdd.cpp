@@ -8,8 +8,25 @@ namespace test
     AT_PATTERN2 "dl-UL-TransmissionPeriodicity = " period "\n" AT_PATTERN2 "nrofDownlinkSlots = 1\n" AT_PATTERN2       \
                 "nrofDownlinkSymbols = 0\n" AT_PATTERN2 "nrofUplinkSlots = 0\n" AT_PATTERN2 "nrofUplinkSymbols = 0\n"
 
+namespace
+{
+
+// A pattern of 5 ms: 7 slots and 6 symbols of downlink, 2 slots of uplink and these symbols.
+std::string tenSlots(const char* symbols)
+{
+    return std::string(AT_TDD "pattern1.dl-UL-TransmissionPeriodicity = ms5\n" AT_TDD
+                              "pattern1.nrofDownlinkSlots = 7\n" AT_TDD "pattern1.nrofDownlinkSymbols = 6\n" AT_TDD
+                              "pattern1.nrofUplinkSlots = 2\n" AT_TDD "pattern1.nrofUplinkSymbols = ") +
+           symbols;
+}
+
+} // namespace
+
+#define AT_TYPE1 AT_GRANT "rrc-ConfiguredUplinkGrant."
+
 void tddCases(CaseTable& table)
 {
+    const std::string typeOne = std::string(rrcRuleById("pusch-cg-type1")->good) + "\n";
     table.rule("tdd-period-scs")
         .bad(AT_TDD "pattern1.dl-UL-TransmissionPeriodicity")
         .saying("ms1p25, but 30 kHz as reference does not go with that period")
@@ -29,6 +46,9 @@ void tddCases(CaseTable& table)
                AT_TDD "pattern1.nrofDownlinkSlots = 5\n" AT_TDD "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
                       "pattern1.nrofUplinkSlots = 0\n" AT_TDD "pattern1.nrofUplinkSymbols = 0")
         .as(RRC_RULE_WARNING)
+        .fires(AT_TDD "pattern1.nrofUplinkSymbols", tenSlots("10"))
+        .saying("6 downlink and 10 uplink symbols, but 1 of 10 slots are left for them, 14 symbols")
+        .silent(tenSlots("4"))
         .fires(AT_PATTERN2 "nrofUplinkSymbols",
                A_PATTERN2("ms2p5") AT_PATTERN2 "nrofUplinkSlots = 4\n" AT_PATTERN2 "nrofUplinkSymbols = 1");
 
@@ -106,12 +126,26 @@ void tddCases(CaseTable& table)
                       "pdsch-TimeDomainAllocationList.setup[0].k0 = 1\n" AT_CSI
                       "nzp-CSI-RS-ResourceToAddModList[0].periodicityAndOffset.slots80 = 0\n" AT_CSI
                       "nzp-CSI-RS-ResourceToAddModList[1].periodicityAndOffset.slots80 = 0\n" AT_CSI
-                      "nzp-CSI-RS-ResourceToAddModList[2].periodicityAndOffset.slots80 = 0\n" AT_CSI
+                      "nzp-CSI-RS-ResourceToAddModList[2].periodicityAndOffset.slots80 = 0\n" AT_NZP_SET
+                      "[1].nzp-CSI-RS-Resources[3] = absent\n" AT_NZP_SET
+                      "[1].nzp-CSI-RS-Resources[2] = absent\n" AT_NZP "[5] = absent\n" AT_NZP "[4] = absent\n" AT_CSI
                       "csi-IM-ResourceToAddModList[0].periodicityAndOffset.slots80 = 0")
-        .fires(AT_PUCCH "dl-DataToUL-ACK",
-               AT_PUCCH "dl-DataToUL-ACK[0] = 1\n" AT_PUCCH "dl-DataToUL-ACK[1] = absent\n" AT_PUCCH
-                        "dl-DataToUL-ACK[1] = absent\n" AT_PUCCH "dl-DataToUL-ACK[1] = absent")
-        .saying("from downlink slot 0 of 5 none of them reaches uplink")
+        // Slot 4 of every 5 is uplink, and the last two symbols of slot 3.
+        .fires(AT_TYPE1 "timeDomainOffset", typeOne + AT_TYPE1 "timeDomainOffset = 8")
+        .saying("slot 8 of every 10, symbols 0..13, but 1 of 1 occasions meet downlink symbols")
+        .silent(typeOne)
+        .fires(AT_TYPE1 "timeDomainOffset",
+               typeOne + AT_GRANT "periodicity = sym8x14\n" AT_TYPE1 "timeDomainOffset = 4")
+        .as(RRC_RULE_NOTICE)
+        .saying("4 of 5 occasions")
+        // Of the default table the first row has symbols 0..13, too, and row 4 the symbols 4..13.
+        .silent(typeOne + AT_PUSCH "pusch-TimeDomainAllocationList = absent\n" AT_TYPE1 "timeDomainAllocation = 4")
+        .fires(AT_TYPE1 "timeDomainOffset", typeOne + AT_PUSCH "pusch-TimeDomainAllocationList = absent\n" AT_TYPE1
+                                                               "timeDomainAllocation = 4\n" AT_TYPE1
+                                                               "timeDomainOffset = 8")
+        .saying("slot 8 of every 10, symbols 4..13")
+        .silent(typeOne + AT_GRANT "periodicity = sym2\n" AT_TYPE1 "timeDomainOffset = 8")
+        .silent(AT_PUSCH "pusch-TimeDomainAllocationList = absent")
         .fires(AT_COMMON "ssb-PositionsInBurst",
                AT_COMMON "ssb-PositionsInBurst = absent\n" AT_COMMON "ssb-PositionsInBurst.mediumBitmap = FF\n" AT_TDD
                          "pattern1.nrofUplinkSlots = 2\n" AT_TDD "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD

@@ -144,6 +144,10 @@ private:
 #define ADD_SCELL_WITH_UPLINK ADD_SCELL "+ sCellUplink.flat\n"
 // Changes that move the cell to FR2.
 #define AS_FR2 "+ fr2.flat\n"
+// Changes that give bandwidth part 1 random access.
+#define WITH_RANDOM_ACCESS "+ randomAccess.flat\n"
+// Changes that narrow the cell to 106 resource blocks.
+#define AS_106_RB "+ rb106.flat\n"
 
 // Contexts that many cases share.
 void inDelta(RrcRuleContext& known);

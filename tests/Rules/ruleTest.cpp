@@ -312,7 +312,7 @@ TEST_F(RuleTest, ItsVariantsAreClean)
 {
     RrcRuleContext known{};
     known.extent = RRC_RULE_EXTENT_FULL;
-    for (const char* const changes : {ADD_SCELL, ADD_SCELL_WITH_UPLINK, AS_FR2, AS_SCG})
+    for (const char* const changes : {ADD_SCELL, ADD_SCELL_WITH_UPLINK, AS_FR2, AS_106_RB, AS_SCG})
     {
         std::vector<std::string> lines = wholeCell();
         change(lines, changes);
