@@ -62,7 +62,6 @@ constexpr GroupTitle titles[] = {
     {"scell", "SCells"},
     {"ssb", "SS/PBCH blocks"},
 };
-static_assert(std::size(titles) == std::size(groups));
 
 template <typename Each>
 void forRules(const Each& each)

@@ -700,8 +700,8 @@ constexpr Rule table[] = {
     {.told = {.id = "csi-codebook-type2",
               .severity = RRC_RULE_ERROR,
               .statement =
-                  "A restriction of ranks leaves one of them; a Type II codebook is of one resource, of 4 ports with "
-                  "two beams, and its sampling size is at most half the ports and the number of beams.",
+                  "A restriction of ranks leaves at least one; a Type II codebook is of one resource, of 4 ports "
+                  "with two beams, and its sampling size is at most half the ports and the number of beams.",
               .advice = "Allow a rank, or change the codebook.",
               .clause = "TS 38.214 5.2.2.2.3, 5.2.2.2.4, 5.2.1.4.2",
               .given = "",

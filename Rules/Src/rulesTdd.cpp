@@ -743,8 +743,10 @@ constexpr Rule table[] = {
      .run = tddPeriodScs},
     {.told = {.id = "tdd-slots-sum",
               .severity = RRC_RULE_ERROR,
-              .statement = "Downlink and uplink slots of a pattern fit into its period, their symbols into the slots "
-                           "that are left, 14 in one; a cell has symbols of both directions.",
+              .statement =
+                  "nrofDownlinkSlots and nrofUplinkSlots of a pattern fit into its period, nrofDownlinkSymbols and "
+                  "nrofUplinkSymbols into the slots that are left, 14 together where that is one; a cell has "
+                  "symbols of both directions.",
               .advice = "Take away slots or symbols, or lengthen the period.",
               .clause = "TS 38.213 11.1; TS 38.331 TDD-UL-DL-Pattern",
               .given = "",

@@ -39,12 +39,15 @@ TEST(RuleIds, AreAsListed)
             continue;
         }
         EXPECT_EQ(at->second, rule.since) << rule.id;
+        EXPECT_NE(nullptr, rrcRuleGroupTitle(rule.id)) << rule.id;
     }
     for (const auto& [id, since] : listed)
     {
         EXPECT_TRUE(found.contains(id)) << id << " of " << since << " has gone";
     }
     EXPECT_FALSE(listed.empty());
+    EXPECT_EQ(nullptr, rrcRuleGroupTitle("none-such"));
+    EXPECT_EQ(nullptr, rrcRuleGroupTitle(nullptr));
 }
 
 } // namespace
