@@ -204,7 +204,7 @@ std::string projectFileName()
     const fs::path home = variable == nullptr ? "" : variable;
     const auto isTop = [&](const fs::path& folder)
     {
-        return folder == home || fs::exists(folder / ".git", error);
+        return fs::equivalent(folder, home, error) || fs::exists(folder / ".git", error);
     };
     std::vector<fs::path> folders;
     for (fs::path folder = here; !folder.empty(); folder = folder.parent_path())

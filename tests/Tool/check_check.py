@@ -4,6 +4,7 @@ silent of, and the slips in them are those of the tables of the standard."""
 
 import json
 import os
+import random
 import re
 import subprocess
 
@@ -487,6 +488,17 @@ def test_comments(folder):
     true(encoded(places["before it"]) == encoded(text), "a text with comments is encoded")
 
 
+def test_random_comments(folder):
+    """Wherever comments and line ends stand, a finding is told at its value."""
+    draw = random.Random(14)
+    tokens = re.findall(r'"[^"]*"|[{}\[\]:,]|[^\s{}\[\]:,"]+', jer(BAD_SRB))
+    gaps = ("", " ", "\n", "\t", "/**/", "/* \"[{}]\" */", "// {\n", "/* \u00e4\u20ac */", "//\n\n")
+    for _ in range(25):
+        text = "".join(draw.choice(gaps) + token + draw.choice(gaps) for token in tokens)
+        finding = (message_of("--full", stdin=text)["findings"] or [{}])[0]
+        true((finding.get("line"), finding.get("column")) == line_of(text, '"size18"'), f"{finding} in {text[:300]}")
+
+
 # What SARIF 2.1.0 allows of the objects that are written: members, with * those that have to be there. Its schema allows
 # no others.
 SARIF = {
@@ -621,4 +633,4 @@ def test_hostile(folder):
 
 
 main(test_whole, test_finding, test_order, test_previous, test_chain, test_known, test_wrong_values, test_files, test_severity,
-     test_silences, test_comments, test_sarif, test_encoding, test_hostile)
+     test_silences, test_comments, test_random_comments, test_sarif, test_encoding, test_hostile)
