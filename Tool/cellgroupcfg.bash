@@ -5,6 +5,9 @@ _cellgroupcfg()
     local input='--as --color --help --verbose' messages='--lines --type'
     local texts='--tree --json --compact --value-notation --flat --trace'
     local octets='--hex --binary --c-array --base64 --output'
+    local known='--previous --full --delta --message --full-config --mcg --scg --band --fr --fdd --tdd --carrier
+        --carrier-ul --bwp0-dl --bwp0-ul --ssb-bitmap --typeA-position --coreset0 --tdd-pattern --rach --capability
+        --bearers --meas-object --endc --nrdc --none --other-cells'
     case $previous in
         --as) words='binary hex hexdump c-array escaped base64 jer flat log' ;;
         --color) words='auto always never' ;;
@@ -12,7 +15,12 @@ _cellgroupcfg()
         --in) words='bare rrc-reconfiguration rrc-setup' ;;
         --recreate) words='bearers scells bwps none' ;;
         --type) words=$(cellgroupcfg explain 2>/dev/null) ;;
-        -o | --output) compopt -o default && COMPREPLY=() && return ;;
+        --severity) words='error warning notice' ;;
+        --fail-on) words='error warning notice never' ;;
+        --message) words='setup reconfig sync resume reestab' ;;
+        --fr) words='1 2' ;;
+        --typeA-position) words='2 3' ;;
+        -o | --output | --previous | --rach | --capability | --config) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
                 words='decode encode diff delta apply check find pcap rules explain --help --version'
@@ -23,7 +31,8 @@ _cellgroupcfg()
                     diff) words="$input --type --json --state" ;;
                     delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
                     apply) words="$input $messages --state $texts $octets" ;;
-                    check) words="$input $messages --format" ;;
+                    check) words="$input $messages --format --severity --fail-on --only --disable --config --no-config --chain
+                        $known" ;;
                     find) words="$input $messages --min-octets --decode --json" ;;
                     pcap) words="$input --lines --in --output" ;;
                     rules) words="--color --help --json"

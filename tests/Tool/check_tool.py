@@ -2,74 +2,15 @@
 streams. The messages are encoded by hand, the expectations come from the schema."""
 
 import base64
-import difflib
 import json
 import os
 import pathlib
 import pty
 import re
 import subprocess
-import sys
-import tempfile
 
-PROGRAM, PROJECT = str(pathlib.Path(sys.argv[1]).resolve()), pathlib.Path(sys.argv[2])
-DONE, FINDINGS, USAGE, MALFORMED, NOTHING = 0, 1, 2, 3, 4
-
-failures = []
-count = 0
-
-
-def run(*arguments, stdin=b"", environment=None):
-    if isinstance(stdin, str):
-        stdin = stdin.encode()
-    done = subprocess.run([PROGRAM, *arguments], input=stdin, capture_output=True, timeout=60, check=False,
-                          env={**os.environ, "NO_COLOR": "", **(environment or {})})
-    return done.returncode, done.stdout, done.stderr
-
-
-def differs(what, expected, found):
-    if isinstance(expected, str):
-        found = found.decode(errors="replace")
-    if isinstance(expected, re.Pattern):
-        found = found.decode(errors="replace")
-        return "" if expected.search(found) else f"{what}: no {expected.pattern!r} in {found!r}"
-    if expected == found:
-        return ""
-    if isinstance(expected, bytes):
-        return f"{what}: {found!r} instead of {expected!r}"
-    return f"{what}:\n" + "\n".join(difflib.unified_diff(expected.splitlines(), found.splitlines(), "expected", "found",
-                                                        lineterm=""))
-
-
-def expect(arguments, status, out="", err="", stdin=b"", environment=None):
-    """Exit status, standard output and standard error: texts and octets are compared, patterns have to occur."""
-    global count
-    count += 1
-    found = run(*arguments, stdin=stdin, environment=environment)
-    problems = [] if found[0] == status else [f"exit status {found[0]} instead of {status}; {found[2].decode()!r}"]
-    problems += [problem for problem in (differs("standard output", out, found[1]),
-                                         differs("standard error", err, found[2])) if problem]
-    if problems:
-        failures.append("cellgroupcfg " + " ".join(arguments) + "\n" + "\n".join(problems))
-
-
-def true(fact, what):
-    global count
-    count += 1
-    if not fact:
-        failures.append(what)
-
-
-def octets(bits):
-    """The octets of bits in any grouping, padded with zero bits."""
-    bits = re.sub(r"\s", "", bits)
-    bits += "0" * (-len(bits) % 8)
-    return bytes(int(bits[i:i + 8], 2) for i in range(0, len(bits), 8))
-
-
-def bits_of(data):
-    return "".join(f"{octet:08b}" for octet in data)
-
+from harness import (DONE, FINDINGS, MALFORMED, NOTHING, PROGRAM, PROJECT, USAGE, bits_of, expect, main, octets, run,
+                     true)
 
 # CellGroupConfig: not extended, seven optional members, cellGroupId of 2 bits. rlc-BearerToReleaseList: 1..32 elements,
 # counted in 5 bits, of 1..32.
@@ -501,51 +442,6 @@ def test_diff_state(folder):
            "{ tag-Id 1, timeAlignmentTimer infinity }\n")
 
 
-def test_check(folder):
-    wrong = '{\n  "cellGroupId": 4,\n  "rlc-BearerToReleaseList": []\n}\n'
-    expect(["check", RELEASE_HEX], DONE)
-    expect(["check"], FINDINGS,
-           re.compile(r"^standard input:2:18: error: CellGroupConfig\.cellGroupId: 4 is not in 0\.\.3 \[jer\]\n"
-                      r"standard input:\d+:\d+: error: CellGroupConfig\.rlc-BearerToReleaseList: 0 elements, not 1\.\.32 "
-                      r"\[jer\]\n$"), stdin=wrong)
-    file = folder / "wrong message.json"
-    file.write_text(wrong)
-    expect(["check", "--format", "gcc", str(file)], FINDINGS,
-           re.compile(rf"^{re.escape(str(file))}:2:18: error: CellGroupConfig\.cellGroupId: .* \[jer\]\n"))
-    found = json.loads(run("check", "--format", "json", str(file), RELEASE_HEX)[1])
-    true(found["version"] == 1 and [len(one["findings"]) for one in found["messages"]] == [2, 0], f"check: {found}")
-    true(found["messages"][0]["findings"][0] == {
-        "id": "jer", "severity": "error", "path": "CellGroupConfig.cellGroupId", "message": "4 is not in 0..3",
-        "line": 2, "column": 18}, f"check: {found}")
-    expect(["check", RELEASE_HEX + "00"], MALFORMED, re.compile(r"^operand: error: CellGroupConfig: 1 octet follows.* "
-                                                                r"\[per-surplus\]\n"))
-    expect(["check", UNKNOWN.hex()], DONE, re.compile(r"note: CellGroupConfig: 1 addition of a later release.*\n"))
-    expect(["check", EMPTY_EXTENSION.hex()], DONE, re.compile(r"\[per-not-canonical\]"))
-    expect(["check", "--lines"], MALFORMED, re.compile(
-        r"^standard input:1: no finding\nstandard input:2: 1 finding\nstandard input:2: error: .*\[per-end\]\n"),
-           stdin=f"{RELEASE_HEX}\n2002\n")
-    expect(["check", "--format", "xml", "00"], USAGE, err=re.compile("xml"))
-    test_sarif(file)
-
-
-def test_sarif(file):
-    """What SARIF 2.1.0 requires of the members that are there."""
-    sarif = json.loads(run("check", "--format", "sarif", str(file))[1])
-    true(sarif["version"] == "2.1.0" and len(sarif["runs"]) == 1, "SARIF of one run")
-    driver = sarif["runs"][0]["tool"]["driver"]
-    true(driver["name"] == "cellgroupcfg", "SARIF names the tool")
-    results = sarif["runs"][0]["results"]
-    true(len(results) == 2, "SARIF has both findings")
-    for result in results:
-        true(driver["rules"][result["ruleIndex"]]["id"] == result["ruleId"], "SARIF's rule")
-        true(result["level"] in ("error", "warning", "note") and result["message"]["text"], "SARIF's result")
-        place = result["locations"][0]["physicalLocation"]
-        true(place["artifactLocation"]["uri"] == "file://" + str(file).replace(" ", "%20"), "SARIF's file")
-        true(place["region"]["startLine"] >= 1, "SARIF's line")
-    true(results[0]["locations"][0]["logicalLocations"][0]["fullyQualifiedName"] == "CellGroupConfig.cellGroupId",
-         "SARIF's path")
-
-
 def hidden(before, message, behind):
     """The message as an octet string behind some bits and before others."""
     return octets(before + f"{len(message):08b}" + bits_of(message) + behind)
@@ -750,7 +646,7 @@ def test_streams(folder):
 
 
 def options_of(text):
-    return set(re.findall(r"(?<![\w-])--[a-z][a-z0-9-]*", text))
+    return set(re.findall(r"(?<![\w-])--[a-z][A-Za-z0-9-]*", text))
 
 
 def completed(*words):
@@ -792,11 +688,5 @@ def test_help(folder):
                                            r"(, commit [0-9a-f]{10}\+?)?\n$"))
 
 
-with tempfile.TemporaryDirectory() as name:
-    for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta,
-                 test_apply, test_diff_state, test_check, test_find, test_pcap, test_wireshark, test_explain,
-                 test_rules, test_streams, test_help):
-        test(pathlib.Path(name))
-print("\n\n".join(failures))
-print(f"{count} checks, {len(failures)} failed")
-sys.exit(1 if failures else 0)
+main(test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta, test_apply,
+     test_diff_state, test_find, test_pcap, test_wireshark, test_explain, test_rules, test_streams, test_help)
