@@ -336,6 +336,11 @@ void explain(Session& session, const std::string& name, bool tree)
         session.put(ruleText(*rule, session.color()));
         return;
     }
+    if (const IdWords words = wordsOf(name); !words.statement.empty())
+    {
+        session.put(idText(name, words, session.color()));
+        return;
+    }
     try
     {
         if (findType(name) == nullptr && name.find_first_of(".[") == std::string::npos)

@@ -1,7 +1,7 @@
 #include "findingIds.h"
 
 #include "nearest.h"
-#include "rrcRules.h"
+#include "ruleTable.h"
 #include "session.h"
 
 #include <algorithm>
@@ -64,10 +64,8 @@ std::vector<std::string_view> optionalIds()
             all.emplace_back(id.id);
         }
     }
-    for (OSUINT32 i = 0; i < rrcRuleCount(); ++i)
-    {
-        all.emplace_back(rrcRuleAt(i)->id);
-    }
+    const std::vector<std::string_view> rules = ruleIds();
+    all.insert(all.end(), rules.begin(), rules.end());
     return all;
 }
 

@@ -64,6 +64,14 @@ std::string lines(const std::string& title, const std::vector<std::string>& all)
 
 } // namespace
 
+std::string idText(const std::string& id, const IdWords& words, bool color)
+{
+    std::string text = styled(id, Style::Bold, color) + "\n" + rows("statement", words.statement);
+    text += words.advice.empty() ? "" : rows("what to do", words.advice);
+    text += words.clause.empty() ? "" : rows("clause", words.clause);
+    return text;
+}
+
 std::string ruleText(const RrcRule& rule, bool color)
 {
     const std::string id = rule.id;

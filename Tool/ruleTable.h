@@ -1,6 +1,7 @@
 // The table of rules as the commands tell it.
 #pragma once
 
+#include "findingIds.h"
 #include "rrcRules.h"
 
 #include <string>
@@ -21,5 +22,8 @@ std::vector<std::string> exampleLines(std::string_view example);
 
 // What there is to say of a rule: what holds, what to do where it does not, examples, how to silence it.
 std::string ruleText(const RrcRule& rule, bool color);
+
+// What there is to say of another finding's id.
+std::string idText(const std::string& id, const IdWords& words, bool color);
 
 } // namespace tool

@@ -579,6 +579,12 @@ def test_rules(folder):
            err="cellgroupcfg: there is no rule, type or member 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
     expect(["explain", "t30"], USAGE,
            err="cellgroupcfg: there is no rule, type or member 't30'; did you mean t304?\n")
+    # The other findings of check have ids as well.
+    expect(["explain", "per-padding"], DONE, """per-padding
+  statement    The bits that fill up the last octet are 0.
+  what to do   The message is of another type, or its end is not where it is taken for.
+  clause       X.691 11.1
+""")
     expect(["explain", "phy-cell-group-id"], DONE, """phy-cell-group-id
   severity     error
   statement    The master cell group has cellGroupId 0, the secondary one 1.
