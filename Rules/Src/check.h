@@ -110,6 +110,10 @@ public:
         {
             return element;
         }
+        if (ids.repeats)
+        {
+            return nullptr;
+        }
         const bool isReleased = ids.isReleased(id);
         Report told = missing(ids.complete || isReleased, at);
         told.found("%u", id);

@@ -12,7 +12,8 @@ bool isKind(const Quantity& quantity, std::initializer_list<OSUINT32> kinds)
 
 const CSI_ResourceConfig* configOf(const Csi* csi, const CSI_ResourceConfigId* id)
 {
-    return csi == nullptr || id == nullptr ? nullptr : csi->resourceConfigs.element(*id);
+    return csi == nullptr || id == nullptr || csi->resourceConfigs.repeats ? nullptr
+                                                                           : csi->resourceConfigs.element(*id);
 }
 
 const CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB* rsLists(Check& check, const CSI_ResourceConfig& config)
@@ -108,7 +109,8 @@ OSUINT32 channelPorts(Check& check, const ReportView& view)
                         [&](const NZP_CSI_RS_Resource& resource)
                         {
                             const OSUINT32 these = portsOf(resource.resourceMapping);
-                            isSame = isSame && (ports == 0 || ports == these);
+                            const bool isRow = csiRsRow(check.tree, resource.resourceMapping) != nullptr; // csi-rs-row
+                            isSame = isSame && isRow && (ports == 0 || ports == these);
                             ports = these;
                         });
     return isSame ? ports : 0;

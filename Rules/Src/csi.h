@@ -83,6 +83,12 @@ CsiUse useOf(const CsiUse (&uses)[N], OSUINT32 id)
     return id < N ? uses[id] : CsiUse{};
 }
 
+// Whether settings that share something differ in resourceType, which csi-one-set tells.
+inline bool isMixed(const CsiUse& use)
+{
+    return (use.types & (use.types - 1)) != 0;
+}
+
 // The sets of a setting that are there.
 template <typename Each>
 void forNzpSets(Check& check, const Csi* csi, const CSI_ResourceConfig* config, const Each& each)
@@ -93,7 +99,8 @@ void forNzpSets(Check& check, const Csi* csi, const CSI_ResourceConfig* config, 
     }
     for (const auto id : nzpSetIds(check, *config))
     {
-        if (const NZP_CSI_RS_ResourceSet* const set = csi->nzpSets.element(id))
+        const NZP_CSI_RS_ResourceSet* const set = csi->nzpSets.repeats ? nullptr : csi->nzpSets.element(id);
+        if (set != nullptr && !isMixed(useOf(csi->nzpSetUse, id)))
         {
             each(*set);
         }
@@ -106,7 +113,8 @@ void forResources(const Csi& csi, const NZP_CSI_RS_ResourceSet& set, const Each&
 {
     for (const NZP_CSI_RS_ResourceId& id : entries(&set.nzp_CSI_RS_Resources))
     {
-        if (const NZP_CSI_RS_Resource* const resource = csi.nzpResources.element(id))
+        const NZP_CSI_RS_Resource* const resource = csi.nzpResources.repeats ? nullptr : csi.nzpResources.element(id);
+        if (resource != nullptr && !isMixed(useOf(csi.nzpUse, id)))
         {
             each(*resource, id);
         }

@@ -97,6 +97,10 @@ public:
         }
         if (all.size() <= few || largest > largestIndexed)
         {
+            for (size_t i = 0; i < all.size(); ++i)
+            {
+                repeats = repeats || find(all[i].id) != &all[i];
+            }
             return;
         }
         for (OSUINT32 id = 0; id <= largest; ++id)
@@ -105,6 +109,7 @@ public:
         }
         for (size_t i = 0; i < all.size() && !memory.failed(); ++i)
         {
+            repeats = repeats || places_[all[i].id] != 0;
             places_[all[i].id] = static_cast<OSUINT16>(i + 1);
         }
     }
@@ -112,6 +117,7 @@ public:
     Vector<Entry> all;
     Vector<OSUINT32> released; // as the message says
     bool complete = false;     // there are no others
+    bool repeats = false;      // an id: what it does not have may have been meant by that (gen-dup-id)
 
 private:
     static constexpr size_t few = 8;

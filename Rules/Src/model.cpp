@@ -31,7 +31,7 @@ Known<OSUINT32> Bwp::mu() const
         return Known<OSUINT32>::unless(missing);
     }
     const OSUINT32 mu = muOf(generic->subcarrierSpacing);
-    return mu <= highestMu ? Known<OSUINT32>(mu) : Known<OSUINT32>::unless(0);
+    return mu <= highestMu && !hasNoCarrier ? Known<OSUINT32>(mu) : Known<OSUINT32>::unless(0);
 }
 
 Known<NrSpan> Bwp::located() const
@@ -164,6 +164,7 @@ void Model::makeCells()
     {
         const Known<NrSpan> rbs = bwp.located();
         const Known<const SCS_SpecificCarrier*> in = carrier(bwp);
+        bwp.hasNoCarrier = in && *in == nullptr;
         bwp.isOutside = rbs && in && *in != nullptr && rbs->start + rbs->size > (*in)->carrierBandwidth;
     }
 }

@@ -94,6 +94,7 @@ struct Bwp
     const BWP* generic;        // null where it is unknown; perhaps of the context
     OSUINT32 missing;          // RrcRuleInput bits: what would tell it
     bool isOutside;            // of its carrier, which bwp-in-carrier tells
+    bool hasNoCarrier;         // of its spacing, which bwp-scs-carrier tells
     const PDCCH_Config* pdcch; // what the dedicated part sets up
     const PDSCH_Config* pdsch;
     const SPS_Config* sps;
@@ -123,7 +124,7 @@ struct Bwp
     {
         return downlinkCommon != nullptr || uplinkCommon != nullptr;
     }
-    // log2(spacing / 15 kHz).
+    // log2(spacing / 15 kHz), where there is a carrier of it.
     Known<OSUINT32> mu() const;
     // Resource blocks from its carrier's first: as locationAndBandwidth says, and where they lie in the carrier.
     Known<NrSpan> located() const;

@@ -44,49 +44,17 @@ void forPairs(Check& check, const Each& each)
     }
 }
 
-// A bandwidth part lies in the carrier of its spacing.
-void bwpInCarrier(Check& check)
-{
-    forBwps(
-        check,
-        [&](const Cell&, const Bwp& bwp)
-        {
-            const Known<NrSpan> rbs = bwp.located();
-            const Known<const SCS_SpecificCarrier*> carrier = check.model.carrier(bwp);
-            if (!check.decided(rbs) || !check.decided(carrier) || *carrier == nullptr || !bwp.isTold())
-            {
-                return;
-            }
-            const OSUINT32 last = rbs->start + rbs->size - 1;
-            if (bwp.isOutside)
-            {
-                check.error(&bwp.generic->locationAndBandwidth)
-                    .found("%u, which with N = 275 is RB %u..%u", bwp.generic->locationAndBandwidth, rbs->start, last)
-                    .allowed("the carrier at %u kHz has RB 0..%u", khzOf(*bwp.mu()), (*carrier)->carrierBandwidth - 1U);
-            }
-        });
-}
-
-// There is a carrier for each spacing of a bandwidth part.
-void bwpScsCarrier(Check& check)
-{
-    forBwps(check,
-            [&](const Cell&, const Bwp& bwp)
-            {
-                const Known<const SCS_SpecificCarrier*> carrier = check.model.carrier(bwp);
-                if (check.decided(carrier) && *carrier == nullptr && bwp.isTold() && bwp.mu())
-                {
-                    check.error(&bwp.generic->subcarrierSpacing)
-                        .allowed("scs-SpecificCarrierList of the %s has no carrier of that spacing",
-                                 nameOf(bwp.direction));
-                }
-            });
-}
-
 // Whether the cells of a range use a spacing for more than SS/PBCH blocks.
 bool isOfRange(OSUINT32 mu, RrcRuleRange range)
 {
     return range == RRC_RULE_RANGE_FR1 ? mu <= 2 : mu == 2 || mu == 3;
+}
+
+// Whether a spacing is one that no carrier can have, which bwp-scs-range tells.
+bool isOutOfRange(const Cell& cell, const SubcarrierSpacing& scs)
+{
+    const OSUINT32 mu = muOf(scs);
+    return mu >= highestMu || (cell.range && !isOfRange(mu, *cell.range));
 }
 
 // Resource blocks of the channels that came to FR1 later: 3, 35 and 45 MHz.
@@ -95,6 +63,70 @@ bool isLaterWidth(OSUINT32 mu, OSUINT32 rbs)
     static constexpr OSUINT32 widths[][3] = {{15, 0, 0}, {188, 92, 44}, {242, 119, 58}};
     return std::any_of(std::begin(widths), std::end(widths),
                        [&](const auto& width) { return mu < std::size(width) && rbs != 0 && width[mu] == rbs; });
+}
+
+// Whether a carrier has the width of a channel; if not, bwp-carrier-width tells.
+bool isChannel(const Cell& cell, const SCS_SpecificCarrier& carrier)
+{
+    const OSUINT32 mu = muOf(carrier.subcarrierSpacing);
+    const bool isFr2 = cell.range && *cell.range == RRC_RULE_RANGE_FR2;
+    return !cell.range || nrChannelMhz(isFr2 ? 1 : 0, mu, carrier.carrierBandwidth) != 0 ||
+           (!isFr2 && isLaterWidth(mu, carrier.carrierBandwidth));
+}
+
+// A bandwidth part lies in the carrier of its spacing.
+void bwpInCarrier(Check& check)
+{
+    forBwps(check,
+            [&](const Cell&, const Bwp& bwp)
+            {
+                const Known<NrSpan> rbs = bwp.located();
+                const Known<const SCS_SpecificCarrier*> carrier = check.model.carrier(bwp);
+                if (!check.decided(rbs) || !check.decided(carrier) || *carrier == nullptr || !bwp.isTold())
+                {
+                    return;
+                }
+                const OSUINT32 last = rbs->start + rbs->size - 1;
+                if (bwp.isOutside && isChannel(*bwp.cell, **carrier))
+                {
+                    check.error(&bwp.generic->locationAndBandwidth)
+                        .found("%u, which with N = 275 is RB %u..%u", bwp.generic->locationAndBandwidth, rbs->start,
+                               last)
+                        .allowed("the carrier at %u kHz has RB 0..%u", khzOf(muOf((*carrier)->subcarrierSpacing)),
+                                 (*carrier)->carrierBandwidth - 1U);
+                }
+            });
+}
+
+// There is a carrier for each spacing of a bandwidth part.
+void bwpScsCarrier(Check& check)
+{
+    forBwps(check,
+            [&](const Cell& cell, const Bwp& bwp)
+            {
+                const Known<Carriers> carriers = check.model.carriers(cell, bwp.direction);
+                const Known<const SCS_SpecificCarrier*> carrier = check.model.carrier(bwp);
+                if (!check.decided(carrier) || !bwp.hasNoCarrier || !bwp.isTold() ||
+                    isOutOfRange(cell, bwp.generic->subcarrierSpacing) ||
+                    std::any_of(carriers->begin(), carriers->end(),
+                                [&](const SCS_SpecificCarrier* one)
+                                { return isOutOfRange(cell, one->subcarrierSpacing); }))
+                {
+                    return;
+                }
+                check.error(&bwp.generic->subcarrierSpacing)
+                    .allowed("scs-SpecificCarrierList of the %s has no carrier of that spacing", nameOf(bwp.direction));
+            });
+}
+
+bool lacksCarrier(const Cell& cell)
+{
+    const auto lacks = [&](Direction direction)
+    {
+        const std::span<Bwp> bwps = cell.bwps(direction);
+        return std::any_of(bwps.begin(), bwps.end(), [](const Bwp& bwp) { return bwp.hasNoCarrier; });
+    };
+    return std::any_of(std::begin(directions), std::end(directions), lacks);
 }
 
 // The carriers of one list have widths of the standard, and all those of one channel.
@@ -118,8 +150,11 @@ void carrierWidths(Check& check, const Cell& cell, const OSRTDList* list)
         }
         if (mhz == 0)
         {
-            check.error(&carrier.carrierBandwidth)
-                .allowed("no channel of FR%u has so many resource blocks at %u kHz", isFr2 ? 2U : 1U, khzOf(mu));
+            if (!lacksCarrier(cell)) // else the spacing may be what is wrong
+            {
+                check.error(&carrier.carrierBandwidth)
+                    .allowed("no channel of FR%u has so many resource blocks at %u kHz", isFr2 ? 2U : 1U, khzOf(mu));
+            }
             continue;
         }
         if (band != nullptr && mhz < band->leastMhz)
@@ -748,7 +783,9 @@ bool hasCommonSearchSpace(Check& check, const Pdcch& pdcch)
     for (const SearchSpaceEntry& entry : pdcch.allSearchSpaces)
     {
         const SearchSpace_searchSpaceType* const type = MEMBER(*entry.element, searchSpaceType);
-        if (entry.isCommon || CHOSEN(check.tree, type, SearchSpace_searchSpaceType, common) != nullptr)
+        // One without a type pdcch-ss-new-incomplete tells.
+        if (entry.isCommon || type == nullptr ||
+            CHOSEN(check.tree, type, SearchSpace_searchSpaceType, common) != nullptr)
         {
             return true;
         }

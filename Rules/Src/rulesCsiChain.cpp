@@ -95,6 +95,32 @@ void csiConfigKind(Check& check)
                });
 }
 
+// Whether resources of a setting have a period against its resourceType, or none: csi-periodicity-cond tells.
+bool contradictsItself(Check& check, const Csi& csi, const CSI_ResourceConfig& config)
+{
+    bool contradicts = false;
+    const auto judge = [&](const auto& resource)
+    {
+        contradicts =
+            contradicts || (resource.m.periodicityAndOffsetPresent != 0) == (config.resourceType == aperiodic);
+    };
+    forNzpSets(check, &csi, &config,
+               [&](const NZP_CSI_RS_ResourceSet& set)
+               { forResources(csi, set, [&](const NZP_CSI_RS_Resource& one, const auto&) { judge(one); }); });
+    for (const auto id : imSetIds(check, config))
+    {
+        const CSI_IM_ResourceSet* const set = csi.imSets.element(id);
+        for (const auto resource : entries(set == nullptr ? nullptr : &set->csi_IM_Resources))
+        {
+            if (const CSI_IM_Resource* const one = csi.imResources.element(resource))
+            {
+                judge(*one);
+            }
+        }
+    }
+    return contradicts;
+}
+
 // The settings of a report share a bandwidth part, which is there, and the time behaviour.
 void csiSameBwp(Check& check)
 {
@@ -123,7 +149,9 @@ void csiSameBwp(Check& check)
                                .found("%u, on bandwidth part %u", *at, config->bwp_Id)
                                .allowed("the channel is measured on bandwidth part %u", view.channel->bwp_Id);
                        }
-                       if (config->resourceType != view.channel->resourceType)
+                       const bool isToldElsewhere = contradictsItself(check, *view.csi, *config) ||
+                                                    contradictsItself(check, *view.csi, *view.channel);
+                       if (config->resourceType != view.channel->resourceType && !isToldElsewhere)
                        {
                            check.error(at)
                                .found("%u, which is %s", *at, nameOf(config->resourceType))
@@ -133,11 +161,6 @@ void csiSameBwp(Check& check)
                    compare(view.im, &view.report.csi_IM_ResourcesForInterference);
                    compare(view.nzp, &view.report.nzp_CSI_RS_ResourcesForInterference);
                });
-}
-
-bool isMixed(const CsiUse& use)
-{
-    return (use.types & (use.types - 1)) != 0;
 }
 
 // A setting that is not aperiodic has one set, and what settings share has the same time behaviour in all of them.
@@ -205,7 +228,8 @@ void csiReportVsResource(Check& check)
                    const auto type = view.channel->resourceType;
                    const bool isPeriodic =
                        view.report.reportConfigType.t == T_CSI_ReportConfig_reportConfigType_periodic;
-                   if (type == aperiodic || (isPeriodic && type == semiPersistent))
+                   if ((type == aperiodic || (isPeriodic && type == semiPersistent)) &&
+                       !contradictsItself(check, *view.csi, *view.channel))
                    {
                        check.error(&view.report.reportConfigType)
                            .allowed("its resources, of CSI-ResourceConfig %u, are %s",
@@ -241,6 +265,11 @@ void csiPeriodicityCond(Check& check)
     forCsi(check,
            [&](const Cell&, const Csi& csi)
            {
+               if (csi.resourceConfigs.repeats || csi.nzpSets.repeats || csi.nzpResources.repeats ||
+                   csi.imSets.repeats || csi.imResources.repeats)
+               {
+                   return; // gen-dup-id
+               }
                for (const IdEntry<NZP_CSI_RS_Resource>& entry : csi.nzpResources)
                {
                    const CsiUse use = useOf(csi.nzpUse, entry.id);

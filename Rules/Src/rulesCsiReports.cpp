@@ -357,7 +357,9 @@ void forMeasuredSets(Check& check, const ReportView& view, const Each& each)
     const auto nzpSet = [&](const CSI_ResourceConfig* config, OSUINT32 number) -> const NZP_CSI_RS_ResourceSet*
     {
         const auto* const id = config == nullptr ? nullptr : pick(nzpSetIds(check, *config), number);
-        return id == nullptr ? nullptr : view.csi->nzpSets.element(*id);
+        const auto* const set =
+            id == nullptr || isMixed(useOf(view.csi->nzpSetUse, *id)) ? nullptr : view.csi->nzpSets.element(*id);
+        return set == nullptr || set->m.trs_InfoPresent != 0 ? nullptr : set; // of those for tracking csi-trs speaks
     };
     const auto imSet = [&](OSUINT32 number) -> const CSI_IM_ResourceSet*
     {
@@ -620,7 +622,11 @@ void csiSubbandCount(Check& check)
             }
             if (band == nullptr)
             {
-                check.error(&frequency->csi_ReportingBand).allowed("the report is for subbands");
+                // Of one that is for the whole band csi-pucch-report speaks.
+                if (report.reportConfigType.t != T_CSI_ReportConfig_reportConfigType_periodic)
+                {
+                    check.error(&frequency->csi_ReportingBand).allowed("the report is for subbands");
+                }
                 return;
             }
             static constexpr OSUINT32 fewest = 3;

@@ -323,7 +323,9 @@ void judgeTrackingResource(Check& check, const Tracking& tracking, const NZP_CSI
     const Known<NrSpan> left = csiBand(check.model, *tracking.bwp, band);
     // The grid of four leaves up to three blocks on either side, and takes as many from 52.
     const bool isNarrow = left && (left->size == 52 || band.nrofRBs == 52);
-    if (check.decided(rbs) && left->size >= std::min(rbs->size, 24U) && !isNarrow && left->size + 7 <= rbs->size)
+    const bool isOnGrid = band.startingRB % 4 == 0 && band.nrofRBs % 4 == 0; // csi-rs-band
+    if (check.decided(rbs) && isOnGrid && left->size >= std::min(rbs->size, 24U) && !isNarrow &&
+        left->size + 7 <= rbs->size)
     {
         check.error(&band.nrofRBs)
             .found("%u RB in the bandwidth part, in a set for tracking", left->size)

@@ -158,6 +158,15 @@ void csiSpPusch(Check& check)
            });
 }
 
+bool hasPeriods(const Csi& csi, const NZP_CSI_RS_ResourceSet& set)
+{
+    bool has = false;
+    forResources(csi, set,
+                 [&](const NZP_CSI_RS_Resource& one, const auto&)
+                 { has = has || one.m.periodicityAndOffsetPresent != 0; });
+    return has;
+}
+
 // A trigger names what the report has, and no more.
 void judgeTrigger(Check& check, Cell& cell, const Csi& csi, const CSI_AssociatedReportConfigInfo& info)
 {
@@ -198,6 +207,10 @@ void judgeTrigger(Check& check, Cell& cell, const Csi& csi, const CSI_Associated
     {
         return;
     }
+    if (!imSetIds(check, *view.channel).empty())
+    {
+        return; // csi-config-kind
+    }
     const auto* const channel = &info.resourcesForChannel;
     if (channel->t == T_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet)
     {
@@ -225,7 +238,14 @@ void judgeTrigger(Check& check, Cell& cell, const Csi& csi, const CSI_Associated
     }
     const auto* const qcl = MEMBER(*nzp, qcl_info);
     const bool isNeeded = view.channel->resourceType == aperiodic;
-    const NZP_CSI_RS_ResourceSet* const set = view.csi->nzpSets.element(ids[nzp->resourceSet - 1U]);
+    const OSUINT32 setId = ids[nzp->resourceSet - 1U];
+    const NZP_CSI_RS_ResourceSet* const set =
+        isMixed(useOf(view.csi->nzpSetUse, setId)) ? nullptr : view.csi->nzpSets.element(setId);
+    const bool arePeriodic = set != nullptr && hasPeriods(*view.csi, *set);
+    if (isNeeded == arePeriodic && set != nullptr)
+    {
+        return; // csi-periodicity-cond
+    }
     if ((qcl != nullptr) != isNeeded)
     {
         check.error(&nzp->qcl_info).allowed("the resources are %s", nameOf(view.channel->resourceType));

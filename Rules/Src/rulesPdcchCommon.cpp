@@ -79,6 +79,10 @@ void pdcchCssRefs(Check& check)
                      return;
                  }
                  const PDCCH_ConfigCommon& common = *pdcch.common;
+                 if (pdcch.searchSpace(0) != nullptr)
+                 {
+                     return; // pdcch-common-list
+                 }
                  const SearchSpaceId* const ids[] = {MEMBER(common, searchSpaceSIB1),
                                                      MEMBER(common, searchSpaceOtherSystemInformation),
                                                      MEMBER(common, pagingSearchSpace), MEMBER(common, ra_SearchSpace)};

@@ -61,7 +61,8 @@ void pdcchSsCoresetRef(Check& check)
                     {
                         const Pdcch& pdcch = check.model.pdcch(bwp);
                         const auto* const id = coresetIdOf(*entry.element);
-                        if (id == nullptr || *id == 0 || pdcch.coreset(*id) != nullptr)
+                        const bool isUnnamed = pdcch.coreset(0) != nullptr; // pdcch-common-list
+                        if (id == nullptr || *id == 0 || isUnnamed || pdcch.coreset(*id) != nullptr)
                         {
                             return;
                         }

@@ -153,6 +153,10 @@ void pucchSetContent(Check& check)
                   for (const IdEntry<PUCCH_ResourceSet>& entry : lists.sets)
                   {
                       const auto ids = entries(&entry.element->resourceList);
+                      if (lists.sets.repeats || lists.resources.repeats) // gen-dup-id
+                      {
+                          return;
+                      }
                       if (entry.id != 0 && ids.size() > mostOfLargerSets)
                       {
                           check.error(&entry.element->resourceList)
@@ -535,7 +539,7 @@ void pucchSrResource(Check& check)
                       }
                       const PUCCH_Resource* const resource =
                           id == nullptr ? nullptr : check.resolve(lists.resources, *id, id, aResource);
-                      if (resource != nullptr && !isSmall(*resource))
+                      if (resource != nullptr && !lists.resources.repeats && !isSmall(*resource))
                       {
                           check.error(id)
                               .found("%u, of format %u", *id, resource->format.t - 1)
@@ -766,8 +770,11 @@ bool judgeCsiResource(Check& check, const Cell& cell, const PUCCH_CSI_Resource& 
     }
     if (bwp == nullptr)
     {
-        check.missing(cell.complete || any->novelty == Novelty::New, &id)
-            .allowed("uplink bandwidth part %u has no pucch-Config", id);
+        const bool isWhole = cell.complete || any->novelty == Novelty::New;
+        if (!isWhole || !cell.isSpCell() || any->isInitial()) // of the others pucch-one-uplink speaks
+        {
+            check.missing(isWhole, &id).allowed("uplink bandwidth part %u has no pucch-Config", id);
+        }
         return false;
     }
     const PUCCH_Resource* const resource =

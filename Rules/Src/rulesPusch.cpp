@@ -143,10 +143,25 @@ bool isNonCodebook(const PUSCH_Config& pusch)
 void puschCodebookCond(Check& check)
 {
     forPusch(check,
-             [&](const Bwp&, const PUSCH_Config& pusch)
+             [&](Bwp& bwp, const PUSCH_Config& pusch)
              {
-                 codebookCond(check, isCodebook(pusch), pusch.m.codebookSubsetPresent != 0, &pusch.codebookSubset);
-                 codebookCond(check, isCodebook(pusch), pusch.m.maxRankPresent != 0, &pusch.maxRank);
+                 const bool hasSubset = pusch.m.codebookSubsetPresent != 0;
+                 const bool hasRank = pusch.m.maxRankPresent != 0;
+                 const Srs& srs = check.model.srs(bwp);
+                 const bool isSoundedFor = srsSetFor(srs, SRS_ResourceSet_usage_codebook) != nullptr;
+                 if (hasSubset && hasRank && isNonCodebook(pusch) && isSoundedFor)
+                 {
+                     return; // pusch-txconfig-srs
+                 }
+                 if (hasSubset == hasRank && hasSubset != isCodebook(pusch))
+                 {
+                     check.error(&pusch.txConfig)
+                         .allowed(hasSubset ? "codebookSubset and maxRank go with codebook"
+                                            : "there is neither codebookSubset nor maxRank");
+                     return;
+                 }
+                 codebookCond(check, isCodebook(pusch), hasSubset, &pusch.codebookSubset);
+                 codebookCond(check, isCodebook(pusch), hasRank, &pusch.maxRank);
              });
 }
 

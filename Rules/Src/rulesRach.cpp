@@ -1,6 +1,7 @@
 // Random access and beam failure recovery.
 #include "examplePaths.h"
 #include "rules.h"
+#include "searchSpaces.h"
 #include "uplink.h"
 
 namespace rules
@@ -643,6 +644,13 @@ void rachOfBwp(Check& check, Cell& cell, const Bwp& bwp, const RACH_ConfigCommon
     if (!cell.isSpCell() || !pdcch.isCommonKnown || (pdcch.common == nullptr && !check.model.isWhole(*linked)))
     {
         return;
+    }
+    const bool hasSpace =
+        std::any_of(pdcch.allSearchSpaces.begin(), pdcch.allSearchSpaces.end(),
+                    [&](const SearchSpaceEntry& entry) { return commonType(check.tree, *entry.element) != nullptr; });
+    if (pdcch.common == nullptr && !hasSpace)
+    {
+        return; // bwp-spcell-css
     }
     if (pdcch.common == nullptr)
     {

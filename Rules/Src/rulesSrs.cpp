@@ -103,6 +103,14 @@ void portsOfSet(Check& check, const SrsSet& set)
     }
 }
 
+// Whether PUSCH has the other of the two usages, which pusch-txconfig-srs tells.
+bool isOtherUsage(const Bwp& bwp, const SRS_ResourceSet& set)
+{
+    const bool isCodebook = set.usage == SRS_ResourceSet_usage_codebook;
+    return bwp.pusch != nullptr && bwp.pusch->m.txConfigPresent != 0 &&
+           (bwp.pusch->txConfig == PUSCH_Config_txConfig_codebook) != isCodebook;
+}
+
 void srsSetSize(Check& check)
 {
     const Bwp* last = nullptr;
@@ -130,7 +138,10 @@ void srsSetSize(Check& check)
                 {
                     check.error(ids).allowed("a set of that usage has at most %u", most);
                 }
-                portsOfSet(check, set);
+                if (!isOtherUsage(bwp, *set.set))
+                {
+                    portsOfSet(check, set);
+                }
             });
 }
 

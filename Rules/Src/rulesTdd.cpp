@@ -46,7 +46,7 @@ void tddPeriodScs(Check& check)
                 [&](const TDD_UL_DL_Pattern& pattern, OSUINT32 mu)
                 {
                     const OSUINT32 period = patternOf(pattern).period;
-                    if (period != 0 && nrTddPeriodAllowed(period, mu) == 0)
+                    if (mu < highestMu && period != 0 && nrTddPeriodAllowed(period, mu) == 0)
                     {
                         atPeriod(check, pattern).allowed("%u kHz as reference does not go with that period", khzOf(mu));
                     }
@@ -143,6 +143,10 @@ void tddRefScs(Check& check)
         const OSUINT32 mu = muOf(config->referenceSubcarrierSpacing);
         const auto* const at = &config->referenceSubcarrierSpacing;
         const bool isFr2 = cell.range && *cell.range == RRC_RULE_RANGE_FR2;
+        if (mu > highestMu)
+        {
+            continue; // gen-spare-value
+        }
         if (check.decided(cell.range) && (isFr2 ? mu != 2 && mu != 3 : mu > 2))
         {
             check.error(at).allowed("in FR%u it is %s kHz", isFr2 ? 2U : 1U, isFr2 ? "60 or 120" : "15, 30 or 60");

@@ -119,7 +119,7 @@ Known<int64_t> coreset0Start(const Model& model, const Cell& cell)
     const FrequencyInfoDL* const frequency = cell.frequencyDl();
     const ARFCN_ValueNR* const ssb = frequency == nullptr ? nullptr : MEMBER(*frequency, absoluteFrequencySSB);
     const Known<NrCoreset0> coreset = coreset0Of(model, cell);
-    if (ssb == nullptr || !coreset || coreset->offset < 0)
+    if (ssb == nullptr || !coreset || coreset->offset < 0 || nrIsOnSyncRaster(nrArfcnKhz(*ssb)) == 0)
     {
         return Known<int64_t>::unless(RRC_RULE_INPUT_COMMON | coreset.inputs());
     }

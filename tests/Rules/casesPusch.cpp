@@ -86,6 +86,12 @@ void ofTransmission(CaseTable& table)
         .good()
         .fires(AT_PUSCH "maxRank", AT_PUSCH "maxRank = absent")
         .fires(AT_PUSCH "codebookSubset", AT_PUSCH "txConfig = absent\n" AT_PUSCH "maxRank = absent")
+        // One slip is told once.
+        .fires(AT_PUSCH "txConfig", AT_PUSCH "txConfig = absent")
+        .saying("absent, but codebookSubset and maxRank go with codebook")
+        .fires(AT_PUSCH "txConfig", AT_PUSCH "codebookSubset = absent\n" AT_PUSCH "maxRank = absent")
+        .saying("there is neither codebookSubset nor maxRank")
+        .silent(AT_PUSCH "codebookSubset = absent\n" AT_PUSCH "maxRank = absent\n" AT_PUSCH "txConfig = absent")
         .fires(AT_PUSCH "maxRank", AT_PUSCH "txConfig = absent\n" AT_PUSCH "codebookSubset = absent")
         .fires(AT_PUSCH "codebookSubset", AT_PUSCH "codebookSubset = absent")
         .with(inDelta);
