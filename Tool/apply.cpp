@@ -7,58 +7,6 @@ namespace tool
 namespace
 {
 
-// What a complete message leaves behind.
-Encoding stateAfter(const RtxPdu& pdu, const Encoding& message)
-{
-    Trees trees(pdu);
-    void* const state = trees.room();
-    if (rtxState(trees.context(), trees.type(), trees.decoded(message), state) != RTX_OK)
-    {
-        trees.fail();
-    }
-    return trees.encoded(state);
-}
-
-// What is told of a message that is applied.
-struct Told
-{
-    Session& session;
-    const std::string place;
-    std::string refusal;
-};
-
-// Each message has a context of its own, so that a log of any length takes the memory of one message.
-Encoding stateAfter(Session& session, const std::optional<Encoding>& held, const Encoding& delta,
-                    const std::string& place)
-{
-    Trees trees(*session.common().type);
-    Told told{session, place + ": ", {}};
-    const auto sink = [](void* to, const RtxDeltaItem* item)
-    {
-        auto& [output, where, refusal] = *static_cast<Told*>(to);
-        if (item->kind == RTX_DELTA_REFUSED)
-        {
-            refusal = itemText(*item);
-        }
-        else
-        {
-            output.say(where + itemText(*item));
-        }
-    };
-    void* const state = trees.room();
-    const int status =
-        rtxApply(trees.context(), trees.type(), trees.decoded(held), trees.decoded(delta), state, sink, &told);
-    if (status == RTX_E_DELTA)
-    {
-        throw Failure(Exit::Findings, told.place + told.refusal);
-    }
-    if (status != RTX_OK)
-    {
-        trees.fail(place);
-    }
-    return trees.encoded(state);
-}
-
 std::string shown(Session& session, Encoding&& state, StateForm form)
 {
     if (const auto* const octets = std::get_if<OctetsForm>(&form))

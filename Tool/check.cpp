@@ -1,8 +1,12 @@
-// check: all that breaks a constraint of the ASN.1 or a rule of its encoding.
+// check: all that breaks a constraint of the ASN.1, a rule of its encoding or a rule between the members.
 #include "commands.h"
-#include "message.h"
+#include "encodingFindings.h"
+#include "findingPath.h"
+#include "projectFile.h"
+#include "ruleFindings.h"
+#include "silences.h"
 #include "text.h"
-#include "trace.h"
+#include "textPlaces.h"
 
 #include <algorithm>
 
@@ -11,177 +15,269 @@ namespace tool
 namespace
 {
 
-struct Kind
+class Checker
 {
-    const char* id;
-    const char* clause;
-    const char* advice;
+public:
+    Checker(Session& session, const CheckOptions& options, ProjectFile&& project)
+        : session_(session),
+          options_(options),
+          project_(std::move(project)),
+          choice_{Ids(options.only, "--only"), Ids(options.disabled, "--disable")},
+          isCellGroup_(session.common().type->type == asn1Type_CellGroupConfig()),
+          isVerdict_(session.common().lines && options.form == FindingsForm::Text),
+          inputs_(session, settings()),
+          known_(inputs_.context()),
+          held_(inputs_.held())
+    {
+        if (isVerdict_)
+        {
+            session.verdicts();
+        }
+        if (options.isChain)
+        {
+            beginChain();
+        }
+    }
+
+    void look(const Given& given)
+    {
+        Message message(*session_.common().type, given);
+        Findings all{{given.source, given.line}, encodingFindings(message, given), {}, {}};
+        const bool isRead = message.error() == nullptr && message.mistakes().empty();
+        if (isRead && isCellGroup_)
+        {
+            RuleVerdict verdict = ruleFindings(message, known_, held_, choice_);
+            std::move(verdict.findings.begin(), verdict.findings.end(), std::back_inserter(all.findings));
+            all.undecided = std::move(verdict.undecided);
+        }
+        sortByPlace(all.findings);
+        std::vector<Silence> own;
+        if (isRead && message.isText())
+        {
+            own = readPlaces(given, all.findings);
+        }
+        dropUnwanted(all.findings);
+        silence(given, own, all);
+        const Severity shown = options_.shown;
+        std::erase_if(all.findings, [&](const Finding& finding) { return finding.severity < shown; });
+        raise(message, all.findings);
+        tell(given, std::move(all));
+        if (options_.isChain && isRead)
+        {
+            goOn(message, given);
+        }
+    }
+
+    void finish()
+    {
+        if (options_.form != FindingsForm::Text)
+        {
+            session_.put(writeFindings(all_, options_.form, look_));
+        }
+        tellUnused(project_.silences);
+    }
+
+private:
+    // The command line's, then the project's.
+    Settings settings() const
+    {
+        if (isCellGroup_)
+        {
+            return merged(options_.context, project_.context);
+        }
+        if (!options_.context.empty())
+        {
+            throw Failure(Exit::Usage, options_.context.front().origin + ": rules are of CellGroupConfig, not of " +
+                                           session_.common().type->name);
+        }
+        return {};
+    }
+
+    void sortByPlace(std::vector<Finding>& findings) const
+    {
+        std::vector<std::pair<std::vector<std::uint32_t>, Finding>> placed;
+        for (Finding& finding : findings)
+        {
+            std::vector<std::uint32_t> order = placeOrder(*session_.common().type->type, finding.path);
+            placed.emplace_back(std::move(order), std::move(finding));
+        }
+        std::stable_sort(placed.begin(), placed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+        findings.clear();
+        for (auto& [order, finding] : placed)
+        {
+            findings.push_back(std::move(finding));
+        }
+    }
+
+    // Where the findings are in the text, and what its comments silence.
+    std::vector<Silence> readPlaces(const Given& given, std::vector<Finding>& findings) const
+    {
+        std::set<std::string> paths;
+        for (const Finding& finding : findings)
+        {
+            paths.insert(plainPath(finding.path));
+        }
+        const TextPlaces places(session_.common().type->name, given.input, paths);
+        const auto put = [&](Finding& finding, const Place& place)
+        {
+            finding.line = given.line == 0 ? place.line : given.line;
+            finding.column = place.column;
+        };
+        for (Finding& finding : findings)
+        {
+            if (!finding.configuredBefore)
+            {
+                put(finding, places.find(plainPath(finding.path)));
+            }
+        }
+        std::vector<Silence> silences;
+        for (TextComment comment : places.comments())
+        {
+            std::string mistake;
+            comment.place.line = given.line == 0 ? comment.place.line : given.line;
+            if (auto silence = silenceOf(comment, given.source, mistake))
+            {
+                silences.push_back(std::move(*silence));
+                continue;
+            }
+            Finding finding;
+            finding.id = "silence";
+            finding.path = comment.path;
+            finding.message = mistake;
+            finding.advice = wordsOf(finding.id).advice;
+            put(finding, comment.place);
+            findings.push_back(std::move(finding));
+        }
+        return silences;
+    }
+
+    void dropUnwanted(std::vector<Finding>& findings) const
+    {
+        std::erase_if(findings,
+                      [&](const Finding& finding) { return wrongId(finding.id).empty() && !choice_.has(finding.id); });
+    }
+
+    void silence(const Given& given, std::vector<Silence>& own, Findings& all)
+    {
+        std::vector<Silence*> silences;
+        for (std::vector<Silence>* const of : {&own, &project_.silences})
+        {
+            for (Silence& one : *of)
+            {
+                silences.push_back(&one);
+            }
+        }
+        all.silenced = silenced(all.findings, silences);
+        tellUnused(own);
+        if (!all.silenced.empty() && options_.form == FindingsForm::Text && !isVerdict_)
+        {
+            session_.say(given.place() + ": " + counted(all.silenced.size(), "finding") + " silenced");
+        }
+    }
+
+    void tellUnused(const std::vector<Silence>& silences)
+    {
+        for (const Silence& one : silences)
+        {
+            if (!one.isUsed)
+            {
+                session_.note(one.by + ": nothing is silenced, " + one.rule +
+                              (one.path.empty() ? "" : " at " + one.path) + " has no finding");
+            }
+        }
+    }
+
+    void raise(const Message& message, const std::vector<Finding>& findings)
+    {
+        const bool fails = options_.failOn &&
+                           std::any_of(findings.begin(), findings.end(),
+                                       [&](const Finding& finding) { return finding.severity >= *options_.failOn; });
+        if (message.error() != nullptr || fails)
+        {
+            session_.raise(message.error() != nullptr ? Exit::Malformed : Exit::Findings);
+        }
+    }
+
+    void tell(const Given& given, Findings&& findings)
+    {
+        if (options_.form != FindingsForm::Text)
+        {
+            all_.push_back(std::move(findings));
+            return;
+        }
+        if (isVerdict_)
+        {
+            const std::string counts = countText(findings);
+            session_.put(given.place() + ": " + (counts.empty() ? "no finding" : counts) + "\n");
+        }
+        session_.put(writeFindings({std::move(findings)}, options_.form, look_));
+    }
+
+    // Without earlier messages the first one is the UE's first.
+    void beginChain()
+    {
+        if (known_.fullConfig != 0)
+        {
+            throw Failure(Exit::Usage, "--chain: not every message has fullConfig");
+        }
+        if (!held_ && known_.extent == RRC_RULE_EXTENT_DELTA)
+        {
+            throw Failure(Exit::Usage, "--chain: begins with --previous or with nothing, not with --delta");
+        }
+        if (!held_)
+        {
+            known_.extent = RRC_RULE_EXTENT_FULL;
+        }
+    }
+
+    // To what the UE holds after the message. One that cannot be applied was told as a finding.
+    void goOn(Message& message, const Given& given)
+    {
+        try
+        {
+            held_ = stateAfter(session_, held_, message.encode(), given.place());
+        }
+        catch (const Failure& failure)
+        {
+            session_.say(std::string(failure.what()) + "; the next message is checked without it");
+        }
+    }
+
+    Session& session_;
+    const CheckOptions& options_;
+    ProjectFile project_;
+    RuleChoice choice_;
+    bool isCellGroup_;
+    bool isVerdict_;
+    FindingsLook look_{session_.color(), session_.common().verbose};
+    RuleInputs inputs_;
+    RrcRuleContext known_;
+    std::optional<Encoding> held_;
+    std::vector<Findings> all_;
 };
 
-// What RtxStatus stands for.
-Kind kindOf(OSINT32 status)
+ProjectFile projectOf(Session& session, const CheckOptions& options)
 {
-    switch (status)
+    if (!options.hasProject)
     {
-    case RTX_E_RANGE:
-        return {"asn1-range", "X.680 51.4", ""};
-    case RTX_E_SIZE:
-        return {"asn1-size", "X.680 51.5", ""};
-    case RTX_E_CHOICE:
-        return {"asn1-choice", "X.680 29", ""};
-    case RTX_E_BITS:
-        return {"asn1-bits", "X.680 51.5", ""};
-    case RTX_E_END:
-        return {"per-end", "", "The message is cut off, or it is of another type or release."};
-    case RTX_E_PADDING:
-        return {"per-padding", "X.691 11.1",
-                "The message is of another type, or its end is not where it is taken for."};
-    case RTX_E_SURPLUS:
-        return {"per-surplus", "X.691 11.1", "Leave out what follows the message."};
-    case RTX_E_LENGTH:
-        return {"per-length", "X.691 11.9", ""};
-    case RTX_E_EXTENSION:
-        return {"per-extension", "X.691 19.7", ""};
-    case RTX_E_DEPTH:
-        return {"depth", "", ""};
-    case RTX_E_HEAP:
-        return {"memory", "", ""};
-    default:
-        return {"tree", "", ""};
+        return {};
     }
-}
-
-std::string rangeText(std::int64_t lower, std::int64_t upper)
-{
-    return lower == upper ? std::to_string(lower) : std::to_string(lower) + ".." + std::to_string(upper);
-}
-
-Finding findingOf(const RtxError& error)
-{
-    const Kind kind = kindOf(error.status);
-    const std::string line = errorText(error);
-    const std::size_t colon = line.find(": ");
-    Finding finding;
-    finding.id = kind.id;
-    finding.path = line.substr(0, colon);
-    finding.message = line.substr(colon + 2);
-    finding.advice = kind.advice;
-    finding.clause = kind.clause;
-    if (error.status == RTX_E_RANGE || error.status == RTX_E_SIZE || error.status == RTX_E_CHOICE ||
-        error.status == RTX_E_BITS)
+    const std::string name = options.project.empty() ? projectFileName() : options.project;
+    if (name.empty())
     {
-        finding.value = std::to_string(error.value);
-        finding.allowed = rangeText(error.lower, error.upper);
+        return {};
     }
-    return finding;
-}
-
-Finding findingOf(const Message::Mistake& mistake, const Given& given, const RtxPdu& pdu)
-{
-    Finding finding;
-    finding.id = given.input.form == Form::Jer ? "jer" : "flat";
-    finding.path = mistake.path.empty() ? pdu.name : mistake.path;
-    finding.message = mistake.words;
-    finding.line = given.line == 0 ? mistake.line : given.line;
-    finding.column = mistake.column;
-    return finding;
-}
-
-Finding note(const char* id, const RtxPdu& pdu, const std::string& message, const char* clause)
-{
-    Finding finding;
-    finding.id = id;
-    finding.severity = Severity::Note;
-    finding.path = pdu.name;
-    finding.message = message;
-    finding.clause = clause;
-    return finding;
-}
-
-std::vector<Finding> findingsOf(const Message& message, const Given& given)
-{
-    std::vector<Finding> all;
-    for (const Message::Mistake& mistake : message.mistakes())
-    {
-        all.push_back(findingOf(mistake, given, message.pdu()));
-    }
-    if (const RtxError* const error = message.error())
-    {
-        all.push_back(findingOf(*error));
-    }
-    if (!all.empty())
-    {
-        return all;
-    }
-    const auto sink = [](void* to, const RtxError* finding)
-    {
-        static_cast<std::vector<Finding>*>(to)->push_back(findingOf(*finding));
-        return 0;
-    };
-    (void)rtxCheck(&message.context(), message.pdu().type, message.value(), sink, &all);
-    if (message.isText())
-    {
-        return all;
-    }
-    const RtxDecoded& decoded = message.context().decoded;
-    if (decoded.unknown != 0)
-    {
-        all.push_back(note("unknown-addition", message.pdu(),
-                           counted(decoded.unknown, "addition") + " of a later release, kept as octets", "X.691 19.7"));
-    }
-    if (decoded.note != RTX_NOTE_NONE)
-    {
-        const std::string text = noteText(message.pdu(), given.input.octets);
-        Finding finding =
-            note("per-not-canonical", message.pdu(),
-                 text.substr(text.find(": ") + 2) + "; encoding the message again gives other octets", "X.691 6.1");
-        finding.path = text.substr(0, text.find(": "));
-        all.push_back(std::move(finding));
-    }
-    return all;
-}
-
-bool isFinding(const Finding& finding)
-{
-    return finding.severity != Severity::Note;
+    session.note("project file " + name);
+    return readProjectFile(name);
 }
 
 } // namespace
 
-void check(Session& session, const Operands& operands, FindingsForm form)
+void check(Session& session, const Operands& operands, const CheckOptions& options)
 {
-    const bool isVerdict = session.common().lines && form == FindingsForm::Text;
-    if (isVerdict)
-    {
-        session.verdicts();
-    }
-    std::vector<Findings> all;
-    const auto look = [&](const Given& given)
-    {
-        const Message message(*session.common().type, given);
-        Findings findings = {{given.source, given.line}, findingsOf(message, given)};
-        const auto count =
-            static_cast<std::size_t>(std::count_if(findings.findings.begin(), findings.findings.end(), isFinding));
-        if (count != 0)
-        {
-            session.raise(message.error() != nullptr ? Exit::Malformed : Exit::Findings);
-        }
-        if (form != FindingsForm::Text)
-        {
-            all.push_back(std::move(findings));
-            return;
-        }
-        if (isVerdict)
-        {
-            session.put(given.place() + ": " + (count == 0 ? "no finding" : counted(count, "finding")) + "\n");
-        }
-        session.put(writeFindings({std::move(findings)}, form, session.color()));
-    };
-    session.forEach(operands, look);
-    if (form != FindingsForm::Text)
-    {
-        session.put(writeFindings(all, form, false));
-    }
+    Checker checker(session, options, projectOf(session, options));
+    session.forEach(operands, [&](const Given& given) { checker.look(given); });
+    checker.finish();
 }
 
 } // namespace tool

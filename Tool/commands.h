@@ -4,6 +4,7 @@
 #include "findings.h"
 #include "messageForms.h"
 #include "rrcNesting.h"
+#include "ruleInputs.h"
 
 #include <string>
 #include <variant>
@@ -38,7 +39,19 @@ void delta(Session& session, const std::string& prev, const std::string& next, c
 using StateForm = std::variant<OctetsForm, DecodeForm>;
 void apply(Session& session, const std::string& prev, const Operands& deltas, StateForm form);
 
-void check(Session& session, const Operands& operands, FindingsForm form);
+struct CheckOptions
+{
+    FindingsForm form;
+    Severity shown;                 // the least
+    std::optional<Severity> failOn; // the least that is a failure; nothing: none is
+    std::vector<std::string> only;  // ids, or the beginnings of several
+    std::vector<std::string> disabled;
+    Settings context;
+    bool hasProject;     // a project file is read
+    std::string project; // empty: the one around the working directory
+    bool isChain;        // each message comes on top of those before it
+};
+void check(Session& session, const Operands& operands, const CheckOptions& options);
 
 struct FindOptions
 {
@@ -50,7 +63,10 @@ void find(Session& session, const Operands& operands, const FindOptions& options
 
 void pcap(Session& session, const Operands& operands, Nesting nesting);
 
-// An empty path lists the named types.
-void explain(Session& session, const std::string& path, bool tree);
+// The table of rules, of which an id begins with one of the prefixes; without prefixes all.
+void rules(Session& session, const Operands& prefixes, bool json);
+
+// A rule's id, a type, a path or a member's name. An empty name lists the named types.
+void explain(Session& session, const std::string& name, bool tree);
 
 } // namespace tool

@@ -1,6 +1,9 @@
-// explain: what the schema says of a place, from the descriptors alone.
+// explain: what the schema says of a place, from the descriptors alone; what a rule says, from the table of rules.
 #include "commands.h"
 #include "messageTypes.h"
+#include "nearest.h"
+#include "rows.h"
+#include "ruleTable.h"
 #include "schemaPath.h"
 #include "style.h"
 #include "version.h"
@@ -11,8 +14,6 @@ namespace tool
 {
 namespace
 {
-
-constexpr std::size_t width = 100; // columns of wrapped lists
 
 std::string range(std::int64_t lower, std::int64_t upper)
 {
@@ -169,8 +170,7 @@ public:
 private:
     void row(std::string_view label, const std::string& text)
     {
-        constexpr std::size_t column = 13;
-        session_.put("  " + std::string(label) + std::string(column - label.size(), ' ') + text + "\n");
+        session_.put(tool::row(label, text));
     }
 
     static std::string bitsText(const RtxType& type)
@@ -203,7 +203,7 @@ private:
         for (std::int32_t i = 0; i <= type.upper; ++i)
         {
             const std::string value = std::to_string(i) + " " + type.names[i] + (i == type.upper ? "" : ",");
-            if (!line.empty() && line.size() + value.size() > width)
+            if (!line.empty() && line.size() + value.size() > rowWidth)
             {
                 row(label, line);
                 label = "";
@@ -286,43 +286,69 @@ void listTypes(Session& session)
     }
 }
 
+[[noreturn]] void nothingNamed(const std::string& name)
+{
+    std::vector<std::string_view> known = ruleIds();
+    for (const RtxPdu& pdu : rtxPdus)
+    {
+        known.emplace_back(pdu.name);
+        const RtxType& type = *pdu.type;
+        if (hasMembers(type))
+        {
+            known.insert(known.end(), type.names, type.names + type.memberCount);
+        }
+    }
+    const auto close = text::nearest(name, known);
+    throw Failure(Exit::Usage, "there is no rule, type or member '" + name + "'" +
+                                   (close ? "; did you mean " + std::string(*close) + "?" : ""));
+}
+
 // A single name that is no type may be a member's.
-bool explainMember(Session& session, const std::string& name, bool tree)
+void explainMember(Session& session, const std::string& name, bool tree)
 {
     const std::vector<SchemaPlace> places = placesNamed(*typeNamed("CellGroupConfig").type, name);
     if (places.empty())
     {
-        return false;
+        nothingNamed(name);
     }
     if (places.size() == 1)
     {
         Explanation(session, findPlaces(places[0].path)).write(tree);
-        return true;
+        return;
     }
     for (const SchemaPlace& place : places)
     {
         session.put(place.path + "\n");
     }
-    return true;
 }
 
 } // namespace
 
-void explain(Session& session, const std::string& path, bool tree)
+void explain(Session& session, const std::string& name, bool tree)
 {
-    if (path.empty())
+    if (name.empty())
     {
         listTypes(session);
         return;
     }
+    if (const RrcRule* const rule = rrcRuleById(name.c_str()))
+    {
+        session.put(ruleText(*rule, session.color()));
+        return;
+    }
+    if (const IdWords words = wordsOf(name); !words.statement.empty())
+    {
+        session.put(idText(name, words, session.color()));
+        return;
+    }
     try
     {
-        if (findType(path) == nullptr && path.find_first_of(".[") == std::string::npos &&
-            explainMember(session, path, tree))
+        if (findType(name) == nullptr && name.find_first_of(".[") == std::string::npos)
         {
+            explainMember(session, name, tree);
             return;
         }
-        Explanation(session, findPlaces(path)).write(tree);
+        Explanation(session, findPlaces(name)).write(tree);
     }
     catch (const PathError& error)
     {

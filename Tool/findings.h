@@ -10,25 +10,47 @@
 namespace tool
 {
 
+// In the order of their weight.
 enum class Severity
 {
-    Error,
+    Notice,
     Warning,
-    Note,
+    Error,
 };
+
+std::optional<Severity> severityNamed(std::string_view name);
 
 struct Finding
 {
     std::string id; // names the rule, the same for all that break it: "asn1-range"
     Severity severity = Severity::Error;
-    std::string path;     // ASN.1 path of the place in the message
-    std::string message;  // what is wrong, one sentence without the path
-    std::string value;    // what is there; empty when there is nothing to show
-    std::string allowed;  // what could be there
-    std::string advice;   // what to do
-    std::string clause;   // the standard's: "X.680 51.4"
-    std::size_t line = 0; // of the place in a text, both from 1; 0 when there is none
+    std::string path;                   // ASN.1 path of the place in the message
+    std::string message;                // what is wrong, one sentence without the path
+    std::string value;                  // what is there; empty when there is nothing to show
+    std::string allowed;                // what could be there
+    std::string advice;                 // what to do
+    std::string clause;                 // the standard's: "X.680 51.4"
+    std::string context;                // "path = value" of the place, or of what is around it when it is absent
+    std::vector<std::string> decidedBy; // options that could change the verdict: "--fr or --band"
+    bool configuredBefore = false;      // an earlier message has brought the place
+    std::size_t line = 0;               // of the place in a text, both from 1; 0 when there is none
     std::size_t column = 0;
+};
+
+// A finding that is not counted, and why.
+struct Silenced
+{
+    Finding finding;
+    std::string reason;
+    std::string by;        // where that is said: ".cellgroupcfg.toml:7"
+    bool isInText = false; // in the message itself
+};
+
+// A rule that could not be decided everywhere, and the options that would do it.
+struct Undecided
+{
+    std::string id;
+    std::vector<std::string> decidedBy;
 };
 
 // Where the message of the findings was given.
@@ -42,11 +64,13 @@ struct Findings
 {
     Origin origin;
     std::vector<Finding> findings;
+    std::vector<Silenced> silenced;
+    std::vector<Undecided> undecided;
 };
 
 enum class FindingsForm
 {
-    Text,  // a line each, with what is allowed and what to do
+    Text,  // a line each, with the value's line, what to do and the clause
     Gcc,   // "file:line: error: path: message [id]", which editors and builds understand
     Json,  // one object, "version" tells its layout
     Sarif, // 2.1.0
@@ -54,7 +78,16 @@ enum class FindingsForm
 
 std::optional<FindingsForm> findingsFormNamed(std::string_view name);
 
-// The findings of all messages as one text. `color` is for Text alone.
-std::string writeFindings(const std::vector<Findings>& all, FindingsForm form, bool color);
+struct FindingsLook
+{
+    bool color;   // of Text
+    bool verbose; // Text and Json tell what is undecided, Text what is silenced, too
+};
+
+// The findings of all messages as one text.
+std::string writeFindings(const std::vector<Findings>& all, FindingsForm form, const FindingsLook& look);
+
+// "1 error, 2 warnings"; empty of none.
+std::string countText(const Findings& findings);
 
 } // namespace tool

@@ -8,6 +8,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <functional>
@@ -65,7 +66,8 @@ public:
                     "  cellgroupcfg diff before.hex after.hex      what has changed\n"
                     "  cellgroupcfg delta before.hex after.hex     the message that brings it about\n"
                     "  cellgroupcfg find capture.pcap --decode     the cell groups in anything\n"
-                    "  cellgroupcfg explain t304                   what may stand there\n");
+                    "  cellgroupcfg explain t304                   what may stand there\n"
+                    "  cellgroupcfg explain bwp-in-carrier         what a rule says\n");
         app_.set_help_flag("-h,--help", "This help, for a command its own");
         app_.set_version_flag("--version", versionText, "Version, the standard's release and the commit");
         app_.require_subcommand(1);
@@ -78,6 +80,7 @@ public:
         check();
         find();
         pcap();
+        rules();
         explain();
     }
 
@@ -429,18 +432,88 @@ private:
 
     void check()
     {
-        CLI::App& app =
-            command("check", "Tell all that breaks a constraint of the ASN.1.",
-                    "  cellgroupcfg check message.json\n"
-                    "  cellgroupcfg check --format gcc *.hex\n"
-                    "  cellgroupcfg check --format sarif message.json > findings.sarif\n"
-                    "  cellgroupcfg check --lines log.txt\n",
-                    [this](Session& session) { tool::check(session, operands_, *tool::findingsFormNamed(format_)); });
+        CLI::App& app = command("check", "Tell all that breaks the ASN.1, its encoding or the rules between members.",
+                                "  cellgroupcfg check message.json\n"
+                                "  cellgroupcfg check --previous has.hex delta.hex\n"
+                                "  cellgroupcfg check --full --band n78 --carrier 30:0:273 -v message.hex\n"
+                                "  cellgroupcfg check --only rlc- --fail-on warning message.hex\n"
+                                "  cellgroupcfg check --format sarif *.hex > findings.sarif\n"
+                                "  cellgroupcfg check --lines --chain log.txt\n",
+                                [this](Session& session) { tool::check(session, operands_, checkOptions()); });
         messages(app);
         type(app);
         app.add_option("--format", format_, "text, gcc, json or sarif")
             ->option_text("FORMAT")
             ->check(CLI::IsMember({"text", "gcc", "json", "sarif"}));
+        app.add_option("--severity", severity_,
+                       "The least that is shown: error, warning or notice; warning if not said")
+            ->option_text("SEVERITY")
+            ->check(CLI::IsMember({"error", "warning", "notice"}));
+        app.add_option("--fail-on", failOn_, "The least that ends with 1: error, warning, notice or never")
+            ->option_text("SEVERITY")
+            ->check(CLI::IsMember({"error", "warning", "notice", "never"}));
+        words(app, "--only", only_, "Nothing but these rules, or those that begin so: bwp-");
+        words(app, "--disable", disabled_, "Not these rules");
+        app.add_option("--config", project_, "Read this project file; .cellgroupcfg.toml if not said")
+            ->option_text("FILE");
+        app.add_flag("--no-config", noProject_, "Read no project file");
+        app.add_flag("--chain", chain_, "Each message comes on top of those before it, the first one of --previous");
+        for (const tool::InputOption& option : tool::inputOptions())
+        {
+            known(app, option);
+        }
+    }
+
+    static void words(CLI::App& app, const std::string& name, std::vector<std::string>& to,
+                      const std::string& description)
+    {
+        app.add_option(name, to, description)->option_text("RULE")->delimiter(',')->allow_extra_args(false);
+    }
+
+    // What is known besides the message.
+    void known(CLI::App& app, const tool::InputOption& option)
+    {
+        const std::string name = "--" + std::string(option.name);
+        const auto add = [this, &option, name](const std::string& value)
+        {
+            settings_.push_back({&option, value, name});
+        };
+        const auto addAll = [add](const std::vector<std::string>& values)
+        {
+            std::for_each(values.begin(), values.end(), add);
+        };
+        const bool isFlag = *option.argument == '\0';
+        CLI::Option* const made =
+            isFlag ? app.add_flag_callback(
+                         name, [add] { add(""); }, option.description)
+                   : app.add_option_function<std::vector<std::string>>(name, addAll, option.description)
+                         ->option_text(option.argument)
+                         ->allow_extra_args(false);
+        made->group("What is known besides the message");
+    }
+
+    tool::CheckOptions checkOptions() const
+    {
+        if (noProject_ && !project_.empty())
+        {
+            throw Failure(Exit::Usage, "--config and --no-config exclude each other");
+        }
+        const auto failOn = tool::severityNamed(failOn_); // never: none
+        const auto usual = common_.verbose ? tool::Severity::Notice : tool::Severity::Warning;
+        const auto shown = tool::severityNamed(severity_).value_or(failOn ? std::min(usual, *failOn) : usual);
+        if (failOn && *failOn < shown)
+        {
+            throw Failure(Exit::Usage, "--fail-on " + failOn_ + ": what fails is shown, say --severity " + failOn_);
+        }
+        return {*tool::findingsFormNamed(format_),
+                shown,
+                failOn,
+                only_,
+                disabled_,
+                settings_,
+                !noProject_,
+                project_,
+                chain_};
     }
 
     void find()
@@ -486,16 +559,30 @@ private:
                                                    : tool::Nesting::Bare;
     }
 
+    void rules()
+    {
+        CLI::App& app = command("rules", "List the rules of what holds between the members of a cell group.",
+                                "  cellgroupcfg rules                          all of them\n"
+                                "  cellgroupcfg rules bwp pdcch-coreset        those whose ids begin so\n"
+                                "  cellgroupcfg rules --json > rules.json\n",
+                                [this](Session& session) { tool::rules(session, operands_, json_); });
+        app.add_option("PREFIX", operands_, "What ids begin with, such as a group: bwp")->option_text("...");
+        app.add_flag("--json", json_, "All that explain tells of them, as JSON");
+    }
+
     void explain()
     {
-        CLI::App& app = command("explain", "Tell what the schema says of a type, a path or a member.",
-                                "  cellgroupcfg explain RLC-Config\n"
-                                "  cellgroupcfg explain CellGroupConfig.spCellConfig.reconfigurationWithSync.t304\n"
-                                "  cellgroupcfg explain t304\n"
-                                "  cellgroupcfg explain --tree MAC-CellGroupConfig\n"
-                                "  cellgroupcfg explain                        all named types\n",
-                                [this](Session& session) { tool::explain(session, path_, tree_); });
-        app.add_option("PATH", path_, "A type, a path from a type on, or a member's name")->option_text(" ");
+        CLI::App& app =
+            command("explain", "Tell what the schema says of a type, a path or a member, or what a rule says.",
+                    "  cellgroupcfg explain bwp-in-carrier         a rule\n"
+                    "  cellgroupcfg explain RLC-Config\n"
+                    "  cellgroupcfg explain CellGroupConfig.spCellConfig.reconfigurationWithSync.t304\n"
+                    "  cellgroupcfg explain t304\n"
+                    "  cellgroupcfg explain --tree MAC-CellGroupConfig\n"
+                    "  cellgroupcfg explain                        all named types\n",
+                    [this](Session& session) { tool::explain(session, name_, tree_); });
+        app.add_option("NAME", name_, "A rule's id, a type, a path from a type on, or a member's name")
+            ->option_text(" ");
         app.add_flag("--tree", tree_, "With all that is below it");
     }
 
@@ -525,8 +612,16 @@ private:
     std::string color_ = "auto";
     std::string output_;
     std::string format_ = "text";
+    std::string severity_;
+    std::string failOn_ = "error";
+    std::vector<std::string> only_;
+    std::vector<std::string> disabled_;
+    std::string project_;
+    bool noProject_ = false;
+    bool chain_ = false;
+    tool::Settings settings_;
     std::string nesting_ = "bare";
-    std::string path_;
+    std::string name_;
     std::uint32_t minOctets_ = 16;
     std::string form_;
     bool tree_ = false;

@@ -164,15 +164,15 @@ void Session::note(std::string_view text)
     }
 }
 
-Session::Source Session::source(const std::string& operand, std::size_t most)
+Session::Source Session::source(const std::string& operand, std::optional<Form> as, std::size_t most)
 {
     if (operand == "-")
     {
         return {"standard input", readAll(stdin, "standard input", most)};
     }
     const bool exists = isFile(operand);
-    const bool message = isMessage(operand, common_.as);
-    if (exists && message && !common_.as)
+    const bool message = isMessage(operand, as);
+    if (exists && message && !as)
     {
         throw Failure(Exit::Usage, "'" + operand + "' is a file and can be read as a message; say ./" + operand +
                                        " for the file, or give the message on standard input");
@@ -189,9 +189,9 @@ Session::Source Session::source(const std::string& operand, std::size_t most)
     return {operand, readAll(file.get(), operand, most)};
 }
 
-Given Session::given(const Source& from, std::size_t line, std::string_view raw)
+Given Session::given(const Source& from, std::size_t line, std::string_view raw, std::optional<Form> as)
 {
-    Recognition recognition = recognise(raw, common_.as);
+    Recognition recognition = recognise(raw, as);
     Given result{from.name, line, {}};
     if (auto* const refusal = std::get_if<Refusal>(&recognition))
     {
@@ -239,7 +239,7 @@ void Session::forLines(const Source& from, const std::function<void(const Given&
     auto& messages = std::get<MessageLines>(lines);
     while (const auto line = messages.next())
     {
-        attempt([&] { visitor(given(from, line->number, line->text)); });
+        attempt([&] { visitor(given(from, line->number, line->text, common_.as)); });
         done += line->text.size() + 1;
         progress(done, from.raw.size());
     }
@@ -256,7 +256,7 @@ void Session::forOperands(std::vector<std::string> operands, std::size_t most,
     {
         const auto read = [&]
         {
-            visitor(source(operand, most));
+            visitor(source(operand, common_.as, most));
         };
         if (operands.size() > 1)
         {
@@ -279,16 +279,31 @@ void Session::forEach(const std::vector<std::string>& operands, const std::funct
         }
         else
         {
-            visitor(given(from, 0, from.raw));
+            visitor(given(from, 0, from.raw, common_.as));
         }
     };
     forOperands(operands, maxInputOctets, read);
 }
 
-Given Session::only(const std::string& operand)
+Given Session::only(const std::string& operand, std::optional<Form> as)
 {
-    const Source from = source(operand);
-    return given(from, 0, from.raw);
+    const Source from = source(operand, as);
+    return given(from, 0, from.raw, as);
+}
+
+std::string Session::file(const std::string& name, std::size_t most)
+{
+    const File file(std::fopen(name.c_str(), "rb"));
+    if (file == nullptr)
+    {
+        throw Failure(Exit::Usage, name + ": " + reason());
+    }
+    std::string raw = readAll(file.get(), name, most);
+    if (raw.size() > most)
+    {
+        throw Failure(Exit::Usage, name + ": more than " + counted(most, "octet"));
+    }
+    return raw;
 }
 
 void Session::progress(std::uint64_t done, std::uint64_t all)

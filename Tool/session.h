@@ -123,7 +123,7 @@ public:
         std::string name;
         std::string raw;
     };
-    Source source(const std::string& operand, std::size_t most = maxInputOctets);
+    static Source source(const std::string& operand, std::optional<Form> as, std::size_t most = maxInputOctets);
 
     // Gives the content of each operand, standard input without any, to the visitor; failures are treated as below.
     void forOperands(std::vector<std::string> operands, std::size_t most,
@@ -141,8 +141,14 @@ public:
     {
         verdicts_ = true;
     }
-    // The only message of an operand.
-    Given only(const std::string& operand);
+    // The only message of an operand, in this form whatever --as says.
+    Given only(const std::string& operand, std::optional<Form> as);
+    Given only(const std::string& operand)
+    {
+        return only(operand, common_.as);
+    }
+    // A file's content. Throws Failure, also of one that is longer than `most`.
+    static std::string file(const std::string& name, std::size_t most);
 
     // Tells on a terminal how far a long job is, from its second second on.
     void progress(std::uint64_t done, std::uint64_t all);
@@ -151,7 +157,7 @@ private:
     void forLines(const Source& from, const std::function<void(const Given&)>& visitor);
     // Says what fails, and goes on.
     void attempt(const std::function<void()>& action);
-    Given given(const Source& from, std::size_t line, std::string_view raw);
+    Given given(const Source& from, std::size_t line, std::string_view raw, std::optional<Form> as);
     void clearProgress();
     void write(std::string_view text);
 

@@ -38,6 +38,14 @@ void* newTree(OSCTXT& context, const RtxPdu& pdu)
 namespace
 {
 
+// What is told of a message that is applied.
+struct Told
+{
+    Session& session;
+    const std::string place;
+    std::string refusal;
+};
+
 const void* stateOf(OSCTXT& context, const RtxPdu& pdu, const void* message)
 {
     void* const state = newTree(context, pdu);
@@ -60,15 +68,20 @@ void* Trees::room()
     return newTree(context_, pdu_);
 }
 
-const void* Trees::decoded(const Encoding& octets)
+const void* decodedIn(OSCTXT& context, const RtxPdu& pdu, const Encoding& octets)
 {
-    void* const tree = room();
-    (void)pu_setBuffer(&context_, const_cast<std::uint8_t*>(octets.data()), octets.size(), 0);
-    if (rtxDecode(&context_, pdu_.type, tree, 0) != RTX_OK)
+    void* const tree = newTree(context, pdu);
+    (void)pu_setBuffer(&context, const_cast<std::uint8_t*>(octets.data()), octets.size(), 0);
+    if (rtxDecode(&context, pdu.type, tree, 0) != RTX_OK)
     {
-        fail();
+        failWith(context.error, "");
     }
     return tree;
+}
+
+const void* Trees::decoded(const Encoding& octets)
+{
+    return decodedIn(context_, pdu_, octets);
 }
 
 const void* Trees::decoded(const std::optional<Encoding>& octets)
@@ -94,6 +107,44 @@ const void* Trees::state(const void* message)
 void Trees::fail(const std::string& place) const
 {
     failWith(context_.error, place);
+}
+
+Encoding stateAfter(const RtxPdu& pdu, const Encoding& message)
+{
+    Trees trees(pdu);
+    return trees.encoded(trees.state(trees.decoded(message)));
+}
+
+// Each message has a context of its own, so that a log of any length takes the memory of one message.
+Encoding stateAfter(Session& session, const std::optional<Encoding>& held, const Encoding& delta,
+                    const std::string& place)
+{
+    Trees trees(*session.common().type);
+    Told told{session, place + ": ", {}};
+    const auto sink = [](void* to, const RtxDeltaItem* item)
+    {
+        auto& [output, where, refusal] = *static_cast<Told*>(to);
+        if (item->kind == RTX_DELTA_REFUSED)
+        {
+            refusal = itemText(*item);
+        }
+        else
+        {
+            output.say(where + itemText(*item));
+        }
+    };
+    void* const state = trees.room();
+    const int status =
+        rtxApply(trees.context(), trees.type(), trees.decoded(held), trees.decoded(delta), state, sink, &told);
+    if (status == RTX_E_DELTA)
+    {
+        throw Failure(Exit::Findings, told.place + told.refusal);
+    }
+    if (status != RTX_OK)
+    {
+        trees.fail(place);
+    }
+    return trees.encoded(state);
 }
 
 std::string itemText(const RtxDeltaItem& item)

@@ -64,6 +64,17 @@ void* newTree(OSCTXT& context, const RtxPdu& pdu);
 // What a complete message leaves behind, a tree in the message's context.
 const void* stateOf(Message& message);
 
+// What a complete message leaves behind. Throws Failure.
+Encoding stateAfter(const RtxPdu& pdu, const Encoding& message);
+
+// What is held after a message that is applied to what was held, nothing or a state. Says what has no effect, and
+// throws Failure with what is refused; `place` is the beginning of both.
+Encoding stateAfter(Session& session, const std::optional<Encoding>& held, const Encoding& delta,
+                    const std::string& place);
+
+// A message's tree in the context's heap. Throws Failure.
+const void* decodedIn(OSCTXT& context, const RtxPdu& pdu, const Encoding& octets);
+
 std::string itemText(const RtxDeltaItem& item);
 
 } // namespace tool

@@ -5,7 +5,7 @@
 #include "rrcCodec/rrcBitString.h"
 
 // ServingCellConfigCommon.ssb-PositionsInBurst: which of 64 SS/PBCH blocks are sent, the first one the most significant
-// bit. It is for cells above 6 GHz; the record has room for 4 or 8 blocks.
+// bit. It is for cells above 6 GHz, which that of the example is not; the record has room for 4 or 8 blocks.
 inline void sendBlocks(ServingCellConfigCommon& cell, UINT64 blocks)
 {
     cell.m.ssb_PositionsInBurstPresent = 1;
@@ -28,14 +28,12 @@ inline void releaseDrx(MAC_CellGroupConfig& mac)
     mac.drx_Config.t = T_MAC_CellGroupConfig_drx_Config_release;
 }
 
-// All three, in the tree of a handover with CSI measurement.
+// DRX and the first CSI-RS in the tree of a handover with CSI measurement.
 inline void amend(CellGroupConfig& tree)
 {
     releaseDrx(tree.mac_CellGroupConfig);
-    SpCellConfig& spCell = tree.spCellConfig;
-    sendBlocks(spCell.reconfigurationWithSync.spCellConfigCommon, 0xFF000000000000FF);
-    const CSI_MeasConfig& csi = *spCell.spCellConfigDedicated.csi_MeasConfig.u.setup;
-    everySlots40(*static_cast<NZP_CSI_RS_Resource*>(csi.nzp_CSI_RS_ResourceToAddModList.head->data), 33);
+    const CSI_MeasConfig& csi = *tree.spCellConfig.spCellConfigDedicated.csi_MeasConfig.u.setup;
+    everySlots40(*static_cast<NZP_CSI_RS_Resource*>(csi.nzp_CSI_RS_ResourceToAddModList.head->data), 31);
 }
 
 #endif

@@ -3,6 +3,10 @@
 
 #include "dedicatedUplink.h"
 
+// The resources for tracking, two in each of two slots, and behind them that of the report on request.
+constexpr UINT8 trackingResources = 4;
+constexpr UINT8 requestedResource = firstTrackingResource + trackingResources;
+
 inline void csiRsOfFourPorts(RrcNzpCsiRsResource_t& resource)
 {
     RrcCsiRsResourceMapping_t& mapping = resource.resourceMapping;
@@ -11,6 +15,17 @@ inline void csiRsOfFourPorts(RrcNzpCsiRsResource_t& resource)
     mapping.nrofPorts = 2; // p4
     mapping.firstOFDMSymbolInTimeDomain = 13;
     mapping.cdmType = 1; // fd-CDM2
+    mapping.presenceDensity = RRC_CSI_RS_RESOURCE_MAPPING_DENSITY_ONE_PRESENCE;
+}
+
+inline void csiRsOfOnePort(RrcNzpCsiRsResource_t& resource)
+{
+    RrcCsiRsResourceMapping_t& mapping = resource.resourceMapping;
+    mapping.presenceFreqDomain = RRC_CSI_RS_RESOURCE_MAPPING_ROW2_PRESENCE;
+    mapping.freqDomainAlloc.row2 = 1;
+    mapping.nrofPorts = 0; // p1
+    mapping.firstOFDMSymbolInTimeDomain = 13;
+    mapping.cdmType = 0; // noCDM
     mapping.presenceDensity = RRC_CSI_RS_RESOURCE_MAPPING_DENSITY_ONE_PRESENCE;
 }
 
@@ -32,11 +47,11 @@ inline void everySlots80(RrcNzpCsiRsResource_t& resource, UINT16 offset)
     resource.periodicityAndOffset.offset = offset;
 }
 
-// Resource 0 for the periodic report, 1 and 2 for tracking, 3 for the aperiodic report; one set for each of them.
+// Resource 0 for the periodic report, 1 to 4 for tracking, 5 for the aperiodic report; one set for each of them.
 inline void csiRsResources(RrcCsiMeasCfg_t& csi)
 {
-    csi.numNzpCsiRsResourceAddMod = 4;
-    for (UINT8 i = 0; i < 4; ++i)
+    csi.numNzpCsiRsResourceAddMod = 2 + trackingResources;
+    for (UINT8 i = 0; i < csi.numNzpCsiRsResourceAddMod; ++i)
     {
         RrcNzpCsiRsResource_t& resource = csi.NzpCsiRsResourceAddMod[i];
         rrcInit(&resource);
@@ -52,15 +67,15 @@ inline void csiRsResources(RrcCsiMeasCfg_t& csi)
     everySlots80(csi.NzpCsiRsResourceAddMod[0], 1);
     csi.NzpCsiRsResourceAddMod[0].bitMask |= RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT;
     csi.NzpCsiRsResourceAddMod[0].qclInfoPeriodicCsiRs = 2;
-    for (UINT8 i = 0; i < 2; ++i)
+    for (UINT8 i = 0; i < trackingResources; ++i)
     {
         RrcNzpCsiRsResource_t& tracking = csi.NzpCsiRsResourceAddMod[firstTrackingResource + i];
-        trackingCsiRs(tracking, static_cast<UINT8>(4 + 4 * i));
-        everySlots80(tracking, 2);
+        trackingCsiRs(tracking, i % 2 == 0 ? 4 : 8);
+        everySlots80(tracking, static_cast<UINT16>(1 + i / 2));
         tracking.bitMask |= RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT;
         tracking.qclInfoPeriodicCsiRs = 0;
     }
-    csiRsOfFourPorts(csi.NzpCsiRsResourceAddMod[3]);
+    csiRsOfOnePort(csi.NzpCsiRsResourceAddMod[requestedResource]);
 
     csi.numNzpCsiRsResourceSetAddMod = 3;
     for (UINT8 i = 0; i < 3; ++i)
@@ -71,40 +86,40 @@ inline void csiRsResources(RrcCsiMeasCfg_t& csi)
         set.numNzpCsiRsRes = 1;
     }
     csi.NzpCsiRsResourceSetAddMod[0].numNzpCsiRsResources[0] = 0;
-    csi.NzpCsiRsResourceSetAddMod[1].numNzpCsiRsRes = 2;
-    csi.NzpCsiRsResourceSetAddMod[1].numNzpCsiRsResources[0] = firstTrackingResource;
-    csi.NzpCsiRsResourceSetAddMod[1].numNzpCsiRsResources[1] = firstTrackingResource + 1;
+    csi.NzpCsiRsResourceSetAddMod[1].numNzpCsiRsRes = trackingResources;
+    for (UINT8 i = 0; i < trackingResources; ++i)
+    {
+        csi.NzpCsiRsResourceSetAddMod[1].numNzpCsiRsResources[i] = static_cast<UINT8>(firstTrackingResource + i);
+    }
     csi.NzpCsiRsResourceSetAddMod[1].bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE;
     csi.NzpCsiRsResourceSetAddMod[1].trsInfo = 0; // true
-    csi.NzpCsiRsResourceSetAddMod[2].numNzpCsiRsResources[0] = 3;
+    csi.NzpCsiRsResourceSetAddMod[2].numNzpCsiRsResources[0] = requestedResource;
     csi.NzpCsiRsResourceSetAddMod[2].bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE;
     csi.NzpCsiRsResourceSetAddMod[2].aperidicTriggeringOffset = 0;
 }
 
-// Where the UE measures interference: resource and set 0 periodic, 1 aperiodic.
-inline void interferenceResources(RrcCsiMeasCfg_t& csi)
+// Where the UE measures interference, in the slot of resource 0.
+inline void interferenceResource(RrcCsiMeasCfg_t& csi)
 {
-    csi.numCsiImResourceAddMod = 2;
-    csi.numCsiImResourceSetAddMod = 2;
-    for (UINT8 i = 0; i < 2; ++i)
-    {
-        RrcCsiImResource_t& resource = csi.csiImResourceAddMod[i];
-        rrcInit(&resource);
-        resource.csiImResourceId = i;
-        resource.bitMask = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE | RRC_CSI_IM_RESOURCE_FREQ_BAND_PRESENCE;
-        resource.presence = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN1_PRESENCE;
-        resource.csiImResourceElementPattern.pattern1.subCarrierLocationP1 = 2; // s8
-        resource.csiImResourceElementPattern.pattern1.symbolLocationP1 = 13;
-        resource.freqBand.nrofRBs = 276;
-        RrcCsiImResourceSet_t& set = csi.csiImResourceSetAddMod[i];
-        rrcInit(&set);
-        set.csiImResourceSetId = i;
-        set.numCsiImResources = 1;
-        set.CsiImResourceId[0] = i;
-    }
-    csi.csiImResourceAddMod[0].bitMask |= RRC_CSI_IM_RESOURCE_PERIODIC_OFFSET_PRESENCE;
-    csi.csiImResourceAddMod[0].periodicityAndOffset.slotsPeriod = 10; // slots80
-    csi.csiImResourceAddMod[0].periodicityAndOffset.offset = 1;
+    csi.numCsiImResourceAddMod = 1;
+    RrcCsiImResource_t& resource = csi.csiImResourceAddMod[0];
+    rrcInit(&resource);
+    resource.csiImResourceId = 0;
+    resource.bitMask = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE | RRC_CSI_IM_RESOURCE_FREQ_BAND_PRESENCE |
+                       RRC_CSI_IM_RESOURCE_PERIODIC_OFFSET_PRESENCE;
+    resource.presence = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN1_PRESENCE;
+    resource.csiImResourceElementPattern.pattern1.subCarrierLocationP1 = 2; // s8
+    resource.csiImResourceElementPattern.pattern1.symbolLocationP1 = 13;
+    resource.freqBand.nrofRBs = 276;
+    resource.periodicityAndOffset.slotsPeriod = 10; // slots80
+    resource.periodicityAndOffset.offset = 1;
+
+    csi.numCsiImResourceSetAddMod = 1;
+    RrcCsiImResourceSet_t& set = csi.csiImResourceSetAddMod[0];
+    rrcInit(&set);
+    set.csiImResourceSetId = 0;
+    set.numCsiImResources = 1;
+    set.CsiImResourceId[0] = 0;
 }
 
 constexpr UINT8 aperiodic = 0; // CSI-ResourceConfig.resourceType
@@ -153,47 +168,50 @@ inline void singlePanelCodebook(RrcCodebookCfg_t& codebook)
     type1.CodebookMode = 1;
 }
 
-// Report 0 every 80 slots over the whole band, report 1 on request by 9 subbands of 32 resource blocks.
-inline void csiReports(RrcCsiMeasCfg_t& csi)
+inline RrcCsiReportCfg_t& addReport(RrcCsiMeasCfg_t& csi, UINT8 channelCfg)
 {
-    csi.numCsiReportCfgAddMod = 2;
-    for (UINT8 i = 0; i < 2; ++i)
-    {
-        RrcCsiReportCfg_t& report = csi.csiReportCfg[i];
-        rrcInit(&report);
-        report.csiReportCfgId = i;
-        report.bitMask = RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE |
-                         RRC_CSI_REPORT_CFG_REPORT_FREQ_CFG_PRESENCE | RRC_CSI_REPORT_CFG_CODE_BOOK_CFG_PRESENCE |
-                         RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE | RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE;
-        report.resourceCfgIdForChMeas = i == 0 ? 0 : 3;
-        report.CsiImresourceCfgIdForInterference = i == 0 ? 1 : 4;
-        report.rptQuBitMask = RRC_CSI_REPORT_QUANTITY_CRI_RI_PMI_CQI_PRESENCE;
-        report.subBandSize = 1; // value2
-        report.reportFreqCfg.bitMask =
-            RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE | RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE;
-        report.reportFreqCfg.CqiFormatInd = i;      // widebandCQI, subbandCQI
-        report.reportFreqCfg.PmiFormatInd = 0;      // widebandPMI
-        report.timeRestrictForChMeas = 1;           // notConfigured
-        report.timeRestrictForInterferenceMeas = 1; // notConfigured
-        singlePanelCodebook(report.codeBookCfg);
-        report.groupBasedBeamReport.Presence = RRC_BASED_BEAM_REPORT_DISABLED;
-        report.cqi_Table = 1; // table2, for 256QAM
-    }
-    RrcCsiReportCfg_t& regular = csi.csiReportCfg[0];
-    regular.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_PERIODIC_PRESENCE;
-    regular.ReportCfgType_n.periodic.reportSlotCfg.periodicity = 8; // slots80
-    regular.ReportCfgType_n.periodic.reportSlotCfg.offset = 9;
-    regular.ReportCfgType_n.periodic.pucchCsiResourceNum = 1;
-    regular.ReportCfgType_n.periodic.pucchCsiResource[0] = {workingBwp, csiPucchResource};
+    RrcCsiReportCfg_t& report = csi.csiReportCfg[csi.numCsiReportCfgAddMod];
+    rrcInit(&report);
+    report.csiReportCfgId = csi.numCsiReportCfgAddMod++;
+    report.resourceCfgIdForChMeas = channelCfg;
+    report.bitMask = RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE;
+    report.groupBasedBeamReport.Presence = RRC_BASED_BEAM_REPORT_DISABLED;
+    report.subBandSize = 1;                     // value2
+    report.timeRestrictForChMeas = 1;           // notConfigured
+    report.timeRestrictForInterferenceMeas = 1; // notConfigured
+    return report;
+}
 
-    RrcCsiReportCfg_t& requested = csi.csiReportCfg[1];
-    requested.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_APERIODIC_PRESENCE;
-    requested.ReportCfgType_n.aperiodic.reportSlotOffsetNum = 2;
-    requested.ReportCfgType_n.aperiodic.reportSlotOffset[0] = 3;
-    requested.ReportCfgType_n.aperiodic.reportSlotOffset[1] = 4;
-    requested.reportFreqCfg.bitMask |= RRC_REPORT_FREQ_CFG_CSI_REPORTINT_BAND_PRESENCE;
-    requested.reportFreqCfg.csiRptBandBitMask = RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS9;
-    requested.reportFreqCfg.CsiReportingBand_n.subbands9 = 0x1FF;
+// CQI, PMI and rank every 80 slots over the whole band.
+inline void regularReport(RrcCsiReportCfg_t& report)
+{
+    report.bitMask |= RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE |
+                      RRC_CSI_REPORT_CFG_REPORT_FREQ_CFG_PRESENCE | RRC_CSI_REPORT_CFG_CODE_BOOK_CFG_PRESENCE |
+                      RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE;
+    report.CsiImresourceCfgIdForInterference = 1;
+    report.rptQuBitMask = RRC_CSI_REPORT_QUANTITY_CRI_RI_PMI_CQI_PRESENCE;
+    report.reportFreqCfg.bitMask =
+        RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE | RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE;
+    report.reportFreqCfg.CqiFormatInd = 0; // widebandCQI
+    report.reportFreqCfg.PmiFormatInd = 0; // widebandPMI
+    singlePanelCodebook(report.codeBookCfg);
+    report.cqi_Table = 1; // table2, for 256QAM
+    report.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_PERIODIC_PRESENCE;
+    report.ReportCfgType_n.periodic.reportSlotCfg.periodicity = 8; // slots80
+    report.ReportCfgType_n.periodic.reportSlotCfg.offset = 9;
+    report.ReportCfgType_n.periodic.pucchCsiResourceNum = 1;
+    report.ReportCfgType_n.periodic.pucchCsiResource[0] = {workingBwp, csiPucchResource};
+}
+
+// RSRP on request, three or four slots after it. A trigger state of the record has no place for the CSI-IM that a CQI
+// would need.
+inline void requestedReport(RrcCsiReportCfg_t& report)
+{
+    report.rptQuBitMask = RRC_CSI_REPORT_QUANTITY_CRI_RSRP_PRESENCE;
+    report.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_APERIODIC_PRESENCE;
+    report.ReportCfgType_n.aperiodic.reportSlotOffsetNum = 2;
+    report.ReportCfgType_n.aperiodic.reportSlotOffset[0] = 3;
+    report.ReportCfgType_n.aperiodic.reportSlotOffset[1] = 4;
 }
 
 inline void csiMeasurement(RrcServingCellCfg_t& cell)
@@ -202,13 +220,13 @@ inline void csiMeasurement(RrcServingCellCfg_t& cell)
     RrcCsiMeasCfg_t& csi = cell.csiMeasCfg;
     rrcInit(&csi);
     csiRsResources(csi);
-    interferenceResources(csi);
-    addChannelCfg(csi, periodic, 0);       // 0
-    addInterferenceCfg(csi, periodic, 0);  // 1
-    addChannelCfg(csi, periodic, 1);       // 2: tracking
-    addChannelCfg(csi, aperiodic, 2);      // 3
-    addInterferenceCfg(csi, aperiodic, 1); // 4
-    csiReports(csi);
+    interferenceResource(csi);
+    addChannelCfg(csi, periodic, 0);      // 0
+    addInterferenceCfg(csi, periodic, 0); // 1
+    addChannelCfg(csi, periodic, 1);      // 2: tracking
+    addChannelCfg(csi, aperiodic, 2);     // 3
+    regularReport(addReport(csi, 0));
+    requestedReport(addReport(csi, 3));
 
     // One trigger state, which asks for report 1.
     csi.bitMask =

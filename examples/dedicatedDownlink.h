@@ -121,17 +121,7 @@ inline void dedicatedPdsch(RrcPdschCfg_t& pdsch)
 
 inline void dedicatedDownlink(RrcServingCellCfg_t& cell)
 {
-    cell.bitMask |= RRC_SERVING_CELL_INIT_DL_BWP_PRESENCE | RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE |
-                    RRC_SERVING_CELL_PDSCH_SERVING_CELL_CFG_PRESENCE;
-
-    rrcInit(&cell.initDlBwp);
-    cell.initDlBwp.bitMask = RRC_BWP_DL_DEDI_RLM_CFG_PRESENCE;
-    RrcRlmCfg_t& monitoring = cell.initDlBwp.radioLinkMonitorCfg;
-    monitoring.numFailDetectResourceAddMod = 1;
-    monitoring.failDetectResource[0].radioLinkMonitorRsId = 0;
-    monitoring.failDetectResource[0].purpose = 1; // rlf
-    monitoring.failDetectResource[0].presence = RRC_RADIO_LINK_MONITOR_SSB_PRESENCE;
-    monitoring.failDetectResource[0].detectionResource.ssbIdx = 0;
+    cell.bitMask |= RRC_SERVING_CELL_FIRST_ACTIVE_DL_BWP_PRESENCE | RRC_SERVING_CELL_PDSCH_SERVING_CELL_CFG_PRESENCE;
     cell.firstActiveDlBwpId = workingBwp;
 
     cell.numDlBwpAddMod = 1;

@@ -63,9 +63,7 @@ inline void handoverUplink(RrcUlCfgComm_t& uplink)
     rrcInit(&uplink);
     uplink.bitMask = RRC_FREQ_INFO_UL_PRESENCE | RRC_BWP_UPLINK_PRESENCE;
     RrcFreqInfoUl_t& frequency = uplink.freqInfoUl;
-    frequency.multiBandNum = 1;
-    frequency.freqBandIndNr[0] = 78;
-    frequency.scsNum = 1;
+    frequency.scsNum = 1; // band and point A are those of the downlink
     handoverCarrier(frequency.speCarrier[0]);
 
     InitialUlBwp_t& bwp = uplink.bwpUplink;

@@ -3,8 +3,8 @@
 
 #include "typicalCall.h"
 
-// A secondary cell of the same band, as many carriers above the special cell as its index says. It has the downlink and
-// the CSI measurement of the special cell; the reports go out on the special cell's PUCCH and PUSCH.
+// A secondary cell of the same band, as many carriers above the special cell as its index says. It has no uplink, and
+// the downlink and the CSI measurement of the special cell; the reports go out on the special cell's PUCCH and PUSCH.
 inline void secondaryCell(RrcScellCfg_t& sCell, UINT8 index)
 {
     rrcInit(&sCell);
@@ -12,6 +12,7 @@ inline void secondaryCell(RrcScellCfg_t& sCell, UINT8 index)
     sCell.bitMask = RRC_SCELLADDMOD_CELLCOMMON_PRESENCE | RRC_SCELLADDMOD_CELLDEDI_PRESENCE;
 
     handoverCell(sCell.sCellCfgCommn);
+    sCell.sCellCfgCommn.bitMask &= ~(RRC_UPLINK_CFG_COMMON | RRC_TIMING_ADVANCE_OFFSET);
     sCell.sCellCfgCommn.pci = static_cast<UINT16>(42 + index);
     RrcFreqInfoDl_t& frequency = sCell.sCellCfgCommn.dlCfgComm.freqInfoDl;
     const UINT32 carriers = index * 6668U; // 100.02 MHz each, in steps of 15 kHz

@@ -6,10 +6,25 @@
 #include "dedicatedUplink.h"
 #include "reconfigurationWithSync.h"
 
+// The radio link fails by the first SS/PBCH block, where the UE is in the initial bandwidth part.
+inline void radioLinkMonitoring(RrcServingCellCfg_t& cell)
+{
+    cell.bitMask |= RRC_SERVING_CELL_INIT_DL_BWP_PRESENCE;
+    rrcInit(&cell.initDlBwp);
+    cell.initDlBwp.bitMask = RRC_BWP_DL_DEDI_RLM_CFG_PRESENCE;
+    RrcRlmCfg_t& monitoring = cell.initDlBwp.radioLinkMonitorCfg;
+    monitoring.numFailDetectResourceAddMod = 1;
+    monitoring.failDetectResource[0].radioLinkMonitorRsId = 0;
+    monitoring.failDetectResource[0].purpose = 1; // rlf
+    monitoring.failDetectResource[0].presence = RRC_RADIO_LINK_MONITOR_SSB_PRESENCE;
+    monitoring.failDetectResource[0].detectionResource.ssbIdx = 0;
+}
+
 inline void dedicatedCell(RrcServingCellCfg_t& cell)
 {
     rrcInit(&cell);
     cell.tagId = 0;
+    radioLinkMonitoring(cell);
     dedicatedDownlink(cell);
     dedicatedUplink(cell);
     csiMeasurement(cell);

@@ -8,7 +8,7 @@ test_packages=(
     "${run_packages[@]}"
     binutils clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
     libgtest-dev libgmock-dev libbenchmark-dev
-    libcli11-dev nlohmann-json3-dev libpcap-dev scdoc
+    libcli11-dev nlohmann-json3-dev libtomlplusplus-dev libpcap-dev scdoc
     tshark erlang-base erlang-asn1 python3
 )
 

@@ -22,6 +22,12 @@ public:
         sync_ = sent;
     }
 
+    // New entries may lack what their creation asks for.
+    void takeIncomplete()
+    {
+        incomplete_ = true;
+    }
+
     int run(const Type& type, const void* held, const void* message, void* result)
     {
         const DeltaPlace root{nullptr, {type.name, 0, 0, nullptr, 0}};
@@ -287,7 +293,7 @@ private:
         {
             return entry.data;
         }
-        if (isNew && !complete_ && !isComplete(ctxt_, type, entry.data, place, sink_, arg_))
+        if (isNew && !complete_ && !incomplete_ && !isComplete(ctxt_, type, entry.data, place, sink_, arg_))
         {
             status_ = RTX_E_DELTA;
             return nullptr;
@@ -343,6 +349,7 @@ private:
     bool complete_;
     bool actions_;
     bool sync_ = false;
+    bool incomplete_ = false;
     RtxDeltaSink sink_;
     void* arg_;
     bool sulReleased_ = false;
@@ -356,6 +363,37 @@ int makeState(OSCTXT& ctxt, const Type& type, const void* value, void* state, co
     Applier applier(ctxt, true, options.actions, nullptr, nullptr);
     applier.setSync(options.sync);
     return applier.run(type, options.prev, value, state);
+}
+
+int apply(OSCTXT& ctxt, const Type& type, const void* prev, const void* delta, void* next, const ApplyOptions& options)
+{
+    rtxErrReset(&ctxt);
+    const void* held = nullptr;
+    if (prev != nullptr)
+    {
+        void* const state = allocateFor(ctxt, type.size);
+        const int status = state == nullptr ? int{RTX_E_HEAP} : rtxState(&ctxt, &type, prev, state);
+        if (status != RTX_OK)
+        {
+            return status;
+        }
+        held = state;
+    }
+    int status = checkTree(ctxt, type, delta);
+    if (status == RTX_OK)
+    {
+        status = checkIdentity(ctxt, type, held, delta, options.sink, options.arg);
+    }
+    if (status == RTX_OK)
+    {
+        Applier applier(ctxt, false, false, options.sink, options.arg);
+        if (options.incomplete)
+        {
+            applier.takeIncomplete();
+        }
+        status = applier.run(type, held, delta, next);
+    }
+    return status;
 }
 
 } // namespace rtx
@@ -381,26 +419,5 @@ int rtxApply(OSCTXT* pctxt, const RtxType* type, const void* prev, const void* d
     {
         return RTX_E_NULL;
     }
-    rtxErrReset(pctxt);
-    const void* held = nullptr;
-    if (prev != nullptr)
-    {
-        void* const state = rtx::allocateFor(*pctxt, type->size);
-        const int status = state == nullptr ? int{RTX_E_HEAP} : rtxState(pctxt, type, prev, state);
-        if (status != RTX_OK)
-        {
-            return status;
-        }
-        held = state;
-    }
-    int status = rtx::checkTree(*pctxt, *type, delta);
-    if (status == RTX_OK)
-    {
-        status = rtx::checkIdentity(*pctxt, *type, held, delta, sink, arg);
-    }
-    if (status == RTX_OK)
-    {
-        status = rtx::Applier(*pctxt, false, false, sink, arg).run(*type, held, delta, next);
-    }
-    return status;
+    return rtx::apply(*pctxt, *type, prev, delta, next, {false, sink, arg});
 }

@@ -356,6 +356,15 @@ struct StateOptions
 };
 int makeState(OSCTXT& ctxt, const Type& type, const void* value, void* state, const StateOptions& options);
 
+// rtxApply, for who has to judge also a message with entries that lack what their creation asks for.
+struct ApplyOptions
+{
+    bool incomplete = false; // such entries are taken as they are
+    RtxDeltaSink sink = nullptr;
+    void* arg = nullptr;
+};
+int apply(OSCTXT& ctxt, const Type& type, const void* prev, const void* delta, void* next, const ApplyOptions& options);
+
 } // namespace rtx
 
 #endif

@@ -33,8 +33,8 @@ typedef struct Asn1Mistake
 typedef void (*Asn1MistakeSink)(void* arg, const Asn1Mistake* mistake);
 
 // Reads JER. Members come in any order, hexadecimal digits of either case; the names true and false of an enumeration
-// may stand without quotes. `$unknownAdditions` and `$unknownAlternative` hold what another release has sent:
-// docs/asn1.md. Returns the number of mistakes.
+// may stand without quotes; comments, // to the end of a line and /* */, are passed over. `$unknownAdditions` and
+// `$unknownAlternative` hold what another release has sent: docs/asn1.md. Returns the number of mistakes.
 int asn1FromJson(OSCTXT* pctxt, const RtxType* type, void* value, const char* text, size_t length, Asn1MistakeSink sink,
                  void* arg);
 

@@ -10,6 +10,28 @@ namespace text
 namespace
 {
 
+// Where the next token begins: behind blanks, separators and comments.
+std::size_t behindGap(std::string_view text, std::size_t at)
+{
+    for (;;)
+    {
+        at = std::min(text.find_first_not_of(" \t\r\n,:", at), text.size());
+        const std::string_view rest = text.substr(at);
+        if (rest.starts_with("//"))
+        {
+            at += std::min(rest.find_first_of("\r\n"), rest.size());
+        }
+        else if (rest.starts_with("/*"))
+        {
+            at = std::min(text.find("*/", at + 2), text.size() - 2) + 2;
+        }
+        else
+        {
+            return at;
+        }
+    }
+}
+
 // Reads a text and tells how far it has been read.
 class CountingIterator
 {
@@ -60,7 +82,7 @@ public:
     {
         const char* const end = text_.data() + text_.size();
         (void)nlohmann::json::sax_parse(CountingIterator(text_.data(), &reached_), CountingIterator(end, &reached_),
-                                        this);
+                                        this, nlohmann::json::input_format_t::json, true, true);
     }
 
     bool null() override
@@ -156,11 +178,10 @@ private:
         return !mistakes_.full();
     }
 
-    // Offset of the token that has been read: the first behind the one before it. Behind a number the parser has read
-    // one character more than it uses.
+    // Offset of the token that has been read: the first behind the one before it.
     std::size_t token()
     {
-        const std::size_t begin = std::min(text_.find_first_not_of(" \t\r\n,:", end_), text_.size());
+        const std::size_t begin = behindGap(text_, end_);
         end_ = static_cast<std::size_t>(reached_ - text_.data());
         return begin;
     }
@@ -170,6 +191,7 @@ private:
         const std::size_t begin = token();
         const std::string_view rest = text_.substr(begin);
         const std::string_view digits = rest.substr(0, rest.find_first_not_of("0123456789+-.eE"));
+        end_ = begin + digits.size(); // the parser has read one character more
         builder_.scalar(begin, {numberForm(digits), digits});
         return goOn();
     }

@@ -94,6 +94,15 @@ TEST(FromJson, EscapesAndByteOrderMark)
     EXPECT_EQ(box.pick.u.item->shade, 1U);
 }
 
+TEST(FromJson, CommentsArePassedOver)
+{
+    Tree tree(test::boxType);
+    EXPECT_THAT(tree.read(asn1FromJson, "// a box, \"level\": 4\n{/*{*/\"lone\"/**/:/* 1 */65535/*,*/,\"b\":5// five\n"
+                                        ",\"level\"://\r-3,\"pick\":{\"map\":\"a8\"}/* \n */}//"),
+                IsEmpty());
+    expectBox(tree);
+}
+
 TEST(FromText, GroupOfMandatoryMembers)
 {
     Tree tree(test::boxType);
@@ -254,6 +263,8 @@ const Row jsonRows[] = {
      R"({"id":1,"colour":"red"})",
      {1, 9, "Item", "unknown member \"colour\"; there is \"id\" or \"shade\""}},
     {test::itemType, R"({"id":1,"id":2})", {1, 9, "Item.id", "given twice"}},
+    {test::itemType, R"({"id":1/*,"id":3*/,/**/"id":2})", {1, 24, "Item.id", "given twice"}},
+    {test::itemType, "{\"id\":1, // \"id\":3\n\"id\":2}", {2, 1, "Item.id", "given twice"}},
     {test::itemType, R"({"shade":"red"})", {1, 1, "Item", "mandatory member \"id\" is missing"}},
     {test::itemsType, "[{\"id\":1},\n  {\"shade\":\"red\"}]", {2, 3, "Items[1]", "mandatory member \"id\" is missing"}},
     // types
@@ -366,6 +377,11 @@ const Row jsonRows[] = {
      "{\"id\":1,\"sh\xFF",
      {1, 12, "Item",
       R"(syntax error while parsing object key - invalid string: ill-formed UTF-8 byte; last read: '"sh\xFF'; expected string literal)"}},
+    {test::itemType,
+     "{\"id\":1} /* x",
+     {1, 14, "Item",
+      "syntax error while parsing value - invalid comment; missing closing '*/'; last read: '1} /* x'; expected end of "
+      "input"}},
     {test::levelType, "1e999", {1, 5, "Level", "number overflow parsing '1e999'"}},
 };
 

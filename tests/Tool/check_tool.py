@@ -2,74 +2,15 @@
 streams. The messages are encoded by hand, the expectations come from the schema."""
 
 import base64
-import difflib
 import json
 import os
 import pathlib
 import pty
 import re
 import subprocess
-import sys
-import tempfile
 
-PROGRAM, PROJECT = str(pathlib.Path(sys.argv[1]).resolve()), pathlib.Path(sys.argv[2])
-DONE, FINDINGS, USAGE, MALFORMED, NOTHING = 0, 1, 2, 3, 4
-
-failures = []
-count = 0
-
-
-def run(*arguments, stdin=b"", environment=None):
-    if isinstance(stdin, str):
-        stdin = stdin.encode()
-    done = subprocess.run([PROGRAM, *arguments], input=stdin, capture_output=True, timeout=60, check=False,
-                          env={**os.environ, "NO_COLOR": "", **(environment or {})})
-    return done.returncode, done.stdout, done.stderr
-
-
-def differs(what, expected, found):
-    if isinstance(expected, str):
-        found = found.decode(errors="replace")
-    if isinstance(expected, re.Pattern):
-        found = found.decode(errors="replace")
-        return "" if expected.search(found) else f"{what}: no {expected.pattern!r} in {found!r}"
-    if expected == found:
-        return ""
-    if isinstance(expected, bytes):
-        return f"{what}: {found!r} instead of {expected!r}"
-    return f"{what}:\n" + "\n".join(difflib.unified_diff(expected.splitlines(), found.splitlines(), "expected", "found",
-                                                        lineterm=""))
-
-
-def expect(arguments, status, out="", err="", stdin=b"", environment=None):
-    """Exit status, standard output and standard error: texts and octets are compared, patterns have to occur."""
-    global count
-    count += 1
-    found = run(*arguments, stdin=stdin, environment=environment)
-    problems = [] if found[0] == status else [f"exit status {found[0]} instead of {status}; {found[2].decode()!r}"]
-    problems += [problem for problem in (differs("standard output", out, found[1]),
-                                         differs("standard error", err, found[2])) if problem]
-    if problems:
-        failures.append("cellgroupcfg " + " ".join(arguments) + "\n" + "\n".join(problems))
-
-
-def true(fact, what):
-    global count
-    count += 1
-    if not fact:
-        failures.append(what)
-
-
-def octets(bits):
-    """The octets of bits in any grouping, padded with zero bits."""
-    bits = re.sub(r"\s", "", bits)
-    bits += "0" * (-len(bits) % 8)
-    return bytes(int(bits[i:i + 8], 2) for i in range(0, len(bits), 8))
-
-
-def bits_of(data):
-    return "".join(f"{octet:08b}" for octet in data)
-
+from harness import (DONE, FINDINGS, MALFORMED, NOTHING, PROGRAM, PROJECT, USAGE, bits_of, expect, main, octets, run,
+                     true)
 
 # CellGroupConfig: not extended, seven optional members, cellGroupId of 2 bits. rlc-BearerToReleaseList: 1..32 elements,
 # counted in 5 bits, of 1..32.
@@ -501,51 +442,6 @@ def test_diff_state(folder):
            "{ tag-Id 1, timeAlignmentTimer infinity }\n")
 
 
-def test_check(folder):
-    wrong = '{\n  "cellGroupId": 4,\n  "rlc-BearerToReleaseList": []\n}\n'
-    expect(["check", RELEASE_HEX], DONE)
-    expect(["check"], FINDINGS,
-           re.compile(r"^standard input:2:18: error: CellGroupConfig\.cellGroupId: 4 is not in 0\.\.3 \[jer\]\n"
-                      r"standard input:\d+:\d+: error: CellGroupConfig\.rlc-BearerToReleaseList: 0 elements, not 1\.\.32 "
-                      r"\[jer\]\n$"), stdin=wrong)
-    file = folder / "wrong message.json"
-    file.write_text(wrong)
-    expect(["check", "--format", "gcc", str(file)], FINDINGS,
-           re.compile(rf"^{re.escape(str(file))}:2:18: error: CellGroupConfig\.cellGroupId: .* \[jer\]\n"))
-    found = json.loads(run("check", "--format", "json", str(file), RELEASE_HEX)[1])
-    true(found["version"] == 1 and [len(one["findings"]) for one in found["messages"]] == [2, 0], f"check: {found}")
-    true(found["messages"][0]["findings"][0] == {
-        "id": "jer", "severity": "error", "path": "CellGroupConfig.cellGroupId", "message": "4 is not in 0..3",
-        "line": 2, "column": 18}, f"check: {found}")
-    expect(["check", RELEASE_HEX + "00"], MALFORMED, re.compile(r"^operand: error: CellGroupConfig: 1 octet follows.* "
-                                                                r"\[per-surplus\]\n"))
-    expect(["check", UNKNOWN.hex()], DONE, re.compile(r"note: CellGroupConfig: 1 addition of a later release.*\n"))
-    expect(["check", EMPTY_EXTENSION.hex()], DONE, re.compile(r"\[per-not-canonical\]"))
-    expect(["check", "--lines"], MALFORMED, re.compile(
-        r"^standard input:1: no finding\nstandard input:2: 1 finding\nstandard input:2: error: .*\[per-end\]\n"),
-           stdin=f"{RELEASE_HEX}\n2002\n")
-    expect(["check", "--format", "xml", "00"], USAGE, err=re.compile("xml"))
-    test_sarif(file)
-
-
-def test_sarif(file):
-    """What SARIF 2.1.0 requires of the members that are there."""
-    sarif = json.loads(run("check", "--format", "sarif", str(file))[1])
-    true(sarif["version"] == "2.1.0" and len(sarif["runs"]) == 1, "SARIF of one run")
-    driver = sarif["runs"][0]["tool"]["driver"]
-    true(driver["name"] == "cellgroupcfg", "SARIF names the tool")
-    results = sarif["runs"][0]["results"]
-    true(len(results) == 2, "SARIF has both findings")
-    for result in results:
-        true(driver["rules"][result["ruleIndex"]]["id"] == result["ruleId"], "SARIF's rule")
-        true(result["level"] in ("error", "warning", "note") and result["message"]["text"], "SARIF's result")
-        place = result["locations"][0]["physicalLocation"]
-        true(place["artifactLocation"]["uri"] == "file://" + str(file).replace(" ", "%20"), "SARIF's file")
-        true(place["region"]["startLine"] >= 1, "SARIF's line")
-    true(results[0]["locations"][0]["logicalLocations"][0]["fullyQualifiedName"] == "CellGroupConfig.cellGroupId",
-         "SARIF's path")
-
-
 def hidden(before, message, behind):
     """The message as an octet string behind some bits and before others."""
     return octets(before + f"{len(message):08b}" + bits_of(message) + behind)
@@ -631,7 +527,7 @@ def test_explain(folder):
     expect(["explain", "CellGroupConfig.spCellConfg"], USAGE,
            err="cellgroupcfg: CellGroupConfig has no member 'spCellConfg'; did you mean spCellConfig?\n")
     expect(["explain", "CelGroupConfig"], USAGE,
-           err="cellgroupcfg: there is no type 'CelGroupConfig'; did you mean CellGroupConfig?\n")
+           err="cellgroupcfg: there is no rule, type or member 'CelGroupConfig'; did you mean CellGroupConfig?\n")
     expect(["explain", "CellGroupConfig.cellGroupId.x"], USAGE, err=re.compile("no SEQUENCE and no CHOICE"))
     expect(["explain", "CellGroupConfig.cellGroupId[0]"], USAGE, err=re.compile("has no elements"))
     for path in ("CellGroupConfig..x", "CellGroupConfig[", "CellGroupConfig[x]", "CellGroupConfig]"):
@@ -641,6 +537,74 @@ def test_explain(folder):
     # The whole schema, each line a member with its type.
     status, tree, _ = run("explain", "--tree", "CellGroupConfig")
     true(status == DONE and all(len(line.split()) >= 2 for line in tree.decode().splitlines()[1:]), "explain --tree")
+
+
+def test_rules(folder):
+    """The table of rules, as text and as JSON, and what is told of one."""
+    status, text, _ = run("rules")
+    lines = text.decode().splitlines()
+    columns = re.compile(r"([a-z0-9-]+) +(error|warning|notice) +(\S.*\.)$")
+    rows = [columns.match(line) for line in lines]
+    true(status == DONE and all(rows), "rules: id, severity and statement in each line")
+    true(len({row.start(2) for row in rows}) == 1 and len({row.start(3) for row in rows}) == 1, "rules: columns")
+    status, text, _ = run("rules", "--json")
+    table = json.loads(text)
+    true(status == DONE and list(table) == ["version", "rules"] and table["version"] == 1, "rules --json has a version")
+    true([(rule["id"], rule["severity"], rule["statement"]) for rule in table["rules"]] == [row.groups() for row in rows],
+         "rules --json tells the same")
+    true(len(rows) == 214, f"{len(rows)} rules")
+    for rule in table["rules"]:
+        true(list(rule) == ["id", "group", "severity", "statement", "advice", "clause", "given", "bad", "good", "since"],
+             f"{rule['id']}: its members")
+        true(rule["bad"] and rule["good"] and all(re.match(r"CellGroupConfig\.\S+ = .", line)
+                                                  for line in rule["bad"] + rule["good"]), f"{rule['id']}: flat lines")
+        # Whole, whatever lines it is written in.
+        status, text, _ = run("explain", rule["id"])
+        told = " ".join(text.decode().split())
+        for part in (rule["statement"], rule["advice"], rule["clause"], rule["given"], *rule["bad"], *rule["good"],
+                     f"check --disable {rule['id']}", f'[[silence]] rule = "{rule["id"]}"'):
+            true(status == DONE and " ".join(part.split()) in told, f"explain {rule['id']} tells {part!r}")
+    expect(["rules", "phy-cell"], DONE,
+           "phy-cell-group-id  error    The master cell group has cellGroupId 0, the secondary one 1.\n")
+    bwp = run("rules", "bwp")[1].decode()
+    true(bwp and all(line.startswith("bwp-") for line in bwp.splitlines()), "rules of a group")
+    # In the order of the table, each once, however often it is named.
+    true([line.split()[0] for line in run("rules", "tdd", "bwp", "bwp-in")[1].decode().splitlines()] ==
+         [rule["id"] for rule in table["rules"] if rule["id"].startswith(("bwp", "tdd"))], "rules of two groups")
+    expect(["rules", "bpw"], USAGE, err="cellgroupcfg: no rule's id begins with 'bpw'; did you mean bwp?\n")
+    expect(["rules", "bwp", "bwp-in-carier"], USAGE,
+           err="cellgroupcfg: no rule's id begins with 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
+    expect(["rules", "--jsn"], USAGE, err=re.compile("no option '--jsn'; did you mean --json\\?"))
+    expect(["explain", "bwp-in-carier"], USAGE,
+           err="cellgroupcfg: there is no rule, type or member 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
+    expect(["explain", "t30"], USAGE,
+           err="cellgroupcfg: there is no rule, type or member 't30'; did you mean t304?\n")
+    # The other findings of check have ids as well.
+    expect(["explain", "per-padding"], DONE, """per-padding
+  statement    The bits that fill up the last octet are 0.
+  what to do   The message is of another type, or its end is not where it is taken for.
+  clause       X.691 11.1
+""")
+    expect(["explain", "phy-cell-group-id"], DONE, """phy-cell-group-id
+  severity     error
+  statement    The master cell group has cellGroupId 0, the secondary one 1.
+  what to do   Use 0 or 1.
+  clause       TS 38.331 CellGroupId
+  group        Physical layer of the cell group
+  since        0.1.0
+  examples     change a cell group that a UE takes; 'absent' takes away.
+  bad
+    CellGroupConfig.cellGroupId = 2
+  good
+    CellGroupConfig.cellGroupId = 0
+  to silence it
+    cellgroupcfg check --disable phy-cell-group-id
+  or, with the reason, in .cellgroupcfg.toml
+    [[silence]]
+    rule = "phy-cell-group-id"
+    path = "CellGroupConfig.cellGroupId" # left out: everywhere
+    reason = "why it is meant so"
+""")
 
 
 def on_terminal(arguments, **environment):
@@ -688,7 +652,7 @@ def test_streams(folder):
 
 
 def options_of(text):
-    return set(re.findall(r"(?<![\w-])--[a-z][a-z0-9-]*", text))
+    return set(re.findall(r"(?<![\w-])--[a-z][A-Za-z0-9-]*", text))
 
 
 def completed(*words):
@@ -705,7 +669,7 @@ def test_help(folder):
     text = text.decode()
     true(status == DONE and text.startswith("Examples:\n"), "--help begins with examples")
     commands = re.findall(r"^  ([a-z]+) {5,}", text[text.index("\nCommands:\n"):], re.M)
-    true(len(commands) == 9, f"--help lists the commands: {commands}")
+    true(len(commands) == 10, f"--help lists the commands: {commands}")
     manual = (PROJECT / "docs/cellgroupcfg.1.scd").read_text(encoding="utf-8").replace("\\", "")
     completion = (PROJECT / "Tool/cellgroupcfg.bash").read_text(encoding="utf-8")
     for command in commands:
@@ -720,6 +684,8 @@ def test_help(folder):
     true(completed("cellgroupcfg", "decode", "--va") == ["--value-notation"], "an option is completed")
     true(completed("cellgroupcfg", "check", "--format", "s") == ["sarif"], "a value is completed")
     true(completed("cellgroupcfg", "explain", "RLC-Conf") == ["RLC-Config"], "a type is completed")
+    true(completed("cellgroupcfg", "explain", "bwp-in-c") == ["bwp-in-carrier"], "a rule is completed")
+    true(completed("cellgroupcfg", "rules", "tdd-dir") == ["tdd-direction"], "a rule's prefix is completed")
     expect([], USAGE, err=re.compile("command is required(.*\n)+.*--help"))
     expect(["decod", "00"], USAGE, err=re.compile("^cellgroupcfg: there is no command 'decod'; did you mean decode\\?\n"))
     expect(["decode", "--flatt", "00"], USAGE,
@@ -728,10 +694,5 @@ def test_help(folder):
                                            r"(, commit [0-9a-f]{10}\+?)?\n$"))
 
 
-with tempfile.TemporaryDirectory() as name:
-    for test in (test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta,
-                 test_apply, test_diff_state, test_check, test_find, test_pcap, test_wireshark, test_explain, test_streams, test_help):
-        test(pathlib.Path(name))
-print("\n\n".join(failures))
-print(f"{count} checks, {len(failures)} failed")
-sys.exit(1 if failures else 0)
+main(test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta, test_apply,
+     test_diff_state, test_find, test_pcap, test_wireshark, test_explain, test_rules, test_streams, test_help)

@@ -11,7 +11,7 @@ import sys
 import tempfile
 
 BLOCK = re.compile(r"^```console\n(.*?)^```$", re.M | re.S)
-DOCUMENTS = ("README.md", "docs/guide.md", "docs/delta.md")
+DOCUMENTS = ("README.md", "docs/guide.md", "docs/delta.md", "docs/rules.md")
 
 
 def commands(block):

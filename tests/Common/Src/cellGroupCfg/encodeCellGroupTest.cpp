@@ -342,6 +342,7 @@ TEST_F(encodeCellGroup, AmendedTree)
     CellGroupConfig* tree = nullptr;
     ASSERT_EQ(rrcComposeCellGroupTree(&context, record.get(), &tree), RRC_COMPOSE_OK);
     amend(*tree);
+    sendBlocks(tree->spCellConfig.reconfigurationWithSync.spCellConfigCommon, 0xFF000000000000FF);
     EXPECT_EQ(rtxMemHeapFailed(&context), 0);
     const std::string bits = "11111111" + std::string(48, '0') + "11111111";
     expectDecoded(
@@ -351,7 +352,7 @@ TEST_F(encodeCellGroup, AmendedTree)
             bits +
             R"("},"dmrs-TypeA-Position":"pos2","ss-PBCH-BlockPower":0},"newUE-Identity":0,"t304":"ms50"},)"
             R"("spCellConfigDedicated":{"csi-MeasConfig":{"setup":{"nzp-CSI-RS-ResourceToAddModList":[)" +
-            test::nzpResourceJson(7, R"("powerControlOffset":0)", R"(,"periodicityAndOffset":{"slots40":33})") +
+            test::nzpResourceJson(7, R"("powerControlOffset":0)", R"(,"periodicityAndOffset":{"slots40":31})") +
             R"(]}},"tag-Id":0}}})");
     EXPECT_EQ(printed(), "");
 }

@@ -1,0 +1,87 @@
+#include "check.h"
+
+#include "rtxLine.h"
+
+namespace rules
+{
+
+Report& Report::found(const char* format, ...)
+{
+    if (finding_ != nullptr)
+    {
+        va_list args;
+        va_start(args, format);
+        finding_->found = memory_.format(format, args);
+        va_end(args);
+    }
+    return *this;
+}
+
+Report& Report::allowed(const char* format, ...)
+{
+    if (finding_ != nullptr)
+    {
+        va_list args;
+        va_start(args, format);
+        finding_->allowed = memory_.format(format, args);
+        va_end(args);
+    }
+    return *this;
+}
+
+Report& Report::advice(const char* format, ...)
+{
+    if (finding_ != nullptr)
+    {
+        va_list args;
+        va_start(args, format);
+        finding_->advice = memory_.format(format, args);
+        va_end(args);
+    }
+    return *this;
+}
+
+void Check::begin(const Rule& rule, OSUINT32 index)
+{
+    rule_ = &rule;
+    index_ = index;
+}
+
+void Check::undecided(OSUINT32 inputs)
+{
+    undecided_[index_] |= model.complete ? inputs & ~OSUINT32{RRC_RULE_INPUT_PREVIOUS} : inputs;
+}
+
+Report Check::report(OSUINT8 severity, const void* at, size_t size, OSUINT32 decidedBy)
+{
+    auto* const finding = model.memory.take<Finding>();
+    if (finding != nullptr)
+    {
+        const auto number = static_cast<OSUINT32>(findings_.size());
+        *finding = {&rule_->told, at, size, decidedBy, number, severity, false, nullptr, "", nullptr};
+        findings_.add(model.memory, finding);
+    }
+    return {model.memory, finding};
+}
+
+void Check::writeIds(char* text, size_t size, OSUINT32* numbers, OSUINT32 count)
+{
+    std::sort(numbers, numbers + count);
+    rtx::Line line(text, size);
+    for (OSUINT32 i = 0; i < count;)
+    {
+        OSUINT32 last = i;
+        while (last + 1 < count && numbers[last + 1] <= numbers[last] + 1)
+        {
+            ++last;
+        }
+        rtx::append(line, "%s%u", i == 0 ? "" : ", ", numbers[i]);
+        if (numbers[last] != numbers[i])
+        {
+            rtx::append(line, "%s%u", numbers[last] == numbers[i] + 1 ? ", " : "..", numbers[last]);
+        }
+        i = last + 1;
+    }
+}
+
+} // namespace rules

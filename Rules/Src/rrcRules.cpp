@@ -1,0 +1,342 @@
+#include "rrcRules.h"
+
+#include "rtxDelta.h"
+#include "rules.h"
+
+#include <string_view>
+
+namespace rules
+{
+namespace
+{
+
+// In the order in which they are told and documented.
+constexpr const RuleGroup* groups[] = {&genRules,
+                                       &rlcRules,
+                                       &macRules,
+                                       &phyRules,
+                                       &bwpRules,
+                                       &pdcchCoresetRules,
+                                       &pdcchSearchSpaceRules,
+                                       &pdcchCommonRules,
+                                       &pdcchFormatRules,
+                                       &pdcchCrossCarrierRules,
+                                       &pdschRules,
+                                       &pucchRules,
+                                       &puschRules,
+                                       &srsRules,
+                                       &csiChainRules,
+                                       &csiReportRules,
+                                       &csiTriggerRules,
+                                       &csiResourceRules,
+                                       &csiPortRules,
+                                       &tciRules,
+                                       &tddRules,
+                                       &syncRules,
+                                       &rachRules,
+                                       &scellRules,
+                                       &ssbRules};
+
+struct GroupTitle
+{
+    const char* prefix; // of the ids
+    const char* title;
+};
+
+constexpr GroupTitle titles[] = {
+    {"gen", "The element as a whole"},
+    {"rlc", "RLC bearers"},
+    {"mac", "MAC and logical channels"},
+    {"phy", "Physical layer of the cell group"},
+    {"bwp", "Bandwidth parts and carriers"},
+    {"pdcch", "PDCCH: CORESETs, search spaces, group DCI, cross-carrier scheduling"},
+    {"pdsch", "PDSCH"},
+    {"pucch", "PUCCH"},
+    {"pusch", "PUSCH and configured grants"},
+    {"srs", "SRS"},
+    {"csi", "CSI measurement and reporting"},
+    {"tci", "TCI states"},
+    {"tdd", "Uplink and downlink in time"},
+    {"sync", "Reconfiguration with sync and the SpCell"},
+    {"rach", "Random access and beam failure recovery"},
+    {"scell", "SCells"},
+    {"ssb", "SS/PBCH blocks"},
+};
+
+template <typename Each>
+void forRules(const Each& each)
+{
+    OSUINT32 index = 0;
+    for (const RuleGroup* const group : groups)
+    {
+        for (const Rule& rule : std::span(group->rules, group->count))
+        {
+            each(rule, index++);
+        }
+    }
+}
+
+constexpr const char* inputNames[RRC_RULE_INPUTS] = {
+    "the previous configuration, or that this one is complete",
+    "the kind of the message",
+    "which cell group it is",
+    "the band",
+    "the frequency range or the band",
+    "the duplex mode or the band",
+    "the carriers",
+    "the initial downlink bandwidth part",
+    "the initial uplink bandwidth part",
+    "ssb-PositionsInBurst",
+    "dmrs-TypeA-Position",
+    "controlResourceSetZero",
+    "tdd-UL-DL-ConfigurationCommon",
+    "the cell-common configuration",
+    "the radio bearers",
+    "the measurement configuration",
+    "the other cell group",
+    "the UE's capabilities",
+    "rach-ConfigCommon of the initial uplink bandwidth part",
+};
+
+// The rules that are called for values.
+class Visitors
+{
+public:
+    void add(Memory& memory, const Rule& rule, OSUINT32 index)
+    {
+        all_.add(memory, {&rule, index});
+        kinds_ |= rule.kinds;
+    }
+
+    void walk(Check& check, const Tree& tree, const CellGroupConfig& element) const
+    {
+        if (all_.empty())
+        {
+            return;
+        }
+        forValues(tree.heap(), {*asn1Type_CellGroupConfig(), &element, nullptr, false},
+                  [&](const Value& value)
+                  {
+                      const OSUINT32 kind = kindBit(value.type.kind);
+                      if ((kinds_ & kind) == 0)
+                      {
+                          return;
+                      }
+                      for (const Entry& entry : all_)
+                      {
+                          if ((entry.rule->kinds & kind) != 0)
+                          {
+                              check.begin(*entry.rule, entry.index);
+                              entry.rule->visit(check, value);
+                          }
+                      }
+                  });
+    }
+
+private:
+    struct Entry
+    {
+        const Rule* rule;
+        OSUINT32 index;
+    };
+
+    Vector<Entry> all_;
+    OSUINT32 kinds_ = 0;
+};
+
+// What the message leads to; null where it cannot be applied, with `status`.
+const CellGroupConfig* stateAfter(OSCTXT& ctxt, const CellGroupConfig& message, const RrcRuleContext& known,
+                                  int& status)
+{
+    if (known.previous == nullptr || known.fullConfig != 0)
+    {
+        return &message;
+    }
+    void* const state = rtx::allocateFor(ctxt, sizeof message);
+    // What an entry lacks is for the rules to say.
+    status = state == nullptr
+                 ? int{RTX_E_HEAP}
+                 : rtx::apply(ctxt, *asn1Type_CellGroupConfig(), known.previous, &message, state, {.incomplete = true});
+    return status == RTX_OK ? static_cast<const CellGroupConfig*>(state) : nullptr;
+}
+
+int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext& known,
+              int (*wanted)(void* arg, const RrcRule* rule), RrcRuleSink sink, void* arg)
+{
+    const rtx::HeapMark mark(ctxt);
+    int status = RTX_OK;
+    const CellGroupConfig* const after = stateAfter(ctxt, element, known, status);
+    if (after == nullptr)
+    {
+        return status;
+    }
+    const Tree tree(ctxt);
+    Memory memory(ctxt);
+    Model model(memory, tree, element, *after, known);
+    Vector<Finding*> findings;
+    auto* const undecided = memory.take<OSUINT32>(rrcRuleCount());
+    if (undecided == nullptr)
+    {
+        return RTX_E_HEAP;
+    }
+    (void)model.cells(); // whole, or no rule is asked
+    Check check(model, findings, undecided);
+    Visitors visitors{};
+    forRules(
+        [&](const Rule& rule, OSUINT32 index)
+        {
+            if (memory.failed() || (wanted != nullptr && wanted(arg, &rule.told) == 0))
+            {
+                return;
+            }
+            if (rule.visit != nullptr)
+            {
+                visitors.add(memory, rule, index);
+                return;
+            }
+            check.begin(rule, index);
+            rule.run(check);
+        });
+    visitors.walk(check, tree, element);
+    if (memory.failed())
+    {
+        return RTX_E_HEAP;
+    }
+    Places places(tree, sink, arg);
+    const int64_t told = places.tell(findings, model.config, element);
+    forRules(
+        [&](const Rule& rule, OSUINT32 index)
+        {
+            if (undecided[index] != 0)
+            {
+                places.tellUndecided(rule.told, undecided[index]);
+            }
+        });
+    return told;
+}
+
+void appendPath(rtx::Line& line, const RrcRuleFinding& finding)
+{
+    rtx::append(line, "CellGroupConfig");
+    for (const RrcRuleStep& step : std::span(finding.path, finding.depth))
+    {
+        if (step.name != nullptr)
+        {
+            rtx::append(line, ".%s", step.name);
+        }
+        else if (step.identity == nullptr)
+        {
+            rtx::append(line, "[%u]", step.index);
+        }
+        else
+        {
+            rtx::append(line, "[%u: %s %" PRId64 "]", step.index, step.identity, step.id);
+        }
+    }
+}
+
+} // namespace
+} // namespace rules
+
+int64_t rrcCheckSomeRules(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRuleContext* known,
+                          int (*wanted)(void* arg, const RrcRule* rule), RrcRuleSink sink, void* arg)
+{
+    static constexpr RrcRuleContext nothing{};
+    const RrcRuleContext& context = known == nullptr ? nothing : *known;
+    if (pctxt == nullptr || pvalue == nullptr)
+    {
+        return RTX_E_NULL;
+    }
+    return rules::check(*pctxt, *pvalue, context, wanted, sink, arg);
+}
+
+int64_t rrcCheckRules(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRuleContext* known, RrcRuleSink sink,
+                      void* arg)
+{
+    return rrcCheckSomeRules(pctxt, pvalue, known, nullptr, sink, arg);
+}
+
+size_t rrcRulePathFormat(const RrcRuleFinding* finding, char* text, size_t size)
+{
+    rtx::Line line(text, size);
+    rules::appendPath(line, *finding);
+    return line.length;
+}
+
+size_t rrcRuleFindingFormat(const RrcRuleFinding* finding, char* text, size_t size)
+{
+    rtx::Line line(text, size);
+    rtx::append(line, "%s: ", rrcRuleSeverityName(finding->severity));
+    rules::appendPath(line, *finding);
+    rtx::append(line, ": %s%s%s [%s]", finding->found, finding->allowed[0] == '\0' ? "" : ", but ", finding->allowed,
+                finding->rule);
+    return line.length;
+}
+
+OSUINT32 rrcRuleCount(void)
+{
+    OSUINT32 count = 0;
+    for (const rules::RuleGroup* const group : rules::groups)
+    {
+        count += group->count;
+    }
+    return count;
+}
+
+const RrcRule* rrcRuleAt(OSUINT32 index)
+{
+    for (const rules::RuleGroup* const group : rules::groups)
+    {
+        if (index < group->count)
+        {
+            return &group->rules[index].told;
+        }
+        index -= group->count;
+    }
+    return nullptr;
+}
+
+const RrcRule* rrcRuleById(const char* id)
+{
+    const RrcRule* found = nullptr;
+    rules::forRules(
+        [&](const rules::Rule& rule, OSUINT32)
+        {
+            if (id != nullptr && std::strcmp(rule.told.id, id) == 0)
+            {
+                found = &rule.told;
+            }
+        });
+    return found;
+}
+
+const char* rrcRuleGroupTitle(const char* id)
+{
+    const std::string_view prefix(id, id == nullptr ? 0 : std::strcspn(id, "-"));
+    for (const rules::GroupTitle& group : rules::titles)
+    {
+        if (prefix == group.prefix)
+        {
+            return group.title;
+        }
+    }
+    return nullptr;
+}
+
+const char* rrcRuleSeverityName(OSUINT8 severity)
+{
+    static constexpr const char* names[] = {"undecided", "notice", "warning", "error"};
+    return severity < std::size(names) ? names[severity] : "unknown";
+}
+
+const char* rrcRuleInputName(OSUINT32 input)
+{
+    for (OSUINT32 i = 0; i < RRC_RULE_INPUTS; ++i)
+    {
+        if (input == OSUINT32{1} << i)
+        {
+            return rules::inputNames[i];
+        }
+    }
+    return nullptr;
+}

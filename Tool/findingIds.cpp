@@ -1,0 +1,156 @@
+#include "findingIds.h"
+
+#include "nearest.h"
+#include "ruleTable.h"
+#include "session.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace tool
+{
+namespace
+{
+
+struct Id
+{
+    const char* id;
+    const char* statement;
+    const char* advice;
+    const char* clause;
+    bool isOptional; // the message can be read all the same
+};
+
+constexpr auto ids = std::to_array<Id>({
+    {"asn1-range", "A value lies within the range of its type.", "", "X.680 51.4", true},
+    {"asn1-size", "A list has as many elements as its type allows.", "", "X.680 51.5", true},
+    {"asn1-choice", "A choice holds one of its alternatives.", "", "X.680 29", true},
+    {"asn1-bits", "A bit string is as long as its type says.", "", "X.680 51.5", true},
+    {"per-end", "A message has all the bits that it announces.",
+     "The message is cut off, or it is of another type or release.", "", false},
+    {"per-padding", "The bits that fill up the last octet are 0.",
+     "The message is of another type, or its end is not where it is taken for.", "X.691 11.1", false},
+    {"per-surplus", "Nothing follows the message.", "Leave out what follows the message.", "X.691 11.1", false},
+    {"per-length", "A length is one that PER allows.", "", "X.691 11.9", false},
+    {"per-extension", "An extension that is announced has an addition.", "", "X.691 19.7", false},
+    {"depth", "A message is not deeper than any of its type can be.", "", "", false},
+    {"memory", "There is memory for the message.", "", "", false},
+    {"tree", "Each element of a message can be reached.", "", "", false},
+    {"jer", "A text is JER of its type.", "", "X.697", false},
+    {"flat", "Flat lines are of their type.", "", "", false},
+    {"unknown-addition", "A message has no additions of a later release.", "", "X.691 19.7", true},
+    {"per-not-canonical", "A message is encoded in the one canonical way.", "", "X.691 6.1", true},
+    {"delta-apply", "A message can be applied to what the UE has.",
+     "Give with --previous what the UE has had, in order, or mend the message.", "TS 38.331 5.3.5.5", true},
+    {"silence", "A comment that silences names a rule and a reason.",
+     "Write // cellgroupcfg: silence RULE and the reason, at the member.", "", false},
+});
+
+const Id* find(const std::string& id)
+{
+    const auto* const found = std::find_if(ids.begin(), ids.end(), [&](const Id& one) { return one.id == id; });
+    return found == ids.end() ? nullptr : &*found;
+}
+
+// Those that can be passed over.
+std::vector<std::string_view> optionalIds()
+{
+    std::vector<std::string_view> all;
+    for (const Id& id : ids)
+    {
+        if (id.isOptional)
+        {
+            all.emplace_back(id.id);
+        }
+    }
+    const std::vector<std::string_view> rules = ruleIds();
+    all.insert(all.end(), rules.begin(), rules.end());
+    return all;
+}
+
+} // namespace
+
+const char* idOf(OSINT32 status)
+{
+    switch (status)
+    {
+    case RTX_E_RANGE:
+        return "asn1-range";
+    case RTX_E_SIZE:
+        return "asn1-size";
+    case RTX_E_CHOICE:
+        return "asn1-choice";
+    case RTX_E_BITS:
+        return "asn1-bits";
+    case RTX_E_END:
+        return "per-end";
+    case RTX_E_PADDING:
+        return "per-padding";
+    case RTX_E_SURPLUS:
+        return "per-surplus";
+    case RTX_E_LENGTH:
+        return "per-length";
+    case RTX_E_EXTENSION:
+        return "per-extension";
+    case RTX_E_DEPTH:
+        return "depth";
+    case RTX_E_HEAP:
+        return "memory";
+    default:
+        return "tree";
+    }
+}
+
+IdWords wordsOf(const std::string& id)
+{
+    if (const Id* const found = find(id))
+    {
+        return {found->statement, found->advice, found->clause};
+    }
+    const RrcRule* const rule = rrcRuleById(id.c_str());
+    return rule == nullptr ? IdWords{} : IdWords{rule->statement, rule->advice, rule->clause};
+}
+
+bool isIdOf(std::string_view word, std::string_view id)
+{
+    return word == id || (word.ends_with('-') && id.starts_with(word));
+}
+
+std::string wrongId(const std::string& word)
+{
+    const std::vector<std::string_view> all = optionalIds();
+    const auto namesAny = [&](const std::string& one)
+    {
+        return std::any_of(all.begin(), all.end(), [&](std::string_view id) { return isIdOf(one, id); });
+    };
+    if (namesAny(word))
+    {
+        return "";
+    }
+    if (find(word) != nullptr)
+    {
+        return "'" + word + "' is about messages that cannot be read, which are never passed over";
+    }
+    const std::string group = word + "-";
+    const auto close = namesAny(group) ? std::optional<std::string_view>(group) : text::nearest(word, all);
+    return "there is no rule '" + word + "'" + (close ? "; did you mean " + std::string(*close) + "?" : "");
+}
+
+Ids::Ids(std::vector<std::string> words, const std::string& origin) : words_(std::move(words))
+{
+    for (const std::string& word : words_)
+    {
+        if (const std::string wrong = wrongId(word); !wrong.empty())
+        {
+            throw Failure(Exit::Usage, origin + ": " + wrong);
+        }
+    }
+}
+
+bool Ids::have(std::string_view id) const
+{
+    return std::any_of(words_.begin(), words_.end(), [&](const std::string& word) { return isIdOf(word, id); });
+}
+
+} // namespace tool

@@ -1,0 +1,179 @@
+#include "ruleFindings.h"
+
+#include "encodingFindings.h"
+#include "rtxTree.h"
+
+namespace tool
+{
+namespace
+{
+
+constexpr std::size_t longestContext = 120;
+
+// The one value of a type without members and elements, as flat lines have it.
+std::string flatText(const OSCTXT& context, const RtxType& type, const void* value)
+{
+    std::string text =
+        written([&](RtxPrintSink sink, void* arg) { (void)rtxToFlat(&context, &type, value, sink, arg); });
+    text.erase(0, text.find(" = ") + 3);
+    text.pop_back(); // the line end
+    return text;
+}
+
+std::string shownValue(const OSCTXT& context, const RtxType& type, const void* value)
+{
+    if (type.kind < rtx::Kind::Sequence)
+    {
+        return flatText(context, type, value);
+    }
+    constexpr std::string_view more = "...";
+    std::string text = valueText(&context, type, value);
+    if (text.size() > longestContext)
+    {
+        text.resize(longestContext - more.size());
+        text += more;
+    }
+    return text;
+}
+
+std::string pathOf(const RrcRuleFinding& told)
+{
+    std::string path(rrcRulePathFormat(&told, nullptr, 0) + 1, '\0');
+    (void)rrcRulePathFormat(&told, path.data(), path.size());
+    path.pop_back(); // the terminator
+    return path;
+}
+
+// "path = value" of the place; of an absent member that of the structure around it, which is always there.
+std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told)
+{
+    if (told.depth == 0)
+    {
+        return "";
+    }
+    std::string path = asn1Type_CellGroupConfig()->name;
+    const RtxType* type = asn1Type_CellGroupConfig();
+    const RtxType* owner = nullptr;
+    const rtx::Member* member = nullptr;
+    std::string around;
+    for (const RrcRuleStep& step : std::span(told.path, told.depth))
+    {
+        owner = type;
+        around = path;
+        if (step.name == nullptr)
+        {
+            member = type->members;
+            path += "[" + std::to_string(step.index) + "]";
+        }
+        else
+        {
+            const auto* const name = std::find_if(type->names, type->names + type->memberCount,
+                                                  [&](const char* one) { return std::string_view(one) == step.name; });
+            member = type->members + (name - type->names);
+            path += "." + std::string(step.name);
+        }
+        type = member->type;
+    }
+    if (owner->kind == rtx::Kind::Sequence)
+    {
+        const void* const structure = static_cast<const OSOCTET*>(told.value) - member->offset;
+        if (!rtx::isPresent(*member, structure))
+        {
+            return around + " = " + shownValue(context, *owner, structure);
+        }
+    }
+    return path + " = " + shownValue(context, *type, told.value);
+}
+
+Severity severityOf(OSUINT8 severity)
+{
+    return severity == RRC_RULE_ERROR     ? Severity::Error
+           : severity == RRC_RULE_WARNING ? Severity::Warning
+                                          : Severity::Notice;
+}
+
+Finding findingOf(const OSCTXT& context, const RrcRuleFinding& told)
+{
+    Finding finding;
+    finding.id = told.rule;
+    finding.severity = severityOf(told.severity);
+    finding.path = pathOf(told);
+    finding.value = told.found;
+    finding.allowed = told.allowed;
+    finding.message = finding.value + (finding.allowed.empty() ? "" : ", but " + finding.allowed) +
+                      (told.configuredBefore != 0 ? " (configured before)" : "");
+    finding.advice = told.advice;
+    finding.clause = told.clause;
+    finding.context = contextOf(context, told);
+    finding.decidedBy = optionsOf(told.decidedBy);
+    finding.configuredBefore = told.configuredBefore != 0;
+    return finding;
+}
+
+// What the callbacks of a check need.
+struct Asked
+{
+    const OSCTXT& context;
+    const RuleChoice& choice;
+    RuleVerdict verdict;
+};
+
+int wanted(void* arg, const RrcRule* rule)
+{
+    return static_cast<const Asked*>(arg)->choice.has(rule->id) ? 1 : 0;
+}
+
+int take(void* arg, const RrcRuleFinding* told)
+{
+    Asked& asked = *static_cast<Asked*>(arg);
+    if (told->severity == RRC_RULE_UNDECIDED)
+    {
+        asked.verdict.undecided.push_back({told->rule, optionsOf(told->decidedBy)});
+    }
+    else
+    {
+        asked.verdict.findings.push_back(findingOf(asked.context, *told));
+    }
+    return 0;
+}
+
+} // namespace
+
+RuleVerdict ruleFindings(Message& message, const RrcRuleContext& known, const std::optional<Encoding>& held,
+                         const RuleChoice& choice)
+{
+    OSCTXT& context = message.context();
+    RrcRuleContext all = known;
+    if (held)
+    {
+        all.previous = static_cast<const CellGroupConfig*>(decodedIn(context, message.pdu(), *held));
+    }
+    const auto* const element = static_cast<const CellGroupConfig*>(message.value());
+    Asked asked{context, choice, {}};
+    std::vector<Finding> refused;
+    std::int64_t status = rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
+    if (status < 0 && status != RTX_E_HEAP && all.previous != nullptr)
+    {
+        Finding finding = findingOf(context.error);
+        const IdWords words = wordsOf("delta-apply");
+        finding.id = "delta-apply";
+        finding.advice = words.advice;
+        finding.clause = words.clause;
+        if (choice.has(finding.id))
+        {
+            refused.push_back(std::move(finding));
+        }
+        rtxErrReset(&context);
+        all.previous = nullptr;
+        all.extent = RRC_RULE_EXTENT_DELTA;
+        status = rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
+    }
+    if (status < 0)
+    {
+        throw Failure(Exit::Usage, "out of memory");
+    }
+    asked.verdict.findings.insert(asked.verdict.findings.begin(), refused.begin(), refused.end());
+    return std::move(asked.verdict);
+}
+
+} // namespace tool

@@ -1,0 +1,29 @@
+// The table of rules as the commands tell it.
+#pragma once
+
+#include "findingIds.h"
+#include "rrcRules.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tool
+{
+
+// All rules, in the order of the table.
+std::vector<const RrcRule*> allRules();
+
+// The ids of all rules.
+std::vector<std::string_view> ruleIds();
+
+// The lines of an example, with the whole paths of flat lines: "CellGroupConfig.cellGroupId = 2".
+std::vector<std::string> exampleLines(std::string_view example);
+
+// What there is to say of a rule: what holds, what to do where it does not, examples, how to silence it.
+std::string ruleText(const RrcRule& rule, bool color);
+
+// What there is to say of another finding's id.
+std::string idText(const std::string& id, const IdWords& words, bool color);
+
+} // namespace tool
