@@ -95,6 +95,18 @@ bool makeRoom(OSCTXT& ctxt, size_t octets)
     return rtx::take(ctxt, wanted);
 }
 
+// Frees the blocks down to `last`, which the heap keeps, or down to the caller's memory, which is the oldest and need
+// not be there any more.
+void freeBlocks(OSCTXT& ctxt, const RtxHeapBlock* last)
+{
+    for (RtxHeapBlock* block = ctxt.heap.blocks; block != last && block != ctxt.heap.memory;)
+    {
+        RtxHeapBlock* const older = block->link;
+        std::free(block);
+        block = older;
+    }
+}
+
 } // namespace
 
 void rtx::initHeap(OSCTXT& ctxt, RtxHeapBlock* memory)
@@ -104,13 +116,23 @@ void rtx::initHeap(OSCTXT& ctxt, RtxHeapBlock* memory)
 
 void rtx::freeHeap(OSCTXT& ctxt)
 {
-    for (RtxHeapBlock* block = ctxt.heap.blocks; block != nullptr && block != ctxt.heap.memory;)
-    {
-        RtxHeapBlock* const older = block->link;
-        std::free(block);
-        block = older;
-    }
+    freeBlocks(ctxt, nullptr);
     initHeap(ctxt, ctxt.heap.memory);
+}
+
+rtx::HeapScope::~HeapScope()
+{
+    auto& heap = ctxt_.heap;
+    const OSOCTET* const used = heap.blocks == block_ ? std::min(heap.next, end_) : end_;
+    freeBlocks(ctxt_, block_);
+    if (used != next_)
+    {
+        std::memset(next_, 0, static_cast<size_t>(used - next_)); // is handed out cleared again
+    }
+    heap.blocks = block_;
+    heap.next = next_;
+    heap.end = end_;
+    heap.left = left_;
 }
 
 rtx::Owned rtx::owner(const OSCTXT& ctxt, const void* p, size_t octets)

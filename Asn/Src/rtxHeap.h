@@ -112,6 +112,26 @@ private:
     bool kept_ = false;
 };
 
+// The same for work of its own: when it goes, the heap is as it was, without the blocks that were added meanwhile.
+class HeapScope
+{
+public:
+    explicit HeapScope(OSCTXT& ctxt)
+        : ctxt_(ctxt), block_(ctxt.heap.blocks), next_(ctxt.heap.next), end_(ctxt.heap.end), left_(ctxt.heap.left)
+    {
+    }
+    ~HeapScope();
+    HeapScope(const HeapScope&) = delete;
+    HeapScope& operator=(const HeapScope&) = delete;
+
+private:
+    OSCTXT& ctxt_;
+    RtxHeapBlock* block_;
+    OSOCTET* next_;
+    OSOCTET* end_;
+    size_t left_;
+};
+
 // Whether all `size` octets at `p` were handed out by the context's heap.
 inline bool owns(const OSCTXT& ctxt, const void* p, size_t size)
 {

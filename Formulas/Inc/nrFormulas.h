@@ -103,6 +103,13 @@ int nrTddFillsFrames(const NrTddPattern* first, const NrTddPattern* second);
 // below the reference `muRef`; `second` may be null.
 NrSymbolKind nrTddSymbol(const NrTddPattern* first, const NrTddPattern* second, uint32_t muRef, uint32_t mu,
                          uint32_t slot, uint32_t symbol);
+// The same of all symbols of a slot, bit i for symbol i; those in neither are flexible.
+typedef struct NrTddSlot
+{
+    uint16_t downlink;
+    uint16_t uplink;
+} NrTddSlot;
+NrTddSlot nrTddSlot(const NrTddPattern* first, const NrTddPattern* second, uint32_t muRef, uint32_t mu, uint32_t slot);
 
 // CSI-RS (TS 38.211 table 7.4.1.5.3-1).
 typedef enum NrCsiRsBranch

@@ -90,3 +90,28 @@ NrSymbolKind nrTddSymbol(const NrTddPattern* first, const NrTddPattern* second, 
     }
     return NR_SYMBOL_FLEXIBLE;
 }
+
+NrTddSlot nrTddSlot(const NrTddPattern* first, const NrTddPattern* second, uint32_t muRef, uint32_t mu, uint32_t slot)
+{
+    constexpr auto all = static_cast<uint16_t>((1U << NR_SYMBOLS) - 1);
+    const auto kindOf = [&](uint32_t symbol)
+    {
+        return nrTddSymbol(first, second, muRef, mu, slot, symbol);
+    };
+    const NrSymbolKind begin = kindOf(0);
+    if (begin == kindOf(NR_SYMBOLS - 1)) // a slot lies within one pattern, whose uplink follows its downlink
+    {
+        return {begin == NR_SYMBOL_DOWNLINK ? all : uint16_t{0}, begin == NR_SYMBOL_UPLINK ? all : uint16_t{0}};
+    }
+    NrTddSlot symbols{};
+    for (uint32_t i = 0; i < NR_SYMBOLS; ++i)
+    {
+        const NrSymbolKind kind = kindOf(i);
+        uint16_t none = 0;
+        uint16_t& mask = kind == NR_SYMBOL_DOWNLINK ? symbols.downlink
+                         : kind == NR_SYMBOL_UPLINK ? symbols.uplink
+                                                    : none;
+        mask = static_cast<uint16_t>(mask | 1U << i);
+    }
+    return symbols;
+}

@@ -223,7 +223,7 @@ typedef struct RrcRule
 // the order of the places in the tree, of one place in the order of the rules; behind them what is undecided. The tree
 // may be broken: pointers that do not lead into the heap are not followed, and nothing is said of what lies behind
 // them. Takes from the heap what the number of cells, bandwidth parts, resources and findings asks for and gives it
-// back, unless the heap had to grow. `known` may be null. Returns the number of findings without RRC_RULE_UNDECIDED;
+// back. `known` may be null. Returns the number of findings without RRC_RULE_UNDECIDED;
 // or, without a call of the sink, RTX_E_NULL without context or element, RTX_E_HEAP when the heap is exhausted, and
 // with `previous` the status of rtxApply and the context's error where one of the two trees is broken, a list would
 // become too long or they are of different cell groups. (That an entry lacks what its creation asks for is a finding.)

@@ -41,12 +41,6 @@ Report& Report::advice(const char* format, ...)
     return *this;
 }
 
-void Check::begin(const Rule& rule, OSUINT32 index)
-{
-    rule_ = &rule;
-    index_ = index;
-}
-
 void Check::undecided(OSUINT32 inputs)
 {
     undecided_[index_] |= model.complete ? inputs & ~OSUINT32{RRC_RULE_INPUT_PREVIOUS} : inputs;
@@ -54,12 +48,12 @@ void Check::undecided(OSUINT32 inputs)
 
 Report Check::report(OSUINT8 severity, const void* at, size_t size, OSUINT32 decidedBy)
 {
-    auto* const finding = model.memory.take<Finding>();
+    const OSUINT32 number = count_++;
+    auto* const finding = findings_ == nullptr ? nullptr : model.memory.take<Finding>();
     if (finding != nullptr)
     {
-        const auto number = static_cast<OSUINT32>(findings_.size());
         *finding = {&rule_->told, at, size, decidedBy, number, severity, false, nullptr, "", nullptr};
-        findings_.add(model.memory, finding);
+        findings_->add(model.memory, finding);
     }
     return {model.memory, finding};
 }

@@ -18,13 +18,8 @@ struct Rule
     RrcRule told;
     void (*run)(Check& check) = nullptr;
     void (*visit)(Check& check, const Value& value) = nullptr;
-    OSUINT32 kinds = 0; // of `visit`: kindBit() of each
+    OSUINT32 kinds = 0; // of `visit`: kindBits()
 };
-
-constexpr OSUINT32 kindBit(rtx::Kind kind)
-{
-    return 1U << static_cast<unsigned>(kind);
-}
 
 // The rules of one file, in the order of the documents.
 struct RuleGroup
@@ -54,13 +49,14 @@ public:
 
 private:
     Memory& memory_;
-    Finding* finding_; // null when the heap is exhausted
+    Finding* finding_; // null where nobody is told, and when the heap is exhausted
 };
 
 class Check
 {
 public:
-    Check(Model& modelOf, Vector<Finding*>& findings, OSUINT32* undecided)
+    // Without `findings` they are only counted.
+    Check(Model& modelOf, Vector<Finding*>* findings, OSUINT32* undecided)
         : model(modelOf), tree(modelOf.tree), findings_(findings), undecided_(undecided)
     {
     }
@@ -181,36 +177,56 @@ public:
     void undecided(OSUINT32 inputs);
 
     // For rrcCheckRules.
-    void begin(const Rule& rule, OSUINT32 index);
+    void begin(const Rule& rule, OSUINT32 index)
+    {
+        rule_ = &rule;
+        index_ = index;
+    }
+
+    // How often a rule has said something.
+    OSUINT32 count() const
+    {
+        return count_;
+    }
 
 private:
     Report report(OSUINT8 severity, const void* at, size_t size, OSUINT32 decidedBy);
 
     template <typename T>
-    static void listIds(Report& told, const Ids<T>& ids, const char* what)
+    void listIds(Report& told, const Ids<T>& ids, const char* what)
     {
-        char text[256];
-        OSUINT32 numbers[64];
-        OSUINT32 count = 0;
-        for (const auto& entry : ids)
+        if (ids.empty())
         {
-            if (count < std::size(numbers))
-            {
-                numbers[count++] = entry.id;
-            }
+            told.allowed("%s of that id is not configured, nor any other", what);
+            return;
         }
-        writeIds(text, sizeof text, numbers, count);
-        count == 0 ? told.allowed("%s of that id is not configured, nor any other", what)
-                   : told.allowed("%s of that id is not configured: there is %s", what, text);
+        if (findings_ != nullptr && listed_ != &ids) // many references may fail in the same list
+        {
+            listed_ = &ids;
+            OSUINT32 numbers[64];
+            OSUINT32 count = 0;
+            for (const auto& entry : ids)
+            {
+                if (count < std::size(numbers))
+                {
+                    numbers[count++] = entry.id;
+                }
+            }
+            writeIds(listedIds_, sizeof listedIds_, numbers, count);
+        }
+        told.allowed("%s of that id is not configured: there is %s", what, listedIds_);
     }
 
     // "0..3, 7".
     static void writeIds(char* text, size_t size, OSUINT32* numbers, OSUINT32 count);
 
-    Vector<Finding*>& findings_;
+    Vector<Finding*>* findings_;
     OSUINT32* undecided_; // by the rules' index
     const Rule* rule_ = nullptr;
     OSUINT32 index_ = 0;
+    OSUINT32 count_ = 0;
+    const void* listed_ = nullptr; // the Ids of the model that listedIds_ tells
+    char listedIds_[256] = "";
 };
 
 } // namespace rules

@@ -7,13 +7,6 @@ namespace rules
 namespace
 {
 
-// What identifies an element of the list.
-int64_t identityOf(const RtxType& listType, const void* element)
-{
-    const rtx::Member& member = listType.element().members[listType.identity];
-    return rtx::loadNumber(*member.type, static_cast<const OSOCTET*>(element) + member.offset);
-}
-
 const void* memberOf(const rtx::Member& member, const void* structure)
 {
     return structure != nullptr && rtx::isPresent(member, structure)
@@ -22,27 +15,6 @@ const void* memberOf(const rtx::Member& member, const void* structure)
 }
 
 } // namespace
-
-const void* sameElement(const OSCTXT& heap, const RtxType& listType, const void* element, OSUINT32 index,
-                        const OSRTDList& list, OSUINT32& found)
-{
-    const RtxType& type = listType.element();
-    const void* same = nullptr;
-    uint32_t reached = 0;
-    const auto look = [&](uint32_t at, const void* data)
-    {
-        const bool isIt = listType.identity < 0 ? at == index
-                                                : rtx::refuse(&heap, data, type) == RTX_OK &&
-                                                      identityOf(listType, data) == identityOf(listType, element);
-        if (isIt && same == nullptr && rtx::refuse(&heap, data, type) == RTX_OK)
-        {
-            same = data;
-            found = at;
-        }
-    };
-    (void)rtx::forNodes(&heap, list, std::min(list.count, mostElements), reached, look);
-    return same;
-}
 
 void Counterparts::build(Memory& memory, const Tree& tree, const RtxType& type, const void* after, const void* before,
                          const void* sent)
@@ -116,18 +88,14 @@ void Counterparts::matchList(const RtxType& type, const OSRTDList& after, const 
 {
     // A list without identities is replaced as a whole.
     const void* const old = type.identity < 0 && sent != nullptr ? nullptr : before;
-    const auto same = [&](const void* list, const void* element, OSUINT32 index) -> const void*
-    {
-        OSUINT32 found = 0;
-        return list == nullptr ? nullptr
-                               : sameElement(*heap_, type, element, index, *static_cast<const OSRTDList*>(list), found);
-    };
+    Matching inBefore(type, old);
+    Matching inMessage(type, sent);
     uint32_t reached = 0;
     const auto each = [&](uint32_t index, const void* data)
     {
         if (rtx::refuse(heap_, data, type.element()) == RTX_OK)
         {
-            match(type.element(), data, same(old, data, index), same(sent, data, index));
+            match(type.element(), data, inBefore.find(data, index), inMessage.find(data, index));
         }
     };
     (void)rtx::forNodes(heap_, after, std::min(after.count, mostElements), reached, each);

@@ -55,10 +55,50 @@ private:
     Vector<Entry> entries_;
 };
 
-// The element of the list that has the same identity as `element`, the index-th where the schema names none; null where
-// there is none. `found` gets its index.
-const void* sameElement(const OSCTXT& heap, const RtxType& listType, const void* element, OSUINT32 index,
-                        const OSRTDList& list, OSUINT32& found);
+// Finds elements in a list of a tree that has been checked: at once where they are asked for in its order.
+class Matching
+{
+public:
+    // `list` may be null.
+    Matching(const RtxType& type, const void* list)
+        : type_(type), list_(list == nullptr ? OSRTDList{} : rtx::load<OSRTDList>(list)), node_(list_.head)
+    {
+    }
+
+    // The element of the same identity as that one, or with its index where the schema names none; null where there is
+    // none.
+    const void* find(const void* element, OSUINT32 index)
+    {
+        const int64_t wanted = rtx::identityOf(type_, element, index);
+        for (OSUINT32 left = list_.count; left != 0 && list_.head != nullptr; --left)
+        {
+            if (node_ == nullptr || index_ == list_.count)
+            {
+                node_ = list_.head;
+                index_ = 0;
+            }
+            if (rtx::identityOf(type_, node_->data, index_) == wanted)
+            {
+                return node_->data;
+            }
+            node_ = node_->next;
+            ++index_;
+        }
+        return nullptr;
+    }
+
+    // Of the element that was found last.
+    OSUINT32 index() const
+    {
+        return index_;
+    }
+
+private:
+    const RtxType& type_;
+    OSRTDList list_;
+    const OSRTDListNode* node_; // where the next search begins; null: at the head
+    OSUINT32 index_ = 0;
+};
 
 } // namespace rules
 

@@ -218,6 +218,7 @@ void Places::alternative(const RtxType& type, const void* choice, const void* se
 
 void Places::list(const RtxType& type, const void* list, const void* sent, const Place* place)
 {
+    Matching inMessage(type, sent == list ? nullptr : sent);
     uint32_t reached = 0;
     const auto each = [&](uint32_t index, const void* data)
     {
@@ -229,7 +230,8 @@ void Places::list(const RtxType& type, const void* list, const void* sent, const
         const void* sentElement = sent == list ? data : nullptr;
         if (sent != nullptr && sent != list)
         {
-            sentElement = sameElement(tree_.heap(), type, data, index, rtx::load<OSRTDList>(sent), number);
+            sentElement = inMessage.find(data, index);
+            number = sentElement == nullptr ? index : inMessage.index();
         }
         const Place at{place, elementStep(type, number, data)};
         walk(type.element(), data, sentElement, &at);
@@ -252,10 +254,6 @@ void Places::array(const RtxType& type, const void* array, bool inMessage, const
 void Places::tellOne(const Finding& finding, const RtxType& type, bool present, bool inMessage, const Place* place)
 {
     ++told_;
-    if (sink_ == nullptr)
-    {
-        return;
-    }
     RrcRuleStep path[RTX_MAX_DEPTH];
     OSUINT32 depth = 0;
     for (const Place* p = place; p != nullptr; p = p->outer)
@@ -287,7 +285,7 @@ void Places::tellOne(const Finding& finding, const RtxType& type, bool present, 
 
 void Places::tellUndecided(const RrcRule& rule, OSUINT32 inputs)
 {
-    if (ended_ || sink_ == nullptr)
+    if (ended_)
     {
         return;
     }

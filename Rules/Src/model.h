@@ -77,6 +77,8 @@ struct Pucch;
 struct Pusch;
 struct Srs;
 struct Csi;
+struct TddGrid;
+class TddSlots;
 
 // A bandwidth part after the message. The initial ones are there, too, whatever is known of them.
 struct Bwp
@@ -293,6 +295,7 @@ public:
     const Pusch& pusch(Bwp& bwp);
     const Srs& srs(Bwp& bwp);
     const Csi& csi(Cell& cell);
+    TddSlots tddSlots(const Cell& cell, const TddGrid& grid, OSUINT32 mu);
 
     Known<Carriers> carriers(const Cell& cell, Direction direction) const;
     // The carrier that a bandwidth part lies in; null where the list has none of its spacing.
@@ -354,6 +357,13 @@ public:
     }
 
 private:
+    struct TddEntry
+    {
+        const Cell* cell;
+        OSUINT32 mu;
+        const NrTddSlot* slots;
+    };
+
     // Made when it is asked for.
     template <typename T>
     struct Lazy
@@ -378,6 +388,7 @@ private:
     Lazy<Counterparts> sentCounterparts_;
     Lazy<Vector<Cell>> cells_;
     Vector<Bwp> bwps_;
+    Vector<TddEntry> tdd_;
     Lazy<Ids<SCellConfig>> sCells_;
     Lazy<Ids<RLC_BearerConfig>> bearers_;
     Lazy<Vector<Channel>> channels_;

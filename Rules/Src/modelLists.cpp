@@ -539,4 +539,33 @@ Known<TddGrid> tddGrid(const Model& model, const Cell& cell)
     return fits ? Known<TddGrid>(grid) : Known<TddGrid>::unless(0);
 }
 
+OSUINT32 gridSlots(const TddGrid& grid, OSUINT32 mu)
+{
+    return nrTddSlots(grid.first.period, mu) + (grid.hasSecond ? nrTddSlots(grid.second.period, mu) : 0);
+}
+
+TddSlots Model::tddSlots(const Cell& cell, const TddGrid& grid, OSUINT32 mu)
+{
+    static constexpr NrTddSlot flexible{};
+    const OSUINT32 count = gridSlots(grid, mu);
+    for (const TddEntry& entry : tdd_)
+    {
+        if (entry.cell == &cell && entry.mu == mu)
+        {
+            return {entry.slots, count};
+        }
+    }
+    auto* const slots = memory.take<NrTddSlot>(count);
+    if (slots == nullptr)
+    {
+        return {&flexible, 1}; // a spacing that is none, or the heap is exhausted
+    }
+    for (OSUINT32 slot = 0; slot < count; ++slot)
+    {
+        slots[slot] = nrTddSlot(&grid.first, grid.secondOrNull(), grid.muRef, mu, slot);
+    }
+    tdd_.add(memory, {&cell, mu, slots});
+    return {slots, count};
+}
+
 } // namespace rules

@@ -190,6 +190,47 @@ Known<const TDD_UL_DL_ConfigCommon*> tddPattern(const Model& model, const Cell& 
 NrTddPattern patternOf(const TDD_UL_DL_Pattern& pattern);
 // Of a configuration whose numbers fit; unknown also where they do not.
 Known<TddGrid> tddGrid(const Model& model, const Cell& cell);
+OSUINT32 gridSlots(const TddGrid& grid, OSUINT32 mu);
+
+// The directions of a cell's symbols at a spacing that is not below the reference's.
+class TddSlots
+{
+public:
+    TddSlots() = default;
+    // `count` slots, at least one, from the start of the patterns on.
+    TddSlots(const NrTddSlot* slots, OSUINT32 count) : slots_(slots), count_(count) {}
+
+    // After them it begins again.
+    OSUINT32 count() const
+    {
+        return count_;
+    }
+    NrTddSlot at(OSUINT32 slot) const
+    {
+        return slots_[slot % count_];
+    }
+    bool isAll(OSUINT32 slot, NrSymbolKind kind) const
+    {
+        return maskOf(slot, kind) == (1U << NR_SYMBOLS) - 1;
+    }
+    // Whether any of the symbols, consecutive ones of a slot, is of a direction.
+    bool has(OSUINT32 slot, NrSpan symbols, NrSymbolKind kind) const
+    {
+        const OSUINT32 start = std::min<OSUINT32>(symbols.start, NR_SYMBOLS);
+        const OSUINT32 size = std::min<OSUINT32>(symbols.size, NR_SYMBOLS);
+        const OSUINT32 bits = ((1U << size) - 1) << start;
+        return (maskOf(slot, kind) & bits) != 0;
+    }
+
+private:
+    OSUINT32 maskOf(OSUINT32 slot, NrSymbolKind kind) const
+    {
+        return kind == NR_SYMBOL_DOWNLINK ? at(slot).downlink : at(slot).uplink;
+    }
+
+    const NrTddSlot* slots_ = nullptr;
+    OSUINT32 count_ = 0;
+};
 
 } // namespace rules
 

@@ -114,14 +114,10 @@ public:
         {
             return;
         }
-        forValues(tree.heap(), {*asn1Type_CellGroupConfig(), &element, nullptr, false},
+        forValues(tree.heap(), {*asn1Type_CellGroupConfig(), &element, nullptr, false}, kinds_,
                   [&](const Value& value)
                   {
                       const OSUINT32 kind = kindBit(value.type.kind);
-                      if ((kinds_ & kind) == 0)
-                      {
-                          return;
-                      }
                       for (const Entry& entry : all_)
                       {
                           if ((entry.rule->kinds & kind) != 0)
@@ -163,7 +159,7 @@ const CellGroupConfig* stateAfter(OSCTXT& ctxt, const CellGroupConfig& message, 
 int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext& known,
               int (*wanted)(void* arg, const RrcRule* rule), RrcRuleSink sink, void* arg)
 {
-    const rtx::HeapMark mark(ctxt);
+    const rtx::HeapScope scope(ctxt);
     int status = RTX_OK;
     const CellGroupConfig* const after = stateAfter(ctxt, element, known, status);
     if (after == nullptr)
@@ -180,7 +176,7 @@ int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext
         return RTX_E_HEAP;
     }
     (void)model.cells(); // whole, or no rule is asked
-    Check check(model, findings, undecided);
+    Check check(model, sink == nullptr ? nullptr : &findings, undecided);
     Visitors visitors{};
     forRules(
         [&](const Rule& rule, OSUINT32 index)
@@ -201,6 +197,10 @@ int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext
     if (memory.failed())
     {
         return RTX_E_HEAP;
+    }
+    if (sink == nullptr)
+    {
+        return check.count();
     }
     Places places(tree, sink, arg);
     const int64_t told = places.tell(findings, model.config, element);

@@ -648,6 +648,7 @@ const char* userOf(Check& check, const Cell& cell, Direction direction, OSUINT32
         return index == nullptr || (cell.index && *cell.index == *index);
     };
     forValues(check.tree.heap(), {nr_rrc::type_ServingCellConfig, cell.dedicated, nullptr, false},
+              kindBits(rtx::Kind::Sequence, rtx::Kind::Integer),
               [&](const Value& value)
               {
                   const RtxType* const type = &value.type;

@@ -264,14 +264,10 @@ Known<bool> hasTwoSlots(Check& check, const Tracking& tracking)
     {
         return Known<bool>::unless(mu.inputs() | grid.inputs());
     }
-    const auto isDownlink = [&](OSUINT32 slot)
+    const TddSlots slots = check.model.tddSlots(tracking.cell, *grid, *mu);
+    for (OSUINT32 slot = 0; slot < slots.count(); ++slot)
     {
-        return grid->kindOf(*mu, slot, NR_SYMBOLS - 1) == NR_SYMBOL_DOWNLINK;
-    };
-    const OSUINT32 slots = 20U << *mu;
-    for (OSUINT32 slot = 0; slot < slots; ++slot)
-    {
-        if (isDownlink(slot) && isDownlink(slot + 1))
+        if (slots.isAll(slot, NR_SYMBOL_DOWNLINK) && slots.isAll(slot + 1, NR_SYMBOL_DOWNLINK))
         {
             return true;
         }
@@ -595,13 +591,17 @@ void judgeCoresets(Check& check, Bwp& bwp, const NrSpan& rbs, const Grid& grid)
         {
             symbols |= firstSymbolsOf(*space.element) << i;
         }
+        if ((symbols & grid.symbols) == 0)
+        {
+            continue;
+        }
         bool isThere = false;
         for (OSUINT32 group = 0; group < coresetBits; ++group)
         {
             const NrSpan six = {rbs.start + nrCoresetGroupStart(rbs.start, group), 6};
             isThere = isThere || (hasBit(coreset->element->frequencyDomainResources, group) && overlap(six, grid.rbs));
         }
-        if (isThere && (symbols & grid.symbols) != 0)
+        if (isThere)
         {
             check.warning(&grid.resource->resourceMapping)
                 .found("NZP-CSI-RS-Resource %u", grid.resource->nzp_CSI_RS_ResourceId)

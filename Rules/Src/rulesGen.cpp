@@ -15,6 +15,12 @@ bool contains(const char* name, std::string_view part)
     return name != nullptr && std::string_view(name).find(part) != std::string_view::npos;
 }
 
+// Without a look at what follows.
+bool beginsWith(const char* name, std::string_view beginning)
+{
+    return name != nullptr && std::strncmp(name, beginning.data(), beginning.size()) == 0;
+}
+
 bool isReleaseList(const char* name)
 {
     return contains(name, "ToRelease") || contains(name, "Torelease");
@@ -90,17 +96,12 @@ int64_t idOf(const Identity& identity, const void* element)
     return rtx::loadNumber(*identity.type, identityAt(identity, element));
 }
 
-// Whether a list has an element with the id, among its first `most`.
-bool hasId(const OSCTXT& heap, const RtxType& list, const void* at, int64_t id, OSUINT32 most = mostElements)
+// Whether a list has an element with the id.
+bool hasId(const OSCTXT& heap, const RtxType& list, const void* at, int64_t id)
 {
     const Identity identity = identityOf(list);
     bool has = false;
-    forElements(heap, list, at,
-                [&](const void* element)
-                {
-                    has = has || (most != 0 && idOf(identity, element) == id);
-                    most -= most != 0 ? 1 : 0;
-                });
+    forElements(heap, list, at, [&](const void* element) { has = has || idOf(identity, element) == id; });
     return has;
 }
 
@@ -110,6 +111,30 @@ OSUINT32 numberOf(const RtxType& type, const void* list)
     return type.kind == rtx::Kind::List ? rtx::load<OSRTDList>(list).count : rtx::countOf(type, list);
 }
 
+// Ids that have been met. The schema's are all small.
+class MetIds
+{
+public:
+    // Whether it was there already; false of an id that is too large to be remembered.
+    bool add(int64_t id)
+    {
+        if (id < 0 || id >= most)
+        {
+            return false;
+        }
+        uint64_t& some = bits_[id / 64];
+        const uint64_t bit = uint64_t{1} << id % 64;
+        const bool was = (some & bit) != 0;
+        some |= bit;
+        return was;
+    }
+
+private:
+    static constexpr int64_t most = 1024;
+
+    uint64_t bits_[most / 64] = {};
+};
+
 // Within a list an id occurs once.
 void genDupId(Check& check, const Value& list)
 {
@@ -118,11 +143,11 @@ void genDupId(Check& check, const Value& list)
     {
         return;
     }
-    OSUINT32 index = 0;
+    MetIds met;
     forElements(check.tree.heap(), list.type, list.at,
                 [&](const void* element)
                 {
-                    if (hasId(check.tree.heap(), list.type, list.at, idOf(identity, element), index++))
+                    if (met.add(idOf(identity, element)))
                     {
                         check
                             .tell(isReleaseList(list.name) ? RRC_RULE_WARNING : RRC_RULE_ERROR, *identity.type,
@@ -132,84 +157,52 @@ void genDupId(Check& check, const Value& list)
                 });
 }
 
-// The list that a release list takes elements from, in the same sequence; -1 where it is none.
-int addedListOf(const RtxType& type, unsigned release)
+// The list that this one releases elements of, in the same sequence of the message; null where it releases none.
+const rtx::Member* addedListOf(const Value& list)
 {
-    std::string_view name = type.names[release];
-    const size_t at = std::min(name.find("ToRelease"), name.find("Torelease"));
-    if (at == std::string_view::npos)
+    if (list.sequence == nullptr || list.sequence->type.needs == nullptr)
     {
-        return -1;
+        return nullptr;
     }
-    name = name.substr(0, at);
-    for (unsigned i = 0; i < type.memberCount; ++i)
-    {
-        const std::string_view other = type.names[i];
-        if (other.starts_with(name) && other.substr(name.size()).starts_with("ToAdd"))
-        {
-            return static_cast<int>(i);
-        }
-    }
-    return -1;
+    const rtx::Need& need = list.sequence->type.needs[list.number];
+    return need.list == rtx::ListRole::Release ? list.sequence->type.members + need.partner : nullptr;
 }
 
-// Calls `each(release, added)` for the release lists that a sequence of the message has, with the numbers of the
-// members.
-template <typename Each>
-void forReleases(const Value& sequence, const Each& each)
+// A member of a sequence; null where it is not sent.
+const void* sentMember(const RtxType& type, const rtx::Member& member, const void* sequence)
 {
-    const RtxType& type = sequence.type;
-    for (unsigned i = 0; i < type.memberCount; ++i)
-    {
-        if (type.members[i].type->kind == rtx::Kind::Array && isSentMember(type, i, sequence.at))
-        {
-            if (const int added = addedListOf(type, i); added >= 0)
-            {
-                each(i, static_cast<unsigned>(added));
-            }
-        }
-    }
+    const auto number = static_cast<unsigned>(&member - type.members);
+    return sequence != nullptr && isSentMember(type, number, sequence) ? memberAt(member, sequence) : nullptr;
 }
 
 // What is released and added in one message is new.
-void genAddAndRelease(Check& check, const Value& sequence)
+void genAddAndRelease(Check& check, const Value& released)
 {
     const OSCTXT& heap = check.tree.heap();
-    const RtxType& type = sequence.type;
-    const auto look = [&](unsigned release, unsigned added)
+    const rtx::Member* const added = addedListOf(released);
+    const void* const list =
+        added == nullptr ? nullptr : sentMember(released.sequence->type, *added, released.sequence->at);
+    if (list == nullptr)
     {
-        if (!isSentMember(type, added, sequence.at))
-        {
-            return;
-        }
-        const rtx::Member& gone = type.members[release];
-        const rtx::Member& list = type.members[added];
-        const Identity identity = identityOf(*list.type);
-        forElements(heap, *list.type, memberAt(list, sequence.at),
-                    [&](const void* element)
+        return;
+    }
+    const Identity identity = identityOf(*added->type);
+    forElements(heap, *added->type, list,
+                [&](const void* element)
+                {
+                    if (hasId(heap, released.type, released.at, idOf(identity, element)))
                     {
-                        if (hasId(heap, *gone.type, memberAt(gone, sequence.at), idOf(identity, element)))
-                        {
-                            check.tell(RRC_RULE_NOTICE, *identity.type, identityAt(identity, element))
-                                .allowed("%s has it, too: the element is new, and nothing of the earlier one stays",
-                                         type.names[release]);
-                        }
-                    });
-    };
-    forReleases(sequence, look);
+                        check.tell(RRC_RULE_NOTICE, *identity.type, identityAt(identity, element))
+                            .allowed("%s has it, too: the element is new, and nothing of the earlier one stays",
+                                     released.name);
+                    }
+                });
 }
 
-// What is known of a member before the message: its place, null where it was not there.
-const void* beforeOf(const RtxType& type, unsigned number, const void* before)
+// What was at the place of a member, in the same sequence before the message; null where it was not there.
+const void* beforeOf(Check& check, const Value& sequence, const rtx::Member& member)
 {
-    return before != nullptr && isSentMember(type, number, before) ? memberAt(type.members[number], before) : nullptr;
-}
-
-// Whether a choice is a SetupRelease that releases.
-bool isReleased(const RtxType& type, const void* choice)
-{
-    return rtx::load<OSUINT32>(choice) == releaseTag && type.memberCount == 2 &&
-           std::string_view(type.names[0]) == "release";
+    return sentMember(sequence.type, member, check.model.beforeSent(sequence.at, sequence.type.size));
 }
 
 void tellUnknown(Check& check, const RtxType& type, const void* at)
@@ -224,39 +217,28 @@ void tellUnknown(Check& check, const RtxType& type, const void* at)
 }
 
 // What is released was configured.
-void genReleaseUnknown(Check& check, const Value& sequence)
+void genReleaseUnknown(Check& check, const Value& value)
 {
     const OSCTXT& heap = check.tree.heap();
-    const RtxType& type = sequence.type;
-    const auto releaseList = [&](unsigned release, unsigned added)
+    if (const rtx::Member* const added = addedListOf(value))
     {
-        const rtx::Member& list = type.members[release];
-        const rtx::Member& source = type.members[added];
-        const void* const there = beforeOf(type, added, check.model.beforeSent(sequence.at, type.size));
-        forElements(heap, *list.type, memberAt(list, sequence.at),
+        const void* const there = beforeOf(check, *value.sequence, *added);
+        forElements(heap, value.type, value.at,
                     [&](const void* id)
                     {
-                        const RtxType& idType = list.type->element();
-                        if (there == nullptr || !hasId(heap, *source.type, there, rtx::loadNumber(idType, id)))
+                        const RtxType& idType = value.type.element();
+                        if (there == nullptr || !hasId(heap, *added->type, there, rtx::loadNumber(idType, id)))
                         {
                             tellUnknown(check, idType, id);
                         }
                     });
-    };
-    forReleases(sequence, releaseList);
-    for (unsigned i = 0; i < type.memberCount; ++i)
+    }
+    else if (value.type.setupRelease && rtx::load<OSUINT32>(value.at) == releaseTag && value.sequence != nullptr)
     {
-        const rtx::Member& member = type.members[i];
-        const void* const choice = memberAt(member, sequence.at);
-        if (member.type->kind != rtx::Kind::Choice || !isSentMember(type, i, sequence.at) ||
-            !isReleased(*member.type, choice))
-        {
-            continue;
-        }
-        const void* const there = beforeOf(type, i, check.model.beforeSent(sequence.at, type.size));
+        const void* const there = beforeOf(check, *value.sequence, value.sequence->type.members[value.number]);
         if (there == nullptr || rtx::load<OSUINT32>(there) != setupTag)
         {
-            tellUnknown(check, *member.type, choice);
+            tellUnknown(check, value.type, value.at);
         }
     }
 }
@@ -305,7 +287,7 @@ void genSetupContent(Check& check)
 
 bool isSpare(const RtxType& type, int64_t number, int64_t last)
 {
-    return number >= 0 && number <= last && std::string_view(type.names[number]).starts_with("spare");
+    return number >= 0 && number <= last && beginsWith(type.names[number], "spare");
 }
 
 // No spare value is sent, and no dummy.
@@ -321,7 +303,7 @@ void genSpareValue(Check& check, const Value& value)
             .allowed("a spare value means nothing to a UE: %s",
                      value.isOptional ? "it takes the member for absent" : "a member that it needs is missing");
     }
-    if (value.isOptional && contains(value.name, "dummy"))
+    if (value.isOptional && beginsWith(value.name, "dummy"))
     {
         check.tell(RRC_RULE_NOTICE, value.type, value.at).allowed("a UE ignores it");
     }
@@ -375,7 +357,7 @@ constexpr Rule table[] = {
               .good = AT_PUCCH "resourceSetToAddModList[0].resourceList[1] = 1",
               .since = "0.1.0"},
      .visit = genDupId,
-     .kinds = kindBit(rtx::Kind::Array) | kindBit(rtx::Kind::List)},
+     .kinds = kindBits(rtx::Kind::Array, rtx::Kind::List)},
     {.told = {.id = "gen-add-and-release",
               .severity = RRC_RULE_NOTICE,
               .statement = "An id may be released and added in one message; it then names a new element.",
@@ -386,7 +368,7 @@ constexpr Rule table[] = {
               .good = "rlc-BearerToReleaseList[0] = 5",
               .since = "0.1.0"},
      .visit = genAddAndRelease,
-     .kinds = kindBit(rtx::Kind::Sequence)},
+     .kinds = kindBit(rtx::Kind::Array)},
     {.told = {.id = "gen-release-unknown",
               .severity = RRC_RULE_WARNING,
               .statement = "What is released was configured before; where nothing was, there is nothing to release.",
@@ -397,7 +379,7 @@ constexpr Rule table[] = {
               .good = AT_MAC "drx-Config = absent",
               .since = "0.1.0"},
      .visit = genReleaseUnknown,
-     .kinds = kindBit(rtx::Kind::Sequence)},
+     .kinds = kindBits(rtx::Kind::Array, rtx::Kind::Choice)},
     {.told = {.id = "gen-setup-content",
               .severity = RRC_RULE_ERROR,
               .statement =
@@ -420,7 +402,7 @@ constexpr Rule table[] = {
               .good = AT_MAC "schedulingRequestConfig.schedulingRequestToAddModList[0].sr-TransMax = n64",
               .since = "0.1.0"},
      .visit = genSpareValue,
-     .kinds = kindBit(rtx::Kind::Enumerated) | kindBit(rtx::Kind::Choice)},
+     .kinds = kindBits(rtx::Kind::Enumerated, rtx::Kind::Choice)},
     {.told = {.id = "gen-empty-container",
               .severity = RRC_RULE_WARNING,
               .statement = "A container that has only optional members is sent with at least one of them.",

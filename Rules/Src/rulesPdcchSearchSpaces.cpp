@@ -79,6 +79,15 @@ void pdcchSsCoresetRef(Check& check)
 // one of `a` or before it; NR_SYMBOLS where none does.
 OSUINT32 tooClose(OSUINT32 a, OSUINT32 b, OSUINT32 duration)
 {
+    OSUINT32 around = 0;
+    for (OSUINT32 apart = 1; apart < duration && apart < NR_SYMBOLS; ++apart)
+    {
+        around |= a << apart | a >> apart;
+    }
+    if ((around & b) == 0)
+    {
+        return NR_SYMBOLS;
+    }
     for (OSUINT32 i = 0; i < NR_SYMBOLS; ++i)
     {
         for (OSUINT32 k = 0; k < NR_SYMBOLS; ++k)
@@ -488,16 +497,47 @@ Vector<LoadSet> loadSetsOf(Check& check, Bwp& bwp, const Pdcch& pdcch)
     return sets;
 }
 
+// Search spaces whose load in one slot is known to be below the limits, and so is that of a part of them.
+class BelowLimits
+{
+public:
+    bool has(OSUINT32 active) const
+    {
+        return std::any_of(std::begin(known_), std::end(known_), [=](OSUINT32 all) { return (active & ~all) == 0; });
+    }
+    void add(OSUINT32 active)
+    {
+        known_[next_++ % std::size(known_)] = active;
+    }
+
+private:
+    OSUINT32 known_[64] = {};
+    size_t next_ = 0;
+};
+
 // The first slot whose load is above the limits; false where there is none.
 bool isOverloaded(LoadSets sets, OSUINT32 among, OSUINT32 mu, OSUINT32& slot, Load& load)
 {
+    const auto isAbove = [&](const Load& of)
+    {
+        return of.candidates > nrMostCandidates(mu) || of.cces > nrMostCces(mu);
+    };
+    if (!isAbove(loadOf(sets, among))) // were all of them in one slot
+    {
+        return false;
+    }
     OSUINT32 period = 1;
     for (size_t i = 0; i < sets.size(); ++i)
     {
         // Each period is a multiple of the smaller ones, but for 5 beside powers of two.
         period = (among >> i & 1) != 0 ? std::lcm(period, sets[i].when.period) : period;
     }
-    OSUINT32 lastActive = 0;
+    OSUINT32 phases[mostLoadSets]; // slots since the last beginning of an occasion
+    for (size_t i = 0; i < sets.size(); ++i)
+    {
+        phases[i] = (sets[i].when.period - sets[i].when.offset % sets[i].when.period) % sets[i].when.period;
+    }
+    BelowLimits below;
     for (slot = 0; slot < period; ++slot)
     {
         OSUINT32 active = 0;
@@ -505,23 +545,24 @@ bool isOverloaded(LoadSets sets, OSUINT32 among, OSUINT32 mu, OSUINT32& slot, Lo
         OSUINT32 nominalCces = 0;
         for (size_t i = 0; i < sets.size(); ++i)
         {
-            if ((among >> i & 1) != 0 && sets[i].when.isIn(slot))
+            if ((among >> i & 1) != 0 && phases[i] < sets[i].when.duration)
             {
                 active |= 1U << i;
                 nominal += sets[i].nominal;
                 nominalCces += sets[i].nominalCces;
             }
+            phases[i] = phases[i] + 1 == sets[i].when.period ? 0 : phases[i] + 1;
         }
-        if (active == lastActive || (nominal <= nrMostCandidates(mu) && nominalCces <= nrMostCces(mu)))
+        if ((nominal <= nrMostCandidates(mu) && nominalCces <= nrMostCces(mu)) || below.has(active))
         {
             continue;
         }
-        lastActive = active;
         load = loadOf(sets, active);
-        if (load.candidates > nrMostCandidates(mu) || load.cces > nrMostCces(mu))
+        if (isAbove(load))
         {
             return true;
         }
+        below.add(active);
     }
     return false;
 }

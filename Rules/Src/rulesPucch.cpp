@@ -658,23 +658,13 @@ void judgeReach(Check& check, const Cell& cell, const Bwp& bwp, const Delays& de
         return;
     }
     const OSUINT32 mu = *bwp.mu();
-    const auto isAll = [&](OSUINT32 slot, NrSymbolKind kind)
+    const TddSlots slots = check.model.tddSlots(cell, *grid, mu);
+    for (OSUINT32 slot = 0; slot < slots.count(); ++slot)
     {
-        for (OSUINT32 symbol = 0; symbol < NR_SYMBOLS; ++symbol)
-        {
-            if (grid->kindOf(mu, slot, symbol) != kind)
-            {
-                return false;
-            }
-        }
-        return true;
-    };
-    for (OSUINT32 slot = 0; slot < 20U << mu; ++slot)
-    {
-        bool isReached = !isAll(slot, NR_SYMBOL_DOWNLINK);
+        bool isReached = !slots.isAll(slot, NR_SYMBOL_DOWNLINK);
         for (const OSUINT32 delay : entries(&delays))
         {
-            isReached = isReached || !isAll(slot + delay, NR_SYMBOL_DOWNLINK);
+            isReached = isReached || !slots.isAll(slot + delay, NR_SYMBOL_DOWNLINK);
         }
         if (!isReached)
         {

@@ -1,4 +1,5 @@
 // SCells.
+#include "NR-RRC-Tables.h"
 #include "examplePaths.h"
 #include "modelLists.h"
 #include "rules.h"
@@ -85,9 +86,10 @@ void scellReleaseUsed(Check& check)
     {
         return;
     }
+    const OSCTXT& heap = check.tree.heap();
     const auto look = [&](const RtxType& type, const void* at)
     {
-        if (std::string_view(type.name) == "ServCellIndex" &&
+        if (&type == &nr_rrc::type_ServCellIndex &&
             check.model.sCells().isReleased(*static_cast<const ServCellIndex*>(at)))
         {
             check.tell(RRC_RULE_WARNING, type, at).allowed("the message releases that SCell");
@@ -95,9 +97,17 @@ void scellReleaseUsed(Check& check)
     };
     const auto visit = [&](const Value& value)
     {
-        forNumbers(check.tree.heap(), value, look);
+        if (value.type.kind == rtx::Kind::Integer)
+        {
+            look(value.type, value.at);
+        }
+        else if (value.type.element().kind == rtx::Kind::Integer)
+        {
+            forElements(heap, value.type, value.at, [&](const void* at) { look(value.type.element(), at); });
+        }
     };
-    forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false}, visit);
+    forValues(heap, {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false},
+              kindBits(rtx::Kind::Integer, rtx::Kind::Array), visit);
 }
 
 bool hasPucch(const Cell& cell)
@@ -271,15 +281,14 @@ void scellSsbless(Check& check)
               });
     if (isAny)
     {
-        forSsbIndices(check,
-                      [&](const Cell& cell, const RtxType& type, const void* at)
-                      {
-                          if (isWithout(cell))
-                          {
-                              check.tell(RRC_RULE_ERROR, type, at)
-                                  .allowed("the SCell has no SS/PBCH blocks: absoluteFrequencySSB is absent");
-                          }
-                      });
+        SsbReferences(check).forAll(
+            [&](const Cell& cell, const SSB_Index& index)
+            {
+                if (isWithout(cell))
+                {
+                    check.error(&index).allowed("the SCell has no SS/PBCH blocks: absoluteFrequencySSB is absent");
+                }
+            });
     }
 }
 

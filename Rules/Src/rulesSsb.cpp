@@ -155,9 +155,8 @@ void ssbScs(Check& check)
 // A block that is named is sent.
 void ssbIndexTransmitted(Check& check)
 {
-    forSsbIndices(
-        check,
-        [&](const Cell& cell, const RtxType& type, const void* at)
+    SsbReferences(check).forAll(
+        [&](const Cell& cell, const SSB_Index& index)
         {
             const Known<SsbPositions> positions = ssbPositions(check.model, cell);
             const bool hasNone = cell.frequencyDl() != nullptr && ssbArfcn(cell) == nullptr;
@@ -165,14 +164,13 @@ void ssbIndexTransmitted(Check& check)
             {
                 return;
             }
-            const OSUINT32 index = *static_cast<const SSB_Index*>(at);
             if (index >= positions->count)
             {
-                check.tell(RRC_RULE_ERROR, type, at).allowed("ssb-PositionsInBurst has %u bits", positions->count);
+                check.error(&index).allowed("ssb-PositionsInBurst has %u bits", positions->count);
             }
             else if (!positions->isSent(index))
             {
-                check.tell(RRC_RULE_WARNING, type, at).allowed("ssb-PositionsInBurst says that the block is not sent");
+                check.warning(&index).allowed("ssb-PositionsInBurst says that the block is not sent");
             }
         });
 }

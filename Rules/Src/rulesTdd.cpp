@@ -208,11 +208,6 @@ void tddCellKind(Check& check)
     }
 }
 
-OSUINT32 gridSlots(const TddGrid& grid, OSUINT32 mu)
-{
-    return nrTddSlots(grid.first.period, mu) + (grid.hasSecond ? nrTddSlots(grid.second.period, mu) : 0);
-}
-
 // Symbols `from` to before `to` of a slot at the reference spacing: whether any is of a kind.
 bool hasSymbol(const TddGrid& grid, OSUINT32 slot, OSUINT32 from, OSUINT32 to, NrSymbolKind kind)
 {
@@ -331,32 +326,25 @@ constexpr OSUINT16 reportPeriods[] = {4, 5, 8, 10, 16, 20, 40, 80, 160, 320};
 constexpr OSUINT16 rsPeriods[] = {4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640};
 constexpr OSUINT16 srsPeriods[] = {1, 2, 4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640, 1280, 2560};
 
-// A cell's grid, with a spacing that it can tell.
+// A cell's slots, with a spacing that its patterns can tell.
 struct Timing
 {
-    TddGrid grid;
+    TddSlots grid;
     OSUINT32 mu;
 
     // Whether none of the symbols, consecutive ones of a slot, is of the other direction.
     bool goes(OSUINT32 slot, NrSpan symbols, NrSymbolKind against) const
     {
-        for (OSUINT32 symbol = symbols.start; symbol < symbols.start + symbols.size && symbol < NR_SYMBOLS; ++symbol)
-        {
-            if (grid.kindOf(mu, slot, symbol) == against)
-            {
-                return false;
-            }
-        }
-        return true;
+        return !grid.has(slot, symbols, against);
     }
 
     OSUINT32 slots() const
     {
-        return gridSlots(grid, mu);
+        return grid.count();
     }
 };
 
-Known<Timing> timingOf(const Model& model, const Bwp& bwp)
+Known<Timing> timingOf(Model& model, const Bwp& bwp)
 {
     const Known<TddGrid> grid = tddGrid(model, *bwp.cell);
     const Known<OSUINT32> mu = bwp.mu();
@@ -364,7 +352,8 @@ Known<Timing> timingOf(const Model& model, const Bwp& bwp)
     {
         return Known<Timing>::unless(grid.inputs() | mu.inputs());
     }
-    return *mu >= grid->muRef ? Known<Timing>(Timing{*grid, *mu}) : Known<Timing>::unless(0);
+    return *mu >= grid->muRef ? Known<Timing>(Timing{model.tddSlots(*bwp.cell, *grid, *mu), *mu})
+                              : Known<Timing>::unless(0);
 }
 
 // How a periodic resource fares.
@@ -573,10 +562,12 @@ void directionOfSearchSpaces(Check& check, Bwp& bwp, const Timing& timing)
             continue;
         }
         bool isAliveOnce = false;
-        const OSUINT32 all = std::lcm(when->period, timing.slots());
-        for (OSUINT32 slot = 0; slot < all && !isAliveOnce; ++slot)
+        // As the patterns come back, so often does an occasion come back to a slot of theirs.
+        const OSUINT32 common = std::gcd(when->period, timing.slots());
+        const Monitoring among = {common, when->offset % common, when->duration};
+        for (OSUINT32 slot = 0; slot < timing.slots() && !isAliveOnce; ++slot)
         {
-            for (OSUINT32 symbol = 0; symbol < NR_SYMBOLS && when->isIn(slot); ++symbol)
+            for (OSUINT32 symbol = 0; symbol < NR_SYMBOLS && among.isIn(slot); ++symbol)
             {
                 isAliveOnce = isAliveOnce || ((starts >> symbol & 1) != 0 &&
                                               timing.goes(slot, {symbol, region->symbols}, NR_SYMBOL_UPLINK));
@@ -675,7 +666,7 @@ void directionOfSsb(Check& check, const Cell& cell)
     {
         return;
     }
-    const Timing timing = {*grid, muOf(*ssb)};
+    const Timing timing = {check.model.tddSlots(cell, *grid, muOf(*ssb)), muOf(*ssb)};
     for (OSUINT32 index = 0; index < positions->count; ++index)
     {
         OSUINT32 symbol = 0;

@@ -3,92 +3,158 @@
 #define RULES_SSBREFERENCES_H
 
 #include "check.h"
-#include "walk.h"
-
-#include <string_view>
+#include "modelLists.h"
 
 namespace rules
 {
 
-// Follows a walk over a cell group: the cell whose SS/PBCH blocks an SSB-Index is one of.
-class SsbOwner
+class SsbReferences
 {
 public:
-    explicit SsbOwner(Check& check) : check_(check) {}
+    explicit SsbReferences(Check& check) : tree_(check.tree), model_(check.model) {}
 
-    // Null where that is not known.
-    const Cell* ownerOf(const Value& value)
+    // Calls `each(cell, index)` for every SSB-Index and the cell whose blocks it names, where that is known. All places
+    // of the schema are here: tests/Rules/hostileTest.cpp counts them.
+    template <typename Each>
+    void forAll(const Each& each)
     {
-        const std::string_view name =
-            value.type.kind == rtx::Kind::Sequence ? std::string_view(value.type.name) : std::string_view();
-        if (name == "SpCellConfig" || name == "SCellConfig")
+        for (Cell& cell : model_.cells())
         {
-            enter(value.at);
+            const auto tell = [&](const Cell* owner, const SSB_Index* index)
+            {
+                if (owner != nullptr && index != nullptr)
+                {
+                    each(*owner, *index);
+                }
+            };
+            randomAccess(cell, tell);
+            for (Bwp& bwp : cell.downlink)
+            {
+                downlink(cell, bwp, tell);
+            }
+            const Cell* const pathloss = isLinkedElsewhere(cell) ? nullptr : &cell;
+            for (const Direction direction : {Direction::Uplink, Direction::Supplementary})
+            {
+                for (Bwp& bwp : cell.bwps(direction))
+                {
+                    uplink(cell, bwp, pathloss, tell);
+                }
+            }
+            const Cell* const measured = reportsOthers(cell) ? nullptr : &cell;
+            for (const IdEntry<CSI_SSB_ResourceSet>& set : model_.csi(cell).ssbSets)
+            {
+                for (const SSB_Index& index : entries(&set.element->csi_SSB_ResourceList))
+                {
+                    tell(measured, &index);
+                }
+            }
         }
-        else if (name == "QCL-Info")
-        {
-            hold(value, MEMBER(*static_cast<const QCL_Info*>(value.at), cell));
-        }
-        else if (name == "PUCCH-SpatialRelationInfo")
-        {
-            hold(value, MEMBER(*static_cast<const PUCCH_SpatialRelationInfo*>(value.at), servingCellId));
-        }
-        else if (name == "SRS-SpatialRelationInfo")
-        {
-            hold(value, MEMBER(*static_cast<const SRS_SpatialRelationInfo*>(value.at), servingCellId));
-        }
-        else if (name == "PUCCH-PathlossReferenceRS" || name == "PUSCH-PathlossReferenceRS" ||
-                 name == "SRS-ResourceSet")
-        {
-            hold(value, nullptr);
-            held_ = isLinkedElsewhere() ? nullptr : held_;
-        }
-        else if (name == "CSI-SSB-ResourceSet")
-        {
-            hold(value, nullptr);
-            held_ = reportsOthers() ? nullptr : held_;
-        }
-        const auto at = reinterpret_cast<uintptr_t>(value.at);
-        return at >= from_ && at < to_ ? held_ : cell_;
     }
 
 private:
-    void enter(const void* at)
+    // What a choice names of which ssb-Index is the first alternative.
+    template <typename Choice>
+    static const SSB_Index* indexOf(const Choice* choice)
     {
-        cell_ = nullptr;
-        for (Cell& cell : check_.model.cells())
+        return isChosen(choice, 1) ? &choice->u.ssb_Index : nullptr;
+    }
+
+    const Cell* named(const Cell& own, const ServCellIndex* index)
+    {
+        return index == nullptr ? &own : model_.cell(*index);
+    }
+
+    template <typename Tell>
+    void randomAccess(const Cell& cell, const Tell& tell)
+    {
+        const auto* const sync = cell.spCell == nullptr ? nullptr : MEMBER(*cell.spCell, reconfigurationWithSync);
+        const auto* const choice = sync == nullptr ? nullptr : MEMBER(*sync, rach_ConfigDedicated);
+        for (const RACH_ConfigDedicated* const rach :
+             {CHOSEN(tree_, choice, ReconfigurationWithSync_rach_ConfigDedicated, uplink),
+              CHOSEN(tree_, choice, ReconfigurationWithSync_rach_ConfigDedicated, supplementaryUplink)})
         {
-            cell_ = at == cell.spCell || at == cell.sCell ? &cell : cell_;
+            const CFRA* const cfra = rach == nullptr ? nullptr : MEMBER(*rach, cfra);
+            const auto* const resources = cfra == nullptr ? nullptr : &cfra->resources;
+            const auto* const blocks = CHOSEN(tree_, resources, CFRA_resources, ssb);
+            for (const auto& one :
+                 tree_.list<CFRA_SSB_Resource>(blocks == nullptr ? nullptr : &blocks->ssb_ResourceList))
+            {
+                tell(&cell, &one.ssb);
+            }
         }
-        to_ = from_;
     }
 
-    // What lies within the value is of another cell, where one is named.
-    void hold(const Value& value, const ServCellIndex* named)
+    template <typename Tell>
+    void downlink(const Cell& cell, Bwp& bwp, const Tell& tell)
     {
-        from_ = reinterpret_cast<uintptr_t>(value.at);
-        to_ = from_ + value.type.size;
-        held_ = named == nullptr ? cell_ : check_.model.cell(*named);
+        for (const IdEntry<TCI_State>& state : model_.pdsch(bwp).tciStates)
+        {
+            for (const QCL_Info* const info : {&state.element->qcl_Type1, MEMBER(*state.element, qcl_Type2)})
+            {
+                if (info != nullptr && isChosen(&info->referenceSignal, T_QCL_Info_referenceSignal_ssb))
+                {
+                    tell(named(cell, MEMBER(*info, cell)), &info->referenceSignal.u.ssb);
+                }
+            }
+        }
+        const auto* const monitored =
+            bwp.rlm == nullptr ? nullptr : MEMBER(*bwp.rlm, failureDetectionResourcesToAddModList);
+        for (const RadioLinkMonitoringRS& one : tree_.list<RadioLinkMonitoringRS>(monitored))
+        {
+            tell(&cell, indexOf(&one.detectionResource));
+        }
     }
 
-    bool isLinkedElsewhere() const
+    template <typename Tell>
+    void uplink(const Cell& cell, Bwp& bwp, const Cell* pathloss, const Tell& tell)
     {
-        const auto* const linking = cell_ == nullptr || cell_->dedicated == nullptr
-                                        ? nullptr
-                                        : MEMBER(*cell_->dedicated, pathlossReferenceLinking);
+        for (const IdEntry<PUCCH_SpatialRelationInfo>& relation : model_.pucch(bwp).spatialRelations)
+        {
+            tell(named(cell, MEMBER(*relation.element, servingCellId)), indexOf(&relation.element->referenceSignal));
+        }
+        const auto* const power = bwp.pucch == nullptr ? nullptr : MEMBER(*bwp.pucch, pucch_PowerControl);
+        for (const PUCCH_PathlossReferenceRS& one :
+             tree_.list<PUCCH_PathlossReferenceRS>(power == nullptr ? nullptr : MEMBER(*power, pathlossReferenceRSs)))
+        {
+            tell(pathloss, indexOf(&one.referenceSignal));
+        }
+        for (const IdEntry<PUSCH_PathlossReferenceRS>& one : model_.pusch(bwp).pathlossRs)
+        {
+            tell(pathloss, indexOf(&one.element->referenceSignal));
+        }
+        for (const IdEntry<SRS_ResourceSet>& set : model_.srs(bwp).sets)
+        {
+            tell(pathloss, indexOf(MEMBER(*set.element, pathlossReferenceRS)));
+        }
+        for (const IdEntry<SRS_Resource>& resource : model_.srs(bwp).resources)
+        {
+            if (const auto* const relation = MEMBER(*resource.element, spatialRelationInfo))
+            {
+                tell(named(cell, MEMBER(*relation, servingCellId)), indexOf(&relation->referenceSignal));
+            }
+        }
+        const OSRTDList* const candidates = bwp.bfr == nullptr ? nullptr : MEMBER(*bwp.bfr, candidateBeamRSList);
+        for (const PRACH_ResourceDedicatedBFR& one : tree_.list<PRACH_ResourceDedicatedBFR>(candidates))
+        {
+            const auto* const choice = &one;
+            const BFR_SSB_Resource* const block = CHOSEN(tree_, choice, PRACH_ResourceDedicatedBFR, ssb);
+            tell(&cell, block == nullptr ? nullptr : &block->ssb);
+        }
+    }
+
+    static bool isLinkedElsewhere(const Cell& cell)
+    {
+        const auto* const linking =
+            cell.dedicated == nullptr ? nullptr : MEMBER(*cell.dedicated, pathlossReferenceLinking);
         return linking != nullptr && *linking == ServingCellConfig_pathlossReferenceLinking_spCell;
     }
 
-    bool reportsOthers() const
+    bool reportsOthers(Cell& cell)
     {
-        if (cell_ == nullptr)
-        {
-            return false;
-        }
-        for (const IdEntry<CSI_ReportConfig>& report : check_.model.csi(*cell_).reports)
+        for (const IdEntry<CSI_ReportConfig>& report : model_.csi(cell).reports)
         {
             const ServCellIndex* const carrier = MEMBER(*report.element, carrier);
-            if (carrier != nullptr && !(cell_->index && *cell_->index == *carrier))
+            if (carrier != nullptr && !(cell.index && *cell.index == *carrier))
             {
                 return true;
             }
@@ -96,51 +162,9 @@ private:
         return false;
     }
 
-    Check& check_;
-    Cell* cell_ = nullptr;
-    const Cell* held_ = nullptr;
-    uintptr_t from_ = 0; // of what is held
-    uintptr_t to_ = 0;
+    const Tree& tree_;
+    Model& model_;
 };
-
-// Calls `each(type, at)` for a value that is a number, or for the numbers of an array.
-template <typename Each>
-void forNumbers(const OSCTXT& heap, const Value& value, const Each& each)
-{
-    if (value.type.kind == rtx::Kind::Integer)
-    {
-        each(value.type, value.at);
-    }
-    else if (value.type.kind == rtx::Kind::Array && value.type.element().kind == rtx::Kind::Integer)
-    {
-        forElements(heap, value.type, value.at, [&](const void* at) { each(value.type.element(), at); });
-    }
-}
-
-constexpr int64_t highestSsb = 63; // which few other numbers have
-
-// Calls `each(cell, type, at)` for every SSB-Index of a cell that is known.
-template <typename Each>
-void forSsbIndices(Check& check, const Each& each)
-{
-    SsbOwner owner(check);
-    const auto visit = [&](const Value& value)
-    {
-        const Cell* const cell = owner.ownerOf(value);
-        if (cell != nullptr)
-        {
-            forNumbers(check.tree.heap(), value,
-                       [&](const RtxType& type, const void* at)
-                       {
-                           if (type.upper == highestSsb && std::string_view(type.name) == "SSB-Index")
-                           {
-                               each(*cell, type, at);
-                           }
-                       });
-        }
-    };
-    forValues(check.tree.heap(), {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false}, visit);
-}
 
 } // namespace rules
 

@@ -14,6 +14,8 @@ struct Value
     const void* at;
     const char* name; // of the member or the alternative; null for an element of a list
     bool isOptional;
+    const Value* sequence = nullptr; // whose member it is; null for others
+    unsigned number = 0;             // of that member
 };
 
 inline const void* memberAt(const rtx::Member& member, const void* structure)
@@ -24,6 +26,10 @@ inline const void* memberAt(const rtx::Member& member, const void* structure)
 // The number of the extension group or addition that a member belongs to, -1 for one of the root.
 inline int additionOf(const RtxType& type, unsigned number)
 {
+    if (number < type.rootCount)
+    {
+        return -1;
+    }
     for (unsigned i = 0; i < type.additionCount; ++i)
     {
         const rtx::Addition& addition = type.additions[i];
@@ -85,20 +91,38 @@ void forElements(const OSCTXT& heap, const RtxType& type, const void* list, cons
     (void)rtx::forNodes(&heap, nodes, std::min(nodes.count, static_cast<uint32_t>(type.upper)), reached, follow);
 }
 
-// Calls `each(const Value&)` for the value and all that it holds, outer ones first.
-template <typename Each>
-void forValues(const OSCTXT& heap, const Value& value, const Each& each)
+// Kinds of types, each one bit.
+constexpr OSUINT32 kindBit(rtx::Kind kind)
 {
-    each(value);
+    return 1U << static_cast<unsigned>(kind);
+}
+template <typename... Kinds>
+constexpr OSUINT32 kindBits(Kinds... kinds)
+{
+    return (kindBit(kinds) | ...);
+}
+constexpr OSUINT32 outerKinds =
+    kindBits(rtx::Kind::Sequence, rtx::Kind::Choice, rtx::Kind::Array, rtx::Kind::List); // which hold others
+
+// Calls `each(const Value&)` for the value and all that it holds which is of the kinds, outer ones first. The numbers
+// of an array are not called for: their rules are those of the array.
+template <typename Each>
+void forValues(const OSCTXT& heap, const Value& value, OSUINT32 kinds, const Each& each)
+{
     const RtxType& type = value.type;
+    if ((kinds & kindBit(type.kind)) != 0)
+    {
+        each(value);
+    }
     const auto members = [&](unsigned first, unsigned count)
     {
         for (unsigned i = first; i < first + count; ++i)
         {
             const rtx::Member& member = type.members[i];
-            if (rtx::isPresent(member, value.at))
+            if (rtx::isPresent(member, value.at) && ((kinds | outerKinds) & kindBit(member.type->kind)) != 0)
             {
-                forValues(heap, {*member.type, memberAt(member, value.at), type.names[i], member.flag >= 0}, each);
+                forValues(heap, {*member.type, memberAt(member, value.at), type.names[i], member.flag >= 0, &value, i},
+                          kinds, each);
             }
         }
     };
@@ -118,19 +142,19 @@ void forValues(const OSCTXT& heap, const Value& value, const Each& each)
         if (const void* const alternative = alternativeAt(heap, type, value.at))
         {
             const auto tag = rtx::load<OSUINT32>(value.at);
-            forValues(heap, {*type.members[tag - 1].type, alternative, type.names[tag - 1], false}, each);
+            forValues(heap, {*type.members[tag - 1].type, alternative, type.names[tag - 1], false}, kinds, each);
         }
         break;
     case rtx::Kind::Array:
-        if (type.element().kind == rtx::Kind::Integer)
+        if (type.element().kind == rtx::Kind::Integer || (kinds & kindBit(type.element().kind)) == 0)
         {
-            break; // its rules are those of the array
+            break;
         }
         [[fallthrough]];
     case rtx::Kind::List:
         forElements(heap, type, value.at,
                     [&](const void* element) {
-                        forValues(heap, {type.element(), element, nullptr, false}, each);
+                        forValues(heap, {type.element(), element, nullptr, false}, kinds, each);
                     });
         break;
     default:

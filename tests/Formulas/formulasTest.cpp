@@ -429,6 +429,16 @@ TEST(Tdd, Sums)
     EXPECT_EQ(0, nrTddFits(&huge, 3));
 }
 
+// What a slot's masks say of a symbol.
+int kindIn(const NrTddSlot& slot, uint32_t symbol)
+{
+    EXPECT_EQ(0, slot.downlink & slot.uplink);
+    EXPECT_EQ(0, (slot.downlink | slot.uplink) >> NR_SYMBOLS);
+    return (slot.downlink >> symbol & 1) != 0 ? NR_SYMBOL_DOWNLINK
+           : (slot.uplink >> symbol & 1) != 0 ? NR_SYMBOL_UPLINK
+                                              : NR_SYMBOL_FLEXIBLE;
+}
+
 TEST(Tdd, TwoPatternsAtAFinerSpacing)
 {
     const NrTddPattern first{24, 3, 6, 2, 4}; // 3 ms at 30 kHz: 6 slots
@@ -439,10 +449,12 @@ TEST(Tdd, TwoPatternsAtAFinerSpacing)
     for (uint32_t i = 0; i < 3 * symbols.size(); ++i)
     {
         EXPECT_EQ(symbols[i % symbols.size()], nrTddSymbol(&first, &second, 1, 1, i / 14, i % 14));
+        EXPECT_EQ(symbols[i % symbols.size()], kindIn(nrTddSlot(&first, &second, 1, 1, i / 14), i % 14));
         for (uint32_t half = 0; half < 2; ++half) // 60 kHz: two symbols in one
         {
             const uint32_t fine = 2 * i + half;
             EXPECT_EQ(symbols[i % symbols.size()], nrTddSymbol(&first, &second, 1, 2, fine / 14, fine % 14));
+            EXPECT_EQ(symbols[i % symbols.size()], kindIn(nrTddSlot(&first, &second, 1, 2, fine / 14), fine % 14));
         }
     }
 }
