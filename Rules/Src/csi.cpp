@@ -101,8 +101,26 @@ size_t sizeOf(const NZP_CSI_RS_ResourceSet& set)
     return countOf(entries(&set.nzp_CSI_RS_Resources));
 }
 
+bool namesTracking(Check& check, const ReportView& view)
+{
+    bool isNamed = false;
+    forNzpSets(check, view.csi, view.channel,
+               [&](const NZP_CSI_RS_ResourceSet& set) { isNamed = isNamed || set.m.trs_InfoPresent != 0; });
+    return isNamed;
+}
+
+bool misusesTracking(Check& check, const ReportView& view)
+{
+    return namesTracking(check, view) &&
+           (view.channel->resourceType != aperiodic || !isNothing(view.report.reportQuantity));
+}
+
 OSUINT32 channelPorts(Check& check, const ReportView& view)
 {
+    if (misusesTracking(check, view))
+    {
+        return 0;
+    }
     OSUINT32 ports = 0;
     bool isSame = true;
     forChannelResources(check, view,

@@ -150,6 +150,10 @@ size_t sizeOf(const NZP_CSI_RS_ResourceSet& set);
 // How many ports the resources of a channel setting have: 0 where none is known, or they differ.
 OSUINT32 channelPorts(Check& check, const ReportView& view);
 
+// Whether a report measures its channel on a set for tracking; and whether it must not, which csi-trs tells.
+bool namesTracking(Check& check, const ReportView& view);
+bool misusesTracking(Check& check, const ReportView& view);
+
 // A setting's bandwidth part; null where it is not there.
 Bwp* bwpOf(const Cell* carrier, const CSI_ResourceConfig* config);
 

@@ -149,7 +149,8 @@ void csiSameBwp(Check& check)
                                .found("%u, on bandwidth part %u", *at, config->bwp_Id)
                                .allowed("the channel is measured on bandwidth part %u", view.channel->bwp_Id);
                        }
-                       const bool isToldElsewhere = contradictsItself(check, *view.csi, *config) ||
+                       const bool isToldElsewhere = misusesTracking(check, view) ||
+                                                    contradictsItself(check, *view.csi, *config) ||
                                                     contradictsItself(check, *view.csi, *view.channel);
                        if (config->resourceType != view.channel->resourceType && !isToldElsewhere)
                        {

@@ -435,14 +435,6 @@ void judgeTrackingPlaces(Check& check, const Tracking& tracking)
     }
 }
 
-bool namesTracking(Check& check, const ReportView& view)
-{
-    bool isNamed = false;
-    forNzpSets(check, view.csi, view.channel,
-               [&](const NZP_CSI_RS_ResourceSet& set) { isNamed = isNamed || set.m.trs_InfoPresent != 0; });
-    return isNamed;
-}
-
 // A set for tracking is what a UE tracks.
 void csiTrs(Check& check)
 {
@@ -471,12 +463,8 @@ void csiTrs(Check& check)
     forReports(check,
                [&](const ReportView& view)
                {
-                   if (!namesTracking(check, view))
-                   {
-                       return;
-                   }
                    const CSI_ReportConfig& report = view.report;
-                   if (view.channel->resourceType != aperiodic || !isNothing(report.reportQuantity))
+                   if (misusesTracking(check, view))
                    {
                        check.error(&report.resourcesForChannelMeasurement)
                            .allowed(
@@ -484,8 +472,9 @@ void csiTrs(Check& check)
                                "is aperiodic",
                                report.resourcesForChannelMeasurement);
                    }
-                   else if (report.timeRestrictionForChannelMeasurements ==
-                            CSI_ReportConfig_timeRestrictionForChannelMeasurements_configured)
+                   else if (namesTracking(check, view) &&
+                            report.timeRestrictionForChannelMeasurements ==
+                                CSI_ReportConfig_timeRestrictionForChannelMeasurements_configured)
                    {
                        check.error(&report.timeRestrictionForChannelMeasurements)
                            .allowed("the report is on a set for tracking");

@@ -207,9 +207,9 @@ void judgeTrigger(Check& check, Cell& cell, const Csi& csi, const CSI_Associated
     {
         return;
     }
-    if (!imSetIds(check, *view.channel).empty())
+    if (!imSetIds(check, *view.channel).empty() || misusesTracking(check, view))
     {
-        return; // csi-config-kind
+        return; // csi-config-kind and csi-trs
     }
     const auto* const channel = &info.resourcesForChannel;
     if (channel->t == T_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet)

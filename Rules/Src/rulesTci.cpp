@@ -123,6 +123,10 @@ const NZP_CSI_RS_Resource* sourceOf(Check& check, Cell& cell, const NZP_CSI_RS_R
 // Chains of sources that come back to where they were: each is told once.
 void tciCycles(Check& check, Cell& cell)
 {
+    if (check.model.csi(cell).nzpResources.repeats)
+    {
+        return; // gen-dup-id tells
+    }
     OSUINT8 walkOf[maxNrofNZP_CSI_RS_Resources] = {}; // the walk that has been there
     OSUINT8 walk = 0;
     for (const IdEntry<NZP_CSI_RS_Resource>& entry : check.model.csi(cell).nzpResources)

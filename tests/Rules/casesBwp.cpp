@@ -90,7 +90,14 @@ void bwpCases(CaseTable& table)
         .fires(AT_COMMON_SUL "initialUplinkBWP.genericParameters.subcarrierSpacing",
                EXAMPLE_SUL AT_COMMON_SUL "initialUplinkBWP.genericParameters.subcarrierSpacing = kHz15")
         .saying("scs-SpecificCarrierList of the supplementary uplink has no carrier")
-        .undecided(AT_SYNC_ABSENT);
+        .undecided(AT_SYNC_ABSENT)
+        // Of one bandwidth part, whose resource blocks nobody knows then.
+        .fires(AT_DL "bwp-Common.genericParameters.subcarrierSpacing",
+               AT_DL "bwp-Common.genericParameters.subcarrierSpacing = kHz15")
+        .fires(AT_UL "bwp-Common.genericParameters.subcarrierSpacing",
+               AT_UL "bwp-Common.genericParameters.subcarrierSpacing = kHz15")
+        .fires(AT_COMMON_DL "initialDownlinkBWP.genericParameters.subcarrierSpacing",
+               AT_COMMON_DL "initialDownlinkBWP.genericParameters.subcarrierSpacing = kHz15");
 
     table.rule("bwp-carrier-width")
         .bad(AT_COMMON_DL "frequencyInfoDL.scs-SpecificCarrierList[0].carrierBandwidth")
@@ -118,7 +125,10 @@ void bwpCases(CaseTable& table)
                        "downlinkChannelBW-PerSCS-List[0].subcarrierSpacing = kHz30\n" AT_CELL
                        "downlinkChannelBW-PerSCS-List[0].carrierBandwidth = 24")
         .with([](RrcRuleContext& known) { known.band = 79; })
-        .as(RRC_RULE_WARNING);
+        .as(RRC_RULE_WARNING)
+        // The bandwidth parts of 273 resource blocks are not told, too.
+        .fires(AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[0].carrierBandwidth",
+               AT_COMMON_UL "frequencyInfoUL.scs-SpecificCarrierList[0].carrierBandwidth = 100");
 
     table.rule("bwp-scs-range")
         .bad(AT_COMMON_DL "frequencyInfoDL.scs-SpecificCarrierList[1].subcarrierSpacing")

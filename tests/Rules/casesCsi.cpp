@@ -226,7 +226,10 @@ void chainCases(CaseTable& table)
         .fires(AT_IM "[1].periodicityAndOffset", AT_IM "[1].periodicityAndOffset.slots80 = 1")
         .fires(AT_NZP "[3].qcl-InfoPeriodicCSI-RS", AT_NZP "[3].qcl-InfoPeriodicCSI-RS = 2")
         .fires(AT_NZP_SET "[0].aperiodicTriggeringOffset", AT_NZP_SET "[0].aperiodicTriggeringOffset = 0")
-        .as(RRC_RULE_WARNING);
+        .as(RRC_RULE_WARNING)
+        // The report and its other setting are periodic: this tells alone.
+        .fires(AT_NZP "[0].periodicityAndOffset", AT_CSI_RESOURCES "[0].resourceType = aperiodic")
+        .times(2);
 }
 
 void reportCases(CaseTable& table)
@@ -252,7 +255,10 @@ void reportCases(CaseTable& table)
             "codebookConfig.codebookType.type2.phaseAlphabetSize = n4\n" AT_REPORT
             "codebookConfig.codebookType.type2.subbandAmplitude = false\n" AT_REPORT
             "codebookConfig.codebookType.type2.numberOfBeams = two")
-        .saying("a periodic report has Type I alone");
+        .saying("a periodic report has Type I alone")
+        // Subbands are not asked of it.
+        .fires(AT_REPORT "reportFreqConfiguration.cqi-FormatIndicator",
+               AT_REPORT "reportFreqConfiguration.cqi-FormatIndicator = subbandCQI");
 
     table.rule("csi-codebook-needed")
         .bad(AT_REPORT "codebookConfig")
@@ -513,7 +519,9 @@ void resourceCases(CaseTable& table)
         // From symbol 13 on it would leave the slot.
         .fires(AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain",
                row13(13) + AT_NZP "[0].resourceMapping.firstOFDMSymbolInTimeDomain2 = 12")
-        .times(2);
+        .times(2)
+        // Nor does the codebook speak of ports that are no row.
+        .fires(AT_NZP "[0].resourceMapping", AT_NZP "[0].resourceMapping.nrofPorts = p2");
 
     table.rule("csi-rs-band")
         .bad(AT_NZP "[0].resourceMapping.freqBand")
@@ -562,7 +570,9 @@ void resourceCases(CaseTable& table)
         .silent(AS_FR2 AT_NZP "[4].resourceMapping.firstOFDMSymbolInTimeDomain = 9\n" AT_NZP
                               "[5].resourceMapping.firstOFDMSymbolInTimeDomain = 13")
         .fires(AT_NZP_SET "[1].nzp-CSI-RS-Resources",
-               AT_NZP "[1].periodicityAndOffset.slots80 = 5\n" AT_NZP "[2].periodicityAndOffset.slots80 = 5");
+               AT_NZP "[1].periodicityAndOffset.slots80 = 5\n" AT_NZP "[2].periodicityAndOffset.slots80 = 5")
+        // Ports, time and trigger of a report that is not to name the set are not judged.
+        .fires(AT_TRIGGERED "resourcesForChannelMeasurement", AT_TRIGGERED "resourcesForChannelMeasurement = 2");
 
     table.rule("csi-im-incomplete")
         .bad(AT_IM "[0].freqBand")

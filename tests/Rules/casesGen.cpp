@@ -69,7 +69,12 @@ void genCases(CaseTable& table)
                AT_SYNC "rach-ConfigDedicated.uplink.cfra.resources.ssb.ssb-ResourceList[1].ssb = 0")
         // Several resources may have the same transmission configuration.
         .silent(AT_CSI "aperiodicTriggerStateList.setup[0].associatedReportConfigInfoList[0].resourcesForChannel."
-                       "nzp-CSI-RS.qcl-info[0] = 0");
+                       "nzp-CSI-RS.qcl-info[0] = 0")
+        // What names the id that is not there any more is told by this alone.
+        .fires(AT_PUCCH_RESOURCE "[7].pucch-ResourceId", AT_PUCCH_RESOURCE "[7].pucch-ResourceId = 6")
+        .fires(AT_NZP "[1].nzp-CSI-RS-ResourceId", AT_NZP "[0].nzp-CSI-RS-ResourceId = 1")
+        .fires(AT_NZP_SET "[1].nzp-CSI-ResourceSetId", AT_NZP_SET "[0].nzp-CSI-ResourceSetId = 1")
+        .fires(AT_CSI_RESOURCES "[1].csi-ResourceConfigId", AT_CSI_RESOURCES "[0].csi-ResourceConfigId = 1");
 
     table.rule("gen-add-and-release")
         .bad("rlc-BearerToAddModList[1].logicalChannelIdentity")
