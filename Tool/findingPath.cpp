@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <fnmatch.h>
-#include <optional>
 
 namespace tool
 {
@@ -21,18 +20,6 @@ std::string_view identityText(std::string_view element)
 {
     const std::size_t colon = element.find(": ");
     return colon == std::string_view::npos ? element : element.substr(colon + 2);
-}
-
-std::optional<std::uint32_t> memberNumber(const RtxType& type, std::string_view name)
-{
-    for (std::uint32_t i = 0; i < type.memberCount; ++i)
-    {
-        if (type.names[i] == name)
-        {
-            return i;
-        }
-    }
-    return std::nullopt;
 }
 
 bool isLike(std::string_view text, std::string_view pattern)
@@ -77,6 +64,19 @@ std::string plainPath(std::string_view path)
     return plain;
 }
 
+std::optional<std::uint32_t> memberNumber(const RtxType& type, std::string_view name)
+{
+    const bool hasMembers = type.kind == rtx::Kind::Sequence || type.kind == rtx::Kind::Choice;
+    for (std::uint32_t i = 0; hasMembers && i < type.memberCount; ++i)
+    {
+        if (type.names[i] == name)
+        {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
 std::vector<std::uint32_t> placeOrder(const RtxType& root, std::string_view path)
 {
     std::vector<std::uint32_t> order;
@@ -98,8 +98,7 @@ std::vector<std::uint32_t> placeOrder(const RtxType& root, std::string_view path
         }
         else
         {
-            const bool hasMembers = type->kind == rtx::Kind::Sequence || type->kind == rtx::Kind::Choice;
-            const auto member = hasMembers ? memberNumber(*type, steps[i].text) : std::nullopt;
+            const auto member = memberNumber(*type, steps[i].text);
             if (!member)
             {
                 break;

@@ -4,6 +4,7 @@
 #include "rtxType.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,9 @@ std::vector<FindingStep> findingSteps(std::string_view path);
 
 // The same path with nothing but indices in its brackets, as flat lines have it.
 std::string plainPath(std::string_view path);
+
+// The number of a sequence's member or a choice's alternative.
+std::optional<std::uint32_t> memberNumber(const RtxType& type, std::string_view name);
 
 // The numbers of the members and elements on the way: places sort by them as they stand in the tree. As far as the
 // schema has the path.

@@ -1,6 +1,7 @@
 #include "ruleFindings.h"
 
 #include "encodingFindings.h"
+#include "findingPath.h"
 #include "rtxTree.h"
 
 namespace tool
@@ -51,28 +52,23 @@ std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told)
     {
         return "";
     }
-    std::string path = asn1Type_CellGroupConfig()->name;
     const RtxType* type = asn1Type_CellGroupConfig();
-    const RtxType* owner = nullptr;
+    const RtxType* owner = type;
     const rtx::Member* member = nullptr;
+    std::string path = type->name;
     std::string around;
     for (const RrcRuleStep& step : std::span(told.path, told.depth))
     {
+        const auto number = step.name == nullptr ? std::optional(0U) : memberNumber(*type, step.name);
+        if (!number)
+        {
+            return "";
+        }
         owner = type;
-        around = path;
-        if (step.name == nullptr)
-        {
-            member = type->members;
-            path += "[" + std::to_string(step.index) + "]";
-        }
-        else
-        {
-            const auto* const name = std::find_if(type->names, type->names + type->memberCount,
-                                                  [&](const char* one) { return std::string_view(one) == step.name; });
-            member = type->members + (name - type->names);
-            path += "." + std::string(step.name);
-        }
+        member = owner->members + *number;
         type = member->type;
+        around = path;
+        path += step.name == nullptr ? "[" + std::to_string(step.index) + "]" : "." + std::string(step.name);
     }
     if (owner->kind == rtx::Kind::Sequence)
     {

@@ -388,7 +388,10 @@ void macPhr(Check& check)
     OSUINT32 uplinks = 0;
     for (const Cell& cell : check.model.cells())
     {
-        uplinks += cell.uplink.empty() ? 0 : 1;
+        // An SCell may have the common part of an uplink that the UE does not get.
+        const bool isUsed =
+            cell.isSpCell() || (cell.dedicated != nullptr && MEMBER(*cell.dedicated, uplinkConfig) != nullptr);
+        uplinks += isUsed && !cell.uplink.empty() ? 1 : 0;
     }
     const OSUINT8 connectivity = check.model.known.connectivity;
     const bool isToldDual = connectivity > RRC_RULE_CONNECTIVITY_SINGLE;
