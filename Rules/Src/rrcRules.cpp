@@ -11,31 +11,31 @@ namespace
 {
 
 // In the order in which they are told and documented.
-constexpr const RuleGroup* groups[] = {&genRules,
-                                       &rlcRules,
-                                       &macRules,
-                                       &phyRules,
-                                       &bwpRules,
-                                       &pdcchCoresetRules,
-                                       &pdcchSearchSpaceRules,
-                                       &pdcchCommonRules,
-                                       &pdcchFormatRules,
-                                       &pdcchCrossCarrierRules,
-                                       &pdschRules,
-                                       &pucchRules,
-                                       &puschRules,
-                                       &srsRules,
-                                       &csiChainRules,
-                                       &csiReportRules,
-                                       &csiTriggerRules,
-                                       &csiResourceRules,
-                                       &csiPortRules,
-                                       &tciRules,
-                                       &tddRules,
-                                       &syncRules,
-                                       &rachRules,
-                                       &scellRules,
-                                       &ssbRules};
+constexpr const RuleGroup* ruleGroups[] = {&genRules,
+                                           &rlcRules,
+                                           &macRules,
+                                           &phyRules,
+                                           &bwpRules,
+                                           &pdcchCoresetRules,
+                                           &pdcchSearchSpaceRules,
+                                           &pdcchCommonRules,
+                                           &pdcchFormatRules,
+                                           &pdcchCrossCarrierRules,
+                                           &pdschRules,
+                                           &pucchRules,
+                                           &puschRules,
+                                           &srsRules,
+                                           &csiChainRules,
+                                           &csiReportRules,
+                                           &csiTriggerRules,
+                                           &csiResourceRules,
+                                           &csiPortRules,
+                                           &tciRules,
+                                           &tddRules,
+                                           &syncRules,
+                                           &rachRules,
+                                           &scellRules,
+                                           &ssbRules};
 
 struct GroupTitle
 {
@@ -67,7 +67,7 @@ template <typename Each>
 void forRules(const Each& each)
 {
     OSUINT32 index = 0;
-    for (const RuleGroup* const group : groups)
+    for (const RuleGroup* const group : ruleGroups)
     {
         for (const Rule& rule : std::span(group->rules, group->count))
         {
@@ -276,7 +276,7 @@ size_t rrcRuleFindingFormat(const RrcRuleFinding* finding, char* text, size_t si
 OSUINT32 rrcRuleCount(void)
 {
     OSUINT32 count = 0;
-    for (const rules::RuleGroup* const group : rules::groups)
+    for (const rules::RuleGroup* const group : rules::ruleGroups)
     {
         count += group->count;
     }
@@ -285,7 +285,7 @@ OSUINT32 rrcRuleCount(void)
 
 const RrcRule* rrcRuleAt(OSUINT32 index)
 {
-    for (const rules::RuleGroup* const group : rules::groups)
+    for (const rules::RuleGroup* const group : rules::ruleGroups)
     {
         if (index < group->count)
         {

@@ -516,7 +516,7 @@ void bwpInitialDedicated(Check& check)
 }
 
 // What a cell activates first in a direction; null where the element does not say.
-const BWP_Id* firstActive(const Cell& cell, Direction direction)
+const BWP_Id* firstActiveId(const Cell& cell, Direction direction)
 {
     if (direction == Direction::Downlink)
     {
@@ -544,7 +544,7 @@ void bwpActiveRef(Check& check)
     {
         for (const Direction direction : directions)
         {
-            if (const BWP_Id* const id = firstActive(cell, direction))
+            if (const BWP_Id* const id = firstActiveId(cell, direction))
             {
                 (void)namedBwp(check, cell, direction, id);
             }
@@ -859,7 +859,7 @@ void bwpSpcellCss(Check& check)
                  "initialUplinkBWP.genericParameters.locationAndBandwidth = " locationAndBandwidth
 #define WITHOUT_COMMON AT_PDCCH "searchSpacesToAddModList[2] = absent"
 
-constexpr Rule table[] = {
+constexpr Rule bwpTable[] = {
     {.told = {.id = "bwp-in-carrier",
               .severity = RRC_RULE_ERROR,
               .statement = "A bandwidth part, its locationAndBandwidth decoded with 275 resource blocks, "
@@ -1058,6 +1058,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup bwpRules = groupOf(table);
+constinit const RuleGroup bwpRules = groupOf(bwpTable);
 
 } // namespace rules

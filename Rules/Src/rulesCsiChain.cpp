@@ -297,7 +297,7 @@ void csiPeriodicityCond(Check& check)
            });
 }
 
-constexpr Rule table[] = {
+constexpr Rule csiChainTable[] = {
     {.told = {.id = "csi-ref-chain",
               .severity = RRC_RULE_ERROR,
               .statement = "Every id on the way from a CSI report over its settings and their sets to the resources "
@@ -380,6 +380,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup csiChainRules = groupOf(table);
+constinit const RuleGroup csiChainRules = groupOf(csiChainTable);
 
 } // namespace rules

@@ -149,7 +149,7 @@ void csiPortIndication(Check& check)
                });
 }
 
-constexpr Rule table[] = {
+constexpr Rule csiPortsTable[] = {
     {.told = {.id = "csi-port-indication",
               .severity = RRC_RULE_ERROR,
               .statement = "non-PMI-PortIndication is for cri-RI-CQI, with an entry for each resource that has its "
@@ -170,6 +170,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup csiPortRules = groupOf(table);
+constinit const RuleGroup csiPortRules = groupOf(csiPortsTable);
 
 } // namespace rules

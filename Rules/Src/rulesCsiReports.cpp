@@ -656,7 +656,7 @@ void csiSubbandCount(Check& check)
         });
 }
 
-constexpr Rule table[] = {
+constexpr Rule csiReportsTable[] = {
     {.told = {.id = "csi-pucch-report",
               .severity = RRC_RULE_ERROR,
               .statement =
@@ -818,6 +818,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup csiReportRules = groupOf(table);
+constinit const RuleGroup csiReportRules = groupOf(csiReportsTable);
 
 } // namespace rules

@@ -731,7 +731,7 @@ void csiCollision(Check& check)
            });
 }
 
-constexpr Rule table[] = {
+constexpr Rule csiResourcesTable[] = {
     {.told = {.id = "csi-rs-row",
               .severity = RRC_RULE_ERROR,
               .statement = "The mapping of a CSI-RS is a row of the standard: number of ports, CDM, density and bits "
@@ -806,6 +806,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup csiResourceRules = groupOf(table);
+constinit const RuleGroup csiResourceRules = groupOf(csiResourcesTable);
 
 } // namespace rules

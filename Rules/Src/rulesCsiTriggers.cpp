@@ -323,7 +323,7 @@ void csiTriggerSize(Check& check)
            });
 }
 
-constexpr Rule table[] = {
+constexpr Rule csiTriggersTable[] = {
     {.told = {.id = "csi-slot-offset-list",
               .severity = RRC_RULE_ERROR,
               .statement = "reportSlotOffsetList has an entry for each row of pusch-TimeDomainAllocationList, and one "
@@ -389,6 +389,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup csiTriggerRules = groupOf(table);
+constinit const RuleGroup csiTriggerRules = groupOf(csiTriggersTable);
 
 } // namespace rules

@@ -10,7 +10,7 @@ namespace rules
 namespace
 {
 
-bool contains(const char* name, std::string_view part)
+bool hasPart(const char* name, std::string_view part)
 {
     return name != nullptr && std::string_view(name).find(part) != std::string_view::npos;
 }
@@ -23,7 +23,7 @@ bool beginsWith(const char* name, std::string_view beginning)
 
 bool isReleaseList(const char* name)
 {
-    return contains(name, "ToRelease") || contains(name, "Torelease");
+    return hasPart(name, "ToRelease") || hasPart(name, "Torelease");
 }
 
 // What tells the elements of lists apart that are replaced as a whole, and so have no identity in the schema.
@@ -69,7 +69,7 @@ Identity identityOf(const RtxType& list)
     {
         const std::string_view name = element.name;
         const bool isId = name.ends_with("Id") || name.ends_with("Index") || name.ends_with("Identity");
-        return isId && !contains(list.name, "qcl_info") ? Identity{&element, 0} : Identity{nullptr, 0};
+        return isId && !hasPart(list.name, "qcl_info") ? Identity{&element, 0} : Identity{nullptr, 0};
     }
     if (list.identity >= 0)
     {
@@ -337,7 +337,7 @@ void genEmptyContainer(Check& check, const Value& sequence)
     // A new bandwidth part has bwp-Dedicated, be it empty.
     const bool isContainer =
         std::find(std::begin(containers), std::end(containers), &sequence.type) != std::end(containers);
-    if (isContainer && !contains(sequence.name, "bwp-Dedicated"))
+    if (isContainer && !hasPart(sequence.name, "bwp-Dedicated"))
     {
         check.tell(RRC_RULE_WARNING, sequence.type, sequence.at)
             .found("empty")
@@ -345,7 +345,7 @@ void genEmptyContainer(Check& check, const Value& sequence)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule genTable[] = {
     {.told = {.id = "gen-dup-id",
               .severity = RRC_RULE_ERROR,
               .statement =
@@ -421,6 +421,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup genRules = groupOf(table);
+constinit const RuleGroup genRules = groupOf(genTable);
 
 } // namespace rules

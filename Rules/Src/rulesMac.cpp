@@ -453,7 +453,7 @@ void macMcgOnly(Check& check)
            "schedulingRequestResourceToAddModList[1].periodicityAndOffset.sl40 = 8\n" AT_PUCCH                         \
            "schedulingRequestResourceToAddModList[1].resource = 1\n"
 
-constexpr Rule table[] = {
+constexpr Rule macTable[] = {
     {.told = {.id = "mac-sr-ref",
               .severity = RRC_RULE_ERROR,
               .statement = "A scheduling request that a logical channel or a PUCCH resource names is "
@@ -602,6 +602,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup macRules = groupOf(table);
+constinit const RuleGroup macRules = groupOf(macTable);
 
 } // namespace rules

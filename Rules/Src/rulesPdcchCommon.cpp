@@ -197,7 +197,7 @@ void pdcchRecoverySs(Check& check)
                });
 }
 
-constexpr Rule table[] = {
+constexpr Rule pdcchCommonTable[] = {
     {.told =
          {.id = "pdcch-common-list",
           .severity = RRC_RULE_ERROR,
@@ -251,6 +251,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pdcchCommonRules = groupOf(table);
+constinit const RuleGroup pdcchCommonRules = groupOf(pdcchCommonTable);
 
 } // namespace rules

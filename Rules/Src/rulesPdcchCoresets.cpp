@@ -474,7 +474,7 @@ void pdcchTciPresent(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule pdcchCoresetsTable[] = {
     {.told = {.id = "pdcch-counts",
               .severity = RRC_RULE_ERROR,
               .statement = "A downlink bandwidth part has at most 3 CORESETs and 10 search spaces, the common ones, "
@@ -579,6 +579,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pdcchCoresetRules = groupOf(table);
+constinit const RuleGroup pdcchCoresetRules = groupOf(pdcchCoresetsTable);
 
 } // namespace rules

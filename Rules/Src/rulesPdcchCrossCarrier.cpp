@@ -119,7 +119,7 @@ void pdcchCrossCarrier(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule pdcchCrossCarrierTable[] = {
     {.told =
          {.id = "pdcch-cross-carrier",
           .severity = RRC_RULE_ERROR,
@@ -138,6 +138,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pdcchCrossCarrierRules = groupOf(table);
+constinit const RuleGroup pdcchCrossCarrierRules = groupOf(pdcchCrossCarrierTable);
 
 } // namespace rules

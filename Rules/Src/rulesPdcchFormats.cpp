@@ -381,7 +381,7 @@ void pdcchTpcIndex(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule pdcchFormatsTable[] = {
     {.told =
          {.id = "pdcch-dci2-0",
           .severity = RRC_RULE_ERROR,
@@ -468,6 +468,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pdcchFormatRules = groupOf(table);
+constinit const RuleGroup pdcchFormatRules = groupOf(pdcchFormatsTable);
 
 } // namespace rules

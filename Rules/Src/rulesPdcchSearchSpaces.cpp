@@ -633,7 +633,7 @@ void pdcchDciSizes(Check& check)
              });
 }
 
-constexpr Rule table[] = {
+constexpr Rule pdcchSearchSpacesTable[] = {
     {.told = {.id = "pdcch-ss-new-incomplete",
               .severity = RRC_RULE_ERROR,
               .statement = "A new search space has its CORESET, period, symbols, candidates and type; one that is "
@@ -742,6 +742,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pdcchSearchSpaceRules = groupOf(table);
+constinit const RuleGroup pdcchSearchSpaceRules = groupOf(pdcchSearchSpacesTable);
 
 } // namespace rules

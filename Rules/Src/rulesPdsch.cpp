@@ -84,37 +84,18 @@ void pdschTdra(Check& check)
     }
 }
 
-// Whether two optional members, each null where it is absent, are the same.
-template <typename T, typename Same>
-bool isSame(const T* a, const T* b, const Same& same)
-{
-    return (a == nullptr) == (b == nullptr) && (a == nullptr || same(*a, *b));
-}
+using rules::isSame;
 
-template <typename T>
-bool isSame(const T* a, const T* b)
+bool isSame(const PTRS_DownlinkConfig* a, const PTRS_DownlinkConfig* b)
 {
-    return isSame(a, b, [](const T& x, const T& y) { return x == y; });
-}
-
-template <typename Array>
-bool hasSameEntries(const Array& a, const Array& b)
-{
-    const auto x = entries(&a);
-    const auto y = entries(&b);
-    return std::equal(x.begin(), x.end(), y.begin(), y.end());
-}
-
-bool isSamePtrs(const PTRS_DownlinkConfig& a, const PTRS_DownlinkConfig& b)
-{
-    const auto entriesSame = [](const auto& x, const auto& y)
+    if (a == nullptr || b == nullptr)
     {
-        return hasSameEntries(x, y);
-    };
-    return isSame(MEMBER(a, frequencyDensity), MEMBER(b, frequencyDensity), entriesSame) &&
-           isSame(MEMBER(a, timeDensity), MEMBER(b, timeDensity), entriesSame) &&
-           isSame(MEMBER(a, epre_Ratio), MEMBER(b, epre_Ratio)) &&
-           isSame(MEMBER(a, resourceElementOffset), MEMBER(b, resourceElementOffset));
+        return a == b;
+    }
+    return isSameArray(MEMBER(*a, frequencyDensity), MEMBER(*b, frequencyDensity)) &&
+           isSameArray(MEMBER(*a, timeDensity), MEMBER(*b, timeDensity)) &&
+           isSame(MEMBER(*a, epre_Ratio), MEMBER(*b, epre_Ratio)) &&
+           isSame(MEMBER(*a, resourceElementOffset), MEMBER(*b, resourceElementOffset));
 }
 
 // DM-RS of both mapping types differ in what may differ.
@@ -147,7 +128,7 @@ void pdschDmrsAb(Check& check)
                   const PTRS_DownlinkConfig* const ptrsB = check.tree.setup(MEMBER(*b, phaseTrackingRS));
                   const bool isComplete = check.model.complete || bwp.novelty == Novelty::New;
                   const bool areKnown = isComplete || (ptrsA != nullptr && ptrsB != nullptr);
-                  if (areKnown && !isSame(ptrsA, ptrsB, isSamePtrs))
+                  if (areKnown && !isSame(ptrsA, ptrsB))
                   {
                       tell(&b->phaseTrackingRS);
                   }
@@ -765,16 +746,6 @@ void pdschSps(Check& check)
     }
 }
 
-bool hasPucch(const Cell& cell)
-{
-    const auto has = [](const Bwp& bwp)
-    {
-        return bwp.pucch != nullptr;
-    };
-    return std::any_of(cell.uplink.begin(), cell.uplink.end(), has) ||
-           std::any_of(cell.sul.begin(), cell.sul.end(), has);
-}
-
 // pucch-Cell is of an SCell without a PUCCH, when it is added, and names a cell that has one.
 void pdschPucchCell(Check& check)
 {
@@ -810,7 +781,7 @@ void pdschPucchCell(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule pdschTable[] = {
     {.told = {.id = "pdsch-tdra",
               .severity = RRC_RULE_ERROR,
               .statement = "startSymbolAndLength of PDSCH is a pair that its mapping type has: type A S = 0..3, 3 only "
@@ -1026,6 +997,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pdschRules = groupOf(table);
+constinit const RuleGroup pdschRules = groupOf(pdschTable);
 
 } // namespace rules

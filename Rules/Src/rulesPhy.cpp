@@ -463,7 +463,7 @@ void phyFourPathloss(Check& check)
     "pusch-PathlossReferenceRS-Id = 1\n" PATHLOSS_AT("1") "referenceSignal.csi-RS-Index = 1\n" PATHLOSS_AT(            \
         "2") "pusch-PathlossReferenceRS-Id = 2\n" PATHLOSS_AT("2") "referenceSignal.csi-RS-Index = 2\n" PATHLOSS_AT("3") "pusch-PathlossReferenceRS-Id = 3\n" PATHLOSS_AT("3") "referenceSignal.csi-RS-Index = 3"
 
-constexpr Rule table[] = {
+constexpr Rule phyTable[] = {
     {.told = {.id = "phy-cell-group-id",
               .severity = RRC_RULE_ERROR,
               .statement = "The master cell group has cellGroupId 0, the secondary one 1.",
@@ -578,6 +578,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup phyRules = groupOf(table);
+constinit const RuleGroup phyRules = groupOf(phyTable);
 
 } // namespace rules

@@ -958,11 +958,6 @@ void pucchCommon(Check& check)
     }
 }
 
-bool hasPucch(std::span<const Bwp> bwps)
-{
-    return std::any_of(bwps.begin(), bwps.end(), [](const Bwp& bwp) { return bwp.pucch != nullptr; });
-}
-
 // Where a bandwidth part lacks its pucch-Config.
 void missPucch(Check& check, const Bwp& bwp)
 {
@@ -1019,7 +1014,7 @@ void pucchOneUplink(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule pucchTable[] = {
     {.told = {.id = "pucch-resource-ref",
               .severity = RRC_RULE_ERROR,
               .statement =
@@ -1293,6 +1288,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup pucchRules = groupOf(table);
+constinit const RuleGroup pucchRules = groupOf(pucchTable);
 
 } // namespace rules

@@ -532,21 +532,7 @@ void puschHopOffsets(Check& check)
              });
 }
 
-// Both absent, or both of the same value.
-template <typename T>
-bool isSame(const T* a, const T* b)
-{
-    return a == nullptr || b == nullptr ? a == b : *a == *b;
-}
-
-template <typename Array>
-bool isSameArray(const Array* a, const Array* b)
-{
-    const auto x = entries(a);
-    const auto y = entries(b);
-    return std::equal(x.begin(), x.end(), y.begin(), y.end());
-}
-
+using rules::isSame;
 #define SAME(a, b, name) isSame(MEMBER(a, name), MEMBER(b, name))
 
 bool isSame(const PTRS_UplinkConfig_transformPrecoderDisabled* a, const PTRS_UplinkConfig_transformPrecoderDisabled* b)
@@ -948,7 +934,7 @@ void puschCgSingle(Check& check)
            "precodingAndNumberOfLayers = 0\n" AT_SUL_TYPE1 "mcsAndTBS = 10\n" AT_SUL_TYPE1                             \
            "pathlossReferenceIndex = 0\n"
 
-constexpr Rule table[] = {
+constexpr Rule puschTable[] = {
     {.told = {.id = "pusch-tdra",
               .severity = RRC_RULE_ERROR,
               .statement = "startSymbolAndLength of PUSCH stands for symbols of the slot: with mapping type A at least "
@@ -1155,6 +1141,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup puschRules = groupOf(table);
+constinit const RuleGroup puschRules = groupOf(puschTable);
 
 } // namespace rules

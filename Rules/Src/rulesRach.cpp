@@ -858,7 +858,7 @@ void rachBfr(Check& check)
     AT_RACH "prach-RootSequenceIndex = absent\n" AT_RACH "prach-RootSequenceIndex.l839 = 1\n" AT_RACH                  \
             "msg1-SubcarrierSpacing = absent\n"
 
-constexpr Rule table[] = {
+constexpr Rule rachTable[] = {
     {.told = {.id = "rach-format-len",
               .severity = RRC_RULE_ERROR,
               .statement = "prach-RootSequenceIndex has the length of the preambles that prach-ConfigurationIndex has "
@@ -993,6 +993,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup rachRules = groupOf(table);
+constinit const RuleGroup rachRules = groupOf(rachTable);
 
 } // namespace rules

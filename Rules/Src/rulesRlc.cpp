@@ -414,7 +414,7 @@ void rlcSrbAmSn12(Check& check)
     "rlc-BearerToAddModList[2].rlc-Config.um-Uni-Directional-DL.dl-UM-RLC.t-Reassembly = ms35\n"                       \
     "rlc-BearerToAddModList[2].mac-LogicalChannelConfig = {}\n"
 
-constexpr Rule table[] = {
+constexpr Rule rlcTable[] = {
     {.told = {.id = "rlc-new-incomplete",
               .severity = RRC_RULE_ERROR,
               .statement = "A new logical channel has servedRadioBearer, that of a DRB also rlc-Config and "
@@ -530,6 +530,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup rlcRules = groupOf(table);
+constinit const RuleGroup rlcRules = groupOf(rlcTable);
 
 } // namespace rules

@@ -4,6 +4,7 @@
 #include "modelLists.h"
 #include "rules.h"
 #include "ssbReferences.h"
+#include "uplink.h"
 
 namespace rules
 {
@@ -108,16 +109,6 @@ void scellReleaseUsed(Check& check)
     };
     forValues(heap, {*asn1Type_CellGroupConfig(), &check.model.config, nullptr, false},
               kindBits(rtx::Kind::Integer, rtx::Kind::Array), visit);
-}
-
-bool hasPucch(const Cell& cell)
-{
-    bool has = false;
-    for (const Bwp& bwp : cell.uplink)
-    {
-        has = has || bwp.pucch != nullptr;
-    }
-    return has;
 }
 
 // Members of ServingCellConfig that only some kinds of cells have.
@@ -292,7 +283,7 @@ void scellSsbless(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule scellTable[] = {
     {.told = {.id = "scell-add-content",
               .severity = RRC_RULE_ERROR,
               .statement = "An SCell that is added has sCellConfigCommon and sCellConfigDedicated; one that is "
@@ -365,6 +356,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup scellRules = groupOf(table);
+constinit const RuleGroup scellRules = groupOf(scellTable);
 
 } // namespace rules

@@ -405,7 +405,7 @@ constexpr Pattern patterns[] = {
     {2, 2, "2T4R", RRC_RULE_FEATURE_SRS_SWITCH_2T4R},   {4, 1, "1T4R", RRC_RULE_FEATURE_SRS_SWITCH_1T4R},
 };
 
-const Pattern* patternOf(const SrsSet& set)
+const Pattern* resourcePattern(const SrsSet& set)
 {
     for (const Pattern& pattern : patterns)
     {
@@ -450,7 +450,7 @@ bool patternOfSet(Check& check, const Switching& switching, const SrsSet& set)
     }
     const SrsSet* const partner = isTriggered ? partnerOf(check, switching, set) : nullptr;
     const OSUINT32 ports = set.resources.empty() ? 0 : portsOf(*set.resources[0]);
-    const Pattern* const pattern = patternOf(set);
+    const Pattern* const pattern = resourcePattern(set);
     if (isTriggered && count == 3 && ports == 1)
     {
         if (partner == nullptr)
@@ -513,12 +513,6 @@ void guardsOfSet(Check& check, const Bwp& bwp, const SrsSet& set)
             }
         }
     }
-}
-
-template <typename T>
-bool isSame(const T* a, const T* b)
-{
-    return a == nullptr || b == nullptr ? a == b : *a == *b;
 }
 
 bool isSamePower(const SRS_ResourceSet& a, const SRS_ResourceSet& b)
@@ -935,7 +929,7 @@ void srsCarrierSwitching(Check& check)
     "n1\n" AT_PUSCH                                                                                                    \
     "dmrs-UplinkForPUSCH-MappingTypeA.setup.phaseTrackingRS.setup.transformPrecoderDisabled.ptrs-Power = p00\n"
 
-constexpr Rule table[] = {
+constexpr Rule srsTable[] = {
     {.told = {.id = "srs-set-ref",
               .severity = RRC_RULE_ERROR,
               .statement = "A new SRS resource set names resources, and each resource that a set names is configured.",
@@ -1099,6 +1093,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup srsRules = groupOf(table);
+constinit const RuleGroup srsRules = groupOf(srsTable);
 
 } // namespace rules

@@ -218,7 +218,7 @@ void ssbRaster(Check& check)
               });
 }
 
-constexpr Rule table[] = {
+constexpr Rule ssbTable[] = {
     {.told = {.id = "ssb-bitmap",
               .severity = RRC_RULE_ERROR,
               .statement =
@@ -279,6 +279,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup ssbRules = groupOf(table);
+constinit const RuleGroup ssbRules = groupOf(ssbTable);
 
 } // namespace rules

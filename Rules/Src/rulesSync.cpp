@@ -119,7 +119,7 @@ void syncCommonContent(Check& check)
 
 // Each FrequencyInfoUL of a cell: of its own band, or supplementary.
 template <typename Each>
-void forUplinks(Check& check, const Each& each)
+void forFrequencyInfoUls(Check& check, const Each& each)
 {
     for (const Cell& cell : check.model.cells())
     {
@@ -138,43 +138,44 @@ void forUplinks(Check& check, const Each& each)
 void syncUlBand(Check& check)
 {
     constexpr OSUINT32 firstOwnGrid = 77; // unpaired bands from here on are none of E-UTRA
-    forUplinks(check,
-               [&](const Cell& cell, const FrequencyInfoUL& uplink, bool isSul)
-               {
-                   if (!isSul && !check.decided(cell.duplex))
-                   {
-                       return;
-                   }
-                   const bool isOwn = isSul || *cell.duplex == RRC_RULE_DUPLEX_FDD;
-                   const auto* const bands = MEMBER(uplink, frequencyBandList);
-                   const auto* const pointA = MEMBER(uplink, absoluteFrequencyPointA);
-                   const auto* const shift = MEMBER(uplink, frequencyShift7p5khz);
-                   const char* const why = isSul ? "the uplink is supplementary" : "the uplink is of paired spectrum";
-                   if (isOwn)
-                   {
-                       if (bands == nullptr)
-                       {
-                           check.error(&uplink.frequencyBandList).allowed("%s", why);
-                       }
-                       if (pointA == nullptr)
-                       {
-                           check.error(&uplink.absoluteFrequencyPointA).allowed("%s", why);
-                       }
-                       return;
-                   }
-                   if (bands != nullptr)
-                   {
-                       check.warning(bands).allowed("in unpaired spectrum it is that of the downlink");
-                   }
-                   if (pointA != nullptr)
-                   {
-                       check.warning(pointA).allowed("in unpaired spectrum it is that of the downlink");
-                   }
-                   if (shift != nullptr && cell.band && *cell.band >= firstOwnGrid)
-                   {
-                       check.error(shift).allowed("band n%u shares no grid with E-UTRA", *cell.band);
-                   }
-               });
+    forFrequencyInfoUls(check,
+                        [&](const Cell& cell, const FrequencyInfoUL& uplink, bool isSul)
+                        {
+                            if (!isSul && !check.decided(cell.duplex))
+                            {
+                                return;
+                            }
+                            const bool isOwn = isSul || *cell.duplex == RRC_RULE_DUPLEX_FDD;
+                            const auto* const bands = MEMBER(uplink, frequencyBandList);
+                            const auto* const pointA = MEMBER(uplink, absoluteFrequencyPointA);
+                            const auto* const shift = MEMBER(uplink, frequencyShift7p5khz);
+                            const char* const why =
+                                isSul ? "the uplink is supplementary" : "the uplink is of paired spectrum";
+                            if (isOwn)
+                            {
+                                if (bands == nullptr)
+                                {
+                                    check.error(&uplink.frequencyBandList).allowed("%s", why);
+                                }
+                                if (pointA == nullptr)
+                                {
+                                    check.error(&uplink.absoluteFrequencyPointA).allowed("%s", why);
+                                }
+                                return;
+                            }
+                            if (bands != nullptr)
+                            {
+                                check.warning(bands).allowed("in unpaired spectrum it is that of the downlink");
+                            }
+                            if (pointA != nullptr)
+                            {
+                                check.warning(pointA).allowed("in unpaired spectrum it is that of the downlink");
+                            }
+                            if (shift != nullptr && cell.band && *cell.band >= firstOwnGrid)
+                            {
+                                check.error(shift).allowed("band n%u shares no grid with E-UTRA", *cell.band);
+                            }
+                        });
 }
 
 void oneBand(Check& check, const MultiFrequencyBandListNR* list)
@@ -226,37 +227,38 @@ void syncBandList(Check& check)
         AdditionalSpectrumEmission value;
     };
     Vector<Emission> emissions;
-    forUplinks(check,
-               [&](const Cell& cell, const FrequencyInfoUL& uplink, bool isSul)
-               {
-                   const auto* const list = MEMBER(uplink, frequencyBandList);
-                   oneBand(check, list);
-                   const FreqBandIndicatorNR* const own = onlyBand(list);
-                   if (!isSul && own != nullptr && cell.band && *own != *cell.band)
-                   {
-                       check.warning(own).allowed("the downlink is in band n%u", *cell.band);
-                   }
-                   const NrBand* const band = own == nullptr ? nullptr : nrBand(*own);
-                   if (isSul && band != nullptr && band->duplex != NR_SUL)
-                   {
-                       check.warning(own).allowed("the band is none for a supplementary uplink");
-                   }
-                   const OSUINT32 number = uplinkBand(cell, uplink);
-                   const auto* const emission = MEMBER(uplink, additionalSpectrumEmission);
-                   if (emission == nullptr || number == 0)
-                   {
-                       return;
-                   }
-                   for (const Emission& other : emissions)
-                   {
-                       if (other.band == number && other.value != *emission)
-                       {
-                           check.warning(emission).allowed("another uplink of band n%u has %u", number, other.value);
-                           break;
-                       }
-                   }
-                   emissions.add(check.model.memory, {number, *emission});
-               });
+    forFrequencyInfoUls(check,
+                        [&](const Cell& cell, const FrequencyInfoUL& uplink, bool isSul)
+                        {
+                            const auto* const list = MEMBER(uplink, frequencyBandList);
+                            oneBand(check, list);
+                            const FreqBandIndicatorNR* const own = onlyBand(list);
+                            if (!isSul && own != nullptr && cell.band && *own != *cell.band)
+                            {
+                                check.warning(own).allowed("the downlink is in band n%u", *cell.band);
+                            }
+                            const NrBand* const band = own == nullptr ? nullptr : nrBand(*own);
+                            if (isSul && band != nullptr && band->duplex != NR_SUL)
+                            {
+                                check.warning(own).allowed("the band is none for a supplementary uplink");
+                            }
+                            const OSUINT32 number = uplinkBand(cell, uplink);
+                            const auto* const emission = MEMBER(uplink, additionalSpectrumEmission);
+                            if (emission == nullptr || number == 0)
+                            {
+                                return;
+                            }
+                            for (const Emission& other : emissions)
+                            {
+                                if (other.band == number && other.value != *emission)
+                                {
+                                    check.warning(emission).allowed("another uplink of band n%u has %u", number,
+                                                                    other.value);
+                                    break;
+                                }
+                            }
+                            emissions.add(check.model.memory, {number, *emission});
+                        });
 }
 
 // The measurement windows come with the blocks.
@@ -391,7 +393,7 @@ void syncServingMo(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule syncTable[] = {
     {.told = {.id = "sync-present",
               .severity = RRC_RULE_ERROR,
               .statement = "reconfigurationWithSync is present where the message changes or adds the SpCell or its "
@@ -485,6 +487,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup syncRules = groupOf(table);
+constinit const RuleGroup syncRules = groupOf(syncTable);
 
 } // namespace rules

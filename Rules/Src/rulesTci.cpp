@@ -309,7 +309,7 @@ void tciUsage(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule tciTable[] = {
     {.told =
          {.id = "tci-ref",
           .severity = RRC_RULE_ERROR,
@@ -360,6 +360,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup tciRules = groupOf(table);
+constinit const RuleGroup tciRules = groupOf(tciTable);
 
 } // namespace rules

@@ -724,7 +724,7 @@ void tddDirection(Check& check)
     }
 }
 
-constexpr Rule table[] = {
+constexpr Rule tddTable[] = {
     {.told = {.id = "tdd-period-scs",
               .severity = RRC_RULE_ERROR,
               .statement = "The period of a pattern goes with the reference spacing: 0.5 and 2.5 ms from 30 kHz, 1.25 "
@@ -809,6 +809,6 @@ constexpr Rule table[] = {
 
 } // namespace
 
-constinit const RuleGroup tddRules = groupOf(table);
+constinit const RuleGroup tddRules = groupOf(tddTable);
 
 } // namespace rules

@@ -208,6 +208,21 @@ auto entries(const Array* array)
     }
 }
 
+// Whether two optional members, each null where it is absent, are the same.
+template <typename T>
+bool isSame(const T* a, const T* b)
+{
+    return a == nullptr || b == nullptr ? a == b : *a == *b;
+}
+
+template <typename Array>
+bool isSameArray(const Array* a, const Array* b)
+{
+    const auto x = entries(a);
+    const auto y = entries(b);
+    return std::equal(x.begin(), x.end(), y.begin(), y.end());
+}
+
 // Whether bit `index`, the first is 0, of a bit string is set; false behind its end.
 inline bool hasBit(const ASN1BitStr32& bits, OSUINT32 index)
 {

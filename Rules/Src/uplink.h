@@ -24,6 +24,16 @@ void forUplinks(Check& check, const Each& each)
     }
 }
 
+// Whether any of the bandwidth parts has a pucch-Config.
+inline bool hasPucch(std::span<const Bwp> bwps)
+{
+    return std::any_of(bwps.begin(), bwps.end(), [](const Bwp& bwp) { return bwp.pucch != nullptr; });
+}
+inline bool hasPucch(const Cell& cell)
+{
+    return hasPucch(cell.uplink) || hasPucch(cell.sul);
+}
+
 // A sounding resource set with its resources, those that do not resolve left out.
 struct SrsSet
 {
