@@ -15,7 +15,7 @@ namespace
 using Json = nlohmann::ordered_json;
 
 constexpr int indent = 2;
-constexpr int layout = 2; // of jsonText
+constexpr int layoutVersion = 2; // of jsonText
 
 // Text of strangers may have octets that are not UTF-8.
 std::string dump(const Json& json)
@@ -167,7 +167,7 @@ std::string jsonText(const std::vector<Findings>& all, bool withUndecided)
         }
         messages.push_back(std::move(message));
     }
-    return dump({{"version", layout}, {"messages", std::move(messages)}});
+    return dump({{"version", layoutVersion}, {"messages", std::move(messages)}});
 }
 
 std::string sarifText(const std::vector<Findings>& all)
