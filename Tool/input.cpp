@@ -31,29 +31,6 @@ void blankComments(std::string& text)
     }
 }
 
-// Behind blanks, line ends and comments of JER.
-std::size_t skipComments(const Piece& text, std::size_t i)
-{
-    for (;;)
-    {
-        i = skipSpace(text, i);
-        const std::string_view rest = text.view().substr(std::min(i, text.end) - text.begin);
-        if (rest.starts_with("//"))
-        {
-            i = lineEnd(text, i);
-        }
-        else if (const std::size_t end = rest.starts_with("/*") ? rest.find("*/", 2) : std::string_view::npos;
-                 end != std::string_view::npos)
-        {
-            i += end + 2;
-        }
-        else
-        {
-            return i;
-        }
-    }
-}
-
 // '{' opens JER, unless numbers or nothing but hex follow; '[' only when JER's braces follow.
 bool isJer(const Piece& text)
 {

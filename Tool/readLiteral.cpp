@@ -9,28 +9,6 @@ namespace tool
 namespace
 {
 
-// Past blanks, line ends and comments of C; a comment that nothing ends goes to the end.
-std::size_t skipComments(const Piece& text, std::size_t i)
-{
-    for (;;)
-    {
-        i = skipSpace(text, i);
-        if (text.at(i) == '/' && text.at(i + 1) == '/')
-        {
-            i = lineEnd(text, i);
-        }
-        else if (text.at(i) == '/' && text.at(i + 1) == '*')
-        {
-            const std::size_t end = text.all.substr(0, text.end).find("*/", i + 2);
-            i = end == std::string_view::npos ? text.end : end + 2;
-        }
-        else
-        {
-            return i;
-        }
-    }
-}
-
 // An array or a string among other hex that is about as long may not be the message.
 void questionRest(const Piece& text, std::size_t begin, std::size_t end, const Input& input)
 {

@@ -211,7 +211,6 @@ OSUINT32 featuresOf(const Setting& setting, const std::string& name, const nlohm
 {
     Words names;
     Words values;
-    OSUINT32 all = 0;
     for (const Capability& capability : capabilities)
     {
         names.push_back(capability.name);
@@ -222,7 +221,6 @@ OSUINT32 featuresOf(const Setting& setting, const std::string& name, const nlohm
                 return capability.features;
             }
             values.push_back(capability.value);
-            all |= capability.features;
         }
     }
     const std::string place = setting.value + ": ";

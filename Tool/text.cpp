@@ -276,6 +276,27 @@ std::size_t skipSpace(const Piece& text, std::size_t i)
     return i;
 }
 
+std::size_t skipComments(const Piece& text, std::size_t i)
+{
+    for (;;)
+    {
+        i = skipSpace(text, i);
+        if (text.at(i) == '/' && text.at(i + 1) == '/')
+        {
+            i = lineEnd(text, i);
+        }
+        else if (text.at(i) == '/' && text.at(i + 1) == '*')
+        {
+            const std::size_t end = text.all.substr(0, text.end).find("*/", i + 2);
+            i = end == std::string_view::npos ? text.end : end + 2;
+        }
+        else
+        {
+            return i;
+        }
+    }
+}
+
 std::size_t skipHexDigits(const Piece& text, std::size_t i)
 {
     while (i < text.end && hexValue(text.all[i]) >= 0)

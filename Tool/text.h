@@ -65,6 +65,9 @@ std::size_t skipSpace(const Piece& text, std::size_t i); // line ends too
 std::size_t skipHexDigits(const Piece& text, std::size_t i);
 std::size_t lineEnd(const Piece& text, std::size_t i);
 
+// Past blanks, line ends and comments as C and JER have them; a comment that nothing ends goes to the end.
+std::size_t skipComments(const Piece& text, std::size_t i);
+
 Place placeOf(std::string_view all, std::size_t i);
 
 // "1 octet", "2 octets"
