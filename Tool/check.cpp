@@ -85,10 +85,10 @@ private:
         {
             return merged(options_.context, project_.context);
         }
-        if (!options_.context.empty())
+        if (!options_.context.empty() || options_.isChain)
         {
-            throw Failure(Exit::Usage, options_.context.front().origin + ": rules are of CellGroupConfig, not of " +
-                                           session_.common().type->name);
+            throw Failure(Exit::Usage, (options_.isChain ? "--chain" : options_.context.front().origin) +
+                                           ": rules are of CellGroupConfig, not of " + session_.common().type->name);
         }
         return {};
     }

@@ -334,6 +334,7 @@ def test_wrong_values(folder):
         "--disable per-end": "--disable: 'per-end' is about messages that cannot be read, which are never passed over",
         "--config a --no-config": "--config and --no-config exclude each other",
         "--fail-on warning --severity error": "--fail-on warning: what fails is shown, say --severity warning",
+        "--type RLC-Config --chain": "--chain: rules are of CellGroupConfig, not of RLC-Config",
         "--type RLC-Config --band n78": "--band: rules are of CellGroupConfig, not of RLC-Config",
     }.items():
         expect(["check", *options.split(), RELEASE], USAGE, err=f"cellgroupcfg: {words}\n")
