@@ -1,6 +1,6 @@
-// Of messages of 30 to 8,000 octets: the whole entry from record to octets, the encoder and the decoder alone, beside
-// the floor (floor.h); of the typical call also what other code does to them between two calls. README.md says what
-// each benchmark measures.
+// Of messages of 30 to 8,000 octets: the whole entry from record to octets, the encoder, the decoder and the
+// check of the rules alone, beside the floor (floor.h); of the typical call also what other code does to them between
+// two calls. README.md says what each benchmark measures.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -25,7 +25,10 @@
 #include "secondaryCells.h"
 #include "typicalCall.h"
 
-// A build of an earlier commit, which is measured beside this one, has none.
+// A build of an earlier commit, which is measured beside this one, lacks one or the other.
+#if __has_include("rrcRules.h")
+#include "rrcRules.h"
+#endif
 extern "C" [[gnu::weak]] size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets);
 
 namespace
@@ -138,6 +141,19 @@ public:
         decode(context);
     }
 
+#ifdef RRCRULES_H
+    // The element is all that the UE has: every rule is asked, and what it finds is counted.
+    void check()
+    {
+        RrcRuleContext known{};
+        known.extent = RRC_RULE_EXTENT_FULL;
+        if (rrcCheckRules(&context_, &tree_, &known, nullptr, nullptr) < 0)
+        {
+            fail("check");
+        }
+    }
+#endif
+
     double octets() const
     {
         return static_cast<double>(octets_.size());
@@ -238,6 +254,9 @@ void addMessage(const std::string& name, Message& m, const bench::Walk& walk)
     add(name + "/encode", [&m](auto& state) { runWarm(state, [&m] { m.encode(); }); });
     add(name + "/entry", [&m](auto& state) { runWarm(state, [&m] { m.entry(); }); });
     add(name + "/decode", [&m](auto& state) { runWarm(state, [&m] { m.decode(); }); });
+#ifdef RRCRULES_H
+    add(name + "/check", [&m](auto& state) { runWarm(state, [&m] { m.check(); }); });
+#endif
     if (rtxMemHeapSetMemory != nullptr)
     {
         add(name + "/decode_into_memory", [&m](auto& state) { runWarm(state, [&m] { m.decodeIntoMemory(); }); });
