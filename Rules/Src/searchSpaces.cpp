@@ -127,7 +127,8 @@ Known<int64_t> coreset0Start(const Model& model, const Cell& cell)
     const int64_t first =
         int64_t{nrArfcnKhz(*ssb)} - subcarriersToCentre * khzOf(muOf(cell.common->ssbSubcarrierSpacing));
     const int64_t fromPointA = first - nrArfcnKhz(frequency->absoluteFrequencyPointA);
-    return fromPointA < 0 ? Known<int64_t>::unless(0) : Known<int64_t>(fromPointA / blockKhz - coreset->offset);
+    return fromPointA < 0 || blockKhz <= 0 ? Known<int64_t>::unless(0)
+                                           : Known<int64_t>(fromPointA / blockKhz - coreset->offset);
 }
 
 } // namespace rules
