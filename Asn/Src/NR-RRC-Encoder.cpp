@@ -2817,7 +2817,7 @@ static Bits pe_FrequencyInfoUL(Encoder& e, Bits b, const FrequencyInfoUL* v)
 {
     const bool extended = v->extElem1.count != 0;
     b = e.put<6>(b, (uint64_t{extended}) << 5 | e.flags<0, 5>(v->m));
-    if (v->m.frequencyBandListPresent)
+    if (v->m.frequencyBandListPresent) [[unlikely]]
     {
         b = pe_MultiFrequencyBandListNR(e, b, &v->frequencyBandList);
         if (!e.ok(b)) [[unlikely]]
@@ -6066,7 +6066,7 @@ static Bits pe_CSI_RS_ResourceMapping_frequencyDomainAllocation(Encoder& e, Bits
             b = e.put<6>(b, (uint64_t{0}) << 4 | uint64_t{e.bits<4>((*p))});
             break;
         }
-        [[unlikely]] case T_CSI_RS_ResourceMapping_frequencyDomainAllocation_row2:
+        case T_CSI_RS_ResourceMapping_frequencyDomainAllocation_row2:
         {
             const auto* const p = v->u.row2;
             if (!e.reachable(p)) [[unlikely]]
@@ -11753,7 +11753,7 @@ static Bits pe_UplinkConfig(Encoder& e, Bits b, const UplinkConfig* v)
     const unsigned addition0 = v->m._v2ExtPresent & (v->m.powerBoostPi2BPSKPresent | v->m.uplinkChannelBW_PerSCS_ListPresent);
     const bool extended = addition0 != 0 || v->extElem1.count != 0;
     b = e.put<7>(b, (uint64_t{extended}) << 6 | e.flags<0, 6>(v->m));
-    if (v->m.initialUplinkBWPPresent)
+    if (v->m.initialUplinkBWPPresent) [[unlikely]]
     {
         b = pe_BWP_UplinkDedicated(e, b, &v->initialUplinkBWP);
         if (!e.ok(b)) [[unlikely]]
@@ -13420,7 +13420,7 @@ static Bits pe_CSI_ReportConfig_reportQuantity(Encoder& e, Bits b, const CSI_Rep
             b = e.put<3>(b, uint64_t{4});
             break;
         }
-        [[unlikely]] case T_CSI_ReportConfig_reportQuantity_cri_RSRP:
+        case T_CSI_ReportConfig_reportQuantity_cri_RSRP:
         {
             b = e.put<3>(b, uint64_t{5});
             break;
@@ -13530,7 +13530,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(Encode
             b = e.put<13>(b, ((uint64_t{0}) << 4 | uint64_t{5}) << 8 | uint64_t{e.bits<8>((*p))});
             break;
         }
-        case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands9:
+        [[unlikely]] case T_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands9:
         {
             const auto* const p = v->u.subbands9;
             if (!e.reachable(p)) [[unlikely]]
@@ -13714,7 +13714,7 @@ static Bits pe_CSI_ReportConfig_reportFreqConfiguration(Encoder& e, Bits b, cons
         }
         b = e.put<1>(b, uint64_t{v->pmi_FormatIndicator});
     }
-    if (v->m.csi_ReportingBandPresent)
+    if (v->m.csi_ReportingBandPresent) [[unlikely]]
     {
         b = pe_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand(e, b, &v->csi_ReportingBand);
         if (!e.ok(b)) [[unlikely]]

@@ -213,9 +213,10 @@ def test_known(folder):
     """Each option decides what is undecided without it, and the other value gives a finding."""
     small = flat(only="spCellConfig.spCellConfigDedicated")
     needs = undecided(stdin=small)
+    duplex = "--fdd, --tdd or --band"
+    true(all(duplex not in decided for decided in undecided("--band", "n78", stdin=small).values()), "a band has a mode")
     known = {
-        "--message": ["--message", "reconfig"], "--band": ["--band", "n78"],
-        "--fdd, --tdd or --band": ["--tdd"], "--carrier": ["--carrier", "30:0:273"],
+        "--message": ["--message", "reconfig"], duplex: ["--tdd"], "--carrier": ["--carrier", "30:0:273"],
         "--bwp0-dl": ["--bwp0-dl", "1099:30"], "--bwp0-ul": ["--bwp0-ul", "1099:30"],
         "--ssb-bitmap": ["--ssb-bitmap", "11000000"], "--coreset0": ["--coreset0", "10"],
         "--tdd-pattern": ["--tdd-pattern", "30:ms2p5:3:10:1:2"], "--meas-object": ["--meas-object", "none"],
@@ -224,15 +225,15 @@ def test_known(folder):
         true(any(words in decided for decided in needs.values()), f"{words} is named: {needs}")
         left = undecided(*options, stdin=small)
         true(all(words not in decided for decided in left.values()), f"{options} leaves undecided: {left}")
-    everything = [word for options in known.values() for word in options]
+    everything = [word for options in known.values() for word in options] + ["--band", "n78"]
     expect(["check", *everything, "--mcg", "--fr", "1", "--typeA-position", "2", "--bearers", "srb1,drb1", "--none",
             "--other-cells", "none"], DONE, stdin=small)
-    # Carriers of 100 resource blocks cannot hold bandwidth parts of 273, which these are: TS 38.213 12.
+    # Carriers of 106 resource blocks cannot hold bandwidth parts of 273, which these are: TS 38.213 12.
     part = "bwp-in-carrier"
     true(part not in ids("--carrier", "30:0:273", stdin=small), "the bandwidth parts fit 273")
-    true(part in ids("--carrier", "30:0:100", stdin=small), "they do not fit 100")
-    narrow = ids("--carrier", "30:0:273", "--carrier-ul", "30:0:100", stdin=small)
-    true(narrow.count(part) < ids("--carrier", "30:0:100", stdin=small).count(part) and part in narrow,
+    true(part in ids("--carrier", "30:0:106", stdin=small), "they do not fit 106")
+    narrow = ids("--carrier", "30:0:273", "--carrier-ul", "30:0:106", stdin=small)
+    true(narrow.count(part) < ids("--carrier", "30:0:106", stdin=small).count(part) and part in narrow,
          "the uplink alone does not fit")
     # Only an SCG has xScale: Cond SCG-Only.
     scaled = flat("physicalCellGroupConfig.xScale = dB6", only="physicalCellGroupConfig")
@@ -348,8 +349,9 @@ def test_files(folder):
         line.split("rach-ConfigCommon.setup.")[1].join(["RACH-ConfigCommon.", "\n"]) for line in WHOLE
         if line.startswith(f"{COMMON}.uplinkConfigCommon.initialUplinkBWP.rach-ConfigCommon.setup.")))[1].decode())
     small = flat(only="spCellConfig.spCellConfigDedicated")
-    recovery = small + "CellGroupConfig.spCellConfig.spCellConfigDedicated.uplinkConfig.initialUplinkBWP." \
-                       "beamFailureRecoveryConfig.setup.ssb-perRACH-Occasion = one\n"
+    beam = "CellGroupConfig.spCellConfig.spCellConfigDedicated.uplinkConfig.initialUplinkBWP." \
+           "beamFailureRecoveryConfig.setup.candidateBeamRSList[0].ssb."
+    recovery = f"{small}{beam}ssb = 0\n{beam}ra-PreambleIndex = 60\n"
     true(["--rach"] in undecided(stdin=recovery).values(), "random access of the initial bandwidth part is not known")
     true(["--rach"] not in undecided("--rach", str(rach), stdin=recovery).values(), "now it is")
     expect(["check", "--rach", str(rach)], DONE, stdin=small)

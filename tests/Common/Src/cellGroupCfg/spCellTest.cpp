@@ -256,8 +256,8 @@ TEST_F(spCell, Handover)
         R"("searchSpaceType":{"common":{"dci-Format0-0-AndFormat1-0":{}}}}],"ra-SearchSpace":1}},)"
         R"("pdsch-ConfigCommon":{"setup":{"pdsch-TimeDomainAllocationList":[{"mappingType":"typeA","startSymbolAndLength":53}]}}}},)";
     const std::string uplink =
-        R"("uplinkConfigCommon":{"frequencyInfoUL":{"frequencyBandList":[78],)" + carrier +
-        R"(},"initialUplinkBWP":{)" + parameters + R"(,"rach-ConfigCommon":{"setup":{)" + generic +
+        R"("uplinkConfigCommon":{"frequencyInfoUL":{)" + carrier + R"(},"initialUplinkBWP":{)" + parameters +
+        R"(,"rach-ConfigCommon":{"setup":{)" + generic +
         R"(,"ssb-perRACH-OccasionAndCB-PreamblesPerSSB":{"one":"n56"},"ra-ContentionResolutionTimer":"sf64","rsrp-ThresholdSSB":19,)"
         R"("prach-RootSequenceIndex":{"l139":1},"msg1-SubcarrierSpacing":"kHz30","restrictedSetConfig":"unrestrictedSet"}},)"
         R"("pusch-ConfigCommon":{"setup":{"pusch-TimeDomainAllocationList":[{"k2":4,"mappingType":"typeB","startSymbolAndLength":41}],)"
