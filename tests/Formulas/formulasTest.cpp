@@ -225,13 +225,11 @@ TEST(Coreset, Zero)
         for (uint32_t pdcch = 0; pdcch < 6; ++pdcch)
         {
             const auto rows = narrow.find({ssb, pdcch});
-            uint32_t count = 0;
             for (uint32_t index = 0; index < 17; ++index)
             {
                 NrCoreset0 coreset{};
                 const bool is = nrCoreset0(ssb, pdcch, 0, index, &coreset) != 0;
                 EXPECT_EQ(is, rows != narrow.end() && index < rows->second);
-                count += is ? 1 : 0;
                 if (is)
                 {
                     EXPECT_TRUE(coreset.rbs == 24 || coreset.rbs == 48 || coreset.rbs == 96);
