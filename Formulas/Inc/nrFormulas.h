@@ -149,8 +149,8 @@ typedef struct NrCsiRsRow
 
 // Row 1..18; null for others.
 const NrCsiRsRow* nrCsiRsRow(uint32_t row);
-// The row of a mapping; null where there is none.
-const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t ports, NrCdm cdm, NrCsiRsDensity density);
+// The row of a mapping: NrCsiRsBranch, NrCdm and NrCsiRsDensity, or any other number; null where there is none.
+const NrCsiRsRow* nrCsiRsRowOf(uint32_t branch, uint32_t bits, uint32_t ports, uint32_t cdm, uint32_t density);
 
 // The common resource blocks that a CSI-RS takes in a bandwidth part (TS 38.214 5.2.2.3.1): of startingRB and nrofRBs
 // what lies within the bandwidth part; size 0 where nothing does.

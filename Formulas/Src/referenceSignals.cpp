@@ -17,7 +17,7 @@ constexpr NrCsiRsRow rows[] = {
 };
 constexpr uint32_t rowCount = sizeof rows / sizeof rows[0];
 
-bool allows(const NrCsiRsRow& row, NrCsiRsDensity density)
+bool allows(const NrCsiRsRow& row, uint32_t density)
 {
     switch (density)
     {
@@ -27,8 +27,9 @@ bool allows(const NrCsiRsRow& row, NrCsiRsDensity density)
         return row.row != 1;
     case NR_CSI_RS_THREE:
         return row.row == 1;
+    default:
+        return false;
     }
-    return false;
 }
 
 // m_SRS,b for b = 0..3 of each c-SRS.
@@ -55,7 +56,7 @@ const NrCsiRsRow* nrCsiRsRow(uint32_t row)
     return row >= 1 && row <= rowCount ? &rows[row - 1] : nullptr;
 }
 
-const NrCsiRsRow* nrCsiRsRowOf(NrCsiRsBranch branch, uint32_t bits, uint32_t ports, NrCdm cdm, NrCsiRsDensity density)
+const NrCsiRsRow* nrCsiRsRowOf(uint32_t branch, uint32_t bits, uint32_t ports, uint32_t cdm, uint32_t density)
 {
     for (const NrCsiRsRow& row : rows)
     {

@@ -376,9 +376,8 @@ const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mappi
     {
         if (bits != nullptr)
         {
-            return nrCsiRsRowOf(static_cast<NrCsiRsBranch>(allocation->t), bitsSet(*bits, rtx::bitCount(*bits)),
-                                portsOf(mapping), static_cast<NrCdm>(mapping.cdm_Type),
-                                static_cast<NrCsiRsDensity>(mapping.density.t));
+            return nrCsiRsRowOf(allocation->t, bitsSet(*bits, rtx::bitCount(*bits)), portsOf(mapping), mapping.cdm_Type,
+                                mapping.density.t);
         }
     }
     return nullptr;

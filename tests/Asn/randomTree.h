@@ -180,9 +180,10 @@ private:
         }
     }
 
+    // Also of a pointer that is wrong, and must not be followed: it is a number then.
     static OSOCTET* at(void* structure, size_t offset)
     {
-        return static_cast<OSOCTET*>(structure) + offset;
+        return reinterpret_cast<OSOCTET*>(reinterpret_cast<uintptr_t>(structure) + offset);
     }
 
     static void setFlag(void* structure, int flag, bool set)

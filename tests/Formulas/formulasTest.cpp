@@ -517,9 +517,7 @@ TEST(CsiRs, RowsAreToldApart)
                 {
                     for (uint32_t density = 0; density <= 4; ++density)
                     {
-                        const NrCsiRsRow* const row =
-                            nrCsiRsRowOf(static_cast<NrCsiRsBranch>(branch), bits, ports, static_cast<NrCdm>(cdm),
-                                         static_cast<NrCsiRsDensity>(density));
+                        const NrCsiRsRow* const row = nrCsiRsRowOf(branch, bits, ports, cdm, density);
                         if (row != nullptr)
                         {
                             ++found[row->row];
