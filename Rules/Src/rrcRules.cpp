@@ -104,27 +104,29 @@ class Visitors
 public:
     void add(Memory& memory, const Rule& rule, OSUINT32 index)
     {
-        all_.add(memory, {&rule, index});
         kinds_ |= rule.kinds;
+        for (unsigned kind = 0; kind < std::size(ofKind_); ++kind)
+        {
+            if ((rule.kinds >> kind & 1) != 0)
+            {
+                ofKind_[kind].add(memory, {&rule, index});
+            }
+        }
     }
 
     void walk(Check& check, const Tree& tree, const CellGroupConfig& element) const
     {
-        if (all_.empty())
+        if (kinds_ == 0)
         {
             return;
         }
         forValues(tree.heap(), {*asn1Type_CellGroupConfig(), &element, nullptr, false}, kinds_,
                   [&](const Value& value)
                   {
-                      const OSUINT32 kind = kindBit(value.type.kind);
-                      for (const Entry& entry : all_)
+                      for (const Entry& entry : ofKind_[static_cast<unsigned>(value.type.kind)])
                       {
-                          if ((entry.rule->kinds & kind) != 0)
-                          {
-                              check.begin(*entry.rule, entry.index);
-                              entry.rule->visit(check, value);
-                          }
+                          check.begin(*entry.rule, entry.index);
+                          entry.rule->visit(check, value);
                       }
                   });
     }
@@ -136,7 +138,7 @@ private:
         OSUINT32 index;
     };
 
-    Vector<Entry> all_;
+    Vector<Entry> ofKind_[static_cast<unsigned>(rtx::Kind::List) + 1];
     OSUINT32 kinds_ = 0;
 };
 
@@ -177,7 +179,7 @@ int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext
     }
     (void)model.cells(); // whole, or no rule is asked
     Check check(model, sink == nullptr ? nullptr : &findings, undecided);
-    Visitors visitors{};
+    Visitors visitors;
     forRules(
         [&](const Rule& rule, OSUINT32 index)
         {

@@ -287,7 +287,8 @@ void genSetupContent(Check& check)
 
 bool isSpare(const RtxType& type, int64_t number, int64_t last)
 {
-    return number >= 0 && number <= last && beginsWith(type.names[number], "spare");
+    // Most names end the question with their first letter.
+    return number >= 0 && number <= last && *type.names[number] == 's' && beginsWith(type.names[number], "spare");
 }
 
 // No spare value is sent, and no dummy.

@@ -119,10 +119,23 @@ void forValues(const OSCTXT& heap, const Value& value, OSUINT32 kinds, const Eac
         for (unsigned i = first; i < first + count; ++i)
         {
             const rtx::Member& member = type.members[i];
-            if (rtx::isPresent(member, value.at) && ((kinds | outerKinds) & kindBit(member.type->kind)) != 0)
+            if (!rtx::isPresent(member, value.at))
             {
-                forValues(heap, {*member.type, memberAt(member, value.at), type.names[i], member.flag >= 0, &value, i},
-                          kinds, each);
+                continue;
+            }
+            const OSUINT32 kind = kindBit(member.type->kind);
+            if (((kinds | outerKinds) & kind) == 0)
+            {
+                continue;
+            }
+            const Value inner = {*member.type, memberAt(member, value.at), type.names[i], member.flag >= 0, &value, i};
+            if ((outerKinds & kind) != 0)
+            {
+                forValues(heap, inner, kinds, each);
+            }
+            else
+            {
+                each(inner);
             }
         }
     };
