@@ -138,4 +138,22 @@
                     "ssb-PositionsInBurst = absent\n" AT_SCELL_COMMON                                                  \
                     "ssb-periodicityServingCell = absent\n" AT_SCELL_COMMON "ssbSubcarrierSpacing = absent\n"
 
+// A report more, its id 2, which is semiPersistentOnPUSCH.
+#define ADDED_SP_REPORT                                                                                                \
+    AT_PHY                                                                                                             \
+    "sp-CSI-RNTI = 100\n" AT_CSI "csi-ReportConfigToAddModList[2].reportConfigId = 2\n" AT_CSI                         \
+    "csi-ReportConfigToAddModList[2].resourcesForChannelMeasurement = 0\n" AT_CSI                                      \
+    "csi-ReportConfigToAddModList[2].csi-IM-ResourcesForInterference = 1\n" AT_CSI                                     \
+    "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI          \
+    "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n" AT_CSI      \
+    "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n" AT_CSI      \
+    "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI                      \
+    "csi-ReportConfigToAddModList[2].reportQuantity.cri-RI-CQI = null\n" AT_CSI                                        \
+    "csi-ReportConfigToAddModList[2].reportFreqConfiguration.cqi-FormatIndicator = widebandCQI\n" AT_CSI               \
+    "csi-ReportConfigToAddModList[2].timeRestrictionForChannelMeasurements = notConfigured\n" AT_CSI                   \
+    "csi-ReportConfigToAddModList[2].timeRestrictionForInterferenceMeasurements = notConfigured\n" AT_CSI              \
+    "csi-ReportConfigToAddModList[2].groupBasedBeamReporting.disabled = {}\n" AT_CSI                                   \
+    "csi-ReportConfigToAddModList[2].cqi-Table = table2\n" AT_CSI                                                      \
+    "csi-ReportConfigToAddModList[2].subbandSize = value2\n"
+
 #endif

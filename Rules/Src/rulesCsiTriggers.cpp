@@ -335,32 +335,17 @@ constexpr Rule csiTriggersTable[] = {
               .good = AT_TRIGGERED "reportConfigType.aperiodic.reportSlotOffsetList[1] = 5",
               .since = "0.1.0"},
      .run = csiSlotOffsetList},
-    {.told =
-         {.id = "csi-sp-pusch",
-          .severity = RRC_RULE_ERROR,
-          .statement = "The states of semiPersistentOnPUSCH-TriggerStateList name reports that are "
-                       "semiPersistentOnPUSCH, each such report is named, and p0alpha is a set of the PUSCH.",
-          .advice = "Name the report in the list.",
-          .clause = "TS 38.331 CSI-ReportConfig, CSI-SemiPersistentOnPUSCH-TriggerStateList",
-          .given = "",
-          .bad = AT_CSI "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 1",
-          .good = AT_PHY
-          "sp-CSI-RNTI = 100\n" AT_CSI "csi-ReportConfigToAddModList[2].reportConfigId = 2\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].resourcesForChannelMeasurement = 0\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].csi-IM-ResourcesForInterference = 1\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].reportQuantity.cri-RI-CQI = null\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].reportFreqConfiguration.cqi-FormatIndicator = widebandCQI\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].timeRestrictionForChannelMeasurements = notConfigured\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].timeRestrictionForInterferenceMeasurements = notConfigured\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].groupBasedBeamReporting.disabled = {}\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].cqi-Table = table2\n" AT_CSI
-          "csi-ReportConfigToAddModList[2].subbandSize = value2\n" AT_CSI
-          "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 2",
-          .since = "0.1.0"},
+    {.told = {.id = "csi-sp-pusch",
+              .severity = RRC_RULE_ERROR,
+              .statement = "The states of semiPersistentOnPUSCH-TriggerStateList name reports that are "
+                           "semiPersistentOnPUSCH, each such report is named, and p0alpha is a set of the PUSCH.",
+              .advice = "Name the report in the list.",
+              .clause = "TS 38.331 CSI-ReportConfig, CSI-SemiPersistentOnPUSCH-TriggerStateList",
+              .given = "",
+              .bad = AT_CSI "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 1",
+              .good = ADDED_SP_REPORT AT_CSI
+              "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 2",
+              .since = "0.1.0"},
      .run = csiSpPusch},
     {.told = {.id = "csi-trigger-state",
               .severity = RRC_RULE_ERROR,

@@ -781,6 +781,20 @@ void pdschPucchCell(Check& check)
     }
 }
 
+// A periodic set of one ZP CSI-RS.
+#define ZP_SET_OF_ID                                                                                                   \
+    AT_PDSCH "zp-CSI-RS-ResourceToAddModList[0].zp-CSI-RS-ResourceId = 0\n" AT_PDSCH                                   \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.frequencyDomainAllocation.row4 = 20\n" AT_PDSCH        \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.nrofPorts = p4\n" AT_PDSCH                             \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.firstOFDMSymbolInTimeDomain = 12\n" AT_PDSCH           \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.cdm-Type = fd-CDM2\n" AT_PDSCH                         \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.density.one = null\n" AT_PDSCH                         \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.freqBand.startingRB = 0\n" AT_PDSCH                    \
+             "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.freqBand.nrofRBs = 276\n" AT_PDSCH                     \
+             "zp-CSI-RS-ResourceToAddModList[0].periodicityAndOffset.slots80 = 1\n" AT_PDSCH                           \
+             "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceIdList[0] = 0\n" AT_PDSCH                                \
+             "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceSetId = "
+
 constexpr Rule pdschTable[] = {
     {.told = {.id = "pdsch-tdra",
               .severity = RRC_RULE_ERROR,
@@ -924,30 +938,8 @@ constexpr Rule pdschTable[] = {
               .advice = "Number the sets so, and give each kind resources of its own.",
               .clause = "TS 38.331 PDSCH-Config, ZP-CSI-RS-Resource",
               .given = "",
-              .bad = AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].zp-CSI-RS-ResourceId = 0\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.frequencyDomainAllocation.row4 = 20\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.nrofPorts = p4\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.firstOFDMSymbolInTimeDomain = 12\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.cdm-Type = fd-CDM2\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.density.one = null\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.freqBand.startingRB = 0\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.freqBand.nrofRBs = 276\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].periodicityAndOffset.slots80 = 1\n" AT_PDSCH
-              "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceIdList[0] = 0\n" AT_PDSCH
-              "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceSetId = 1",
-              .good = AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].zp-CSI-RS-ResourceId = 0\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.frequencyDomainAllocation.row4 = 20\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.nrofPorts = p4\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.firstOFDMSymbolInTimeDomain = 12\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.cdm-Type = fd-CDM2\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.density.one = null\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.freqBand.startingRB = 0\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].resourceMapping.freqBand.nrofRBs = 276\n" AT_PDSCH
-              "zp-CSI-RS-ResourceToAddModList[0].periodicityAndOffset.slots80 = 1\n" AT_PDSCH
-              "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceIdList[0] = 0\n" AT_PDSCH
-              "p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceSetId = 0",
+              .bad = ZP_SET_OF_ID "1",
+              .good = ZP_SET_OF_ID "0",
               .since = "0.1.0"},
      .run = pdschZpSets},
     {.told = {.id = "pdsch-ptrs",

@@ -11,14 +11,19 @@ namespace rules
 namespace
 {
 
-// The patterns that the element has of a cell, with the reference spacing.
+// The patterns that the element has of a cell; null where it has none.
+const TDD_UL_DL_ConfigCommon* commonPatterns(const Cell& cell)
+{
+    return cell.common == nullptr ? nullptr : MEMBER(*cell.common, tdd_UL_DL_ConfigurationCommon);
+}
+
+// Each of them, with the reference spacing.
 template <typename Each>
 void forPatterns(Check& check, const Each& each)
 {
     for (const Cell& cell : check.model.cells())
     {
-        const auto* const config =
-            cell.common == nullptr ? nullptr : MEMBER(*cell.common, tdd_UL_DL_ConfigurationCommon);
+        const TDD_UL_DL_ConfigCommon* const config = commonPatterns(cell);
         if (config == nullptr)
         {
             continue;
@@ -110,8 +115,7 @@ void tddPeriod20ms(Check& check)
 {
     for (const Cell& cell : check.model.cells())
     {
-        const auto* const config =
-            cell.common == nullptr ? nullptr : MEMBER(*cell.common, tdd_UL_DL_ConfigurationCommon);
+        const TDD_UL_DL_ConfigCommon* const config = commonPatterns(cell);
         if (config == nullptr)
         {
             continue;
@@ -134,8 +138,7 @@ void tddRefScs(Check& check)
 {
     for (const Cell& cell : check.model.cells())
     {
-        const auto* const config =
-            cell.common == nullptr ? nullptr : MEMBER(*cell.common, tdd_UL_DL_ConfigurationCommon);
+        const TDD_UL_DL_ConfigCommon* const config = commonPatterns(cell);
         if (config == nullptr)
         {
             continue;
@@ -175,8 +178,7 @@ void tddCellKind(Check& check)
 {
     for (const Cell& cell : check.model.cells())
     {
-        const auto* const common =
-            cell.common == nullptr ? nullptr : MEMBER(*cell.common, tdd_UL_DL_ConfigurationCommon);
+        const TDD_UL_DL_ConfigCommon* const common = commonPatterns(cell);
         const auto* const dedicated =
             cell.dedicated == nullptr ? nullptr : MEMBER(*cell.dedicated, tdd_UL_DL_ConfigurationDedicated);
         if (common == nullptr && dedicated == nullptr)

@@ -6,22 +6,6 @@ namespace test
 namespace
 {
 
-// A report that is semiPersistentOnPUSCH, its id 2.
-constexpr const char* spReport =
-    AT_PHY "sp-CSI-RNTI = 100\n" AT_CSI "csi-ReportConfigToAddModList[2].reportConfigId = 2\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].resourcesForChannelMeasurement = 0\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].csi-IM-ResourcesForInterference = 1\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotConfig = sl80\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[0] = 3\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.reportSlotOffsetList[1] = 4\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.p0alpha = 0\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].reportQuantity.cri-RI-CQI = null\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].reportFreqConfiguration.cqi-FormatIndicator = widebandCQI\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].timeRestrictionForChannelMeasurements = notConfigured\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].timeRestrictionForInterferenceMeasurements = notConfigured\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].groupBasedBeamReporting.disabled = {}\n" AT_CSI
-           "csi-ReportConfigToAddModList[2].subbandSize = value2\n";
-
 constexpr const char* typeII = AT_TRIGGERED
     "codebookConfig.codebookType = absent\n" AT_TRIGGERED
     "codebookConfig.codebookType.type2.subType.typeII.n1-n2-codebookSubsetRestriction.two-one = FFFF\n" AT_TRIGGERED
@@ -210,10 +194,9 @@ void chainCases(CaseTable& table)
         .bad(AT_REPORT "reportConfigType")
         .good()
         .fires(AT_CSI "csi-ReportConfigToAddModList[2].reportConfigType",
-               std::string(spReport) + AT_CSI
-                   "csi-ReportConfigToAddModList[2].resourcesForChannelMeasurement = 3\n" AT_CSI
-                   "csi-ReportConfigToAddModList[2].csi-IM-ResourcesForInterference = 4\n" AT_CSI
-                   "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 2")
+               ADDED_SP_REPORT AT_CSI "csi-ReportConfigToAddModList[2].resourcesForChannelMeasurement = 3\n" AT_CSI
+                                      "csi-ReportConfigToAddModList[2].csi-IM-ResourcesForInterference = 4\n" AT_CSI
+                                      "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 2")
         .saying("are aperiodic");
 
     table.rule("csi-periodicity-cond")
@@ -449,12 +432,12 @@ void reportCases(CaseTable& table)
     table.rule("csi-sp-pusch")
         .bad(AT_CSI "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo")
         .good()
-        .fires(AT_CSI "csi-ReportConfigToAddModList[2].reportConfigType", spReport)
+        .fires(AT_CSI "csi-ReportConfigToAddModList[2].reportConfigType", ADDED_SP_REPORT)
         .as(RRC_RULE_WARNING)
         .fires(AT_CSI "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.p0alpha",
-               std::string(spReport) + AT_CSI
-                   "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.p0alpha = 1\n" AT_CSI
-                   "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 2");
+               ADDED_SP_REPORT AT_CSI
+               "csi-ReportConfigToAddModList[2].reportConfigType.semiPersistentOnPUSCH.p0alpha = 1\n" AT_CSI
+               "semiPersistentOnPUSCH-TriggerStateList.setup[0].associatedReportConfigInfo = 2");
 }
 
 void triggerCases(CaseTable& table)

@@ -1,8 +1,6 @@
 // The programs of examples/: what they send is what a UE takes.
-#include "asn1FromText.h"
+#include "flatTrees.h"
 #include "rrcRules.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -63,60 +61,34 @@ struct Stated
     std::string reason;
 };
 
-class Examples : public testing::Test
+class Examples : public test::FlatTrees
 {
 protected:
-    Examples()
-    {
-        rtxInitContext(&context_);
-    }
-    ~Examples() override
-    {
-        rtFreeContext(&context_);
-    }
-
     const CellGroupConfig* decode(Octets message)
     {
-        auto* const tree = static_cast<CellGroupConfig*>(rtxMemHeapAlloc(&context_, sizeof(CellGroupConfig)));
+        CellGroupConfig* const made = tree();
         EXPECT_EQ(0, pu_setBuffer(&context_, message.data(), message.size(), 0));
-        EXPECT_EQ(0, asn1PD_CellGroupConfig(&context_, tree));
-        return tree;
+        EXPECT_EQ(0, asn1PD_CellGroupConfig(&context_, made));
+        return made;
     }
 
-    const CellGroupConfig* read(const std::vector<std::string>& lines)
-    {
-        std::string text;
-        for (const std::string& line : lines)
-        {
-            text += line + "\n";
-        }
-        auto* const tree = static_cast<CellGroupConfig*>(rtxMemHeapAlloc(&context_, sizeof(CellGroupConfig)));
-        const auto mistake = [](void*, const Asn1Mistake* found)
-        {
-            ADD_FAILURE() << found->path << ": " << found->words;
-        };
-        EXPECT_EQ(
-            0, asn1FromFlat(&context_, asn1Type_CellGroupConfig(), tree, text.data(), text.size(), mistake, nullptr));
-        return tree;
-    }
-
-    std::string flat(const CellGroupConfig* tree)
+    std::string flat(const CellGroupConfig* of)
     {
         std::string text;
         const auto print = [](void* to, const char* piece)
         {
             *static_cast<std::string*>(to) += piece;
         };
-        EXPECT_EQ(0, asn1ToFlat_CellGroupConfig(&context_, tree, print, &text));
+        EXPECT_EQ(0, asn1ToFlat_CellGroupConfig(&context_, of, print, &text));
         return text;
     }
 
     // What the UE has after the message.
     const CellGroupConfig* after(const CellGroupConfig* previous, const CellGroupConfig* message)
     {
-        auto* const tree = static_cast<CellGroupConfig*>(rtxMemHeapAlloc(&context_, sizeof(CellGroupConfig)));
-        EXPECT_EQ(0, asn1Apply_CellGroupConfig(&context_, previous, message, tree));
-        return tree;
+        CellGroupConfig* const made = tree();
+        EXPECT_EQ(0, asn1Apply_CellGroupConfig(&context_, previous, message, made));
+        return made;
     }
 
     struct Told
@@ -162,9 +134,6 @@ protected:
         known.extent = RRC_RULE_EXTENT_FULL;
         return known;
     }
-
-private:
-    OSCTXT context_;
 };
 
 // "CellGroupConfig.cellGroupId = 0" without its first step.

@@ -1,7 +1,6 @@
 // Every rule by its cases: ruleCases.h.
+#include "flatTrees.h"
 #include "ruleCases.h"
-
-#include "asn1FromText.h"
 
 #include <gmock/gmock.h>
 
@@ -71,7 +70,7 @@ const std::vector<std::string>& wholeCell()
     return lines;
 }
 
-bool beginsWith(const std::string& path, const std::string& beginning)
+bool beginsWith(std::string_view path, std::string_view beginning)
 {
     return path.starts_with(beginning) &&
            (path.size() == beginning.size() || path[beginning.size()] == '.' || path[beginning.size()] == '[');
@@ -118,7 +117,7 @@ void change(std::vector<std::string>& lines, const std::string& changes)
         const bool isAbsent = changed.substr(equals) == " = absent";
         const auto isIt = [&](const std::string& line)
         {
-            const std::string there = line.substr(0, line.find(" = "));
+            const std::string_view there = std::string_view(line).substr(0, line.find(" = "));
             return isAbsent ? beginsWith(there, path) : there == path;
         };
         const auto at = std::find_if(lines.begin(), lines.end(), isIt);
@@ -139,43 +138,9 @@ void change(std::vector<std::string>& lines, const std::string& changes)
     }
 }
 
-class RuleTest : public testing::Test
+class RuleTest : public FlatTrees
 {
 protected:
-    RuleTest()
-    {
-        rtxInitContext(&context_);
-    }
-    ~RuleTest() override
-    {
-        rtFreeContext(&context_);
-    }
-
-    CellGroupConfig* read(const std::vector<std::string>& lines)
-    {
-        std::string text;
-        for (const std::string& line : lines)
-        {
-            text += line + "\n";
-        }
-        auto* const tree = static_cast<CellGroupConfig*>(rtxMemHeapAlloc(&context_, sizeof(CellGroupConfig)));
-        const auto mistake = [](void*, const Asn1Mistake* found)
-        {
-            ADD_FAILURE() << found->path << ": " << found->words;
-        };
-        EXPECT_EQ(
-            0, asn1FromFlat(&context_, asn1Type_CellGroupConfig(), tree, text.data(), text.size(), mistake, nullptr));
-        const auto finding = [](void*, const RtxError* found)
-        {
-            char line[500];
-            rtxErrorFormat(found, line, sizeof line);
-            ADD_FAILURE() << line;
-            return 0;
-        };
-        EXPECT_EQ(0, asn1Check_CellGroupConfig(&context_, tree, finding, nullptr));
-        return tree;
-    }
-
     struct Told
     {
         std::string rule;
@@ -209,9 +174,6 @@ protected:
                                        [](const Told& told) { return told.severity != RRC_RULE_UNDECIDED; }));
         return all;
     }
-
-private:
-    OSCTXT context_;
 };
 
 class RuleCases : public RuleTest, public testing::WithParamInterface<RuleCase>
