@@ -86,12 +86,19 @@ private:
         {
             step.offset = ++at_; // behind a dot
         }
-        at_ = std::min(path_.find_first_not_of(letters, at_), path_.size());
+        while (!atEnd() && isLetter(path_[at_]))
+        {
+            ++at_;
+        }
         step.name = path_.substr(step.offset, at_ - step.offset);
         return !step.name.empty();
     }
 
-    static constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_$";
+    static bool isLetter(char c)
+    {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_' ||
+               c == '$';
+    }
 
     std::string_view path_;
     std::size_t at_;
