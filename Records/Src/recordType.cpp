@@ -1,0 +1,117 @@
+#include "rrcRecordType.h"
+
+#include <cstring>
+
+namespace
+{
+
+bool isSet(const RrcRecordType* type, const void* record, INT16 bit)
+{
+    const RrcRecordBit& found = type->bits[bit];
+    return (rrcRecordBits(&type->fields[found.mask], record, 0) >> found.number & 1) != 0 &&
+           rrcRecordIsRead(type, record, found.mask) != 0 && (found.with < 0 || isSet(type, record, found.with));
+}
+
+} // namespace
+
+const void* rrcRecordPlace(const RrcRecordField* field, const void* record, UINT32 index)
+{
+    return static_cast<const unsigned char*>(record) + field->offset + static_cast<size_t>(index) * field->size;
+}
+
+UINT64 rrcRecordBits(const RrcRecordField* field, const void* record, UINT32 index)
+{
+    UINT64 bits = 0;
+    std::memcpy(&bits, rrcRecordPlace(field, record, index), field->size);
+    return field->bitWidth == 0 ? bits : bits & ((UINT64{1} << field->bitWidth) - 1);
+}
+
+INT64 rrcRecordNumber(const RrcRecordField* field, const void* record, UINT32 index)
+{
+    const UINT64 bits = rrcRecordBits(field, record, index);
+    if (field->isSigned == 0 && (field->flags & RRC_FIELD_TWOS_COMPLEMENT) == 0)
+    {
+        return static_cast<INT64>(bits);
+    }
+    const unsigned above = 64 - 8 * field->size;
+    return static_cast<INT64>(bits << above) >> above;
+}
+
+void rrcRecordStore(const RrcRecordField* field, void* record, UINT32 index, UINT64 bits)
+{
+    unsigned char* const place = static_cast<unsigned char*>(record) + field->offset + size_t{index} * field->size;
+    if (field->bitWidth != 0)
+    {
+        UINT64 before = 0;
+        std::memcpy(&before, place, field->size);
+        const UINT64 own = (UINT64{1} << field->bitWidth) - 1;
+        bits = (before & ~own) | (bits & own);
+    }
+    std::memcpy(place, &bits, field->size);
+}
+
+UINT32 rrcRecordEntries(const RrcRecordType* type, const void* record, UINT32 field)
+{
+    const RrcRecordField& found = type->fields[field];
+    if (found.bound == 0)
+    {
+        return 1;
+    }
+    if (found.count < 0)
+    {
+        return found.bound;
+    }
+    const UINT64 count = rrcRecordBits(&type->fields[found.count], record, 0);
+    return count < found.bound ? static_cast<UINT32>(count) : found.bound;
+}
+
+const RrcRecordOption* rrcRecordChosen(const RrcRecordType* type, const void* record, UINT32 choice)
+{
+    const RrcRecordChoice& found = type->choices[choice];
+    if (rrcRecordIsRead(type, record, found.selector) == 0)
+    {
+        return nullptr;
+    }
+    const UINT64 selector = rrcRecordBits(&type->fields[found.selector], record, 0);
+    for (unsigned i = found.optionCount; i-- != 0;)
+    {
+        const RrcRecordOption& option = found.options[i];
+        const bool taken = found.byNumber != 0 ? selector == static_cast<UINT64>(option.number)
+                                               : option.number < 0 || (selector >> option.number & 1) != 0;
+        if (taken)
+        {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
+INT32 rrcRecordIsRead(const RrcRecordType* type, const void* record, UINT32 field)
+{
+    const RrcRecordField& found = type->fields[field];
+    if (found.kind == RRC_FIELD_UNREAD || (found.guard >= 0 && !isSet(type, record, found.guard)))
+    {
+        return 0;
+    }
+    if (found.choice < 0)
+    {
+        return 1;
+    }
+    const RrcRecordOption* const option = rrcRecordChosen(type, record, static_cast<UINT32>(found.choice));
+    if (option == nullptr)
+    {
+        return 0;
+    }
+    return found.alternative < 0 ? option->field == static_cast<INT32>(field) : option->sentAs == found.alternative;
+}
+
+INT32 rrcRecordMember(const RrcRecordType* type, const void* record, UINT32 field)
+{
+    const RrcRecordField& found = type->fields[field];
+    if (found.choice < 0)
+    {
+        return -1;
+    }
+    const RrcRecordOption* const option = rrcRecordChosen(type, record, static_cast<UINT32>(found.choice));
+    return option != nullptr && option->field == static_cast<INT32>(field) ? option->member : -1;
+}
