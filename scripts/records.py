@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""records.py [--check]: describes the records from the comments of their headers.
+"""records.py [--check] [--top FOLDER]: describes the records from the comments of their headers.
 
 Reads Common/Inc and what asncomp has made of the schema, and writes Records/Src/recordTypes.cpp and
 Common/Inc/rrcCodec/rrcRecords.h. With --check it writes nothing and fails where they differ. CONTRIBUTING.md has the
@@ -7,6 +7,7 @@ grammar of the comments; what is outside it, or says something else than the sch
 """
 
 import argparse
+import difflib
 import os
 import re
 import sys
@@ -29,6 +30,12 @@ LIST = "Common/Inc/rrcCodec/rrcRecords.h"
 
 class Problem(Exception):
     """What is wrong with one comment."""
+
+
+def near(name, known):
+    """The nearest of the known names, to go behind a complaint."""
+    found = difflib.get_close_matches(name, known, 1)
+    return f"; near: {found[0]}" if found else ""
 
 
 # --- the schema -------------------------------------------------------------------------------------------------------
@@ -97,7 +104,7 @@ class Schema:
                 index = way.type.names.index(step)
                 way.go(index, way.type.members[index])
             else:
-                raise Problem(f"{way.type.name} has no {step}")
+                raise Problem(f"{way.type.name} has no {step}{near(step, way.type.names)}")
         way.through_setup()
         return way
 
@@ -150,7 +157,7 @@ class Struct:
     def __init__(self, name, expression, decl, text):
         self.name = name  # as C and the comments call it
         self.expression = expression  # its type in C++
-        self.file = os.path.relpath(decl.location.file.name, os.path.join(TOP, INCLUDES))
+        self.file = decl.location.file.name.partition(f"/{INCLUDES}/")[2]
         self.line = decl.location.line
         self.is_union = decl.kind == cindex.CursorKind.UNION_DECL
         self.text = text  # None: it stands inside another one, whose field says what it is
@@ -163,7 +170,7 @@ class Struct:
         for index, found in enumerate(self.fields):
             if found.name == name:
                 return index
-        raise Problem(f"{self.name} has no field {name}")
+        raise Problem(f"{self.name} has no field {name}{near(name, [found.name for found in self.fields])}")
 
 
 class Field:
@@ -391,7 +398,7 @@ class Reader:
             made.fields.append(described)
             try:
                 if not field.text:
-                    raise Problem(f"{struct.name}.{field.name} has no comment")
+                    raise Problem("it has no comment")
                 self.read_field(made, described, index)
             except Problem as problem:
                 self.report(struct.file, field.line, f"{struct.name}.{field.name}: {problem}")
@@ -416,6 +423,10 @@ class Reader:
         elif subject.startswith("entries used of "):
             described.kind = "Count"
             described.path = subject.removeprefix("entries used of ")
+            found = re.fullmatch(r"of which the low (\d+) bits are sent", clauses[-1])
+            if found:
+                described.bits = int(found.group(1))
+                clauses = clauses[:-1]
             self.read_range(described, clauses)
         elif subject.startswith("bits "):
             described.kind = "Mask"
@@ -483,7 +494,7 @@ class Reader:
             name = match.group(2)
             as_name = match.group(3) or name
             if name not in choice.names or as_name not in choice.names:
-                raise Problem(f"{choice.name} has no alternative {name}; it has {', '.join(choice.names)}")
+                raise Problem(f"{choice.name} has no alternative {name}{near(name, choice.names)}")
             alternative = choice.names.index(as_name)
             found.options.append(Option(int(match.group(1)), choice.names.index(name), sent_as=alternative))
         first = found.options[0].number
@@ -601,11 +612,17 @@ class Reader:
             except Problem as problem:
                 self.report(bit.file, bit.line, f"{bit.name}: {problem}")
         for choice in made.choices:
+            self.rank(choice, rules)
+
+    @staticmethod
+    def rank(choice, rules):
+        """Brings the options into the order in which the later one wins."""
+        for _ in rules:
             for winner, loser in rules:
                 numbers = [option.bit for option in choice.options]
-                if winner in numbers and loser in numbers:
+                if winner in numbers and loser in numbers and numbers.index(winner) < numbers.index(loser):
                     option = choice.options.pop(numbers.index(winner))
-                    choice.options.insert([option.bit for option in choice.options].index(loser) + 1, option)
+                    choice.options.insert(numbers.index(loser), option)
 
     def bit_number(self, struct, name):
         for number, bit in enumerate(struct.bits):
@@ -887,16 +904,20 @@ class Writer:
         )
 
 
-def written(name, text, check):
+def contents(top, name):
+    with open(os.path.join(top, name), encoding="utf-8") as file:
+        return file.read()
+
+
+def written(top, name, text, check):
     """Writes a file, or compares it. Returns what the program returns."""
-    path = os.path.join(TOP, name)
+    path = os.path.join(top, name)
     if not check:
         with open(path, "w", encoding="utf-8") as file:
             file.write(text)
         return 0
-    with open(path, encoding="utf-8") as file:
-        if file.read() == text:
-            return 0
+    if contents(top, name) == text:
+        return 0
     print(f"{name} is not what the headers say: run scripts/records.py", file=sys.stderr)
     return 1
 
@@ -904,19 +925,18 @@ def written(name, text, check):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--check", action="store_true", help="fail where what is checked in differs")
+    parser.add_argument("--top", default=TOP, help="the project's top folder")
     arguments = parser.parse_args()
-    with open(os.path.join(TOP, TABLES), encoding="utf-8") as tables:
-        with open(os.path.join(TOP, CONSTANTS), encoding="utf-8") as constants:
-            schema = Schema(tables.read(), constants.read())
-    headers = Headers(TOP)
+    top = os.path.abspath(arguments.top)
+    schema = Schema(contents(top, TABLES), contents(top, CONSTANTS))
+    headers = Headers(top)
     reader = Reader(headers, schema)
-    root = headers.order[-1]
-    reader.describe(root, schema.absolute("CellGroupConfig"), "CellGroupConfig")
+    reader.describe(headers.order[-1], schema.absolute("CellGroupConfig"), "CellGroupConfig")
     for file, line, text in sorted(reader.problems):
         print(f"{INCLUDES}/{file}:{line}: {text}", file=sys.stderr)
     if reader.problems:
         return 1
-    return written(TYPES, Writer(reader).text(), arguments.check)
+    return written(top, TYPES, Writer(reader).text(), arguments.check)
 
 
 if __name__ == "__main__":

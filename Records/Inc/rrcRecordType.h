@@ -83,7 +83,7 @@ typedef struct RrcRecordField
     UINT32 offset;               /**< in the record, in octets */
     UINT32 size;                 /**< in octets, of an array that of one entry */
     UINT16 bound;                /**< entries of an array; 0: it is none */
-    UINT16 bits;                 /**< of a bit string: how many are sent */
+    UINT16 bits;                 /**< of a bit string, or of a count whose upper bits are dropped: how many are sent */
     UINT8 kind;                  /**< RRC_FIELD_NUMBER .. */
     UINT8 flags;                 /**< RRC_FIELD_ALWAYS_SENT .. */
     UINT8 isSigned;              /**< of a number */

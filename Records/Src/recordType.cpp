@@ -61,7 +61,12 @@ UINT32 rrcRecordEntries(const RrcRecordType* type, const void* record, UINT32 fi
     {
         return found.bound;
     }
-    const UINT64 count = rrcRecordBits(&type->fields[found.count], record, 0);
+    const RrcRecordField& counter = type->fields[found.count];
+    UINT64 count = rrcRecordBits(&counter, record, 0);
+    if (counter.bits != 0)
+    {
+        count &= (UINT64{1} << counter.bits) - 1;
+    }
     return count < found.bound ? static_cast<UINT32>(count) : found.bound;
 }
 

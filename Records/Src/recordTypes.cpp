@@ -1567,10 +1567,10 @@ constexpr RrcRecordOption options_RrcCsiRsResourceMapping_t_0[] = {
     {3, 3, 3, 3, 1, 3},
 };
 constexpr RrcRecordOption options_RrcCsiRsResourceMapping_t_1[] = {
-    {0, 4, 0, 0, 6, 0},
-    {1, 5, 1, 1, -1, -1},
     {3, 7, 3, 3, -1, -1},
     {2, 6, 2, 2, -1, -1},
+    {1, 5, 1, 1, -1, -1},
+    {0, 4, 0, 0, 6, 0},
 };
 constexpr RrcRecordChoice choices_RrcCsiRsResourceMapping_t[] = {
     {{"frequencyDomainAllocation", way_0, 1, &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation}, 0, 0, 4, options_RrcCsiRsResourceMapping_t_0},
@@ -3090,7 +3090,7 @@ constexpr RrcRecordType type_RrcNzpCsiRsResource_t = {"RrcNzpCsiRsResource_t", "
 
 constexpr RrcRecordField fields_RrcNzpCsiRsResourceSet_t[] = {
     {"nzpCsiResourceSetId", {"nzp-CSI-ResourceSetId", way_0, 1, &nr_rrc::type_NZP_CSI_RS_ResourceSetId}, nullptr, nullptr, "", 0, 63, offsetof(RrcNzpCsiRsResourceSet_t, nzpCsiResourceSetId), sizeof(RrcNzpCsiRsResourceSet_t::nzpCsiResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
-    {"numNzpCsiRsRes", {}, nullptr, nullptr, "only the low 8 bits are sent", 1, 64, offsetof(RrcNzpCsiRsResourceSet_t, numNzpCsiRsRes), sizeof(RrcNzpCsiRsResourceSet_t::numNzpCsiRsRes), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
+    {"numNzpCsiRsRes", {}, nullptr, nullptr, "", 1, 64, offsetof(RrcNzpCsiRsResourceSet_t, numNzpCsiRsRes), sizeof(RrcNzpCsiRsResourceSet_t::numNzpCsiRsRes), 0, 8, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"numNzpCsiRsResources", {"nzp-CSI-RS-Resources", way_17, 2, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "the ids, despite the name", 0, 191, offsetof(RrcNzpCsiRsResourceSet_t, numNzpCsiRsResources), sizeof(RrcNzpCsiRsResourceSet_t::numNzpCsiRsResources[0]), sizeof(RrcNzpCsiRsResourceSet_t::numNzpCsiRsResources) / sizeof(RrcNzpCsiRsResourceSet_t::numNzpCsiRsResources[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
     {"bitMask", {}, nullptr, nullptr, "", 0, 7, offsetof(RrcNzpCsiRsResourceSet_t, bitMask), sizeof(RrcNzpCsiRsResourceSet_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
     {"repetition", {"repetition", way_2, 1, &nr_rrc::type_NZP_CSI_RS_ResourceSet_repetition}, nullptr, nullptr, "", 0, 1, offsetof(RrcNzpCsiRsResourceSet_t, repetition), sizeof(RrcNzpCsiRsResourceSet_t::repetition), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, 0, -1, -1},

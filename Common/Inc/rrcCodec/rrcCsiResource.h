@@ -71,7 +71,7 @@ typedef struct rrcNzpCsiRsResource_s
 typedef struct rrcNzpCsiRsResourceSet_s
 {
     UINT8 nzpCsiResourceSetId; /**< nzp-CSI-ResourceSetId, 0..63 */
-    UINT16 numNzpCsiRsRes;     /**< entries used of numNzpCsiRsResources, 1..64; only the low 8 bits are sent */
+    UINT16 numNzpCsiRsRes;     /**< entries used of numNzpCsiRsResources, 1..64, of which the low 8 bits are sent */
     UINT8 numNzpCsiRsResources[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES_PER_SET]; /**< nzp-CSI-RS-Resources, each 0..191; the
                                                                               ids, despite the name */
     UINT8 bitMask;                  /**< bits RRC_NZP_CSI_RS_RESOUECE_SET_..._PRESENCE */
