@@ -177,6 +177,31 @@ const RrcRecordOption* rrcRecordChosen(const RrcRecordType* type, const void* re
 /** Whether a composition reads this field of a structure: 1 or 0. Of a union it reads the option's member alone. */
 INT32 rrcRecordIsRead(const RrcRecordType* type, const void* record, UINT32 field);
 
+/** No record has more fields or bits, */
+#define RRC_RECORD_MAX_FIELDS 64
+/** or more choices. */
+#define RRC_RECORD_MAX_CHOICES 4
+
+/** The fields of a record that somebody has */
+typedef struct RrcRecordGiven
+{
+    UINT64 fields;                        /**< those with an index whose bit is set */
+    INT16 members[RRC_RECORD_MAX_FIELDS]; /**< of a union among them: its member */
+} RrcRecordGiven;
+
+/** What has to be said elsewhere in the record so that they are read */
+typedef struct RrcRecordFollowing
+{
+    UINT64 bits;                           /**< indices of bits that are set */
+    INT16 options[RRC_RECORD_MAX_CHOICES]; /**< of each choice; -1: the fields leave it open */
+} RrcRecordFollowing;
+
+/** Finds what follows from fields: the bits that guard them, and the option that alone holds all those of a choice. */
+void rrcRecordFollow(const RrcRecordType* type, const RrcRecordGiven* given, RrcRecordFollowing* following);
+
+/** The bits of a mask that follow. */
+UINT64 rrcRecordFollowingMask(const RrcRecordType* type, const RrcRecordFollowing* following, UINT32 mask);
+
 /** The member of a union or structure that the chosen alternative stands in; -1: all of it, or none is chosen. */
 INT32 rrcRecordMember(const RrcRecordType* type, const void* record, UINT32 field);
 

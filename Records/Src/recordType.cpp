@@ -12,6 +12,110 @@ bool isSet(const RrcRecordType* type, const void* record, INT16 bit)
            rrcRecordIsRead(type, record, found.mask) != 0 && (found.with < 0 || isSet(type, record, found.with));
 }
 
+class Follow
+{
+public:
+    Follow(const RrcRecordType& type, const RrcRecordGiven& given, RrcRecordFollowing& to)
+        : type_(type), given_(given), to_(to)
+    {
+    }
+
+    void run()
+    {
+        to_ = {0, {-1, -1, -1, -1}};
+        for (unsigned i = 0; i < type_.fieldCount; ++i)
+        {
+            if (isGiven(i))
+            {
+                read(i);
+                if (type_.fields[i].count >= 0)
+                {
+                    read(static_cast<unsigned>(type_.fields[i].count));
+                }
+            }
+        }
+        for (unsigned i = 0; i < type_.choiceCount; ++i)
+        {
+            choose(i);
+        }
+    }
+
+private:
+    bool isGiven(unsigned field) const
+    {
+        return (given_.fields >> field & 1) != 0;
+    }
+
+    // A field is to be read.
+    void read(unsigned field)
+    {
+        const RrcRecordField& found = type_.fields[field];
+        set(found.guard);
+        if (found.choice >= 0)
+        {
+            set(type_.fields[type_.choices[found.choice].selector].guard);
+        }
+    }
+
+    void set(INT16 bit)
+    {
+        if (bit < 0 || (to_.bits >> bit & 1) != 0)
+        {
+            return;
+        }
+        to_.bits |= UINT64{1} << bit;
+        set(type_.bits[bit].with);
+        set(type_.fields[type_.bits[bit].mask].guard);
+    }
+
+    bool holds(const RrcRecordOption& option, unsigned field) const
+    {
+        const RrcRecordField& found = type_.fields[field];
+        if (found.alternative >= 0)
+        {
+            return option.sentAs == found.alternative;
+        }
+        return option.field == static_cast<INT32>(field) &&
+               (found.kind != RRC_FIELD_UNION || option.member == given_.members[field]);
+    }
+
+    void choose(unsigned choice)
+    {
+        const RrcRecordChoice& found = type_.choices[choice];
+        INT16 only = -1;
+        for (unsigned i = 0; i < found.optionCount; ++i)
+        {
+            bool any = false;
+            bool all = true;
+            for (unsigned field = 0; field < type_.fieldCount; ++field)
+            {
+                if (isGiven(field) && type_.fields[field].choice == static_cast<INT32>(choice))
+                {
+                    any = true;
+                    all = all && holds(found.options[i], field);
+                }
+            }
+            if (any && all)
+            {
+                if (only >= 0)
+                {
+                    return;
+                }
+                only = static_cast<INT16>(i);
+            }
+        }
+        to_.options[choice] = only;
+        if (only >= 0)
+        {
+            set(found.options[only].bit);
+        }
+    }
+
+    const RrcRecordType& type_;
+    const RrcRecordGiven& given_;
+    RrcRecordFollowing& to_;
+};
+
 } // namespace
 
 const void* rrcRecordPlace(const RrcRecordField* field, const void* record, UINT32 index)
@@ -119,4 +223,22 @@ INT32 rrcRecordMember(const RrcRecordType* type, const void* record, UINT32 fiel
     }
     const RrcRecordOption* const option = rrcRecordChosen(type, record, static_cast<UINT32>(found.choice));
     return option != nullptr && option->field == static_cast<INT32>(field) ? option->member : -1;
+}
+
+void rrcRecordFollow(const RrcRecordType* type, const RrcRecordGiven* given, RrcRecordFollowing* following)
+{
+    Follow(*type, *given, *following).run();
+}
+
+UINT64 rrcRecordFollowingMask(const RrcRecordType* type, const RrcRecordFollowing* following, UINT32 mask)
+{
+    UINT64 bits = 0;
+    for (unsigned i = 0; i < type->bitCount; ++i)
+    {
+        if (type->bits[i].mask == mask && (following->bits >> i & 1) != 0)
+        {
+            bits |= UINT64{1} << type->bits[i].number;
+        }
+    }
+    return bits;
 }
