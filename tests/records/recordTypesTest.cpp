@@ -13,21 +13,16 @@
 
 #include <gtest/gtest.h>
 
+#include "composed.h"
 #include "records.h"
-#include "rrcCodec/rrcCompose.h"
 #include "rtxType.h"
-#include "vos_lib.h"
-
-// Stands in place of the platform's: what is drawn without ranges has notices by the thousand.
-INT32 VOS_Printf(const char* /*format*/, ...)
-{
-    return 0;
-}
 
 namespace
 {
 
 using Ranges = records::Chance::Ranges;
+using records::composed;
+using records::junk;
 
 // Every field that a composition reads, with its place: visit(type, field, place of its record, entries). It returns
 // whether to go on to what is in it.
@@ -69,26 +64,6 @@ void walk(const RrcRecordType& type, const void* record, Visit& visit)
 const RrcRecordType& root()
 {
     return *rrcRecordTypes[0];
-}
-
-std::unique_ptr<RrcCellGroupCfg_t> junk(std::uint32_t seed)
-{
-    auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
-    std::mt19937 engine(seed);
-    auto* const memory = reinterpret_cast<std::uint32_t*>(record.get());
-    std::generate(memory, memory + sizeof *record / sizeof *memory, engine);
-    return record;
-}
-
-// What comes of a record: its octets, or the line that refuses it.
-std::string composed(RrcCellGroupCfg_t* record)
-{
-    static std::vector<UINT8> octets(8192);
-    size_t length = 0;
-    char error[512] = "";
-    const int status = rrcEncodeCellGroupCfg(record, octets.data(), octets.size(), &length, error, sizeof error);
-    return status == RRC_COMPOSE_OK ? std::string(octets.begin(), octets.begin() + static_cast<std::ptrdiff_t>(length))
-                                    : error;
 }
 
 bool isLeaf(const RrcRecordField& field)
