@@ -4,6 +4,7 @@
 #include "rrcRecordType.h"
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <random>
 #include <string>
@@ -12,6 +13,7 @@
 
 #include "composed.h"
 #include "records.h"
+#include "walk.h"
 
 namespace
 {
@@ -61,6 +63,80 @@ TEST_P(recordJson, comesBack)
 }
 
 INSTANTIATE_TEST_SUITE_P(ranges, recordJson, testing::Values(Ranges::kept, Ranges::dropped));
+
+bool isControl(const RrcRecordField& field)
+{
+    return field.kind == RRC_FIELD_MASK || field.kind == RRC_FIELD_COUNT || field.kind == RRC_FIELD_ALTERNATIVE;
+}
+
+// Masks, counts and alternatives that are anything: several alternatives or none, counts beyond their arrays.
+TEST(recordJson, spoiltOnesComeBack)
+{
+    const auto record = std::make_unique<RrcCellGroupCfg_t>();
+    const auto back = records::junk(2);
+    records::Chance chance(Ranges::dropped);
+    std::mt19937 engine(7);
+    unsigned beyond = 0;
+    for (std::uint32_t seed = 1; seed <= 2000; ++seed)
+    {
+        std::memset(record.get(), 0, sizeof *record);
+        chance.start(seed);
+        records::draw(chance, *record);
+        const auto rarely = 3 + engine() % 100;
+        auto spoil = [&](const RrcRecordType& type, UINT32 index, const void* place, UINT32 /*entries*/)
+        {
+            const RrcRecordField& field = type.fields[index];
+            if (isControl(field) && engine() % rarely == 0)
+            {
+                const UINT64 bits = engine() % 2 == 0 ? engine() : engine() % 64;
+                rrcRecordStore(&field, const_cast<void*>(place), 0, bits);
+                beyond += field.kind == RRC_FIELD_COUNT && rrcRecordNumber(&field, place, 0) > field.upper ? 1U : 0U;
+            }
+            return true;
+        };
+        records::walk(*rrcRecordTypes[0], record.get(), spoil);
+        const std::string text = written(*record);
+        ASSERT_EQ(readInto(*back, text), "") << "cell group " << seed << "\n" << text;
+        ASSERT_EQ(records::composed(back.get()), records::composed(record.get())) << "cell group " << seed;
+        ASSERT_EQ(written(*back), text) << "cell group " << seed;
+    }
+    EXPECT_GT(beyond, 1000U);
+}
+
+// Memory that never was a record: the text ends, and is one value.
+TEST(recordJson, anyMemoryIsWritten)
+{
+    struct Text
+    {
+        std::size_t octets = 0;
+        std::int64_t depth = 0;
+        std::string last;
+    };
+    const auto sink = [](void* to, const char* piece)
+    {
+        auto& text = *static_cast<Text*>(to);
+        text.last = piece;
+        text.octets += text.last.size();
+        text.depth += std::count(text.last.begin(), text.last.end(), '{');
+        text.depth -= std::count(text.last.begin(), text.last.end(), '}');
+    };
+    for (const std::uint32_t seed : {0U, 1U, 2U})
+    {
+        const auto record = records::junk(seed);
+        if (seed == 0)
+        {
+            std::memset(record.get(), 0xFF, sizeof *record);
+        }
+        Text text;
+        rrcRecordToJson(record.get(), sink, &text);
+        EXPECT_GT(text.octets, 100U);
+        EXPECT_EQ(text.depth, 0);
+        EXPECT_EQ(text.last, "}\n");
+    }
+    Text nothing;
+    rrcRecordToJson(nullptr, sink, &nothing);
+    EXPECT_EQ(nothing.last, "null\n");
+}
 
 TEST(recordJson, describesNoLargerRecordThanItsUsersHaveRoomFor)
 {
