@@ -15,7 +15,7 @@ _cellgroupcfg()
         -o | --output) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='decode encode diff delta apply check find pcap explain --help --version'
+                words='decode encode diff delta apply compose example check find pcap explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
                     decode) words="$input $messages $texts" ;;
@@ -23,13 +23,16 @@ _cellgroupcfg()
                     diff) words="$input --type --json --state" ;;
                     delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
                     apply) words="$input $messages --state $texts $octets" ;;
+                    compose) words="--color --help --verbose $texts $octets" ;;
+                    example) words="--all --color --help --output --verbose"
+                        [[ $current == -* ]] || words=$(cellgroupcfg example 2>/dev/null | cut -d' ' -f1) ;;
                     check) words="$input $messages --format" ;;
                     find) words="$input $messages --min-octets --decode --json" ;;
                     pcap) words="$input --lines --in --output" ;;
                     explain) words="--color --help --tree"
                         [[ $current == -* ]] || words=$(cellgroupcfg explain 2>/dev/null) ;;
                 esac
-                if [[ $current != -* && ${COMP_WORDS[1]} != explain ]]; then
+                if [[ $current != -* && ${COMP_WORDS[1]} != explain && ${COMP_WORDS[1]} != example ]]; then
                     compopt -o default
                     COMPREPLY=()
                     return

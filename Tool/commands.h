@@ -6,7 +6,6 @@
 #include "rrcNesting.h"
 
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace tool
@@ -35,8 +34,15 @@ struct DeltaOptions
 void delta(Session& session, const std::string& prev, const std::string& next, const DeltaOptions& options);
 
 // What is held after the deltas, in one of both forms.
-using StateForm = std::variant<OctetsForm, DecodeForm>;
 void apply(Session& session, const std::string& prev, const Operands& deltas, StateForm form);
+
+// A record in JSON as its message.
+void compose(Session& session, const std::string& operand, StateForm form);
+
+// A record to begin with as JSON; an empty name lists them.
+void example(Session& session, const std::string& name);
+// One with every member of a field, each with what may stand there; an empty path stands for all.
+void scaffold(Session& session, const std::string& path);
 
 void check(Session& session, const Operands& operands, FindingsForm form);
 
@@ -50,7 +56,7 @@ void find(Session& session, const Operands& operands, const FindOptions& options
 
 void pcap(Session& session, const Operands& operands, Nesting nesting);
 
-// An empty path lists the named types.
+// Also of a field of the record. An empty path lists the named types.
 void explain(Session& session, const std::string& path, bool tree);
 
 } // namespace tool

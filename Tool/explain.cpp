@@ -1,5 +1,6 @@
 // explain: what the schema says of a place, from the descriptors alone.
 #include "commands.h"
+#include "explainRecord.h"
 #include "messageTypes.h"
 #include "schemaPath.h"
 #include "style.h"
@@ -319,6 +320,10 @@ void explain(Session& session, const std::string& path, bool tree)
     {
         if (findType(path) == nullptr && path.find_first_of(".[") == std::string::npos &&
             explainMember(session, path, tree))
+        {
+            return;
+        }
+        if (findType(path.substr(0, path.find_first_of(".["))) == nullptr && explainField(session, path))
         {
             return;
         }

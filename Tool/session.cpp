@@ -168,7 +168,7 @@ Session::Source Session::source(const std::string& operand, std::size_t most)
 {
     if (operand == "-")
     {
-        return {"standard input", readAll(stdin, "standard input", most)};
+        return file(operand, most);
     }
     const bool exists = isFile(operand);
     const bool message = isMessage(operand, common_.as);
@@ -181,12 +181,26 @@ Session::Source Session::source(const std::string& operand, std::size_t most)
     {
         return {"operand", operand};
     }
-    const File file(std::fopen(operand.c_str(), "rb"));
-    if (file == nullptr)
+    const File opened(std::fopen(operand.c_str(), "rb"));
+    if (opened == nullptr)
     {
         throw Failure(Exit::Usage, operand + ": " + reason() + (exists ? "" : ", and no message"));
     }
-    return {operand, readAll(file.get(), operand, most)};
+    return {operand, readAll(opened.get(), operand, most)};
+}
+
+Session::Source Session::file(const std::string& operand, std::size_t most)
+{
+    if (operand == "-")
+    {
+        return {"standard input", readAll(stdin, "standard input", most)};
+    }
+    const File opened(std::fopen(operand.c_str(), "rb"));
+    if (opened == nullptr)
+    {
+        throw Failure(Exit::Usage, operand + ": " + reason());
+    }
+    return {operand, readAll(opened.get(), operand, most)};
 }
 
 Given Session::given(const Source& from, std::size_t line, std::string_view raw)

@@ -124,6 +124,8 @@ public:
         std::string raw;
     };
     Source source(const std::string& operand, std::size_t most = maxInputOctets);
+    // Of a file, or "-" for standard input, alone.
+    static Source file(const std::string& operand, std::size_t most = maxInputOctets);
 
     // Gives the content of each operand, standard input without any, to the visitor; failures are treated as below.
     void forOperands(std::vector<std::string> operands, std::size_t most,
