@@ -19,7 +19,7 @@ constexpr unsigned mostIncludes = 8;    // of files in files
 constexpr std::size_t mostFiles = 1000; // altogether
 constexpr const char* includeName = "$include";
 
-Node* find(const Node& object, std::string_view name)
+Node* memberNamed(const Node& object, std::string_view name)
 {
     Node* node = object.first;
     while (node != nullptr && node->name != name)
@@ -262,14 +262,14 @@ void Document::resolve(Node& node, std::string& path, unsigned depth)
         resolve(*child, path, depth);
         path.resize(length);
     }
-    const Node* const at = node.kind == Node::Kind::object ? find(node, includeName) : nullptr;
+    const Node* const at = node.kind == Node::Kind::object ? memberNamed(node, includeName) : nullptr;
     if (at == nullptr)
     {
         return;
     }
     for (const Node* one = node.first; one != nullptr; one = one->next)
     {
-        if (find(node, one->name) != one)
+        if (memberNamed(node, one->name) != one)
         {
             mistakeOfName(*one, pathOf(path, *one), "given twice");
         }
@@ -333,7 +333,7 @@ void Document::merge(Node& base, Node& patch) const
     {
         Node& member = *next;
         next = member.next;
-        Node* const before = find(base, member.name);
+        Node* const before = memberNamed(base, member.name);
         if (before != nullptr && before->kind == Node::Kind::object && member.kind == Node::Kind::object)
         {
             merge(*before, member);
