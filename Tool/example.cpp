@@ -303,36 +303,35 @@ private:
     void entry(const RecordPlace& place)
     {
         const RrcRecordField& field = *place.field;
-        if (field.kind == RRC_FIELD_RECORD)
+        if (field.record == nullptr)
+        {
+            text_ += scalar(place);
+        }
+        else if (field.kind == RRC_FIELD_UNION)
+        {
+            alternative(place, *field.record);
+        }
+        else
         {
             open('{');
             fields(*field.record, place.path);
             close('}');
         }
-        else if (field.kind == RRC_FIELD_UNION)
-        {
-            alternative(place);
-        }
-        else
-        {
-            text_ += scalar(place);
-        }
     }
 
-    void alternative(const RecordPlace& place)
+    void alternative(const RecordPlace& place, const RrcRecordType& type)
     {
-        const RrcRecordField& field = *place.field;
-        const RrcRecordOption* const option = shown(*place.owner, static_cast<unsigned>(field.choice));
+        const RrcRecordOption* const option = shown(*place.owner, static_cast<unsigned>(place.field->choice));
         const auto number = static_cast<unsigned>(option->member);
-        const RecordPlace member = fieldPlace(*field.record, place.path, number);
+        const RecordPlace member = fieldPlace(type, place.path, number);
         open('{');
         name(*member.field);
         value(member);
         comment(member);
         std::string others;
-        for (unsigned i = 0; i < field.record->fieldCount; ++i)
+        for (unsigned i = 0; i < type.fieldCount; ++i)
         {
-            others += i == number ? "" : (others.empty() ? "" : ", ") + std::string(field.record->fields[i].name);
+            others += i == number ? "" : (others.empty() ? "" : ", ") + std::string(type.fields[i].name);
         }
         close('}');
         comment_ = others.empty() ? "" : "or " + others;

@@ -82,41 +82,38 @@ private:
         RrcRecordFollowing following = {};
     };
 
-    // The steps to a value, innermost first.
     struct Step
     {
-        const Step* outer;
-        const char* name;
+        const char* name; // null of an entry
         std::uint32_t index;
     };
 
+    // A step of the path for as long as it lives.
     class Within
     {
     public:
-        Within(RecordReader& reader, const char* name, std::uint32_t index = 0)
-            : reader_(reader), step_{reader.step_, name, index}
+        Within(RecordReader& reader, const char* name, std::uint32_t index = 0) : steps_(reader.steps_)
         {
-            reader.step_ = &step_;
+            steps_.push_back({name, index});
         }
         ~Within()
         {
-            reader_.step_ = step_.outer;
+            steps_.pop_back();
         }
         Within(const Within&) = delete;
         Within& operator=(const Within&) = delete;
 
     private:
-        RecordReader& reader_;
-        Step step_;
+        std::vector<Step>& steps_;
     };
 
     std::string path() const
     {
         std::string path;
-        for (const Step* step = step_; step != nullptr; step = step->outer)
+        for (const Step& step : steps_)
         {
-            const std::string piece = step->name != nullptr ? step->name : '[' + std::to_string(step->index) + ']';
-            path = piece + (path.empty() || path.front() == '[' ? "" : ".") + path;
+            path += step.name == nullptr ? '[' + std::to_string(step.index) + ']'
+                                         : (path.empty() ? "" : ".") + std::string(step.name);
         }
         return path;
     }
@@ -658,7 +655,7 @@ private:
     }
 
     Document& document_;
-    const Step* step_ = nullptr;
+    std::vector<Step> steps_; // that lead to a value
 };
 
 int report(std::deque<Source>& sources, RrcRecordMistakeSink sink, void* arg)
