@@ -320,4 +320,70 @@ TEST(recordTypes, rangesAreThoseDrawn)
     EXPECT_GT(fields, 900U);
 }
 
+struct Numbered
+{
+    std::string_view name;
+    UINT32 number;
+};
+
+#define NUMBERED(type, number) {#type, number},
+constexpr Numbered numbered[] = {RRC_RECORDS(NUMBERED)};
+#undef NUMBERED
+
+const RrcRecordType* described(std::string_view name)
+{
+    if (name.compare(0, 7, "struct ") == 0)
+    {
+        name.remove_prefix(7);
+    }
+    const auto* const end = rrcRecordTypes + rrcRecordTypeCount;
+    const auto* const found =
+        std::find_if(rrcRecordTypes, end, [name](const RrcRecordType* type) { return type->name == name; });
+    return found == end ? nullptr : *found;
+}
+
+// Every structure that has a name can be initialised: what it reads is 0, and the pattern is in all that lies behind
+// its masks and counts, but not in these.
+TEST(recordTypes, emptyOnesAreInitialised)
+{
+    for (const Numbered& one : numbered)
+    {
+        const RrcRecordType* const type = described(one.name);
+        ASSERT_NE(type, nullptr) << one.name;
+        std::vector<unsigned char> memory(type->size, 0xFF);
+        auto visit = [&memory](const RrcRecordType& inner, UINT32 index, const void* place, UINT32 entries)
+        {
+            const RrcRecordField& field = inner.fields[index];
+            for (UINT32 entry = 0; entry < entries && isLeaf(field); ++entry)
+            {
+                EXPECT_EQ(rrcRecordBits(&field, place, entry), 0U) << inner.name << "." << field.name;
+            }
+            return true;
+        };
+        rrcInitRecord(memory.data(), one.number);
+        walk(*type, memory.data(), visit);
+        std::fill(memory.begin(), memory.end(), 0xFF);
+        rrcInitRecordWithPattern(memory.data(), one.number);
+        walk(*type, memory.data(), visit);
+        for (UINT32 i = 0; i < type->fieldCount; ++i)
+        {
+            const RrcRecordField& field = type->fields[i];
+            const bool byNumber = field.choice >= 0 && type->choices[field.choice].byNumber != 0;
+            if (field.kind == RRC_FIELD_MASK || field.kind == RRC_FIELD_COUNT)
+            {
+                EXPECT_EQ(rrcRecordBits(&field, memory.data(), 0), 0U) << type->name << "." << field.name;
+            }
+            else if ((field.guard >= 0 || field.count >= 0 ||
+                      (rrcRecordIsRead(type, memory.data(), i) == 0 && !byNumber)) &&
+                     field.kind != RRC_FIELD_UNREAD && field.bitWidth == 0)
+            {
+                const auto* const begin = memory.data() + field.offset;
+                EXPECT_TRUE(std::all_of(begin, begin + field.size, [](unsigned char octet) { return octet == 0xA5; }))
+                    << type->name << "." << field.name;
+            }
+        }
+    }
+    EXPECT_GT(std::size(numbered), 200U);
+}
+
 } // namespace

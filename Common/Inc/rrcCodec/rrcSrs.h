@@ -170,8 +170,8 @@ struct srsAperiodic_s
 struct srsSemiPersistent_s
 {
     /**
-     * alternative of periodicityAndOffset-sp: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20, 9 sl32,
-     * 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
+     * alternative of periodicityAndOffset-sp, T_SRS_PeriodicityAndOffset_...: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8,
+     * 6 sl10, 7 sl16, 8 sl20, 9 sl32, 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
      */
     UINT8 period;
     UINT16 offset; /**< value by period, in slots; below the period, sl1 has none */
@@ -181,8 +181,8 @@ struct srsSemiPersistent_s
 struct srsPeriodic_s
 {
     /**
-     * alternative of periodicityAndOffset-p: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20, 9 sl32,
-     * 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
+     * alternative of periodicityAndOffset-p, T_SRS_PeriodicityAndOffset_...: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10,
+     * 7 sl16, 8 sl20, 9 sl32, 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
      */
     UINT8 period;
     UINT16 offset; /**< value by period, in slots; below the period, sl1 has none */
