@@ -511,6 +511,8 @@ class Reader:
         prefix = [f"T_{choice.symbol}_..."] if first == 1 else []
         if clauses != prefix:
             raise Problem(f'between choice and alternatives stands "{", ".join(prefix)}"')
+        if prefix:
+            self.need_constants(f"T_{choice.symbol}", choice.names)
         described.lower = first
         described.upper = first + len(found.options) - 1
 
@@ -583,8 +585,11 @@ class Reader:
         expected = ", ".join(f"{number} {name}" for number, name in enumerate(values))
         if prefix != f"{element.symbol}_..." or clauses or listing != expected:
             raise Problem(f'of an enumeration is said "{element.symbol}_...: {expected}"')
-        for name in values:
-            constant = f"{element.symbol}_{name.replace('-', '_')}"
+        self.need_constants(element.symbol, values)
+
+    def need_constants(self, prefix, names):
+        for name in names:
+            constant = f"{prefix}_{name.replace('-', '_')}"
             if constant not in self.schema.constants:
                 raise Problem(f"{CONSTANTS} has no {constant}")
 
