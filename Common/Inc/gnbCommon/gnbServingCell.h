@@ -37,7 +37,7 @@ typedef struct specificCarrier_s
 /** BWP. Whether the cyclic prefix is extended is told by the mask of the record around it. */
 typedef struct nrBWP_s
 {
-    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949 */
+    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949; both in one number, the RIV of TS 38.214 */
     /** subcarrierSpacing, SubcarrierSpacing_...: 0 kHz15, 1 kHz30, 2 kHz60, 3 kHz120, 4 kHz240 */
     UINT8 subcarrierSpacing;
 } NrBWP_t;
@@ -55,7 +55,7 @@ typedef struct nrTimeDomainAlloc_s
      * PUSCH_TimeDomainResourceAllocation_mappingType_...: 0 typeA, 1 typeB
      */
     UINT8 mappingType;
-    UINT8 startSymbolAndLength; /**< startSymbolAndLength, 0..127 */
+    UINT8 startSymbolAndLength; /**< startSymbolAndLength, 0..127; both in one number, the SLIV of TS 38.214 */
 } NrTimeDomainAlloc_t;
 
 /** NrControlResourceSet_t.bitmask: shiftIndex is given; interleaved mapping only */

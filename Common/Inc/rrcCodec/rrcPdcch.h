@@ -266,7 +266,7 @@ typedef struct rrcSearchSpace_s
 struct IntCfgPerServingCell_s
 {
     UINT8 serverCellIdx; /**< servingCellId, 0..31 */
-    UINT8 positionInDci; /**< positionInDCI, 0..125 */
+    UINT8 positionInDci; /**< positionInDCI, 0..125, in bits */
 };
 
 /** DownlinkPreemption */

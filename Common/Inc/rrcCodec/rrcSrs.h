@@ -139,7 +139,7 @@ union transmissionComb_u
 /** SRS-Resource.resourceMapping */
 struct resourceMapping_s
 {
-    UINT8 startPos;    /**< startPosition, 0..5 */
+    UINT8 startPos;    /**< startPosition, 0..5, in symbols; 0 is the last one of the slot */
     UINT8 nfofSymbols; /**< nrofSymbols, SRS_Resource_resourceMapping_nrofSymbols_...: 0 n1, 1 n2, 2 n4 */
     /** repetitionFactor, SRS_Resource_resourceMapping_repetitionFactor_...: 0 n1, 1 n2, 2 n4 */
     UINT8 repetitionFactor;
@@ -244,7 +244,7 @@ typedef struct rrcSrsResource_s
     union transmissionComb_u transmissionComb; /**< transmissionComb */
     struct resourceMapping_s resourceMapping;  /**< resourceMapping */
     UINT8 freqDomainPostion;                   /**< freqDomainPosition, 0..67 */
-    UINT16 freqDomainShift;                    /**< freqDomainShift, 0..268 */
+    UINT16 freqDomainShift;                    /**< freqDomainShift, 0..268, in PRBs */
     struct freqHopping_s freqHopping;          /**< freqHopping */
     /** groupOrSequenceHopping, SRS_Resource_groupOrSequenceHopping_...: 0 neither, 1 groupHopping, 2 sequenceHopping */
     UINT8 groupOrSeqHopping;
