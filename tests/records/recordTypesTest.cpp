@@ -351,7 +351,7 @@ TEST(recordTypes, emptyOnesAreInitialised)
         const RrcRecordType* const type = described(one.name);
         ASSERT_NE(type, nullptr) << one.name;
         std::vector<unsigned char> memory(type->size, 0xFF);
-        auto visit = [&memory](const RrcRecordType& inner, UINT32 index, const void* place, UINT32 entries)
+        auto visit = [](const RrcRecordType& inner, UINT32 index, const void* place, UINT32 entries)
         {
             const RrcRecordField& field = inner.fields[index];
             for (UINT32 entry = 0; entry < entries && isLeaf(field); ++entry)
