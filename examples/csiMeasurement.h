@@ -112,8 +112,8 @@ inline void interferenceResources(RrcCsiMeasCfg_t& csi)
     csi.csiImResourceAddMod[0].periodicityAndOffset.offset = 1;
 }
 
-constexpr UINT8 aperiodic = 0; // CSI-ResourceConfig.resourceType
-constexpr UINT8 periodic = 2;
+constexpr UINT8 aperiodic = CSI_ResourceConfig_resourceType_aperiodic;
+constexpr UINT8 periodic = CSI_ResourceConfig_resourceType_periodic;
 
 inline RrcCsiResourceCfg_t& addResourceCfg(RrcCsiMeasCfg_t& csi, UINT8 type)
 {
@@ -182,7 +182,9 @@ inline void csiReports(RrcCsiMeasCfg_t& csi)
         rrcInit(&report.reportFreqCfg);
         report.reportFreqCfg.bitMask =
             RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE | RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE;
-        report.reportFreqCfg.CqiFormatInd = i; // widebandCQI, subbandCQI
+        report.reportFreqCfg.CqiFormatInd =
+            i == 0 ? CSI_ReportConfig_reportFreqConfiguration_cqi_FormatIndicator_widebandCQI
+                   : CSI_ReportConfig_reportFreqConfiguration_cqi_FormatIndicator_subbandCQI;
         report.reportFreqCfg.PmiFormatInd = CSI_ReportConfig_reportFreqConfiguration_pmi_FormatIndicator_widebandPMI;
         report.timeRestrictForChMeas = CSI_ReportConfig_timeRestrictionForChannelMeasurements_notConfigured;
         report.timeRestrictForInterferenceMeas =

@@ -65,7 +65,9 @@ inline void dedicatedPdcch(RrcPdcchCfg_t& pdcch)
         space.nrofCadidates.aggrLev4 = SearchSpace_nrofCandidates_aggregationLevel4_n2;
         space.nrofCadidates.aggrLev8 = SearchSpace_nrofCandidates_aggregationLevel8_n1;
         space.presence = RRC_SEARCH_TYPE_UE_SPECIFIC_PRESENCE;
-        space.searchType.ueSpecific.dciFormats = i == 0 ? 1 : 0; // formats 0_1 and 1_1; 0_0 and 1_0
+        space.searchType.ueSpecific.dciFormats =
+            i == 0 ? SearchSpace_searchSpaceType_ue_Specific_dci_Formats_formats0_1_And_1_1
+                   : SearchSpace_searchSpaceType_ue_Specific_dci_Formats_formats0_0_And_1_0;
     }
     RrcSearchSpace_t& common = pdcch.searchSpaceAddMod[2];
     common.monitoringSlotPeriodOffset.period = T_SearchSpace_monitoringSlotPeriodicityAndOffset_sl20;
