@@ -320,6 +320,64 @@ TEST(recordTypes, rangesAreThoseDrawn)
     EXPECT_GT(fields, 900U);
 }
 
+// Where a way's steps lead from an element.
+const rtx::Type* targetOf(const rtx::Type* element, const RrcRecordWay& way)
+{
+    for (UINT32 i = 0; i < way.stepCount && element != nullptr; ++i)
+    {
+        const UINT16 step = way.steps[i];
+        if (step == RRC_STEP_ENTRY)
+        {
+            const bool isList = element->kind == rtx::Kind::Array || element->kind == rtx::Kind::List;
+            element = isList ? &element->element() : nullptr;
+        }
+        else
+        {
+            element = step < element->memberCount ? element->members[step].type : nullptr;
+        }
+    }
+    return element;
+}
+
+// The descriptors of the standard's types lie behind every path.
+TEST(recordTypes, waysLeadToTheirTargets)
+{
+    unsigned ways = 0;
+    for (UINT32 t = 0; t < rrcRecordTypeCount; ++t)
+    {
+        const RrcRecordType& type = *rrcRecordTypes[t];
+        for (UINT32 i = 0; i < type.fieldCount; ++i)
+        {
+            const RrcRecordField& field = type.fields[i];
+            if (field.way.path == nullptr)
+            {
+                EXPECT_TRUE(field.kind == RRC_FIELD_MASK || field.kind == RRC_FIELD_COUNT ||
+                            field.kind == RRC_FIELD_VALUE || field.kind == RRC_FIELD_UNREAD)
+                    << type.name << "." << field.name;
+                continue;
+            }
+            ++ways;
+            EXPECT_EQ(targetOf(type.element, field.way), field.way.target) << type.name << "." << field.name;
+            if (field.record != nullptr)
+            {
+                EXPECT_EQ(field.record->element, field.way.target) << type.name << "." << field.name;
+            }
+        }
+        for (UINT32 i = 0; i < type.choiceCount; ++i)
+        {
+            const RrcRecordChoice& choice = type.choices[i];
+            EXPECT_EQ(targetOf(type.element, choice.way), choice.way.target) << type.name << ": " << choice.way.path;
+            EXPECT_EQ(choice.way.target->kind, rtx::Kind::Choice) << type.name << ": " << choice.way.path;
+            for (UINT32 o = 0; o < choice.optionCount; ++o)
+            {
+                EXPECT_LT(choice.options[o].alternative, choice.way.target->memberCount) << choice.way.path;
+                EXPECT_LT(choice.options[o].sentAs, choice.way.target->memberCount) << choice.way.path;
+            }
+        }
+    }
+    EXPECT_GT(ways, 900U);
+}
+
 struct Numbered
 {
     std::string_view name;
