@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "NR-RRC-Definitions.h"
 #include "rrcCodec/rrcInit.h"
 
 // The numbers from the first to the last are to be released.
@@ -36,6 +37,7 @@ inline void releaseInPdsch(RrcPdschCfg_t& pdsch)
     rrcInit(&pdsch);
     // What a PDSCH-Config cannot do without.
     pdsch.prbBitmask = RRC_PDSCH_CFG_PRB_BUNDLING_STATIC;
+    rrcInit(&pdsch.staticbundingtype);
     release(pdsch.numTciStatesRel, pdsch.tciStateId, 2, 3);
     release(pdsch.numRateMatchPatternRel, pdsch.rateMatchPatternId, 0, 1);
     release(pdsch.numZpCsiRsResouceRel, pdsch.zpCsiRsResourceId, 0, 2);
@@ -49,6 +51,7 @@ inline void releaseInPucch(RrcPucchCfg_t& pucch)
     pucch.numResourceSetAddMod = 1;
     rrcInit(&pucch.resourceSet[0]);
     pucch.resourceSet[0].numResourceList = 1;
+    pucch.resourceSet[0].pucchResourceId[0] = 0;
     release(pucch.numResourceSetRel, pucch.resourceSetId, 1, 1);
     release(pucch.numResourceRel, pucch.pucchResouceId, 1, 7);
     release(pucch.numSchedReqResourceCfgRel, pucch.schedReqResourceId, 2, 3);
@@ -60,6 +63,7 @@ inline void releaseInPusch(RrcPuschCfg_t& pusch)
     rrcInit(&pusch);
     pusch.bitMask = RRC_PUSCH_CFG_PUSCH_POWER_CONTROLPRESENCE;
     RrcPuschPowerControl_t& power = pusch.puschPowerContol;
+    rrcInit(&power);
     release(power.numPathLossRefRsRel, power.pathLossRefRsRelId, 1, 2);
     release(power.numSriPuschMappingRel, power.sriPuschMappingId, 1, 2);
 }
@@ -109,6 +113,7 @@ inline void releaseInCell(RrcServingCellCfg_t& cell)
         RRC_BWP_DL_DEDI_PDCCH_CFG_PRESENCE | RRC_BWP_DL_DEDI_PDSCH_CFG_PRESENCE | RRC_BWP_DL_DEDI_RLM_CFG_PRESENCE;
     releaseInPdcch(bwp.pdcchCfg);
     releaseInPdsch(bwp.pdschCfg);
+    rrcInit(&bwp.radioLinkMonitorCfg);
     release(bwp.radioLinkMonitorCfg.numFailDetectResourceRel, bwp.radioLinkMonitorCfg.failDetectResourceId, 1, 2);
     releaseInUplink(cell.ulCfg);
     rrcInit(&cell.pdcchServingCellCfg);
@@ -131,7 +136,9 @@ inline void releases(RrcCellGroupCfg_t& record)
     RrcMacCellGrpCfg_t& mac = record.macCellGrpCfg;
     rrcInit(&mac);
     mac.bitMask = RRC_MAC_CELL_GRP_CFG_SR_PRESENCE | RRC_MAC_CELL_GRP_CFG_TAG_PRESENCE;
+    rrcInit(&mac.srCfg);
     release(mac.srCfg.numSrRel, mac.srCfg.srId, 1, 2);
+    rrcInit(&mac.tagCfg);
     release(mac.tagCfg.numTagRel, mac.tagCfg.tagId, 1, 2);
 
     RrcSpCellCfg_t& spCell = record.spCellCfg;
@@ -139,7 +146,7 @@ inline void releases(RrcCellGroupCfg_t& record)
     spCell.bitMask = RRC_SPCELLCFG_RECFG_PRESENCE | RRC_SPCELLCFG_DEDICFG_PRESENCE;
     rrcInit(&spCell.recfgWithSync);
     spCell.recfgWithSync.newUEId = 0x4601;
-    spCell.recfgWithSync.t304 = 5; // ms1000
+    spCell.recfgWithSync.t304 = ReconfigurationWithSync_t304_ms1000;
     spCell.recfgWithSync.bitMask = RRC_SERVING_CELL_CFG_COMMON_PRESENCE;
     RrcServingCellCfgCommon_t& common = spCell.recfgWithSync.spCellConfigCommon;
     rrcInit(&common);

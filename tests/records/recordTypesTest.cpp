@@ -260,4 +260,128 @@ TEST(recordTypes, rangesAreThoseDrawn)
     EXPECT_GT(fields, 900U);
 }
 
+// Where a way's steps lead from an element.
+const rtx::Type* targetOf(const rtx::Type* element, const RrcRecordWay& way)
+{
+    for (UINT32 i = 0; i < way.stepCount && element != nullptr; ++i)
+    {
+        const UINT16 step = way.steps[i];
+        if (step == RRC_STEP_ENTRY)
+        {
+            const bool isList = element->kind == rtx::Kind::Array || element->kind == rtx::Kind::List;
+            element = isList ? &element->element() : nullptr;
+        }
+        else
+        {
+            element = step < element->memberCount ? element->members[step].type : nullptr;
+        }
+    }
+    return element;
+}
+
+// The descriptors of the standard's types lie behind every path.
+TEST(recordTypes, waysLeadToTheirTargets)
+{
+    unsigned ways = 0;
+    for (UINT32 t = 0; t < rrcRecordTypeCount; ++t)
+    {
+        const RrcRecordType& type = *rrcRecordTypes[t];
+        for (UINT32 i = 0; i < type.fieldCount; ++i)
+        {
+            const RrcRecordField& field = type.fields[i];
+            if (field.way.path == nullptr)
+            {
+                EXPECT_TRUE(field.kind == RRC_FIELD_MASK || field.kind == RRC_FIELD_COUNT ||
+                            field.kind == RRC_FIELD_VALUE || field.kind == RRC_FIELD_UNREAD)
+                    << type.name << "." << field.name;
+                continue;
+            }
+            ++ways;
+            EXPECT_EQ(targetOf(type.element, field.way), field.way.target) << type.name << "." << field.name;
+            if (field.record != nullptr)
+            {
+                EXPECT_EQ(field.record->element, field.way.target) << type.name << "." << field.name;
+            }
+        }
+        for (UINT32 i = 0; i < type.choiceCount; ++i)
+        {
+            const RrcRecordChoice& choice = type.choices[i];
+            EXPECT_EQ(targetOf(type.element, choice.way), choice.way.target) << type.name << ": " << choice.way.path;
+            EXPECT_EQ(choice.way.target->kind, rtx::Kind::Choice) << type.name << ": " << choice.way.path;
+            for (UINT32 o = 0; o < choice.optionCount; ++o)
+            {
+                EXPECT_LT(choice.options[o].alternative, choice.way.target->memberCount) << choice.way.path;
+                EXPECT_LT(choice.options[o].sentAs, choice.way.target->memberCount) << choice.way.path;
+            }
+        }
+    }
+    EXPECT_GT(ways, 900U);
+}
+
+struct Numbered
+{
+    std::string_view name;
+    UINT32 number;
+};
+
+#define NUMBERED(type, number) {#type, number},
+constexpr Numbered numbered[] = {RRC_RECORDS(NUMBERED)};
+#undef NUMBERED
+
+const RrcRecordType* described(std::string_view name)
+{
+    if (name.compare(0, 7, "struct ") == 0)
+    {
+        name.remove_prefix(7);
+    }
+    const auto* const end = rrcRecordTypes + rrcRecordTypeCount;
+    const auto* const found =
+        std::find_if(rrcRecordTypes, end, [name](const RrcRecordType* type) { return type->name == name; });
+    return found == end ? nullptr : *found;
+}
+
+// Every structure that has a name can be initialised: what it reads is 0, and the pattern is in all that lies behind
+// its masks and counts, but not in these.
+TEST(recordTypes, emptyOnesAreInitialised)
+{
+    for (const Numbered& one : numbered)
+    {
+        const RrcRecordType* const type = described(one.name);
+        ASSERT_NE(type, nullptr) << one.name;
+        std::vector<unsigned char> memory(type->size, 0xFF);
+        auto visit = [](const RrcRecordType& inner, UINT32 index, const void* place, UINT32 entries)
+        {
+            const RrcRecordField& field = inner.fields[index];
+            for (UINT32 entry = 0; entry < entries && isLeaf(field); ++entry)
+            {
+                EXPECT_EQ(rrcRecordBits(&field, place, entry), 0U) << inner.name << "." << field.name;
+            }
+            return true;
+        };
+        rrcInitRecord(memory.data(), one.number);
+        walk(*type, memory.data(), visit);
+        std::fill(memory.begin(), memory.end(), 0xFF);
+        rrcInitRecordWithPattern(memory.data(), one.number);
+        walk(*type, memory.data(), visit);
+        for (UINT32 i = 0; i < type->fieldCount; ++i)
+        {
+            const RrcRecordField& field = type->fields[i];
+            const bool byNumber = field.choice >= 0 && type->choices[field.choice].byNumber != 0;
+            if (field.kind == RRC_FIELD_MASK || field.kind == RRC_FIELD_COUNT)
+            {
+                EXPECT_EQ(rrcRecordBits(&field, memory.data(), 0), 0U) << type->name << "." << field.name;
+            }
+            else if ((field.guard >= 0 || field.count >= 0 ||
+                      (rrcRecordIsRead(type, memory.data(), i) == 0 && !byNumber)) &&
+                     field.kind != RRC_FIELD_UNREAD && field.bitWidth == 0)
+            {
+                const auto* const begin = memory.data() + field.offset;
+                EXPECT_TRUE(std::all_of(begin, begin + field.size, [](unsigned char octet) { return octet == 0xA5; }))
+                    << type->name << "." << field.name;
+            }
+        }
+    }
+    EXPECT_GT(std::size(numbered), 200U);
+}
+
 } // namespace

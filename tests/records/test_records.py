@@ -23,8 +23,8 @@ class Grammar(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.top)
         for name in ("Asn", "Platform"):
             os.symlink(os.path.join(TOP, name), os.path.join(self.top, name))
-        shutil.copytree(os.path.join(TOP, "Common/Inc"), os.path.join(self.top, "Common/Inc"))
-        shutil.copytree(os.path.join(TOP, "Records"), os.path.join(self.top, "Records"))
+        for name in ("Common", "Records"):
+            shutil.copytree(os.path.join(TOP, name), os.path.join(self.top, name))
 
     def run_script(self):
         script = os.path.join(TOP, "scripts/records.py")

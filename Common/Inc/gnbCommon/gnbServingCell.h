@@ -37,7 +37,7 @@ typedef struct specificCarrier_s
 /** BWP. Whether the cyclic prefix is extended is told by the mask of the record around it. */
 typedef struct nrBWP_s
 {
-    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949 */
+    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949; both in one number, the RIV of TS 38.214 */
     /** subcarrierSpacing, SubcarrierSpacing_...: 0 kHz15, 1 kHz30, 2 kHz60, 3 kHz120, 4 kHz240 */
     UINT8 subcarrierSpacing;
 } NrBWP_t;
@@ -55,7 +55,7 @@ typedef struct nrTimeDomainAlloc_s
      * PUSCH_TimeDomainResourceAllocation_mappingType_...: 0 typeA, 1 typeB
      */
     UINT8 mappingType;
-    UINT8 startSymbolAndLength; /**< startSymbolAndLength, 0..127 */
+    UINT8 startSymbolAndLength; /**< startSymbolAndLength, 0..127; both in one number, the SLIV of TS 38.214 */
 } NrTimeDomainAlloc_t;
 
 /** NrControlResourceSet_t.bitmask: shiftIndex is given; interleaved mapping only */
@@ -71,7 +71,10 @@ typedef struct nrControlResourceSet_s
     UINT8 controlResourceSetId; /**< controlResourceSetId, 0..11 */
     UINT64 freqDomainResources; /**< frequencyDomainResources, 45 bits; the first one in bit 44 */
     UINT8 duration;             /**< duration, 1..3, in symbols */
-    UINT8 cceRegMappingType;    /**< alternative of cce-REG-MappingType: 1 interleaved, 2 nonInterleaved */
+    /**
+     * alternative of cce-REG-MappingType, T_ControlResourceSet_cce_REG_MappingType_...: 1 interleaved, 2 nonInterleaved
+     */
+    UINT8 cceRegMappingType;
     /**
      * cce-REG-MappingType.interleaved.reg-BundleSize,
      * ControlResourceSet_cce_REG_MappingType_interleaved_reg_BundleSize_...: 0 n2, 1 n3, 2 n6
@@ -212,16 +215,18 @@ typedef struct nrSearchSpace_s
     UINT8 searchSpaceId;        /**< searchSpaceId, 0..39 */
     UINT8 controlResourceSetId; /**< controlResourceSetId, 0..11 */
     /**
-     * alternative of monitoringSlotPeriodicityAndOffset: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20,
-     * 9 sl40, 10 sl80, 11 sl160, 12 sl320, 13 sl640, 14 sl1280, 15 sl2560
+     * alternative of monitoringSlotPeriodicityAndOffset, T_SearchSpace_monitoringSlotPeriodicityAndOffset_...: 1 sl1,
+     * 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20, 9 sl40, 10 sl80, 11 sl160, 12 sl320, 13 sl640, 14 sl1280,
+     * 15 sl2560
      */
     UINT8 monitoringSlotPeriodicity;
     UINT16 monitoringSlotOffset;        /**< value by monitoringSlotPeriodicity, in slots; below the period */
     UINT16 duration;                    /**< duration, 2..2559, in slots */
     UINT16 monitoringSymbolsWithinSlot; /**< monitoringSymbolsWithinSlot, 14 bits; symbol 0 in bit 13 */
     NrNrofCandidates_t nrofCandidates;  /**< nrofCandidates */
-    UINT8 searchSpaceType;              /**< alternative of searchSpaceType: 1 common, 2 ue-Specific */
-    NrSearchSpaceCommon_t common;       /**< searchSpaceType.common */
+    /** alternative of searchSpaceType, T_SearchSpace_searchSpaceType_...: 1 common, 2 ue-Specific */
+    UINT8 searchSpaceType;
+    NrSearchSpaceCommon_t common; /**< searchSpaceType.common */
     /**
      * searchSpaceType.ue-Specific.dci-Formats, SearchSpace_searchSpaceType_ue_Specific_dci_Formats_...:
      * 0 formats0-0-And-1-0, 1 formats0-1-And-1-1
@@ -233,8 +238,9 @@ typedef struct nrSearchSpace_s
 typedef struct nrFirstPdcchMonitoringOccasion_s
 {
     /**
-     * alternative of itself: 1 sCS15KHZoneT, 2 sCS30KHZoneT-SCS15KHZhalfT,
-     * 3 sCS60KHZoneT-SCS30KHZhalfT-SCS15KHZquarterT, 4 sCS120KHZoneT-SCS60KHZhalfT-SCS30KHZquarterT-SCS15KHZoneEighthT,
+     * alternative of itself, T_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO_...: 1 sCS15KHZoneT,
+     * 2 sCS30KHZoneT-SCS15KHZhalfT, 3 sCS60KHZoneT-SCS30KHZhalfT-SCS15KHZquarterT,
+     * 4 sCS120KHZoneT-SCS60KHZhalfT-SCS30KHZquarterT-SCS15KHZoneEighthT,
      * 5 sCS120KHZhalfT-SCS60KHZquarterT-SCS30KHZoneEighthT-SCS15KHZoneSixteenthT,
      * 6 sCS120KHZquarterT-SCS60KHZoneEighthT-SCS30KHZoneSixteenthT, 7 sCS120KHZoneEighthT-SCS60KHZoneSixteenthT,
      * 8 sCS120KHZoneSixteenthT
@@ -345,8 +351,9 @@ typedef struct nrRachCfgCommon_s
     NrRachCfgGeneric_t rachCfgGeneric; /**< rach-ConfigGeneric */
     UINT8 totalNumberOfRaPreambles;    /**< totalNumberOfRA-Preambles, 1..63 */
     /**
-     * alternative of ssb-perRACH-OccasionAndCB-PreamblesPerSSB: 1 oneEighth, 2 oneFourth, 3 oneHalf, 4 one, 5 two,
-     * 6 four, 7 eight, 8 sixteen
+     * alternative of ssb-perRACH-OccasionAndCB-PreamblesPerSSB,
+     * T_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_...: 1 oneEighth, 2 oneFourth, 3 oneHalf, 4 one,
+     * 5 two, 6 four, 7 eight, 8 sixteen
      */
     UINT8 ssbPerRachOccasion;
     /** value by ssbPerRachOccasion; 1 to 4: 0 n4, 1 n8 .. 15 n64; 5: 0 n4, 1 n8 .. 7 n32; 6: 1..16; 7: 1..8; 8: 1..4 */
@@ -367,9 +374,10 @@ typedef struct nrRachCfgCommon_s
      * 4 sf40, 5 sf48, 6 sf56, 7 sf64
      */
     UINT8 raContentionResolutionTimer;
-    UINT8 rsrpThresholdSsb;        /**< rsrp-ThresholdSSB, 0..127, in dBm above -156; 127 is infinity */
-    UINT8 rsrpThresholdSsbSul;     /**< rsrp-ThresholdSSB-SUL, 0..127, in dBm above -156; 127 is infinity */
-    UINT8 prachRootSequence;       /**< alternative of prach-RootSequenceIndex: 1 l839, 2 l139 */
+    UINT8 rsrpThresholdSsb;    /**< rsrp-ThresholdSSB, 0..127, in dBm above -156; 127 is infinity */
+    UINT8 rsrpThresholdSsbSul; /**< rsrp-ThresholdSSB-SUL, 0..127, in dBm above -156; 127 is infinity */
+    /** alternative of prach-RootSequenceIndex, T_RACH_ConfigCommon_prach_RootSequenceIndex_...: 1 l839, 2 l139 */
+    UINT8 prachRootSequence;
     UINT16 prachRootSequenceIndex; /**< value by prachRootSequence; l839 0..837, l139 0..137 */
     /** msg1-SubcarrierSpacing, SubcarrierSpacing_...: 0 kHz15, 1 kHz30, 2 kHz60, 3 kHz120, 4 kHz240 */
     UINT8 msg1SubcarrierSpacing;

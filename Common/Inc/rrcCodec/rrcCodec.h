@@ -21,7 +21,8 @@
  *     drx-InactivityTimer, DRX_Config_drx_InactivityTimer_...: 0 ms0, 1 ms1    the values of an enumeration and their
  *         numbers; NR-RRC-Definitions.h has the constants DRX_Config_drx_InactivityTimer_ms0 and so on, with "_" for
  *         each "-" of a value
- *     alternative of periodicityAndOffset: 1 sf5, 2 sf10    the number of an alternative
+ *     alternative of periodicityAndOffset, T_SSB_MTC_periodicityAndOffset_...: 1 sf5, 2 sf10    the number of an
+ *         alternative, with the same kind of constants
  *     value by period    the value of the alternative that the field period has chosen
  *     entries used of tag, 0..4    so many entries of the array tag count; where 0 is allowed, 0 leaves the list out
  *     bits RRC_TAG_..._PRESENCE    a mask; what each bit does stands at the bit. Of several that choose an alternative

@@ -28,8 +28,8 @@ extern "C"
 typedef struct csiReportPeriodAndOffset_s
 {
     /**
-     * alternative of itself: 1 slots4, 2 slots5, 3 slots8, 4 slots10, 5 slots16, 6 slots20, 7 slots40, 8 slots80,
-     * 9 slots160, 10 slots320
+     * alternative of itself, T_CSI_ReportPeriodicityAndOffset_...: 1 slots4, 2 slots5, 3 slots8, 4 slots10, 5 slots16,
+     * 6 slots20, 7 slots40, 8 slots80, 9 slots160, 10 slots320
      */
     UINT8 periodicity;
     /** value by periodicity, in slots; below the period, 256..319 of slots320 cannot be given */

@@ -84,8 +84,9 @@ typedef struct rrcCsiRsResourceMapping_s
 typedef struct rrcCsiResourcePeriodictyAndOffset_s
 {
     /**
-     * alternative of itself: 1 slots4, 2 slots5, 3 slots8, 4 slots10, 5 slots16, 6 slots20, 7 slots32, 8 slots40 as
-     * slots32, 9 slots64, 10 slots80, 11 slots160, 12 slots320, 13 slots640
+     * alternative of itself, T_CSI_ResourcePeriodicityAndOffset_...: 1 slots4, 2 slots5, 3 slots8, 4 slots10,
+     * 5 slots16, 6 slots20, 7 slots32, 8 slots40 as slots32, 9 slots64, 10 slots80, 11 slots160, 12 slots320,
+     * 13 slots640
      */
     UINT8 slotsPeriod;
     UINT16 offset; /**< value by slotsPeriod, in slots; below the period */

@@ -27,7 +27,7 @@ extern "C"
 /** BWP */
 typedef struct rrcBwp_s
 {
-    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949 */
+    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949; both in one number, the RIV of TS 38.214 */
     /** subcarrierSpacing, SubcarrierSpacing_...: 0 kHz15, 1 kHz30, 2 kHz60, 3 kHz120, 4 kHz240 */
     UINT8 subCarrierSpacing;
     UINT8 bitMask;      /**< bits RRC_BWP_CYCLEPREFIX_PRESENCE */

@@ -17,8 +17,9 @@ extern "C"
 typedef struct rrcLongCycleStartOffset_s
 {
     /**
-     * alternative of itself: 1 ms10, 2 ms20, 3 ms32, 4 ms40, 5 ms60, 6 ms64, 7 ms70, 8 ms80, 9 ms128, 10 ms160,
-     * 11 ms256, 12 ms320, 13 ms512, 14 ms640, 15 ms1024, 16 ms1280, 17 ms2048, 18 ms2560, 19 ms5120, 20 ms10240
+     * alternative of itself, T_DRX_Config_drx_LongCycleStartOffset_...: 1 ms10, 2 ms20, 3 ms32, 4 ms40, 5 ms60, 6 ms64,
+     * 7 ms70, 8 ms80, 9 ms128, 10 ms160, 11 ms256, 12 ms320, 13 ms512, 14 ms640, 15 ms1024, 16 ms1280, 17 ms2048,
+     * 18 ms2560, 19 ms5120, 20 ms10240
      */
     UINT8 period;
     /** value by period, in ms; below the period, of which up to period 11 only the low 8 bits count */

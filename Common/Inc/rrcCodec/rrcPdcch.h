@@ -79,8 +79,8 @@ typedef struct rrcControlResourceSet_s
 struct slotPeriodOffset_s
 {
     /**
-     * alternative of itself: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20, 9 sl40, 10 sl80, 11 sl160,
-     * 12 sl320, 13 sl640, 14 sl1280, 15 sl2560
+     * alternative of itself, T_SearchSpace_monitoringSlotPeriodicityAndOffset_...: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8,
+     * 6 sl10, 7 sl16, 8 sl20, 9 sl40, 10 sl80, 11 sl160, 12 sl320, 13 sl640, 14 sl1280, 15 sl2560
      */
     UINT8 period;
     UINT16 offset; /**< value by period, in slots; below the period, sl1 has none */
@@ -266,7 +266,7 @@ typedef struct rrcSearchSpace_s
 struct IntCfgPerServingCell_s
 {
     UINT8 serverCellIdx; /**< servingCellId, 0..31 */
-    UINT8 positionInDci; /**< positionInDCI, 0..125 */
+    UINT8 positionInDci; /**< positionInDCI, 0..125, in bits */
 };
 
 /** DownlinkPreemption */

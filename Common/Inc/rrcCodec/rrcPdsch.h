@@ -76,9 +76,9 @@ typedef struct dynamicBundingType
 typedef struct rrcPtrsDlCfg_s
 {
     UINT8 bitMask;         /**< bits RRC_PTRS_DL_CFG_..._PRESENCE */
-    UINT16 freqDensity[2]; /**< frequencyDensity, each 1..276 */
-    UINT8 timeDensity[3];  /**< timeDensity, each 0..29 */
-    UINT8 epreRatio;       /**< epre-Ratio, 0..3 */
+    UINT16 freqDensity[2]; /**< frequencyDensity, each 1..276, in PRBs */
+    UINT8 timeDensity[3];  /**< timeDensity, each 0..29; MCS indices */
+    UINT8 epreRatio;       /**< epre-Ratio, 0..3; an index of TS 38.214 4.1 */
     /** resourceElementOffset, PTRS_DownlinkConfig_resourceElementOffset_...: 0 offset01, 1 offset10, 2 offset11 */
     UINT8 resourceElementOffset;
 } RrcPtrsDlCfg_t;
@@ -155,7 +155,7 @@ typedef struct rrcPdschTimeDomainResourceAlloc_s
 {
     /** mappingType, PDSCH_TimeDomainResourceAllocation_mappingType_...: 0 typeA, 1 typeB */
     UINT8 mappingType;
-    UINT8 startSymAdnLen; /**< startSymbolAndLength, 0..127 */
+    UINT8 startSymAdnLen; /**< startSymbolAndLength, 0..127; both in one number, the SLIV of TS 38.214 */
     UINT8 bitMask;        /**< bits RRC_PDSCH_TIMING_KO_PRESENCE */
     UINT8 k0;             /**< k0, 0..32, in slots */
 } RrcPdschTimeDomainResourceAlloc_t;

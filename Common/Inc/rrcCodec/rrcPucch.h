@@ -326,7 +326,7 @@ typedef struct rrcPucchCfg_s
     UINT8 numMultiCsiPucchResourceId;                    /**< entries used of multiCsiPucchResourceId, 0..2 */
     UINT8 multiCsiPucchResourceId[RRC_MAX_MULTI_CSI_PUCCH_RESOURCEID]; /**< multi-CSI-PUCCH-ResourceList, each 0..127 */
     UINT8 numDlData2UlACK;                                             /**< entries used of dlData2UlACK, 0..8 */
-    UINT8 dlData2UlACK[RRC_MAX_DL_DATA_TO_UL_ACK];                     /**< dl-DataToUL-ACK, each 0..15 */
+    UINT8 dlData2UlACK[RRC_MAX_DL_DATA_TO_UL_ACK];                     /**< dl-DataToUL-ACK, each 0..15, in slots */
     UINT8 numSpatialRelationInfoAddMod;                                /**< entries used of spatialRelationInfo, 0..8 */
     /** spatialRelationInfoToAddModList */
     RrcPucchSpatialRelationInfo_t spatialRelationInfo[RRC_MAX_NROF_SPATIAL_RELEATION_INFOS];

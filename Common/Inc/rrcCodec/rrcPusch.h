@@ -37,8 +37,8 @@ typedef struct rrcPtrsUlTransformPrecodeDisable_s
     /** ptrs-Power, PTRS_UplinkConfig_transformPrecoderDisabled_ptrs_Power_...: 0 p00, 1 p01, 2 p10, 3 p11 */
     UINT8 ptrsPower;
     UINT8 bitMask;         /**< bits RRC_PTRS_UL_CFG_DISABLE_..._PRESENCE */
-    UINT16 freqDensity[2]; /**< frequencyDensity, each 1..276 */
-    UINT8 timeDensity[3];  /**< timeDensity, each 0..29 */
+    UINT16 freqDensity[2]; /**< frequencyDensity, each 1..276, in PRBs */
+    UINT8 timeDensity[3];  /**< timeDensity, each 0..29; MCS indices */
     /**
      * resourceElementOffset, PTRS_UplinkConfig_transformPrecoderDisabled_resourceElementOffset_...: 0 offset01,
      * 1 offset10, 2 offset11
@@ -52,7 +52,7 @@ typedef struct rrcPtrsUlTransformPrecodeDisable_s
 /** PTRS-UplinkConfig.transformPrecoderEnabled */
 typedef struct rrcPtrsUlTransformPrecodeEnable_s
 {
-    UINT16 sampleDensity[5];             /**< sampleDensity, each 1..276 */
+    UINT16 sampleDensity[5];             /**< sampleDensity, each 1..276, in PRBs */
     UINT8 bitMask;                       /**< bits RRC_PTRS_UL_CFG_ENABLE_TIME_DENSITY_PRESENCE */
     UINT8 timeDensityTransformPrecoding; /**< not read; timeDensityTransformPrecoding is d2 whatever this holds */
 } RrcPtrsUlTransformPrecodeEnable_t;
@@ -211,7 +211,7 @@ typedef struct rrcPuschTimeDomainResourceAlloc_s
 {
     /** mappingType, PUSCH_TimeDomainResourceAllocation_mappingType_...: 0 typeA, 1 typeB */
     UINT8 mappingType;
-    UINT8 startSymbolAndLen; /**< startSymbolAndLength, 0..127 */
+    UINT8 startSymbolAndLen; /**< startSymbolAndLength, 0..127; both in one number, the SLIV of TS 38.214 */
     UINT8 bitMask;           /**< bits RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE */
     UINT8 k2;                /**< k2, 0..32, in slots */
 } RrcPuschTimeDomainResourceAlloc_t;
@@ -242,13 +242,13 @@ typedef struct rrcPuschTimeDomainResourceAllocList_s
 typedef struct rrcBetaOffsets_s
 {
     UINT8 bitMask;                /**< bits RRC_BETA_OFFSETS_..._PRESENCE */
-    UINT8 betaOffsetAckIdx1;      /**< betaOffsetACK-Index1, 0..31 */
-    UINT8 betaOffsetAckIdx2;      /**< betaOffsetACK-Index2, 0..31 */
-    UINT8 betaOffsetAckIdx3;      /**< betaOffsetACK-Index3, 0..31 */
-    UINT8 betaOffsetCSIPart1Idx1; /**< betaOffsetCSI-Part1-Index1, 0..31 */
-    UINT8 betaOffsetCSIPart1Idx2; /**< betaOffsetCSI-Part1-Index2, 0..31 */
-    UINT8 betaOffsetCSIPart2Idx1; /**< betaOffsetCSI-Part2-Index1, 0..31 */
-    UINT8 betaOffsetCSIPart2Idx2; /**< betaOffsetCSI-Part2-Index2, 0..31 */
+    UINT8 betaOffsetAckIdx1;      /**< betaOffsetACK-Index1, 0..31; an index of TS 38.213 9.3 */
+    UINT8 betaOffsetAckIdx2;      /**< betaOffsetACK-Index2, 0..31; an index of TS 38.213 9.3 */
+    UINT8 betaOffsetAckIdx3;      /**< betaOffsetACK-Index3, 0..31; an index of TS 38.213 9.3 */
+    UINT8 betaOffsetCSIPart1Idx1; /**< betaOffsetCSI-Part1-Index1, 0..31; an index of TS 38.213 9.3 */
+    UINT8 betaOffsetCSIPart1Idx2; /**< betaOffsetCSI-Part1-Index2, 0..31; an index of TS 38.213 9.3 */
+    UINT8 betaOffsetCSIPart2Idx1; /**< betaOffsetCSI-Part2-Index1, 0..31; an index of TS 38.213 9.3 */
+    UINT8 betaOffsetCSIPart2Idx2; /**< betaOffsetCSI-Part2-Index2, 0..31; an index of TS 38.213 9.3 */
 } RrcBetaOffsets_t;
 
 /** RrcUciOnPusch_t.bitMask: presence and betaOffset are given */

@@ -251,7 +251,10 @@ typedef struct rrcServingCellCfgCommon_s
 /** SSB-MTC */
 typedef struct rrcSSBMTC_s
 {
-    /** alternative of periodicityAndOffset: 1 sf5, 2 sf10, 3 sf20, 4 sf40, 5 sf80, 6 sf160 */
+    /**
+     * alternative of periodicityAndOffset, T_SSB_MTC_periodicityAndOffset_...: 1 sf5, 2 sf10, 3 sf20, 4 sf40, 5 sf80,
+     * 6 sf160
+     */
     UINT8 period;
     UINT8 offset;   /**< value by period, in subframes; below the period */
     UINT8 duration; /**< duration, SSB_MTC_duration_...: 0 sf1, 1 sf2, 2 sf3, 3 sf4, 4 sf5 */

@@ -141,7 +141,7 @@ typedef struct rrcSlotFormatCombPerCell_s
     UINT8 bitMask; /**< bits RRC_SLOT_FORMAT_COMB_PER_CELL_..._PRESENCE */
     /** subcarrierSpacing2, SubcarrierSpacing_...: 0 kHz15, 1 kHz30, 2 kHz60, 3 kHz120, 4 kHz240 */
     UINT8 subCarrierSpacing2;
-    UINT8 positionInDci; /**< positionInDCI, 0..127 */
+    UINT8 positionInDci; /**< positionInDCI, 0..127, in bits */
 } RrcSlotFormatCombPerCell_t;
 
 /** SlotFormatIndicator. A list is sent when its count is not 0. */

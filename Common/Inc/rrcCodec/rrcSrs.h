@@ -139,7 +139,7 @@ union transmissionComb_u
 /** SRS-Resource.resourceMapping */
 struct resourceMapping_s
 {
-    UINT8 startPos;    /**< startPosition, 0..5 */
+    UINT8 startPos;    /**< startPosition, 0..5, in symbols; 0 is the last one of the slot */
     UINT8 nfofSymbols; /**< nrofSymbols, SRS_Resource_resourceMapping_nrofSymbols_...: 0 n1, 1 n2, 2 n4 */
     /** repetitionFactor, SRS_Resource_resourceMapping_repetitionFactor_...: 0 n1, 1 n2, 2 n4 */
     UINT8 repetitionFactor;
@@ -170,8 +170,8 @@ struct srsAperiodic_s
 struct srsSemiPersistent_s
 {
     /**
-     * alternative of periodicityAndOffset-sp: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20, 9 sl32,
-     * 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
+     * alternative of periodicityAndOffset-sp, T_SRS_PeriodicityAndOffset_...: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8,
+     * 6 sl10, 7 sl16, 8 sl20, 9 sl32, 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
      */
     UINT8 period;
     UINT16 offset; /**< value by period, in slots; below the period, sl1 has none */
@@ -181,8 +181,8 @@ struct srsSemiPersistent_s
 struct srsPeriodic_s
 {
     /**
-     * alternative of periodicityAndOffset-p: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10, 7 sl16, 8 sl20, 9 sl32,
-     * 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
+     * alternative of periodicityAndOffset-p, T_SRS_PeriodicityAndOffset_...: 1 sl1, 2 sl2, 3 sl4, 4 sl5, 5 sl8, 6 sl10,
+     * 7 sl16, 8 sl20, 9 sl32, 10 sl40, 11 sl64, 12 sl80, 13 sl160, 14 sl320, 15 sl640, 16 sl1280, 17 sl2560
      */
     UINT8 period;
     UINT16 offset; /**< value by period, in slots; below the period, sl1 has none */
@@ -244,7 +244,7 @@ typedef struct rrcSrsResource_s
     union transmissionComb_u transmissionComb; /**< transmissionComb */
     struct resourceMapping_s resourceMapping;  /**< resourceMapping */
     UINT8 freqDomainPostion;                   /**< freqDomainPosition, 0..67 */
-    UINT16 freqDomainShift;                    /**< freqDomainShift, 0..268 */
+    UINT16 freqDomainShift;                    /**< freqDomainShift, 0..268, in PRBs */
     struct freqHopping_s freqHopping;          /**< freqHopping */
     /** groupOrSequenceHopping, SRS_Resource_groupOrSequenceHopping_...: 0 neither, 1 groupHopping, 2 sequenceHopping */
     UINT8 groupOrSeqHopping;
