@@ -4,21 +4,6 @@
 
 namespace tool
 {
-namespace
-{
-
-std::string shown(Session& session, Encoding&& state, StateForm form)
-{
-    if (const auto* const octets = std::get_if<OctetsForm>(&form))
-    {
-        return octetsIn(*octets, state, "state");
-    }
-    const Given given{"state", 0, {Form::Binary, std::move(state), {}, {}}};
-    return textIn(std::get<DecodeForm>(form), Message(*session.common().type, given), given);
-}
-
-} // namespace
-
 void apply(Session& session, const std::string& prev, const Operands& deltas, StateForm form)
 {
     if (form == StateForm(OctetsForm::Binary))
@@ -48,7 +33,7 @@ void apply(Session& session, const std::string& prev, const Operands& deltas, St
     }
     else if (held)
     {
-        session.put(shown(session, std::move(*held), form));
+        session.put(stateIn(form, *session.common().type, std::move(*held), "state"));
     }
 }
 

@@ -23,7 +23,7 @@ _cellgroupcfg()
         -o | --output | --previous | --rach | --capability | --config) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='decode encode diff delta apply check find pcap rules explain --help --version'
+                words='decode encode diff delta apply compose example check find pcap rules explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
                     decode) words="$input $messages $texts" ;;
@@ -31,6 +31,9 @@ _cellgroupcfg()
                     diff) words="$input --type --json --state" ;;
                     delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
                     apply) words="$input $messages --state $texts $octets" ;;
+                    compose) words="--color --help --verbose $texts $octets" ;;
+                    example) words="--all --color --help --output --verbose"
+                        [[ $current == -* ]] || words=$(cellgroupcfg example 2>/dev/null | cut -d' ' -f1) ;;
                     check) words="$input $messages --format --severity --fail-on --only --disable --config --no-config --chain
                         $known" ;;
                     find) words="$input $messages --min-octets --decode --json" ;;
@@ -41,7 +44,7 @@ _cellgroupcfg()
                         [[ $current == -* ]] ||
                             words=$(cellgroupcfg explain 2>/dev/null; cellgroupcfg rules 2>/dev/null | cut -d ' ' -f 1) ;;
                 esac
-                if [[ $current != -* && ${COMP_WORDS[1]} != explain && ${COMP_WORDS[1]} != rules ]]; then
+                if [[ $current != -* && ! ${COMP_WORDS[1]} =~ ^(explain|rules|example)$ ]]; then
                     compopt -o default
                     COMPREPLY=()
                     return

@@ -7,7 +7,6 @@
 #include "ruleInputs.h"
 
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace tool
@@ -36,8 +35,15 @@ struct DeltaOptions
 void delta(Session& session, const std::string& prev, const std::string& next, const DeltaOptions& options);
 
 // What is held after the deltas, in one of both forms.
-using StateForm = std::variant<OctetsForm, DecodeForm>;
 void apply(Session& session, const std::string& prev, const Operands& deltas, StateForm form);
+
+// A record in JSON as its message.
+void compose(Session& session, const std::string& operand, StateForm form);
+
+// A record to begin with as JSON; an empty name lists them.
+void example(Session& session, const std::string& name);
+// One with every member of a field, each with what may stand there; an empty path stands for all.
+void scaffold(Session& session, const std::string& path);
 
 struct CheckOptions
 {
@@ -66,7 +72,7 @@ void pcap(Session& session, const Operands& operands, Nesting nesting);
 // The table of rules, of which an id begins with one of the prefixes; without prefixes all.
 void rules(Session& session, const Operands& prefixes, bool json);
 
-// A rule's id, a type, a path or a member's name. An empty name lists the named types.
+// A rule's id, a type, a path, a member's name or a field of the record. An empty name lists the named types.
 void explain(Session& session, const std::string& name, bool tree);
 
 } // namespace tool

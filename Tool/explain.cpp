@@ -1,5 +1,6 @@
 // explain: what the schema says of a place, from the descriptors alone; what a rule says, from the table of rules.
 #include "commands.h"
+#include "explainRecord.h"
 #include "messageTypes.h"
 #include "nearest.h"
 #include "rows.h"
@@ -298,28 +299,33 @@ void listTypes(Session& session)
             known.insert(known.end(), type.names, type.names + type.memberCount);
         }
     }
+    for (unsigned i = 0; i < rrcRecordTypeCount; ++i)
+    {
+        const RrcRecordType& type = *rrcRecordTypes[i];
+        for (unsigned j = 0; j < type.fieldCount; ++j)
+        {
+            known.emplace_back(type.fields[j].name);
+        }
+    }
     const auto close = text::nearest(name, known);
-    throw Failure(Exit::Usage, "there is no rule, type or member '" + name + "'" +
+    throw Failure(Exit::Usage, "there is no rule, type, member or field '" + name + "'" +
                                    (close ? "; did you mean " + std::string(*close) + "?" : ""));
 }
 
 // A single name that is no type may be a member's.
-void explainMember(Session& session, const std::string& name, bool tree)
+bool explainMember(Session& session, const std::string& name, bool tree)
 {
     const std::vector<SchemaPlace> places = placesNamed(*typeNamed("CellGroupConfig").type, name);
-    if (places.empty())
-    {
-        nothingNamed(name);
-    }
     if (places.size() == 1)
     {
         Explanation(session, findPlaces(places[0].path)).write(tree);
-        return;
+        return true;
     }
     for (const SchemaPlace& place : places)
     {
         session.put(place.path + "\n");
     }
+    return !places.empty();
 }
 
 } // namespace
@@ -341,12 +347,22 @@ void explain(Session& session, const std::string& name, bool tree)
         session.put(idText(name, words, session.color()));
         return;
     }
+    const std::string begin = name.substr(0, name.find_first_of(".["));
+    const bool isWord = begin == name;
     try
     {
-        if (findType(name) == nullptr && name.find_first_of(".[") == std::string::npos)
+        if (findType(begin) != nullptr)
         {
-            explainMember(session, name, tree);
+            Explanation(session, findPlaces(name)).write(tree);
             return;
+        }
+        if ((isWord && explainMember(session, name, tree)) || explainField(session, name))
+        {
+            return;
+        }
+        if (isWord)
+        {
+            nothingNamed(name);
         }
         Explanation(session, findPlaces(name)).write(tree);
     }

@@ -77,6 +77,8 @@ public:
         diff();
         delta();
         apply();
+        compose();
+        example();
         check();
         find();
         pcap();
@@ -423,11 +425,50 @@ private:
         {
             throw Failure(Exit::Usage, "--state and " + form_ + " exclude each other");
         }
-        if (!state_ && (isOctets || form_.empty()))
+        return state_ && form_.empty() ? tool::StateForm(tool::DecodeForm::Tree) : composeForm();
+    }
+
+    void compose()
+    {
+        CLI::App& app = command("compose", "Make the message of a record in JSON.",
+                                "  cellgroupcfg compose record.json\n"
+                                "  cellgroupcfg example typical-call | cellgroupcfg compose --tree\n"
+                                "  cellgroupcfg compose --binary -o message.bin record.json\n",
+                                [this](Session& session)
+                                {
+                                    session.outputTo(output_);
+                                    tool::compose(session, path_.empty() ? "-" : path_, composeForm());
+                                });
+        app.add_option("RECORD", path_, "A record: a file, '-' or nothing for standard input")->option_text(" ");
+        output(app);
+        octetsForms(app);
+        decodeForms(app);
+    }
+
+    tool::StateForm composeForm() const
+    {
+        if (hex_ || binary_ || cArray_ || base64_ || form_.empty())
         {
             return octetsForm();
         }
-        return form_.empty() ? tool::DecodeForm::Tree : decodeForm();
+        return decodeForm();
+    }
+
+    void example()
+    {
+        CLI::App& app = command("example", "Show records in JSON to begin with.",
+                                "  cellgroupcfg example                        all there are\n"
+                                "  cellgroupcfg example typical-call > record.json\n"
+                                "  cellgroupcfg example --all macCellGrpCfg.drxCfg\n",
+                                [this](Session& session)
+                                {
+                                    session.outputTo(output_);
+                                    all_ ? tool::scaffold(session, path_) : tool::example(session, path_);
+                                });
+        app.add_option("NAME", path_, "The example; with --all a field of the record, all of it if none is named")
+            ->option_text(" ");
+        app.add_flag("--all", all_, "A record with every member of a field, each with what may stand there");
+        output(app);
     }
 
     void check()
@@ -640,6 +681,7 @@ private:
     bool twoSteps_ = false;
     bool sync_ = false;
     bool switch_ = false;
+    bool all_ = false;
     std::vector<std::string> recreate_;
 };
 

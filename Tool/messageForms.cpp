@@ -2,6 +2,8 @@
 
 #include "trace.h"
 
+#include <utility>
+
 namespace tool
 {
 
@@ -48,6 +50,16 @@ std::string octetsIn(OctetsForm form, Octets octets, const std::string& name)
     default:
         return toHex(octets) + "\n";
     }
+}
+
+std::string stateIn(StateForm form, const RtxPdu& pdu, std::vector<std::uint8_t> octets, const std::string& name)
+{
+    if (const auto* const inOctets = std::get_if<OctetsForm>(&form))
+    {
+        return octetsIn(*inOctets, octets, name);
+    }
+    const Given given{name, 0, {Form::Binary, std::move(octets), {}, {}}};
+    return textIn(std::get<DecodeForm>(form), Message(pdu, given), given);
 }
 
 } // namespace tool

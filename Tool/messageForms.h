@@ -5,6 +5,8 @@
 #include "octets.h"
 
 #include <string>
+#include <variant>
+#include <vector>
 
 namespace tool
 {
@@ -31,5 +33,9 @@ enum class OctetsForm
 };
 // `name` is that of a C array.
 std::string octetsIn(OctetsForm form, Octets octets, const std::string& name);
+
+// A message that was made here, in one of both.
+using StateForm = std::variant<OctetsForm, DecodeForm>;
+std::string stateIn(StateForm form, const RtxPdu& pdu, std::vector<std::uint8_t> octets, const std::string& name);
 
 } // namespace tool

@@ -389,7 +389,7 @@ void takeRach(KnownValues& known, Session& session, const Setting& setting)
 void takeCapabilities(KnownValues& known, Session& session, const Setting& setting)
 {
     constexpr std::size_t most = std::size_t{1} << 20;
-    const std::string text = session.file(setting.value, most);
+    const std::string text = session.file(setting.value, most).raw;
     RrcRuleCapabilities& all = known.capabilities.emplace();
     try
     {

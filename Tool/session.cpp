@@ -291,19 +291,21 @@ Given Session::only(const std::string& operand, std::optional<Form> as)
     return given(from, 0, from.raw, as);
 }
 
-std::string Session::file(const std::string& name, std::size_t most)
+Session::Source Session::file(const std::string& operand, std::size_t most)
 {
-    const File file(std::fopen(name.c_str(), "rb"));
-    if (file == nullptr)
+    const bool isInput = operand == "-";
+    const File opened(isInput ? nullptr : std::fopen(operand.c_str(), "rb"));
+    if (!isInput && opened == nullptr)
     {
-        throw Failure(Exit::Usage, name + ": " + reason());
+        throw Failure(Exit::Usage, operand + ": " + reason());
     }
-    std::string raw = readAll(file.get(), name, most);
-    if (raw.size() > most)
+    const std::string name = isInput ? "standard input" : operand;
+    Source from{name, readAll(isInput ? stdin : opened.get(), name, most)};
+    if (from.raw.size() > most)
     {
         throw Failure(Exit::Usage, name + ": more than " + counted(most, "octet"));
     }
-    return raw;
+    return from;
 }
 
 void Session::progress(std::uint64_t done, std::uint64_t all)

@@ -147,8 +147,8 @@ public:
     {
         return only(operand, common_.as);
     }
-    // A file's content. Throws Failure, also of one that is longer than `most`.
-    static std::string file(const std::string& name, std::size_t most);
+    // A file's content, or with "-" that of standard input. Throws Failure, also where it is longer than `most`.
+    static Source file(const std::string& operand, std::size_t most);
 
     // Tells on a terminal how far a long job is, from its second second on.
     void progress(std::uint64_t done, std::uint64_t all);

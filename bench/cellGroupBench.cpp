@@ -30,6 +30,7 @@
 #include "rrcRules.h"
 #endif
 extern "C" [[gnu::weak]] size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets);
+extern "C" [[gnu::weak]] void rrcRecordToJson(const RrcCellGroupCfg_t* record, RtxPrintSink sink, void* arg);
 
 namespace
 {
@@ -124,6 +125,15 @@ public:
     void entry()
     {
         compose(*record_, buffer_.data());
+    }
+
+    std::size_t recordToJson()
+    {
+        std::size_t octets = 0;
+        rrcRecordToJson(
+            record_.get(), [](void* to, const char* text) { *static_cast<std::size_t*>(to) += std::strlen(text); },
+            &octets);
+        return octets;
     }
 
     void decode()
@@ -295,6 +305,11 @@ void addTypicalCall(Message& m)
 {
     static const bench::Walk walk(std::size_t{6} << 20);
     static bench::ForeignHeap foreign;
+    if (rrcRecordToJson != nullptr)
+    {
+        add("typical_call/record_to_json",
+            [&m](auto& state) { runWarm(state, [&m] { benchmark::DoNotOptimize(m.recordToJson()); }); });
+    }
     addCold("typical_call/entry_after_6MB", walk, [&m] { m.entry(); });
     addCold("typical_call/decode_after_6MB", walk, [&m] { m.decode(); });
     addLine("line_6MB", walk);

@@ -18,7 +18,7 @@ inline void addBearer(RrcCellGroupCfg_t& record)
 inline void changeReport(RrcCellGroupCfg_t& record)
 {
     RrcCsiReportCfg_t& report = record.spCellCfg.spCellDedicated.csiMeasCfg.csiReportCfg[0];
-    report.ReportCfgType_n.periodic.reportSlotCfg.periodicity = 9; // slots160
+    report.ReportCfgType_n.periodic.reportSlotCfg.periodicity = T_CSI_ReportPeriodicityAndOffset_slots160;
 }
 
 // The last secondary cell goes.

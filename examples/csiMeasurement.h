@@ -12,9 +12,9 @@ inline void csiRsOfFourPorts(RrcNzpCsiRsResource_t& resource)
     RrcCsiRsResourceMapping_t& mapping = resource.resourceMapping;
     mapping.presenceFreqDomain = RRC_CSI_RS_RESOURCE_MAPPING_ROW4_PRESENCE;
     mapping.freqDomainAlloc.row4 = 1;
-    mapping.nrofPorts = 2; // p4
+    mapping.nrofPorts = CSI_RS_ResourceMapping_nrofPorts_p4;
     mapping.firstOFDMSymbolInTimeDomain = 13;
-    mapping.cdmType = 1; // fd-CDM2
+    mapping.cdmType = CSI_RS_ResourceMapping_cdm_Type_fd_CDM2;
     mapping.presenceDensity = RRC_CSI_RS_RESOURCE_MAPPING_DENSITY_ONE_PRESENCE;
 }
 
@@ -23,9 +23,9 @@ inline void csiRsOfOnePort(RrcNzpCsiRsResource_t& resource)
     RrcCsiRsResourceMapping_t& mapping = resource.resourceMapping;
     mapping.presenceFreqDomain = RRC_CSI_RS_RESOURCE_MAPPING_ROW2_PRESENCE;
     mapping.freqDomainAlloc.row2 = 1;
-    mapping.nrofPorts = 0; // p1
+    mapping.nrofPorts = CSI_RS_ResourceMapping_nrofPorts_p1;
     mapping.firstOFDMSymbolInTimeDomain = 13;
-    mapping.cdmType = 0; // noCDM
+    mapping.cdmType = CSI_RS_ResourceMapping_cdm_Type_noCDM;
     mapping.presenceDensity = RRC_CSI_RS_RESOURCE_MAPPING_DENSITY_ONE_PRESENCE;
 }
 
@@ -34,16 +34,17 @@ inline void trackingCsiRs(RrcNzpCsiRsResource_t& resource, UINT8 symbol)
     RrcCsiRsResourceMapping_t& mapping = resource.resourceMapping;
     mapping.presenceFreqDomain = RRC_CSI_RS_RESOURCE_MAPPING_ROW1_PRESENCE;
     mapping.freqDomainAlloc.row1 = 1;
-    mapping.nrofPorts = 0; // p1
+    mapping.nrofPorts = CSI_RS_ResourceMapping_nrofPorts_p1;
     mapping.firstOFDMSymbolInTimeDomain = symbol;
-    mapping.cdmType = 0; // noCDM
+    mapping.cdmType = CSI_RS_ResourceMapping_cdm_Type_noCDM;
     mapping.presenceDensity = RRC_CSI_RS_RESOURCE_MAPPING_DENSITY_THREE_PRESENCE;
 }
 
 inline void everySlots80(RrcNzpCsiRsResource_t& resource, UINT16 offset)
 {
     resource.bitMask |= RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT;
-    resource.periodicityAndOffset.slotsPeriod = 10; // slots80
+    rrcInit(&resource.periodicityAndOffset);
+    resource.periodicityAndOffset.slotsPeriod = T_CSI_ResourcePeriodicityAndOffset_slots80;
     resource.periodicityAndOffset.offset = offset;
 }
 
@@ -60,7 +61,7 @@ inline void csiRsResources(RrcCsiMeasCfg_t& csi)
         resource.resourceMapping.freqBand.nrofRBs = 276;
         resource.powerControlOffset = 0;
         resource.bitMask = RRC_NZP_CSI_RS_RESOURCE_POWER_CONTROL_OFFSET_SS_PRESENT;
-        resource.powerControlOffsetSS = 1; // db0
+        resource.powerControlOffsetSS = NZP_CSI_RS_Resource_powerControlOffsetSS_db0;
         resource.scramblingId = 42;
     }
     csiRsOfFourPorts(csi.NzpCsiRsResourceAddMod[0]);
@@ -92,7 +93,7 @@ inline void csiRsResources(RrcCsiMeasCfg_t& csi)
         csi.NzpCsiRsResourceSetAddMod[1].numNzpCsiRsResources[i] = static_cast<UINT8>(firstTrackingResource + i);
     }
     csi.NzpCsiRsResourceSetAddMod[1].bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE;
-    csi.NzpCsiRsResourceSetAddMod[1].trsInfo = 0; // true
+    csi.NzpCsiRsResourceSetAddMod[1].trsInfo = NZP_CSI_RS_ResourceSet_trs_Info_true;
     csi.NzpCsiRsResourceSetAddMod[2].numNzpCsiRsResources[0] = requestedResource;
     csi.NzpCsiRsResourceSetAddMod[2].bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE;
     csi.NzpCsiRsResourceSetAddMod[2].aperidicTriggeringOffset = 0;
@@ -108,10 +109,14 @@ inline void interferenceResource(RrcCsiMeasCfg_t& csi)
     resource.bitMask = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE | RRC_CSI_IM_RESOURCE_FREQ_BAND_PRESENCE |
                        RRC_CSI_IM_RESOURCE_PERIODIC_OFFSET_PRESENCE;
     resource.presence = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN1_PRESENCE;
-    resource.csiImResourceElementPattern.pattern1.subCarrierLocationP1 = 2; // s8
+    rrcInit(&resource.csiImResourceElementPattern.pattern1);
+    resource.csiImResourceElementPattern.pattern1.subCarrierLocationP1 =
+        CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1_subcarrierLocation_p1_s8;
     resource.csiImResourceElementPattern.pattern1.symbolLocationP1 = 13;
+    rrcInit(&resource.freqBand);
     resource.freqBand.nrofRBs = 276;
-    resource.periodicityAndOffset.slotsPeriod = 10; // slots80
+    rrcInit(&resource.periodicityAndOffset);
+    resource.periodicityAndOffset.slotsPeriod = T_CSI_ResourcePeriodicityAndOffset_slots80;
     resource.periodicityAndOffset.offset = 1;
 
     csi.numCsiImResourceSetAddMod = 1;
@@ -122,8 +127,8 @@ inline void interferenceResource(RrcCsiMeasCfg_t& csi)
     set.CsiImResourceId[0] = 0;
 }
 
-constexpr UINT8 aperiodic = 0; // CSI-ResourceConfig.resourceType
-constexpr UINT8 periodic = 2;
+constexpr UINT8 aperiodic = CSI_ResourceConfig_resourceType_aperiodic;
+constexpr UINT8 periodic = CSI_ResourceConfig_resourceType_periodic;
 
 inline RrcCsiResourceCfg_t& addResourceCfg(RrcCsiMeasCfg_t& csi, UINT8 type)
 {
@@ -139,6 +144,7 @@ inline void addChannelCfg(RrcCsiMeasCfg_t& csi, UINT8 type, UINT8 set)
 {
     RrcCsiResourceCfg_t& cfg = addResourceCfg(csi, type);
     cfg.presence = RRC_CSI_RESOURCE_CFG_NZP_CSI_RS_SSB_PRESENCE;
+    rrcInit(&cfg.csiRsResourceSetList.nzpCsiRsResourceSetList);
     cfg.csiRsResourceSetList.nzpCsiRsResourceSetList.numNzpCsiRsResourceSet = 1;
     cfg.csiRsResourceSetList.nzpCsiRsResourceSetList.nzpCsiRsResourceSetId[0] = set;
 }
@@ -147,6 +153,7 @@ inline void addInterferenceCfg(RrcCsiMeasCfg_t& csi, UINT8 type, UINT8 set)
 {
     RrcCsiResourceCfg_t& cfg = addResourceCfg(csi, type);
     cfg.presence = RRC_CSI_RESOURCE_CFG_CSI_IM_RESOUECE_SET_LIST_PRESENCE;
+    rrcInit(&cfg.csiRsResourceSetList.csiImResourceSetList);
     cfg.csiRsResourceSetList.csiImResourceSetList.numCsiImResourceSet = 1;
     cfg.csiRsResourceSetList.csiImResourceSetList.csiImResourceSetId[0] = set;
 }
@@ -157,10 +164,13 @@ inline void singlePanelCodebook(RrcCodebookCfg_t& codebook)
     rrcInit(&codebook);
     codebook.Presence = RRC_CODE_BOOK_TYPE1_PRESENCE;
     CodeBookType1_t& type1 = codebook.CodeBookCfgType_u.codeBookType1;
+    rrcInit(&type1);
     type1.codebookType1_Sub.Presence = RRC_CODE_BOOK_TYPE_SINGLE_PANEL;
     CodeBookTypeSinglePanel_t& panel = type1.codebookType1_Sub.CodeBookTypePanel_u.singlePanel;
+    rrcInit(&panel);
     panel.SinglePanel_nrOfAntennaPorts.Presence = RRC_NROF_ANTENNA_PORTS_MORE_THANTWO_PRESENCE;
     struct nrOfAntennaPorts_moreThanTwo& ports = panel.SinglePanel_nrOfAntennaPorts.NrOfAntennaPorts_n.moreThanTwo;
+    rrcInit(&ports);
     ports.bitMask = RRC_MORE_THAN_TWO_N1_N2_PRESENCE;
     ports.N1_N2_Presence = RRC_TWO_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
     ports.MoreThanTwo_n1_n2_u.two_one = 0xFF;
@@ -175,10 +185,12 @@ inline RrcCsiReportCfg_t& addReport(RrcCsiMeasCfg_t& csi, UINT8 channelCfg)
     report.csiReportCfgId = csi.numCsiReportCfgAddMod++;
     report.resourceCfgIdForChMeas = channelCfg;
     report.bitMask = RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE;
+    rrcInit(&report.groupBasedBeamReport);
     report.groupBasedBeamReport.Presence = RRC_BASED_BEAM_REPORT_DISABLED;
-    report.subBandSize = 1;                     // value2
-    report.timeRestrictForChMeas = 1;           // notConfigured
-    report.timeRestrictForInterferenceMeas = 1; // notConfigured
+    rrcInit(&report.groupBasedBeamReport.BeamReporting_n.Report_Disabled);
+    report.subBandSize = CSI_ReportConfig_subbandSize_value2;
+    report.timeRestrictForChMeas = CSI_ReportConfig_timeRestrictionForChannelMeasurements_notConfigured;
+    report.timeRestrictForInterferenceMeas = CSI_ReportConfig_timeRestrictionForInterferenceMeasurements_notConfigured;
     return report;
 }
 
@@ -190,14 +202,16 @@ inline void regularReport(RrcCsiReportCfg_t& report)
                       RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE;
     report.CsiImresourceCfgIdForInterference = 1;
     report.rptQuBitMask = RRC_CSI_REPORT_QUANTITY_CRI_RI_PMI_CQI_PRESENCE;
+    rrcInit(&report.reportFreqCfg);
     report.reportFreqCfg.bitMask =
         RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE | RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE;
-    report.reportFreqCfg.CqiFormatInd = 0; // widebandCQI
-    report.reportFreqCfg.PmiFormatInd = 0; // widebandPMI
+    report.reportFreqCfg.CqiFormatInd = CSI_ReportConfig_reportFreqConfiguration_cqi_FormatIndicator_widebandCQI;
+    report.reportFreqCfg.PmiFormatInd = CSI_ReportConfig_reportFreqConfiguration_pmi_FormatIndicator_widebandPMI;
     singlePanelCodebook(report.codeBookCfg);
-    report.cqi_Table = 1; // table2, for 256QAM
+    report.cqi_Table = CSI_ReportConfig_cqi_Table_table2; // for 256QAM
     report.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_PERIODIC_PRESENCE;
-    report.ReportCfgType_n.periodic.reportSlotCfg.periodicity = 8; // slots80
+    rrcInit(&report.ReportCfgType_n.periodic);
+    report.ReportCfgType_n.periodic.reportSlotCfg.periodicity = T_CSI_ReportPeriodicityAndOffset_slots80;
     report.ReportCfgType_n.periodic.reportSlotCfg.offset = 9;
     report.ReportCfgType_n.periodic.pucchCsiResourceNum = 1;
     report.ReportCfgType_n.periodic.pucchCsiResource[0] = {workingBwp, csiPucchResource};
@@ -209,6 +223,7 @@ inline void requestedReport(RrcCsiReportCfg_t& report)
 {
     report.rptQuBitMask = RRC_CSI_REPORT_QUANTITY_CRI_RSRP_PRESENCE;
     report.cfgTypeBitMask = RRC_CSI_REPORT_CFG_TYPE_APERIODIC_PRESENCE;
+    rrcInit(&report.ReportCfgType_n.aperiodic);
     report.ReportCfgType_n.aperiodic.reportSlotOffsetNum = 2;
     report.ReportCfgType_n.aperiodic.reportSlotOffset[0] = 3;
     report.ReportCfgType_n.aperiodic.reportSlotOffset[1] = 4;
@@ -238,8 +253,10 @@ inline void csiMeasurement(RrcServingCellCfg_t& cell)
     rrcInit(&state);
     state.numCfgInfo = 1;
     RrcCsiAssociatedReportCfgInfo_t& info = state.info[0];
+    rrcInit(&info);
     info.reportCfgId = 1;
     info.prsence = RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_NZP_CSI_RS_PRESENCE;
+    rrcInit(&info.resourceForChannel.nzpCsiRs);
     info.resourceForChannel.nzpCsiRs.resourceSet = 1;
     info.resourceForChannel.nzpCsiRs.numQciInfo = 1;
     info.resourceForChannel.nzpCsiRs.qciInfo[0] = 2;

@@ -30,16 +30,18 @@ inline void pucchResources(RrcPucchCfg_t& pucch)
         resource.startingPRB = i;
         resource.bitMask =
             RRC_PUCCH_RESOURCE_INTRA_SLOT_FREQ_HOPPING_PRESENCE | RRC_PUCCH_RESOURCE_SECOND_HOPPING_PRB_PRESENCE;
-        resource.intraSlotFreqHopping = 0; // enabled
+        resource.intraSlotFreqHopping = PUCCH_Resource_intraSlotFrequencyHopping_enabled;
         resource.secondHopPRB = static_cast<UINT16>(272 - i);
         if (i < 4)
         {
             resource.presence = RRC_PUCCH_RESOURCE_FORMAT1_PRESENCE;
+            rrcInit(&resource.format.format1);
             resource.format.format1.nrofSymbols = 14;
         }
         else
         {
             resource.presence = RRC_PUCCH_RESOURCE_FORMAT2_PRESENCE;
+            rrcInit(&resource.format.format2);
             resource.format.format2.nrofPRBs = 1;
             resource.format.format2.nrofSymbols = 2;
             resource.format.format2.startingSymbolIdx = 12;
@@ -52,10 +54,11 @@ inline void dedicatedPucch(RrcPucchCfg_t& pucch)
     rrcInit(&pucch);
     pucchResources(pucch);
     pucch.bitMask = RRC_PUCCH_CFG_FORMAT2_PRESENCE | RRC_PUCCH_CFG_POWER_CONTROL_PRESENCE;
+    rrcInit(&pucch.format2);
     pucch.format2.bitMask =
         RRC_PUCCH_FORMAT_CFG_MAX_CODE_RATE_PRESENCE | RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE;
-    pucch.format2.maxCodeRate = 3;            // zeroDot35
-    pucch.format2.sumultaneousHarqAckCsi = 0; // the number of its one value true
+    pucch.format2.maxCodeRate = PUCCH_MaxCodeRate_zeroDot35;
+    pucch.format2.sumultaneousHarqAckCsi = PUCCH_FormatConfig_simultaneousHARQ_ACK_CSI_true;
     pucch.numSchedReqResourceCfgAddMod = 1;
     RrcSchedReqResourceCfg_t& request = pucch.schedReqResource[0];
     rrcInit(&request);
@@ -74,60 +77,75 @@ inline void dedicatedPucch(RrcPucchCfg_t& pucch)
         pucch.dlData2UlACK[i] = static_cast<UINT8>(4 + i);
     }
     RrcPucchPowerControl_t& power = pucch.pucchPowerControl;
+    rrcInit(&power);
     power.bitMask = RRC_PUCCH_POWER_CONTROL_F1_PRESENCE | RRC_PUCCH_POWER_CONTROL_F2_PRESENCE |
                     RRC_PUCCH_POWER_CONTROL_P0_SET_PRESENCE | RRC_PUCCH_POWER_CONTROL_PATH_REFERENCE_RSS;
     power.deltaFPucchF1 = 0;
     power.deltaFPucchF2 = 2;
     power.numP0Set = 1;
+    rrcInit(&power.p0Set[0]);
     power.p0Set[0].p0PucchId = 1;
     power.p0Set[0].poPucchValue = static_cast<UINT8>(-2);
     power.numPathLossRefRs = 1;
+    rrcInit(&power.pathLossRefRs[0]);
     power.pathLossRefRs[0].presence = RRC_PUCCH_PATH_LOSS_REF_RS_SSB_IDX_PRESENCE;
+    power.pathLossRefRs[0].refSignal.ssbIdx = 0;
 }
 
 inline void dedicatedPusch(RrcPuschCfg_t& pusch)
 {
     rrcInit(&pusch);
-    pusch.resourceAlloc = 1; // resourceAllocationType1
+    pusch.resourceAlloc = PUSCH_Config_resourceAllocation_resourceAllocationType1;
     pusch.bitMask = RRC_PUSCH_CFG_DATA_SCRAMBLING_ID_PUSCH_PRESENCE | RRC_PUSCH_CFG_TX_CFG_PRESENCE |
                     RRC_PUSCH_CFG_DMRS_MAPPING_TYPEA_PRESENCE | RRC_PUSCH_CFG_PUSCH_POWER_CONTROLPRESENCE |
                     RRC_PUSCH_CFG_PUSCH_TIMING_DOMAIN_ALLOCATION_LIST_PRESENCE | RRC_PUSCH_CFG_MCS_TABLE_PRESENCE |
                     RRC_PUSCH_CFG_TRANSFORM_PRECODER_PRESENCE | RRC_PUSCH_CFG_CODE_BOOK_SUBSET_PRESENCE |
                     RRC_PUSCH_CFG_MAX_RANK_PRESENCE | RRC_PUSCH_CFG_UCI_ON_PUSCH_PRESENCE;
     pusch.dataScramblingIdPusch = 42;
-    pusch.txCfg = 0; // codebook
+    pusch.txCfg = PUSCH_Config_txConfig_codebook;
+    rrcInit(&pusch.dmrsUlPuschTypeA);
     pusch.dmrsUlPuschTypeA.bitMask =
         RRC_DMRS_UL_CFG_ADDI_POS_PRESENCE | RRC_DMRS_UL_CFG_TRANSFORM_PRECODE_DISABLE_PRESENCE;
-    pusch.dmrsUlPuschTypeA.dmrsAddiPos = 1; // pos1
+    pusch.dmrsUlPuschTypeA.dmrsAddiPos = DMRS_UplinkConfig_dmrs_AdditionalPosition_pos1;
+    rrcInit(&pusch.dmrsUlPuschTypeA.transformPrecodDisable);
     pusch.dmrsUlPuschTypeA.transformPrecodDisable.bitMask = RRC_TRANSFORM_PRECODE_DISABLE_ID0_PRESENCE;
     pusch.dmrsUlPuschTypeA.transformPrecodDisable.scramblingId0 = 42;
     RrcPuschPowerControl_t& power = pusch.puschPowerContol;
+    rrcInit(&power);
     power.bitMask = RRC_PUSCH_POWER_CONTROL_MSG3_ALPHA_PRESENCE;
-    power.msg3Alpha = 7; // alpha1
+    power.msg3Alpha = Alpha_alpha1;
     power.numP0AlphaSets = 1;
+    rrcInit(&power.p0AlphaSets[0]);
     power.p0AlphaSets[0].bitMask = RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE | RRC_P0PUSCH_ALPHA_SET_ALPHA_PRESENCE;
     power.p0AlphaSets[0].p0 = 0;
-    power.p0AlphaSets[0].alpha = 6; // alpha09
+    power.p0AlphaSets[0].alpha = Alpha_alpha09;
     power.numPathLossRefRsAddMod = 1;
+    rrcInit(&power.pathLossRefRs[0]);
     power.pathLossRefRs[0].presence = RRC_PUSCH_PATH_LOSS_REF_RS_SSB_PRESENCE;
-    power.numSriPuschMappingAddMod = 1; // with the numbers 0 of all three
+    power.pathLossRefRs[0].regSig.ssbIdx = 0;
+    power.numSriPuschMappingAddMod = 1;
+    rrcInit(&power.sriPuschMapping[0]); // with the numbers 0 of all three
     RrcPuschTimeDomainResourceAllocList_t& allocations = pusch.puschTimeDomainAllocList;
+    rrcInit(&allocations);
     allocations.numPuschTimeDomainResourceAllocList = 2;
     for (UINT8 i = 0; i < 2; ++i)
     {
+        rrcInit(&allocations.item[i]);
         allocations.item[i].startSymbolAndLen = 27; // 14 symbols from the first one
         allocations.item[i].bitMask = RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE;
         allocations.item[i].k2 = static_cast<UINT8>(3 + i);
     }
-    pusch.mcsTable = 0;          // qam256
-    pusch.transformPrecoder = 1; // disabled
-    pusch.codebookSubSet = 2;    // nonCoherent
+    pusch.mcsTable = PUSCH_Config_mcs_Table_qam256;
+    pusch.transformPrecoder = PUSCH_Config_transformPrecoder_disabled;
+    pusch.codebookSubSet = PUSCH_Config_codebookSubset_nonCoherent;
     pusch.maxRank = 1;
     RrcUciOnPusch_t& uci = pusch.uciOnPusch;
-    uci.scaling = 3; // f1
+    rrcInit(&uci);
+    uci.scaling = UCI_OnPUSCH_scaling_f1;
     uci.bitMask = RRC_UCI_PUSCH_BETA_OFFSETS_PRESENCE;
     uci.presence = RRC_UCI_PUSCH_BETA_OFFSETS_SEMI_STATIC_PRESENCE;
     RrcBetaOffsets_t& beta = uci.betaOffset.semiStatic;
+    rrcInit(&beta);
     beta.bitMask = RRC_BETA_OFFSETS_ACK_IDX1_PRESENCE | RRC_BETA_OFFSETS_CSI_PART1_IDX1_PRESENCE |
                    RRC_BETA_OFFSETS_CSI_PART2_IDX1_PRESENCE;
     beta.betaOffsetAckIdx1 = 9;
@@ -146,20 +164,26 @@ inline void dedicatedSrs(RrcSrsCfg_t& srs)
     set.srsResourceId[0] = 0;
     set.presence = RRC_SRS_RESOURCE_SET_TYPE_PERIODIC_PERSENCE | RRC_SRS_RESOURCE_SET_ALPHA_PERSENCE |
                    RRC_SRS_RESOURCE_SET_P0_PERSENCE | RRC_SRS_PATH_LOSS_REFERENCE_RS_PRESENT;
-    set.usage = 1; // codebook
-    set.Alpha = 7; // alpha1
+    rrcInit(&set.resourceType.periodic);
+    set.usage = SRS_ResourceSet_usage_codebook;
+    set.Alpha = Alpha_alpha1;
     set.p0 = -90;
+    rrcInit(&set.pathLossRefRs);
     set.pathLossRefRs.presence = RRC_SRS_PATH_LOSS_REF_RS_SSB_IDX_PRESENCE;
+    set.pathLossRefRs.u.ssbIdx = 0;
     srs.numSrsResourceAddMod = 1;
     RrcSrsResource_t& resource = srs.srsResource[0];
     rrcInit(&resource);
-    resource.nrofSrsPotrs = 1; // ports2
+    resource.nrofSrsPotrs = SRS_Resource_nrofSRS_Ports_ports2;
     resource.presence = RRC_SRS_RESOURCE_TRANSMISSION_COMB_N2_PRESENCE;
+    resource.transmissionComb.n2.combOffsetN2 = 0;
+    resource.transmissionComb.n2.cyclicShiftN2 = 0;
     resource.resourceMapping.startPos = 0; // the last symbol
     resource.freqHopping.cSrs = 61;
     resource.freqHopping.bHop = 3;
     resource.presence1 = RRC_SRS_RESOURCE_TYPE_PERIODIC_PERSENCE;
-    resource.resourceType.periodic.period = 10; // sl40
+    rrcInit(&resource.resourceType.periodic);
+    resource.resourceType.periodic.period = T_SRS_PeriodicityAndOffset_sl40;
     resource.resourceType.periodic.offset = 9;
     resource.seqId = 42;
 }
@@ -179,6 +203,7 @@ inline void dedicatedUplink(RrcServingCellCfg_t& cell)
     rrcInit(&bwp.bwpCommon);
     wholeCarrier(bwp.bwpCommon.genericParam);
     bwp.bwpCommon.bitMask = RRC_BWP_UL_COMM_PUCCH_PRESENCE;
+    rrcInit(&bwp.bwpCommon.pucchCfgComm);
     bwp.bwpCommon.pucchCfgComm.bitMask =
         RRC_PUCCH_CFG_COMMON_HOPPING_ID_PRESENCE | RRC_PUCCH_CFG_COMMON_P0_NOMINAL_PRESENCE;
     bwp.bwpCommon.pucchCfgComm.hoppingId = 42;

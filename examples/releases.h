@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "NR-RRC-Definitions.h"
 #include "dedicatedUplink.h"
 #include "reconfigurationWithSync.h"
 
@@ -37,6 +38,7 @@ inline void releaseInPdsch(RrcPdschCfg_t& pdsch)
     rrcInit(&pdsch);
     // What a PDSCH-Config cannot do without.
     pdsch.prbBitmask = RRC_PDSCH_CFG_PRB_BUNDLING_STATIC;
+    rrcInit(&pdsch.staticbundingtype);
     release(pdsch.numTciStatesRel, pdsch.tciStateId, 3, 3);
     release(pdsch.numRateMatchPatternRel, pdsch.rateMatchPatternId, 0, 1);
     release(pdsch.numZpCsiRsResouceRel, pdsch.zpCsiRsResourceId, 0, 2);
@@ -66,6 +68,7 @@ inline void releaseInPusch(RrcPuschCfg_t& pusch)
     rrcInit(&pusch);
     pusch.bitMask = RRC_PUSCH_CFG_PUSCH_POWER_CONTROLPRESENCE;
     RrcPuschPowerControl_t& power = pusch.puschPowerContol;
+    rrcInit(&power);
     release(power.numPathLossRefRsRel, power.pathLossRefRsRelId, 1, 2);
     release(power.numSriPuschMappingRel, power.sriPuschMappingId, 1, 2);
 }
@@ -127,6 +130,7 @@ inline void releaseInCell(RrcServingCellCfg_t& cell)
     releaseInPdcch(bwp.bwpDedicated.pdcchCfg);
     releaseInPdsch(bwp.bwpDedicated.pdschCfg);
     RrcRlmCfg_t& monitoring = bwp.bwpDedicated.radioLinkMonitorCfg;
+    rrcInit(&monitoring);
     release(monitoring.numFailDetectResourceRel, monitoring.failDetectResourceId, 1, 2);
     releaseInUplink(cell.ulCfg);
     rrcInit(&cell.pdcchServingCellCfg);
@@ -151,7 +155,9 @@ inline void releases(RrcCellGroupCfg_t& record)
     RrcMacCellGrpCfg_t& mac = record.macCellGrpCfg;
     rrcInit(&mac);
     mac.bitMask = RRC_MAC_CELL_GRP_CFG_SR_PRESENCE | RRC_MAC_CELL_GRP_CFG_TAG_PRESENCE;
+    rrcInit(&mac.srCfg);
     release(mac.srCfg.numSrRel, mac.srCfg.srId, 1, 2);
+    rrcInit(&mac.tagCfg);
     release(mac.tagCfg.numTagRel, mac.tagCfg.tagId, 1, 2);
 
     RrcSpCellCfg_t& spCell = record.spCellCfg;
@@ -159,7 +165,7 @@ inline void releases(RrcCellGroupCfg_t& record)
     spCell.bitMask = RRC_SPCELLCFG_RECFG_PRESENCE | RRC_SPCELLCFG_DEDICFG_PRESENCE;
     rrcInit(&spCell.recfgWithSync);
     spCell.recfgWithSync.newUEId = 0x4601;
-    spCell.recfgWithSync.t304 = 5; // ms1000
+    spCell.recfgWithSync.t304 = ReconfigurationWithSync_t304_ms1000;
     spCell.recfgWithSync.bitMask = RRC_SERVING_CELL_CFG_COMMON_PRESENCE;
     RrcServingCellCfgCommon_t& common = spCell.recfgWithSync.spCellConfigCommon;
     handoverCell(common);

@@ -23,7 +23,7 @@ inline void secondaryCell(RrcScellCfg_t& sCell, UINT8 index)
     rrcInit(&cell);
     cell.tagId = 0;
     cell.bitMask = RRC_SERVING_CELL_SCELL_DEACTIVE_TIMER_PRESENCE;
-    cell.sCellDeativationTimer = 6; // ms320
+    cell.sCellDeativationTimer = ServingCellConfig_sCellDeactivationTimer_ms320;
     dedicatedDownlink(cell);
     csiMeasurement(cell);
 }

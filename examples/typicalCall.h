@@ -13,9 +13,11 @@ inline void radioLinkMonitoring(RrcServingCellCfg_t& cell)
     rrcInit(&cell.initDlBwp);
     cell.initDlBwp.bitMask = RRC_BWP_DL_DEDI_RLM_CFG_PRESENCE;
     RrcRlmCfg_t& monitoring = cell.initDlBwp.radioLinkMonitorCfg;
+    rrcInit(&monitoring);
     monitoring.numFailDetectResourceAddMod = 1;
+    rrcInit(&monitoring.failDetectResource[0]);
     monitoring.failDetectResource[0].radioLinkMonitorRsId = 0;
-    monitoring.failDetectResource[0].purpose = 1; // rlf
+    monitoring.failDetectResource[0].purpose = RadioLinkMonitoringRS_purpose_rlf;
     monitoring.failDetectResource[0].presence = RRC_RADIO_LINK_MONITOR_SSB_PRESENCE;
     monitoring.failDetectResource[0].detectionResource.ssbIdx = 0;
 }

@@ -4,6 +4,7 @@
 
 #include "mistakes.h"
 #include "rtxType.h"
+#include "scalar.h"
 
 #include <cstdint>
 #include <string>
@@ -12,26 +13,6 @@
 
 namespace text
 {
-
-// What a scalar may stand for; the same letters can be several of these in a text without quotes.
-enum Form : unsigned
-{
-    nullForm = 1,
-    booleanForm = 2,
-    integerForm = 4,
-    fractionForm = 8, // a number with a point or an exponent
-    stringForm = 16,
-    nameForm = 32 // a value of an enumeration
-};
-
-struct Scalar
-{
-    unsigned forms;
-    std::string_view text; // of a string without quotes and escapes
-};
-
-// The form of letters that are a number, 0 for others.
-unsigned numberForm(std::string_view text);
 
 // Every event takes the offset in the text of what it is about. After a mistake the content that it concerns is passed
 // over; a reader goes on until Mistakes::full().

@@ -527,7 +527,7 @@ def test_explain(folder):
     expect(["explain", "CellGroupConfig.spCellConfg"], USAGE,
            err="cellgroupcfg: CellGroupConfig has no member 'spCellConfg'; did you mean spCellConfig?\n")
     expect(["explain", "CelGroupConfig"], USAGE,
-           err="cellgroupcfg: there is no rule, type or member 'CelGroupConfig'; did you mean CellGroupConfig?\n")
+           err="cellgroupcfg: there is no rule, type, member or field 'CelGroupConfig'; did you mean CellGroupConfig?\n")
     expect(["explain", "CellGroupConfig.cellGroupId.x"], USAGE, err=re.compile("no SEQUENCE and no CHOICE"))
     expect(["explain", "CellGroupConfig.cellGroupId[0]"], USAGE, err=re.compile("has no elements"))
     for path in ("CellGroupConfig..x", "CellGroupConfig[", "CellGroupConfig[x]", "CellGroupConfig]"):
@@ -576,9 +576,9 @@ def test_rules(folder):
            err="cellgroupcfg: no rule's id begins with 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
     expect(["rules", "--jsn"], USAGE, err=re.compile("no option '--jsn'; did you mean --json\\?"))
     expect(["explain", "bwp-in-carier"], USAGE,
-           err="cellgroupcfg: there is no rule, type or member 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
+           err="cellgroupcfg: there is no rule, type, member or field 'bwp-in-carier'; did you mean bwp-in-carrier?\n")
     expect(["explain", "t30"], USAGE,
-           err="cellgroupcfg: there is no rule, type or member 't30'; did you mean t304?\n")
+           err="cellgroupcfg: there is no rule, type, member or field 't30'; did you mean t304?\n")
     # The other findings of check have ids as well.
     expect(["explain", "per-padding"], DONE, """per-padding
   statement    The bits that fill up the last octet are 0.
@@ -655,6 +655,83 @@ def options_of(text):
     return set(re.findall(r"(?<![\w-])--[a-z][A-Za-z0-9-]*", text))
 
 
+RECORD = """{ // two releases
+  "lchIdRelease": [4, 31]
+}
+"""
+
+
+def test_compose(folder):
+    record = folder / "record.json"
+    record.write_text(RECORD, encoding="utf-8")
+    expect(["compose", str(record)], DONE, RELEASE_HEX + "\n")
+    expect(["compose", "-"], DONE, RELEASE_HEX + "\n", stdin=RECORD)
+    expect(["compose"], DONE, RELEASE_HEX + "\n", stdin=RECORD)
+    expect(["compose", "--tree"], DONE, RELEASE_TREE, stdin=RECORD)
+    expect(["compose", "--json"], DONE, RELEASE_JSON, stdin=RECORD)
+    expect(["compose", "--binary"], DONE, RELEASE, stdin=RECORD)
+    expect(["compose", "--binary", "--tree"], USAGE, err="cellgroupcfg: --binary and --tree exclude each other\n")
+    output = folder / "record.hex"
+    expect(["compose", "-o", str(output), str(record)], DONE)
+    true(output.read_text(encoding="utf-8") == RELEASE_HEX + "\n", "compose writes a file")
+    test = folder / "test.json"
+    test.write_text('{"$include": "record.json", "cellGroupId": 1, "lchIdRelease": [4, 9]}', encoding="utf-8")
+    expect(["compose", str(test)], DONE, OTHER.hex() + "\n")
+    record.write_text('{"lchIdRelease": [4, 999]}', encoding="utf-8")
+    expect(["compose", str(test)], DONE, OTHER.hex() + "\n")
+    expect(["compose", str(record)], MALFORMED,
+           err=f"cellgroupcfg: {record}:1:22: lchIdRelease[1]: 999 is not in 0..255, which the field holds; "
+               "the standard has 1..32\n")
+    test.write_text('{"$include": "record.json", "cellGroupID": 1}', encoding="utf-8")
+    expect(["compose", str(test)], MALFORMED,
+           err=f'cellgroupcfg: {test}:1:29: RrcCellGroupCfg_t has no "cellGroupID"; did you mean "cellGroupId"?\n'
+               f"cellgroupcfg: {record}:1:22: lchIdRelease[1]: 999 is not in 0..255, which the field holds; "
+               "the standard has 1..32\n")
+    expect(["compose"], FINDINGS, err="cellgroupcfg: standard input: CellGroupConfig.rlc-BearerToReleaseList[0]: 33 is not "
+                                      "in 1..32\n", stdin='{"lchIdRelease": [33]}')
+    expect(["compose", "none.json"], USAGE, err="cellgroupcfg: none.json: No such file or directory\n")
+
+
+def test_example(folder):
+    expect(["example"], DONE, re.compile("^one-bearer +a bearer.*\n(.*\n)+releases "))
+    call = run("example", "typical-call")[1]
+    true(json.loads(call)["phyCellGrpCfg"]["pdschHarqAckCodeBook"] == "dynamic", "an example is JSON")
+    octets = "".join((PROJECT / "docs/guide/call.hex").read_text(encoding="utf-8").split())
+    expect(["compose"], DONE, octets + "\n", stdin=call)
+    expect(["example", "typical-cal"], USAGE,
+           err="cellgroupcfg: there is no example 'typical-cal'; did you mean typical-call?\n")
+    expect(["example", "--all", "macCellGrpCfg.tagCfg"], DONE, """{
+  "macCellGrpCfg": {
+    "tagCfg": {
+      "tag": [
+        {
+          "tagId": 0, // 0..3
+          "taTimer": "ms500" // ms500, ms750, ms1280, ms1920, ms2560, ms5120, ms10240, infinity
+        }
+      ], // at most 4 entries
+      "tagId": [0] // at most 4 entries: 0..3
+    }
+  }
+}
+""")
+    for field in ("rlcBearerCfg", "macCellGrpCfg", "phyCellGrpCfg", "spCellCfg.recfgWithSync", "sCellIdx"):
+        scaffold = run("example", "--all", field)[1]
+        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=scaffold)
+    # What cannot be composed is read all the same.
+    scaffold = run("example", "--all")[1]
+    true(run("compose", stdin=scaffold)[0] in (DONE, FINDINGS), "the scaffold of all is read")
+    expect(["example", "--all", "macCellGrpCfg.tagCf"], USAGE,
+           err="cellgroupcfg: RrcMacCellGrpCfg_t has no field 'tagCf'; did you mean tagCfg?\n")
+    expect(["explain", "macCellGrpCfg.tagCfg.tag[2].taTimer"], DONE, """macCellGrpCfg.tagCfg.tag[].taTimer
+  field        enumeration of RrcTag_t, rrcCodec/rrcMac.h
+  feeds        TAG.timeAlignmentTimer
+  values       0 ms500, 1 ms750, 2 ms1280, 3 ms1920, 4 ms2560, 5 ms5120, 6 ms10240, 7 infinity
+""")
+    expect(["explain", "drxInactivityTimer"], DONE, re.compile("^macCellGrpCfg.drxCfg.drxInactivityTimer\n"))
+    expect(["explain", "RrcSrAddMod_t.srProhibitTimer"], DONE,
+           re.compile("\n  read with    RRC_SR_PROHIBITTIMER_PRESENCE in bitMask\n"))
+
+
 def completed(*words):
     """What the completion of bash offers for the last word."""
     script = f'source "{PROJECT}/Tool/cellgroupcfg.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _cellgroupcfg; ' \
@@ -669,7 +746,7 @@ def test_help(folder):
     text = text.decode()
     true(status == DONE and text.startswith("Examples:\n"), "--help begins with examples")
     commands = re.findall(r"^  ([a-z]+) {5,}", text[text.index("\nCommands:\n"):], re.M)
-    true(len(commands) == 10, f"--help lists the commands: {commands}")
+    true(len(commands) == 12, f"--help lists the commands: {commands}")
     manual = (PROJECT / "docs/cellgroupcfg.1.scd").read_text(encoding="utf-8").replace("\\", "")
     completion = (PROJECT / "Tool/cellgroupcfg.bash").read_text(encoding="utf-8")
     for command in commands:
@@ -695,4 +772,5 @@ def test_help(folder):
 
 
 main(test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta, test_apply,
-     test_diff_state, test_find, test_pcap, test_wireshark, test_explain, test_rules, test_streams, test_help)
+     test_diff_state, test_compose, test_example, test_find, test_pcap, test_wireshark, test_explain, test_rules, test_streams,
+     test_help)

@@ -672,7 +672,11 @@ void measurementRows(Table& table)
                      rrcInit(&r.aperiodicTriggerStateList);
                  })
         .refused(csiMeas, ".semiPersistentOnPUSCH-TriggerStateList: tag 0 is not in 1..2",
-                 [](auto& r) { r.bitMask = RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE; });
+                 [](auto& r)
+                 {
+                     r.bitMask = RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE;
+                     rrcInit(&r.semiPersistentOnPuschTriggerStateList);
+                 });
     table.row("`numCfgInfo` 0", "refused", "give each trigger state at least one report")
         .refused(csiMeas, ".aperiodicTriggerStateList.setup[0].associatedReportConfigInfoList: 0 elements, not 1..16",
                  [](auto& r)

@@ -13,6 +13,22 @@
 
 /*
  * The cell group of one UE (TS 38.331 CellGroupConfig) as one flat record, and the call that encodes it.
+ *
+ * How the comments of all records read. A structure's begins with the element of the standard that it holds, a field's
+ * with the member of that element that it feeds, "itself" being the element. Then come its range, its unit where the
+ * standard's is not plain, and behind ";" whatever else there is to know.
+ *
+ *     drx-InactivityTimer, DRX_Config_drx_InactivityTimer_...: 0 ms0, 1 ms1    the values of an enumeration and their
+ *         numbers; NR-RRC-Definitions.h has the constants DRX_Config_drx_InactivityTimer_ms0 and so on, with "_" for
+ *         each "-" of a value
+ *     alternative of periodicityAndOffset, T_SSB_MTC_periodicityAndOffset_...: 1 sf5, 2 sf10    the number of an
+ *         alternative, with the same kind of constants
+ *     value by period    the value of the alternative that the field period has chosen
+ *     entries used of tag, 0..4    so many entries of the array tag count; where 0 is allowed, 0 leaves the list out
+ *     bits RRC_TAG_..._PRESENCE    a mask; what each bit does stands at the bit. Of several that choose an alternative
+ *         the highest wins, if they do not say otherwise; with none, and no "else", the encoder refuses the choice
+ *
+ * Without the bit that says "is given" a field is not read. Of a BOOL that feeds a BOOLEAN the low 8 bits count.
  */
 
 #ifdef __cplusplus
@@ -49,7 +65,7 @@ typedef struct rrcCellGroupCfg_s
     RrcRlcBearerCfg_t rlcBearerCfg[RRC_MAX_LC_ID]; /**< rlc-BearerToAddModList */
     UINT8 rlcBearerReleaseNum;                     /**< entries used of lchIdRelease, 0..32 */
     UINT8 lchIdRelease[RRC_MAX_LC_ID];             /**< rlc-BearerToReleaseList, each 1..32 */
-    UINT8 bitMask;                                 /**< RRC_CELLGROUPCFG_..._PRESENCE */
+    UINT8 bitMask;                                 /**< bits RRC_CELLGROUPCFG_..._PRESENCE */
     RrcMacCellGrpCfg_t macCellGrpCfg;              /**< mac-CellGroupConfig */
     RrcPhyCellGrpCfg_t phyCellGrpCfg;              /**< physicalCellGroupConfig */
     RrcSpCellCfg_t spCellCfg;                      /**< spCellConfig */
@@ -57,7 +73,11 @@ typedef struct rrcCellGroupCfg_s
     RrcScellCfg_t sCellAddMod[MAX_NROF_SCellS];    /**< sCellToAddModList */
     UINT8 sCellReleaseNum;                         /**< entries used of sCellIdx, 0..3 */
     UINT8 sCellIdx[MAX_NROF_SCellS];               /**< sCellToReleaseList, each 1..31 */
-    BOOL reportUplinkTxDirect; /**< reportUplinkTxDirectCurrent-v1530; its extension group is not sent */
+    /**
+     * reportUplinkTxDirectCurrent-v1530, not sent, CellGroupConfig_reportUplinkTxDirectCurrent_v1530_...: 0 true; no
+     * composer announces its extension group
+     */
+    BOOL reportUplinkTxDirect;
 } RrcCellGroupCfg_t;
 
 /**

@@ -24,9 +24,12 @@ extern "C"
 /** maxNrOfSemiPersistentPUSCH-Triggers */
 #define RRC_MAX_NROF_SEMI_PERSISTENT_PUSCH_TRIGGERS 64
 
-/** RrcCsiAssociatedReportCfgInfo_t.prsence: resourceForChannel holds nzpCsiRs */
+/** RrcCsiAssociatedReportCfgInfo_t.prsence: chooses resourcesForChannel.nzp-CSI-RS, in resourceForChannel.nzpCsiRs */
 #define RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_NZP_CSI_RS_PRESENCE (1 << 0)
-/** RrcCsiAssociatedReportCfgInfo_t.prsence: resourceForChannel holds csiSsbResourceSet, which wins over nzpCsiRs */
+/**
+ * RrcCsiAssociatedReportCfgInfo_t.prsence: chooses resourcesForChannel.csi-SSB-ResourceSet, in
+ * resourceForChannel.csiSsbResourceSet
+ */
 #define RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_CSI_SSB_SET_PRESENCE (1 << 1)
 
 /** CSI-AssociatedReportConfigInfo.resourcesForChannel.nzp-CSI-RS */
@@ -34,13 +37,13 @@ struct nzpCsiRs_s
 {
     UINT8 resourceSet;                                       /**< resourceSet, 1..16 */
     UINT8 numQciInfo;                                        /**< entries used of qciInfo, 0..16; 0: no qcl-info */
-    UINT8 qciInfo[RRC_MAX_NROF_AP_CSI_RS_RESOURCES_PER_SET]; /**< qcl-info, TCI states, each 0..127 */
+    UINT8 qciInfo[RRC_MAX_NROF_AP_CSI_RS_RESOURCES_PER_SET]; /**< qcl-info, each 0..127; TCI states */
 };
 
 /** CSI-AssociatedReportConfigInfo.resourcesForChannel.csi-SSB-ResourceSet */
 struct csiSsbResourceSet_s
 {
-    UINT8 csiImResourceSet; /**< csi-SSB-ResourceSet (not CSI-IM), 1 */
+    UINT8 csiImResourceSet; /**< itself, 1; not CSI-IM, despite the name */
 };
 
 /** CSI-AssociatedReportConfigInfo.resourcesForChannel */
@@ -53,8 +56,8 @@ union resourceForChannel_u
 /** CSI-AssociatedReportConfigInfo */
 typedef struct rrcCsiAssociatedReportCfgInfo_s
 {
-    UINT8 reportCfgId; /**< reportConfigId, 0..47 */
-    UINT8 prsence;     /**< RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_..._PRESENCE: what the next field holds */
+    UINT8 reportCfgId;                             /**< reportConfigId, 0..47 */
+    UINT8 prsence;                                 /**< bits RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_..._PRESENCE */
     union resourceForChannel_u resourceForChannel; /**< resourcesForChannel */
 } RrcCsiAssociatedReportCfgInfo_t;
 
@@ -62,23 +65,22 @@ typedef struct rrcCsiAssociatedReportCfgInfo_s
 typedef struct rrcCsiAperiodicTriggerState_s
 {
     UINT8 numCfgInfo; /**< entries used of info, 1..16 */
-    RrcCsiAssociatedReportCfgInfo_t
-        info[RRC_MAX_NROF_REPORT_CFG_PER_APERIODIC_TRIGGERS]; /**< associatedReportConfigInfoList
-                                                               */
+    /** associatedReportConfigInfoList */
+    RrcCsiAssociatedReportCfgInfo_t info[RRC_MAX_NROF_REPORT_CFG_PER_APERIODIC_TRIGGERS];
 } RrcCsiAperiodicTriggerState_t;
 
 /** CSI-AperiodicTriggerStateList */
 typedef struct rrcCsiAperiodicTriggerStateList_s
 {
     UINT8 numState; /**< entries used of state, 1..128; with 0 the encoder refuses the list */
-    RrcCsiAperiodicTriggerState_t state[RRC_MAX_NROF_CSI_APERIODIC_TRIGGERS]; /**< CSI-AperiodicTriggerState */
+    RrcCsiAperiodicTriggerState_t state[RRC_MAX_NROF_CSI_APERIODIC_TRIGGERS]; /**< itself */
 } RrcCsiAperiodicTriggerStateList_t;
 
 /** CSI-SemiPersistentOnPUSCH-TriggerStateList */
 typedef struct rrcCsiSemiPersistentOnPuschTriggerStateList_s
 {
     UINT8 numTriggeState; /**< entries used of csiReportCfgId, 1..64; with 0 the encoder refuses the list */
-    UINT8 csiReportCfgId[RRC_MAX_NROF_SEMI_PERSISTENT_PUSCH_TRIGGERS]; /**< associatedReportConfigInfo, each 0..47 */
+    UINT8 csiReportCfgId[RRC_MAX_NROF_SEMI_PERSISTENT_PUSCH_TRIGGERS]; /**< [].associatedReportConfigInfo, each 0..47 */
 } RrcCsiSemiPersistentOnPuschTriggerStateList_t;
 
 /** RrcCsiMeasCfg_t.bitMask: reportTriggerSize is given */
@@ -92,14 +94,13 @@ typedef struct rrcCsiSemiPersistentOnPuschTriggerStateList_s
 typedef struct rrcCsiMeasCfg_s
 {
     UINT8 numNzpCsiRsResourceAddMod; /**< entries used of NzpCsiRsResourceAddMod, 0..192 */
-    RrcNzpCsiRsResource_t
-        NzpCsiRsResourceAddMod[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES]; /**< nzp-CSI-RS-ResourceToAddModList
-                                                                    */
-    UINT8 numNzpCsiRsResourceDel;                                  /**< entries used of nzpCsiRsResourceId, 0..192 */
-    UINT8 nzpCsiRsResourceId[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES];   /**< nzp-CSI-RS-ResourceToReleaseList, each 0..191 */
+    /** nzp-CSI-RS-ResourceToAddModList */
+    RrcNzpCsiRsResource_t NzpCsiRsResourceAddMod[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES];
+    UINT8 numNzpCsiRsResourceDel;                                /**< entries used of nzpCsiRsResourceId, 0..192 */
+    UINT8 nzpCsiRsResourceId[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES]; /**< nzp-CSI-RS-ResourceToReleaseList, each 0..191 */
     UINT8 numNzpCsiRsResourceSetAddMod; /**< entries used of NzpCsiRsResourceSetAddMod, 0..64 */
-    RrcNzpCsiRsResourceSet_t
-        NzpCsiRsResourceSetAddMod[RRC_MAX_NROF_NZP_CSI_RS_RESOURCE_SETS]; /**< nzp-CSI-RS-ResourceSetToAddModList */
+    /** nzp-CSI-RS-ResourceSetToAddModList */
+    RrcNzpCsiRsResourceSet_t NzpCsiRsResourceSetAddMod[RRC_MAX_NROF_NZP_CSI_RS_RESOURCE_SETS];
     UINT8 numNzpCsiRsResourceSetRel; /**< entries used of nzpCsiRsResourceSetId, 0..64 */
     UINT8 nzpCsiRsResourceSetId[RRC_MAX_NROF_NZP_CSI_RS_RESOURCE_SETS]; /**< nzp-CSI-RS-ResourceSetToReleaseList, each
                                                                            0..63 */
@@ -108,13 +109,13 @@ typedef struct rrcCsiMeasCfg_s
     UINT8 numCsiImResourceRel;                            /**< entries used of csiImResourceId, 0..32 */
     UINT8 csiImResourceId[RRC_MAX_NROF_CSI_IM_RESOURCES]; /**< csi-IM-ResourceToReleaseList, each 0..31 */
     UINT8 numCsiImResourceSetAddMod;                      /**< entries used of csiImResourceSetAddMod, 0..64 */
-    RrcCsiImResourceSet_t
-        csiImResourceSetAddMod[RRC_MAX_NROF_CSI_IM_RESOURCE_SETS]; /**< csi-IM-ResourceSetToAddModList */
-    UINT8 numCsiImResourceSetRel;                                  /**< entries used of csiImResourceSetId, 0..64 */
-    UINT8 csiImResourceSetId[RRC_MAX_NROF_CSI_IM_RESOURCE_SETS];   /**< csi-IM-ResourceSetToReleaseList, each 0..63 */
-    UINT8 numCsiSsbResourceSetAddMod;                              /**< entries used of csiSsbResourceSet, 0..64 */
-    RrcCsiSsbResourceSet_t
-        csiSsbResourceSet[RRC_MAX_NROF_CSI_SSB_RESOURCE_SETS];     /**< csi-SSB-ResourceSetToAddModList */
+    /** csi-IM-ResourceSetToAddModList */
+    RrcCsiImResourceSet_t csiImResourceSetAddMod[RRC_MAX_NROF_CSI_IM_RESOURCE_SETS];
+    UINT8 numCsiImResourceSetRel;                                /**< entries used of csiImResourceSetId, 0..64 */
+    UINT8 csiImResourceSetId[RRC_MAX_NROF_CSI_IM_RESOURCE_SETS]; /**< csi-IM-ResourceSetToReleaseList, each 0..63 */
+    UINT8 numCsiSsbResourceSetAddMod;                            /**< entries used of csiSsbResourceSet, 0..64 */
+    /** csi-SSB-ResourceSetToAddModList */
+    RrcCsiSsbResourceSet_t csiSsbResourceSet[RRC_MAX_NROF_CSI_SSB_RESOURCE_SETS];
     UINT8 numCsiSsbResourceSetRel;                                 /**< entries used of csiSsbResourceSetId, 0..64 */
     UINT8 csiSsbResourceSetId[RRC_MAX_NROF_CSI_SSB_RESOURCE_SETS]; /**< csi-SSB-ResourceSetToReleaseList, each 0..63 */
     UINT8 numCsiResourceCfgAddMod;                                 /**< entries used of csiResourceCfg, 0..112 */
@@ -125,11 +126,11 @@ typedef struct rrcCsiMeasCfg_s
     RrcCsiReportCfg_t csiReportCfg[RRC_MAX_NROF_CSI_REPORT_CFGS]; /**< csi-ReportConfigToAddModList */
     UINT8 numCsiReportCfgRel;                                     /**< entries used of csiReportCfgId, 0..48 */
     UINT8 csiReportCfgId[RRC_MAX_NROF_CSI_REPORT_CFGS];           /**< csi-ReportConfigToReleaseList, each 0..47 */
-    UINT8 bitMask;                                                /**< RRC_CSI_MEAS_CFG_..._PRESENCE */
-    UINT8 reportTriggerSize;                                      /**< reportTriggerSize in bits, 0..6 */
+    UINT8 bitMask;                                                /**< bits RRC_CSI_MEAS_CFG_..._PRESENCE */
+    UINT8 reportTriggerSize;                                      /**< reportTriggerSize, 0..6, in bits */
     RrcCsiAperiodicTriggerStateList_t aperiodicTriggerStateList;  /**< aperiodicTriggerStateList */
-    RrcCsiSemiPersistentOnPuschTriggerStateList_t
-        semiPersistentOnPuschTriggerStateList; /**< semiPersistentOnPUSCH-TriggerStateList */
+    /** semiPersistentOnPUSCH-TriggerStateList */
+    RrcCsiSemiPersistentOnPuschTriggerStateList_t semiPersistentOnPuschTriggerStateList;
 } RrcCsiMeasCfg_t;
 
 #ifdef __cplusplus

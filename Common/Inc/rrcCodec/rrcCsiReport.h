@@ -27,9 +27,13 @@ extern "C"
 /** CSI-ReportPeriodicityAndOffset */
 typedef struct csiReportPeriodAndOffset_s
 {
-    UINT8 periodicity; /**< the alternative: 1 slots4, 2 slots5, 3 slots8, 4 slots10, 5 slots16, 6 slots20, 7 slots40,
-                          8 slots80, 9 slots160, 10 slots320 */
-    UINT8 offset;      /**< in slots, below the period; 256..319 of slots320 cannot be given */
+    /**
+     * alternative of itself, T_CSI_ReportPeriodicityAndOffset_...: 1 slots4, 2 slots5, 3 slots8, 4 slots10, 5 slots16,
+     * 6 slots20, 7 slots40, 8 slots80, 9 slots160, 10 slots320
+     */
+    UINT8 periodicity;
+    /** value by periodicity, in slots; below the period, 256..319 of slots320 cannot be given */
+    UINT8 offset;
 } csiReportPeriodAndOffset_t;
 
 /** PUCCH-CSI-Resource */
@@ -58,9 +62,13 @@ typedef struct semiPersistentOnPucch_s
 /** CSI-ReportConfig.reportConfigType.semiPersistentOnPUSCH */
 typedef struct semiPersistentOnPuSch_s
 {
-    UINT8 reportSlotCfg;                                              /**< reportSlotConfig, enumeration sl5.. (0..6) */
+    /**
+     * reportSlotConfig, CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotConfig_...: 0 sl5, 1 sl10,
+     * 2 sl20, 3 sl40, 4 sl80, 5 sl160, 6 sl320
+     */
+    UINT8 reportSlotCfg;
     UINT8 reportSlotOffsetNum;                                        /**< entries used of reportSlotOffset, 1..16 */
-    UINT8 reportSlotOffset[RRC_CSI_REPORT_CFG_MAX_NROF_ULALLOCATION]; /**< reportSlotOffsetList, each 0..32 */
+    UINT8 reportSlotOffset[RRC_CSI_REPORT_CFG_MAX_NROF_ULALLOCATION]; /**< reportSlotOffsetList, each 0..32, in slots */
     UINT8 p0PuschAlphaSetId;                                          /**< p0alpha, 0..29 */
 } SemiPersistentOnPuSch_t;
 
@@ -68,7 +76,7 @@ typedef struct semiPersistentOnPuSch_s
 typedef struct Csiaperiodic_s
 {
     UINT8 reportSlotOffsetNum;                                        /**< entries used of reportSlotOffset, 1..16 */
-    UINT8 reportSlotOffset[RRC_CSI_REPORT_CFG_MAX_NROF_ULALLOCATION]; /**< reportSlotOffsetList, each 0..32 */
+    UINT8 reportSlotOffset[RRC_CSI_REPORT_CFG_MAX_NROF_ULALLOCATION]; /**< reportSlotOffsetList, each 0..32, in slots */
 } Aperiodic_t;
 
 /** CSI-ReportConfig.reportConfigType */
@@ -86,11 +94,12 @@ union reportCfgType_u
 /** CSI-ReportConfig.reportQuantity.cri-RI-i1-CQI */
 typedef struct criRiI1Cqi_s
 {
-    UINT8 bitMask;               /**< RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE */
-    UINT8 PdschBundleSizeForCsi; /**< pdsch-BundleSizeForCSI, enumeration n2, n4 (0..1) */
+    UINT8 bitMask; /**< bits RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE */
+    /** pdsch-BundleSizeForCSI, CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI_pdsch_BundleSizeForCSI_...: 0 n2, 1 n4 */
+    UINT8 PdschBundleSizeForCsi;
 } CriRiI1Cqi_t;
 
-/** CSI-ReportConfig.reportQuantity: the one alternative that has content */
+/** CSI-ReportConfig.reportQuantity; the one alternative that has content */
 union reportQuantity_u
 {
     CriRiI1Cqi_t criRiI1Cqi; /**< cri-RI-i1-CQI */
@@ -100,87 +109,167 @@ union reportQuantity_u
 #define RRC_REPORT_FREQ_CFG_CQI_FORMAT_IND_PRESENCE (1 << 0)
 /** ReportFreqCfg_t.bitMask: PmiFormatInd is given */
 #define RRC_REPORT_FREQ_CFG_PMI_FORMAT_IND_PRESENCE (1 << 1)
-/** ReportFreqCfg_t.bitMask: CsiReportingBand_n is given */
+/** ReportFreqCfg_t.bitMask: csiRptBandBitMask and CsiReportingBand_n are given */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORTINT_BAND_PRESENCE (1 << 2)
 
-/** ReportFreqCfg_t.csiRptBandBitMask: which member of CsiReportingBand_n is given */
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands3, in CsiReportingBand_n.subbands3 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS3 (1 << 0)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands4, in CsiReportingBand_n.subbands4 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS4 (1 << 1)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands5, in CsiReportingBand_n.subbands5 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS5 (1 << 2)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands6, in CsiReportingBand_n.subbands6 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS6 (1 << 3)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands7, in CsiReportingBand_n.subbands7 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS7 (1 << 4)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands8, in CsiReportingBand_n.subbands8 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS8 (1 << 5)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands9, in CsiReportingBand_n.subbands9 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS9 (1 << 6)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands10, in CsiReportingBand_n.subbands10 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS10 (1 << 7)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands11, in CsiReportingBand_n.subbands11 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS11 (1 << 8)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands12, in CsiReportingBand_n.subbands12 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS12 (1 << 9)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands13, in CsiReportingBand_n.subbands13 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS13 (1 << 10)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands14, in CsiReportingBand_n.subbands14 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS14 (1 << 11)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands15, in CsiReportingBand_n.subbands15 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS15 (1 << 12)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands16, in CsiReportingBand_n.subbands16 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS16 (1 << 13)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands17, in CsiReportingBand_n.subbands17 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS17 (1 << 14)
+/** ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands18, in CsiReportingBand_n.subbands18 */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS18 (1 << 15)
+/**
+ * ReportFreqCfg_t.csiRptBandBitMask: chooses csi-ReportingBand.subbands19-v1530, in CsiReportingBand_n.subbands19_v1530
+ */
 #define RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_SUBBANDS19_V1530 (1 << 16)
 
-/** CSI-ReportConfig.reportFreqConfiguration.csi-ReportingBand: bit strings of 3..19 bits */
+/** CSI-ReportConfig.reportFreqConfiguration.csi-ReportingBand */
 union csiReportingBand_u
 {
-    UINT32 subbands3 : 3;         /**< subbands3 */
-    UINT32 subbands4 : 4;         /**< subbands4 */
-    UINT32 subbands5 : 5;         /**< subbands5 */
-    UINT32 subbands6 : 6;         /**< subbands6 */
-    UINT32 subbands7 : 7;         /**< subbands7 */
-    UINT32 subbands8 : 8;         /**< subbands8 */
-    UINT32 subbands9 : 9;         /**< subbands9 */
-    UINT32 subbands10 : 10;       /**< subbands10 */
-    UINT32 subbands11 : 11;       /**< subbands11 */
-    UINT32 subbands12 : 12;       /**< subbands12 */
-    UINT32 subbands13 : 13;       /**< subbands13 */
-    UINT32 subbands14 : 14;       /**< subbands14 */
-    UINT32 subbands15 : 15;       /**< subbands15 */
-    UINT32 subbands16 : 16;       /**< subbands16 */
-    UINT32 subbands17 : 17;       /**< subbands17 */
-    UINT32 subbands18 : 18;       /**< subbands18 */
-    UINT32 subbands19_v1530 : 19; /**< subbands19-v1530 */
+    UINT32 subbands3 : 3;         /**< subbands3, 3 bits */
+    UINT32 subbands4 : 4;         /**< subbands4, 4 bits */
+    UINT32 subbands5 : 5;         /**< subbands5, 5 bits */
+    UINT32 subbands6 : 6;         /**< subbands6, 6 bits */
+    UINT32 subbands7 : 7;         /**< subbands7, 7 bits */
+    UINT32 subbands8 : 8;         /**< subbands8, 8 bits */
+    UINT32 subbands9 : 9;         /**< subbands9, 9 bits */
+    UINT32 subbands10 : 10;       /**< subbands10, 10 bits */
+    UINT32 subbands11 : 11;       /**< subbands11, 11 bits */
+    UINT32 subbands12 : 12;       /**< subbands12, 12 bits */
+    UINT32 subbands13 : 13;       /**< subbands13, 13 bits */
+    UINT32 subbands14 : 14;       /**< subbands14, 14 bits */
+    UINT32 subbands15 : 15;       /**< subbands15, 15 bits */
+    UINT32 subbands16 : 16;       /**< subbands16, 16 bits */
+    UINT32 subbands17 : 17;       /**< subbands17, 17 bits */
+    UINT32 subbands18 : 18;       /**< subbands18, 18 bits */
+    UINT32 subbands19_v1530 : 19; /**< subbands19-v1530, 19 bits */
 };
 
 /** CSI-ReportConfig.reportFreqConfiguration */
 typedef struct reportFreqCfg_s
 {
-    UINT8 bitMask;            /**< RRC_REPORT_FREQ_CFG_..._PRESENCE */
-    UINT8 CqiFormatInd;       /**< cqi-FormatIndicator, enumeration widebandCQI.. (0..1) */
-    UINT8 PmiFormatInd;       /**< pmi-FormatIndicator, enumeration widebandPMI.. (0..1) */
-    UINT32 csiRptBandBitMask; /**< RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_...: what the next field holds */
+    UINT8 bitMask; /**< bits RRC_REPORT_FREQ_CFG_..._PRESENCE */
+    /**
+     * cqi-FormatIndicator, CSI_ReportConfig_reportFreqConfiguration_cqi_FormatIndicator_...: 0 widebandCQI,
+     * 1 subbandCQI
+     */
+    UINT8 CqiFormatInd;
+    /**
+     * pmi-FormatIndicator, CSI_ReportConfig_reportFreqConfiguration_pmi_FormatIndicator_...: 0 widebandPMI,
+     * 1 subbandPMI
+     */
+    UINT8 PmiFormatInd;
+    UINT32 csiRptBandBitMask;                    /**< bits RRC_REPORT_FREQ_CFG_CSI_REPORT_BAND_... */
     union csiReportingBand_u CsiReportingBand_n; /**< csi-ReportingBand */
 } ReportFreqCfg_t;
 
-/** CodebookConfig...typeI-SinglePanel.nrOfAntennaPorts.two */
+/** CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.two */
 struct nrOfAntennaPorts_two
 {
     UINT8 twoTX_CodebookSubsetRestrict : 6; /**< twoTX-CodebookSubsetRestriction, 6 bits */
 };
 
-/** nrOfAntennaPorts_moreThanTwo.bitMask: MoreThanTwo_n1_n2_u is given; without it the encoder refuses the codebook */
+/**
+ * nrOfAntennaPorts_moreThanTwo.bitMask: N1_N2_Presence and MoreThanTwo_n1_n2_u are given; without it the encoder
+ * refuses the codebook
+ */
 #define RRC_MORE_THAN_TWO_N1_N2_PRESENCE (1 << 0)
 /** nrOfAntennaPorts_moreThanTwo.bitMask: typeI_SinglePanel_CodebookSubsetRestriction_i2 is given */
 #define RRC_SINGLE_PANEL_CODEBOOK_SUBSET_RESTRICT_I2 (1 << 1)
 
-/** nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: which member of MoreThanTwo_n1_n2_u is given */
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.two-one-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.two_one
+ */
 #define RRC_TWO_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 0)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.two-two-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.two_two
+ */
 #define RRC_TWO_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 1)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.four-one-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.four_one
+ */
 #define RRC_FOUR_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 2)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.three-two-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.three_two
+ */
 #define RRC_THREE_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 3)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.six-one-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.six_one
+ */
 #define RRC_SIX_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 4)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.four-two-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.four_two
+ */
 #define RRC_FOUR_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 5)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.eight-one-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.eight_one
+ */
 #define RRC_EIGHT_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 6)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.four-three-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.four_three
+ */
 #define RRC_FOUR_THREE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 7)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.six-two-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.six_two
+ */
 #define RRC_SIX_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 8)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.twelve-one-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.twelve_one
+ */
 #define RRC_TWELVE_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 9)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.four-four-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.four_four
+ */
 #define RRC_FOUR_FOUR_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 10)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.eight-two-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.eight_two
+ */
 #define RRC_EIGHT_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 11)
+/**
+ * nrOfAntennaPorts_moreThanTwo.N1_N2_Presence: chooses n1-n2.sixteen-one-TypeI-SinglePanel-Restriction, in
+ * MoreThanTwo_n1_n2_u.sixteen_one
+ */
 #define RRC_SIXTEEN_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE (1 << 12)
 
-/** CodebookConfig...typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo.n1-n2 */
+/** CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo.n1-n2 */
 union moreThanTwo_SinglePanel_n1_n2_u
 {
     UINT8 two_one;        /**< two-one-TypeI-SinglePanel-Restriction, 8 bits */
@@ -198,33 +287,34 @@ union moreThanTwo_SinglePanel_n1_n2_u
     UINT64 sixteen_one;   /**< sixteen-one-TypeI-SinglePanel-Restriction, 8 octets */
 };
 
-/** CodebookConfig...typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo */
+/** CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo */
 struct nrOfAntennaPorts_moreThanTwo
 {
-    UINT8 bitMask;         /**< RRC_MORE_THAN_TWO_N1_N2_PRESENCE, RRC_SINGLE_PANEL_CODEBOOK_SUBSET_RESTRICT_I2 */
-    UINT16 N1_N2_Presence; /**< RRC_..._TYPEI_SINGLEPANEL_RESTRICT_PRESENCE: what the next field holds */
+    /** bits RRC_MORE_THAN_TWO_N1_N2_PRESENCE and RRC_SINGLE_PANEL_CODEBOOK_SUBSET_RESTRICT_I2 */
+    UINT8 bitMask;
+    UINT16 N1_N2_Presence;                                      /**< bits RRC_..._TYPEI_SINGLEPANEL_RESTRICT_PRESENCE */
     union moreThanTwo_SinglePanel_n1_n2_u MoreThanTwo_n1_n2_u;  /**< n1-n2 */
     UINT16 typeI_SinglePanel_CodebookSubsetRestriction_i2 : 16; /**< typeI-SinglePanel-codebookSubsetRestriction-i2, 16
                                                                    bits */
 };
 
-/** SinglePanel_nrOfAntennaPorts_t.Presence: NrOfAntennaPorts_n holds two */
+/** SinglePanel_nrOfAntennaPorts_t.Presence: chooses two, in NrOfAntennaPorts_n.two */
 #define RRC_NROF_ANTENNA_PORTS_TWO_PRESENCE (1 << 0)
-/** SinglePanel_nrOfAntennaPorts_t.Presence: NrOfAntennaPorts_n holds moreThanTwo */
+/** SinglePanel_nrOfAntennaPorts_t.Presence: chooses moreThanTwo, in NrOfAntennaPorts_n.moreThanTwo */
 #define RRC_NROF_ANTENNA_PORTS_MORE_THANTWO_PRESENCE (1 << 1)
 
-/** The member of SinglePanel_nrOfAntennaPorts_t */
+/** CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts */
 union nrOfAntennaPorts_u
 {
     struct nrOfAntennaPorts_two two;                 /**< two */
     struct nrOfAntennaPorts_moreThanTwo moreThanTwo; /**< moreThanTwo */
 };
 
-/** CodebookConfig...typeI-SinglePanel.nrOfAntennaPorts */
+/** CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts */
 typedef struct SinglePanel_nrOfAntennaPorts_s
 {
-    UINT8 Presence;                              /**< RRC_NROF_ANTENNA_PORTS_..._PRESENCE: what the next field holds */
-    union nrOfAntennaPorts_u NrOfAntennaPorts_n; /**< nrOfAntennaPorts */
+    UINT8 Presence;                              /**< bits RRC_NROF_ANTENNA_PORTS_..._PRESENCE */
+    union nrOfAntennaPorts_u NrOfAntennaPorts_n; /**< itself */
 } SinglePanel_nrOfAntennaPorts_t;
 
 /** CodebookConfig.codebookType.type1.subType.typeI-SinglePanel */
@@ -234,22 +324,56 @@ typedef struct CodeBookTypeSinglePanel_s
     UINT8 typeI_SinglePanel_ri_Restriction : 8;                  /**< typeI-SinglePanel-ri-Restriction, 8 bits */
 } CodeBookTypeSinglePanel_t;
 
-/** CodeBookTypeMultiPanel_t.bitMask: MultiPanel_Restrict_u is given; without it the encoder refuses the codebook */
+/**
+ * CodeBookTypeMultiPanel_t.bitMask: MultiPanel_Presence and MultiPanel_Restrict_u are given; without it the encoder
+ * refuses the codebook
+ */
 #define RRC_MULTI_PANEL_RESTRICT (1 << 0)
 /** CodeBookTypeMultiPanel_t.bitMask: ri_Restriction is given */
 #define RRC_RI_RESTRICTION (1 << 1)
 
-/** CodeBookTypeMultiPanel_t.MultiPanel_Presence: which member of MultiPanel_Restrict_u is given */
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.two-two-one-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.two_two_one
+ */
 #define RRC_TWO_TWO_ONE_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 0)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.two-four-one-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.two_four_one
+ */
 #define RRC_TWO_FOUR_ONE_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 1)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.four-two-one-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.four_two_one
+ */
 #define RRC_FOUR_TWO_ONE_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 2)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.two-two-two-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.two_two_two
+ */
 #define RRC_TWO_TWO_TWO_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 3)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.two-eight-one-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.two_eight_one
+ */
 #define RRC_TWO_EIGHT_ONE_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 4)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.four-four-one-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.four_four_one
+ */
 #define RRC_FOUR_FOUR_ONE_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 5)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.two-four-two-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.two_four_two
+ */
 #define RRC_TWO_FOUR_TWO_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 6)
+/**
+ * CodeBookTypeMultiPanel_t.MultiPanel_Presence: chooses ng-n1-n2.four-two-two-TypeI-MultiPanel-Restriction, in
+ * MultiPanel_Restrict_u.four_two_two
+ */
 #define RRC_FOUR_TWO_TWO_TYPEI_MULTIPANEL_RESTRICT_PRESENCE (1 << 7)
 
-/** CodebookConfig...typeI-MultiPanel.ng-n1-n2 */
+/** CodebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2 */
 union MultiPanel_ng_n1_n2_u
 {
     UINT8 two_two_one;      /**< two-two-one-TypeI-MultiPanel-Restriction, 8 bits */
@@ -266,18 +390,19 @@ union MultiPanel_ng_n1_n2_u
     empty, and has 4 bits on the air: the encoder refuses every message with this codebook. */
 typedef struct CodeBookTypeMultiPanel_s
 {
-    UINT8 bitMask;              /**< RRC_MULTI_PANEL_RESTRICT, RRC_RI_RESTRICTION */
-    UINT16 MultiPanel_Presence; /**< RRC_..._TYPEI_MULTIPANEL_RESTRICT_PRESENCE: what the next field holds */
+    UINT8 bitMask;                                     /**< bits RRC_MULTI_PANEL_RESTRICT and RRC_RI_RESTRICTION */
+    UINT16 MultiPanel_Presence;                        /**< bits RRC_..._TYPEI_MULTIPANEL_RESTRICT_PRESENCE */
     union MultiPanel_ng_n1_n2_u MultiPanel_Restrict_u; /**< ng-n1-n2 */
-    UINT8 ri_Restriction : 8;                          /**< ri-Restriction */
+    /** ri-Restriction, 4 bits; what the composers make of it has 8, which the encoder refuses */
+    UINT8 ri_Restriction : 8;
 } CodeBookTypeMultiPanel_t;
 
-/** CodebookType1_Sub_t.Presence: CodeBookTypePanel_u holds singlePanel */
+/** CodebookType1_Sub_t.Presence: chooses typeI-SinglePanel, in CodeBookTypePanel_u.singlePanel */
 #define RRC_CODE_BOOK_TYPE_SINGLE_PANEL (1 << 0)
-/** CodebookType1_Sub_t.Presence: CodeBookTypePanel_u holds multiPanel */
+/** CodebookType1_Sub_t.Presence: chooses typeI-MultiPanel, in CodeBookTypePanel_u.multiPanel */
 #define RRC_CODE_BOOK_TYPE_MULTI_PANEL (1 << 1)
 
-/** The member of CodebookType1_Sub_t */
+/** CodebookConfig.codebookType.type1.subType */
 union codeBookTypePanel_u
 {
     CodeBookTypeSinglePanel_t singlePanel; /**< typeI-SinglePanel */
@@ -287,8 +412,8 @@ union codeBookTypePanel_u
 /** CodebookConfig.codebookType.type1.subType */
 typedef struct CodebookType1_Sub_s
 {
-    UINT8 Presence;                                /**< RRC_CODE_BOOK_TYPE_..._PANEL: what the next field holds */
-    union codeBookTypePanel_u CodeBookTypePanel_u; /**< subType */
+    UINT8 Presence;                                /**< bits RRC_CODE_BOOK_TYPE_..._PANEL */
+    union codeBookTypePanel_u CodeBookTypePanel_u; /**< itself */
 } CodebookType1_Sub_t;
 
 /** CodebookConfig.codebookType.type1 */
@@ -298,25 +423,74 @@ typedef struct codeBookType1_s
     UINT8 CodebookMode;                    /**< codebookMode, 1..2 */
 } CodeBookType1_t;
 
-/** subType_typeII.Restriction_Presence: which member of SubsetRestriction_u is given */
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.two-one, in SubsetRestriction_u.two_one
+ */
 #define RRC_SUB_SET_RESTRICT_TWO_ONE_PRESENCE (1 << 0)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.two-two, in SubsetRestriction_u.two_two
+ */
 #define RRC_SUB_SET_RESTRICT_TWO_TWO_PRESENCE (1 << 1)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.four-one, in
+ * SubsetRestriction_u.four_one
+ */
 #define RRC_SUB_SET_RESTRICT_FOUR_ONE_PRESENCE (1 << 2)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.three-two, in
+ * SubsetRestriction_u.three_two
+ */
 #define RRC_SUB_SET_RESTRICT_THREE_TWO_PRESENCE (1 << 3)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.six-one, in SubsetRestriction_u.six_one
+ */
 #define RRC_SUB_SET_RESTRICT_SIX_ONE_PRESENCE (1 << 4)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.four-two, in
+ * SubsetRestriction_u.four_two
+ */
 #define RRC_SUB_SET_RESTRICT_FOUR_TWO_PRESENCE (1 << 5)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.eight-one, in
+ * SubsetRestriction_u.eight_one
+ */
 #define RRC_SUB_SET_RESTRICT_EIGHT_ONE_PRESENCE (1 << 6)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.four-three, in
+ * SubsetRestriction_u.four_three
+ */
 #define RRC_SUB_SET_RESTRICT_FOUR_THREE_PRESENCE (1 << 7)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.six-two, in SubsetRestriction_u.six_two
+ */
 #define RRC_SUB_SET_RESTRICT_SIX_TWO_PRESENCE (1 << 8)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.twelve-one, in
+ * SubsetRestriction_u.twelve_one
+ */
 #define RRC_SUB_SET_RESTRICT_TWELVE_ONE_PRESENCE (1 << 9)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.four-four, in
+ * SubsetRestriction_u.four_four
+ */
 #define RRC_SUB_SET_RESTRICT_FOUR_FOUR_PRESENCE (1 << 10)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.eight-two, in
+ * SubsetRestriction_u.eight_two
+ */
 #define RRC_SUB_SET_RESTRICT_EIGHT_TWO_PRESENCE (1 << 11)
+/**
+ * subType_typeII.Restriction_Presence: chooses n1-n2-codebookSubsetRestriction.sixteen-one, in
+ * SubsetRestriction_u.sixteen_one
+ */
 #define RRC_SUB_SET_RESTRICT_SIXTEEN_ONE_PRESENCE (1 << 12)
 /** subType_typeII.Restriction_Presence: TypeII_RI_Restriction is given; without it the encoder refuses the codebook */
 #define RRC_TYPEII_RI_RESTRICTION_PRESENCE (1 << 13)
 
-/** CodebookConfig...typeII.n1-n2-codebookSubsetRestriction. Strings sent as octets whose length is no multiple of 8
-    use the most significant bits of the last octet; the others are not sent. */
+/**
+ * CodebookConfig.codebookType.type2.subType.typeII.n1-n2-codebookSubsetRestriction. Strings sent as octets whose length
+ * is no multiple of 8 use the most significant bits of the last octet; the others are not sent.
+ */
 union subsetRestriction_u
 {
     UINT16 two_one;        /**< two-one, 16 bits */
@@ -337,8 +511,8 @@ union subsetRestriction_u
 /** CodebookConfig.codebookType.type2.subType.typeII */
 struct subType_typeII
 {
-    UINT16 Restriction_Presence;                   /**< RRC_SUB_SET_RESTRICT_..._PRESENCE: what the next field holds;
-                                                      RRC_TYPEII_RI_RESTRICTION_PRESENCE */
+    /** bits RRC_SUB_SET_RESTRICT_..._PRESENCE and RRC_TYPEII_RI_RESTRICTION_PRESENCE */
+    UINT16 Restriction_Presence;
     union subsetRestriction_u SubsetRestriction_u; /**< n1-n2-codebookSubsetRestriction */
     UINT8 TypeII_RI_Restriction : 2;               /**< typeII-RI-Restriction, 2 bits */
 };
@@ -349,17 +523,22 @@ struct subType_typeII
 /** CodebookConfig.codebookType.type2.subType.typeII-PortSelection */
 struct typeII_PortSelection
 {
-    UINT8 bitMask;                                /**< RRC_PORT_SELEXTION_SAMPLING_SIZE */
-    UINT8 portSelectionSamplingSize;              /**< portSelectionSamplingSize, enumeration n1.. (0..3) */
+    UINT8 bitMask; /**< bits RRC_PORT_SELEXTION_SAMPLING_SIZE */
+    /**
+     * portSelectionSamplingSize,
+     * CodebookConfig_codebookType_type2_subType_typeII_PortSelection_portSelectionSamplingSize_...: 0 n1, 1 n2, 2 n3,
+     * 3 n4
+     */
+    UINT8 portSelectionSamplingSize;
     UINT8 typeII_PortSelectionRI_Restriction : 2; /**< typeII-PortSelectionRI-Restriction, 2 bits */
 };
 
-/** Codebooktype2_Sub_t.Presence: Type2_subType_u holds subType_typeII */
+/** Codebooktype2_Sub_t.Presence: chooses typeII, in Type2_subType_u.subType_typeII */
 #define RRC_SUB_TYPE_TYPEII (1 << 0)
-/** Codebooktype2_Sub_t.Presence: Type2_subType_u holds typeII_PortSelection */
+/** Codebooktype2_Sub_t.Presence: chooses typeII-PortSelection, in Type2_subType_u.typeII_PortSelection */
 #define RRC_TYPEII_PORTSELECTION (1 << 1)
 
-/** The member of Codebooktype2_Sub_t */
+/** CodebookConfig.codebookType.type2.subType */
 union type2_subType_u
 {
     struct subType_typeII subType_typeII;             /**< typeII */
@@ -369,8 +548,8 @@ union type2_subType_u
 /** CodebookConfig.codebookType.type2.subType */
 typedef struct Codebooktype2_Sub_s
 {
-    UINT8 Presence; /**< RRC_SUB_TYPE_TYPEII or RRC_TYPEII_PORTSELECTION: what the next field holds */
-    union type2_subType_u Type2_subType_u; /**< subType */
+    UINT8 Presence;                        /**< bits RRC_SUB_TYPE_TYPEII and RRC_TYPEII_PORTSELECTION */
+    union type2_subType_u Type2_subType_u; /**< itself */
 } Codebooktype2_Sub_t;
 
 /** CodeBookType2_t.bitMask: codebookType2_Sub is given; without it the encoder refuses the codebook */
@@ -385,20 +564,27 @@ typedef struct Codebooktype2_Sub_s
 /** CodebookConfig.codebookType.type2 */
 typedef struct codeBookType2_s
 {
-    UINT8 bitMask; /**< RRC_CODEBOOK_TYPE2_SUB, RRC_PHASE_ALPHA_BET_SIZE, RRC_SUB_BAND_AMPLITUDE,
-                      RRC_NUM_BER_OFBEAMS */
+    /** bits RRC_CODEBOOK_TYPE2_SUB and RRC_PHASE_ALPHA_BET_SIZE and RRC_SUB_BAND_AMPLITUDE and RRC_NUM_BER_OFBEAMS */
+    UINT8 bitMask;
     Codebooktype2_Sub_t codebookType2_Sub; /**< subType */
-    UINT64 phaseAlphabetSize; /**< phaseAlphabetSize, enumeration n4, n8 (0..1); the low 32 bits are sent */
-    UINT64 subBandAmplitude;  /**< subbandAmplitude, 0 or 1; the low 8 bits decide */
-    UINT64 numberOfBeams;     /**< numberOfBeams, enumeration two.. (0..2); the low 32 bits are sent */
+    /**
+     * phaseAlphabetSize, CodebookConfig_codebookType_type2_phaseAlphabetSize_...: 0 n4, 1 n8; the low 32 bits are sent
+     */
+    UINT64 phaseAlphabetSize;
+    UINT64 subBandAmplitude; /**< subbandAmplitude; the low 8 bits decide */
+    /**
+     * numberOfBeams, CodebookConfig_codebookType_type2_numberOfBeams_...: 0 two, 1 three, 2 four; the low 32 bits are
+     * sent
+     */
+    UINT64 numberOfBeams;
 } CodeBookType2_t;
 
-/** RrcCodebookCfg_t.Presence: CodeBookCfgType_u holds codeBookType1 */
+/** RrcCodebookCfg_t.Presence: chooses codebookType.type1, in CodeBookCfgType_u.codeBookType1 */
 #define RRC_CODE_BOOK_TYPE1_PRESENCE (1 << 0)
-/** RrcCodebookCfg_t.Presence: CodeBookCfgType_u holds codeBookType2 */
+/** RrcCodebookCfg_t.Presence: chooses codebookType.type2, in CodeBookCfgType_u.codeBookType2 */
 #define RRC_CODE_BOOK_TYPE2_PRESENCE (1 << 1)
 
-/** The member of RrcCodebookCfg_t */
+/** CodebookConfig.codebookType */
 union codeBookCfgType_u
 {
     CodeBookType1_t codeBookType1; /**< type1 */
@@ -408,13 +594,13 @@ union codeBookCfgType_u
 /** CodebookConfig */
 typedef struct CodebookCfg_s
 {
-    UINT8 Presence;                            /**< RRC_CODE_BOOK_TYPE..._PRESENCE: what the next field holds */
+    UINT8 Presence;                            /**< bits RRC_CODE_BOOK_..._PRESENCE */
     union codeBookCfgType_u CodeBookCfgType_u; /**< codebookType */
 } RrcCodebookCfg_t;
 
-/** RrcgroupBasedBeamReport_t.Presence: enabled */
+/** RrcgroupBasedBeamReport_t.Presence: chooses enabled; it has no content */
 #define RRC_BASED_BEAM_REPORT_ENABLED (1 << 0)
-/** RrcgroupBasedBeamReport_t.Presence: disabled, with BeamReporting_n.Report_Disabled */
+/** RrcgroupBasedBeamReport_t.Presence: chooses disabled, in BeamReporting_n.Report_Disabled */
 #define RRC_BASED_BEAM_REPORT_DISABLED (1 << 1)
 
 /** basedBeamReport_Disabled.bitMask: NrofReportedRS is given */
@@ -423,22 +609,23 @@ typedef struct CodebookCfg_s
 /** CSI-ReportConfig.groupBasedBeamReporting.disabled */
 struct basedBeamReport_Disabled
 {
-    UINT8 bitMask;        /**< RRC_BASED_BEAM_REPORT_DISABLED_NROF_REPORTED_RS_PRESENCE */
-    UINT8 NrofReportedRS; /**< nrofReportedRS, enumeration n1.. (0..3) */
+    UINT8 bitMask; /**< bits RRC_BASED_BEAM_REPORT_DISABLED_NROF_REPORTED_RS_PRESENCE */
+    /** nrofReportedRS, CSI_ReportConfig_groupBasedBeamReporting_disabled_nrofReportedRS_...: 0 n1, 1 n2, 2 n3, 3 n4 */
+    UINT8 NrofReportedRS;
 };
 
-/** The member of RrcgroupBasedBeamReport_t */
+/** CSI-ReportConfig.groupBasedBeamReporting */
 union beamReporting_u
 {
-    UINT16 enabled;                                  /**< enabled; not read */
+    UINT16 enabled;                                  /**< not read; enabled has no content */
     struct basedBeamReport_Disabled Report_Disabled; /**< disabled */
 };
 
 /** CSI-ReportConfig.groupBasedBeamReporting */
 typedef struct rrcgroupBasedBeamReport_s
 {
-    UINT8 Presence;                        /**< RRC_BASED_BEAM_REPORT_ENABLED or RRC_BASED_BEAM_REPORT_DISABLED */
-    union beamReporting_u BeamReporting_n; /**< groupBasedBeamReporting */
+    UINT8 Presence;                        /**< bits RRC_BASED_BEAM_REPORT_... */
+    union beamReporting_u BeamReporting_n; /**< itself */
 } RrcgroupBasedBeamReport_t;
 
 /** Entries of each rank of portIndex8 */
@@ -467,69 +654,69 @@ typedef struct rrcgroupBasedBeamReport_s
     that are not counted are sent as 0. */
 struct portIndexFor8Ranks_portIndex8
 {
-    UINT8 bitMask;                                  /**< RRC_RANK1_8 */
+    UINT8 bitMask;                                  /**< bits RRC_RANK1_8 */
     UINT8 rank1_8;                                  /**< rank1-8, 0..7 */
-    UINT8 numRank2_8;                               /**< entries used of PortIndex2_8 */
+    UINT8 numRank2_8;                               /**< entries used of PortIndex2_8, 0..2 */
     UINT8 PortIndex2_8[RRC_PORTINDEX8_RANK2_8_MAX]; /**< rank2-8, each 0..7 */
-    UINT8 numRank3_8;                               /**< entries used of PortIndex3_8 */
+    UINT8 numRank3_8;                               /**< entries used of PortIndex3_8, 0..3 */
     UINT8 PortIndex3_8[RRC_PORTINDEX8_RANK3_8_MAX]; /**< rank3-8, each 0..7 */
-    UINT8 numRank4_8;                               /**< entries used of PortIndex4_8 */
+    UINT8 numRank4_8;                               /**< entries used of PortIndex4_8, 0..4 */
     UINT8 PortIndex4_8[RRC_PORTINDEX8_RANK4_8_MAX]; /**< rank4-8, each 0..7 */
-    UINT8 numRank5_8;                               /**< entries used of PortIndex5_8 */
+    UINT8 numRank5_8;                               /**< entries used of PortIndex5_8, 0..5 */
     UINT8 PortIndex5_8[RRC_PORTINDEX8_RANK5_8_MAX]; /**< rank5-8, each 0..7 */
-    UINT8 numRank6_8;                               /**< entries used of PortIndex6_8 */
+    UINT8 numRank6_8;                               /**< entries used of PortIndex6_8, 0..6 */
     UINT8 PortIndex6_8[RRC_PORTINDEX8_RANK6_8_MAX]; /**< rank6-8, each 0..7 */
-    UINT8 numRank7_8;                               /**< entries used of PortIndex7_8 */
+    UINT8 numRank7_8;                               /**< entries used of PortIndex7_8, 0..7 */
     UINT8 PortIndex7_8[RRC_PORTINDEX8_RANK7_8_MAX]; /**< rank7-8, each 0..7 */
-    UINT8 numRank8_8;                               /**< entries used of PortIndex8_8 */
+    UINT8 numRank8_8;                               /**< entries used of PortIndex8_8, 0..8 */
     UINT8 PortIndex8_8[RRC_PORTINDEX8_RANK8_8_MAX]; /**< rank8-8, each 0..7 */
 };
 
 /** PortIndexFor8Ranks.portIndex4. A rank above 1 is sent when its count is not 0. */
 struct portIndexFor8Ranks_portIndex4
 {
-    UINT8 bitMask;                                  /**< RRC_RANK1_4 */
+    UINT8 bitMask;                                  /**< bits RRC_RANK1_4 */
     UINT8 rank1_4;                                  /**< rank1-4, 0..3 */
-    UINT8 numRank2_4;                               /**< entries used of PortIndex2_4 */
+    UINT8 numRank2_4;                               /**< entries used of PortIndex2_4, 0..2 */
     UINT8 PortIndex2_4[RRC_PORTINDEX4_RANK2_4_MAX]; /**< rank2-4, each 0..3 */
-    UINT8 numRank3_4;                               /**< entries used of PortIndex3_4 */
+    UINT8 numRank3_4;                               /**< entries used of PortIndex3_4, 0..2 */
     UINT8 PortIndex3_4[RRC_PORTINDEX4_RANK3_4_MAX]; /**< rank3-4, each 0..3 */
-    UINT8 numRank4_4;                               /**< entries used of PortIndex4_4 */
+    UINT8 numRank4_4;                               /**< entries used of PortIndex4_4, 0..2 */
     UINT8 PortIndex4_4[RRC_PORTINDEX4_RANK4_4_MAX]; /**< rank4-4, each 0..3 */
 };
 
 /** PortIndexFor8Ranks.portIndex2. Rank 2 is sent when its count is not 0. */
 struct portIndexFor8Ranks_portIndex2
 {
-    UINT8 bitMask;                                  /**< RRC_RANK1_2 */
+    UINT8 bitMask;                                  /**< bits RRC_RANK1_2 */
     UINT8 rank1_2;                                  /**< rank1-2, 0..1 */
-    UINT8 numRank2_2;                               /**< entries used of PortIndex2_2 */
+    UINT8 numRank2_2;                               /**< entries used of PortIndex2_2, 0..2 */
     UINT8 PortIndex2_2[RRC_PORTINDEX2_RANK2_2_MAX]; /**< rank2-2, each 0..1 */
 };
 
-/** RrcPortIndexFor8Ranks_t.Presence: PortIndexFor8Ranks_n holds portIndex8 */
+/** RrcPortIndexFor8Ranks_t.Presence: chooses portIndex8, in PortIndexFor8Ranks_n.portIndex8 */
 #define RRC_PORT_INDEX8_PRESENCE (1 << 0)
-/** RrcPortIndexFor8Ranks_t.Presence: PortIndexFor8Ranks_n holds portIndex4 */
+/** RrcPortIndexFor8Ranks_t.Presence: chooses portIndex4, in PortIndexFor8Ranks_n.portIndex4 */
 #define RRC_PORT_INDEX4_PRESENCE (1 << 1)
-/** RrcPortIndexFor8Ranks_t.Presence: PortIndexFor8Ranks_n holds portIndex2 */
+/** RrcPortIndexFor8Ranks_t.Presence: chooses portIndex2, in PortIndexFor8Ranks_n.portIndex2 */
 #define RRC_PORT_INDEX2_PRESENCE (1 << 2)
-/** RrcPortIndexFor8Ranks_t.Presence: portIndex1, which has no content */
+/** RrcPortIndexFor8Ranks_t.Presence: chooses portIndex1; it has no content */
 #define RRC_PORT_INDEX1_PRESENCE (1 << 3)
 
-/** The member of RrcPortIndexFor8Ranks_t */
+/** PortIndexFor8Ranks */
 union portIndexFor8Ranks_u
 {
     struct portIndexFor8Ranks_portIndex8 portIndex8; /**< portIndex8 */
     struct portIndexFor8Ranks_portIndex4 portIndex4; /**< portIndex4 */
     struct portIndexFor8Ranks_portIndex2 portIndex2; /**< portIndex2 */
-    UINT16 portIndex1;                               /**< portIndex1; not read */
+    UINT16 portIndex1;                               /**< not read; portIndex1 has no content */
 };
 
 /** PortIndexFor8Ranks */
 typedef struct rrcPortIndexFor8Ranks_s
 {
-    UINT8 Presence;                                  /**< RRC_PORT_INDEX..._PRESENCE: what the next field holds */
-    union portIndexFor8Ranks_u PortIndexFor8Ranks_n; /**< PortIndexFor8Ranks */
+    UINT8 Presence;                                  /**< bits RRC_PORT_..._PRESENCE */
+    union portIndexFor8Ranks_u PortIndexFor8Ranks_n; /**< itself */
 } RrcPortIndexFor8Ranks_t;
 
 /** maxNrofNZP-CSI-RS-ResourcesPerConfig */
@@ -538,14 +725,18 @@ typedef struct rrcPortIndexFor8Ranks_s
 /** CSI-ReportConfig.non-PMI-PortIndication */
 typedef struct RRCPortIndexFor8Ranks_s
 {
-    UINT8 numPortIndexFor8Ranks;                                          /**< entries used of the next field, 1..128 */
-    RrcPortIndexFor8Ranks_t portIndexFor8Ranks[RRC_PORTINDEX8_RANKS_MAX]; /**< non-PMI-PortIndication */
+    UINT8 numPortIndexFor8Ranks; /**< entries used of portIndexFor8Ranks, 1..128 */
+    RrcPortIndexFor8Ranks_t portIndexFor8Ranks[RRC_PORTINDEX8_RANKS_MAX]; /**< itself */
 } RRCPortIndexFor8Ranks_t;
 
 /** CSI-ReportConfig.semiPersistentOnPUSCH-v1530 */
 struct semimPersistentOnPuschv1530
 {
-    UINT8 ReportSlotConfig_v1530; /**< reportSlotConfig-v1530, enumeration sl4.. (0..2) */
+    /**
+     * reportSlotConfig-v1530, CSI_ReportConfig_semiPersistentOnPUSCH_v1530_reportSlotConfig_v1530_...: 0 sl4, 1 sl8,
+     * 2 sl16
+     */
+    UINT8 ReportSlotConfig_v1530;
 };
 
 /** RrcCsiReportCfg_t.bitMask: servCellIndex is given */
@@ -566,55 +757,78 @@ struct semimPersistentOnPuschv1530
 #define RRC_CSI_REPORT_CFG_CQI_TABLE_PRESENCE (1 << 7)
 /** RrcCsiReportCfg_t.bitMask: RRCPortIndexFor8Ranks is given */
 #define RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE (1 << 8)
-/** RrcCsiReportCfg_t.bitMask: semimPersistentOnPuschv1530_t is given. The encoder does not send it: no composer marks
-    the extension group. */
+/**
+ * RrcCsiReportCfg_t.bitMask: semimPersistentOnPuschv1530_t is given; no composer announces its extension group: the
+ * encoder does not send it
+ */
 #define RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE (1 << 9)
 
-/** RrcCsiReportCfg_t.cfgTypeBitMask: ReportCfgType_n holds periodic */
+/** RrcCsiReportCfg_t.cfgTypeBitMask: chooses reportConfigType.periodic, in ReportCfgType_n.periodic */
 #define RRC_CSI_REPORT_CFG_TYPE_PERIODIC_PRESENCE (1 << 0)
-/** RrcCsiReportCfg_t.cfgTypeBitMask: ReportCfgType_n holds semiPersistentOnPucch */
+/**
+ * RrcCsiReportCfg_t.cfgTypeBitMask: chooses reportConfigType.semiPersistentOnPUCCH, in
+ * ReportCfgType_n.semiPersistentOnPucch
+ */
 #define RRC_CSI_REPORT_CFG_TYPE_SEMI_PERSISTENT_ON_PUCCH_PRESENCE (1 << 1)
-/** RrcCsiReportCfg_t.cfgTypeBitMask: ReportCfgType_n holds semiPersistentOnPusch */
+/**
+ * RrcCsiReportCfg_t.cfgTypeBitMask: chooses reportConfigType.semiPersistentOnPUSCH, in
+ * ReportCfgType_n.semiPersistentOnPusch
+ */
 #define RRC_CSI_REPORT_CFG_TYPE_SEMI_PERSISTENT_ON_PUSCH_PRESENCE (1 << 2)
-/** RrcCsiReportCfg_t.cfgTypeBitMask: ReportCfgType_n holds aperiodic */
+/** RrcCsiReportCfg_t.cfgTypeBitMask: chooses reportConfigType.aperiodic, in ReportCfgType_n.aperiodic */
 #define RRC_CSI_REPORT_CFG_TYPE_APERIODIC_PRESENCE (1 << 3)
 
-/** RrcCsiReportCfg_t.rptQuBitMask: the report quantity */
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.none */
 #define RRC_CSI_REPORT_QUANTITY_NONE_PRESENCE (1 << 0)
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.cri-RI-PMI-CQI */
 #define RRC_CSI_REPORT_QUANTITY_CRI_RI_PMI_CQI_PRESENCE (1 << 1)
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.cri-RI-i1 */
 #define RRC_CSI_REPORT_QUANTITY_CRI_RI_I1_PRESENCE (1 << 2)
-/** with ReportQuantity_n.criRiI1Cqi */
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.cri-RI-i1-CQI, in ReportQuantity_n.criRiI1Cqi */
 #define RRC_CSI_REPORT_QUANTITY_CRI_RI_I1_CQI_PRESENCE (1 << 3)
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.cri-RI-CQI */
 #define RRC_CSI_REPORT_QUANTITY_CRI_RI_CQI_PRESENCE (1 << 4)
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.cri-RSRP */
 #define RRC_CSI_REPORT_QUANTITY_CRI_RSRP_PRESENCE (1 << 5)
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.ssb-Index-RSRP */
 #define RRC_CSI_REPORT_QUANTITY_SSB_INDEX_RSRP_PRESENCE (1 << 6)
+/** RrcCsiReportCfg_t.rptQuBitMask: chooses reportQuantity.cri-RI-LI-PMI-CQI */
 #define RRC_CSI_REPORT_QUANTITY_CRI_RI_LI_PMI_CQI_PRESENCE (1 << 7)
 
 /** CSI-ReportConfig */
 typedef struct rrcCsiReportCfg_s
 {
     UINT8 csiReportCfgId;                       /**< reportConfigId, 0..47 */
-    UINT16 bitMask;                             /**< RRC_CSI_REPORT_CFG_..._PRESENCE of the members */
+    UINT16 bitMask;                             /**< bits RRC_CSI_REPORT_CFG_..._PRESENCE */
     UINT8 servCellIndex;                        /**< carrier, 0..31 */
     UINT8 resourceCfgIdForChMeas;               /**< resourcesForChannelMeasurement, 0..111 */
     UINT8 CsiImresourceCfgIdForInterference;    /**< csi-IM-ResourcesForInterference, 0..111 */
     UINT8 nzpCsiRsresourceCfgIdForInterference; /**< nzp-CSI-RS-ResourcesForInterference, 0..111 */
-    UINT8 cfgTypeBitMask;                       /**< RRC_CSI_REPORT_CFG_TYPE_..._PRESENCE: what the next field holds */
+    UINT8 cfgTypeBitMask;                       /**< bits RRC_CSI_REPORT_CFG_TYPE_..._PRESENCE */
     union reportCfgType_u ReportCfgType_n;      /**< reportConfigType */
-    UINT8 rptQuBitMask;                         /**< RRC_CSI_REPORT_QUANTITY_..._PRESENCE */
+    UINT8 rptQuBitMask;                         /**< bits RRC_CSI_REPORT_QUANTITY_..._PRESENCE */
     union reportQuantity_u ReportQuantity_n;    /**< reportQuantity */
-    BOOL subBandSize;                           /**< subbandSize, enumeration value1, value2 (0..1); always sent */
-    ReportFreqCfg_t reportFreqCfg;              /**< reportFreqConfiguration */
-    UINT8 timeRestrictForChMeas; /**< timeRestrictionForChannelMeasurements, enumeration configured.. (0..1) */
-    UINT8 timeRestrictForInterferenceMeas; /**< timeRestrictionForInterferenceMeasurements, enumeration configured..
-                                              (0..1) */
-    UINT8 CqisPerReportNum;                /**< not read */
-    RrcCodebookCfg_t codeBookCfg;          /**< codebookConfig */
-    BOOL nrofCQIsPerRep;                   /**< dummy, enumeration n1, n2 (0..1) */
-    RrcgroupBasedBeamReport_t groupBasedBeamReport;                   /**< groupBasedBeamReporting */
-    UINT8 cqi_Table;                                                  /**< cqi-Table, enumeration table1.. (0..3) */
-    RRCPortIndexFor8Ranks_t RRCPortIndexFor8Ranks;                    /**< non-PMI-PortIndication */
-    struct semimPersistentOnPuschv1530 semimPersistentOnPuschv1530_t; /**< semiPersistentOnPUSCH-v1530 */
+    /** subbandSize, always sent, CSI_ReportConfig_subbandSize_...: 0 value1, 1 value2 */
+    BOOL subBandSize;
+    ReportFreqCfg_t reportFreqCfg; /**< reportFreqConfiguration */
+    /**
+     * timeRestrictionForChannelMeasurements, CSI_ReportConfig_timeRestrictionForChannelMeasurements_...: 0 configured,
+     * 1 notConfigured
+     */
+    UINT8 timeRestrictForChMeas;
+    /**
+     * timeRestrictionForInterferenceMeasurements, CSI_ReportConfig_timeRestrictionForInterferenceMeasurements_...:
+     * 0 configured, 1 notConfigured
+     */
+    UINT8 timeRestrictForInterferenceMeas;
+    UINT8 CqisPerReportNum;                         /**< not read */
+    RrcCodebookCfg_t codeBookCfg;                   /**< codebookConfig */
+    BOOL nrofCQIsPerRep;                            /**< dummy, CSI_ReportConfig_dummy_...: 0 n1, 1 n2 */
+    RrcgroupBasedBeamReport_t groupBasedBeamReport; /**< groupBasedBeamReporting */
+    UINT8 cqi_Table; /**< cqi-Table, CSI_ReportConfig_cqi_Table_...: 0 table1, 1 table2, 2 table3 */
+    RRCPortIndexFor8Ranks_t RRCPortIndexFor8Ranks; /**< non-PMI-PortIndication */
+    /** semiPersistentOnPUSCH-v1530, not sent; no composer announces its extension group */
+    struct semimPersistentOnPuschv1530 semimPersistentOnPuschv1530_t;
 } RrcCsiReportCfg_t;
 
 #ifdef __cplusplus

@@ -51,12 +51,13 @@ typedef struct rrcNzpCsiRsResource_s
 {
     UINT8 nzpCsiRsResourceId;                  /**< nzp-CSI-RS-ResourceId, 0..191 */
     RrcCsiRsResourceMapping_t resourceMapping; /**< resourceMapping */
-    UINT8 powerControlOffset;                  /**< powerControlOffset in dB, -8..15 as two's complement: 0xF8 is -8 */
-    UINT16 scramblingId;                       /**< scramblingID, 0..1023 */
-    UINT8 bitMask;                             /**< RRC_NZP_CSI_RS_RESOURCE_..._PRESENT */
-    UINT8 powerControlOffsetSS;                /**< powerControlOffsetSS, enumeration db-3.. (0..3) */
+    UINT8 powerControlOffset; /**< powerControlOffset, -8..15, in dB, as two's complement; 0xF8 is -8 */
+    UINT16 scramblingId;      /**< scramblingID, 0..1023 */
+    UINT8 bitMask;            /**< bits RRC_NZP_CSI_RS_RESOURCE_..._PRESENT */
+    /** powerControlOffsetSS, NZP_CSI_RS_Resource_powerControlOffsetSS_...: 0 db-3, 1 db0, 2 db3, 3 db6 */
+    UINT8 powerControlOffsetSS;
     RrcCsiResourcePeriodictyAndOffset_t periodicityAndOffset; /**< periodicityAndOffset */
-    UINT8 qclInfoPeriodicCsiRs;                               /**< qcl-InfoPeriodicCSI-RS, TCI state 0..127 */
+    UINT8 qclInfoPeriodicCsiRs;                               /**< qcl-InfoPeriodicCSI-RS, 0..127; a TCI state */
 } RrcNzpCsiRsResource_t;
 
 /** RrcNzpCsiRsResourceSet_t.bitMask: repetition is given */
@@ -70,39 +71,51 @@ typedef struct rrcNzpCsiRsResource_s
 typedef struct rrcNzpCsiRsResourceSet_s
 {
     UINT8 nzpCsiResourceSetId; /**< nzp-CSI-ResourceSetId, 0..63 */
-    UINT16 numNzpCsiRsRes;     /**< entries used of numNzpCsiRsResources, 1..64; only the low 8 bits are sent */
-    UINT8 numNzpCsiRsResources[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES_PER_SET]; /**< nzp-CSI-RS-Resources: the ids, each
-                                                                              0..191 */
-    UINT8 bitMask;                  /**< RRC_NZP_CSI_RS_RESOUECE_SET_..._PRESENCE */
-    UINT8 repetition;               /**< repetition, enumeration on, off (0..1) */
-    UINT8 aperidicTriggeringOffset; /**< aperiodicTriggeringOffset in slots, 0..6 */
-    UINT8 trsInfo;                  /**< trs-Info, enumeration true (0) */
+    UINT16 numNzpCsiRsRes;     /**< entries used of numNzpCsiRsResources, 1..64, of which the low 8 bits are sent */
+    UINT8 numNzpCsiRsResources[RRC_MAX_NROF_NZP_CSI_RS_RESOURCES_PER_SET]; /**< nzp-CSI-RS-Resources, each 0..191; the
+                                                                              ids, despite the name */
+    UINT8 bitMask;                  /**< bits RRC_NZP_CSI_RS_RESOUECE_SET_..._PRESENCE */
+    UINT8 repetition;               /**< repetition, NZP_CSI_RS_ResourceSet_repetition_...: 0 on, 1 off */
+    UINT8 aperidicTriggeringOffset; /**< aperiodicTriggeringOffset, 0..6, in slots */
+    UINT8 trsInfo;                  /**< trs-Info, NZP_CSI_RS_ResourceSet_trs_Info_...: 0 true */
 } RrcNzpCsiRsResourceSet_t;
 
-/** RrcCsiImResource_t.bitMask: csiImResourceElementPattern is given */
+/** RrcCsiImResource_t.bitMask: presence and csiImResourceElementPattern are given */
 #define RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE (1 << 0)
 /** RrcCsiImResource_t.bitMask: freqBand is given */
 #define RRC_CSI_IM_RESOURCE_FREQ_BAND_PRESENCE (1 << 1)
 /** RrcCsiImResource_t.bitMask: periodicityAndOffset is given */
 #define RRC_CSI_IM_RESOURCE_PERIODIC_OFFSET_PRESENCE (1 << 2)
 
-/** RrcCsiImResource_t.presence: csiImResourceElementPattern holds pattern0 */
+/**
+ * RrcCsiImResource_t.presence: chooses csi-IM-ResourceElementPattern.pattern0, in csiImResourceElementPattern.pattern0
+ */
 #define RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN0_PRESENCE (1 << 0)
-/** RrcCsiImResource_t.presence: csiImResourceElementPattern holds pattern1, which wins over pattern0 */
+/**
+ * RrcCsiImResource_t.presence: chooses csi-IM-ResourceElementPattern.pattern1, in csiImResourceElementPattern.pattern1
+ */
 #define RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN1_PRESENCE (1 << 1)
 
 /** CSI-IM-Resource.csi-IM-ResourceElementPattern.pattern0 */
 struct pattern0_s
 {
-    UINT8 subCarrierLocationP0; /**< subcarrierLocation-p0, enumeration s0.. (0..5) */
-    UINT8 symbolLocationP0;     /**< symbolLocation-p0, 0..12 */
+    /**
+     * subcarrierLocation-p0, CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0_subcarrierLocation_p0_...: 0 s0,
+     * 1 s2, 2 s4, 3 s6, 4 s8, 5 s10
+     */
+    UINT8 subCarrierLocationP0;
+    UINT8 symbolLocationP0; /**< symbolLocation-p0, 0..12 */
 };
 
 /** CSI-IM-Resource.csi-IM-ResourceElementPattern.pattern1 */
 struct pattern1_s
 {
-    UINT8 subCarrierLocationP1; /**< subcarrierLocation-p1, enumeration s0.. (0..2) */
-    UINT8 symbolLocationP1;     /**< symbolLocation-p1, 0..13 */
+    /**
+     * subcarrierLocation-p1, CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1_subcarrierLocation_p1_...: 0 s0,
+     * 1 s4, 2 s8
+     */
+    UINT8 subCarrierLocationP1;
+    UINT8 symbolLocationP1; /**< symbolLocation-p1, 0..13 */
 };
 
 /** CSI-IM-Resource.csi-IM-ResourceElementPattern */
@@ -116,9 +129,8 @@ union elementPattern_u
 typedef struct rrcCsiImResource_s
 {
     UINT8 csiImResourceId;                                    /**< csi-IM-ResourceId, 0..31 */
-    UINT8 bitMask;                                            /**< RRC_CSI_IM_RESOURCE_..._PRESENCE of the members */
-    UINT8 presence;                                           /**< RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN0_ or
-                                                                 PATTERN1_PRESENCE: what the next field holds */
+    UINT8 bitMask;                                            /**< bits RRC_CSI_IM_RESOURCE_..._PRESENCE */
+    UINT8 presence;                                           /**< bits RRC_CSI_IM_RESOURCE_ELEMENT_..._PRESENCE */
     union elementPattern_u csiImResourceElementPattern;       /**< csi-IM-ResourceElementPattern */
     RrcCsiFreqOccupation_t freqBand;                          /**< freqBand */
     RrcCsiResourcePeriodictyAndOffset_t periodicityAndOffset; /**< periodicityAndOffset */
@@ -140,9 +152,15 @@ typedef struct rrcCsiSsbResourceSet_s
     UINT8 csiSsbIdx[RRC_MAX_NROF_CSI_SSB_RESOURCE_PER_SET]; /**< csi-SSB-ResourceList, each 0..63 */
 } RrcCsiSsbResourceSet_t;
 
-/** RrcCsiResourceCfg_t.presence: csiRsResourceSetList holds nzpCsiRsResourceSetList */
+/**
+ * RrcCsiResourceCfg_t.presence: chooses csi-RS-ResourceSetList.nzp-CSI-RS-SSB, in
+ * csiRsResourceSetList.nzpCsiRsResourceSetList
+ */
 #define RRC_CSI_RESOURCE_CFG_NZP_CSI_RS_SSB_PRESENCE (1 << 0)
-/** RrcCsiResourceCfg_t.presence: csiRsResourceSetList holds csiImResourceSetList, which wins over the other */
+/**
+ * RrcCsiResourceCfg_t.presence: chooses csi-RS-ResourceSetList.csi-IM-ResourceSetList, in
+ * csiRsResourceSetList.csiImResourceSetList
+ */
 #define RRC_CSI_RESOURCE_CFG_CSI_IM_RESOUECE_SET_LIST_PRESENCE (1 << 1)
 
 /** CSI-ResourceConfig.csi-RS-ResourceSetList.nzp-CSI-RS-SSB. A list is sent when its count is not 0. */
@@ -151,15 +169,15 @@ struct nzpCsiRsResourceSetList_s
     UINT8 numNzpCsiRsResourceSet; /**< entries used of nzpCsiRsResourceSetId, 0..16 */
     UINT8 nzpCsiRsResourceSetId[RRC_MAX_NROF_NZP_CSI_RS_RESOURCE_SETS_PER_CFG]; /**< nzp-CSI-RS-ResourceSetList, each
                                                                                    0..63 */
-    UINT8 numCsiSsbResourceSet; /**< 1 when csiSsbResourceSetId is given, else 0 */
-    UINT8 csiSsbResourceSetId[RRC_MAX_NROF_CSI_SSB_RESOURCE_SETS_PER_CFG]; /**< csi-SSB-ResourceSetList, 0..63 */
+    UINT8 numCsiSsbResourceSet; /**< entries used of csiSsbResourceSetId, 0..1 */
+    UINT8 csiSsbResourceSetId[RRC_MAX_NROF_CSI_SSB_RESOURCE_SETS_PER_CFG]; /**< csi-SSB-ResourceSetList, each 0..63 */
 };
 
 /** CSI-ResourceConfig.csi-RS-ResourceSetList.csi-IM-ResourceSetList */
 struct csiImResourceSetList_s
 {
     UINT8 numCsiImResourceSet; /**< entries used of csiImResourceSetId, 1..16 */
-    UINT8 csiImResourceSetId[RRC_MAX_NROF_CSI_IM_RESOURCE_SETS_PER_CFG]; /**< csi-IM-ResourceSetList, each 0..63 */
+    UINT8 csiImResourceSetId[RRC_MAX_NROF_CSI_IM_RESOURCE_SETS_PER_CFG]; /**< itself, each 0..63 */
 };
 
 /** CSI-ResourceConfig.csi-RS-ResourceSetList */
@@ -174,8 +192,9 @@ typedef struct rrcCsiResourceCfg_s
 {
     UINT8 csiResourceCfgId; /**< csi-ResourceConfigId, 0..111 */
     UINT8 bwpId;            /**< bwp-Id, 0..4 */
-    UINT8 resourceType;     /**< resourceType, enumeration aperiodic.. (0..2) */
-    UINT8 presence;         /**< RRC_CSI_RESOURCE_CFG_..._PRESENCE: what the next field holds */
+    /** resourceType, CSI_ResourceConfig_resourceType_...: 0 aperiodic, 1 semiPersistent, 2 periodic */
+    UINT8 resourceType;
+    UINT8 presence;                                    /**< bits RRC_CSI_RESOURCE_CFG_..._PRESENCE */
     union csiRsResourceSetList_u csiRsResourceSetList; /**< csi-RS-ResourceSetList */
 } RrcCsiResourceCfg_t;
 

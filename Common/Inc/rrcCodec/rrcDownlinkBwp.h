@@ -27,10 +27,11 @@ extern "C"
 /** BWP */
 typedef struct rrcBwp_s
 {
-    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949 */
-    UINT8 subCarrierSpacing;     /**< subcarrierSpacing, enumeration kHz15.. (0..7) */
-    UINT8 bitMask;               /**< RRC_BWP_CYCLEPREFIX_PRESENCE */
-    UINT8 cyclicPrefix;          /**< cyclicPrefix, enumeration extended (0) */
+    UINT16 locationAndBandwidth; /**< locationAndBandwidth, 0..37949; both in one number, the RIV of TS 38.214 */
+    /** subcarrierSpacing, SubcarrierSpacing_...: 0 kHz15, 1 kHz30, 2 kHz60, 3 kHz120, 4 kHz240 */
+    UINT8 subCarrierSpacing;
+    UINT8 bitMask;      /**< bits RRC_BWP_CYCLEPREFIX_PRESENCE */
+    UINT8 cyclicPrefix; /**< cyclicPrefix, BWP_cyclicPrefix_...: 0 extended */
 } RrcBwp_t;
 
 /** RrcPdcchCfgCommon_t.bitMask: controlResourceSetZero is given */
@@ -47,7 +48,7 @@ typedef struct rrcBwp_s
 #define RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_PAGING_PRESENCE (1 << 5)
 /** RrcPdcchCfgCommon_t.bitMask: searchSpaceRa is given */
 #define RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_RA_PRESENCE (1 << 6)
-/** RrcPdcchCfgCommon_t.bitMask: flags firstPDCCH-MonitoringOccasionOfPO, which has no field; nothing is sent for it */
+/** RrcPdcchCfgCommon_t.bitMask: firstPDCCH-MonitoringOccasionOfPO is not sent; it has no field here */
 #define RRC_PDCCH_CFG_COMMON_FIRST_PDCCH_MONITIOR_OCCASION_PRESENCE (1 << 7)
 
 /** PDCCH-ConfigCommon */
@@ -55,7 +56,7 @@ typedef struct rrcPdcchCfgCommon_s
 {
     UINT8 numCommonSearchSpace; /**< entries used of commonSearchSpace, 0..4; the list is sent when it is not 0 */
     RrcSearchSpace_t commonSearchSpace[RRC_MAX_NUM_COMMON_SEARCH_SPACING]; /**< commonSearchSpaceList */
-    UINT8 bitMask;                                    /**< RRC_PDCCH_CFG_COMMON_CONTROL_RESOURCE_SET_ZERO_PRESENCE.. */
+    UINT8 bitMask;                                    /**< bits RRC_PDCCH_CFG_COMMON_..._PRESENCE */
     UINT8 controlResourceSetZero;                     /**< controlResourceSetZero, 0..15 */
     RrcControlResourceSet_t commonControlResourceSet; /**< commonControlResourceSet */
     UINT8 searchSpaceZero;                            /**< searchSpaceZero, 0..15 */
@@ -71,7 +72,7 @@ typedef struct rrcPdcchCfgCommon_s
 /** PDSCH-ConfigCommon */
 typedef struct rrcPdschCfgCommon_s
 {
-    UINT8 bitMask;                                                  /**< RRC_PDSCH_COMMON_PRESENCE */
+    UINT8 bitMask;                                                  /**< bits RRC_PDSCH_COMMON_PRESENCE */
     RrcPdschTimeDomainResourceAllocList_t pdschTimeDomainAllocList; /**< pdsch-TimeDomainAllocationList */
 } RrcPdschCfgCommon_t;
 
@@ -84,7 +85,7 @@ typedef struct rrcPdschCfgCommon_s
 typedef struct rrcBwpDlCommon_s
 {
     RrcBwp_t genericParam;              /**< genericParameters */
-    UINT8 bitMask;                      /**< RRC_BWP_DL_COMMON_PDCCH_CFG_COMMON_PRESENCE.. */
+    UINT8 bitMask;                      /**< bits RRC_BWP_DL_COMMON_..._CFG_COMMON_PRESENCE */
     RrcPdcchCfgCommon_t pdcchCfgCommon; /**< pdcch-ConfigCommon */
     RrcPdschCfgCommon_t pdschCfgCommon; /**< pdsch-ConfigCommon */
 } RrcBwpDlCommon_t;
@@ -97,27 +98,32 @@ typedef struct rrcBwpDlCommon_s
 /** SPS-Config */
 typedef struct rrcSpsCfg_s
 {
-    UINT8 periodicity;     /**< periodicity, enumeration ms10.. (0..15) */
+    /**
+     * periodicity, SPS_Config_periodicity_...: 0 ms10, 1 ms20, 2 ms32, 3 ms40, 4 ms64, 5 ms80, 6 ms128, 7 ms160,
+     * 8 ms320, 9 ms640
+     */
+    UINT8 periodicity;
     UINT8 nrofHardProcess; /**< nrofHARQ-Processes, 1..8 */
-    UINT8 bitMask;         /**< RRC_SPS_CFG_N1_PUCCH_AN_PRESENCE.. */
+    UINT8 bitMask;         /**< bits RRC_SPS_CFG_..._PRESENCE */
     UINT8 n1PucchAn;       /**< n1PUCCH-AN, 0..127 */
-    UINT8 mcsTable;        /**< mcs-Table, enumeration qam64LowSE (0) */
+    UINT8 mcsTable;        /**< mcs-Table, SPS_Config_mcs_Table_...: 0 qam64LowSE */
 } RrcSpsCfg_t;
 
-/** RrcRadioLinkMonitorRs_t.presence: the alternative of detectionResource; the second wins */
+/** RrcRadioLinkMonitorRs_t.presence: chooses detectionResource.ssb-Index, in detectionResource.ssbIdx */
 #define RRC_RADIO_LINK_MONITOR_SSB_PRESENCE (1 << 0)
+/** RrcRadioLinkMonitorRs_t.presence: chooses detectionResource.csi-RS-Index, in detectionResource.csiRsIdx */
 #define RRC_RADIO_LINK_MONITOR_CSI_RS_PRESENCE (1 << 1)
 
 /** RadioLinkMonitoringRS */
 typedef struct rrcRadioLinkMonitorRs_s
 {
     UINT8 radioLinkMonitorRsId; /**< radioLinkMonitoringRS-Id, 0..9 */
-    UINT8 purpose;              /**< purpose, enumeration beamFailure, rlf, both (0..2) */
-    UINT8 presence;             /**< RRC_RADIO_LINK_MONITOR_SSB_PRESENCE.. */
+    UINT8 purpose;              /**< purpose, RadioLinkMonitoringRS_purpose_...: 0 beamFailure, 1 rlf, 2 both */
+    UINT8 presence;             /**< bits RRC_RADIO_LINK_MONITOR_..._PRESENCE */
     union
     {
-        UINT8 ssbIdx;    /**< ssb-Index, 0..63; RRC_RADIO_LINK_MONITOR_SSB_PRESENCE */
-        UINT8 csiRsIdx;  /**< csi-RS-Index, 0..191; RRC_RADIO_LINK_MONITOR_CSI_RS_PRESENCE */
+        UINT8 ssbIdx;    /**< ssb-Index, 0..63 */
+        UINT8 csiRsIdx;  /**< csi-RS-Index, 0..191 */
     } detectionResource; /**< detectionResource */
 } RrcRadioLinkMonitorRs_t;
 
@@ -130,14 +136,22 @@ typedef struct rrcRadioLinkMonitorRs_s
 typedef struct rrcRlmCfg_s
 {
     UINT8 numFailDetectResourceAddMod; /**< entries used of failDetectResource, 0..10 */
-    /** failureDetectionResourcesToAddModList */
-    RrcRadioLinkMonitorRs_t failDetectResource[RRC_MAX_NROF_FAIL_DETECT_RESOURCE];
-    UINT8 numFailDetectResourceRel; /**< entries used of failDetectResourceId, 0..10 */
-    /** failureDetectionResourcesToReleaseList, each 0..9 */
-    UINT8 failDetectResourceId[RRC_MAX_NROF_FAIL_DETECT_RESOURCE];
-    UINT8 bitMask;                     /**< RRC_RADIO_LINK_MONITOR_BEAM_FAIL_MAX_COUNT_PRESENCE.. */
-    UINT8 beamFailureInstanceMaxCount; /**< beamFailureInstanceMaxCount, enumeration n1.. (0..7) */
-    UINT8 beamFailureDetectionTimer;   /**< beamFailureDetectionTimer, enumeration pbfd1.. (0..7) */
+    RrcRadioLinkMonitorRs_t
+        failDetectResource[RRC_MAX_NROF_FAIL_DETECT_RESOURCE];     /**< failureDetectionResourcesToAddModList */
+    UINT8 numFailDetectResourceRel;                                /**< entries used of failDetectResourceId, 0..10 */
+    UINT8 failDetectResourceId[RRC_MAX_NROF_FAIL_DETECT_RESOURCE]; /**< failureDetectionResourcesToReleaseList, each
+                                                                      0..9 */
+    UINT8 bitMask;                                                 /**< bits RRC_RADIO_LINK_MONITOR_BEAM_FAIL_... */
+    /**
+     * beamFailureInstanceMaxCount, RadioLinkMonitoringConfig_beamFailureInstanceMaxCount_...: 0 n1, 1 n2, 2 n3, 3 n4,
+     * 4 n5, 5 n6, 6 n8, 7 n10
+     */
+    UINT8 beamFailureInstanceMaxCount;
+    /**
+     * beamFailureDetectionTimer, RadioLinkMonitoringConfig_beamFailureDetectionTimer_...: 0 pbfd1, 1 pbfd2, 2 pbfd3,
+     * 3 pbfd4, 4 pbfd5, 5 pbfd6, 6 pbfd8, 7 pbfd10
+     */
+    UINT8 beamFailureDetectionTimer;
 } RrcRlmCfg_t;
 
 /** RrcBwpDlDedicated_t.bitMask: pdcchCfg is given */
@@ -152,7 +166,7 @@ typedef struct rrcRlmCfg_s
 /** BWP-DownlinkDedicated */
 typedef struct rrcBwpDlDedicated_s
 {
-    UINT8 bitMask;                   /**< RRC_BWP_DL_DEDI_PDCCH_CFG_PRESENCE.. */
+    UINT8 bitMask;                   /**< bits RRC_BWP_DL_DEDI_..._CFG_PRESENCE */
     RrcPdcchCfg_t pdcchCfg;          /**< pdcch-Config */
     RrcPdschCfg_t pdschCfg;          /**< pdsch-Config */
     RrcSpsCfg_t spsCfg;              /**< sps-Config */
@@ -168,7 +182,7 @@ typedef struct rrcBwpDlDedicated_s
 typedef struct rrcBwpDl_s
 {
     UINT8 bwpId;                      /**< bwp-Id, 0..4 */
-    UINT8 bitMask;                    /**< RRC_BWP_DL_COMMON_PRESENCE.. */
+    UINT8 bitMask;                    /**< bits RRC_BWP_DL_..._PRESENCE */
     RrcBwpDlCommon_t bwpCommon;       /**< bwp-Common */
     RrcBwpDlDedicated_t bwpDedicated; /**< bwp-Dedicated */
 } RrcBwpDl_t;

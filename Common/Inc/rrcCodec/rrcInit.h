@@ -1,18 +1,16 @@
 #ifndef RRCINIT_H
 #define RRCINIT_H
 
-#include <string.h>
-
 #include "cellgroupcfg_export.h"
 #include "rrcCodec/rrcCodec.h"
+#include "rrcCodec/rrcRecords.h"
 
 /*
  * rrcInit(pRecord) makes any record of the cell group empty, whatever its memory held: masks and counts 0, and 0 in
  * each field that is sent without being switched on. It composes to what a record cleared whole composes to.
  *
- * It stays cheap however large the record is: records and arrays inside a record of more than 512 octets that a mask or
- * a count guards are left as they are when they take more than 64 octets. So each record is initialised by the one who
- * switches it on:
+ * What lies behind a mask or a count is not initialised with it, so that a cell group takes some hundred octets and not
+ * ten million. Whoever switches a record on initialises it, large or small:
  *
  *     rrcInit(record);
  *     record->bitMask |= RRC_CELLGROUPCFG_SPCELL_PRESENCE;
@@ -20,8 +18,12 @@
  *     record->rlcBearerAddModNum = 1;
  *     rrcInit(&record->rlcBearerCfg[0]);
  *
- * pRecord is a pointer to one record, of any type of rrcCodec or gnbCommon, never null. The functions below are the
- * initialisers of the large ones; rrcInit takes them by the pointer's type and clears every other record whole.
+ * pRecord is a pointer to one record, never null: to a structure of rrcCodec or gnbCommon that has a name of its own.
+ * Anything else, a pointer's address too, does not compile, in C as in C++.
+ *
+ * With RRC_INIT_PATTERN defined, in the program or in the files that fill records, rrcInit fills all that lies behind
+ * masks and counts with octets 0xA5. A record that is switched on and not initialised is then refused, or shows them in
+ * what is sent; without it, it holds whatever its memory held, or 0. docs/record.md says how tools name the place.
  */
 
 #ifdef __cplusplus
@@ -29,109 +31,51 @@ extern "C"
 {
 #endif
 
-CELLGROUPCFG_API void rrcInitCellGroupCfg(RrcCellGroupCfg_t* pRrcCellGroupCfg);
-CELLGROUPCFG_API void rrcInitSpCellCfg(RrcSpCellCfg_t* pRrcSpCellCfg);
-CELLGROUPCFG_API void rrcInitReconfWithSync(RrcReconfWithSync_t* pRrcReconfWithSync);
-CELLGROUPCFG_API void rrcInitRachCfgDedi(RrcRachCfgDedi_t* pRrcRachCfgDedi);
-CELLGROUPCFG_API void rrcInitCfra(RrcCfra_t* pRrcCfra);
-CELLGROUPCFG_API void rrcInitSsirs(RrcSsirs_t* pRrcSsirs);
-CELLGROUPCFG_API void rrcInitCsirsResource(RrcCsirsResource_t* pRrcCsirsResource);
-CELLGROUPCFG_API void rrcInitServingCellCfgCommon(RrcServingCellCfgCommon_t* pRrcServingCellCfgCommon);
-CELLGROUPCFG_API void rrcInitScellCfg(RrcScellCfg_t* pRrcScellCfg);
-CELLGROUPCFG_API void rrcInitServingCellCfg(RrcServingCellCfg_t* pRrcServingCellCfg);
-CELLGROUPCFG_API void rrcInitTddUlDlCfgDedi(RrcTddUlDlCfgDedi_t* pRrcTddUlDlCfgDedi);
-CELLGROUPCFG_API void rrcInitBwpDl(RrcBwpDl_t* pRrcBwpDl);
-CELLGROUPCFG_API void rrcInitBwpDlDedicated(RrcBwpDlDedicated_t* pRrcBwpDlDedicated);
-CELLGROUPCFG_API void rrcInitPdcchCfg(RrcPdcchCfg_t* pRrcPdcchCfg);
-CELLGROUPCFG_API void rrcInitPdschCfg(RrcPdschCfg_t* pRrcPdschCfg);
-CELLGROUPCFG_API void rrcInitUlCfg(RrcUlCfg_t* pRrcUlCfg);
-CELLGROUPCFG_API void rrcInitBwpUl(RrcBwpUl_t* pRrcBwpUl);
-CELLGROUPCFG_API void rrcInitBwpUlDedi(RrcBwpUlDedi_t* pRrcBwpUlDedi);
-CELLGROUPCFG_API void rrcInitPucchCfg(RrcPucchCfg_t* pRrcPucchCfg);
-CELLGROUPCFG_API void rrcInitSrsCfg(RrcSrsCfg_t* pRrcSrsCfg);
-CELLGROUPCFG_API void rrcInitPdcchServingCellCfg(RrcPdcchServingCellCfg_t* pRrcPdcchServingCellCfg);
-CELLGROUPCFG_API void rrcInitSlotFormatInd(RrcSlotFormatInd_t* pRrcSlotFormatInd);
-CELLGROUPCFG_API void rrcInitSlotFormatCombPerCell(RrcSlotFormatCombPerCell_t* pRrcSlotFormatCombPerCell);
-CELLGROUPCFG_API void rrcInitCsiMeasCfg(RrcCsiMeasCfg_t* pRrcCsiMeasCfg);
-CELLGROUPCFG_API void rrcInitCsiReportCfg(RrcCsiReportCfg_t* pRrcCsiReportCfg);
-CELLGROUPCFG_API void rrcInitPortIndexFor8RanksList(RRCPortIndexFor8Ranks_t* pRRCPortIndexFor8Ranks);
-CELLGROUPCFG_API void
-rrcInitCsiAperiodicTriggerStateList(RrcCsiAperiodicTriggerStateList_t* pRrcCsiAperiodicTriggerStateList);
+/** What rrcInit calls with the number of the record's type (rrcRecords.h); which of the two is RRC_INIT_PATTERN's. */
+CELLGROUPCFG_API void rrcInitRecord(void* pRecord, UINT32 number);
+CELLGROUPCFG_API void rrcInitRecordWithPattern(void* pRecord, UINT32 number);
 
 #ifdef __cplusplus
 }
 #endif
 
-// One line per large record.
-// clang-format off
-#ifdef __cplusplus
-inline void rrcInit(RrcCellGroupCfg_t* pRecord) { rrcInitCellGroupCfg(pRecord); }
-inline void rrcInit(RrcSpCellCfg_t* pRecord) { rrcInitSpCellCfg(pRecord); }
-inline void rrcInit(RrcReconfWithSync_t* pRecord) { rrcInitReconfWithSync(pRecord); }
-inline void rrcInit(RrcRachCfgDedi_t* pRecord) { rrcInitRachCfgDedi(pRecord); }
-inline void rrcInit(RrcCfra_t* pRecord) { rrcInitCfra(pRecord); }
-inline void rrcInit(RrcSsirs_t* pRecord) { rrcInitSsirs(pRecord); }
-inline void rrcInit(RrcCsirsResource_t* pRecord) { rrcInitCsirsResource(pRecord); }
-inline void rrcInit(RrcServingCellCfgCommon_t* pRecord) { rrcInitServingCellCfgCommon(pRecord); }
-inline void rrcInit(RrcScellCfg_t* pRecord) { rrcInitScellCfg(pRecord); }
-inline void rrcInit(RrcServingCellCfg_t* pRecord) { rrcInitServingCellCfg(pRecord); }
-inline void rrcInit(RrcTddUlDlCfgDedi_t* pRecord) { rrcInitTddUlDlCfgDedi(pRecord); }
-inline void rrcInit(RrcBwpDl_t* pRecord) { rrcInitBwpDl(pRecord); }
-inline void rrcInit(RrcBwpDlDedicated_t* pRecord) { rrcInitBwpDlDedicated(pRecord); }
-inline void rrcInit(RrcPdcchCfg_t* pRecord) { rrcInitPdcchCfg(pRecord); }
-inline void rrcInit(RrcPdschCfg_t* pRecord) { rrcInitPdschCfg(pRecord); }
-inline void rrcInit(RrcUlCfg_t* pRecord) { rrcInitUlCfg(pRecord); }
-inline void rrcInit(RrcBwpUl_t* pRecord) { rrcInitBwpUl(pRecord); }
-inline void rrcInit(RrcBwpUlDedi_t* pRecord) { rrcInitBwpUlDedi(pRecord); }
-inline void rrcInit(RrcPucchCfg_t* pRecord) { rrcInitPucchCfg(pRecord); }
-inline void rrcInit(RrcSrsCfg_t* pRecord) { rrcInitSrsCfg(pRecord); }
-inline void rrcInit(RrcPdcchServingCellCfg_t* pRecord) { rrcInitPdcchServingCellCfg(pRecord); }
-inline void rrcInit(RrcSlotFormatInd_t* pRecord) { rrcInitSlotFormatInd(pRecord); }
-inline void rrcInit(RrcSlotFormatCombPerCell_t* pRecord) { rrcInitSlotFormatCombPerCell(pRecord); }
-inline void rrcInit(RrcCsiMeasCfg_t* pRecord) { rrcInitCsiMeasCfg(pRecord); }
-inline void rrcInit(RrcCsiReportCfg_t* pRecord) { rrcInitCsiReportCfg(pRecord); }
-inline void rrcInit(RRCPortIndexFor8Ranks_t* pRecord) { rrcInitPortIndexFor8RanksList(pRecord); }
-inline void rrcInit(RrcCsiAperiodicTriggerStateList_t* pRecord) { rrcInitCsiAperiodicTriggerStateList(pRecord); }
-// clang-format on
-template <typename Record>
-void rrcInit(Record* pRecord)
-{
-    static_assert(sizeof(Record) <= 512, "a large record has an initialiser of its own");
-    memset(pRecord, 0, sizeof(Record));
-}
-// clang-format off
+#ifdef RRC_INIT_PATTERN
+#define RRC_INIT_RECORD rrcInitRecordWithPattern
 #else
-#define rrcInit(pRecord) \
-    _Generic(*(pRecord), \
-        RrcCellGroupCfg_t: rrcInitCellGroupCfg((RrcCellGroupCfg_t*)(void*)(pRecord)), \
-        RrcSpCellCfg_t: rrcInitSpCellCfg((RrcSpCellCfg_t*)(void*)(pRecord)), \
-        RrcReconfWithSync_t: rrcInitReconfWithSync((RrcReconfWithSync_t*)(void*)(pRecord)), \
-        RrcRachCfgDedi_t: rrcInitRachCfgDedi((RrcRachCfgDedi_t*)(void*)(pRecord)), \
-        RrcCfra_t: rrcInitCfra((RrcCfra_t*)(void*)(pRecord)), \
-        RrcSsirs_t: rrcInitSsirs((RrcSsirs_t*)(void*)(pRecord)), \
-        RrcCsirsResource_t: rrcInitCsirsResource((RrcCsirsResource_t*)(void*)(pRecord)), \
-        RrcServingCellCfgCommon_t: rrcInitServingCellCfgCommon((RrcServingCellCfgCommon_t*)(void*)(pRecord)), \
-        RrcScellCfg_t: rrcInitScellCfg((RrcScellCfg_t*)(void*)(pRecord)), \
-        RrcServingCellCfg_t: rrcInitServingCellCfg((RrcServingCellCfg_t*)(void*)(pRecord)), \
-        RrcTddUlDlCfgDedi_t: rrcInitTddUlDlCfgDedi((RrcTddUlDlCfgDedi_t*)(void*)(pRecord)), \
-        RrcBwpDl_t: rrcInitBwpDl((RrcBwpDl_t*)(void*)(pRecord)), \
-        RrcBwpDlDedicated_t: rrcInitBwpDlDedicated((RrcBwpDlDedicated_t*)(void*)(pRecord)), \
-        RrcPdcchCfg_t: rrcInitPdcchCfg((RrcPdcchCfg_t*)(void*)(pRecord)), \
-        RrcPdschCfg_t: rrcInitPdschCfg((RrcPdschCfg_t*)(void*)(pRecord)), \
-        RrcUlCfg_t: rrcInitUlCfg((RrcUlCfg_t*)(void*)(pRecord)), \
-        RrcBwpUl_t: rrcInitBwpUl((RrcBwpUl_t*)(void*)(pRecord)), \
-        RrcBwpUlDedi_t: rrcInitBwpUlDedi((RrcBwpUlDedi_t*)(void*)(pRecord)), \
-        RrcPucchCfg_t: rrcInitPucchCfg((RrcPucchCfg_t*)(void*)(pRecord)), \
-        RrcSrsCfg_t: rrcInitSrsCfg((RrcSrsCfg_t*)(void*)(pRecord)), \
-        RrcPdcchServingCellCfg_t: rrcInitPdcchServingCellCfg((RrcPdcchServingCellCfg_t*)(void*)(pRecord)), \
-        RrcSlotFormatInd_t: rrcInitSlotFormatInd((RrcSlotFormatInd_t*)(void*)(pRecord)), \
-        RrcSlotFormatCombPerCell_t: rrcInitSlotFormatCombPerCell((RrcSlotFormatCombPerCell_t*)(void*)(pRecord)), \
-        RrcCsiMeasCfg_t: rrcInitCsiMeasCfg((RrcCsiMeasCfg_t*)(void*)(pRecord)), \
-        RrcCsiReportCfg_t: rrcInitCsiReportCfg((RrcCsiReportCfg_t*)(void*)(pRecord)), \
-        RRCPortIndexFor8Ranks_t: rrcInitPortIndexFor8RanksList((RRCPortIndexFor8Ranks_t*)(void*)(pRecord)), \
-        RrcCsiAperiodicTriggerStateList_t: rrcInitCsiAperiodicTriggerStateList((RrcCsiAperiodicTriggerStateList_t*)(void*)(pRecord)), \
-        default: (void)memset((pRecord), 0, sizeof *(pRecord)))
+#define RRC_INIT_RECORD rrcInitRecord
 #endif
-// clang-format on
+
+#ifdef __cplusplus
+
+/** The number of a record's type; other types have none. */
+template <typename Type>
+struct RrcRecordNumber
+{
+    static constexpr bool isRecord = false;
+    static constexpr UINT32 number = 0;
+};
+#define RRC_RECORD_NUMBER(Type, theNumber)                                                                             \
+    template <>                                                                                                        \
+    struct RrcRecordNumber<Type>                                                                                       \
+    {                                                                                                                  \
+        static constexpr bool isRecord = true;                                                                         \
+        static constexpr UINT32 number = theNumber;                                                                    \
+    };
+RRC_RECORDS(RRC_RECORD_NUMBER)
+#undef RRC_RECORD_NUMBER
+
+template <typename Type>
+void rrcInit(Type* pRecord)
+{
+    static_assert(RrcRecordNumber<Type>::isRecord, "rrcInit takes the address of a record of the cell group");
+    RRC_INIT_RECORD(pRecord, RrcRecordNumber<Type>::number);
+}
+
+#else
+
+#define RRC_RECORD_NUMBER(Type, theNumber) , Type : theNumber
+#define rrcInit(pRecord) RRC_INIT_RECORD((pRecord), _Generic(*(pRecord)RRC_RECORDS(RRC_RECORD_NUMBER)))
+
+#endif
 
 #endif

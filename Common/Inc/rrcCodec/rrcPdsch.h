@@ -40,8 +40,9 @@ extern "C"
 /** PDSCH-Config.prb-BundlingType.staticBundling */
 typedef struct staticBundingType
 {
-    UINT8 bitMask;    /**< RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE */
-    UINT8 bundleSize; /**< bundleSize, enumeration n4, wideband (0..1) */
+    UINT8 bitMask; /**< bits RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE */
+    /** bundleSize, PDSCH_Config_prb_BundlingType_staticBundling_bundleSize_...: 0 n4, 1 wideband */
+    UINT8 bundleSize;
 } staticBundingType;
 
 /** dynamicBundingType.bitMask: bundleSizeSet1 is given */
@@ -52,9 +53,14 @@ typedef struct staticBundingType
 /** PDSCH-Config.prb-BundlingType.dynamicBundling */
 typedef struct dynamicBundingType
 {
-    UINT8 bitMask;        /**< RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET1_PRESENCE.. */
-    UINT8 bundleSizeSet1; /**< bundleSizeSet1, enumeration n4, wideband, n2-wideband, n4-wideband (0..3) */
-    UINT8 bundleSIzeSet2; /**< bundleSizeSet2, enumeration n4, wideband (0..1) */
+    UINT8 bitMask; /**< bits RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_..._PRESENCE */
+    /**
+     * bundleSizeSet1, PDSCH_Config_prb_BundlingType_dynamicBundling_bundleSizeSet1_...: 0 n4, 1 wideband,
+     * 2 n2-wideband, 3 n4-wideband
+     */
+    UINT8 bundleSizeSet1;
+    /** bundleSizeSet2, PDSCH_Config_prb_BundlingType_dynamicBundling_bundleSizeSet2_...: 0 n4, 1 wideband */
+    UINT8 bundleSIzeSet2;
 } dynamicBundingType;
 
 /** RrcPtrsDlCfg_t.bitMask: freqDensity is given */
@@ -69,11 +75,12 @@ typedef struct dynamicBundingType
 /** PTRS-DownlinkConfig */
 typedef struct rrcPtrsDlCfg_s
 {
-    UINT8 bitMask;               /**< RRC_PTRS_DL_CFG_FREQ_DENSITY_PRESENCE.. */
-    UINT16 freqDensity[2];       /**< frequencyDensity, each 1..276 */
-    UINT8 timeDensity[3];        /**< timeDensity, each 0..29 */
-    UINT8 epreRatio;             /**< epre-Ratio, 0..3 */
-    UINT8 resourceElementOffset; /**< resourceElementOffset, enumeration offset01, offset10, offset11 (0..2) */
+    UINT8 bitMask;         /**< bits RRC_PTRS_DL_CFG_..._PRESENCE */
+    UINT16 freqDensity[2]; /**< frequencyDensity, each 1..276, in PRBs */
+    UINT8 timeDensity[3];  /**< timeDensity, each 0..29; MCS indices */
+    UINT8 epreRatio;       /**< epre-Ratio, 0..3; an index of TS 38.214 4.1 */
+    /** resourceElementOffset, PTRS_DownlinkConfig_resourceElementOffset_...: 0 offset01, 1 offset10, 2 offset11 */
+    UINT8 resourceElementOffset;
 } RrcPtrsDlCfg_t;
 
 /** RrcDmrsDlCfg_t.bitMask: dmrsType is given */
@@ -92,16 +99,20 @@ typedef struct rrcPtrsDlCfg_s
 /** DMRS-DownlinkConfig */
 typedef struct rrcDmrsDlCfg_s
 {
-    UINT8 bitMask;                  /**< RRC_DMRS_DL_CFG_TYPE_PRESENCE.. */
-    UINT8 dmrsType;                 /**< dmrs-Type, enumeration type2 (0) */
-    UINT8 dmrsAdditionalPos;        /**< dmrs-AdditionalPosition, enumeration pos0, pos1, pos3 (0..2) */
-    UINT8 maxLength;                /**< maxLength, enumeration len2 (0) */
+    UINT8 bitMask;  /**< bits RRC_DMRS_DL_CFG_..._PRESENCE */
+    UINT8 dmrsType; /**< dmrs-Type, DMRS_DownlinkConfig_dmrs_Type_...: 0 type2 */
+    /** dmrs-AdditionalPosition, DMRS_DownlinkConfig_dmrs_AdditionalPosition_...: 0 pos0, 1 pos1, 2 pos3 */
+    UINT8 dmrsAdditionalPos;
+    UINT8 maxLength;                /**< maxLength, DMRS_DownlinkConfig_maxLength_...: 0 len2 */
     UINT16 scramblingID0;           /**< scramblingID0, 0..65535 */
     UINT16 scramblingID1;           /**< scramblingID1, 0..65535 */
     RrcPtrsDlCfg_t phaseTrackingRS; /**< phaseTrackingRS */
 } RrcDmrsDlCfg_t;
 
-/** RrcQclInfo_t.Presence: refSignal is an SSB; without the bit it is a CSI-RS */
+/**
+ * RrcQclInfo_t.Presence: chooses referenceSignal.ssb, in refSignal.ssbIdx, else referenceSignal.csi-rs, in
+ * refSignal.csiRsIdx
+ */
 #define RRC_QCI_INFO_SSB_IDX_PRESENCE (1 << 0)
 
 /** RrcQclInfo_t.bitMask: cellIdx is given */
@@ -112,14 +123,14 @@ typedef struct rrcDmrsDlCfg_s
 /** QCL-Info */
 typedef struct rrcQclInfo_s
 {
-    UINT8 qclType;  /**< qcl-Type, enumeration typeA.. (0..3) */
-    UINT8 Presence; /**< RRC_QCI_INFO_SSB_IDX_PRESENCE */
+    UINT8 qclType;  /**< qcl-Type, QCL_Info_qcl_Type_...: 0 typeA, 1 typeB, 2 typeC, 3 typeD */
+    UINT8 Presence; /**< bits RRC_QCI_INFO_SSB_IDX_PRESENCE */
     union
     {
-        UINT8 ssbIdx;   /**< ssb, 0..63; RRC_QCI_INFO_SSB_IDX_PRESENCE */
+        UINT8 ssbIdx;   /**< ssb, 0..63 */
         UINT8 csiRsIdx; /**< csi-rs, 0..191 */
     } refSignal;        /**< referenceSignal */
-    UINT8 bitMask;      /**< RRC_QCI_INFO_CELL_PRESENCE.. */
+    UINT8 bitMask;      /**< bits RRC_QCI_INFO_..._PRESENCE */
     UINT8 cellIdx;      /**< cell, 0..31 */
     UINT8 bwpId;        /**< bwp-Id, 0..4 */
 } RrcQclInfo_t;
@@ -132,7 +143,7 @@ typedef struct rrcTciState_s
 {
     UINT8 tciStateId;      /**< tci-StateId, 0..127 */
     RrcQclInfo_t qclType1; /**< qcl-Type1 */
-    UINT8 bitMask;         /**< RRC_TCI_STATE_QCL_TYPE2_PRESENCE */
+    UINT8 bitMask;         /**< bits RRC_TCI_STATE_QCL_TYPE2_PRESENCE */
     RrcQclInfo_t qclType2; /**< qcl-Type2 */
 } RrcTciState_t;
 
@@ -142,24 +153,26 @@ typedef struct rrcTciState_s
 /** PDSCH-TimeDomainResourceAllocation */
 typedef struct rrcPdschTimeDomainResourceAlloc_s
 {
-    UINT8 mappingType;    /**< mappingType, enumeration typeA, typeB (0..1) */
-    UINT8 startSymAdnLen; /**< startSymbolAndLength, 0..127 */
-    UINT8 bitMask;        /**< RRC_PDSCH_TIMING_KO_PRESENCE */
-    UINT8 k0;             /**< k0, 0..32 */
+    /** mappingType, PDSCH_TimeDomainResourceAllocation_mappingType_...: 0 typeA, 1 typeB */
+    UINT8 mappingType;
+    UINT8 startSymAdnLen; /**< startSymbolAndLength, 0..127; both in one number, the SLIV of TS 38.214 */
+    UINT8 bitMask;        /**< bits RRC_PDSCH_TIMING_KO_PRESENCE */
+    UINT8 k0;             /**< k0, 0..32, in slots */
 } RrcPdschTimeDomainResourceAlloc_t;
 
 /** PDSCH-TimeDomainResourceAllocationList */
 typedef struct rrcPdschTimeDomainResourceAllocList_s
 {
     UINT8 num;                                                      /**< entries used of alloc, 1..16 */
-    RrcPdschTimeDomainResourceAlloc_t alloc[RRC_MAX_NROF_DL_ALLOC]; /**< the allocations */
+    RrcPdschTimeDomainResourceAlloc_t alloc[RRC_MAX_NROF_DL_ALLOC]; /**< itself; the allocations */
 } RrcPdschTimeDomainResourceAllocList_t;
 
-/** RrcRateMatchPatternGroup_t.presense: the level of every pattern of the group; the second wins */
+/** RrcRateMatchPatternGroup_t.presense: chooses [].cellLevel, in rateMatchPatternGroup.cellLevel; of every pattern */
 #define RRC_RATE_MATCH_PATTERN_GROUP_CELL_LEVEL_PRESENCE (1 << 0)
+/** RrcRateMatchPatternGroup_t.presense: chooses [].bwpLevel, in rateMatchPatternGroup.bwpLevel; of every pattern */
 #define RRC_RATE_MATCH_PATTERN_GROUP_BWP_LEVEL_PRESENCE (1 << 1)
 
-/** One pattern of a group */
+/** RateMatchPatternGroup[]; one pattern of a group */
 union rateMatchPatternGroup_u
 {
     UINT8 cellLevel; /**< cellLevel, 0..3 */
@@ -170,8 +183,9 @@ union rateMatchPatternGroup_u
 typedef struct rrcRateMatchPatternGroup_s
 {
     UINT8 numRateMatchPattern; /**< entries used of rateMatchPatternGroup, 1..8 */
-    UINT8 presense;            /**< RRC_RATE_MATCH_PATTERN_GROUP_CELL_LEVEL_PRESENCE.. */
-    union rateMatchPatternGroup_u rateMatchPatternGroup[RRC_RATE_MATCH_PATTERN_GROUP_MAX]; /**< the patterns */
+    UINT8 presense;            /**< bits RRC_RATE_MATCH_PATTERN_GROUP_..._LEVEL_PRESENCE */
+    /** itself; the patterns, all of one level */
+    union rateMatchPatternGroup_u rateMatchPatternGroup[RRC_RATE_MATCH_PATTERN_GROUP_MAX];
 } RrcRateMatchPatternGroup_t;
 
 /** RrcZpCsiRsResource_t.bitMask: periodictityAndOffset is given */
@@ -182,7 +196,7 @@ typedef struct rrcZpCsiRsResource_s
 {
     UINT8 zpCsiRsResourId;                     /**< zp-CSI-RS-ResourceId, 0..31 */
     RrcCsiRsResourceMapping_t resourceMapping; /**< resourceMapping */
-    UINT8 bitMask;                             /**< RRC_ZP_CSI_RS_RESOURCE_PERIODICITY_OFFSET_PRESENCE */
+    UINT8 bitMask;                             /**< bits RRC_ZP_CSI_RS_RESOURCE_PERIODICITY_OFFSET_PRESENCE */
     RrcCsiResourcePeriodictyAndOffset_t periodictityAndOffset; /**< periodicityAndOffset */
 } RrcZpCsiRsResource_t;
 
@@ -194,8 +208,9 @@ typedef struct rrcZpCsiRsResourceSet_s
     UINT8 zpCsiRsResourId[RRC_MAX_NROF_ZP_CSI_RS_RESOURCE_PER_SET]; /**< zp-CSI-RS-ResourceIdList, each 0..31 */
 } RrcZpCsiRsResourceSet_t;
 
-/** RrcPdschCfg_t.prbBitmask: the alternative of prb-BundlingType; the second wins */
+/** RrcPdschCfg_t.prbBitmask: chooses prb-BundlingType.staticBundling, in staticbundingtype */
 #define RRC_PDSCH_CFG_PRB_BUNDLING_STATIC (1 << 0)
+/** RrcPdschCfg_t.prbBitmask: chooses prb-BundlingType.dynamicBundling, in dynamicbundingtype */
 #define RRC_PDSCH_CFG_PRB_BUNDLING_DYNAMIC (1 << 1)
 
 /** RrcPdschCfg_t.bitMask: dataScramblingIDPdsch is given */
@@ -224,12 +239,16 @@ typedef struct rrcZpCsiRsResourceSet_s
 /** PDSCH-Config */
 typedef struct rrcPdschCfg_s
 {
-    UINT8 resourceAllocation; /**< resourceAllocation, enumeration resourceAllocationType0.. (0..2), always sent */
-    UINT8 rbgSize;            /**< rbg-Size, enumeration config1, config2 (0..1), always sent */
-    UINT8 prbBitmask;         /**< RRC_PDSCH_CFG_PRB_BUNDLING_STATIC or RRC_PDSCH_CFG_PRB_BUNDLING_DYNAMIC */
-    staticBundingType staticbundingtype;                    /**< prb-BundlingType.staticBundling */
+    /**
+     * resourceAllocation, always sent, PDSCH_Config_resourceAllocation_...: 0 resourceAllocationType0,
+     * 1 resourceAllocationType1, 2 dynamicSwitch
+     */
+    UINT8 resourceAllocation;
+    UINT8 rbgSize;                       /**< rbg-Size, always sent, PDSCH_Config_rbg_Size_...: 0 config1, 1 config2 */
+    UINT8 prbBitmask;                    /**< bits RRC_PDSCH_CFG_PRB_BUNDLING_... */
+    staticBundingType staticbundingtype; /**< prb-BundlingType.staticBundling */
     dynamicBundingType dynamicbundingtype;                  /**< prb-BundlingType.dynamicBundling */
-    UINT16 bitMask;                                         /**< RRC_PDSCH_CFG_DATA_SCRAMBLING_ID_PRESENCE.. */
+    UINT16 bitMask;                                         /**< bits RRC_PDSCH_CFG_..._PRESENCE */
     UINT16 dataScramblingIDPdsch;                           /**< dataScramblingIdentityPDSCH, 0..1023 */
     RrcDmrsDlCfg_t dmrsDlPdschMappingTypeA;                 /**< dmrs-DownlinkForPDSCH-MappingTypeA */
     RrcDmrsDlCfg_t dmrsDlPdschMappingTypeB;                 /**< dmrs-DownlinkForPDSCH-MappingTypeB */
@@ -237,18 +256,20 @@ typedef struct rrcPdschCfg_s
     RrcTciState_t tciStatesAddMod[RRC_MAX_NROF_TCI_STATES]; /**< tci-StatesToAddModList */
     UINT8 numTciStatesRel;                                  /**< entries used of tciStateId, 0..128 */
     UINT8 tciStateId[RRC_MAX_NROF_TCI_STATES];              /**< tci-StatesToReleaseList, each 0..127 */
-    UINT8 vrbToPrbInterleaver;                              /**< vrb-ToPRB-Interleaver, enumeration n2, n4 (0..1) */
+    UINT8 vrbToPrbInterleaver; /**< vrb-ToPRB-Interleaver, PDSCH_Config_vrb_ToPRB_Interleaver_...: 0 n2, 1 n4 */
     RrcPdschTimeDomainResourceAllocList_t pdschTimeDomainAllocList; /**< pdsch-TimeDomainAllocationList */
-    UINT8 pdschAggregationFactor;    /**< pdsch-AggregationFactor, enumeration n2, n4, n8 (0..2) */
+    /** pdsch-AggregationFactor, PDSCH_Config_pdsch_AggregationFactor_...: 0 n2, 1 n4, 2 n8 */
+    UINT8 pdschAggregationFactor;
     UINT8 numRateMatchPatternAddMod; /**< entries used of rateMatchPattern, 0..4 */
     RrcRateMatchPattern_t rateMatchPattern[RRC_MAX_NROF_RATE_MATCH_PATTERNS]; /**< rateMatchPatternToAddModList */
     UINT8 numRateMatchPatternRel;                               /**< entries used of rateMatchPatternId, 0..4 */
     UINT8 rateMatchPatternId[RRC_MAX_NROF_RATE_MATCH_PATTERNS]; /**< rateMatchPatternToReleaseList, each 0..3 */
     RrcRateMatchPatternGroup_t rateMatchPatternGroup1;          /**< rateMatchPatternGroup1 */
     RrcRateMatchPatternGroup_t rateMatchPatternGroup2;          /**< rateMatchPatternGroup2 */
-    UINT8 mcsTable;                                             /**< mcs-Table, enumeration qam256, qam64LowSE (0..1) */
-    UINT8 maxNrofCodeWordsScheduleByDCI; /**< maxNrofCodeWordsScheduledByDCI, enumeration n1, n2 (0..1) */
-    UINT8 numZpCsiRsResouceAddMod;       /**< entries used of zpCsiRsResource, 0..32 */
+    UINT8 mcsTable; /**< mcs-Table, PDSCH_Config_mcs_Table_...: 0 qam256, 1 qam64LowSE */
+    /** maxNrofCodeWordsScheduledByDCI, PDSCH_Config_maxNrofCodeWordsScheduledByDCI_...: 0 n1, 1 n2 */
+    UINT8 maxNrofCodeWordsScheduleByDCI;
+    UINT8 numZpCsiRsResouceAddMod; /**< entries used of zpCsiRsResource, 0..32 */
     RrcZpCsiRsResource_t zpCsiRsResource[RRC_MAX_NROF_ZP_CSI_RS_RESOURCE]; /**< zp-CSI-RS-ResourceToAddModList */
     UINT8 numZpCsiRsResouceRel;                               /**< entries used of zpCsiRsResourceId, 0..32 */
     UINT8 zpCsiRsResourceId[RRC_MAX_NROF_ZP_CSI_RS_RESOURCE]; /**< zp-CSI-RS-ResourceToReleaseList, each 0..31 */
@@ -256,9 +277,10 @@ typedef struct rrcPdschCfg_s
     /** aperiodic-ZP-CSI-RS-ResourceSetsToAddModList */
     RrcZpCsiRsResourceSet_t aperiodicZpCsiRsResourceSet[RRC_MAX_NROF_ZP_CSI_RS_RESOURCE_SETS];
     UINT8 numZpCsiRsResourceSetRel; /**< entries used of zpCsiRsResourceSetId, 0..16 */
-    /** aperiodic-ZP-CSI-RS-ResourceSetsToReleaseList, each 0..15 */
-    UINT8 zpCsiRsResourceSetId[RRC_MAX_NROF_ZP_CSI_RS_RESOURCE_SETS];
-    RrcZpCsiRsResourceSet_t pZpCsiRsResourceSet; /**< p-ZP-CSI-RS-ResourceSet */
+    UINT8
+    zpCsiRsResourceSetId[RRC_MAX_NROF_ZP_CSI_RS_RESOURCE_SETS]; /**< aperiodic-ZP-CSI-RS-ResourceSetsToReleaseList,
+                                                                   each 0..15 */
+    RrcZpCsiRsResourceSet_t pZpCsiRsResourceSet;                /**< p-ZP-CSI-RS-ResourceSet */
 } RrcPdschCfg_t;
 
 #ifdef __cplusplus

@@ -37,18 +37,22 @@ extern "C"
 /** PhysicalCellGroupConfig */
 typedef struct rrcPhyCellGrpCfg_s
 {
-    UINT8 pdschHarqAckCodeBook; /**< pdsch-HARQ-ACK-Codebook, 0 semiStatic, 1 dynamic */
-    UINT16 bitMask;             /**< RRC_PHY_CGC_..._PRESENCE */
-    BOOL harqAckBundlingPucch;  /**< harq-ACK-SpatialBundlingPUCCH: 0, the number of its one value true */
-    BOOL harqAckBundlingPusch;  /**< harq-ACK-SpatialBundlingPUSCH: 0, the number of its one value true */
-    UINT8 pNrFR1Pmax;           /**< p-NR-FR1, -30..33 dBm; a negative one as two's complement (-30 is 226) */
-    CmNrRnti tpcSrsRnti;        /**< tpc-SRS-RNTI */
-    CmNrRnti tpcPucchRnti;      /**< tpc-PUCCH-RNTI */
-    CmNrRnti tpcPuschRnti;      /**< tpc-PUSCH-RNTI */
-    CmNrRnti spCsiRnti;         /**< sp-CSI-RNTI */
-    CmNrRnti csRnti;            /**< cs-RNTI, always set up */
-    CmNrRnti mcsCRnti;          /**< mcs-C-RNTI; its extension group is not sent */
-    UINT8 pUeFR1Pmax;           /**< p-UE-FR1, as pNrFR1Pmax; its extension group is not sent */
+    /** pdsch-HARQ-ACK-Codebook, PhysicalCellGroupConfig_pdsch_HARQ_ACK_Codebook_...: 0 semiStatic, 1 dynamic */
+    UINT8 pdschHarqAckCodeBook;
+    UINT16 bitMask; /**< bits RRC_PHY_CGC_..._PRESENCE */
+    /** harq-ACK-SpatialBundlingPUCCH, PhysicalCellGroupConfig_harq_ACK_SpatialBundlingPUCCH_...: 0 true */
+    BOOL harqAckBundlingPucch;
+    /** harq-ACK-SpatialBundlingPUSCH, PhysicalCellGroupConfig_harq_ACK_SpatialBundlingPUSCH_...: 0 true */
+    BOOL harqAckBundlingPusch;
+    UINT8 pNrFR1Pmax;      /**< p-NR-FR1, -30..33, in dBm, as two's complement; -30 is 226 */
+    CmNrRnti tpcSrsRnti;   /**< tpc-SRS-RNTI, 0..65535 */
+    CmNrRnti tpcPucchRnti; /**< tpc-PUCCH-RNTI, 0..65535 */
+    CmNrRnti tpcPuschRnti; /**< tpc-PUSCH-RNTI, 0..65535 */
+    CmNrRnti spCsiRnti;    /**< sp-CSI-RNTI, 0..65535 */
+    CmNrRnti csRnti;       /**< cs-RNTI, 0..65535; always set up, never released */
+    CmNrRnti mcsCRnti;     /**< mcs-C-RNTI, 0..65535, not sent; no composer announces its extension group */
+    /** p-UE-FR1, -30..33, in dBm, as two's complement, not sent; no composer announces its extension group */
+    UINT8 pUeFR1Pmax;
 } RrcPhyCellGrpCfg_t;
 
 #ifdef __cplusplus

@@ -24,13 +24,22 @@ extern "C"
 typedef struct rrcRachCfgGeneric_s
 {
     UINT8 prachCfgIdx;            /**< prach-ConfigurationIndex, 0..255 */
-    UINT8 msg1Fdm;                /**< msg1-FDM, enumeration one.. (0..3) */
-    UINT16 msg1FreqStart;         /**< msg1-FrequencyStart in PRBs, 0..274 */
+    UINT8 msg1Fdm;                /**< msg1-FDM, RACH_ConfigGeneric_msg1_FDM_...: 0 one, 1 two, 2 four, 3 eight */
+    UINT16 msg1FreqStart;         /**< msg1-FrequencyStart, 0..274, in PRBs */
     UINT8 zeroCorrelationZoneCfg; /**< zeroCorrelationZoneConfig, 0..15 */
-    INT16 preambleRecTargetPower; /**< preambleReceivedTargetPower in dBm, -202..-60 */
-    UINT8 preambleTransMax;       /**< preambleTransMax, enumeration n3.. (0..10) */
-    UINT8 powerRampingStep;       /**< powerRampingStep, enumeration dB0.. (0..3) */
-    UINT8 raRspWindow;            /**< ra-ResponseWindow, enumeration sl1.. (0..7) */
+    INT16 preambleRecTargetPower; /**< preambleReceivedTargetPower, -202..-60, in dBm */
+    /**
+     * preambleTransMax, RACH_ConfigGeneric_preambleTransMax_...: 0 n3, 1 n4, 2 n5, 3 n6, 4 n7, 5 n8, 6 n10, 7 n20,
+     * 8 n50, 9 n100, 10 n200
+     */
+    UINT8 preambleTransMax;
+    /** powerRampingStep, RACH_ConfigGeneric_powerRampingStep_...: 0 dB0, 1 dB2, 2 dB4, 3 dB6 */
+    UINT8 powerRampingStep;
+    /**
+     * ra-ResponseWindow, RACH_ConfigGeneric_ra_ResponseWindow_...: 0 sl1, 1 sl2, 2 sl4, 3 sl8, 4 sl10, 5 sl20, 6 sl40,
+     * 7 sl80
+     */
+    UINT8 raRspWindow;
 } RrcRachCfgGeneric_t;
 
 /** RrcOccasions_t.bitMask: ssbPerRachOccasion is given */
@@ -40,8 +49,12 @@ typedef struct rrcRachCfgGeneric_s
 typedef struct rrcOccasions_s
 {
     RrcRachCfgGeneric_t rachCfgGen; /**< rach-ConfigGeneric */
-    UINT8 bitMask;                  /**< RRC_OCCASION_SSB_PER_RACH_PRESENCE */
-    UINT8 ssbPerRachOccasion;       /**< ssb-perRACH-Occasion, enumeration oneEighth.. (0..7) */
+    UINT8 bitMask;                  /**< bits RRC_OCCASION_SSB_PER_RACH_PRESENCE */
+    /**
+     * ssb-perRACH-Occasion, CFRA_occasions_ssb_perRACH_Occasion_...: 0 oneEighth, 1 oneFourth, 2 oneHalf, 3 one, 4 two,
+     * 5 four, 6 eight, 7 sixteen
+     */
+    UINT8 ssbPerRachOccasion;
 } RrcOccasions_t;
 
 /** CFRA-SSB-Resource */
@@ -73,12 +86,12 @@ typedef struct rrcSsirs_s
 {
     UINT8 numCsirsRecouces;                                       /**< entries used of csirsResource, 1..96 */
     RrcCsirsResource_t csirsResource[RRC_MAX_RA_CSIRS_RESOURCES]; /**< csirs-ResourceList */
-    UINT8 rsrpThreshCsiRs;                                        /**< rsrp-ThresholdCSI-RS, 0..127 */
+    UINT8 rsrpThreshCsiRs; /**< rsrp-ThresholdCSI-RS, 0..127, in dBm above -156; 127 is infinity */
 } RrcSsirs_t;
 
-/** RrcCfra_t.bitMask: resources.ssb is given */
+/** RrcCfra_t.bitMask: chooses resources.ssb, in resources.ssb, else resources.csirs, in resources.scirs */
 #define RRC_SSB (1 << 0)
-/** RrcCfra_t.bitMask: resources.scirs is given. It is taken whenever RRC_SSB is not set, with this bit or without. */
+/** RrcCfra_t.bitMask: not read; csirs is taken whenever RRC_SSB is not set */
 #define RRC_SCIS_RESOURCE (1 << 1)
 /** RrcCfra_t.bitMask: occasions is given */
 #define RRC_CFRA_OCCASIONS_PRESENCE (1 << 2)
@@ -88,7 +101,7 @@ typedef struct rrcSsirs_s
 /** CFRA */
 typedef struct rrcCfra_s
 {
-    UINT8 bitMask; /**< RRC_SSB .. RRC_CFRA_PREAMBLE_PRESENCE */
+    UINT8 bitMask; /**< bits RRC_SSB and RRC_SCIS_RESOURCE and RRC_CFRA_..._PRESENCE */
     union
     {
         RrcSsb_t ssb;               /**< ssb */
@@ -104,9 +117,11 @@ typedef struct rrcCfra_s
 /** RA-Prioritization */
 typedef struct rrcRaPrio_s
 {
-    UINT8 powerRampingStepHighPriority; /**< powerRampingStepHighPriority, enumeration dB0.. (0..3) */
-    UINT8 bitMask;                      /**< RRC_RA_PRIO_SCALINGFACTOR_PRESENCE */
-    UINT8 scalingFactorBI;              /**< scalingFactorBI, enumeration zero.. (0..3) */
+    /** powerRampingStepHighPriority, RA_Prioritization_powerRampingStepHighPriority_...: 0 dB0, 1 dB2, 2 dB4, 3 dB6 */
+    UINT8 powerRampingStepHighPriority;
+    UINT8 bitMask; /**< bits RRC_RA_PRIO_SCALINGFACTOR_PRESENCE */
+    /** scalingFactorBI, RA_Prioritization_scalingFactorBI_...: 0 zero, 1 dot25, 2 dot5, 3 dot75 */
+    UINT8 scalingFactorBI;
 } RrcRaPrio_t;
 
 /** RrcRachCfgDedi_t.bitMask: cfra is given */
@@ -117,7 +132,7 @@ typedef struct rrcRaPrio_s
 /** RACH-ConfigDedicated */
 typedef struct rrcRachCfgDedi_s
 {
-    UINT8 bitMask;      /**< RRC_RACH_CFG_DEDI_CFRA_PRESENCE, RRC_RACH_CFG_DEDI_RA_PRIO_PRESENCE */
+    UINT8 bitMask;      /**< bits RRC_RACH_CFG_DEDI_..._PRESENCE */
     RrcCfra_t cfra;     /**< cfra */
     RrcRaPrio_t raPrio; /**< ra-Prioritization */
 } RrcRachCfgDedi_t;

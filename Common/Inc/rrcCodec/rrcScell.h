@@ -18,23 +18,23 @@ extern "C"
 #define RRC_SCELLADDMOD_CELLCOMMON_PRESENCE (1 << 0)
 /** RrcScellCfg_t.bitMask: sCellCfgDedi is given */
 #define RRC_SCELLADDMOD_CELLDEDI_PRESENCE (1 << 1)
-/** RrcScellCfg_t.bitMask: not looked at */
+/** RrcScellCfg_t.bitMask: not read */
 #define RRC_SCELLADDMOD_SMTC_PRESENCE (1 << 2)
 
-/** Stands for SCellConfig.smtc, which is never sent */
+/** SCellConfig.smtc; never sent */
 typedef struct rrcSsbMtc_s
 {
-    UINT8 padding; /**< not looked at */
+    UINT8 padding; /**< not read */
 } RrcSsbMtc_t;
 
 /** SCellConfig */
 typedef struct rrcScellCfg_s
 {
     UINT8 scellIdx;                          /**< sCellIndex, 1..31 */
-    UINT8 bitMask;                           /**< RRC_SCELLADDMOD_..._PRESENCE */
+    UINT8 bitMask;                           /**< bits RRC_SCELLADDMOD_..._PRESENCE */
     RrcServingCellCfgCommon_t sCellCfgCommn; /**< sCellConfigCommon */
     RrcServingCellCfg_t sCellCfgDedi;        /**< sCellConfigDedicated */
-    RrcSsbMtc_t smtc;                        /**< not looked at */
+    RrcSsbMtc_t smtc;                        /**< smtc, not sent */
 } RrcScellCfg_t;
 
 #ifdef __cplusplus

@@ -55,26 +55,36 @@ extern "C"
 /** ServingCellConfig. The lists of downlink bandwidth parts are sent when their counts are not 0. */
 typedef struct rrcServingCellCfg_s
 {
-    UINT8 tagId;                                  /**< tag-Id, 0..3, always sent */
-    UINT16 bitMask;                               /**< RRC_SERVING_CELL_TDD_ULDL_CFG_DEDI_PRESENCE.. */
-    RrcTddUlDlCfgDedi_t tddUlDlCfgDed;            /**< tdd-UL-DL-ConfigurationDedicated */
-    RrcBwpDlDedicated_t initDlBwp;                /**< initialDownlinkBWP */
-    UINT8 numDlBwpRel;                            /**< entries used of dlBwpId, 0..4 */
-    UINT8 dlBwpId[RRC_MAX_NROF_BWPS];             /**< downlinkBWP-ToReleaseList, each 0..4 */
-    UINT8 numDlBwpAddMod;                         /**< entries used of dlBwp, 0..4 */
-    RrcBwpDl_t dlBwp[RRC_MAX_NROF_BWPS];          /**< downlinkBWP-ToAddModList */
-    UINT8 firstActiveDlBwpId;                     /**< firstActiveDownlinkBWP-Id, 0..4 */
-    UINT8 bwpInactiveTimer;                       /**< bwp-InactivityTimer, enumeration ms2.. (0..30) */
+    UINT8 tagId;                         /**< tag-Id, 0..3, always sent */
+    UINT16 bitMask;                      /**< bits RRC_SERVING_CELL_..._PRESENCE */
+    RrcTddUlDlCfgDedi_t tddUlDlCfgDed;   /**< tdd-UL-DL-ConfigurationDedicated */
+    RrcBwpDlDedicated_t initDlBwp;       /**< initialDownlinkBWP */
+    UINT8 numDlBwpRel;                   /**< entries used of dlBwpId, 0..4 */
+    UINT8 dlBwpId[RRC_MAX_NROF_BWPS];    /**< downlinkBWP-ToReleaseList, each 0..4 */
+    UINT8 numDlBwpAddMod;                /**< entries used of dlBwp, 0..4 */
+    RrcBwpDl_t dlBwp[RRC_MAX_NROF_BWPS]; /**< downlinkBWP-ToAddModList */
+    UINT8 firstActiveDlBwpId;            /**< firstActiveDownlinkBWP-Id, 0..4 */
+    /**
+     * bwp-InactivityTimer, ServingCellConfig_bwp_InactivityTimer_...: 0 ms2, 1 ms3, 2 ms4, 3 ms5, 4 ms6, 5 ms8, 6 ms10,
+     * 7 ms20, 8 ms30, 9 ms40, 10 ms50, 11 ms60, 12 ms80, 13 ms100, 14 ms200, 15 ms300, 16 ms500, 17 ms750, 18 ms1280,
+     * 19 ms1920, 20 ms2560
+     */
+    UINT8 bwpInactiveTimer;
     UINT8 defaultDlBwpId;                         /**< defaultDownlinkBWP-Id, 0..4 */
     RrcUlCfg_t ulCfg;                             /**< uplinkConfig */
     RrcUlCfg_t suppUlCfg;                         /**< supplementaryUplink */
     RrcPdcchServingCellCfg_t pdcchServingCellCfg; /**< pdcch-ServingCellConfig */
     RrcPdschServingCellCfg_t pdschServingCellCfg; /**< pdsch-ServingCellConfig */
     RrcCsiMeasCfg_t csiMeasCfg;                   /**< csi-MeasConfig */
-    UINT8 sCellDeativationTimer;                  /**< sCellDeactivationTimer, enumeration ms20.. (0..15) */
-    BOOL dummy;                                   /**< dummy, enumeration enabled (0 only) */
-    UINT8 pathLossRefLinking;                     /**< pathlossReferenceLinking, enumeration spCell, sCell (0..1) */
-    UINT8 servingCellMo;                          /**< servingCellMO, 1..64 */
+    /**
+     * sCellDeactivationTimer, ServingCellConfig_sCellDeactivationTimer_...: 0 ms20, 1 ms40, 2 ms80, 3 ms160, 4 ms200,
+     * 5 ms240, 6 ms320, 7 ms400, 8 ms480, 9 ms520, 10 ms640, 11 ms720, 12 ms840, 13 ms1280
+     */
+    UINT8 sCellDeativationTimer;
+    BOOL dummy; /**< dummy, ServingCellConfig_dummy_...: 0 enabled */
+    /** pathlossReferenceLinking, ServingCellConfig_pathlossReferenceLinking_...: 0 spCell, 1 sCell */
+    UINT8 pathLossRefLinking;
+    UINT8 servingCellMo; /**< servingCellMO, 1..64 */
 } RrcServingCellCfg_t;
 
 #ifdef __cplusplus

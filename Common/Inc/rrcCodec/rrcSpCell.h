@@ -23,18 +23,22 @@ extern "C"
 /** RrcReconfWithSync_t.bitMask: smtc is given */
 #define RRC_SSBMTC_PRESENCE (1 << 2)
 
-/** RrcReconfWithSync_t.rachCfgBitMask: choice.uplink is given */
+/** RrcReconfWithSync_t.rachCfgBitMask: chooses rach-ConfigDedicated.uplink, in choice.uplink */
 #define RRC_RACH_CFG_UPLINK_PRESENCE (1 << 0)
-/** RrcReconfWithSync_t.rachCfgBitMask: choice.suppUplink is given; wins over the uplink */
+/** RrcReconfWithSync_t.rachCfgBitMask: chooses rach-ConfigDedicated.supplementaryUplink, in choice.suppUplink */
 #define RRC_RACH_CFG_SUPPUPLINK_PRESENCE (1 << 1)
 
 /** ReconfigurationWithSync */
 typedef struct rrcReconfWithSync_s
 {
-    CmNrRnti newUEId;     /**< newUE-Identity, 0..65535 */
-    UINT8 t304;           /**< t304, enumeration ms50.. (0..7) */
-    UINT8 bitMask;        /**< RRC_RACH_CFG_DEDI_PRESENCE .. RRC_SSBMTC_PRESENCE */
-    UINT8 rachCfgBitMask; /**< RRC_RACH_CFG_UPLINK_PRESENCE or RRC_RACH_CFG_SUPPUPLINK_PRESENCE */
+    CmNrRnti newUEId; /**< newUE-Identity, 0..65535 */
+    /**
+     * t304, ReconfigurationWithSync_t304_...: 0 ms50, 1 ms100, 2 ms150, 3 ms200, 4 ms500, 5 ms1000, 6 ms2000, 7 ms10000
+     */
+    UINT8 t304;
+    /** bits RRC_RACH_CFG_DEDI_PRESENCE and RRC_SERVING_CELL_CFG_COMMON_PRESENCE and RRC_SSBMTC_PRESENCE */
+    UINT8 bitMask;
+    UINT8 rachCfgBitMask; /**< bits RRC_RACH_CFG_..._PRESENCE */
     union rachCfgDed_u
     {
         RrcRachCfgDedi_t uplink;                  /**< uplink */
@@ -47,10 +51,20 @@ typedef struct rrcReconfWithSync_s
 /** RLF-TimersAndConstants */
 typedef struct rrcRlfTimerConstants_s
 {
-    UINT8 t310; /**< t310, enumeration ms0.. (0..8) */
-    UINT8 n310; /**< n310, enumeration n1.. (0..7) */
-    UINT8 n311; /**< n311, enumeration n1.. (0..7) */
-    UINT8 t311; /**< t311-v1530, enumeration ms1000.. (0..6); always sent */
+    /**
+     * t310, RLF_TimersAndConstants_t310_...: 0 ms0, 1 ms50, 2 ms100, 3 ms200, 4 ms500, 5 ms1000, 6 ms2000, 7 ms4000,
+     * 8 ms6000
+     */
+    UINT8 t310;
+    /** n310, RLF_TimersAndConstants_n310_...: 0 n1, 1 n2, 2 n3, 3 n4, 4 n6, 5 n8, 6 n10, 7 n20 */
+    UINT8 n310;
+    /** n311, RLF_TimersAndConstants_n311_...: 0 n1, 1 n2, 2 n3, 3 n4, 4 n5, 5 n6, 6 n8, 7 n10 */
+    UINT8 n311;
+    /**
+     * t311-v1530, always sent, RLF_TimersAndConstants_t311_v1530_...: 0 ms1000, 1 ms3000, 2 ms5000, 3 ms10000,
+     * 4 ms15000, 5 ms20000, 6 ms30000
+     */
+    UINT8 t311;
 } RrcRlfTimerConstants_t;
 
 /** RrcSpCellCfg_t.bitMask: servCellIdx is given */
@@ -67,12 +81,13 @@ typedef struct rrcRlfTimerConstants_s
 /** SpCellConfig */
 typedef struct rrcSpCellCfg_s
 {
-    UINT8 bitMask;                            /**< RRC_SPCELLCFG_..._PRESENCE */
+    UINT8 bitMask;                            /**< bits RRC_SPCELLCFG_..._PRESENCE */
     UINT8 servCellIdx;                        /**< servCellIndex, 0..31 */
     RrcReconfWithSync_t recfgWithSync;        /**< reconfigurationWithSync */
-    RrcRlfTimerConstants_t rlfTimerConstants; /**< rlf-TimersAndConstants, sent as setup */
-    UINT8 rlmInSyncOutSyncThreshold;          /**< rlmInSyncOutOfSyncThreshold, enumeration n1 (0) */
-    RrcServingCellCfg_t spCellDedicated;      /**< spCellConfigDedicated */
+    RrcRlfTimerConstants_t rlfTimerConstants; /**< rlf-TimersAndConstants; sent as setup */
+    /** rlmInSyncOutOfSyncThreshold, SpCellConfig_rlmInSyncOutOfSyncThreshold_...: 0 n1 */
+    UINT8 rlmInSyncOutSyncThreshold;
+    RrcServingCellCfg_t spCellDedicated; /**< spCellConfigDedicated */
 } RrcSpCellCfg_t;
 
 #ifdef __cplusplus

@@ -20,9 +20,9 @@ extern "C"
 typedef struct rrcTddUlDlCfgDedi_s
 {
     UINT16 numSlotsAddMod;                                    /**< entries used of slotCfgDedicated, 0..320 */
-    RrcTddUlDlSlotCfg_t slotCfgDedicated[RRC_MAX_NROF_SLOTS]; /**< slotSpecificConfigurationsToAddModList */
+    RrcTddUlDlSlotCfg_t slotCfgDedicated[RRC_MAX_NROF_SLOTS]; /**< slotSpecificConfigurationsToAddModList, not sent */
     UINT16 numSlotsRelease;                                   /**< entries used of slotIdx, 0..320 */
-    UINT16 slotIdx[RRC_MAX_NROF_SLOTS]; /**< slotSpecificConfigurationsToreleaseList, each 0..319 */
+    UINT16 slotIdx[RRC_MAX_NROF_SLOTS]; /**< slotSpecificConfigurationsToreleaseList, each 0..319, not sent */
 } RrcTddUlDlCfgDedi_t;
 
 #ifdef __cplusplus

@@ -22,9 +22,9 @@ extern "C"
 #define RRC_UL_CFG_PUSCH_SERVING_CELL_CFG_PRESENCE (1 << 2)
 /** RrcUlCfg_t.bitMask: carrierSwitching is given */
 #define RRC_UL_CFG_CARRIER_SWITCHING_PRESENCE (1 << 3)
-/** RrcUlCfg_t.bitMask: marks powerBoostPi2BPSK, which has no value here; the encoder does not send it */
+/** RrcUlCfg_t.bitMask: powerBoostPi2BPSK is not sent; it has no value here */
 #define RRC_UL_CFG_POWER_BOOST_PI_2BPSK (1 << 4)
-/** RrcUlCfg_t.bitMask: marks uplinkChannelBW-PerSCS-List, as above */
+/** RrcUlCfg_t.bitMask: uplinkChannelBW-PerSCS-List is not sent; it has no value here */
 #define RRC_UL_CFG_UL_CHANNEL_BW_PERSCS_LIST (1 << 5)
 
 /** UplinkConfig. A list is sent when its count is not 0. */
@@ -34,7 +34,7 @@ typedef struct rrcUlCfg_s
     RrcBwpUl_t ulBwpAddMod[4];                    /**< uplinkBWP-ToAddModList */
     UINT8 numUlBwpRel;                            /**< entries used of ulBwpId, 0..4 */
     UINT8 ulBwpId[4];                             /**< uplinkBWP-ToReleaseList, each 0..4 */
-    UINT8 bitMask;                                /**< RRC_UL_CFG_... */
+    UINT8 bitMask;                                /**< bits RRC_UL_CFG_... */
     RrcBwpUlDedi_t initialUplinkBWP;              /**< initialUplinkBWP */
     UINT8 firstActiveUlBwpId;                     /**< firstActiveUplinkBWP-Id, 0..4 */
     RrcPuschServingCellCfg_t PuschServingCellCfg; /**< pusch-ServingCellConfig */

@@ -1,0 +1,429 @@
+// example: records to begin with, as JSON.
+#include "commands.h"
+#include "nearest.h"
+#include "oneBearer.h"
+#include "reconfigurationWithSync.h"
+#include "recordPath.h"
+#include "releases.h"
+#include "rrcRecordJson.h"
+#include "rtxType.h"
+#include "schemaPath.h"
+#include "secondaryCells.h"
+#include "typicalCall.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace tool
+{
+namespace
+{
+
+struct Example
+{
+    std::string_view name;
+    std::string_view words;
+    void (*fill)(RrcCellGroupCfg_t&);
+};
+
+constexpr Example examples[] = {
+    {"one-bearer", "a bearer with its logical channel, MAC and physical cell group", oneBearer},
+    {"reconfiguration-with-sync", "the same with a handover", reconfigurationWithSync},
+    {"typical-call", "a handover and the whole dedicated configuration of the special cell", typicalCall},
+    {"secondary-cells", "a typical call with secondary cells", secondaryCells},
+    {"releases", "the lists that release", releases},
+};
+
+const Example& exampleNamed(const std::string& name)
+{
+    std::vector<std::string_view> names;
+    for (const Example& one : examples)
+    {
+        if (one.name == name)
+        {
+            return one;
+        }
+        names.push_back(one.name);
+    }
+    const auto close = text::nearest(name, names);
+    throw Failure(Exit::Usage,
+                  "there is no example '" + name + "'" +
+                      (close ? "; did you mean " + std::string(*close) + "?" : "; 'cellgroupcfg example' lists them"));
+}
+
+// A record with every member of a place, each with what may stand there.
+class Scaffold
+{
+public:
+    std::string text(const std::vector<RecordPlace>& trail)
+    {
+        open('{');
+        for (const RecordPlace& place : trail)
+        {
+            name(*place.field);
+            if (&place != &trail.back())
+            {
+                begin(*place.field);
+            }
+        }
+        if (trail.empty())
+        {
+            fields(*rrcRecordTypes[0], "");
+        }
+        else
+        {
+            value(trail.back());
+        }
+        for (std::size_t i = trail.size(); i-- > 0;)
+        {
+            comment(trail[i]);
+            if (i != 0)
+            {
+                end(*trail[i - 1].field);
+            }
+        }
+        close('}');
+        return text_ + "\n";
+    }
+
+private:
+    void line()
+    {
+        text_ += comment_.empty() ? "" : " // " + comment_;
+        comment_.clear();
+        text_ += '\n' + std::string(2 * depth_, ' ');
+    }
+
+    void open(char bracket)
+    {
+        text_ += bracket;
+        ++depth_;
+        first_ = true;
+    }
+
+    void close(char bracket)
+    {
+        --depth_;
+        line();
+        text_ += bracket;
+        first_ = false;
+    }
+
+    void item()
+    {
+        text_ += first_ ? "" : ",";
+        first_ = false;
+        line();
+    }
+
+    void name(const RrcRecordField& field)
+    {
+        item();
+        text_ += '"' + std::string(field.name) + "\": ";
+    }
+
+    static bool isArray(const RrcRecordField& field)
+    {
+        return field.bound != 0 && field.kind != RRC_FIELD_OCTETS;
+    }
+
+    // A structure, union or array of them on the way to the place.
+    void begin(const RrcRecordField& field)
+    {
+        if (isArray(field))
+        {
+            open('[');
+            item();
+        }
+        open('{');
+    }
+
+    void end(const RrcRecordField& field)
+    {
+        close('}');
+        if (isArray(field))
+        {
+            close(']');
+        }
+    }
+
+    // Goes to the end of the line.
+    void comment(const RecordPlace& place)
+    {
+        const RrcRecordField& field = *place.field;
+        std::string words = field.kind == RRC_FIELD_VALUE && field.choice >= 0 ? "" : valuesOf(place);
+        if (isArray(field))
+        {
+            words = (field.count < 0 ? "always " : "at most ") + std::to_string(field.bound) +
+                    (field.bound == 1 ? " entry" : " entries") + (words.empty() ? "" : ": ") + words;
+        }
+        if (*field.note != '\0' && field.kind == RRC_FIELD_VALUE)
+        {
+            words += (words.empty() ? "" : "; ") + std::string(field.note);
+        }
+        if ((field.flags & RRC_FIELD_NOT_SENT) != 0)
+        {
+            words += std::string(words.empty() ? "" : "; ") + "not sent";
+        }
+        comment_ += (comment_.empty() || words.empty() ? "" : "; ") + words;
+    }
+
+    // The option of a choice that is shown: the first one that has content.
+    static const RrcRecordOption* shown(const RrcRecordType& type, unsigned choice)
+    {
+        const RrcRecordChoice& found = type.choices[choice];
+        const auto* const end = found.options + found.optionCount;
+        const auto* const option =
+            std::find_if(found.options, end, [](const RrcRecordOption& one) { return one.field >= 0; });
+        return option == end ? found.options : option;
+    }
+
+    static bool isShown(const RrcRecordType& type, const RrcRecordField& field)
+    {
+        if (field.kind == RRC_FIELD_UNREAD || field.kind == RRC_FIELD_COUNT)
+        {
+            return false;
+        }
+        if (field.choice < 0)
+        {
+            return true;
+        }
+        const RrcRecordOption* const option = shown(type, static_cast<unsigned>(field.choice));
+        return field.alternative >= 0 ? option->sentAs == field.alternative : type.fields + option->field == &field;
+    }
+
+    void fields(const RrcRecordType& type, const std::string& path)
+    {
+        for (unsigned i = 0; i < type.fieldCount; ++i)
+        {
+            const RecordPlace place = fieldPlace(type, path, i);
+            if (!isShown(type, *place.field))
+            {
+                continue;
+            }
+            if (place.field->kind != RRC_FIELD_MASK)
+            {
+                name(*place.field);
+                value(place);
+                comment(place);
+            }
+            else if (const std::string bits = moreBits(type, i); !bits.empty())
+            {
+                name(*place.field);
+                text_ += '[' + chosenBits(type, i) + ']';
+                comment_ = bits;
+            }
+        }
+    }
+
+    // Bits that follow from nothing.
+    static std::string moreBits(const RrcRecordType& type, unsigned mask)
+    {
+        std::string text;
+        for (unsigned i = 0; i < type.bitCount; ++i)
+        {
+            const RrcRecordBit& bit = type.bits[i];
+            if (bit.mask == mask && (bit.role == RRC_BIT_SENDS || (bit.role == RRC_BIT_CHOOSES && !follows(type, i))))
+            {
+                text += (text.empty() ? "" : ", ") + ('"' + std::string(bit.name) + '"');
+            }
+        }
+        return text;
+    }
+
+    // Those among them that choose what is shown.
+    static std::string chosenBits(const RrcRecordType& type, unsigned mask)
+    {
+        std::string text;
+        for (unsigned i = 0; i < type.choiceCount; ++i)
+        {
+            const int bit = shown(type, i)->bit;
+            if (type.choices[i].selector == mask && bit >= 0 && !follows(type, static_cast<unsigned>(bit)))
+            {
+                text += (text.empty() ? "" : ", ") + ('"' + std::string(type.bits[bit].name) + '"');
+            }
+        }
+        return text;
+    }
+
+    // Whether a bit chooses content that no other one does.
+    static bool follows(const RrcRecordType& type, unsigned bit)
+    {
+        for (unsigned i = 0; i < type.choiceCount; ++i)
+        {
+            const RrcRecordChoice& choice = type.choices[i];
+            const auto* const end = choice.options + choice.optionCount;
+            const auto* const option = std::find_if(
+                choice.options, end, [bit](const RrcRecordOption& one) { return one.bit == static_cast<int>(bit); });
+            if (option == end)
+            {
+                continue;
+            }
+            const auto same = [option](const RrcRecordOption& one)
+            {
+                return one.field == option->field && one.member == option->member;
+            };
+            return option->field >= 0 && std::count_if(choice.options, end, same) == 1;
+        }
+        return false;
+    }
+
+    void value(const RecordPlace& place)
+    {
+        const RrcRecordField& field = *place.field;
+        const unsigned fixed = isArray(field) && field.count < 0 ? field.bound : 1;
+        if (!isArray(field))
+        {
+            entry(place);
+            return;
+        }
+        open('[');
+        for (unsigned i = 0; i < fixed; ++i)
+        {
+            if (field.record != nullptr)
+            {
+                item();
+            }
+            else
+            {
+                text_ += i == 0 ? "" : ", ";
+            }
+            entry(place);
+        }
+        if (field.record != nullptr)
+        {
+            close(']');
+            return;
+        }
+        --depth_;
+        first_ = false;
+        text_ += ']';
+    }
+
+    void entry(const RecordPlace& place)
+    {
+        const RrcRecordField& field = *place.field;
+        if (field.record == nullptr)
+        {
+            text_ += scalar(place);
+        }
+        else if (field.kind == RRC_FIELD_UNION)
+        {
+            alternative(place, *field.record);
+        }
+        else
+        {
+            open('{');
+            fields(*field.record, place.path);
+            close('}');
+        }
+    }
+
+    void alternative(const RecordPlace& place, const RrcRecordType& type)
+    {
+        const RrcRecordOption* const option = shown(*place.owner, static_cast<unsigned>(place.field->choice));
+        const auto number = static_cast<unsigned>(option->member);
+        const RecordPlace member = fieldPlace(type, place.path, number);
+        open('{');
+        name(*member.field);
+        value(member);
+        comment(member);
+        std::string others;
+        for (unsigned i = 0; i < type.fieldCount; ++i)
+        {
+            others += i == number ? "" : (others.empty() ? "" : ", ") + std::string(type.fields[i].name);
+        }
+        close('}');
+        comment_ = others.empty() ? "" : "or " + others;
+    }
+
+    static std::string scalar(const RecordPlace& place)
+    {
+        const RrcRecordField& field = *place.field;
+        switch (field.kind)
+        {
+        case RRC_FIELD_NUMBER:
+            return std::to_string(field.lower);
+        case RRC_FIELD_ENUMERATED:
+            return '"' + std::string(field.way.target->names[0]) + '"';
+        case RRC_FIELD_BOOLEAN:
+            return "false";
+        case RRC_FIELD_BITS:
+        case RRC_FIELD_OCTETS:
+            return '"' + std::string((field.bits + 7U) / 8 * 2, '0') + '"';
+        case RRC_FIELD_ALTERNATIVE:
+            for (unsigned i = 0; i < place.owner->choiceCount; ++i)
+            {
+                const RrcRecordChoice& choice = place.owner->choices[i];
+                if (place.owner->fields + choice.selector == &field)
+                {
+                    return '"' + std::string(choice.way.target->names[shown(*place.owner, i)->alternative]) + '"';
+                }
+            }
+            return "0";
+        default:
+            return chosenValue(place);
+        }
+    }
+
+    // Of the alternative shown.
+    static std::string chosenValue(const RecordPlace& place)
+    {
+        if (place.field->choice < 0)
+        {
+            return "0";
+        }
+        const auto choice = static_cast<unsigned>(place.field->choice);
+        const RtxType& target = *place.owner->choices[choice].way.target;
+        const RtxType& type = *target.members[shown(*place.owner, choice)->alternative].type;
+        return type.kind == rtx::Kind::Enumerated ? '"' + std::string(type.names[0]) + '"' : std::to_string(type.lower);
+    }
+
+    std::string text_;
+    std::string comment_; // of the line that is written
+    unsigned depth_ = 0;
+    bool first_ = true;
+};
+
+} // namespace
+
+void example(Session& session, const std::string& name)
+{
+    if (name.empty())
+    {
+        constexpr std::size_t column = 27;
+        for (const Example& one : examples)
+        {
+            session.put(std::string(one.name) + std::string(column - one.name.size(), ' ') + std::string(one.words) +
+                        "\n");
+        }
+        return;
+    }
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    exampleNamed(name).fill(*record);
+    session.put(written([&](RtxPrintSink sink, void* arg) { rrcRecordToJson(record.get(), sink, arg); }));
+}
+
+void scaffold(Session& session, const std::string& path)
+{
+    try
+    {
+        std::vector<RecordPlace> trail = path.empty() ? std::vector<RecordPlace>() : findFields(path);
+        if (trail.empty() && !path.empty())
+        {
+            const std::vector<RecordPlace> places = fieldsNamed(path);
+            if (places.empty())
+            {
+                throw Failure(Exit::Usage, "the record has no field '" + path + "'");
+            }
+            trail = findFields(places.front().path);
+        }
+        session.put(Scaffold().text(trail));
+    }
+    catch (const PathError& error)
+    {
+        throw Failure(Exit::Usage, error.what());
+    }
+}
+
+} // namespace tool

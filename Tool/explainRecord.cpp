@@ -1,0 +1,182 @@
+// explain: what the description says of a field of the record.
+#include "explainRecord.h"
+#include "recordPath.h"
+#include "rtxType.h"
+#include "schemaPath.h"
+#include "style.h"
+
+namespace tool
+{
+namespace
+{
+
+constexpr const char* kinds[] = {
+    "number",
+    "enumeration",
+    "boolean",
+    "bit string in a number",
+    "bit string in octets",
+    "mask",
+    "count",
+    "number of an alternative",
+    "value of an alternative",
+    "structure",
+    "union",
+    "not read",
+};
+
+class FieldExplanation
+{
+public:
+    FieldExplanation(Session& session, const RecordPlace& place)
+        : session_(session), place_(place), field_(*place.field), owner_(*place.owner)
+    {
+    }
+
+    void write()
+    {
+        session_.put(styled(place_.path, Style::Bold, session_.color()) + "\n");
+        row("field", std::string(kinds[field_.kind]) + " of " + owner_.name + ", " + owner_.header);
+        if (field_.record != nullptr)
+        {
+            row("structure", field_.record->name);
+        }
+        if (field_.way.path != nullptr && owner_.path != nullptr)
+        {
+            row("feeds", *field_.way.path == '\0' ? owner_.path : std::string(owner_.path) + "." + field_.way.path);
+        }
+        if (field_.bound != 0 && field_.kind != RRC_FIELD_OCTETS)
+        {
+            row("entries",
+                (field_.count < 0 ? "always " : "at most ") + std::to_string(field_.bound) +
+                    (field_.count < 0 ? "" : std::string(", as many as ") + owner_.fields[field_.count].name));
+        }
+        if (const std::string values = valuesOf(place_, true); !values.empty())
+        {
+            wrapped("values", values);
+        }
+        if (field_.guard >= 0)
+        {
+            const RrcRecordBit& bit = owner_.bits[field_.guard];
+            row("read with", std::string(bit.name) + " in " + owner_.fields[bit.mask].name);
+        }
+        flags();
+        bits();
+        if (*field_.note != '\0')
+        {
+            row("note", field_.note);
+        }
+        if (field_.record != nullptr)
+        {
+            fields(*field_.record);
+        }
+    }
+
+private:
+    void row(std::string_view label, const std::string& text)
+    {
+        constexpr std::size_t column = 13;
+        session_.put("  " + std::string(label) + std::string(column - label.size(), ' ') + text + "\n");
+    }
+
+    void wrapped(std::string_view label, std::string_view text)
+    {
+        constexpr std::size_t width = 100;
+        while (text.size() > width && text.rfind(", ", width) != std::string_view::npos)
+        {
+            const std::size_t end = text.rfind(", ", width) + 1;
+            row(label, std::string(text.substr(0, end)));
+            text.remove_prefix(end + 1);
+            label = "";
+        }
+        row(label, std::string(text));
+    }
+
+    void flags()
+    {
+        static constexpr struct
+        {
+            unsigned flag;
+            const char* text;
+        } all[] = {
+            {RRC_FIELD_ALWAYS_SENT, "always, though it is optional"},
+            {RRC_FIELD_NOT_SENT, "never"},
+            {RRC_FIELD_ELSE_ABSENT, "with one of its values only"},
+            {RRC_FIELD_ELSE_DEFAULT, "also without its bit, as a default"},
+        };
+        for (const auto& one : all)
+        {
+            if ((field_.flags & one.flag) != 0)
+            {
+                row("sent", one.text);
+            }
+        }
+    }
+
+    // Of a mask.
+    void bits()
+    {
+        std::string_view label = "bits";
+        for (unsigned i = 0; i < owner_.bitCount; ++i)
+        {
+            const RrcRecordBit& bit = owner_.bits[i];
+            if (owner_.fields + bit.mask == &field_)
+            {
+                row(label, std::to_string(bit.number) + " " + bit.name);
+                label = "";
+            }
+        }
+    }
+
+    void fields(const RrcRecordType& type)
+    {
+        std::size_t column = 0;
+        for (unsigned i = 0; i < type.fieldCount; ++i)
+        {
+            column = std::max(column, std::string_view(type.fields[i].name).size() + 2);
+        }
+        session_.put(type.isUnion != 0 ? "  one of\n" : "  fields\n");
+        for (unsigned i = 0; i < type.fieldCount; ++i)
+        {
+            const RecordPlace place = fieldPlace(type, place_.path, i);
+            const std::string name = place.field->name;
+            const std::string values = valuesOf(place);
+            const std::string text = place.field->record != nullptr ? place.field->record->name
+                                     : values.empty()               ? kinds[place.field->kind]
+                                                                    : values;
+            constexpr std::size_t most = 80;
+            session_.put("    " + name + std::string(column - name.size(), ' ') +
+                         (text.size() > most ? text.substr(0, text.rfind(',', most)) + ", ..." : text) + "\n");
+        }
+    }
+
+    Session& session_;
+    const RecordPlace& place_;
+    const RrcRecordField& field_;
+    const RrcRecordType& owner_;
+};
+
+} // namespace
+
+bool explainField(Session& session, const std::string& path)
+{
+    const bool isPath = path.find_first_of(".[") != std::string::npos;
+    const std::vector<RecordPlace> places = isPath ? std::vector<RecordPlace>() : fieldsNamed(path);
+    if (places.size() > 1)
+    {
+        for (const RecordPlace& place : places)
+        {
+            session.put(place.path + "\n");
+        }
+        return true;
+    }
+    const std::vector<RecordPlace> trail = places.empty() ? findFields(path) : places;
+    if (trail.empty())
+    {
+        return false;
+    }
+    FieldExplanation(session, trail.back()).write();
+    return true;
+}
+
+} // namespace tool

@@ -1,0 +1,99 @@
+// Reads any input as the JSON of a record. What is accepted is written and read again, which gives the same text and
+// composes to the same; what is not has mistakes, each with its place.
+#include "rrcCodec/rrcCompose.h"
+#include "rrcRecordFromJson.h"
+#include "rrcRecordJson.h"
+#include "vos_lib.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+// Stands in place of the platform's: a record may bring notices by the thousand.
+INT32 VOS_Printf(const char* /*format*/, ...)
+{
+    return 0;
+}
+
+namespace
+{
+
+void require(bool condition, const char* what)
+{
+    if (!condition)
+    {
+        (void)std::fprintf(stderr, "%s\n", what);
+        std::abort();
+    }
+}
+
+struct Input
+{
+    const char* text;
+    size_t length;
+    size_t last = 0; // offset of the last mistake
+    int mistakes = 0;
+};
+
+void checkMistake(void* arg, const RrcRecordMistake* found)
+{
+    auto& input = *static_cast<Input*>(arg);
+    const Asn1Mistake& mistake = found->mistake;
+    ++input.mistakes;
+    require(*found->file == '\0', "a mistake in a file");
+    require(mistake.offset >= input.last && mistake.offset <= input.length, "a mistake out of its place");
+    input.last = mistake.offset;
+    const auto lines = std::count(input.text, input.text + mistake.offset, '\n');
+    require(mistake.line == static_cast<OSUINT32>(lines) + 1 && mistake.column >= 1 &&
+                mistake.column <= mistake.offset + 1,
+            "a mistake's line or column");
+    const size_t length = std::strlen(mistake.words);
+    require(length != 0 && length < 2000 && std::strchr(mistake.words, '\n') == nullptr, "the words of a mistake");
+}
+
+int read(RrcCellGroupCfg_t& record, const char* text, size_t length)
+{
+    Input input{text, length};
+    const int mistakes = rrcRecordFromJson(&record, text, length, nullptr, checkMistake, &input);
+    require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES, "mistakes are counted otherwise");
+    return mistakes;
+}
+
+std::string written(const RrcCellGroupCfg_t& record)
+{
+    std::string text;
+    rrcRecordToJson(
+        &record, [](void* to, const char* piece) { *static_cast<std::string*>(to) += piece; }, &text);
+    return text;
+}
+
+// The octets, or the line that refuses the record.
+std::string composed(RrcCellGroupCfg_t& record)
+{
+    static UINT8 octets[8192];
+    size_t length = 0;
+    char error[512] = "";
+    const int status = rrcEncodeCellGroupCfg(&record, octets, sizeof octets, &length, error, sizeof error);
+    return status == RRC_COMPOSE_OK ? std::string(octets, octets + length) : error;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    static RrcCellGroupCfg_t record;
+    static RrcCellGroupCfg_t again;
+    const std::vector<char> text(data, data + size); // of its exact size, so that reading past it is found
+    if (read(record, text.data(), text.size()) != 0)
+    {
+        return 0;
+    }
+    const std::string first = written(record);
+    require(read(again, first.data(), first.size()) == 0, "what was written has mistakes");
+    require(written(again) == first, "what was written is another record");
+    require(composed(again) == composed(record), "what was written composes to something else");
+    return 0;
+}

@@ -1,0 +1,252 @@
+// What is made of records that somebody writes by hand: what follows, what is merged, and every mistake with its place.
+#include "rrcRecordFromJson.h"
+
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class recordFromJson : public testing::Test
+{
+protected:
+    recordFromJson() : folder_(testing::TempDir() + "recordFromJson")
+    {
+        std::filesystem::create_directories(folder_);
+    }
+
+    ~recordFromJson() override
+    {
+        std::error_code error;
+        std::filesystem::remove_all(folder_, error);
+    }
+
+    // The mistakes, each as FILE:LINE:COLUMN: PATH: WORDS.
+    std::vector<std::string> read(const std::string& text, const char* file = nullptr)
+    {
+        std::vector<std::string> mistakes;
+        const auto sink = [](void* to, const RrcRecordMistake* found)
+        {
+            const Asn1Mistake& mistake = found->mistake;
+            const std::string name = std::filesystem::path(found->file).filename().string();
+            static_cast<std::vector<std::string>*>(to)->push_back(
+                (name.empty() ? name : name + ":") + std::to_string(mistake.line) + ":" +
+                std::to_string(mistake.column) + ": " + mistake.path + ": " + mistake.words);
+        };
+        const int count = rrcRecordFromJson(record_.get(), text.data(), text.size(), file, sink, &mistakes);
+        EXPECT_EQ(static_cast<std::size_t>(count), mistakes.size());
+        return mistakes;
+    }
+
+    std::string save(const std::string& name, const std::string& text)
+    {
+        const std::string path = folder_ + "/" + name;
+        std::ofstream(path) << text;
+        return path;
+    }
+
+    const std::string folder_;
+    const std::unique_ptr<RrcCellGroupCfg_t> record_ = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+};
+
+TEST_F(recordFromJson, masksCountsAndAlternativesFollow)
+{
+    std::memset(record_.get(), 0xA5, sizeof *record_);
+    ASSERT_THAT(read(R"({
+        "cellGroupId": 1,
+        "rlcBearerCfg": [
+            {"lchId": 4, "rbType": "drb-Identity", "rbId": 2,
+             "rlcCfg": {"choice": {"amCfg": {"ulAmCfg": {"pollPdu": "infinity"}}}}},
+            {"lchId": 5}
+        ],
+        "macCellGrpCfg": {"drxCfg": {"drxOnDurationTimer": {"milliSeconds": "ms10"},
+                                     "drxLongCycleStartOffset": {"period": "ms320", "offset": 9}}}
+    })"),
+                IsEmpty());
+    EXPECT_EQ(record_->cellGroupId, 1);
+    EXPECT_EQ(record_->bitMask, RRC_CELLGROUPCFG_MAC_PRESENCE);
+    EXPECT_EQ(record_->rlcBearerAddModNum, 2U);
+    const RrcRlcBearerCfg_t& bearer = record_->rlcBearerCfg[0];
+    EXPECT_EQ(bearer.bitMask, RRC_RLCBEARERCFG_RBTYPE_PRESENCE | RRC_RLCBEARERCFG_RLC_PRESENCE);
+    EXPECT_EQ(bearer.rbType, 1);
+    EXPECT_EQ(bearer.rbId, 2);
+    EXPECT_EQ(bearer.rlcCfg.bitMask, RRC_RLCCFG_AM_PRESENCE);
+    EXPECT_EQ(bearer.rlcCfg.choice.amCfg.ulAmCfg.pollPdu, 23);
+    EXPECT_EQ(bearer.rlcCfg.choice.amCfg.dlAmCfg.tReassembly, 0);
+    EXPECT_EQ(record_->rlcBearerCfg[1].bitMask, 0);
+    EXPECT_EQ(record_->rlcBearerCfg[2].lchId, 0);
+    const RrcDrxCfg_t& drx = record_->macCellGrpCfg.drxCfg;
+    EXPECT_EQ(record_->macCellGrpCfg.bitMask, RRC_MAC_CELL_GRP_CFG_DRX_PRESENCE);
+    EXPECT_EQ(drx.bitMask, RRC_DRX_CFG_ONDURATION_MILLION_PRESENCE);
+    EXPECT_EQ(drx.drxOnDurationTimer.milliSeconds, 7);
+    EXPECT_EQ(drx.drxLongCycleStartOffset.period, 12);
+    EXPECT_EQ(drx.drxLongCycleStartOffset.offset, 9);
+}
+
+TEST_F(recordFromJson, whatIsSaidWins)
+{
+    ASSERT_THAT(read(R"({
+        "rlcBearerAddModNum": 40,
+        "rlcBearerCfg": [{"bitMask": 0, "rlcCfg": {"bitMask": ["RRC_RLCCFG_UM_BI_PRESENCE", 64],
+                                                   "choice": {"amCfg": {}}}}],
+        "bitMask": 255
+    })"),
+                IsEmpty());
+    EXPECT_EQ(record_->rlcBearerAddModNum, 40U);
+    EXPECT_EQ(record_->rlcBearerCfg[0].bitMask, 0);
+    EXPECT_EQ(record_->rlcBearerCfg[0].rlcCfg.bitMask, RRC_RLCCFG_UM_BI_PRESENCE | RRC_RLCCFG_AM_PRESENCE | 64);
+    EXPECT_EQ(record_->bitMask, 255);
+}
+
+TEST_F(recordFromJson, valuesInTheirForms)
+{
+    ASSERT_THAT(read(R"(// bearers
+{
+    "rlcBearerCfg": [{"rbType": 1, "rbId": 3}], // by its number
+    /* a signed number in an unsigned field, a boolean that is neither */
+    "phyCellGrpCfg": {"pNrFR1Pmax": -30},
+    "macCellGrpCfg": {"skipUpTxDynamic": 2, "phrCfg": {"multiplePHR": true, "phrPeriodTimer": 5}},
+    "spCellCfg": {"recfgWithSync": {"spCellConfigCommon": {"dlCfgComm": {"bwpDlCommon": {"pdcchCfgCommon": {
+        "commonControlResourceSet": {"freqDomainResources": "fffffffffff8", "regBundleSize": "n3"}}}}}}}
+})"),
+                IsEmpty());
+    EXPECT_EQ(record_->rlcBearerCfg[0].rbType, 1);
+    EXPECT_EQ(static_cast<signed char>(record_->phyCellGrpCfg.pNrFR1Pmax), -30);
+    EXPECT_EQ(record_->macCellGrpCfg.skipUpTxDynamic, 2);
+    EXPECT_EQ(record_->macCellGrpCfg.phrCfg.multiplePHR, 1);
+    EXPECT_EQ(record_->macCellGrpCfg.phrCfg.phrPeriodTimer, 5);
+    const NrControlResourceSet_t& coreset = record_->spCellCfg.recfgWithSync.spCellConfigCommon.dlCfgComm.bwpDlCommon
+                                                .pdcchCfgCommon.commonControlResourceSet;
+    EXPECT_EQ(coreset.freqDomainResources, (UINT64{1} << 45) - 1);
+    EXPECT_EQ(coreset.cceRegMappingType, 1);
+    EXPECT_EQ(coreset.regBundleSize, 1);
+}
+
+TEST_F(recordFromJson, mistakesHaveTheirPlaces)
+{
+    EXPECT_THAT(read("{\n  \"cellGroupID\": 1}"),
+                ElementsAre("2:3: : RrcCellGroupCfg_t has no \"cellGroupID\"; did you mean \"cellGroupId\"?"));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{}, {\"lchId\": 256}]}"),
+                ElementsAre("1:33: rlcBearerCfg[1].lchId: 256 is not in 0..255, which the field holds; "
+                            "the standard has 1..32"));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"lchId\": -1}]}"),
+                ElementsAre(HasSubstr("1:29: rlcBearerCfg[0].lchId: -1 is not in 0..255")));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"lchId\": 99999999999999999999}]}"),
+                ElementsAre(HasSubstr("99999999999999999999 is not in 0..255")));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"lchId\": \"four\"}, {\"lchId\": 1.5}]}"),
+                ElementsAre("1:29: rlcBearerCfg[0].lchId: expected an integer in 0..255, found the string \"four\"",
+                            "1:48: rlcBearerCfg[1].lchId: expected an integer in 0..255, found the number 1.5"));
+    EXPECT_THAT(read("{\"macCellGrpCfg\": {\"drxCfg\": {\"drxInactivityTimer\": \"ms101\"}}}"),
+                ElementsAre("1:53: macCellGrpCfg.drxCfg.drxInactivityTimer: unknown value \"ms101\"; "
+                            "did you mean \"ms10\"?"));
+    EXPECT_THAT(read("{\"macCellGrpCfg\": []}"),
+                ElementsAre("1:19: macCellGrpCfg: expected an object, found an array"));
+    EXPECT_THAT(read("{\"lchIdRelease\": 3}"),
+                ElementsAre("1:18: lchIdRelease: expected an array of at most 32 entries, found the number 3"));
+    EXPECT_THAT(read("{\"sCellAddMod\": [{}, {}, {}, {}]}"),
+                ElementsAre("1:30: sCellAddMod: there is room for 3 entries, not for 4"));
+    EXPECT_THAT(read("{\"cellGroupId\": 1, \"cellGroupId\": 2}"), ElementsAre("1:20: cellGroupId: given twice"));
+    EXPECT_THAT(read("{\"bitMask\": [\"RRC_CELLGROUPCFG_MAC_PRESENC\"]}"),
+                ElementsAre("1:14: bitMask[0]: unknown bit \"RRC_CELLGROUPCFG_MAC_PRESENC\"; "
+                            "did you mean \"RRC_CELLGROUPCFG_MAC_PRESENCE\"?"));
+    EXPECT_THAT(read("{\"macCellGrpCfg\": {\"drxCfg\": {\"drxLongCycleStartOffset\": {\"offset\": 1}}}}"),
+                ElementsAre("1:59: macCellGrpCfg.drxCfg.drxLongCycleStartOffset.offset: "
+                            "it does not say which alternative it is of: \"period\" is missing"));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"rlcCfg\": {\"choice\": {\"amCfg\": {}, \"umBiCfg\": {}}}}]}"),
+                ElementsAre(HasSubstr("1:55: rlcBearerCfg[0].rlcCfg.choice.umBiCfg: a second alternative")));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"rlcCfg\": {\"choice\": {}}}]}"),
+                ElementsAre(HasSubstr("rlcBearerCfg[0].rlcCfg.choice: no alternative; there is \"amCfg\"")));
+    EXPECT_THAT(read("{\"cellGroupId\": 1"), ElementsAre(HasSubstr("syntax error")));
+    EXPECT_THAT(read("[]"), ElementsAre("1:1: RrcCellGroupCfg_t: expected an object, found an array"));
+    EXPECT_THAT(read(""), testing::SizeIs(1));
+    EXPECT_THAT(read(std::string(100, '[')), ElementsAre(HasSubstr("deeper than 64")));
+}
+
+TEST_F(recordFromJson, placesBehindComments)
+{
+    EXPECT_THAT(read("{ // \"cellGroupId\": 7\n  /* \n */ \"cellGroupId\": 1// one\n, \"x\": 1}"),
+                ElementsAre("4:3: : RrcCellGroupCfg_t has no \"x\""));
+}
+
+TEST_F(recordFromJson, bitStrings)
+{
+    const std::string before = "{\"spCellCfg\": {\"recfgWithSync\": {\"spCellConfigCommon\": {\"dlCfgComm\": "
+                               "{\"bwpDlCommon\": {\"pdcchCfgCommon\": {\"commonControlResourceSet\": "
+                               "{\"freqDomainResources\": ";
+    const std::string after = "}}}}}}}}";
+    EXPECT_THAT(read(before + "\"fff8\"" + after),
+                ElementsAre(HasSubstr("freqDomainResources: 45 bits take 12 hexadecimal digits, not 4")));
+    EXPECT_THAT(read(before + "\"fffffffffff9\"" + after),
+                ElementsAre(HasSubstr("the last 3 bits of \"fffffffffff9\" are padding and have to be 0")));
+    EXPECT_THAT(read(before + "\"ffffffffffgg\"" + after),
+                ElementsAre(HasSubstr("expected a string of 12 hexadecimal digits, found the string")));
+}
+
+TEST_F(recordFromJson, includesAreMerged)
+{
+    (void)save("base.json", R"({"cellGroupId": 3,
+        "rlcBearerCfg": [{"lchId": 1}, {"lchId": 2}],
+        "macCellGrpCfg": {"drxCfg": {"drxSlotOffset": 5, "drxInactivityTimer": "ms2"}, "skipUpTxDynamic": true},
+        "phyCellGrpCfg": {"pNrFR1Pmax": 20}})");
+    (void)save("bearer.json", R"({"lchId": 7, "reestablRlc": "true"})");
+    const std::string file = save("test.json", "");
+    ASSERT_THAT(read(R"({"$include": "base.json",
+        "macCellGrpCfg": {"drxCfg": {"drxInactivityTimer": "ms3"}}, // one member
+        "phyCellGrpCfg": null,
+        "rlcBearerCfg": [{"$include": "bearer.json", "lchId": 8}]})",
+                     file.c_str()),
+                IsEmpty());
+    EXPECT_EQ(record_->cellGroupId, 3);
+    EXPECT_EQ(record_->bitMask, RRC_CELLGROUPCFG_MAC_PRESENCE);
+    EXPECT_EQ(record_->macCellGrpCfg.drxCfg.drxSlotOffset, 5);
+    EXPECT_EQ(record_->macCellGrpCfg.drxCfg.drxInactivityTimer, 3);
+    EXPECT_EQ(record_->macCellGrpCfg.skipUpTxDynamic, 1);
+    EXPECT_EQ(record_->rlcBearerAddModNum, 1U);
+    EXPECT_EQ(record_->rlcBearerCfg[0].lchId, 8);
+    EXPECT_EQ(record_->rlcBearerCfg[0].bitMask, RRC_RLCBEARERCFG_REESTABRLC_PRESENCE);
+}
+
+TEST_F(recordFromJson, mistakesInIncludedFiles)
+{
+    const std::string file = save("test.json", "");
+    EXPECT_THAT(read(R"({"$include": "base.json"})"), ElementsAre("1:14: : no file is included here"));
+    EXPECT_THAT(read(R"({"$include": "none.json"})", file.c_str()),
+                ElementsAre(HasSubstr("test.json:1:14: : cannot read ")));
+    (void)save("base.json", "{\"macCellGrpCfg\": {\n\"drxCfg\": {\"drxSlotOffset\": 500}}}");
+    EXPECT_THAT(read(R"({"$include": "base.json"})", file.c_str()),
+                ElementsAre(HasSubstr("base.json:2:29: macCellGrpCfg.drxCfg.drxSlotOffset: 500 is not in 0..255")));
+    (void)save("base.json", "[]");
+    EXPECT_THAT(read(R"({"$include": "base.json"})", file.c_str()), ElementsAre(HasSubstr("has no object")));
+    (void)save("base.json", R"({"$include": "base.json"})");
+    EXPECT_THAT(read(R"({"$include": "base.json"})", file.c_str()),
+                ElementsAre(HasSubstr("base.json:1:14: : files in files deeper than 8")));
+    (void)save("base.json", R"({"macCellGrpCfg": {}, "a": )");
+    EXPECT_THAT(read(R"({"$include": "base.json"})", file.c_str()), ElementsAre(HasSubstr("base.json:1:")));
+    EXPECT_THAT(read(R"({"$include": 1})", file.c_str()), ElementsAre("test.json:1:14: : expected the name of a file"));
+    EXPECT_THAT(read(R"({"$include": "none.json", "cellGroupId": 1, "cellGroupId": 2})", file.c_str()),
+                testing::Contains("test.json:1:45: cellGroupId: given twice"));
+}
+
+// Files that name each other over and over come to an end.
+TEST_F(recordFromJson, includesEnd)
+{
+    std::string text = "{";
+    for (int i = 0; i < 200; ++i)
+    {
+        text += (i == 0 ? "\"" : ",\"") + std::to_string(i) + "\": {\"$include\": \"base.json\"}";
+    }
+    const std::string file = save("base.json", text + "}");
+    EXPECT_FALSE(read(R"({"$include": "base.json"})", file.c_str()).empty());
+}
+
+} // namespace
