@@ -27,6 +27,10 @@
 
 // A build of an earlier commit, which is measured beside this one, has none.
 extern "C" [[gnu::weak]] size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets);
+struct RrcUnsaid;
+extern "C" [[gnu::weak]] INT32 rrcDecomposeCellGroupCfg(OSCTXT* pAsnCxt, const CellGroupConfig* pCellGroupConfig,
+                                                        RrcCellGroupCfg_t* pRrcCellGroupCfg,
+                                                        int (*sink)(void*, const RrcUnsaid*), void* arg);
 
 namespace
 {
@@ -138,6 +142,15 @@ public:
         decode(context);
     }
 
+    void decompose()
+    {
+        static const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+        if (rrcDecomposeCellGroupCfg(&context_, &tree_, record.get(), nullptr, nullptr) != 0)
+        {
+            fail("decompose");
+        }
+    }
+
     double octets() const
     {
         return static_cast<double>(octets_.size());
@@ -241,6 +254,10 @@ void addMessage(const std::string& name, Message& m, const bench::Walk& walk)
     if (rtxMemHeapSetMemory != nullptr)
     {
         add(name + "/decode_into_memory", [&m](auto& state) { runWarm(state, [&m] { m.decodeIntoMemory(); }); });
+    }
+    if (rrcDecomposeCellGroupCfg != nullptr)
+    {
+        add(name + "/decompose", [&m](auto& state) { runWarm(state, [&m] { m.decompose(); }); });
     }
     addCold(name + "/encode_cold", walk, [&m] { m.encode(); });
     addCold(name + "/entry_cold", walk, [&m] { m.entry(); });
