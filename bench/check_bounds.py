@@ -18,8 +18,7 @@ def bounds(found):
     for message in ("one_bearer", "releases", "secondary_cells"):
         yield f"{message}/encode", floor, measured.floors(found, f"{message}/encode"), 2.1
     for what, to, bound in (("one_bearer/entry_of_many_switched_off", "one_bearer/entry", 1),
-                            ("typical_call/entry_after_malloc", "typical_call/entry_after_nothing", 1.1),
-                            ("typical_call/decompose", "typical_call/decode", 2)):
+                            ("typical_call/entry_after_malloc", "typical_call/entry_after_nothing", 1.1)):
         yield what, f"x {to}", measured.ratio(found, what, to), bound
     for what in ("encode", "entry", "decode"):
         for message in ("one_bearer", "grown_8000"):

@@ -119,42 +119,45 @@ public:
         }
         // What is stored may lie anywhere for all the compiler knows: so nothing is read again for each field.
         const Type& of = *type.element;
-        const rtx::Member* const members = of.kind == Kind::Sequence ? of.members : nullptr;
-        const unsigned rootCount = of.rootCount;
+        const rtx::Member* const members = of.members;
+        const unsigned rootCount = of.kind == Kind::Sequence ? of.rootCount : 0;
         const RrcRecordOp* const end = type.ops + type.opCount;
         for (const RrcRecordOp* op = type.ops; op != end; ++op)
         {
-            const RrcRecordOp take = *op;
-            if (take.code == RrcRecordOp::Clear)
+            const UINT8 code = op->code;
+            if (code == RrcRecordOp::Clear)
             {
                 continue;
             }
-            const rtx::Member* const member =
-                members != nullptr && take.step < rootCount ? members + take.step : nullptr;
+            const unsigned step = op->step;
+            const rtx::Member* const member = step < rootCount ? members + step : nullptr;
             if (element == nullptr || (member != nullptr && !rtx::isPresent(*member, element)))
             {
-                if (take.isReadAnyway)
+                if (op->isReadAnyway)
                 {
-                    leaveOut(type.fields[take.index], record);
+                    leaveOut(type.fields[op->index], record);
                 }
+                continue;
             }
-            else if (member == nullptr || take.code >= RrcRecordOp::Field)
+            if (member == nullptr || code >= RrcRecordOp::Field)
             {
-                slow(type, take, element, record, guards);
+                slow(type, *op, element, record, guards);
+                continue;
             }
-            else if (take.code == RrcRecordOp::Number ? storeNumber(take, *member, element, record)
-                     : take.code == RrcRecordOp::Record
-                         ? fill(*take.record, rtx::at(element, *member), static_cast<OSOCTET*>(record) + take.offset)
-                         : list(type, take, {member->type, rtx::at(element, *member)}, record))
+            const void* const content = rtx::at(element, *member);
+            OSOCTET* const to = static_cast<OSOCTET*>(record) + op->offset;
+            const UINT32 guard = op->guard;
+            const UINT8 guardMask = op->guardMask;
+            const bool said = code == RrcRecordOp::Number   ? storeNumber(*op, *member, content, to)
+                              : code == RrcRecordOp::Record ? fill(*type.fields[op->index].record, content, to)
+                                                            : list(type, *op, {member->type, content}, record);
+            if (!said)
             {
-                if (take.guardMask != 0)
-                {
-                    guards.add(take.guard, take.guardMask);
-                }
+                guards.add({Said::No, member->flag >= 0}, type.fields[op->index].guard);
             }
-            else
+            else if (guardMask != 0)
             {
-                guards.add({Said::No, member->flag >= 0}, type.fields[take.index].guard);
+                guards.add(guard, guardMask);
             }
         }
         if (type.element == &nr_rrc::type_PUCCH_Config)
@@ -171,7 +174,7 @@ private:
         const RrcRecordField& field = type.fields[op.index];
         UINT32 used = 0;
         forEntries(place, field.bound,
-                   [&](const void* data) { used += fill(*op.record, data, placeOf(field, record, used)) ? 1 : 0; });
+                   [&](const void* data) { used += fill(*field.record, data, placeOf(field, record, used)) ? 1 : 0; });
         rrcRecordStore(&type.fields[field.count], record, 0, used);
         return used != 0;
     }
@@ -192,9 +195,8 @@ private:
         }
     }
 
-    static bool storeNumber(const RrcRecordOp& op, const rtx::Member& member, const void* element, void* record)
+    static bool storeNumber(const RrcRecordOp& op, const rtx::Member& member, const void* from, void* to)
     {
-        const void* const from = rtx::at(element, member);
         const bool isSigned = member.lower < 0;
         int64_t number = 0;
         switch (member.step)
@@ -212,7 +214,7 @@ private:
             number = rtx::loadNumber(*member.type, from);
             break;
         }
-        return storeNumber(number, op.size, op.isSigned, static_cast<OSOCTET*>(record) + op.offset);
+        return storeNumber(number, op.size, op.isSigned, to);
     }
 
     // Of the resource sets that are released the ids beyond the number of added sets go out as 0.
@@ -406,7 +408,7 @@ private:
              ++i)
         {
             const RrcRecordField& field = type.fields[i];
-            if (field.kind == RRC_FIELD_UNION && field.bound == 0)
+            if (field.choice == static_cast<INT32>(index) && field.kind == RRC_FIELD_UNION && field.bound == 0)
             {
                 guards.add(unionOf(field, option->member, place, record), field.guard);
             }

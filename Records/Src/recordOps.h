@@ -22,17 +22,17 @@ struct RrcRecordOp
     };
     static constexpr UINT16 noStep = RRC_STEP_ENTRY;
 
-    const RrcRecordType* record; // Record, List
-    UINT32 offset;               // of the field
-    UINT32 guard;                // of the octet that holds the guard
-    UINT16 step;                 // the first one into the element, or noStep
-    UINT16 index;                // of the field or the bit
-    UINT8 guardMask;             // the bit in that octet; 0: none
+    UINT32 offset;   // of the field
+    UINT32 guard;    // of the octet that holds the guard
+    UINT16 step;     // the first one into the element, or noStep
+    UINT16 index;    // of the field or the bit
+    UINT8 guardMask; // the bit in that octet; 0: none
     UINT8 code;
-    UINT8 size;        // Number: of the field
-    bool isSigned;     // Number: as the field is read
-    bool isReadAnyway; // something has to be stored although the member is absent
+    UINT8 size : 6;         // Number: of the field
+    UINT8 isSigned : 1;     // Number: as the field is read
+    UINT8 isReadAnyway : 1; // something has to be stored although the member is absent
 };
+static_assert(sizeof(RrcRecordOp) <= 16);
 
 namespace records
 {
@@ -74,11 +74,12 @@ constexpr RrcRecordOp opOf(const RrcRecordField* fields, UINT16 index, const Rrc
               : isRecord && field.bound == 0 && isMember ? RrcRecordOp::Record
               : isRecord && field.bound != 0 && isList   ? RrcRecordOp::List
                                                          : RrcRecordOp::Field;
-    op.record = field.record;
-    op.size = static_cast<UINT8>(isPlain ? field.size : 0);
-    op.isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0;
-    op.isReadAnyway = (field.flags & RRC_FIELD_ELSE_ABSENT) != 0 ||
-                      (field.kind == RRC_FIELD_RECORD && field.bound == 0 && field.guard < 0);
+    op.size = static_cast<UINT8>(isPlain ? field.size & 0x3FU : 0U);
+    const bool isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0;
+    op.isSigned = isSigned ? 1 : 0;
+    const bool isReadAnyway = (field.flags & RRC_FIELD_ELSE_ABSENT) != 0 ||
+                              (field.kind == RRC_FIELD_RECORD && field.bound == 0 && field.guard < 0);
+    op.isReadAnyway = isReadAnyway ? 1 : 0;
     return op;
 }
 
