@@ -26,11 +26,16 @@
 #include "typicalCall.h"
 
 // A build of an earlier commit, which is measured beside this one, lacks one or the other.
+#if __has_include("rrcDecompose.h")
+#include "rrcDecompose.h"
+#endif
+#if __has_include("rrcRecordJson.h")
+#include "rrcRecordJson.h"
+#endif
 #if __has_include("rrcRules.h")
 #include "rrcRules.h"
 #endif
 extern "C" [[gnu::weak]] size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets);
-extern "C" [[gnu::weak]] void rrcRecordToJson(const RrcCellGroupCfg_t* record, RtxPrintSink sink, void* arg);
 
 namespace
 {
@@ -127,6 +132,7 @@ public:
         compose(*record_, buffer_.data());
     }
 
+#ifdef RRCRECORDJSON_H
     std::size_t recordToJson()
     {
         std::size_t octets = 0;
@@ -135,6 +141,7 @@ public:
             &octets);
         return octets;
     }
+#endif
 
     void decode()
     {
@@ -160,6 +167,16 @@ public:
         if (rrcCheckRules(&context_, &tree_, &known, nullptr, nullptr) < 0)
         {
             fail("check");
+        }
+    }
+#endif
+#ifdef RRCDECOMPOSE_H
+    void decompose()
+    {
+        static const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+        if (rrcDecomposeCellGroupCfg(&context_, &tree_, record.get(), nullptr, nullptr) != 0)
+        {
+            fail("decompose");
         }
     }
 #endif
@@ -271,6 +288,9 @@ void addMessage(const std::string& name, Message& m, const bench::Walk& walk)
     {
         add(name + "/decode_into_memory", [&m](auto& state) { runWarm(state, [&m] { m.decodeIntoMemory(); }); });
     }
+#ifdef RRCDECOMPOSE_H
+    add(name + "/decompose", [&m](auto& state) { runWarm(state, [&m] { m.decompose(); }); });
+#endif
     addCold(name + "/encode_cold", walk, [&m] { m.encode(); });
     addCold(name + "/entry_cold", walk, [&m] { m.entry(); });
     addCold(name + "/decode_cold", walk, [&m] { m.decode(); });
@@ -305,11 +325,10 @@ void addTypicalCall(Message& m)
 {
     static const bench::Walk walk(std::size_t{6} << 20);
     static bench::ForeignHeap foreign;
-    if (rrcRecordToJson != nullptr)
-    {
-        add("typical_call/record_to_json",
-            [&m](auto& state) { runWarm(state, [&m] { benchmark::DoNotOptimize(m.recordToJson()); }); });
-    }
+#ifdef RRCRECORDJSON_H
+    add("typical_call/record_to_json",
+        [&m](auto& state) { runWarm(state, [&m] { benchmark::DoNotOptimize(m.recordToJson()); }); });
+#endif
     addCold("typical_call/entry_after_6MB", walk, [&m] { m.entry(); });
     addCold("typical_call/decode_after_6MB", walk, [&m] { m.decode(); });
     addLine("line_6MB", walk);

@@ -849,7 +849,7 @@ class Writer:
         return (
             f"// {GENERATED}\n// clang-format off\n"
             '#include "rrcRecordType.h"\n\n'
-            f'#include "NR-RRC-Tables.h"\n{includes}\n\n#include <cstddef>\n\n'
+            f'#include "NR-RRC-Tables.h"\n#include "recordOps.h"\n{includes}\n\n#include <cstddef>\n\n'
             "namespace\n{\n\n" + "\n".join(ways) + "\n\n" + "\n".join(bodies) + "\n} // namespace\n\n"
             f"const RrcRecordType* const rrcRecordTypes[] = {{\n{listed}\n}};\n\n"
             "const UINT32 rrcRecordTypeCount = sizeof rrcRecordTypes / sizeof rrcRecordTypes[0];\n"
@@ -878,12 +878,15 @@ class Writer:
                 for index, choice in enumerate(made.choices)
             )
             lines.append(f"constexpr RrcRecordChoice choices_{made.symbol}[] = {{\n{text}}};\n")
+        held = f"sizeof({struct.expression}), fields_{made.symbol}, {f'bits_{made.symbol}' if bits else 'nullptr'}, {len(bits)}"
+        lines.append(f"constexpr auto ops_{made.symbol} = records::opsOf<records::opCount({held})>({held});\n")
         lines.append(
             f"constexpr RrcRecordType type_{made.symbol} = {{{quoted(struct.name)}, {quoted(struct.file)}, "
             f"{quoted(made.path)}, {quoted(made.note)}, &nr_rrc::type_{made.element.symbol}, "
             f"sizeof({struct.expression}), {int(struct.is_union)}, {len(made.fields)}, {len(bits)}, "
             f"{len(made.choices)}, fields_{made.symbol}, {f'bits_{made.symbol}' if bits else 'nullptr'}, "
-            f"{f'choices_{made.symbol}' if made.choices else 'nullptr'}}};\n"
+            f"{f'choices_{made.symbol}' if made.choices else 'nullptr'}, ops_{made.symbol}.data(), "
+            f"static_cast<UINT16>(ops_{made.symbol}.size())}};\n"
         )
         return "".join(lines)
 

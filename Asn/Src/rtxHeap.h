@@ -90,7 +90,7 @@ public:
     explicit HeapMark(OSCTXT& ctxt) : ctxt_(ctxt), block_(ctxt.heap.blocks), next_(ctxt.heap.next) {}
     ~HeapMark()
     {
-        if (!kept_ && ctxt_.heap.blocks == block_)
+        if (!kept_ && ctxt_.heap.blocks == block_ && ctxt_.heap.next != next_) // nothing may have been handed out
         {
             std::memset(next_, 0, static_cast<size_t>(ctxt_.heap.next - next_)); // is handed out cleared again
             ctxt_.heap.next = next_;

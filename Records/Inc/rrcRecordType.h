@@ -144,6 +144,8 @@ struct RrcRecordType
     const RrcRecordField* fields; /**< in their order */
     const RrcRecordBit* bits;     /**< of all its masks, those of one mask in ascending order */
     const RrcRecordChoice* choices; /**< that it makes */
+    const struct RrcRecordOp* ops;  /**< the same in short, for rrcDecomposeCellGroupCfg alone */
+    UINT16 opCount;                 /**< of ops */
 };
 
 /** All records, the whole cell group (RrcCellGroupCfg_t) first. */
