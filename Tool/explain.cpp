@@ -4,6 +4,7 @@
 #include "messageTypes.h"
 #include "nearest.h"
 #include "rows.h"
+#include "rrcRecordType.h"
 #include "ruleTable.h"
 #include "schemaPath.h"
 #include "style.h"

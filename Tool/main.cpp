@@ -437,9 +437,9 @@ private:
                                 [this](Session& session)
                                 {
                                     session.outputTo(output_);
-                                    tool::compose(session, path_.empty() ? "-" : path_, composeForm());
+                                    tool::compose(session, name_.empty() ? "-" : name_, composeForm());
                                 });
-        app.add_option("RECORD", path_, "A record: a file, '-' or nothing for standard input")->option_text(" ");
+        app.add_option("RECORD", name_, "A record: a file, '-' or nothing for standard input")->option_text(" ");
         output(app);
         octetsForms(app);
         decodeForms(app);
@@ -463,9 +463,9 @@ private:
                                 [this](Session& session)
                                 {
                                     session.outputTo(output_);
-                                    all_ ? tool::scaffold(session, path_) : tool::example(session, path_);
+                                    all_ ? tool::scaffold(session, name_) : tool::example(session, name_);
                                 });
-        app.add_option("NAME", path_, "The example; with --all a field of the record, all of it if none is named")
+        app.add_option("NAME", name_, "The example; with --all a field of the record, all of it if none is named")
             ->option_text(" ");
         app.add_flag("--all", all_, "A record with every member of a field, each with what may stand there");
         output(app);
@@ -622,7 +622,7 @@ private:
                     "  cellgroupcfg explain --tree MAC-CellGroupConfig\n"
                     "  cellgroupcfg explain                        all named types\n",
                     [this](Session& session) { tool::explain(session, name_, tree_); });
-        app.add_option("NAME", name_, "A rule's id, a type, a path from a type on, or a member's name")
+        app.add_option("NAME", name_, "A rule's id, a type, a path from a type on, a member or a field of the record")
             ->option_text(" ");
         app.add_flag("--tree", tree_, "With all that is below it");
     }

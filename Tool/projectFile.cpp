@@ -28,7 +28,7 @@ public:
     {
         try
         {
-            const toml::table all = toml::parse(Session::file(name_, mostOctets), name_);
+            const toml::table all = toml::parse(Session::file(name_, mostOctets).raw, name_);
             for (const auto& [key, node] : all)
             {
                 if (key == "context" && node.is_table())

@@ -30,15 +30,16 @@ typedef enum rrcRecordSeverity_e
  */
 typedef struct RrcRecordRule
 {
-    const char* id;      /**< "record-rlc-sn-length"; names the same rule for ever */
-    const char* region;  /**< heading that it stands under, null: it holds everywhere */
-    const char* field;   /**< what it is of: fields and bits of the headers, in words; of a general rule the statement */
+    const char* id;     /**< "record-rlc-sn-length"; names the same rule for ever */
+    const char* region; /**< heading that it stands under, null: it holds everywhere */
+    const char* field;  /**< what it is of: fields and bits of the headers, in words; of a general rule the statement */
     const char* goesOut; /**< what becomes of it */
     const char* instead; /**< what to do instead */
     /** what it is of, one by one, up to a null: "RrcRlcCfg_t.bitMask", "RRC_SPCELLCFG_RLFTIMER_PRESENCE"; null: nothing
         that has a name */
     const char* const* places;
-    OSUINT8 severity; /**< RrcRecordSeverity_e, the highest that it reports; 0: a fact of which no record can be accused */
+    OSUINT8
+        severity; /**< RrcRecordSeverity_e, the highest that it reports; 0: a fact of which no record can be accused */
 } RrcRecordRule;
 
 /** All rules, in the order of the regions */
