@@ -84,8 +84,13 @@ constexpr RowChecks rowChecks(const RowCheck (&checks)[count])
     return {checks, count};
 }
 
-// One for each region, in the order of docs/behaviour.md. A file ends in
+// One for each file of rows, in the order of docs/behaviour.md. A file ends in
 // `const RowChecks checksOfRlc = rowChecks(rlcChecks);`, declared here and listed in `allRowChecks` of recordCheck.cpp.
+extern const RowChecks checksOfCellGroup;
+extern const RowChecks checksOfServingCell;
+extern const RowChecks checksOfDownlink;
+extern const RowChecks checksOfUplink;
+extern const RowChecks checksOfCsi;
 
 } // namespace recordCheck
 
