@@ -36,7 +36,8 @@ void pucchSetsReleased(const RrcPucchCfg_t& record, Report& report)
 constexpr RowCheck exceptions[] = {row<pucchSetsReleased>};
 const RowChecks checksOfExceptions = rowChecks(exceptions);
 
-constexpr const RowChecks* const allRowChecks[] = {&checksOfExceptions};
+constexpr const RowChecks* const allRowChecks[] = {&checksOfExceptions, &checksOfCellGroup, &checksOfServingCell,
+                                                   &checksOfDownlink,   &checksOfUplink,    &checksOfCsi};
 
 // The checks of each record by its number: those of one are a chain.
 class Rows
