@@ -28,6 +28,31 @@ std::vector<std::string_view> ruleIds()
     return ids;
 }
 
+std::vector<const RrcRecordRule*> allRecordRules()
+{
+    return {rrcRecordRules, rrcRecordRules + rrcRecordRuleCount};
+}
+
+std::vector<std::string_view> recordRuleIds()
+{
+    std::vector<std::string_view> ids;
+    for (const RrcRecordRule* const rule : allRecordRules())
+    {
+        ids.emplace_back(rule->id);
+    }
+    return ids;
+}
+
+std::string recordStatement(const RrcRecordRule& rule)
+{
+    return std::string(rule.field) + (rule.goesOut == nullptr ? "" : std::string(": ") + rule.goesOut);
+}
+
+const char* recordSeverityName(const RrcRecordRule& rule)
+{
+    return rule.severity == 0 ? "fact" : rrcRuleSeverityName(rule.severity);
+}
+
 std::vector<std::string> exampleLines(std::string_view example)
 {
     std::vector<std::string> lines;

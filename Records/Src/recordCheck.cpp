@@ -397,8 +397,9 @@ class Walk;
 class Probe final : public Report
 {
 public:
-    Probe(const Frame& frame, OSUINT8 severity, const char* bit)
-        : at_(frame.place()),
+    // `ofBits`: the rule is one of a mask's bits, perhaps of one with a name, and not of the field.
+    Probe(const Frame& frame, OSUINT8 severity, bool ofBits, const char* bit)
+        : at_(ofBits ? nullptr : frame.place()),
           severity_(severity),
           bit_(bit),
           type_(frame.type.name),
@@ -414,7 +415,7 @@ public:
 private:
     void found(const RrcRecordRule& rule, OSUINT8 severity, const void* at) override
     {
-        taken_ = taken_ || (severity >= severity_ && ((at == at_ && field_ != nullptr) || names(rule)));
+        taken_ = taken_ || (severity >= severity_ && (at == at_ || names(rule)));
     }
 
     bool names(const RrcRecordRule& rule) const
@@ -1400,7 +1401,8 @@ private:
         {
             return;
         }
-        Probe probe(frame, severity == 0 ? rule.severity : severity, bit);
+        const bool ofBits = frame.at().kind == RRC_FIELD_MASK && (bit != nullptr || &rule == &generalRules::bit);
+        Probe probe(frame, severity == 0 ? rule.severity : severity, ofBits, bit);
         for (const Frame* around = &frame; around != nullptr && !probe.taken(); around = around->outer)
         {
             rows_.run(around->type.number, around->record, probe);
@@ -1435,7 +1437,7 @@ private:
     }
 
     // A row's finding, at an address in the record or in what lies in it.
-    void found(const RrcRecordRule& rule, OSUINT8 severity, const void* at) override
+    void found(const RrcRecordRule& rule, OSUINT8 severity, const void* where) override
     {
         if (ended_)
         {
@@ -1446,60 +1448,58 @@ private:
             ++count_;
             return;
         }
-        tellRow(*current_, rule, severity, static_cast<const unsigned char*>(at));
+        if (!tellRow(*current_, rule, severity, static_cast<const unsigned char*>(where)))
+        {
+            tellField(at(*current_, 0), rule, severity, static_cast<const unsigned char*>(where));
+        }
     }
 
-    void tellRow(Frame& frame, const RrcRecordRule& rule, OSUINT8 severity, const unsigned char* at)
+    // Tells it of the innermost field that the address lies in. False: it lies in none.
+    bool tellRow(Frame& frame, const RrcRecordRule& rule, OSUINT8 severity, const unsigned char* where)
     {
         for (UINT32 i = 0; i < frame.type.fieldCount; ++i)
         {
-            const RrcRecordField& field = frame.type.fields[i];
-            const auto* const begin = static_cast<const unsigned char*>(rrcRecordPlace(&field, frame.record, 0));
+            const RrcRecordField& field = at(frame, i).at();
+            const auto* const begin = static_cast<const unsigned char*>(frame.place());
             const size_t octets = size_t{field.size} * std::max<UINT32>(field.bound, 1);
-            if (at < begin || at >= begin + octets)
+            if (where < begin || where >= begin + octets)
             {
                 continue;
             }
-            frame.field = i;
-            frame.entry = static_cast<UINT32>(static_cast<size_t>(at - begin) / field.size);
-            if (field.kind == RRC_FIELD_OCTETS)
+            if (field.kind != RRC_FIELD_OCTETS)
             {
-                frame.entry = 0;
+                frame.entry = static_cast<UINT32>(static_cast<size_t>(where - begin) / field.size);
             }
-            for (UINT32 c = 0; c < frame.type.choiceCount; ++c)
-            {
-                frame.chosen[c] = rrcRecordChosen(&frame.type, frame.record, c);
-            }
-            if (field.kind == RRC_FIELD_RECORD)
-            {
-                Frame next = {*field.record, frame.place(), &frame};
-                tellRow(next, rule, severity, at);
-                return;
-            }
-            const INT32 member = rrcRecordMember(&frame.type, frame.record, i);
-            if (field.kind == RRC_FIELD_UNION && member >= 0)
-            {
-                tellMember(frame, static_cast<UINT32>(member), rule, severity, at);
-                return;
-            }
-            tell(frame, rule, severity, [&](Texts& texts) { rowTexts(texts, frame, rule); });
-            return;
+            tellField(frame, rule, severity, where);
+            return true;
         }
+        return false;
     }
 
-    // In the member of a union that the record chooses.
-    void tellMember(Frame& frame, UINT32 member, const RrcRecordRule& rule, OSUINT8 severity,
-                    const unsigned char* where)
+    void tellField(Frame& frame, const RrcRecordRule& rule, OSUINT8 severity, const unsigned char* where)
     {
-        Frame chosen = {*frame.at().record, frame.place(), &frame};
-        chosen.field = member;
-        if (chosen.at().kind == RRC_FIELD_RECORD)
+        const RrcRecordField& field = frame.at();
+        for (UINT32 i = 0; i < frame.type.choiceCount; ++i)
         {
-            Frame next = {*chosen.at().record, chosen.place(), &chosen};
-            tellRow(next, rule, severity, where);
+            frame.chosen[i] = rrcRecordChosen(&frame.type, frame.record, i);
+        }
+        const INT32 member =
+            field.kind == RRC_FIELD_UNION ? rrcRecordMember(&frame.type, frame.record, frame.field) : -1;
+        if (member >= 0)
+        {
+            Frame chosen = {*field.record, frame.place(), &frame};
+            tellField(at(chosen, static_cast<UINT32>(member)), rule, severity, where);
             return;
         }
-        tell(chosen, rule, severity, [&](Texts& texts) { rowTexts(texts, chosen, rule); });
+        if (field.kind == RRC_FIELD_RECORD)
+        {
+            Frame next = {*field.record, frame.place(), &frame};
+            if (tellRow(next, rule, severity, where))
+            {
+                return;
+            }
+        }
+        tell(frame, rule, severity, [&](Texts& texts) { rowTexts(texts, frame, rule); });
     }
 
     static void rowTexts(Texts& texts, const Frame& frame, const RrcRecordRule& rule)

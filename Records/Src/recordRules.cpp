@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "generalRules.h"
+
 namespace rowRules
 {
 
@@ -58,6 +60,9 @@ constexpr const char* const* named(const char* const* places)
 } // namespace rowRules
 
 const RrcRecordRule* const rrcRecordRules[] = {
+#define RECORD_GENERAL_RULE(variable) &generalRules::variable,
+    RECORD_GENERAL_RULES(RECORD_GENERAL_RULE)
+#undef RECORD_GENERAL_RULE
 #define RECORD_ROW(variable, ...) &rowRules::variable,
 #include "recordRows.h"
 #undef RECORD_ROW
