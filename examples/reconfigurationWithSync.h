@@ -23,7 +23,6 @@ inline void handoverDownlink(RrcDlCfgComm_t& downlink)
     frequency.multiBandNum = 1;
     frequency.freqBandIndNr[0] = 78;
     frequency.absFreqPointA = 630058; // 3450.87 MHz
-    rrcInit(&frequency);
     frequency.scsNum = 1;
     handoverCarrier(frequency.speCarrier[0]);
 
