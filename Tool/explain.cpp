@@ -303,9 +303,14 @@ void listTypes(Session& session)
     for (unsigned i = 0; i < rrcRecordTypeCount; ++i)
     {
         const RrcRecordType& type = *rrcRecordTypes[i];
+        known.emplace_back(type.name);
         for (unsigned j = 0; j < type.fieldCount; ++j)
         {
             known.emplace_back(type.fields[j].name);
+        }
+        for (unsigned j = 0; j < type.bitCount; ++j)
+        {
+            known.emplace_back(type.bits[j].name);
         }
     }
     const auto close = text::nearest(name, known);

@@ -25,6 +25,119 @@ constexpr const char* kinds[] = {
     "not read",
 };
 
+void row(Session& session, std::string_view label, const std::string& text)
+{
+    constexpr std::size_t column = 13;
+    session.put("  " + std::string(label) + std::string(column - label.size(), ' ') + text + "\n");
+}
+
+// Of what a way of the record leads to.
+std::string elementOf(const RrcRecordType& type, const RrcRecordWay& way)
+{
+    return std::string(type.path) + (*way.path == '\0' ? "" : ".") + way.path;
+}
+
+void heading(Session& session, const std::string& text)
+{
+    session.put(styled(text, Style::Bold, session.color()) + "\n");
+}
+
+void note(Session& session, const char* text)
+{
+    if (*text != '\0')
+    {
+        row(session, "note", text);
+    }
+}
+
+// What a structure has, as part of a path in the record.
+void fields(Session& session, const RrcRecordType& type, const std::string& path)
+{
+    std::size_t column = 0;
+    for (unsigned i = 0; i < type.fieldCount; ++i)
+    {
+        column = std::max(column, std::string_view(type.fields[i].name).size() + 2);
+    }
+    session.put(type.isUnion != 0 ? "  one of\n" : "  fields\n");
+    for (unsigned i = 0; i < type.fieldCount; ++i)
+    {
+        const RecordPlace place = fieldPlace(type, path, i);
+        const std::string name = place.field->name;
+        const std::string values = valuesOf(place);
+        const std::string text = place.field->record != nullptr ? place.field->record->name
+                                 : values.empty()               ? kinds[place.field->kind]
+                                                                : values;
+        constexpr std::size_t most = 80;
+        session.put("    " + name + std::string(column - name.size(), ' ') +
+                    (text.size() > most ? text.substr(0, text.rfind(',', most)) + ", ..." : text) + "\n");
+    }
+}
+
+void explainStructure(Session& session, const RrcRecordType& type)
+{
+    heading(session, type.name);
+    row(session, type.isUnion != 0 ? "union" : "structure",
+        std::string(type.header) + ", " + std::to_string(type.size) + " octets");
+    row(session, "holds", type.path);
+    note(session, type.note);
+    fields(session, type, type.name);
+}
+
+// A bit of a mask, of all masks that have it.
+bool explainBit(Session& session, std::string_view name)
+{
+    static constexpr const char* roles[] = {"guards", "chooses", "sends", "is not sent", "is not read"};
+    bool found = false;
+    for (unsigned i = 0; i < rrcRecordTypeCount; ++i)
+    {
+        const RrcRecordType& type = *rrcRecordTypes[i];
+        for (unsigned j = 0; j < type.bitCount; ++j)
+        {
+            const RrcRecordBit& bit = type.bits[j];
+            if (name != bit.name)
+            {
+                continue;
+            }
+            heading(session, bit.name);
+            row(session, "bit",
+                std::to_string(bit.number) + " of " + type.name + "." + type.fields[bit.mask].name + ", " +
+                    type.header);
+            std::string what = bit.way.path != nullptr ? bit.way.path : "";
+            for (unsigned k = 0; k < type.fieldCount; ++k)
+            {
+                if (type.fields[k].guard == static_cast<INT32>(j))
+                {
+                    what += (what.empty() ? "" : ", ") + std::string(type.fields[k].name);
+                }
+            }
+            for (unsigned k = 0; k < type.choiceCount; ++k)
+            {
+                const RrcRecordChoice& choice = type.choices[k];
+                for (unsigned l = 0; l < choice.optionCount; ++l)
+                {
+                    if (choice.options[l].bit == static_cast<INT32>(j))
+                    {
+                        what = std::string(choice.way.target->names[choice.options[l].alternative]) + " of " +
+                               elementOf(type, choice.way);
+                    }
+                }
+            }
+            row(session, roles[bit.role], what);
+            if (bit.otherwise != nullptr)
+            {
+                row(session, "else", bit.otherwise);
+            }
+            if (bit.with >= 0)
+            {
+                row(session, "looked at", std::string("with ") + type.bits[bit.with].name);
+            }
+            note(session, bit.note);
+            found = true;
+        }
+    }
+    return found;
+}
+
 class FieldExplanation
 {
 public:
@@ -35,7 +148,7 @@ public:
 
     void write()
     {
-        session_.put(styled(place_.path, Style::Bold, session_.color()) + "\n");
+        heading(session_, place_.path);
         row("field", std::string(kinds[field_.kind]) + " of " + owner_.name + ", " + owner_.header);
         if (field_.record != nullptr)
         {
@@ -43,7 +156,7 @@ public:
         }
         if (field_.way.path != nullptr && owner_.path != nullptr)
         {
-            row("feeds", *field_.way.path == '\0' ? owner_.path : std::string(owner_.path) + "." + field_.way.path);
+            row("feeds", elementOf(owner_, field_.way));
         }
         if (field_.bound != 0 && field_.kind != RRC_FIELD_OCTETS)
         {
@@ -62,21 +175,17 @@ public:
         }
         flags();
         bits();
-        if (*field_.note != '\0')
-        {
-            row("note", field_.note);
-        }
+        note(session_, field_.note);
         if (field_.record != nullptr)
         {
-            fields(*field_.record);
+            fields(session_, *field_.record, place_.path);
         }
     }
 
 private:
     void row(std::string_view label, const std::string& text)
     {
-        constexpr std::size_t column = 13;
-        session_.put("  " + std::string(label) + std::string(column - label.size(), ' ') + text + "\n");
+        tool::row(session_, label, text);
     }
 
     void wrapped(std::string_view label, std::string_view text)
@@ -128,28 +237,6 @@ private:
         }
     }
 
-    void fields(const RrcRecordType& type)
-    {
-        std::size_t column = 0;
-        for (unsigned i = 0; i < type.fieldCount; ++i)
-        {
-            column = std::max(column, std::string_view(type.fields[i].name).size() + 2);
-        }
-        session_.put(type.isUnion != 0 ? "  one of\n" : "  fields\n");
-        for (unsigned i = 0; i < type.fieldCount; ++i)
-        {
-            const RecordPlace place = fieldPlace(type, place_.path, i);
-            const std::string name = place.field->name;
-            const std::string values = valuesOf(place);
-            const std::string text = place.field->record != nullptr ? place.field->record->name
-                                     : values.empty()               ? kinds[place.field->kind]
-                                                                    : values;
-            constexpr std::size_t most = 80;
-            session_.put("    " + name + std::string(column - name.size(), ' ') +
-                         (text.size() > most ? text.substr(0, text.rfind(',', most)) + ", ..." : text) + "\n");
-        }
-    }
-
     Session& session_;
     const RecordPlace& place_;
     const RrcRecordField& field_;
@@ -161,6 +248,15 @@ private:
 bool explainField(Session& session, const std::string& path)
 {
     const bool isPath = path.find_first_of(".[") != std::string::npos;
+    if (const RrcRecordType* const type = isPath ? nullptr : recordNamed(path))
+    {
+        explainStructure(session, *type);
+        return true;
+    }
+    if (!isPath && explainBit(session, path))
+    {
+        return true;
+    }
     const std::vector<RecordPlace> places = isPath ? std::vector<RecordPlace>() : fieldsNamed(path);
     if (places.size() > 1)
     {

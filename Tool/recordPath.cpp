@@ -11,14 +11,6 @@ namespace tool
 namespace
 {
 
-const RrcRecordType* typeOf(std::string_view name)
-{
-    const auto* const end = rrcRecordTypes + rrcRecordTypeCount;
-    const auto* const found =
-        std::find_if(rrcRecordTypes, end, [name](const auto* type) { return name == type->name; });
-    return found == end ? nullptr : *found;
-}
-
 const RrcRecordField* fieldOf(const RrcRecordType& type, std::string_view name)
 {
     const auto* const end = type.fields + type.fieldCount;
@@ -76,6 +68,14 @@ const RrcRecordChoice* choiceBy(const RecordPlace& place)
 
 } // namespace
 
+const RrcRecordType* recordNamed(std::string_view name)
+{
+    const auto* const end = rrcRecordTypes + rrcRecordTypeCount;
+    const auto* const found =
+        std::find_if(rrcRecordTypes, end, [name](const auto* type) { return name == type->name; });
+    return found == end ? nullptr : *found;
+}
+
 RecordPlace fieldPlace(const RrcRecordType& owner, const std::string& path, unsigned number)
 {
     const RrcRecordField& field = owner.fields[number];
@@ -86,7 +86,7 @@ RecordPlace fieldPlace(const RrcRecordType& owner, const std::string& path, unsi
 std::vector<RecordPlace> findFields(std::string_view path)
 {
     const std::vector<PathStep> steps = splitPath(path);
-    const RrcRecordType* type = typeOf(steps.front().name);
+    const RrcRecordType* type = recordNamed(steps.front().name);
     const bool isNamed = type != nullptr;
     if (!isNamed)
     {

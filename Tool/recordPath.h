@@ -17,6 +17,9 @@ struct RecordPlace
     std::string path; // "spCellCfg.spCellDedicated.dlBwp[].bwp"
 };
 
+// Null where no structure or union has the name.
+const RrcRecordType* recordNamed(std::string_view name);
+
 // The field's place in a structure of this path, which is empty for the whole cell group.
 RecordPlace fieldPlace(const RrcRecordType& owner, const std::string& path, unsigned number);
 
