@@ -755,6 +755,12 @@ def test_record(folder):
            re.compile("^cellgroupcfg: standard input:1: "), stdin=f"{RELEASE_HEX[:6]}\n{RELEASE_HEX}\n")
 
 
+def once(members):
+    names = [name for name, _ in members]
+    true(len(set(names)) == len(names), f"every member stands once: {names}")
+    return dict(members)
+
+
 def test_example(folder):
     expect(["example"], DONE, re.compile("^one-bearer +a bearer.*\n(.*\n)+releases "))
     call = run("example", "typical-call")[1]
@@ -777,12 +783,21 @@ def test_example(folder):
   }
 }
 """)
-    for field in ("rlcBearerCfg", "macCellGrpCfg", "phyCellGrpCfg", "spCellCfg.recfgWithSync", "sCellIdx"):
-        scaffold = run("example", "--all", field)[1]
-        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=scaffold)
-    # What cannot be composed is read all the same.
-    scaffold = run("example", "--all")[1]
-    true(run("compose", stdin=scaffold)[0] in (DONE, FINDINGS), "the scaffold of all is read")
+    scaffold = run("example", "--all")[1].decode()
+    expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=scaffold)
+    for line in scaffold.splitlines():
+        # What is no bracket alone is a member that says what may stand there, or opens a structure or a list of them.
+        true(re.search(r"^ *[{}\[\]]+,?( //.*)?$|^ *\"\w+\": ([{\[]$|.* // )", line), f"a member tells its values: {line}")
+    fields = json.loads(re.sub(" // .*", "", scaffold), object_pairs_hook=once)
+    true(list(fields) == ["cellGroupId", "rlcBearerCfg", "lchIdRelease", "macCellGrpCfg", "phyCellGrpCfg", "spCellCfg",
+                          "sCellAddMod", "sCellIdx", "reportUplinkTxDirect"], "all fields of the header, in its order")
+    for field in [*fields, *(f"spCellCfg.{field}" for field in fields["spCellCfg"])]:
+        part = run("example", "--all", field)[1].decode()
+        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=part)
+        within = json.loads(re.sub(" // .*", "", part))
+        for name in field.split("."):
+            true(list(within) == [name], f"{field} alone is shown")
+            within = within[name]
     expect(["example", "--all", "macCellGrpCfg.tagCf"], USAGE,
            err="cellgroupcfg: RrcMacCellGrpCfg_t has no field 'tagCf'; did you mean tagCfg?\n")
     expect(["explain", "macCellGrpCfg.tagCfg.tag[2].taTimer"], DONE, """macCellGrpCfg.tagCfg.tag[].taTimer
