@@ -3,12 +3,14 @@
 #include "encodingFindings.h"
 #include "findingPath.h"
 #include "projectFile.h"
+#include "recordFindings.h"
 #include "ruleFindings.h"
 #include "silences.h"
 #include "text.h"
 #include "textPlaces.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace tool
 {
@@ -44,7 +46,13 @@ public:
         Message message(*session_.common().type, given);
         Findings all{{given.source, given.line}, encodingFindings(message, given), {}, {}};
         const bool isRead = message.error() == nullptr && message.mistakes().empty();
-        if (isRead && isCellGroup_)
+        const bool isWhole = isRead && message.refusal().empty();
+        if (isRead && message.record() != nullptr)
+        {
+            std::vector<Finding> found = recordFindings(message);
+            std::move(found.begin(), found.end(), std::back_inserter(all.findings));
+        }
+        if (isWhole && isCellGroup_)
         {
             RuleVerdict verdict = ruleFindings(message, known_, held_, choice_);
             std::move(verdict.findings.begin(), verdict.findings.end(), std::back_inserter(all.findings));
@@ -56,13 +64,17 @@ public:
         {
             own = readPlaces(given, all.findings);
         }
+        if (message.record() != nullptr)
+        {
+            sortByLine(all.findings);
+        }
         dropUnwanted(all.findings);
         silence(given, own, all);
         const Severity shown = options_.shown;
         std::erase_if(all.findings, [&](const Finding& finding) { return finding.severity < shown; });
         raise(message, all.findings);
         tell(given, std::move(all));
-        if (options_.isChain && isRead)
+        if (options_.isChain && isWhole)
         {
             goOn(message, given);
         }
@@ -98,7 +110,8 @@ private:
         std::vector<std::pair<std::vector<std::uint32_t>, Finding>> placed;
         for (Finding& finding : findings)
         {
-            std::vector<std::uint32_t> order = placeOrder(*session_.common().type->type, finding.path);
+            const std::string& element = finding.path.starts_with(recordRoot) ? finding.element : finding.path;
+            std::vector<std::uint32_t> order = placeOrder(*session_.common().type->type, element);
             placed.emplace_back(std::move(order), std::move(finding));
         }
         std::stable_sort(placed.begin(), placed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -109,6 +122,17 @@ private:
         }
     }
 
+    // Those of a record stand where its text has them, what has no line behind them.
+    static void sortByLine(std::vector<Finding>& findings)
+    {
+        const auto key = [](const Finding& finding)
+        {
+            return std::tuple(finding.line == 0, finding.line, finding.column);
+        };
+        std::stable_sort(findings.begin(), findings.end(),
+                         [&](const Finding& a, const Finding& b) { return key(a) < key(b); });
+    }
+
     // Where the findings are in the text, and what its comments silence.
     std::vector<Silence> readPlaces(const Given& given, std::vector<Finding>& findings) const
     {
@@ -117,7 +141,8 @@ private:
         {
             paths.insert(plainPath(finding.path));
         }
-        const TextPlaces places(session_.common().type->name, given.input, paths);
+        const bool isRecord = given.input.form == Form::Record;
+        const TextPlaces places(isRecord ? recordRoot : session_.common().type->name, given.input, paths);
         const auto put = [&](Finding& finding, const Place& place)
         {
             finding.line = given.line == 0 ? place.line : given.line;

@@ -32,9 +32,15 @@ Finding finding(const char* id, Severity severity, const std::string& line)
 Finding findingOf(const Message::Mistake& mistake, const Given& given, const RtxPdu& pdu)
 {
     Finding finding;
-    finding.id = given.input.form == Form::Jer ? "jer" : "flat";
+    finding.id = formName(given.input.form);
     finding.path = mistake.path.empty() ? pdu.name : mistake.path;
     finding.message = mistake.words;
+    if (!mistake.file.empty())
+    {
+        finding.message +=
+            " (" + mistake.file + ":" + std::to_string(mistake.line) + ":" + std::to_string(mistake.column) + ")";
+        return finding;
+    }
     finding.line = given.line == 0 ? mistake.line : given.line;
     finding.column = mistake.column;
     return finding;
@@ -65,7 +71,7 @@ std::vector<Finding> encodingFindings(const Message& message, const Given& given
     {
         all.push_back(findingOf(*error));
     }
-    if (!all.empty())
+    if (!all.empty() || !message.refusal().empty())
     {
         return all;
     }

@@ -149,7 +149,7 @@ private:
 
     void given(const std::string& place, const Input& input)
     {
-        if (input.form == Form::Jer || input.form == Form::Flat)
+        if (isText(input.form))
         {
             throw Failure(Exit::Malformed, place + ": " + input.note + ", in which no octets are");
         }

@@ -1,6 +1,7 @@
 #include "findingIds.h"
 
 #include "nearest.h"
+#include "rrcRecordCheck.h"
 #include "ruleTable.h"
 #include "session.h"
 
@@ -38,6 +39,11 @@ constexpr auto ids = std::to_array<Id>({
     {"memory", "There is memory for the message.", "", "", false},
     {"tree", "Each element of a message can be reached.", "", "", false},
     {"jer", "A text is JER of its type.", "", "X.697", false},
+    {"record", "A text is a record in JSON.", "", "", false},
+    {"record-unread", "A field of a record that is given is read.",
+     "Leave the field out, or the mask or alternative that switches it off.", "", true},
+    {"record-refused", "A record makes a message of 8192 octets at most.", "Send what it holds in several messages.",
+     "", false},
     {"flat", "Flat lines are of their type.", "", "", false},
     {"unknown-addition", "A message has no additions of a later release.", "", "X.691 19.7", true},
     {"per-not-canonical", "A message is encoded in the one canonical way.", "", "X.691 6.1", true},
@@ -64,8 +70,10 @@ std::vector<std::string_view> optionalIds()
             all.emplace_back(id.id);
         }
     }
-    const std::vector<std::string_view> rules = ruleIds();
-    all.insert(all.end(), rules.begin(), rules.end());
+    for (const std::vector<std::string_view>& rules : {ruleIds(), recordRuleIds()})
+    {
+        all.insert(all.end(), rules.begin(), rules.end());
+    }
     return all;
 }
 
@@ -108,8 +116,12 @@ IdWords wordsOf(const std::string& id)
     {
         return {found->statement, found->advice, found->clause};
     }
-    const RrcRule* const rule = rrcRuleById(id.c_str());
-    return rule == nullptr ? IdWords{} : IdWords{rule->statement, rule->advice, rule->clause};
+    if (const RrcRule* const rule = rrcRuleById(id.c_str()))
+    {
+        return {rule->statement, rule->advice, rule->clause};
+    }
+    const RrcRecordRule* const rule = rrcRecordRuleById(id.c_str());
+    return rule == nullptr ? IdWords{} : IdWords{recordStatement(*rule), rule->instead, ""};
 }
 
 bool isIdOf(std::string_view word, std::string_view id)

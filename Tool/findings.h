@@ -24,7 +24,8 @@ struct Finding
 {
     std::string id; // names the rule, the same for all that break it: "asn1-range"
     Severity severity = Severity::Error;
-    std::string path;                   // ASN.1 path of the place in the message
+    std::string path;                   // ASN.1 path of the place in the message, or the place in the record
+    std::string element;                // of a place in the record the ASN.1 path that it feeds; may be empty
     std::string message;                // what is wrong, one sentence without the path
     std::string value;                  // what is there; empty when there is nothing to show
     std::string allowed;                // what could be there

@@ -39,6 +39,7 @@ Json jsonOf(const Finding& finding)
             json[name] = text;
         }
     };
+    set("element", finding.element);
     set("context", finding.context);
     set("value", finding.value);
     set("allowed", finding.allowed);

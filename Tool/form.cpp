@@ -12,8 +12,8 @@ namespace
 {
 
 // In the order of Form.
-constexpr std::array<std::string_view, 9> names = {"binary", "hex", "hexdump", "c-array", "escaped",
-                                                   "base64", "jer", "flat",    "log"};
+constexpr std::array<std::string_view, 10> names = {"binary", "hex", "hexdump", "c-array", "escaped",
+                                                    "base64", "jer", "record",  "flat",    "log"};
 
 } // namespace
 

@@ -17,9 +17,16 @@ enum class Form
     Escaped,
     Base64,
     Jer,
+    Record,
     Flat,
     LogLine,
 };
+
+// Whether it is read as a text, not as octets.
+constexpr bool isText(Form form)
+{
+    return form == Form::Jer || form == Form::Record || form == Form::Flat;
+}
 
 std::string_view formName(Form form);
 std::optional<Form> formNamed(std::string_view name);

@@ -1,6 +1,8 @@
 #include "input.h"
 
 #include "readers.h"
+#include "rrcRecordType.h"
+#include "textPlaces.h"
 
 #include <algorithm>
 
@@ -46,6 +48,24 @@ bool isJer(const Piece& text)
     const bool number = text.at(next) == '0' && text.at(next + 1) == 'x';
     const bool cast = text.at(next) == '(' || text.at(next) == '/';
     return open == '{' && !hex && !number && !cast;
+}
+
+// A member of the outermost object that a cell group in JER does not have.
+bool isRecord(const std::string& jer)
+{
+    const std::string root = "record";
+    std::set<std::string> paths = {root + ".$include"};
+    const RrcRecordType& record = *rrcRecordTypes[0];
+    for (unsigned i = 0; i < record.fieldCount; ++i)
+    {
+        const std::string_view name = record.fields[i].name;
+        if (name != "cellGroupId")
+        {
+            paths.insert(root + "." + std::string(name));
+        }
+    }
+    const TextPlaces places(root, {Form::Jer, {}, jer, {}}, paths);
+    return std::any_of(paths.begin(), paths.end(), [&](const std::string& path) { return places.has(path); });
 }
 
 // "Type.path = value": an ASN.1 path, a type's name first, a blank on both sides of the '='.
@@ -96,6 +116,7 @@ Reader readerOf(Form form)
         return readLogLine;
     case Form::Binary:
     case Form::Jer:
+    case Form::Record:
     case Form::Flat:
         break;
     }
@@ -159,8 +180,16 @@ Input read(std::string_view raw, std::optional<Form> as)
         return binaryOrRefused(raw, text);
     }
 
+    if (as == Form::Record)
+    {
+        return textOf(Form::Record, std::move(text), "record");
+    }
     if (as == Form::Jer || (!as && isJer(Piece{text.plain, 0, text.plain.size()}.trimmed())))
     {
+        if (!as && isRecord(text.utf8))
+        {
+            return textOf(Form::Record, std::move(text), "record");
+        }
         return textOf(Form::Jer, std::move(text), "JER");
     }
     blankComments(text.plain);
@@ -186,7 +215,8 @@ Input read(std::string_view raw, std::optional<Form> as)
         }
     }
     refuse(whole, content.begin,
-           "neither hex, a dump, an array, base64, JER, flat lines nor text with hex, unless it is a binary message "
+           "neither hex, a dump, an array, base64, JER, a record, flat lines nor text with hex, unless it is a binary "
+           "message "
            "that looks like text",
            {Form::Binary});
 }

@@ -5,6 +5,7 @@
 // - Binary: a control character, or what is not UTF-8 or UTF-16 with its mark. A binary message whose octets all
 //   happen to be text is taken for text; saying the form (--as binary) settles it.
 // - Jer: text that starts with '{', unless an array of numbers or hex follows; '[' when '{' follows.
+// - Record: the same where a member of the outermost object is a field of the record, or "$include".
 // - HexDump: the first line is an offset with octets behind it. Offsets have to agree with the octets of their lines,
 //   in hex, octal or decimal; an ASCII column is never data, whatever it looks like. Words without a colon behind a
 //   seven-digit offset have their low octet first. Also a dump that starts at 0 inside other text.
@@ -38,8 +39,8 @@ inline constexpr std::size_t maxInputOctets = std::size_t{64} << 20;
 struct Input
 {
     Form form;
-    std::vector<std::uint8_t> octets; // empty for Jer and Flat
-    std::string text;                 // of Jer and Flat: UTF-8 without byte order mark, lines end with '\n'
+    std::vector<std::uint8_t> octets; // empty for the texts Jer, Record and Flat
+    std::string text;                 // of these: UTF-8 without byte order mark, lines end with '\n'
     std::string note;                 // what was recognised: "hex dump, 440 octets in 28 lines"
 };
 

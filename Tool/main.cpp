@@ -43,7 +43,7 @@ private:
         }
         return "\nA message is a file, '-' or nothing for standard input, or the octets themselves. What it looks "
                "like\n"
-               "is found out: hex, dumps, C arrays, base64, binary, JER, flat lines, log lines.\n"
+               "is found out: hex, dumps, C arrays, base64, binary, JER, records, flat lines, log lines.\n"
                "Exit status: 0 done, 1 findings, differences or a refusal, 2 usage or a file, 3 malformed input,\n"
                "4 a delta has nothing to send.\n"
                "'cellgroupcfg COMMAND --help' tells more; so does the manual, cellgroupcfg(1).\n";

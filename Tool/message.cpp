@@ -1,6 +1,8 @@
 #include "message.h"
 
 #include "asn1FromText.h"
+#include "rrcCodec/rrcCompose.h"
+#include "rrcRecordFromJson.h"
 #include "rtxType.h"
 
 #include <algorithm>
@@ -13,21 +15,20 @@ namespace
 // Of the longest path and its reason.
 constexpr std::size_t longestLine = 8192;
 
-bool isTextForm(Form form)
-{
-    return form == Form::Jer || form == Form::Flat;
-}
-
 } // namespace
 
 Message::Message(const RtxPdu& pdu, const Given& given)
     : pdu_(pdu),
       given_(given),
-      isText_(isTextForm(given.input.form)),
+      isText_(tool::isText(given.input.form)),
       value_(pdu.type->size / sizeof(std::max_align_t) + 1)
 {
     rtxInitContext(&context_);
-    if (isText_)
+    if (given.input.form == Form::Record)
+    {
+        readRecord(given.input);
+    }
+    else if (isText_)
     {
         readText(given.input);
     }
@@ -57,9 +58,43 @@ void Message::readText(const Input& input)
     const auto sink = [](void* to, const Asn1Mistake* mistake)
     {
         static_cast<std::vector<Mistake>*>(to)->push_back(
-            {mistake->line, mistake->column, mistake->path, mistake->words});
+            {{}, mistake->line, mistake->column, mistake->path, mistake->words});
     };
     (void)read(&context_, pdu_.type, value_.data(), input.text.data(), input.text.size(), sink, &mistakes_);
+}
+
+// Files that it includes lie beside it; beside standard input lies what lies in the current folder.
+void Message::readRecord(const Input& input)
+{
+    if (pdu_.type != asn1Type_CellGroupConfig())
+    {
+        throw Failure(Exit::Usage, given_.place() + ": a record is a CellGroupConfig, not a " + pdu_.name);
+    }
+    record_ = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    const auto sink = [](void* to, const RrcRecordMistake* found)
+    {
+        auto& message = *static_cast<Message*>(to);
+        const Asn1Mistake& mistake = found->mistake;
+        auto& all = found->isUnread != 0 ? message.unread_ : message.mistakes_;
+        all.push_back({found->file == message.given_.source ? "" : found->file, mistake.line, mistake.column,
+                       mistake.path, mistake.words});
+    };
+    if (rrcRecordFromJson(record_.get(), input.text.data(), input.text.size(), given_.source.c_str(), sink, this) != 0)
+    {
+        return;
+    }
+    constexpr std::size_t mostOctets = 8192;
+    octets_.resize(mostOctets);
+    std::size_t length = 0;
+    std::string error(longestLine, '\0');
+    if (rrcEncodeCellGroupCfg(record_.get(), octets_.data(), octets_.size(), &length, error.data(), error.size()) !=
+        RRC_COMPOSE_OK)
+    {
+        refusal_ = error.c_str();
+        return;
+    }
+    (void)pu_setBuffer(&context_, octets_.data(), length, 0);
+    (void)rtxDecode(&context_, pdu_.type, value_.data(), 0);
 }
 
 void Message::expectGood() const
@@ -72,14 +107,19 @@ void Message::expectGood() const
     for (const Mistake& mistake : mistakes_)
     {
         // A message on a line of its own has only columns.
-        const std::string line = given_.line == 0 ? ":" + std::to_string(mistake.line) : "";
-        text += (text.empty() ? "" : "\ncellgroupcfg: ") + given_.place() + line + ":" +
-                std::to_string(mistake.column) + ": " + (mistake.path.empty() ? "" : mistake.path + ": ") +
+        const bool hasLines = given_.line == 0 || !mistake.file.empty();
+        const std::string line = hasLines ? ":" + std::to_string(mistake.line) : "";
+        text += (text.empty() ? "" : "\ncellgroupcfg: ") + (mistake.file.empty() ? given_.place() : mistake.file) +
+                line + ":" + std::to_string(mistake.column) + ": " + (mistake.path.empty() ? "" : mistake.path + ": ") +
                 mistake.words;
     }
     if (!text.empty())
     {
         throw Failure(Exit::Malformed, text);
+    }
+    if (!refusal_.empty())
+    {
+        throw Failure(Exit::Findings, given_.place() + ": " + refusal_);
     }
 }
 
@@ -135,7 +175,7 @@ std::vector<std::uint8_t> encoding(const RtxPdu& pdu, OSCTXT& context, const voi
 
 std::vector<std::uint8_t> octetsOf(const RtxPdu& pdu, const Given& given)
 {
-    return isTextForm(given.input.form) ? Message(pdu, given).encode() : given.input.octets;
+    return isText(given.input.form) ? Message(pdu, given).encode() : given.input.octets;
 }
 
 } // namespace tool

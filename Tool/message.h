@@ -2,9 +2,11 @@
 #pragma once
 
 #include "messageTypes.h"
+#include "rrcCodec/rrcCodec.h"
 #include "session.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,8 +16,9 @@ namespace tool
 class Message
 {
 public:
-    // Reads the input as a message of the type; `given` has to live as long. Of malformed octets the tree has what was
-    // read before the error, of a text with mistakes nothing.
+    // Reads the input as a message of the type, a record as what it composes to; `given` has to live as long. Of
+    // malformed octets the tree has what was read before the error, of a text with mistakes or a record that is refused
+    // nothing.
     Message(const RtxPdu& pdu, const Given& given);
     ~Message();
     Message(const Message&) = delete;
@@ -49,9 +52,21 @@ public:
         return isText_ || context_.error.status == RTX_OK ? nullptr : &context_.error;
     }
 
+    // The record, where one was given; with mistakes it is of no use.
+    const RrcCellGroupCfg_t* record() const
+    {
+        return record_.get();
+    }
+    // Why it cannot be composed; empty when it can.
+    const std::string& refusal() const
+    {
+        return refusal_;
+    }
+
     // A mistake in a text.
     struct Mistake
     {
+        std::string file; // that the text includes; empty: in the text itself
         std::size_t line; // both from 1
         std::size_t column;
         std::string path;
@@ -60,6 +75,11 @@ public:
     const std::vector<Mistake>& mistakes() const
     {
         return mistakes_;
+    }
+    // Fields of the record that are given and not read.
+    const std::vector<Mistake>& unread() const
+    {
+        return unread_;
     }
 
     // Throws Failure with all that makes the message malformed, a line each; nothing when it is well-formed.
@@ -70,6 +90,7 @@ public:
 private:
     void decode();
     void readText(const Input& input);
+    void readRecord(const Input& input);
 
     const RtxPdu& pdu_;
     const Given& given_;
@@ -77,7 +98,10 @@ private:
     OSCTXT context_;
     std::vector<std::max_align_t> value_;
     std::vector<std::uint8_t> octets_; // what the decoder reads
+    std::unique_ptr<RrcCellGroupCfg_t> record_;
+    std::string refusal_;
     std::vector<Mistake> mistakes_;
+    std::vector<Mistake> unread_;
 };
 
 // What a writer of the runtime gives piece by piece: `write(sink, arg)`.

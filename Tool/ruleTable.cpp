@@ -28,6 +28,31 @@ std::vector<std::string_view> ruleIds()
     return ids;
 }
 
+std::vector<const RrcRecordRule*> allRecordRules()
+{
+    return {rrcRecordRules, rrcRecordRules + rrcRecordRuleCount};
+}
+
+std::vector<std::string_view> recordRuleIds()
+{
+    std::vector<std::string_view> ids;
+    for (const RrcRecordRule* const rule : allRecordRules())
+    {
+        ids.emplace_back(rule->id);
+    }
+    return ids;
+}
+
+std::string recordStatement(const RrcRecordRule& rule)
+{
+    return std::string(rule.field) + (rule.goesOut == nullptr ? "" : std::string(": ") + rule.goesOut);
+}
+
+const char* recordSeverityName(const RrcRecordRule& rule)
+{
+    return rule.severity == 0 ? "fact" : rrcRuleSeverityName(rule.severity);
+}
+
 std::vector<std::string> exampleLines(std::string_view example)
 {
     std::vector<std::string> lines;
@@ -70,6 +95,20 @@ std::string idText(const std::string& id, const IdWords& words, bool color)
     text += words.advice.empty() ? "" : rows("what to do", words.advice);
     text += words.clause.empty() ? "" : rows("clause", words.clause);
     return text;
+}
+
+std::string recordRuleText(const RrcRecordRule& rule, bool color)
+{
+    std::string places;
+    for (const char* const* place = rule.places; place != nullptr && *place != nullptr; ++place)
+    {
+        places += (places.empty() ? "" : " ") + std::string(*place);
+    }
+    std::string text = styled(rule.id, Style::Bold, color) + "\n" + row("severity", recordSeverityName(rule));
+    text += rows("statement", recordStatement(rule)) + rows("what to do", rule.instead);
+    text += places.empty() ? "" : rows("of", places);
+    text += rule.region == nullptr ? "" : row("group", rule.region);
+    return text + lines("to silence it", {"cellgroupcfg check --disable " + std::string(rule.id)});
 }
 
 std::string ruleText(const RrcRule& rule, bool color)

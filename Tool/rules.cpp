@@ -1,4 +1,4 @@
-// rules: the table of rules, what holds between the members of a cell group.
+// rules: the tables of rules, of what holds between the members of a cell group and of records.
 #include "commands.h"
 #include "nearest.h"
 #include "ruleTable.h"
@@ -15,22 +15,19 @@ namespace
 
 using Json = nlohmann::ordered_json;
 
-bool isOf(const RrcRule& rule, const std::string& prefix)
-{
-    return std::string_view(rule.id).starts_with(prefix);
-}
-
 // A prefix that no id has is a mistake.
-void expectRules(const std::vector<const RrcRule*>& rules, const std::string& prefix)
+void expectRules(const std::string& prefix)
 {
-    if (std::any_of(rules.begin(), rules.end(), [&](const RrcRule* rule) { return isOf(*rule, prefix); }))
+    std::vector<std::string_view> known = ruleIds();
+    const std::vector<std::string_view> ofRecords = recordRuleIds();
+    known.insert(known.end(), ofRecords.begin(), ofRecords.end());
+    if (std::any_of(known.begin(), known.end(), [&](std::string_view id) { return id.starts_with(prefix); }))
     {
         return;
     }
-    std::vector<std::string_view> known = ruleIds();
-    for (const std::string_view id : ruleIds())
+    for (std::size_t i = known.size(); i-- != 0;)
     {
-        known.push_back(id.substr(0, id.find('-')));
+        known.push_back(known[i].substr(0, known[i].find('-')));
     }
     const auto close = text::nearest(prefix, known);
     throw Failure(Exit::Usage, "no rule's id begins with '" + prefix + "'" +
@@ -51,21 +48,42 @@ Json jsonOf(const RrcRule& rule)
             {"since", rule.since}};
 }
 
-std::string listed(const std::vector<const RrcRule*>& rules, bool color)
+Json jsonOf(const RrcRecordRule& rule)
+{
+    Json places = Json::array();
+    for (const char* const* place = rule.places; place != nullptr && *place != nullptr; ++place)
+    {
+        places.push_back(*place);
+    }
+    return {{"id", rule.id},
+            {"region", rule.region == nullptr ? "" : rule.region},
+            {"severity", recordSeverityName(rule)},
+            {"field", rule.field},
+            {"goesOut", rule.goesOut},
+            {"instead", rule.instead},
+            {"places", places}};
+}
+
+struct Row
+{
+    std::string id;
+    std::string severity;
+    std::string statement;
+};
+
+std::string listed(const std::vector<Row>& rows, bool color)
 {
     std::size_t widest = 0;
-    for (const RrcRule* const rule : rules)
+    for (const Row& row : rows)
     {
-        widest = std::max(widest, std::string_view(rule->id).size());
+        widest = std::max(widest, row.id.size());
     }
     constexpr std::size_t severities = std::string_view("warning").size();
     std::string text;
-    for (const RrcRule* const rule : rules)
+    for (const auto& [id, severity, statement] : rows)
     {
-        const std::string id = rule->id;
-        const std::string severity = rrcRuleSeverityName(rule->severity);
         text += styled(id, Style::Bold, color) + std::string(widest - id.size() + 2, ' ') + severity +
-                std::string(severities - severity.size() + 2, ' ') + rule->statement + "\n";
+                std::string(severities - severity.size() + 2, ' ') + statement + "\n";
     }
     return text;
 }
@@ -74,32 +92,42 @@ std::string listed(const std::vector<const RrcRule*>& rules, bool color)
 
 void rules(Session& session, const Operands& prefixes, bool json)
 {
-    std::vector<const RrcRule*> shown = allRules();
     for (const std::string& prefix : prefixes)
     {
-        expectRules(shown, prefix);
+        expectRules(prefix);
     }
-    if (!prefixes.empty())
+    const auto isShown = [&](std::string_view id)
     {
-        std::erase_if(shown,
-                      [&](const RrcRule* rule)
-                      {
-                          return std::none_of(prefixes.begin(), prefixes.end(),
-                                              [&](const std::string& prefix) { return isOf(*rule, prefix); });
-                      });
+        return prefixes.empty() || std::any_of(prefixes.begin(), prefixes.end(),
+                                               [&](const std::string& prefix) { return id.starts_with(prefix); });
+    };
+    std::vector<Row> rows;
+    Json between = Json::array();
+    Json ofRecords = Json::array();
+    for (const RrcRule* const rule : allRules())
+    {
+        if (isShown(rule->id))
+        {
+            rows.push_back({rule->id, rrcRuleSeverityName(rule->severity), rule->statement});
+            between.push_back(jsonOf(*rule));
+        }
+    }
+    for (const RrcRecordRule* const rule : allRecordRules())
+    {
+        if (isShown(rule->id))
+        {
+            rows.push_back({rule->id, recordSeverityName(*rule), recordStatement(*rule)});
+            ofRecords.push_back(jsonOf(*rule));
+        }
     }
     if (!json)
     {
-        session.put(listed(shown, session.color()));
+        session.put(listed(rows, session.color()));
         return;
     }
-    Json all = Json::array();
-    for (const RrcRule* const rule : shown)
-    {
-        all.push_back(jsonOf(*rule));
-    }
     constexpr int indent = 2;
-    session.put(Json({{"version", 1}, {"rules", std::move(all)}}).dump(indent) + "\n");
+    const Json all = {{"version", 1}, {"rules", std::move(between)}, {"recordRules", std::move(ofRecords)}};
+    session.put(all.dump(indent) + "\n");
 }
 
 } // namespace tool

@@ -141,6 +141,8 @@ public:
     {
         verdicts_ = true;
     }
+    // What was read from a source, at this line of it or, 0, all of it.
+    Given given(const Source& from, std::size_t line, std::string_view raw, std::optional<Form> as);
     // The only message of an operand, in this form whatever --as says.
     Given only(const std::string& operand, std::optional<Form> as);
     Given only(const std::string& operand)
@@ -157,7 +159,6 @@ private:
     void forLines(const Source& from, const std::function<void(const Given&)>& visitor);
     // Says what fails, and goes on.
     void attempt(const std::function<void()>& action);
-    Given given(const Source& from, std::size_t line, std::string_view raw, std::optional<Form> as);
     void clearProgress();
     void write(std::string_view text);
 

@@ -110,20 +110,22 @@ TextPlaces::TextPlaces(const std::string& root, const Input& input, const std::s
             places_.try_emplace(std::string(at));
         }
     }
-    input.form == Form::Jer ? readJer(root, input.text) : readFlat(root, input.text);
+    input.form == Form::Flat ? readFlat(root, input.text) : readJson(root, input.text);
+}
+
+bool TextPlaces::has(const std::string& path) const
+{
+    const auto found = places_.find(path);
+    return found != places_.end() && found->second.line != 0;
 }
 
 Place TextPlaces::find(std::string path) const
 {
-    for (; !path.empty(); path = around(path))
+    while (!path.empty() && !has(path))
     {
-        const auto found = places_.find(path);
-        if (found != places_.end() && found->second.line != 0)
-        {
-            return found->second;
-        }
+        path = around(path);
     }
-    return {};
+    return path.empty() ? Place{} : places_.at(path);
 }
 
 void TextPlaces::note(const std::string& path, const Place& place)
@@ -135,7 +137,7 @@ void TextPlaces::note(const std::string& path, const Place& place)
     }
 }
 
-void TextPlaces::readJer(const std::string& root, std::string_view text)
+void TextPlaces::readJson(const std::string& root, std::string_view text)
 {
     std::vector<Frame> frames;
     std::string path = root;

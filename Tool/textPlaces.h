@@ -1,4 +1,4 @@
-// Where values stand in a JER or flat text that was read without mistakes.
+// Where values stand in a text, of JSON or of flat lines.
 #pragma once
 
 #include "input.h"
@@ -11,8 +11,8 @@
 namespace tool
 {
 
-// What a comment of JER says behind "cellgroupcfg:", and the path of the member or element at which it stands: the last
-// one that begins on its line before it, else the next one; behind the last one of an object the object.
+// What a comment of JSON says behind "cellgroupcfg:", and the path of the member or element at which it stands: the
+// last one that begins on its line before it, else the next one; behind the last one of an object the object.
 struct TextComment
 {
     std::string words;
@@ -26,6 +26,8 @@ public:
     // Looks for the paths, without identities. `root` is the type's name.
     TextPlaces(const std::string& root, const Input& input, const std::set<std::string>& paths);
 
+    // Whether the text has it.
+    bool has(const std::string& path) const;
     // Of the path or, where that is not in the text, of what is around it.
     Place find(std::string path) const;
 
@@ -35,7 +37,7 @@ public:
     }
 
 private:
-    void readJer(const std::string& root, std::string_view text);
+    void readJson(const std::string& root, std::string_view text);
     void readFlat(const std::string& root, std::string_view text);
     void note(const std::string& path, const Place& place);
 

@@ -29,6 +29,9 @@
 #if __has_include("rrcDecompose.h")
 #include "rrcDecompose.h"
 #endif
+#if __has_include("rrcRecordCheck.h")
+#include "rrcRecordCheck.h"
+#endif
 #if __has_include("rrcRecordJson.h")
 #include "rrcRecordJson.h"
 #endif
@@ -167,6 +170,16 @@ public:
         if (rrcCheckRules(&context_, &tree_, &known, nullptr, nullptr) < 0)
         {
             fail("check");
+        }
+    }
+#endif
+#ifdef RRCRECORDCHECK_H
+    // All that is wrong with the record is counted: nothing is.
+    void recordCheck()
+    {
+        if (rrcCheckCellGroupCfg(record_.get(), nullptr, nullptr) != 0)
+        {
+            fail("recordCheck");
         }
     }
 #endif
@@ -328,6 +341,9 @@ void addTypicalCall(Message& m)
 #ifdef RRCRECORDJSON_H
     add("typical_call/record_to_json",
         [&m](auto& state) { runWarm(state, [&m] { benchmark::DoNotOptimize(m.recordToJson()); }); });
+#endif
+#ifdef RRCRECORDCHECK_H
+    add("typical_call/record_check", [&m](auto& state) { runWarm(state, [&m] { m.recordCheck(); }); });
 #endif
     addCold("typical_call/entry_after_6MB", walk, [&m] { m.entry(); });
     addCold("typical_call/decode_after_6MB", walk, [&m] { m.decode(); });

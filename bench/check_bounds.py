@@ -21,6 +21,7 @@ def bounds(found):
                             ("typical_call/entry_after_malloc", "typical_call/entry_after_nothing", 1.1),
                             ("typical_call/check", "typical_call/entry", 10),
                             ("typical_call/decompose", "typical_call/decode", 3.3),
+                            ("typical_call/record_check", "typical_call/entry", 3),
                             ("typical_call/record_to_json", "typical_call/entry", 100)):
         yield what, f"x {to}", measured.ratio(found, what, to), bound
     for what in ("encode", "entry", "decode"):

@@ -112,8 +112,9 @@ def typical_call(build):
             yield f"`{call}`, in floors", ratio(call, "typical_call/floor")
     after = ratio("entry_after_malloc", "typical_call/entry_after_nothing")
     yield "`entry_after_malloc`, over `entry_after_nothing`", after
-    if "typical_call/record_to_json" in times:
-        yield "`record_to_json`, over `entry`", ratio("record_to_json", "typical_call/entry")
+    for call in ("record_check", "record_to_json"):
+        if f"typical_call/{call}" in times:
+            yield f"`{call}`, over `entry`", ratio(call, "typical_call/entry")
     for call in ("entry", "decode"):
         yield f"`{call}_cold`, µs", f"{times[f'typical_call/{call}_cold']['ns'] / 1000:.1f}"
         yield f"`{call}_cold`, in lines driven out", ratio(f"{call}_cold", "line/driven_out")

@@ -38,7 +38,7 @@ void check(std::string_view raw, std::optional<tool::Form> as)
     const auto& input = std::get<tool::Input>(recognition);
     require(!input.note.empty(), "no note");
     require(!as || input.form == *as, "another form than said");
-    if (input.form == tool::Form::Jer || input.form == tool::Form::Flat)
+    if (tool::isText(input.form))
     {
         require(input.octets.empty(), "text and octets");
         return;

@@ -431,6 +431,9 @@ class Reader:
             if found:
                 described.bits = int(found.group(1))
                 clauses = clauses[:-1]
+            if clauses[-1] == "further ones are not sent":
+                described.flags.append("RestNotSent")
+                clauses = clauses[:-1]
             self.read_range(described, clauses)
         elif subject.startswith("bits "):
             described.kind = "Mask"
@@ -825,8 +828,9 @@ def quoted(text):
 class Writer:
     """The descriptions as C++."""
 
-    def __init__(self, reader):
+    def __init__(self, reader, numbers):
         self.reader = reader
+        self.numbers = numbers
         self.ways = {}
 
     def way(self, path, way):
@@ -849,7 +853,7 @@ class Writer:
         return (
             f"// {GENERATED}\n// clang-format off\n"
             '#include "rrcRecordType.h"\n\n'
-            f'#include "NR-RRC-Tables.h"\n#include "recordOps.h"\n{includes}\n\n#include <cstddef>\n\n'
+            f'#include "NR-RRC-Tables.h"\n#include "checkOps.h"\n{includes}\n\n#include <cstddef>\n\n'
             "namespace\n{\n\n" + "\n".join(ways) + "\n\n" + "\n".join(bodies) + "\n} // namespace\n\n"
             f"const RrcRecordType* const rrcRecordTypes[] = {{\n{listed}\n}};\n\n"
             "const UINT32 rrcRecordTypeCount = sizeof rrcRecordTypes / sizeof rrcRecordTypes[0];\n"
@@ -880,13 +884,16 @@ class Writer:
             lines.append(f"constexpr RrcRecordChoice choices_{made.symbol}[] = {{\n{text}}};\n")
         held = f"sizeof({struct.expression}), fields_{made.symbol}, {f'bits_{made.symbol}' if bits else 'nullptr'}, {len(bits)}"
         lines.append(f"constexpr auto ops_{made.symbol} = records::opsOf<records::opCount({held})>({held});\n")
+        checked = held.split(", ", 1)[1]
+        lines.append(f"constexpr auto checks_{made.symbol} = records::checkOpsOf({checked});\n")
         lines.append(
             f"constexpr RrcRecordType type_{made.symbol} = {{{quoted(struct.name)}, {quoted(struct.file)}, "
             f"{quoted(made.path)}, {quoted(made.note)}, &nr_rrc::type_{made.element.symbol}, "
             f"sizeof({struct.expression}), {int(struct.is_union)}, {len(made.fields)}, {len(bits)}, "
             f"{len(made.choices)}, fields_{made.symbol}, {f'bits_{made.symbol}' if bits else 'nullptr'}, "
             f"{f'choices_{made.symbol}' if made.choices else 'nullptr'}, ops_{made.symbol}.data(), "
-            f"static_cast<UINT16>(ops_{made.symbol}.size())}};\n"
+            f"static_cast<UINT16>(ops_{made.symbol}.size()), checks_{made.symbol}.data(), "
+            f"{self.numbers.get(struct.name, 'RRC_NO_RECORD_NUMBER')}}};\n"
         )
         return "".join(lines)
 
@@ -946,6 +953,9 @@ class InitWriter:
     def __init__(self, reader):
         once = {made.struct.name: made for made in reversed(reader.order) if made.struct.is_named}
         self.records = [made for made in once.values() if not made.struct.is_union]
+
+    def by_name(self):
+        return {made.struct.name: number for number, made in enumerate(self.records)}
 
     def numbers(self):
         lines = []
@@ -1010,7 +1020,7 @@ def main():
         return 1
     init = InitWriter(reader)
     results = [
-        written(top, TYPES, Writer(reader).text(), arguments.check),
+        written(top, TYPES, Writer(reader, init.by_name()).text(), arguments.check),
         written(top, LIST, init.numbers(), arguments.check),
         written(top, SPANS, init.spans(), arguments.check),
     ]

@@ -18,9 +18,10 @@ typedef struct RrcRecordMistake
 {
     const char* file;    // whose text it is in: the caller's `file`, empty where that is null, or an included one
     Asn1Mistake mistake; // its path is that of the field: spCellCfg.spCellDedicated.dlBwp[0].bwpId
+    OSBOOL isUnread;     // no mistake: a field is given that no composition reads, by what the text says elsewhere
 } RrcRecordMistake;
 
-// Called once for each mistake, file by file in the order of the text. Must not throw. May be null.
+// Called once for each mistake, file by file in the order of the text, of each file behind them for what is not read. Must not throw. May be null.
 typedef void (*RrcRecordMistakeSink)(void* arg, const RrcRecordMistake* mistake);
 
 // Reads a record. It is cleared first, all of it: what the text does not give is 0 or absent, masks, counts and
@@ -28,7 +29,7 @@ typedef void (*RrcRecordMistakeSink)(void* arg, const RrcRecordMistake* mistake)
 //
 // `file` is the name of the text's file: "$include" finds the files that it names beside it, and opens whatever the
 // text names. With null nothing is opened, and "$include" is a mistake. Throws nothing and keeps nothing. Returns the
-// number of mistakes.
+// number of mistakes, without fields that are not read.
 int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length, const char* file,
                       RrcRecordMistakeSink sink, void* arg);
 

@@ -206,6 +206,11 @@ void Document::mistakeOfName(const Node& member, std::string path, std::string w
     sources_[member.source].mistakes.add(member.named, std::move(path), std::move(words));
 }
 
+void Document::unread(const Node& member, std::string path, std::string words)
+{
+    sources_[member.source].unread.add(member.named, std::move(path), std::move(words));
+}
+
 Node* Document::add(Node::Kind kind, std::uint16_t source, std::size_t offset)
 {
     Node& node = nodes_.emplace_back();

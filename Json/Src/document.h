@@ -19,6 +19,7 @@ struct Source
     std::string owned; // the text of an included file
     std::string_view text;
     Mistakes mistakes;
+    Mistakes unread;
 };
 
 struct Node
@@ -58,6 +59,9 @@ public:
 
     void mistake(const Node& node, std::string path, std::string words);
     void mistakeOfName(const Node& member, std::string path, std::string words);
+
+    // Of a member that no composition reads.
+    void unread(const Node& member, std::string path, std::string words);
 
     // Nothing more is taken of this node's text.
     bool full(const Node& node) const

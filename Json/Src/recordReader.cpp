@@ -165,8 +165,32 @@ private:
             if (!isDone && all.nodes[i] != nullptr)
             {
                 field(all, i);
+                tellUnread(all, i);
             }
         }
+    }
+
+    // By now all is known that decides it: a mask or an alternative that the text gives wins over what would follow.
+    void tellUnread(const Structure& all, std::uint32_t index)
+    {
+        if (rrcRecordIsRead(&all.type, all.record, index) != 0)
+        {
+            return;
+        }
+        const RrcRecordField& field = all.type.fields[index];
+        const Within within(*this, field.name);
+        std::string words = "given, and not read";
+        if (field.guard >= 0)
+        {
+            const RrcRecordBit& bit = all.type.bits[field.guard];
+            words += ": " + std::string(bit.name) + " is clear in " + all.type.fields[bit.mask].name;
+        }
+        else if (field.choice >= 0)
+        {
+            words += ": " + std::string(all.type.fields[all.type.choices[field.choice].selector].name) +
+                     " chooses another alternative";
+        }
+        document_.unread(*all.nodes[index], path(), std::move(words));
     }
 
     // What is null is not given.
@@ -663,17 +687,23 @@ int report(std::deque<Source>& sources, RrcRecordMistakeSink sink, void* arg)
     int number = 0;
     for (Source& source : sources)
     {
+        OSBOOL isUnread = 0;
         const auto one = [&](const Asn1Mistake& mistake)
         {
-            const RrcRecordMistake whole = {source.file.c_str(), mistake};
+            const RrcRecordMistake whole = {source.file.c_str(), mistake, isUnread};
             if (sink != nullptr)
             {
                 sink(arg, &whole);
             }
         };
-        number += source.mistakes.report(
-            source.text, [](void* each, const Asn1Mistake* mistake) { (*static_cast<decltype(one)*>(each))(*mistake); },
-            const_cast<void*>(static_cast<const void*>(&one)));
+        const auto each = [](void* to, const Asn1Mistake* mistake)
+        {
+            (*static_cast<decltype(one)*>(to))(*mistake);
+        };
+        void* const to = const_cast<void*>(static_cast<const void*>(&one));
+        number += source.mistakes.report(source.text, each, to);
+        isUnread = 1;
+        (void)source.unread.report(source.text, each, to);
     }
     return number;
 }
@@ -697,8 +727,8 @@ int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length
     }
     catch (const std::exception&)
     {
-        const RrcRecordMistake mistake = {file != nullptr ? file : "",
-                                          {0, 1, 1, "", "there is no memory to read the text"}};
+        const RrcRecordMistake mistake = {
+            file != nullptr ? file : "", {0, 1, 1, "", "there is no memory to read the text"}, 0};
         if (sink != nullptr)
         {
             sink(arg, &mistake);

@@ -45,7 +45,8 @@ enum
     RRC_FIELD_NOT_SENT = 2,     /**< put into the element tree and not sent */
     RRC_FIELD_ELSE_ABSENT = 4,  /**< an optional member that is absent with any value out of its range */
     RRC_FIELD_ELSE_DEFAULT = 8, /**< a mandatory member that is sent as its bit's `otherwise` when the bit is clear */
-    RRC_FIELD_TWOS_COMPLEMENT = 16 /**< an unsigned field that holds a signed number as its two's complement */
+    RRC_FIELD_TWOS_COMPLEMENT = 16, /**< an unsigned field that holds a signed number as its two's complement */
+    RRC_FIELD_REST_NOT_SENT = 32    /**< a count above whose range entries are left out, and the message is sent */
 };
 
 /** What a mask's bit does. */
@@ -128,6 +129,9 @@ typedef struct RrcRecordChoice
     const RrcRecordOption* options; /**< of several whose bits are set the last one wins */
 } RrcRecordChoice;
 
+/** The number of what rrcInit does not know */
+#define RRC_NO_RECORD_NUMBER 0xFFFF
+
 /** A structure or union, as one type of the standard: one that serves two types is described twice. */
 struct RrcRecordType
 {
@@ -143,9 +147,11 @@ struct RrcRecordType
     UINT16 choiceCount;           /**< of choices */
     const RrcRecordField* fields; /**< in their order */
     const RrcRecordBit* bits;     /**< of all its masks, those of one mask in ascending order */
-    const RrcRecordChoice* choices; /**< that it makes */
-    const struct RrcRecordOp* ops;  /**< the same in short, for rrcDecomposeCellGroupCfg alone */
-    UINT16 opCount;                 /**< of ops */
+    const RrcRecordChoice* choices;        /**< that it makes */
+    const struct RrcRecordOp* ops;         /**< the same in short, for rrcDecomposeCellGroupCfg alone */
+    UINT16 opCount;                        /**< of ops */
+    const struct RrcRecordCheckOp* checks; /**< the same of each field, for rrcCheckCellGroupCfg alone */
+    UINT16 number; /**< that rrcInit knows it by (rrcRecords.h); RRC_NO_RECORD_NUMBER where it has no name of its own */
 };
 
 /** All records, the whole cell group (RrcCellGroupCfg_t) first. */

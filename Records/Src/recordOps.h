@@ -52,6 +52,23 @@ constexpr bool isTaken(const RrcRecordField& field)
     return holds && field.choice < 0 && field.way.path != nullptr && (field.flags & RRC_FIELD_NOT_SENT) == 0;
 }
 
+// The octet of a record that holds a bit, and the bit in it; none: no bit.
+struct Guard
+{
+    UINT32 octet = 0;
+    UINT8 mask = 0;
+};
+
+constexpr Guard guardOf(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
+{
+    if (field.guard < 0)
+    {
+        return {};
+    }
+    const RrcRecordBit& bit = bits[field.guard];
+    return {fields[bit.mask].offset + bit.number / 8U, static_cast<UINT8>(1U << bit.number % 8)};
+}
+
 constexpr RrcRecordOp opOf(const RrcRecordField* fields, UINT16 index, const RrcRecordBit* bits)
 {
     const RrcRecordField& field = fields[index];
@@ -59,12 +76,9 @@ constexpr RrcRecordOp opOf(const RrcRecordField* fields, UINT16 index, const Rrc
     op.offset = field.offset;
     op.step = field.way.stepCount == 0 ? RrcRecordOp::noStep : field.way.steps[0];
     op.index = index;
-    if (field.guard >= 0)
-    {
-        const RrcRecordBit& bit = bits[field.guard];
-        op.guard = fields[bit.mask].offset + bit.number / 8U;
-        op.guardMask = static_cast<UINT8>(1U << bit.number % 8);
-    }
+    const Guard guard = guardOf(field, fields, bits);
+    op.guard = guard.octet;
+    op.guardMask = guard.mask;
     const bool isNumber = field.kind == RRC_FIELD_NUMBER || field.kind == RRC_FIELD_ENUMERATED;
     const bool isPlain = isNumber && field.way.stepCount == 1 && field.bound == 0 && field.bitWidth == 0;
     const bool isRecord = field.kind == RRC_FIELD_RECORD && field.way.stepCount != 0;

@@ -543,16 +543,20 @@ def test_rules(folder):
     """The table of rules, as text and as JSON, and what is told of one."""
     status, text, _ = run("rules")
     lines = text.decode().splitlines()
-    columns = re.compile(r"([a-z0-9-]+) +(error|warning|notice) +(\S.*\.)$")
+    columns = re.compile(r"([a-z0-9-]+) +(error|warning|notice|fact) +(\S.*)$")
     rows = [columns.match(line) for line in lines]
     true(status == DONE and all(rows), "rules: id, severity and statement in each line")
     true(len({row.start(2) for row in rows}) == 1 and len({row.start(3) for row in rows}) == 1, "rules: columns")
     status, text, _ = run("rules", "--json")
     table = json.loads(text)
-    true(status == DONE and list(table) == ["version", "rules"] and table["version"] == 1, "rules --json has a version")
-    true([(rule["id"], rule["severity"], rule["statement"]) for rule in table["rules"]] == [row.groups() for row in rows],
-         "rules --json tells the same")
-    true(len(rows) == 214, f"{len(rows)} rules")
+    true(status == DONE and list(table) == ["version", "rules", "recordRules"] and table["version"] == 1, "rules --json has a version")
+    told = [(rule["id"], rule["severity"], rule["statement"]) for rule in table["rules"]]
+    told += [(rule["id"], rule["severity"], f"{rule['field']}: {rule['goesOut']}") for rule in table["recordRules"]]
+    true(told == [row.groups() for row in rows], "rules --json tells the same")
+    true(len(table["rules"]) == 214, f"{len(table['rules'])} rules")
+    for rule in table["recordRules"]:
+        true(list(rule) == ["id", "region", "severity", "field", "goesOut", "instead", "places"], f"{rule['id']}: its members")
+        true(rule["id"].startswith("record-"), f"{rule['id']} is of a record")
     for rule in table["rules"]:
         true(list(rule) == ["id", "group", "severity", "statement", "advice", "clause", "given", "bad", "good", "since"],
              f"{rule['id']}: its members")

@@ -1,5 +1,9 @@
 #include "behaviour.h"
 
+#include <algorithm>
+#include <iterator>
+#include <stdexcept>
+
 namespace behaviour
 {
 
@@ -52,18 +56,48 @@ std::string pathTo(const std::string& message)
     return path;
 }
 
-std::string Table::markdown() const
+Row& Table::row(const std::string& id)
 {
-    std::string text = "| Record field | What goes out | What to do instead |\n|---|---|---|\n";
-    const std::string* region = nullptr;
-    for (const Row& row : rows_)
+    const RrcRecordRule* const rule = rrcRecordRuleById(id.c_str());
+    const auto isOfRule = [rule](const Row& row)
     {
-        if (region == nullptr || *region != row.region)
+        return &row.rule == rule;
+    };
+    if (rule == nullptr || std::any_of(rows_.begin(), rows_.end(), isOfRule))
+    {
+        throw std::runtime_error(id + (rule == nullptr ? " is no rule" : " has a row already"));
+    }
+    return rows_.emplace_back(Row{*rule});
+}
+
+std::vector<const RrcRecordRule*> rules()
+{
+    std::vector<const RrcRecordRule*> all;
+    std::copy_if(rrcRecordRules, rrcRecordRules + rrcRecordRuleCount, std::back_inserter(all),
+                 [](const RrcRecordRule* rule) { return rule->region != nullptr; });
+    return all;
+}
+
+std::string markdown()
+{
+    std::string text = "| Record field | What goes out | What to do instead | Rule |\n|---|---|---|---|\n";
+    const auto cell = [&text](const std::string& content)
+    {
+        text += "| " + content + " ";
+    };
+    std::string region;
+    for (const RrcRecordRule* const rule : rules())
+    {
+        if (region != rule->region)
         {
-            region = &row.region;
-            text += "| **" + row.region + "** | | |\n";
+            region = rule->region;
+            text += "| **" + region + "** | | | |\n";
         }
-        text += "| " + row.field + " | " + row.goesOut + " | " + row.instead + " |\n";
+        cell(rule->field);
+        cell(rule->goesOut);
+        cell(rule->instead);
+        cell("`" + std::string(rule->id) + "`");
+        text += "|\n";
     }
     return text;
 }

@@ -1,4 +1,4 @@
-// The table of docs/behaviour.md: each row with the runs that prove it.
+// The rules of docs/behaviour.md: each row of its table with the runs that prove it.
 #ifndef BEHAVIOUR_H
 #define BEHAVIOUR_H
 
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "rrcCodec/rrcInit.h"
+#include "rrcRecordCheck.h"
 
 namespace behaviour
 {
@@ -54,6 +55,7 @@ struct Run
     std::string refusal;                                   // the line that says why
     std::string notice{};                                  // what is printed before
     std::function<bool(const RrcCellGroupCfg_t&)> holds{}; // what the record has to be like afterwards
+    bool isMeant = false;                                  // a check has nothing to say
 };
 
 // Leaves the record as it comes.
@@ -67,10 +69,7 @@ struct Nothing
 
 struct Row
 {
-    std::string region;
-    std::string field;
-    std::string goesOut;
-    std::string instead;
+    const RrcRecordRule& rule;
     std::vector<Run> runs{};
     std::string untested{}; // why there are no runs
 
@@ -116,6 +115,13 @@ struct Row
         return *this;
     }
 
+    // Said of the run before: this is how one says it, or what is not sent lies behind a clear bit, where nobody looks.
+    Row& asMeant()
+    {
+        runs.back().isMeant = true;
+        return *this;
+    }
+
 private:
     template <typename Record, typename Fill>
     static std::function<void(RrcCellGroupCfg_t&)> filling(const Place<Record>& place, Fill fill)
@@ -130,32 +136,26 @@ private:
 class Table
 {
 public:
-    // The rows that follow belong to it.
-    void region(const std::string& heading)
-    {
-        region_ = heading;
-    }
-
-    Row& row(const std::string& field, const std::string& goesOut, const std::string& instead)
-    {
-        return rows_.emplace_back(Row{region_, field, goesOut, instead});
-    }
+    // The row of the rule with this id, which is there and has no row yet.
+    Row& row(const std::string& id);
 
     const std::deque<Row>& rows() const
     {
         return rows_;
     }
 
-    // As it stands in the document.
-    std::string markdown() const;
-
 private:
-    std::string region_;
     std::deque<Row> rows_;
 };
 
 // All rows, made once.
 const Table& table();
+
+// The rules that are rows of the document.
+std::vector<const RrcRecordRule*> rules();
+
+// They as they stand in the document.
+std::string markdown();
 
 void cellGroupRows(Table& table);
 void servingCellRows(Table& table);

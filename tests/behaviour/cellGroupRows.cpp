@@ -106,12 +106,8 @@ void fillSlotFormats(RrcSlotFormatCombPerCell_t& cell)
 
 void groupRows(Table& table)
 {
-    table.region("The cell group, and what holds everywhere (`RrcCellGroupCfg_t`)");
     const std::string slots = test::array(256, [](unsigned) { return "0"; });
-    table
-        .row("`RRC_CELL_GROUP_CONFIG_SIZE`",
-             "not looked at: up to 8192 octets are written, a longer message is refused",
-             "let `Mbuf_t.buf` point at 8192 octets")
+    table.row("record-cell-group-config-size")
         .sent(slotFormats,
               R"({"servingCellId":0,"subcarrierSpacing":"kHz15","slotFormatCombinations":)" +
                   test::array(17,
@@ -123,9 +119,7 @@ void groupRows(Table& table)
               fillSlotFormats<17>)
         .refused(slotFormats, ".slotFormatCombinations[31].slotFormats: the encoding does not fit into 8192 octets",
                  fillSlotFormats<33>);
-    table
-        .row("`RRC_CELLGROUPCFG_REPORT_PRESENCE`, `reportUplinkTxDirect`", "not sent, whatever the field holds",
-             "there is no way; leave the bit clear")
+    table.row("record-report-uplink-tx-direct")
         .sent(cellGroup, R"({"cellGroupId":0})", [](auto& r) { r.bitMask = RRC_CELLGROUPCFG_REPORT_PRESENCE; })
         .sent(cellGroup, R"({"cellGroupId":0})",
               [](auto& r)
@@ -133,21 +127,13 @@ void groupRows(Table& table)
                   r.bitMask = RRC_CELLGROUPCFG_REPORT_PRESENCE;
                   r.reportUplinkTxDirect = 1;
               });
-    table
-        .row("no field: the release alternative of any SetupRelease", "always setup",
-             "a member left out stays as the UE has it; to be rid of it, choose release in the tree of "
-             "`rrcComposeCellGroupTree`, or release and add what it belongs to, a bandwidth part or an SCell, or have "
-             "the "
-             "UE configured anew with fullConfig")
+    table.row("record-setup-release")
         .sent(mac,
               R"({"phr-Config":{"setup":)" + phrJson("false", "false", "false") + R"(},"skipUplinkTxDynamic":false})",
               [](auto& r) { r.bitMask = RRC_MAC_CELL_GRP_CFG_PHR_PRESENCE; })
         .sent(physical, R"({"pdsch-HARQ-ACK-Codebook":"semiStatic","cs-RNTI":{"setup":0}})",
               [](auto& r) { r.bitMask = RRC_PHY_CGC_CS_RNTI_PRESENCE; });
-    table
-        .row("a record that is switched on and holds nothing: `RrcSpCellCfg_t`, `RrcRachCfgDedi_t`, `RrcUlCfg_t`, "
-             "`RrcPdcchServingCellCfg_t`, `RrcCsiMeasCfg_t` and others",
-             "the empty element, as setup where it is a SetupRelease", "to leave the element out, clear its bit")
+    table.row("record-empty-element")
         .sent(spCell, "{}")
         .sent(sync, R"({"newUE-Identity":0,"t304":"ms50","rach-ConfigDedicated":{"uplink":{}}})",
               [](auto& r)
@@ -164,10 +150,7 @@ void groupRows(Table& table)
                   rrcInit(&r.pdcchServingCellCfg);
               })
         .sent(csiMeas, "{}");
-    table
-        .row("extension additions: `bitRateQueryProhibitTimer`, `RrcReconfWithSync_t.smtc`, "
-             "`RrcRlfTimerConstants_t.t311`, `totalNumOfRaPreableV1530`, `maxMIMO_Layer`, `Type2Enabled`",
-             "sent; of all additions to a SEQUENCE only these", "the others cannot be sent; their rows say what to do")
+    table.row("record-extension-additions")
         .sent(logicalChannel, logicalChannelJson("", false, false, R"("bitRateQueryProhibitTimer":"s0")"),
               [](auto& r) { r.bitMask = RRC_UL_SPECIFICPARA_BITRATE_QUERY_PROHIBIT_TIMER; })
         .sent(sync, R"({"newUE-Identity":0,"t304":"ms50","smtc":{"periodicityAndOffset":{"sf20":0},"duration":"sf1"}})",
@@ -212,10 +195,7 @@ void groupRows(Table& table)
 
 void bearerRows(Table& table)
 {
-    table.region("RLC bearers (`RrcRlcBearerCfg_t`)");
-    table
-        .row("`rbType` other than `RRC_SRB`, `RRC_DRB`", "refused",
-             "store one of the two; to leave the radio bearer out, clear `RRC_RLCBEARERCFG_RBTYPE_PRESENCE`")
+    table.row("record-rlc-bearer-type")
         .refused(bearer, ".servedRadioBearer: tag 0 is not in 1..2",
                  [](auto& r)
                  {
@@ -223,10 +203,7 @@ void bearerRows(Table& table)
                      r.rbType = static_cast<RrcRbType_e>(2);
                      r.rbId = 1;
                  });
-    table
-        .row("`RrcRlcCfg_t.bitMask` without exactly one bit",
-             "of several the highest, with `RrcRlcCfg_t.choice` read as its member; without one refused",
-             "set one bit; to leave the RLC configuration out, clear `RRC_RLCBEARERCFG_RLC_PRESENCE`")
+    table.row("record-rlc-config-choice")
         .sent(rlc, R"({"um-Uni-Directional-DL":{"dl-UM-RLC":{"sn-FieldLength":"size12","t-Reassembly":"ms45"}}})",
               [](auto& r)
               {
@@ -235,9 +212,7 @@ void bearerRows(Table& table)
                   r.choice.amCfg.ulAmCfg.tPollRetransmit = 9;
               })
         .refused(rlc, ": tag 0 is not in 1..4");
-    table
-        .row("`snFeildLen` other than 0, 1", "sn-FieldLength is left out, no error",
-             "store `RRC_AM_SIZE12`, `RRC_AM_SIZE18`, `RRC_UM_SIZE6` or `RRC_UM_SIZE12`; to leave it out, store 2")
+    table.row("record-rlc-sn-length")
         .sent(
             rlc,
             R"({"am":{"ul-AM-RLC":{"t-PollRetransmit":"ms5","pollPDU":"p4","pollByte":"kB1","maxRetxThreshold":"t1"},)"
@@ -254,42 +229,36 @@ void bearerRows(Table& table)
                   r.bitMask = RRC_RLCCFG_UM_BI_PRESENCE;
                   r.choice.umBiCfg.dlUmCfg.snFeildLen = static_cast<RrcRlcSnFeildLenUm_e>(2);
                   r.choice.umBiCfg.ulUmCfg.snFeildLen = static_cast<RrcRlcSnFeildLenUm_e>(2);
-              });
-    table
-        .row("`RRC_LCH_EXPLICIT_PRESENCE` clear",
-             "an empty mac-LogicalChannelConfig, whatever `ulSpecificParaCfg` holds",
-             "set the bit; to leave the element out, clear `RRC_RLCBEARERCFG_LCH_PRESENCE`")
+              })
+        .asMeant();
+    table.row("record-logical-channel-parameters")
         .sent(bearer, R"({"logicalChannelIdentity":1,"mac-LogicalChannelConfig":{}})",
               [](auto& r)
               {
                   r.bitMask = RRC_RLCBEARERCFG_LCH_PRESENCE;
                   r.macLchCfg.ulSpecificParaCfg.priority = 8;
               });
-    table
-        .row("`allowedCellNum`, `allowedSCSNum`",
-             "0 with the bit of its list: refused; not 0 without the bit: not sent", "set bit and count together")
+    table.row("record-logical-channel-list-counts")
         .refused(logicalChannel, ".allowedServingCells: 0 elements, not 1..31",
                  [](auto& r) { r.bitMask = RRC_UL_SPECIFICPARA_SERVING_CELL_CFG_PRESENCE; })
         .refused(logicalChannel, ".allowedSCS-List: 0 elements, not 1..5",
                  [](auto& r) { r.bitMask = RRC_UL_SPECIFICPARA_SCS_CFG_PRESENCE; })
         .sent(logicalChannel, logicalChannelJson(""), [](auto& r) { r.allowedCellNum = r.allowedSCSNum = 1; });
-    table
-        .row("`reestablRlc`, `configuredGrantType1Allowed`", "0 is sent as true, any other number is refused",
-             "store 0: the bit alone says it")
+    table.row("record-rlc-bearer-one-value")
         .sent(bearer, R"({"logicalChannelIdentity":1,"reestablishRLC":"true"})",
               [](auto& r) { r.bitMask = RRC_RLCBEARERCFG_REESTABRLC_PRESENCE; })
+        .asMeant()
         .oneValue(bearer, RRC_RLCBEARERCFG_REESTABRLC_PRESENCE, &RrcRlcBearerCfg_t::reestablRlc, "reestablishRLC")
         .sent(logicalChannel, logicalChannelJson(R"("configuredGrantType1Allowed":"true")"),
               [](auto& r) { r.bitMask = RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE; })
+        .asMeant()
         .refused(logicalChannel, ".configuredGrantType1Allowed: 256 is not in 0..0",
                  [](auto& r)
                  {
                      r.bitMask = RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE;
                      r.configuredGrantType1Allowed = 256;
                  });
-    table
-        .row("`logicalChannelSrMask`, `logcalChannelSrDealyTimerApplied`", "the low 8 bits: 256 is sent as false",
-             "store 0 or 1")
+    table.row("record-logical-channel-booleans")
         .sent(logicalChannel, logicalChannelJson("", false, true),
               [](auto& r)
               {
@@ -306,12 +275,7 @@ void bearerRows(Table& table)
 
 void macRows(Table& table)
 {
-    table.region("MAC (`RrcMacCellGrpCfg_t`)");
-    table
-        .row("`RRC_MAC_CELL_GRP_CFG_CSI_PRESENCE`, `csiMaskV1530`, `RRC_MAC_CELL_GRP_CFG_TIMER_PRESENCE`, "
-             "`inactivityTimer`",
-             "not sent, whatever the fields hold",
-             "there is no way; leave the bits clear, and have the base station release inactive UEs")
+    table.row("record-mac-members-not-sent")
         .sent(mac, R"({"skipUplinkTxDynamic":false})",
               [](auto& r)
               {
@@ -319,29 +283,23 @@ void macRows(Table& table)
                   r.csiMaskV1530 = 1;
                   r.inactivityTimer = 255;
               });
-    table
-        .row("`RRC_DRX_CFG_ONDURATION_MILLION_PRESENCE` clear",
-             "the on-duration as subMilliSeconds, in 1/32 ms; 0 is refused", "set the bit for a time in milliseconds")
+    table.row("record-drx-on-duration")
         .sent(drx, drxJson(R"({"subMilliSeconds":31})", R"({"ms10":0})"),
               [](auto& r)
               {
                   r.bitMask = 0;
                   r.drxOnDurationTimer.subMilliSeconds = 31;
               })
+        .asMeant()
         .refused(drx, ".drx-onDurationTimer.subMilliSeconds: 0 is not in 1..31", [](auto& r) { r.bitMask = 0; });
-    table
-        .row("`drxLongCycleStartOffset.period` 0 or above 20",
-             "the line \"No DRX_Config__drx_LongCycleStartOffset_PR\", then refused",
-             "store 1 (ms10) to 20 (ms10240): there is no DRX without a long cycle")
+    table.row("record-drx-long-cycle")
         .refused(drx, ".drx-LongCycleStartOffset: tag 0 is not in 1..20",
                  [](auto& r) { r.drxLongCycleStartOffset.period = 0; })
         .printing("No DRX_Config__drx_LongCycleStartOffset_PR\n")
         .refused(drx, ".drx-LongCycleStartOffset: tag 21 is not in 1..20",
                  [](auto& r) { r.drxLongCycleStartOffset.period = 21; })
         .printing("No DRX_Config__drx_LongCycleStartOffset_PR\n");
-    table
-        .row("`drxLongCycleStartOffset.offset`, periods 1 to 11", "the low 8 bits: 261 is sent as 5",
-             "keep the offset below the period")
+    table.row("record-drx-start-offset")
         .sent(drx, drxJson(R"({"milliSeconds":"ms1"})", R"({"ms10":5})"),
               [](auto& r) { r.drxLongCycleStartOffset.offset = 261; })
         .sent(drx, drxJson(R"({"milliSeconds":"ms1"})", R"({"ms256":44})"),
@@ -350,61 +308,52 @@ void macRows(Table& table)
                   r.drxLongCycleStartOffset.period = 11;
                   r.drxLongCycleStartOffset.offset = 300;
               });
-    table
-        .row("`skipUpTxDynamic`, `multiplePHR`, `phrType2OtherCell`", "the low 8 bits: 256 is sent as false",
-             "store 0 or 1")
+    table.row("record-mac-booleans")
         .sent(mac, R"({"skipUplinkTxDynamic":false})", [](auto& r) { r.skipUpTxDynamic = 256; })
         .sent(phr, phrJson("false", "false", "false"), [](auto& r) { r.multiplePHR = 256; })
         .sent(phr, phrJson("true", "false", "false"), [](auto& r) { r.multiplePHR = 1; })
+        .asMeant()
         .sent(phr, phrJson("false", "false", "false"), [](auto& r) { r.phrType2OtherCell = 0x100; })
-        .sent(phr, phrJson("false", "false", "true"), [](auto& r) { r.phrType2OtherCell = 0x102; });
-    table
-        .row("`RrcPhrCfg_t.dummy`", "always sent, as a BOOLEAN of the low 8 bits",
-             "leave it 0: the UE does not read it")
+        .sent(phr, phrJson("false", "false", "true"), [](auto& r) { r.phrType2OtherCell = 0x102; })
+        .asMeant();
+    table.row("record-phr-dummy")
         .sent(phr, phrJson("false", "true", "false"), [](auto& r) { r.dummy = 1; })
         .sent(phr, phrJson("false", "false", "false"), [](auto& r) { r.dummy = 256; });
 }
 
 void physicalRows(Table& table)
 {
-    table.region("Physical cell group (`RrcPhyCellGrpCfg_t`)");
-    table
-        .row("`RRC_PHY_CGC_MCS_CRNTI_PRESENCE`, `mcsCRnti`", "not sent, whatever the field holds",
-             "there is no way to give the RNTI; choose the low-rate table by `RrcPdschCfg_t.mcsTable` and "
-             "`RrcPuschCfg_t.mcsTable`")
+    table.row("record-phy-mcs-c-rnti")
         .sent(physical, R"({"pdsch-HARQ-ACK-Codebook":"semiStatic"})",
               [](auto& r)
               {
                   r.bitMask = RRC_PHY_CGC_MCS_CRNTI_PRESENCE;
                   r.mcsCRnti = 1;
               });
-    table
-        .row("`RRC_PHY_CGC_UE_PMAX_PRESENCE`, `pUeFR1Pmax`", "not sent, whatever the field holds",
-             "there is no way; limit this cell group with `pNrFR1Pmax`")
+    table.row("record-phy-p-ue-fr1")
         .sent(physical, R"({"pdsch-HARQ-ACK-Codebook":"semiStatic"})",
               [](auto& r)
               {
                   r.bitMask = RRC_PHY_CGC_UE_PMAX_PRESENCE;
                   r.pUeFR1Pmax = 99;
               });
-    table.row("no field: xScale, pdcch-BlindDetection", "not sent", "there is no way; the UE goes without")
+    table.row("record-phy-no-field")
         .sent(physical,
               R"({"harq-ACK-SpatialBundlingPUCCH":"true","harq-ACK-SpatialBundlingPUSCH":"true","p-NR-FR1":0,)"
               R"("pdsch-HARQ-ACK-Codebook":"semiStatic","tpc-SRS-RNTI":0,"tpc-PUCCH-RNTI":0,"tpc-PUSCH-RNTI":0,)"
               R"("sp-CSI-RNTI":0,"cs-RNTI":{"setup":0}})",
               [](auto& r) { r.bitMask = 0xFFFF; });
-    table
-        .row("`harqAckBundlingPucch`, `harqAckBundlingPusch`", "0 is sent as true, any other number is refused",
-             "store 0: the bit alone says it")
+    table.row("record-phy-one-value")
         .sent(physical,
               R"({"harq-ACK-SpatialBundlingPUCCH":"true","harq-ACK-SpatialBundlingPUSCH":"true",)"
               R"("pdsch-HARQ-ACK-Codebook":"semiStatic"})",
               [](auto& r) { r.bitMask = RRC_PHY_CGC_HARQ_PUCCH_PRESENCE | RRC_PHY_CGC_HARQ_PUSCH_PRESENCE; })
+        .asMeant()
         .oneValue(physical, RRC_PHY_CGC_HARQ_PUCCH_PRESENCE, &RrcPhyCellGrpCfg_t::harqAckBundlingPucch,
                   "harq-ACK-SpatialBundlingPUCCH")
         .oneValue(physical, RRC_PHY_CGC_HARQ_PUSCH_PRESENCE, &RrcPhyCellGrpCfg_t::harqAckBundlingPusch,
                   "harq-ACK-SpatialBundlingPUSCH");
-    table.row("`pNrFR1Pmax`", "the octet as a signed number: 226 is sent as -30 dBm", "add 256 to a negative power")
+    table.row("record-phy-p-nr-fr1")
         .sent(physical, R"({"p-NR-FR1":-30,"pdsch-HARQ-ACK-Codebook":"semiStatic"})",
               [](auto& r)
               {

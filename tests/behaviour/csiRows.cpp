@@ -226,12 +226,7 @@ const auto triggerStates =
 
 void resourceRows(Table& table)
 {
-    table.region("CSI resources (`RrcNzpCsiRsResource_t`, `RrcNzpCsiRsResourceSet_t`, `RrcCsiImResource_t`, "
-                 "`RrcCsiSsbResourceSet_t`, `RrcCsiResourceCfg_t`)");
-    table
-        .row("`numNzpCsiRsResources`, `numSsbResourceSet`",
-             "despite the names, the first is the list of ids, the second the count of `csiSsbIdx`",
-             "count the ids in `numNzpCsiRsRes`, the SSBs in `numSsbResourceSet`")
+    table.row("record-csi-resource-count-names")
         .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[191,7]})",
               [](auto& r)
               {
@@ -245,9 +240,7 @@ void resourceRows(Table& table)
                   r.numSsbResourceSet = 2;
                   r.csiSsbIdx[0] = 63;
               });
-    table
-        .row("`numNzpCsiRsRes`", "the low 8 of its 16 bits: 257 is sent as one resource; 65 to 256 are refused",
-             "store 1 to 64")
+    table.row("record-nzp-csi-rs-set-count")
         .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[5]})",
               [](auto& r)
               {
@@ -256,7 +249,7 @@ void resourceRows(Table& table)
               })
         .refused(resourceSet, ".nzp-CSI-RS-Resources: 0 elements, not 1..64", [](auto& r) { r.numNzpCsiRsRes = 256; })
         .refused(resourceSet, ".nzp-CSI-RS-Resources: 65 elements, not 1..64", [](auto& r) { r.numNzpCsiRsRes = 65; });
-    table.row("`numCsiSsbResourceSet` above 1", "one id is sent, no error", "store 0 or 1")
+    table.row("record-csi-ssb-set-count")
         .sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{"csi-SSB-ResourceSetList":[63]}})"),
               [](auto& r)
               {
@@ -264,14 +257,8 @@ void resourceRows(Table& table)
                   sets.numCsiSsbResourceSet = 2;
                   sets.csiSsbResourceSetId[0] = 63;
               });
-    table
-        .row("`numNzpCsiRsResourceSet`, `numCsiSsbResourceSet` both 0", "an empty nzp-CSI-RS-SSB, no error",
-             "list at least one set")
-        .sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{}})"));
-    table
-        .row("`RrcCsiResourceCfg_t.presence`, `RrcCsiImResource_t.presence` without exactly one bit",
-             "both: csi-IM-ResourceSetList or pattern1, with the union read as such; none: refused",
-             "set one bit of each")
+    table.row("record-csi-resource-config-empty").sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{}})"));
+    table.row("record-csi-resource-choices")
         .sent(resourceConfig, resourceConfigJson(R"({"csi-IM-ResourceSetList":[63]})"),
               [](auto& r)
               {
@@ -293,10 +280,7 @@ void resourceRows(Table& table)
               })
         .refused(interference, ".csi-IM-ResourceElementPattern: tag 0 is not in 1..2",
                  [](auto& r) { r.bitMask = RRC_CSI_IM_RESOURCE_ELEMENT_PATTERN_PRESENCE; });
-    table
-        .row("`RrcCsiRsResourceMapping_t`, `RrcCsiResourcePeriodictyAndOffset_t`",
-             "as in the PDSCH: lowest density, slots40 as slots32, unknown periods refused, low 8 bits of the offset",
-             "as there")
+    table.row("record-csi-rs-as-in-pdsch")
         .sent(resource, resourceJson(mappingJson(R"({"row2":"000000000000"})"), R"({"slots32":31})"),
               [](auto& r)
               {
@@ -314,13 +298,9 @@ void resourceRows(Table& table)
         .refused(resource, ".periodicityAndOffset: tag 0 is not in 1..13",
                  [](auto& r) { r.bitMask = RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT; })
         .printing("Have no CSI_ResourcePeriodicityAndOffset type\n");
-    table
-        .row("`RrcNzpCsiRsResource_t.powerControlOffset`", "the octet as a signed number: 248 is sent as -8 dB",
-             "add 256 to a negative number")
+    table.row("record-nzp-csi-rs-power-signed")
         .sent(resource, resourceJson(mappingJson(), "", -8), [](auto& r) { r.powerControlOffset = 0xF8; });
-    table
-        .row("`numSsbResourceSet`, `numCsiImResources`, `numCsiImResourceSet` 0", "refused",
-             "list the entries, or leave set or configuration out")
+    table.row("record-csi-resource-list-counts")
         .refused(ssbSet, ".csi-SSB-ResourceList: 0 elements, not 1..64")
         .refused(csiMeas, ".csi-IM-ResourceSetToAddModList[0].csi-IM-Resources: 0 elements, not 1..8",
                  [](auto& r)
@@ -330,25 +310,19 @@ void resourceRows(Table& table)
                  })
         .refused(resourceConfig, ".csi-RS-ResourceSetList.csi-IM-ResourceSetList: 0 elements, not 1..16",
                  [](auto& r) { r.presence = RRC_CSI_RESOURCE_CFG_CSI_IM_RESOUECE_SET_LIST_PRESENCE; });
-    table.row("`trsInfo`", "0 is sent as true, any other number is refused", "store 0: the bit alone says it")
+    table.row("record-trs-info-one-value")
         .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[0],"trs-Info":"true"})",
               [](auto& r) { r.bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE; })
+        .asMeant()
         .oneValue(resourceSet, RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE, &RrcNzpCsiRsResourceSet_t::trsInfo,
                   "trs-Info");
 }
 
 void reportRows(Table& table)
 {
-    table.region("CSI reports (`RrcCsiReportCfg_t`)");
-    table
-        .row("`RRC_CSI_REPORT_CFG_GROUP_BASED_BEAM_REPORT_PRESENCE` clear",
-             "refused: groupBasedBeamReporting is mandatory",
-             "always set it; for a report without groups choose `RRC_BASED_BEAM_REPORT_DISABLED`")
+    table.row("record-csi-report-group-based")
         .refused(report, ".groupBasedBeamReporting: tag 0 is not in 1..2", [](auto& r) { r.bitMask = 0; });
-    table
-        .row("`RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE`, `nrofCQIsPerRep`",
-             "dummy: 0 is sent as n1, 1 as n2, any other number is refused",
-             "leave the bit clear: the UE does not read it")
+    table.row("record-csi-report-dummy")
         .sent(report, reportJson({.dummy = R"("dummy":"n2")"}),
               [](auto& r)
               {
@@ -361,9 +335,7 @@ void reportRows(Table& table)
                      r.bitMask |= RRC_CSI_REPORT_CFG_NROF_CQIS_PER_REP_PRESENCE;
                      r.nrofCQIsPerRep = 2;
                  });
-    table
-        .row("`CqisPerReportNum`, `BeamReporting_n.enabled`, `PortIndexFor8Ranks_n.portIndex1`", "not read",
-             "leave them 0")
+    table.row("record-csi-report-not-read")
         .sent(report, reportJson({}),
               [](auto& r)
               {
@@ -375,26 +347,20 @@ void reportRows(Table& table)
               {
                   r.Presence = RRC_PORT_INDEX1_PRESENCE;
                   r.PortIndexFor8Ranks_n.portIndex1 = 0xFFFF;
-              });
-    table
-        .row("`subBandSize`", "always sent, the BOOL as an enumeration: 0 value1, 1 value2, others refused",
-             "store 0 where the size does not matter")
+              })
+        .asMeant();
+    table.row("record-csi-report-subband-size")
         .sent(report, reportJson({.subband = "value2"}), [](auto& r) { r.subBandSize = 1; })
+        .asMeant()
         .refused(report, ".subbandSize: 256 is not in 0..1", [](auto& r) { r.subBandSize = 256; });
-    table
-        .row("`RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE`, `ReportSlotConfig_v1530`",
-             "not sent, whatever the field holds",
-             "there is no way; choose a period of `SemiPersistentOnPuSch_t.reportSlotCfg`")
+    table.row("record-csi-report-semi-persistent-v1530")
         .sent(report, reportJson({}),
               [](auto& r)
               {
                   r.bitMask |= RRC_CSI_REPORT_CFG_SEMI_PERSISTENT_ON_PUSCH_V1530_PRESENCE;
                   r.semimPersistentOnPuschv1530_t.ReportSlotConfig_v1530 = 255;
               });
-    table
-        .row("`cfgTypeBitMask`, `rptQuBitMask`, `csiRptBandBitMask`, `RrcgroupBasedBeamReport_t.Presence`, "
-             "`RrcPortIndexFor8Ranks_t.Presence` without exactly one bit",
-             "of several the highest, with the union read as its member; without one refused", "set one bit of each")
+    table.row("record-csi-report-choices")
         .sent(report, reportJson({.type = R"({"aperiodic":{"reportSlotOffsetList":[32]}})"}),
               [](auto& r)
               {
@@ -426,24 +392,18 @@ void reportRows(Table& table)
                   r.PortIndexFor8Ranks_n.portIndex8.rank1_8 = 1;
               })
         .refused(ports, ": tag 0 is not in 1..4");
-    table
-        .row("`reportSlotCfg.periodicity` 0 or above 10",
-             "the line \"No T_CSI_ReportPeriodicityAndOffset\", then refused", "store 1 (slots4) to 10 (slots320)")
+    table.row("record-csi-report-period")
         .refused(periodic, ".reportSlotConfig: tag 0 is not in 1..10", [](auto& r) { r.reportSlotCfg.periodicity = 0; })
         .printing("No T_CSI_ReportPeriodicityAndOffset\n")
         .refused(periodic, ".reportSlotConfig: tag 11 is not in 1..10",
                  [](auto& r) { r.reportSlotCfg.periodicity = 11; })
         .printing("No T_CSI_ReportPeriodicityAndOffset\n");
-    table
-        .row("`reportSlotCfg.offset`, slots320", "0 to 255: an octet cannot hold more",
-             "keep the offset of a period of 320 slots below 256")
+    table.row("record-csi-report-offset")
         .sent(periodic, periodicJson(R"({"slots320":255})"),
               [](auto& r) {
                   r.reportSlotCfg = {10, 255};
               });
-    table
-        .row("`pucchCsiResourceNum`, `reportSlotOffsetNum`, `numPortIndexFor8Ranks` 0", "refused",
-             "list the entries; to leave port indices out, clear `RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE`")
+    table.row("record-csi-report-list-counts")
         .refused(periodic, ".pucch-CSI-ResourceList: 0 elements, not 1..4", [](auto& r) { r.pucchCsiResourceNum = 0; })
         .refused(report, ".reportConfigType.aperiodic.reportSlotOffsetList: 0 elements, not 1..16",
                  [](auto& r) { r.ReportCfgType_n.aperiodic.reportSlotOffsetNum = 0; })
@@ -453,10 +413,7 @@ void reportRows(Table& table)
                      r.bitMask |= RRC_CSI_REPORT_CFG_PORT_INDEX_FOR_8RANKS_PRESENCE;
                      rrcInit(&r.RRCPortIndexFor8Ranks);
                  });
-    table
-        .row("`numRank2_8` to `numRank8_8`, `numRank2_4` to `numRank4_4`, `numRank2_2`",
-             "lists of fixed size: not 0 sends the list, with missing entries as 0 and surplus ones dropped, no error",
-             "store the rank, for ranks 3 and 4 of portIndex4 the 2 that there is room for")
+    table.row("record-port-index-list-counts")
         .sent(ports, R"({"portIndex8":{"rank2-8":[7,7],"rank8-8":[7,0,0,0,0,0,0,0]}})",
               [](auto& r)
               {
@@ -475,10 +432,7 @@ void reportRows(Table& table)
                   r.PortIndexFor8Ranks_n.portIndex2.PortIndex2_2[0] = 1;
                   r.PortIndexFor8Ranks_n.portIndex2.PortIndex2_2[1] = 1;
               });
-    table
-        .row("`PortIndex3_4`, `PortIndex4_4`",
-             "two entries each: the third of rank 3, the third and fourth of rank 4 are 0",
-             "there is no way to give other ports there; use such ranks only if port 0 is right")
+    table.row("record-port-index4-entries")
         .sent(ports, R"({"portIndex4":{"rank3-4":[3,3,0],"rank4-4":[2,2,0,0]}})",
               [](auto& r)
               {
@@ -493,16 +447,14 @@ void reportRows(Table& table)
 
 void codebookRows(Table& table)
 {
-    table.region("Codebooks (`RrcCodebookCfg_t`)");
-    table
-        .row("`RrcCodebookCfg_t.Presence`, `CodebookType1_Sub_t.Presence`, `SinglePanel_nrOfAntennaPorts_t.Presence`, "
-             "`N1_N2_Presence`, `Codebooktype2_Sub_t.Presence`, `Restriction_Presence` without exactly one bit",
-             "of several the highest, with the union read as its member; without one refused", "set one bit of each")
+    table.row("record-codebook-choices")
         .sent(type2, type2Json())
+        .asMeant()
         .refused(codebook, ": tag 0 is not in 1..2")
         .refused(type1, ".subType: tag 0 is not in 1..2")
         .sent(singlePanel, R"({"nrOfAntennaPorts":{"two":{"twoTX-CodebookSubsetRestriction":"000000"}},)"
                            R"("typeI-SinglePanel-ri-Restriction":"00000000"})")
+        .asMeant()
         .refused(singlePanel, ".nrOfAntennaPorts: tag 0 is not in 1..2",
                  [](auto& r) { r.SinglePanel_nrOfAntennaPorts.Presence = 0; })
         .sent(moreThanTwo, R"({"n1-n2":{"four-one-TypeI-SinglePanel-Restriction":"1000000000000001"}})",
@@ -530,17 +482,12 @@ void codebookRows(Table& table)
                   r.SubsetRestriction_u.four_one = 0x80000001;
               })
         .refused(typeII, ".n1-n2-codebookSubsetRestriction: tag 0 is not in 1..13");
-    table
-        .row("`CodeBookTypeMultiPanel_t`",
-             "refused: ri-Restriction has 8 bits, or none without `RRC_RI_RESTRICTION`, where 4 are asked for",
-             "there is no way to send the multi-panel codebook; use the single-panel one")
+    table.row("record-codebook-multi-panel")
         .refused(multiPanel, ".ri-Restriction: a bit string of 8 bits, not 4")
         .refused(multiPanel, ".ri-Restriction: a bit string of 0 bits, not 4",
                  [](auto& r) { r.bitMask = RRC_MULTI_PANEL_RESTRICT; })
         .refused(multiPanel, ".ng-n1-n2: tag 0 is not in 1..8", [](auto& r) { r.bitMask = RRC_RI_RESTRICTION; });
-    table
-        .row("`RRC_MORE_THAN_TWO_N1_N2_PRESENCE`, `RRC_CODEBOOK_TYPE2_SUB`, `RRC_TYPEII_RI_RESTRICTION_PRESENCE` clear",
-             "refused: each guards a mandatory member", "always set them")
+    table.row("record-codebook-mandatory-bits")
         .refused(moreThanTwo, ".n1-n2: tag 0 is not in 1..13",
                  [](auto& r)
                  {
@@ -550,9 +497,7 @@ void codebookRows(Table& table)
         .refused(type2, ".subType: tag 0 is not in 1..2", [](auto& r) { r.bitMask = 0; })
         .refused(typeII, ".typeII-RI-Restriction: a bit string of 0 bits, not 2",
                  [](auto& r) { r.Restriction_Presence = RRC_SUB_SET_RESTRICT_TWO_ONE_PRESENCE; });
-    table
-        .row("`RRC_PHASE_ALPHA_BET_SIZE`, `RRC_SUB_BAND_AMPLITUDE`, `RRC_NUM_BER_OFBEAMS` clear",
-             "the members are mandatory and go out as n4, false, two", "set the bit where another value is meant")
+    table.row("record-codebook-type2-defaults")
         .sent(type2, type2Json(),
               [](auto& r)
               {
@@ -560,10 +505,7 @@ void codebookRows(Table& table)
                   r.subBandAmplitude = 1;
                   r.numberOfBeams = 2;
               });
-    table
-        .row("`phaseAlphabetSize`, `numberOfBeams`, `subBandAmplitude`",
-             "of their 64 bits the low 32, of `subBandAmplitude` the low 8: 2^32 is sent as n4 or two, 256 as false",
-             "store 0 or 1, of `numberOfBeams` 0 to 2")
+    table.row("record-codebook-type2-upper-bits")
         .sent(type2, type2Json(),
               [](auto& r)
               {
@@ -580,9 +522,7 @@ void codebookRows(Table& table)
                   r.subBandAmplitude = 257;
                   r.numberOfBeams = (1ULL << 32) + 2;
               });
-    table
-        .row("`MoreThanTwo_n1_n2_u.two_two`, `MoreThanTwo_n1_n2_u.sixteen_one`",
-             "the octets as they lie in memory, on x86-64 the low one first", "fill the number octet by octet")
+    table.row("record-codebook-octets-in-memory")
         .sent(moreThanTwo,
               R"({"n1-n2":{"two-two-TypeI-SinglePanel-Restriction":)" + test::bits(0xEFCDAB8967452301, 64) + "}}",
               [](auto& r)
@@ -597,10 +537,7 @@ void codebookRows(Table& table)
                   r.N1_N2_Presence = RRC_SIXTEEN_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
                   r.MoreThanTwo_n1_n2_u.sixteen_one = 0x80;
               });
-    table
-        .row("the arrays of `MoreThanTwo_n1_n2_u` and `SubsetRestriction_u`, such as `four_two`",
-             "the octets in their order, of the last one the most significant bits as far as the string goes",
-             "store the first bit in bit 7 of the first octet")
+    table.row("record-codebook-octet-arrays")
         .sent(moreThanTwo, R"({"n1-n2":{"three-two-TypeI-SinglePanel-Restriction":"1)" + std::string(94, '0') + "1\"}}",
               [](auto& r)
               {
@@ -621,11 +558,7 @@ void codebookRows(Table& table)
                   r.Restriction_Presence |= RRC_SUB_SET_RESTRICT_SIXTEEN_ONE_PRESENCE;
                   r.SubsetRestriction_u.sixteen_one[15] = 0x01;
               });
-    table
-        .row("`MoreThanTwo_n1_n2_u.six_one`, `MoreThanTwo_n1_n2_u.twelve_one`, `SubsetRestriction_u.two_two`, "
-             "`SubsetRestriction_u.three_two`, `SubsetRestriction_u.six_one`",
-             "the low bits, as many as the string has; higher ones are dropped",
-             "store the first bit in the highest bit of the string")
+    table.row("record-codebook-upper-bits")
         .sent(moreThanTwo, R"({"n1-n2":{"six-one-TypeI-SinglePanel-Restriction":)" + test::bits(1, 24) + "}}",
               [](auto& r)
               {
@@ -660,11 +593,7 @@ void codebookRows(Table& table)
 
 void measurementRows(Table& table)
 {
-    table.region("CSI measurement and trigger states (`RrcCsiMeasCfg_t`)");
-    table
-        .row("`RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE` with `numState` 0, "
-             "`RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE` with `numTriggeState` 0",
-             "refused: neither setup nor release", "clear the bit; such a list cannot be released")
+    table.row("record-trigger-list-counts")
         .refused(csiMeas, ".aperiodicTriggerStateList: tag 0 is not in 1..2",
                  [](auto& r)
                  {
@@ -677,7 +606,7 @@ void measurementRows(Table& table)
                      r.bitMask = RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE;
                      rrcInit(&r.semiPersistentOnPuschTriggerStateList);
                  });
-    table.row("`numCfgInfo` 0", "refused", "give each trigger state at least one report")
+    table.row("record-trigger-report-count")
         .refused(csiMeas, ".aperiodicTriggerStateList.setup[0].associatedReportConfigInfoList: 0 elements, not 1..16",
                  [](auto& r)
                  {
@@ -685,28 +614,18 @@ void measurementRows(Table& table)
                      fresh(r.aperiodicTriggerStateList).numState = 1;
                      rrcInit(&r.aperiodicTriggerStateList.state[0]);
                  });
-    table
-        .row("`resourceForChannel.csiSsbResourceSet.csiImResourceSet`",
-             "csi-SSB-ResourceSet, despite the name: nothing of CSI-IM", "store 1, the number of the one CSI-SSB set")
+    table.row("record-trigger-csi-ssb-set")
         .sent(triggerStates, R"({"reportConfigId":0,"resourcesForChannel":{"csi-SSB-ResourceSet":1}})",
               [](auto& r)
               {
                   r.prsence = RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_CSI_SSB_SET_PRESENCE;
                   r.resourceForChannel.csiSsbResourceSet.csiImResourceSet = 1;
               });
-    table
-        .row("`prsence` without exactly one bit",
-             "both: csi-SSB-ResourceSet, from the octet of `resourceForChannel.nzpCsiRs.resourceSet`; none: refused",
-             "set one bit")
+    table.row("record-trigger-resource-choice")
         .sent(triggerStates, R"({"reportConfigId":0,"resourcesForChannel":{"csi-SSB-ResourceSet":1}})",
               [](auto& r) { r.prsence |= RRC_CSI_ASSOCIATED_REPORT_CFG_INFO_CSI_SSB_SET_PRESENCE; })
         .refused(triggerStates, ".resourcesForChannel: tag 0 is not in 1..2", [](auto& r) { r.prsence = 0; });
-    table
-        .row("no field: csi-IM-ResourcesForInterference and nzp-CSI-RS-ResourcesForInterference of a trigger state",
-             "not sent",
-             "in reports that are triggered, clear "
-             "`RRC_CSI_REPORT_CFG_CSI_IM_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE` and "
-             "`RRC_CSI_REPORT_CFG_NZP_CSI_RESOURCE_CFG_ID_FOR_INTERFERENCE_PRESENCE`")
+    table.row("record-trigger-no-field")
         .sent(triggerStates,
               R"({"reportConfigId":0,"resourcesForChannel":{"nzp-CSI-RS":{"resourceSet":1,"qcl-info":[0]}}})",
               [](auto& r)

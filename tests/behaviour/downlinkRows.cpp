@@ -155,33 +155,23 @@ const auto pdschCommon = within(bwpCommon,
 
 void pdcchRows(Table& table)
 {
-    table.region("PDCCH (`RrcPdcchCfg_t`)");
-    table
-        .row("`RRC_CCE_MAP_TYPE_NON_INTERLEAVED`",
-             "not read: `RRC_CCE_MAP_TYPE_INTERLEAVED` alone decides; without it nonInterleaved",
-             "set or clear `RRC_CCE_MAP_TYPE_INTERLEAVED`")
+    table.row("record-coreset-non-interleaved")
         .sent(controlResourceSet,
               controlResourceSetJson(R"({"interleaved":{"reg-BundleSize":"n2","interleaverSize":"n2"}})"),
               [](auto& r) { r.presence = RRC_CCE_MAP_TYPE_INTERLEAVED | RRC_CCE_MAP_TYPE_NON_INTERLEAVED; })
-        .sent(controlResourceSet, controlResourceSetJson());
-    table
-        .row("`enTciPresentInDci`", "0 is sent as enabled, any other number is refused",
-             "store 0: the bit alone says it")
+        .sent(controlResourceSet, controlResourceSetJson())
+        .asMeant();
+    table.row("record-coreset-one-value")
         .sent(controlResourceSet,
               controlResourceSetJson(R"({"nonInterleaved":null})", R"("tci-PresentInDCI":"enabled")"),
               [](auto& r) { r.bitMask = RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE; })
+        .asMeant()
         .oneValue(controlResourceSet, RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE,
                   &RrcControlResourceSet_t::enTciPresentInDci, "tci-PresentInDCI");
-    table
-        .row("`freqDomainResource`", "the low 45 bits; higher ones are dropped",
-             "store the first group of six resource blocks in bit 44")
+    table.row("record-coreset-frequency-upper-bits")
         .sent(controlResourceSet, controlResourceSetJson(R"({"nonInterleaved":null})", "", 1),
               [](auto& r) { r.freqDomainResource = (1ULL << 63) | (1ULL << 45) | 1; });
-    table
-        .row("`monitoringSlotPeriodOffset.period` 0 or above 15",
-             "the line \"No SearchSpace__monitoringSlotPeriodicityAndOffset_PR\", then refused",
-             "store 1 (sl1) to 15 (sl2560); to leave it out, clear "
-             "`RRC_SEARCH_SPACE_MON_SLOT_PERIOD_AND_OFFSET_PRESENCE`")
+    table.row("record-search-space-period")
         .refused(searchSpace, ".monitoringSlotPeriodicityAndOffset: tag 0 is not in 1..15",
                  [](auto& r) { r.bitMask = RRC_SEARCH_SPACE_MON_SLOT_PERIOD_AND_OFFSET_PRESENCE; })
         .printing("No SearchSpace__monitoringSlotPeriodicityAndOffset_PR\n")
@@ -192,9 +182,7 @@ void pdcchRows(Table& table)
                      r.monitoringSlotPeriodOffset.period = 16;
                  })
         .printing("No SearchSpace__monitoringSlotPeriodicityAndOffset_PR\n");
-    table
-        .row("`monitoringSlotPeriodOffset.offset`, periods 2 to 11", "the low 8 bits: 300 is sent as 44",
-             "keep the offset below the period")
+    table.row("record-search-space-offset")
         .sent(searchSpace, R"({"searchSpaceId":0,"monitoringSlotPeriodicityAndOffset":{"sl160":44}})",
               [](auto& r)
               {
@@ -202,10 +190,7 @@ void pdcchRows(Table& table)
                   r.monitoringSlotPeriodOffset.period = 11;
                   r.monitoringSlotPeriodOffset.offset = 300;
               });
-    table
-        .row("`RrcSearchSpace_t.presence` without exactly one bit",
-             "both: ue-Specific, with `searchType` read as `ueSpecific`; none: refused",
-             "set one bit; to leave the type out, clear `RRC_SEARCH_SPACE_TYPE_PRESENCE`")
+    table.row("record-search-space-type-choice")
         .sent(searchSpace,
               R"({"searchSpaceId":0,"searchSpaceType":{"ue-Specific":{"dci-Formats":"formats0-1-And-1-1"}}})",
               [](auto& r)
@@ -216,9 +201,7 @@ void pdcchRows(Table& table)
               })
         .refused(searchSpace, ".searchSpaceType: tag 0 is not in 1..2",
                  [](auto& r) { r.bitMask = RRC_SEARCH_SPACE_TYPE_PRESENCE; });
-    table
-        .row("`dci0AndDci2_0`", "dci-Format2-0 only, despite the name",
-             "for formats 0_0 and 1_0 set `RRC_SEARCH_TYPE_COMMON_DCI0_1_PRESENCE`; they need no field")
+    table.row("record-search-space-dci-format2-0")
         .sent(commonSearch, R"({"dci-Format2-0":{"nrofCandidates-SFI":{"aggregationLevel4":"n2"}}})",
               [](auto& r)
               {
@@ -228,9 +211,7 @@ void pdcchRows(Table& table)
               })
         .sent(commonSearch, R"({"dci-Format0-0-AndFormat1-0":{}})",
               [](auto& r) { r.presence = RRC_SEARCH_TYPE_COMMON_DCI0_1_PRESENCE; });
-    table
-        .row("`dummy2`", "always sent with `RRC_SEARCH_TYPE_COMMON_DCI2_3_PRESENCE`; `dummy1` goes by its bit",
-             "leave both 0 and the bit clear: the UE does not read them")
+    table.row("record-search-space-dci-format2-3-dummies")
         .sent(commonSearch, R"({"dci-Format2-3":{"dummy2":"n2"}})",
               [](auto& r)
               {
@@ -244,18 +225,14 @@ void pdcchRows(Table& table)
                   r.presence = RRC_SEARCH_TYPE_COMMON_DCI2_3_PRESENCE;
                   r.dci2_3.presence = RRC_DCI2_3_DUMMY1_PRESENCE;
               });
-    table
-        .row("`numServingCells` 0", "refused",
-             "list the cells; to leave pre-emption out, clear `RRC_PDCCH_CFG_Dl_PREEMPTION_PRESENCE`")
+    table.row("record-pre-emption-list-count")
         .refused(pdcch, ".downlinkPreemption.setup.int-ConfigurationPerServingCell: 0 elements, not 1..32",
                  [](auto& r)
                  {
                      r.bitMask = RRC_PDCCH_CFG_Dl_PREEMPTION_PRESENCE;
                      rrcInit(&r.dlPreemption);
                  });
-    table
-        .row("`RRC_PDCCH_CFG_SPS_TPC_CMDCFG_PRESENCE`", "tpc-SRS, from `tpcSrs`: nothing of semi-persistent scheduling",
-             "set it for SRS power control")
+    table.row("record-tpc-srs-bit")
         .sent(pdcch, R"({"tpc-SRS":{"setup":{"fieldTypeFormat2-3":1}}})",
               [](auto& r)
               {
@@ -263,10 +240,7 @@ void pdcchRows(Table& table)
                   r.tpcSrs.bitMask = RRC_SRS_TPC_FIELD_TYPE_PRESENCE;
                   r.tpcSrs.feildTypeFormat2_3 = 1;
               });
-    table
-        .row("`RRC_SRS_TPC_STARTING_BIT_PRESENCE`, `startBitSulFormat2_3`",
-             "startingBitOfFormat2-3 alone; the supplementary uplink's is not sent, whatever its field holds",
-             "there is no way to give the supplementary uplink's starting bit; leave its field 0")
+    table.row("record-tpc-srs-sul-starting-bit-field")
         .sent(pdcch, R"({"tpc-SRS":{"setup":{"startingBitOfFormat2-3":31}}})",
               [](auto& r)
               {
@@ -275,7 +249,7 @@ void pdcchRows(Table& table)
                   r.tpcSrs.startBitFormat2_3 = 31;
                   r.tpcSrs.startBitSulFormat2_3 = 255;
               });
-    table.row("`RRC_SRS_TPC_STARTING_BIT_SUL_PRESENCE`", "not read", "leave it clear")
+    table.row("record-tpc-srs-sul-starting-bit")
         .sent(pdcch, R"({"tpc-SRS":{"setup":{}}})",
               [](auto& r)
               {
@@ -287,18 +261,13 @@ void pdcchRows(Table& table)
 
 void pdschRows(Table& table)
 {
-    table.region("PDSCH, SPS and radio link monitoring (`RrcPdschCfg_t`, `RrcSpsCfg_t`, `RrcRlmCfg_t`)");
-    table
-        .row("`prbBitmask` without exactly one bit",
-             "both: dynamicBundling; none: refused, as every PDSCH-Config needs one",
-             "set one bit; `RRC_PDSCH_CFG_PRB_BUNDLING_STATIC` without `bundleSize` means n2 to the UE")
+    table.row("record-prb-bundling-choice")
         .sent(pdsch, pdschJson("", "", "", R"({"dynamicBundling":{}})"),
               [](auto& r) { r.prbBitmask = RRC_PDSCH_CFG_PRB_BUNDLING_STATIC | RRC_PDSCH_CFG_PRB_BUNDLING_DYNAMIC; })
         .refused(pdsch, ".prb-BundlingType: tag 0 is not in 1..2", [](auto& r) { r.prbBitmask = 0; })
-        .sent(pdsch, pdschJson(""));
-    table
-        .row("`RRC_QCI_INFO_SSB_IDX_PRESENCE` clear", "csi-rs, the octet of `RrcQclInfo_t.refSignal` being its id",
-             "set the bit for an SSB")
+        .sent(pdsch, pdschJson(""))
+        .asMeant();
+    table.row("record-qcl-reference-signal")
         .sent(tciState, R"({"tci-StateId":0,"qcl-Type1":{"referenceSignal":{"csi-rs":63},"qcl-Type":"typeA"}})",
               [](auto& r) { r.qclType1.refSignal.ssbIdx = 63; })
         .sent(tciState, R"({"tci-StateId":0,"qcl-Type1":{"referenceSignal":{"ssb":63},"qcl-Type":"typeA"}})",
@@ -307,18 +276,13 @@ void pdschRows(Table& table)
                   r.qclType1.Presence = RRC_QCI_INFO_SSB_IDX_PRESENCE;
                   r.qclType1.refSignal.ssbIdx = 63;
               });
-    table
-        .row("`presense`", "one for all patterns of the group; both bits: bwpLevel; none: refused",
-             "set one bit; put patterns of the other level into the other group")
+    table.row("record-rate-match-group-choice")
         .sent(group, R"([{"cellLevel":0},{"cellLevel":3}])",
               [](auto& r) { r.presense = RRC_RATE_MATCH_PATTERN_GROUP_CELL_LEVEL_PRESENCE; })
+        .asMeant()
         .sent(group, R"([{"bwpLevel":0},{"bwpLevel":3}])", [](auto& r) { r.presense = 3; })
         .refused(group, "[0]: tag 0 is not in 1..2");
-    table
-        .row("`RrcRateMatchPattern_t`",
-             "as in the common part: what is said there of its masks, `resourceBlocks`, `twoSLots` and "
-             "`RrcRateMatchPattern_t.dummy` holds here, too",
-             "as there")
+    table.row("record-pdsch-rate-match-pattern")
         .sent(pattern, R"({"rateMatchPatternId":0,"patternType":{"controlResourceSet":11},"dummy":"semiStatic"})",
               [](auto& r)
               {
@@ -351,10 +315,7 @@ void pdschRows(Table& table)
               })
         .refused(bitmaps, ".symbolsInResourceBlock: tag 7 is not in 1..2",
                  [](auto& r) { r.resourceBlocks[4] = 7ULL << 32; });
-    table
-        .row("`presenceFreqDomain` without exactly one bit",
-             "of several the highest, with as many low bits of `freqDomainAlloc` as it has; without one refused",
-             "set one bit")
+    table.row("record-csi-rs-mapping-frequency-choice")
         .sent(mapping, mappingJson(R"({"other":"000001"})"),
               [](auto& r)
               {
@@ -363,7 +324,7 @@ void pdschRows(Table& table)
               })
         .refused(mapping, ".frequencyDomainAllocation: tag 0 is not in 1..4",
                  [](auto& r) { r.presenceFreqDomain = 0; });
-    table.row("`presenceDensity` without exactly one bit", "of several the lowest; without one refused", "set one bit")
+    table.row("record-csi-rs-mapping-density-choice")
         .sent(mapping, mappingJson(R"({"row1":"0000"})", R"({"dot5":"oddPRBs"})"),
               [](auto& r)
               {
@@ -377,9 +338,7 @@ void pdschRows(Table& table)
                                       RRC_CSI_RS_RESOURCE_MAPPING_DENSITY_SPARE_PRESENCE;
               })
         .refused(mapping, ".density: tag 0 is not in 1..4", [](auto& r) { r.presenceDensity = 0; });
-    table
-        .row("`slotsPeriod` 8 (slots40)", "slots32; an offset of 32 to 39 is refused",
-             "use 6 (slots20) or 10 (slots80), or put slots40 into the tree of `rrcComposeCellGroupTree`")
+    table.row("record-csi-rs-period-slots40")
         .sent(period, R"({"slots32":31})",
               [](auto& r)
               {
@@ -392,16 +351,12 @@ void pdschRows(Table& table)
                      r.slotsPeriod = 8;
                      r.offset = 32;
                  });
-    table
-        .row("`slotsPeriod` 0 or above 13", "the line \"Have no CSI_ResourcePeriodicityAndOffset type\", then refused",
-             "store 1 (slots4) to 13 (slots640); to leave it out, clear its bit")
+    table.row("record-csi-rs-period")
         .refused(period, ": tag 0 is not in 1..13")
         .printing("Have no CSI_ResourcePeriodicityAndOffset type\n")
         .refused(period, ": tag 14 is not in 1..13", [](auto& r) { r.slotsPeriod = 14; })
         .printing("Have no CSI_ResourcePeriodicityAndOffset type\n");
-    table
-        .row("`RrcCsiResourcePeriodictyAndOffset_t.offset`, `slotsPeriod` 1 to 11", "the low 8 bits: 257 is sent as 1",
-             "keep the offset below the period")
+    table.row("record-csi-rs-offset")
         .sent(period, R"({"slots4":1})",
               [](auto& r)
               {
@@ -414,9 +369,7 @@ void pdschRows(Table& table)
                   r.slotsPeriod = 11;
                   r.offset = 300;
               });
-    table
-        .row("no field: sp-ZP-CSI-RS-ResourceSetsToAddModList and -ToReleaseList", "not sent",
-             "use aperiodic sets, `aperiodicZpCsiRsResourceSet`, or the periodic one, `pZpCsiRsResourceSet`")
+    table.row("record-pdsch-no-field")
         .sent(
             pdsch,
             pdschJson(
@@ -432,9 +385,7 @@ void pdschRows(Table& table)
                 r.bitMask = RRC_PDSCH_CFG_ZP_CSI_RS_RESOURCE_SET_PRESENCE;
                 r.pZpCsiRsResourceSet.numzpCsiRsResourId = 1;
             });
-    table
-        .row("`RrcPdschTimeDomainResourceAllocList_t.num`, `numRateMatchPattern`",
-             "0 with the bit of the list: refused; not 0 without it: not sent", "set bit and count together")
+    table.row("record-pdsch-list-counts")
         .refused(pdsch, ".pdsch-TimeDomainAllocationList.setup: 0 elements, not 1..16",
                  [](auto& r)
                  {
@@ -448,24 +399,22 @@ void pdschRows(Table& table)
                   fresh(r.pdschTimeDomainAllocList).num = 1;
                   r.rateMatchPatternGroup1.numRateMatchPattern = 1;
                   r.rateMatchPatternGroup2.numRateMatchPattern = 1;
-              });
-    table.row("`numzpCsiRsResourId` 0", "refused", "list the resources, or leave the set out")
+              })
+        .asMeant();
+    table.row("record-zp-csi-rs-set-count")
         .refused(pdsch, ".p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceIdList: 0 elements, not 1..16",
                  [](auto& r) { r.bitMask = RRC_PDSCH_CFG_ZP_CSI_RS_RESOURCE_SET_PRESENCE; });
-    table
-        .row("`RrcDmrsDlCfg_t.dmrsType`, `RrcDmrsDlCfg_t.maxLength`, `RrcSpsCfg_t.mcsTable`",
-             "0 is sent as the one value, type2, len2, qam64LowSE; any other number is refused",
-             "store 0: the bit alone says it")
+    table.row("record-pdsch-one-value")
         .sent(dmrs, R"({"dmrs-Type":"type2","maxLength":"len2"})",
               [](auto& r) { r.bitMask = RRC_DMRS_DL_CFG_TYPE_PRESENCE | RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE; })
+        .asMeant()
         .oneValue(dmrs, RRC_DMRS_DL_CFG_TYPE_PRESENCE, &RrcDmrsDlCfg_t::dmrsType, "dmrs-Type")
         .oneValue(dmrs, RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE, &RrcDmrsDlCfg_t::maxLength, "maxLength")
         .sent(sps, R"({"periodicity":"ms10","nrofHARQ-Processes":1,"mcs-Table":"qam64LowSE"})",
               [](auto& r) { r.bitMask = RRC_SPS_CFG_MCS_TABLE_PRESENCE; })
+        .asMeant()
         .oneValue(sps, RRC_SPS_CFG_MCS_TABLE_PRESENCE, &RrcSpsCfg_t::mcsTable, "mcs-Table");
-    table
-        .row("`RrcRadioLinkMonitorRs_t.presence` without exactly one bit",
-             "both: csi-RS-Index, the octet of `detectionResource` being its id; none: refused", "set one bit")
+    table.row("record-rlm-resource-choice")
         .sent(monitoring,
               R"({"radioLinkMonitoringRS-Id":0,"purpose":"beamFailure","detectionResource":{"csi-RS-Index":63}})",
               [](auto& r)
@@ -478,12 +427,7 @@ void pdschRows(Table& table)
 
 void bandwidthPartRows(Table& table)
 {
-    table.region("Further downlink bandwidth parts (`RrcBwpDl_t`)");
-    table
-        .row("`RRC_PDCCH_CFG_COMMON_FIRST_PDCCH_MONITIOR_OCCASION_PRESENCE`",
-             "nothing is sent: firstPDCCH-MonitoringOccasionOfPO has no field here",
-             "send it in the initial bandwidth part's common part, which the distributed unit composes: "
-             "`firstPdcchMonitoringOccasion`")
+    table.row("record-pdcch-common-first-occasion")
         .sent(bwpCommon,
               R"({"genericParameters":{"locationAndBandwidth":0,"subcarrierSpacing":"kHz15"},)"
               R"("pdcch-ConfigCommon":{"setup":{}}})",
@@ -492,22 +436,16 @@ void bandwidthPartRows(Table& table)
                   r.bitMask = RRC_BWP_DL_COMMON_PDCCH_CFG_COMMON_PRESENCE;
                   r.pdcchCfgCommon.bitMask = RRC_PDCCH_CFG_COMMON_FIRST_PDCCH_MONITIOR_OCCASION_PRESENCE;
               });
-    table
-        .row(
-            "`RRC_PDSCH_COMMON_PRESENCE`",
-            "clear: an empty pdsch-ConfigCommon, whatever `pdschTimeDomainAllocList` holds; set with a count of 0: "
-            "refused",
-            "set bit and count together; to leave the element out, clear `RRC_BWP_DL_COMMON_PDSCH_CFG_COMMON_PRESENCE`")
+    table.row("record-pdsch-common-allocations")
         .sent(pdschCommon, "{}", [](auto& r) { r.pdschTimeDomainAllocList.num = 3; })
         .refused(pdschCommon, ".pdsch-TimeDomainAllocationList: 0 elements, not 1..16",
                  [](auto& r) { r.bitMask = RRC_PDSCH_COMMON_PRESENCE; });
-    table
-        .row("`RrcBwp_t.cyclicPrefix`, of uplink bandwidth parts, too",
-             "0 is sent as extended, any other number is refused", "store 0: the bit alone says it")
+    table.row("record-bwp-cyclic-prefix-one-value")
         .sent(
             bwpCommon,
             R"({"genericParameters":{"locationAndBandwidth":0,"subcarrierSpacing":"kHz15","cyclicPrefix":"extended"}})",
             [](auto& r) { r.genericParam.bitMask = RRC_BWP_CYCLEPREFIX_PRESENCE; })
+        .asMeant()
         .refused(bwpCommon, ".genericParameters.cyclicPrefix: 1 is not in 0..0",
                  [](auto& r)
                  {

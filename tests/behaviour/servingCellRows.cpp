@@ -87,24 +87,17 @@ const auto sCell = within(cellGroup, R"({"cellGroupId":0,"sCellToAddModList":[@]
 
 void specialCellRows(Table& table)
 {
-    table.region("Special cell (`RrcSpCellCfg_t`)");
-    table
-        .row("`RrcRlfTimerConstants_t.t311`", "always sent with the other timers: 0 is ms1000",
-             "store T311 whenever `RRC_SPCELLCFG_RLFTIMER_PRESENCE` is set")
+    table.row("record-rlf-t311")
         .sent(spCell,
               R"({"rlf-TimersAndConstants":{"setup":{"t310":"ms0","n310":"n1","n311":"n1","t311-v1530":"ms1000"}}})",
               [](auto& r) { r.bitMask = RRC_SPCELLCFG_RLFTIMER_PRESENCE; });
-    table
-        .row("`rlmInSyncOutSyncThreshold`", "0 is sent as n1, any other number is refused",
-             "store 0: the bit alone says it")
+    table.row("record-rlm-threshold-one-value")
         .sent(spCell, R"({"rlmInSyncOutOfSyncThreshold":"n1"})",
               [](auto& r) { r.bitMask = RRC_SPCELLCFG_THRESHOLD_PRESENCE; })
+        .asMeant()
         .oneValue(spCell, RRC_SPCELLCFG_THRESHOLD_PRESENCE, &RrcSpCellCfg_t::rlmInSyncOutSyncThreshold,
                   "rlmInSyncOutOfSyncThreshold");
-    table
-        .row("`RrcReconfWithSync_t.smtc.period` 0 or above 6",
-             "the line \"No SSB_MTC__periodicityAndOffset_PR\", then refused",
-             "store 1 (sf5) to 6 (sf160); to leave smtc out, clear `RRC_SSBMTC_PRESENCE`")
+    table.row("record-smtc-period")
         .refused(sync, ".smtc.periodicityAndOffset: tag 0 is not in 1..6",
                  [](auto& r) { r.bitMask = RRC_SSBMTC_PRESENCE; })
         .printing("No SSB_MTC__periodicityAndOffset_PR\n")
@@ -119,13 +112,7 @@ void specialCellRows(Table& table)
 
 void commonRows(Table& table)
 {
-    table.region("Serving cell common, of the special cell and of SCells (`RrcServingCellCfgCommon_t`)");
-    table
-        .row("`FREQ_INFO_UL_...`, `RrcFreqInfoUl_t.absFreqPointA`, `additionSpectrumEmission`, `pMax`, "
-             "`freqShift7p5khz`",
-             "not sent, whatever the fields hold",
-             "leave them clear: TDD takes point A from the downlink, and `pNrFR1Pmax` limits the power; an uplink that "
-             "needs a point A of its own, of FDD or supplementary, cannot be described")
+    table.row("record-uplink-frequency-not-sent")
         .sent(uplinkFrequency, "{" + std::string(oneCarrier) + "}",
               [](auto& r)
               {
@@ -135,9 +122,7 @@ void commonRows(Table& table)
                   r.pMax = 23;
                   r.freqShift7p5khz = 1;
               });
-    table
-        .row("`RrcFreqInfoDl_t.multiBandNum`, `RrcFreqInfoDl_t.scsNum`, `RrcFreqInfoUl_t.scsNum` 0", "refused",
-             "fill both lists, or clear `RRC_DLCFGCOMM_FREQ_DL_PRESENCE`, `RRC_FREQ_INFO_UL_PRESENCE`")
+    table.row("record-frequency-list-counts")
         .refused(downlinkCommon, ".frequencyInfoDL.frequencyBandList: 0 elements, not 1..8",
                  [](auto& r)
                  {
@@ -153,16 +138,9 @@ void commonRows(Table& table)
                      r.freqInfoDl.freqBandIndNr[0] = 78;
                  })
         .refused(uplinkFrequency, ".scs-SpecificCarrierList: 0 elements, not 1..5", [](auto& r) { r.scsNum = 0; });
-    table
-        .row("`RrcUlCfgComm_t.timeAlignmentTimer`", "always sent, as dummy",
-             "leave it 0: the UE takes its timer from `RrcTag_t.taTimer`")
+    table.row("record-time-alignment-timer-common")
         .sent(uplinkCommon, R"({"dummy":"infinity"})", [](auto& r) { r.timeAlignmentTimer = 7; });
-    table
-        .row("`SSB_POSITION_LONG_BITMAP`",
-             "refused, alone or with another bit: the bitmap is written without its tag, over the other one's pointer",
-             "put 64 positions into the tree of `rrcComposeCellGroupTree`, or clear `RRC_SSB_POSITION_IN_BURST`, and "
-             "with it "
-             "`FREQ_INFO_DL_ABS_FREQ_SSB`, as the one goes with the other")
+    table.row("record-ssb-long-bitmap")
         .refused(common, ".ssb-PositionsInBurst: tag 0 is not in 1..3",
                  [](auto& r)
                  {
@@ -184,11 +162,7 @@ void commonRows(Table& table)
                      r.ssbPosionBitMask = SSB_POSITION_LONG_BITMAP | SSB_POSITION_MEDIUM_BITMAP;
                      r.RrcSsbPositionInBurst.longBitmap = 0;
                  });
-    table
-        .row("`ssbPosionBitMask`, `RrcRateMatchPattern_t.Presence`, `periodictyAndPatternPresence` without exactly one "
-             "bit",
-             "of several the highest, with the union read as its member; without one refused",
-             "set one bit of each; for the long bitmap see above")
+    table.row("record-serving-cell-common-choices")
         .sent(
             common,
             R"({"ssb-PositionsInBurst":{"mediumBitmap":"10000001"},"dmrs-TypeA-Position":"pos2","ss-PBCH-BlockPower":0})",
@@ -217,21 +191,14 @@ void commonRows(Table& table)
               })
         .refused(bitmaps, ".periodicityAndPattern: tag 0 is not in 1..7",
                  [](auto& r) { r.bitMask = RRC_BITMAPS_PERIODICTY_PATTERN_PRESENCE; });
-    table
-        .row("`resourceBlocks`",
-             "the first 275 bits of its 40 octets as they lie in memory, the first one the most significant of the "
-             "first octet: on x86-64 bit 7 of `resourceBlocks[0]`",
-             "fill it octet by octet")
+    table.row("record-rate-match-resource-blocks")
         .sent(bitmaps, bitmapsJson(noSymbols, "", "\"1" + std::string(273, '0') + "1\""),
               [](auto& r)
               {
                   r.resourceBlocks[0] = 0x80;
                   r.resourceBlocks[4] = 0x200000;
               });
-    table
-        .row("`symbolsInResourceBlockPresence`",
-             "both bits: twoSlots; none: refused, the last four octets of `resourceBlocks` standing for the tag",
-             "set `RRC_BITMAPS_SYMBOLS_ONE_SLOT_PRESENCE`")
+    table.row("record-rate-match-symbols-choice")
         .sent(bitmaps, bitmapsJson(R"({"twoSlots":)" + test::bits(1, 28) + "}"),
               [](auto& r)
               {
@@ -246,19 +213,14 @@ void commonRows(Table& table)
                      r.symbolsInResourceBlockPresence = 0;
                      r.resourceBlocks[4] = 7ULL << 32;
                  });
-    table
-        .row("`twoSLots`", "the low 16 of its 28 bits: the first 12 symbols are 0",
-             "use two patterns with `oneSlot`, one per slot, told apart by `n2`")
+    table.row("record-rate-match-two-slots")
         .sent(bitmaps, bitmapsJson(R"({"twoSlots":)" + test::bits(0xCDEF, 28) + "}"),
               [](auto& r)
               {
                   r.symbolsInResourceBlockPresence = RRC_BITMAPS_SYMBOLS_TWO_SLOT_PRESENCE;
                   r.symbolsInResourceBlock.twoSLots = 0xABCDEF;
               });
-    table
-        .row("`oneSlot`, `RrcBitMaps_t.periodictyAndPattern`",
-             "the low bits, as many as the string has; higher ones are dropped",
-             "store the first symbol or slot in the highest bit of the string")
+    table.row("record-rate-match-upper-bits")
         .sent(bitmaps, bitmapsJson(R"({"oneSlot":"00000000000001"})"),
               [](auto& r) { r.symbolsInResourceBlock.oneSlot = 0xC001; })
         .sent(bitmaps, bitmapsJson(noSymbols, R"({"n2":"10"})"),
@@ -268,22 +230,17 @@ void commonRows(Table& table)
                   r.periodictyAndPatternPresence = RRC_BITMAPS_PERIODICTY_PATTERN_N2_PRESENCE;
                   r.periodictyAndPattern.n2 = 6;
               });
-    table.row("`RrcRateMatchPattern_t.dummy`", "always sent", "leave it 0: the UE does not read it")
+    table.row("record-rate-match-dummy")
         .sent(pattern, R"({"rateMatchPatternId":0,"patternType":{"controlResourceSet":0},"dummy":"semiStatic"})",
               [](auto& r)
               {
                   r.Presence = RRC_PATTERN_TYPE_SETID;
                   r.dummy = 1;
               });
-    table
-        .row("`ssPbchBlockPower`", "the octet as a signed number: 251 is sent as -5 dBm", "add 256 to a negative power")
+    table.row("record-ss-pbch-block-power")
         .sent(common, R"({"dmrs-TypeA-Position":"pos2","ss-PBCH-BlockPower":-5})",
               [](auto& r) { r.ssPbchBlockPower = 251; });
-    table
-        .row("`speCarrier`, `bwpDlCommon`, `bwpUplink`, `tddUlDlCfgComm`",
-             "what the distributed unit's composers make of them; a failure of one is not noticed",
-             "see [distributed-unit.md](distributed-unit.md); to have the message refused, such a composer leaves a "
-             "choice without alternative")
+    table.row("record-distributed-unit-members")
         .sent(uplinkFrequency, "{" + std::string(oneCarrier) + "}")
         .sent(downlinkCommon,
               R"({"initialDownlinkBWP":{"genericParameters":{"locationAndBandwidth":0,"subcarrierSpacing":"kHz15"}}})",
@@ -297,9 +254,7 @@ void commonRows(Table& table)
               R"("pattern1":{"dl-UL-TransmissionPeriodicity":"ms0p5","nrofDownlinkSlots":0,"nrofDownlinkSymbols":0,)"
               R"("nrofUplinkSlots":0,"nrofUplinkSymbols":0}},"ss-PBCH-BlockPower":0})",
               [](auto& r) { r.bitMask = RRC_TDD_UL_DL_CFG_COMMON; });
-    table
-        .row("no field: lte-CRS-ToMatchAround", "not sent",
-             "keep the LTE carrier's symbols free with `rateMatchPatternToAddMod`")
+    table.row("record-serving-cell-common-no-field")
         .sent(common,
               R"({"physCellId":0,"downlinkConfigCommon":{},"uplinkConfigCommon":{"dummy":"ms500"},)"
               R"("supplementaryUplinkConfig":{"dummy":"ms500"},"n-TimingAdvanceOffset":"n0",)"
@@ -317,11 +272,7 @@ void commonRows(Table& table)
 
 void randomAccessRows(Table& table)
 {
-    table.region("Dedicated random access (`RrcRachCfgDedi_t`)");
-    table
-        .row("`rachCfgBitMask` without exactly one bit",
-             "both: supplementaryUplink, as `RrcReconfWithSync_t.choice` holds one record; none: refused",
-             "set one bit; to leave random access out, clear `RRC_RACH_CFG_DEDI_PRESENCE`")
+    table.row("record-rach-dedicated-choice")
         .sent(sync,
               R"({"newUE-Identity":0,"t304":"ms50","rach-ConfigDedicated":{"supplementaryUplink":)"
               R"({"ra-Prioritization":{"powerRampingStepHighPriority":"dB0"}}}})",
@@ -338,7 +289,7 @@ void randomAccessRows(Table& table)
                      r.bitMask = RRC_RACH_CFG_DEDI_PRESENCE;
                      rrcInit(&r.choice.uplink);
                  });
-    table.row("`RRC_SSB` with `RRC_SCIS_RESOURCE`", "ssb: here the lower bit wins", "set one bit")
+    table.row("record-cfra-both-resources")
         .sent(
             cfra,
             R"({"resources":{"ssb":{"ssb-ResourceList":[{"ssb":1,"ra-PreambleIndex":60}],"ra-ssb-OccasionMaskIndex":0}}})",
@@ -349,10 +300,7 @@ void randomAccessRows(Table& table)
                 ssb.numSsbResources = 1;
                 ssb.ssbResource[0] = {1, 60};
             });
-    table
-        .row("`RRC_SSB` clear",
-             "csirs, from `scirs`, with `RRC_SCIS_RESOURCE` or without; refused where `numCsirsRecouces` is 0",
-             "always fill one of the two; to leave resources out, clear `RRC_RACH_CFG_DEDI_CFRA_PRESENCE`")
+    table.row("record-cfra-resources-by-default")
         .sent(
             cfra,
             R"({"resources":{"csirs":{"csirs-ResourceList":[{"csi-RS":0,"ra-OccasionList":[511],"ra-PreambleIndex":0}],)"
@@ -367,9 +315,7 @@ void randomAccessRows(Table& table)
             })
         .refused(cfra, ".resources.csirs.csirs-ResourceList: 0 elements, not 1..96",
                  [](auto& r) { r.bitMask = RRC_CFRA_PREAMBLE_PRESENCE; });
-    table
-        .row("`numRaOccasion` above 64", "refused, although there is room for 511",
-             "give a resource at most 64 occasions")
+    table.row("record-cfra-csi-rs-occasions")
         .refused(cfra, ".resources.csirs.csirs-ResourceList[0].ra-OccasionList: 65 elements, not 1..64",
                  [](auto& r)
                  {
@@ -379,7 +325,7 @@ void randomAccessRows(Table& table)
                      resource.numRaOccasion = 65;
                      std::fill_n(resource.raOccasionIdx, 65, UINT16{0});
                  });
-    table.row("`numSsbResources`, `numRaOccasion` 0", "refused", "fill the list, or choose the other kind of resource")
+    table.row("record-cfra-list-counts")
         .refused(cfra, ".resources.ssb.ssb-ResourceList: 0 elements, not 1..64",
                  [](auto& r)
                  {
@@ -397,11 +343,7 @@ void randomAccessRows(Table& table)
 
 void secondaryCellRows(Table& table)
 {
-    table.region("SCells (`RrcScellCfg_t`)");
-    table
-        .row("`sCellAddModNum` above 3",
-             "three SCells; the field itself becomes 3, the one thing that a call writes into the record",
-             "send further SCells in another message, and store the count anew before each call")
+    table.row("record-scell-add-mod-count")
         .sent(cellGroup,
               R"({"cellGroupId":0,"sCellToAddModList":[{"sCellIndex":1},{"sCellIndex":2},{"sCellIndex":3}]})",
               [](auto& r)
@@ -413,10 +355,7 @@ void secondaryCellRows(Table& table)
                   }
               })
         .leaving([](const auto& r) { return r.sCellAddModNum == 3; });
-    table
-        .row("`sCellReleaseNum` above 3",
-             "refused: only the three entries of `RrcCellGroupCfg_t.sCellIdx` are read, those behind go out as 0",
-             "release further SCells in another message")
+    table.row("record-scell-release-count")
         .refused(cellGroup, ".sCellToReleaseList[3]: 0 is not in 1..31",
                  [](auto& r)
                  {
@@ -426,10 +365,7 @@ void secondaryCellRows(Table& table)
                      r.sCellIdx[2] = 3;
                  })
         .leaving([](const auto& r) { return r.sCellReleaseNum == 4; });
-    table
-        .row(
-            "`RRC_SCELLADDMOD_SMTC_PRESENCE`, `RrcScellCfg_t.smtc`", "not sent",
-            "there is no way; without it the UE takes the timing of the measurement object with the same SSB frequency")
+    table.row("record-scell-smtc")
         .sent(sCell, R"({"sCellIndex":1})",
               [](auto& r)
               {
@@ -440,10 +376,7 @@ void secondaryCellRows(Table& table)
 
 void dedicatedRows(Table& table)
 {
-    table.region("Dedicated serving cell, of the special cell and of SCells (`RrcServingCellCfg_t`)");
-    table
-        .row("`RRC_SERVING_CELL_CROSS_CARRIER_SCHD_CFG_PRESENCE`", "not read: crossCarrierSchedulingConfig is not sent",
-             "there is no way; schedule each cell on its own carrier")
+    table.row("record-cross-carrier-scheduling")
         .sent(dedicated, R"({"tag-Id":0})",
               [](auto& r) { r.bitMask = RRC_SERVING_CELL_CROSS_CARRIER_SCHD_CFG_PRESENCE; })
         .sent(sCell, R"({"sCellIndex":1,"sCellConfigDedicated":{"tag-Id":0}})",
@@ -452,18 +385,11 @@ void dedicatedRows(Table& table)
                   r.bitMask = RRC_SCELLADDMOD_CELLDEDI_PRESENCE;
                   fresh(r.sCellCfgDedi).bitMask = RRC_SERVING_CELL_CROSS_CARRIER_SCHD_CFG_PRESENCE;
               });
-    table
-        .row("`RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE`, `RrcServingCellCfg_t.dummy`",
-             "dummy: 0 is sent as enabled, any other number is refused", "leave the bit clear: the UE does not read it")
+    table.row("record-serving-cell-dummy")
         .sent(dedicated, R"({"tag-Id":0,"dummy":"enabled"})",
               [](auto& r) { r.bitMask = RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE; })
         .oneValue(dedicated, RRC_SERVING_CELL_UE_BEAMLOCK_FUNC_PRESENCE, &RrcServingCellCfg_t::dummy, "dummy");
-    table
-        .row("no field: rateMatchPatternToAddModList and -ToReleaseList of the cell, lte-CRS-ToMatchAround, "
-             "downlinkChannelBW-PerSCS-List",
-             "not sent",
-             "give rate-match patterns in the cell's common part or in `RrcPdschCfg_t.rateMatchPattern`; for the "
-             "channel bandwidth there is no way")
+    table.row("record-serving-cell-no-field")
         .sent(dedicated,
               R"({"tdd-UL-DL-ConfigurationDedicated":{},"initialDownlinkBWP":{},"firstActiveDownlinkBWP-Id":0,)"
               R"("bwp-InactivityTimer":"ms2","defaultDownlinkBWP-Id":0,"uplinkConfig":{},"supplementaryUplink":{},)"
@@ -482,12 +408,7 @@ void dedicatedRows(Table& table)
                   r.servingCellMo = 1;
               });
 
-    table.region("Dedicated TDD pattern (`RrcTddUlDlCfgDedi_t`)");
-    table
-        .row("`numSlotsAddMod`, `slotCfgDedicated`, `numSlotsRelease`, `RrcTddUlDlCfgDedi_t.slotIdx`, "
-             "`RRC_SLOTCFG_SYM_...`",
-             "only the empty element: no slot is sent, whatever the fields hold, counts above 320 included",
-             "there is no way; give the pattern in `tddUlDlCfgComm`, or steer slots with `slotFormatInd`")
+    table.row("record-tdd-dedicated-slots")
         .sent(dedicated, R"({"tdd-UL-DL-ConfigurationDedicated":{},"tag-Id":0})",
               [](auto& r)
               {

@@ -238,11 +238,7 @@ const auto pdschCell = within(dedicated, R"({"pdsch-ServingCellConfig":{"setup":
 
 void uplinkConfigRows(Table& table)
 {
-    table.region("Uplink, normal and supplementary (`RrcUlCfg_t`)");
-    table
-        .row("`RRC_UL_CFG_POWER_BOOST_PI_2BPSK`, `RRC_UL_CFG_UL_CHANNEL_BW_PERSCS_LIST`",
-             "nothing is sent: powerBoostPi2BPSK and uplinkChannelBW-PerSCS-List have no field",
-             "there is no way; leave the bits clear")
+    table.row("record-uplink-bits-not-sent")
         .sent(uplink, "{}",
               [](auto& r) { r.bitMask = RRC_UL_CFG_POWER_BOOST_PI_2BPSK | RRC_UL_CFG_UL_CHANNEL_BW_PERSCS_LIST; })
         .sent(dedicated, R"({"supplementaryUplink":{},"tag-Id":0})",
@@ -255,12 +251,7 @@ void uplinkConfigRows(Table& table)
 
 void pucchRows(Table& table)
 {
-    table.region("PUCCH (`RrcPucchCfg_t`)");
-    table
-        .row("`numResourceSetRel` above `numResourceSetAddMod`",
-             "of `RrcPucchCfg_t.resourceSetId` only the first `numResourceSetAddMod`; the other ids go out as 0, and "
-             "set 0 is released",
-             "add or modify at least as many sets in the same message; for that, sets that stay can be sent once more")
+    table.row("record-pucch-set-release-count")
         .sent(pucch, R"({"resourceSetToReleaseList":[0,0]})",
               [](auto& r)
               {
@@ -279,22 +270,16 @@ void pucchRows(Table& table)
                 r.resourceSetId[0] = 3;
                 r.resourceSetId[1] = 2;
             });
-    table
-        .row("`RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE`, `RRC_PUCCH_FORMAT_CFG_PI2BPSK_PRESENCE`",
-             "each its own member, although bits 4 and 5 stand in the reverse of the standard's order",
-             "use the names, not the numbers")
+    table.row("record-pucch-format-bit-order")
         .sent(pucchFormat, R"({"simultaneousHARQ-ACK-CSI":"true"})", [](auto& r) { r.bitMask = 1 << 4; })
         .sent(pucchFormat, R"({"pi2BPSK":"enabled"})", [](auto& r) { r.bitMask = 1 << 5; });
-    table
-        .row("`interSlotFreqHopping`, `additionalDMRS`, `pi2BPSK`, `sumultaneousHarqAckCsi`, `intraSlotFreqHopping`, "
-             "`twoPucchPcAdjStates`",
-             "0 is sent as the one value, enabled, true or twoStates; any other number is refused",
-             "store 0: the bit alone says it")
+    table.row("record-pucch-one-value")
         .sent(pucchFormat, R"({"interslotFrequencyHopping":"enabled","additionalDMRS":"true"})",
               [](auto& r) {
                   r.bitMask = RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE |
                               RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE;
               })
+        .asMeant()
         .oneValue(pucchFormat, RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE,
                   &RrcPucchFormatCfg_t::interSlotFreqHopping, "interslotFrequencyHopping")
         .oneValue(pucchFormat, RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE, &RrcPucchFormatCfg_t::additionalDMRS,
@@ -306,12 +291,10 @@ void pucchRows(Table& table)
                   &RrcPucchResource_t::intraSlotFreqHopping, "intraSlotFrequencyHopping")
         .sent(pucchPower, R"({"twoPUCCH-PC-AdjustmentStates":"twoStates"})",
               [](auto& r) { r.bitMask = RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE; })
+        .asMeant()
         .oneValue(pucchPower, RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE,
                   &RrcPucchPowerControl_t::twoPucchPcAdjStates, "twoPUCCH-PC-AdjustmentStates");
-    table
-        .row("`RrcSchedReqResourceCfg_t.periodAndOffset.period`",
-             "not read: `RrcSchedReqResourceCfg_t.presence` tells the periodicity; 0 there is refused",
-             "set one bit `RRC_SCHED_REQ_RESOURCE_CFG_PERIODICITY_...`")
+    table.row("record-scheduling-request-period")
         .sent(schedulingRequest, requestJson(R"({"sl20":19})"),
               [](auto& r)
               {
@@ -319,11 +302,10 @@ void pucchRows(Table& table)
                   r.periodAndOffset.period = 1;
                   r.periodAndOffset.offset = 19;
               })
+        .asMeant()
         .refused(schedulingRequest, ".periodicityAndOffset: tag 0 is not in 1..15",
                  [](auto& r) { r.periodAndOffset.period = 10; });
-    table
-        .row("`RrcSchedReqResourceCfg_t.periodAndOffset.offset`, sl2 to sl160", "the low 8 bits: 257 is sent as 1",
-             "keep the offset below the periodicity")
+    table.row("record-scheduling-request-offset")
         .sent(schedulingRequest, requestJson(R"({"sl2":1})"),
               [](auto& r)
               {
@@ -336,10 +318,7 @@ void pucchRows(Table& table)
                   r.presence = RRC_SCHED_REQ_RESOURCE_CFG_PERIODICITY_SL160;
                   r.periodAndOffset.offset = 300;
               });
-    table
-        .row("`RrcPucchResource_t.presence`, `RrcSchedReqResourceCfg_t.presence`, "
-             "`RrcPucchSpatialRelationInfo_t.presence`, `RrcPucchPathLossRefRs_t.presence` without exactly one bit",
-             "of several the highest, with the union read as its member; without one refused", "set one bit of each")
+    table.row("record-pucch-choices")
         .sent(pucchResource,
               R"({"pucch-ResourceId":0,"startingPRB":0,"format":{"format4":{"nrofSymbols":4,"occ-Length":"n4",)"
               R"("occ-Index":"n2","startingSymbolIndex":0}}})",
@@ -382,24 +361,20 @@ void pucchRows(Table& table)
                      r.bitMask = RRC_PUCCH_POWER_CONTROL_PATH_REFERENCE_RSS;
                      r.numPathLossRefRs = 1;
                  });
-    table
-        .row("`numP0Set`, `numPathLossRefRs`", "0 with the bit of the list: refused; not 0 without it: not sent",
-             "set bit and count together")
+    table.row("record-pucch-power-list-counts")
         .refused(pucchPower, ".p0-Set: 0 elements, not 1..8",
                  [](auto& r) { r.bitMask = RRC_PUCCH_POWER_CONTROL_P0_SET_PRESENCE; })
         .refused(pucchPower, ".pathlossReferenceRSs: 0 elements, not 1..4",
                  [](auto& r) { r.bitMask = RRC_PUCCH_POWER_CONTROL_PATH_REFERENCE_RSS; })
         .sent(pucchPower, "{}", [](auto& r) { r.numP0Set = r.numPathLossRefRs = 1; });
-    table.row("`numResourceList` 0", "refused", "list the resources, or leave the set out")
+    table.row("record-pucch-resource-list-count")
         .refused(pucch, ".resourceSetToAddModList[0].resourceList: 0 elements, not 1..32",
                  [](auto& r)
                  {
                      r.numResourceSetAddMod = 1;
                      rrcInit(&r.resourceSet[0]);
                  });
-    table
-        .row("`deltaFPucchF0` to `deltaFPucchF4`, `poPucchValue`", "the octet as a signed number: 240 is sent as -16",
-             "add 256 to a negative number")
+    table.row("record-pucch-power-signed")
         .sent(pucchPower,
               R"({"deltaF-PUCCH-f0":-16,"deltaF-PUCCH-f1":-1,"deltaF-PUCCH-f2":-1,"deltaF-PUCCH-f3":-1,)"
               R"("deltaF-PUCCH-f4":15,"p0-Set":[{"p0-PUCCH-Id":1,"p0-PUCCH-Value":-16}]})",
@@ -416,11 +391,7 @@ void pucchRows(Table& table)
 
 void puschRows(Table& table)
 {
-    table.region("PUSCH and configured grant (`RrcPuschCfg_t`, `RrcCfgGrantCfg_t`)");
-    table
-        .row("`numFreqHoppingOffset`",
-             "when not 0 the offsets are sent, `RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE` set or not",
-             "store 0 when there is no hopping")
+    table.row("record-pusch-hopping-offsets")
         .sent(pusch, R"({"frequencyHoppingOffsetLists":[1,274],)" + allocation + "}",
               [](auto& r)
               {
@@ -429,10 +400,9 @@ void puschRows(Table& table)
                   r.freqHoppingOffset[1] = 274;
               })
         .sent(pusch, R"({"frequencyHopping":"intraSlot",)" + allocation + "}",
-              [](auto& r) { r.bitMask = RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE; });
-    table
-        .row("`RRC_UCI_PUSCH_BETA_OFFSETS_DYNAMIC_PRESENCE`", "always four BetaOffsets, also of entries left empty",
-             "fill all four entries of `RrcUciOnPusch_t.betaOffset.dynamic`")
+              [](auto& r) { r.bitMask = RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE; })
+        .asMeant();
+    table.row("record-uci-dynamic-beta-offsets")
         .sent(puschUci, R"({"betaOffsets":{"dynamic":[{"betaOffsetACK-Index1":31},{},{},{}]},"scaling":"f0p5"})",
               [](auto& r)
               {
@@ -440,13 +410,14 @@ void puschRows(Table& table)
                   r.betaOffset.dynamic[0].bitMask = RRC_BETA_OFFSETS_ACK_IDX1_PRESENCE;
                   r.betaOffset.dynamic[0].betaOffsetAckIdx1 = 31;
               });
-    table.row("`RrcDynamicBetaOffsets_t.num`", "as many as it says; 0 and above 4 refused", "store 1 to 4")
+    table.row("record-configured-grant-beta-offset-count")
         .sent(grantUci, R"({"dynamic":[{},{}]})",
               [](auto& r)
               {
                   r.presence = RRC_CG_UCI_ON_PUSCH_DYNAMIC_PRESENCE;
                   r.betaOffset.dynamic.num = 2;
               })
+        .asMeant()
         .refused(grantUci, ".dynamic: 0 elements, not 1..4",
                  [](auto& r) { r.presence = RRC_CG_UCI_ON_PUSCH_DYNAMIC_PRESENCE; })
         .refused(grantUci, ".dynamic: 5 elements, not 1..4",
@@ -455,10 +426,7 @@ void puschRows(Table& table)
                      r.presence = RRC_CG_UCI_ON_PUSCH_DYNAMIC_PRESENCE;
                      r.betaOffset.dynamic.num = 5;
                  });
-    table
-        .row("`RrcUciOnPusch_t.presence`, `RrcCgUciOnPusch_t.presence`, `RrcPuschPathLossRefRs_t.presence` without "
-             "exactly one bit",
-             "both: semiStatic or csi-RS-Index, with the union read as such; none: refused", "set one bit of each")
+    table.row("record-pusch-choices")
         .sent(puschUci, R"({"betaOffsets":{"semiStatic":{"betaOffsetACK-Index1":31}},"scaling":"f0p5"})",
               [](auto& r)
               {
@@ -488,7 +456,7 @@ void puschRows(Table& table)
               })
         .refused(puschPower, ".pathlossReferenceRSToAddModList[0].referenceSignal: tag 0 is not in 1..2",
                  [](auto& r) { r.numPathLossRefRsAddMod = 1; });
-    table.row("`timeDensityTransformPrecoding`", "d2 with its bit, whatever the field holds", "leave it 0")
+    table.row("record-ptrs-time-density")
         .sent(puschDmrs,
               R"({"phaseTrackingRS":{"setup":{"transformPrecoderEnabled":{"sampleDensity":[276,276,276,276,276],)"
               R"("timeDensityTransformPrecoding":"d2"}}}})",
@@ -504,19 +472,15 @@ void puschRows(Table& table)
                   enable.bitMask = RRC_PTRS_UL_CFG_ENABLE_TIME_DENSITY_PRESENCE;
                   enable.timeDensityTransformPrecoding = 7;
               });
-    table
-        .row("`tpPi2Bpsk`, `RrcPuschCfg_t.rbgSize`, `RrcCfgGrantCfg_t.rbgSize`, "
-             "`RrcPuschPowerControl_t.tpcAccumulation`, `twoPuschPcAdjStates`, `deltaMcs`, `RrcDmrsUlCfg_t.dmrsType`, "
-             "`RrcDmrsUlCfg_t.maxLength`, `seqGrpHopping`, `seqHopping`",
-             "0 is sent as the one value, for `seqGrpHopping` and `tpcAccumulation` disabled; any other number is "
-             "refused",
-             "store 0: the bit alone says it")
+    table.row("record-pusch-one-value")
         .sent(pusch, "{" + allocation + R"(,"rbg-Size":"config2","tp-pi2BPSK":"enabled"})",
               [](auto& r) { r.bitMask = RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE | RRC_PUSCH_CFG_RBG_SIZE_PRESENCE; })
+        .asMeant()
         .oneValue(pusch, RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE, &RrcPuschCfg_t::tpPi2Bpsk, "tp-pi2BPSK")
         .oneValue(pusch, RRC_PUSCH_CFG_RBG_SIZE_PRESENCE, &RrcPuschCfg_t::rbgSize, "rbg-Size")
         .sent(grant, grantJson("", R"("rbg-Size":"config2")"),
               [](auto& r) { r.bitMask = RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE; })
+        .asMeant()
         .oneValue(grant, RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE, &RrcCfgGrantCfg_t::rbgSize, "rbg-Size")
         .sent(puschPower,
               R"({"tpc-Accumulation":"disabled","twoPUSCH-PC-AdjustmentStates":"twoStates","deltaMCS":"enabled"})",
@@ -526,6 +490,7 @@ void puschRows(Table& table)
                               RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE |
                               RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE;
               })
+        .asMeant()
         .oneValue(puschPower, RRC_PUSCH_POWER_CONTROL_TCP_ACCUMULATION_PRESENCE,
                   &RrcPuschPowerControl_t::tpcAccumulation, "tpc-Accumulation")
         .oneValue(puschPower, RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE,
@@ -542,6 +507,7 @@ void puschRows(Table& table)
                 r.transformPrecodEnable.bitMask =
                     RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE | RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE;
             })
+        .asMeant()
         .oneValue(puschDmrs, RRC_DMRS_UL_CFG_TYPE_PRESENCE, &RrcDmrsUlCfg_t::dmrsType, "dmrs-Type")
         .oneValue(puschDmrs, RRC_DMRS_UL_CFG_MAX_LENGTH_PRESENCE, &RrcDmrsUlCfg_t::maxLength, "maxLength")
         .refused(puschDmrs, ".transformPrecodingEnabled.sequenceGroupHopping: 1 is not in 0..0",
@@ -558,9 +524,7 @@ void puschRows(Table& table)
                      r.transformPrecodEnable.bitMask = RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE;
                      r.transformPrecodEnable.seqHopping = 1;
                  });
-    table
-        .row("`RrcP0PuschAlphaSet_t.p0`", "the octet as a signed number: 240 is sent as -16 dB",
-             "add 256 to a negative number")
+    table.row("record-pusch-p0-signed")
         .sent(puschPower, R"({"p0-AlphaSets":[{"p0-PUSCH-AlphaSetId":0,"p0":-16}]})",
               [](auto& r)
               {
@@ -568,19 +532,18 @@ void puschRows(Table& table)
                   r.p0AlphaSets[0].bitMask = RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE;
                   r.p0AlphaSets[0].p0 = 240;
               });
-    table
-        .row("`numPuschTimeDomainResourceAllocList`", "0 with the bit of the list: refused; not 0 without it: not sent",
-             "set bit and count together")
+    table.row("record-pusch-allocation-count")
         .refused(pusch, ".pusch-TimeDomainAllocationList.setup: 0 elements, not 1..16",
                  [](auto& r) { r.bitMask = RRC_PUSCH_CFG_PUSCH_TIMING_DOMAIN_ALLOCATION_LIST_PRESENCE; })
         .refused(puschCommon, ".pusch-TimeDomainAllocationList: 0 elements, not 1..16",
                  [](auto& r) { r.bitMask = RRC_PUSCH_CFG_COMMON_PUSCH_TIMING_DOMAIN_ALLOCATION_LIST_PRESENCE; })
         .sent(pusch, "{" + allocation + "}",
               [](auto& r) { r.puschTimeDomainAllocList.numPuschTimeDomainResourceAllocList = 1; })
-        .sent(puschCommon, "{}", [](auto& r) { r.puschTimieDomainAllocList.numPuschTimeDomainResourceAllocList = 1; });
-    table.row("`cgDmrsCfg`", "always sent, empty where its mask is 0", "fill it like the DMRS of the PUSCH")
-        .sent(grant, grantJson());
-    table.row("`freqDomainAllocation`", "the low 18 bits; higher ones are dropped", "store the first bit in bit 17")
+        .asMeant()
+        .sent(puschCommon, "{}", [](auto& r) { r.puschTimieDomainAllocList.numPuschTimeDomainResourceAllocList = 1; })
+        .asMeant();
+    table.row("record-configured-grant-dmrs").sent(grant, grantJson());
+    table.row("record-configured-grant-frequency-upper-bits")
         .sent(grant,
               grantJson(
                   "", "",
@@ -597,12 +560,7 @@ void puschRows(Table& table)
 
 void srsRows(Table& table)
 {
-    table.region("SRS (`RrcSrsCfg_t`)");
-    table
-        .row("`RrcSrsResourceSet_t.presence`",
-             "bits 0 to 2 choose the resource type, of several the highest, without one refused; bits 3 to 6 guard "
-             "members",
-             "set one of the first three and any of the others")
+    table.row("record-srs-set-type-choice")
         .sent(srsSet,
               R"({"srs-ResourceSetId":0,"resourceType":{"periodic":{}},"usage":"beamManagement","alpha":"alpha1"})",
               [](auto& r)
@@ -612,15 +570,9 @@ void srsRows(Table& table)
                   r.Alpha = 7;
               })
         .refused(srsSet, ".resourceType: tag 0 is not in 1..3", [](auto& r) { r.presence = 0x78; });
-    table
-        .row("`RRC_SRS_RESOURCE_TYPE_APERIODIC_PERSENCE`",
-             "aperiodic without content; `RrcSrsResource_t.resourceType` is not read",
-             "give trigger and slot offset in the set: `RrcSrsResourceSet_t.resourceType.aperiodic`")
+    table.row("record-srs-aperiodic-type")
         .sent(srsResource, srsResourceJson(), [](auto& r) { r.resourceType.periodic.period = 99; });
-    table
-        .row("`RrcSrsResource_t.presence`, `presence1`, `RrcSRSPathLossRefRs_t.presence`, "
-             "`RrcSrsSpatialRelationInfo_t.presence` without exactly one bit",
-             "of several the highest, with the union read as its member; without one refused", "set one bit of each")
+    table.row("record-srs-choices")
         .sent(srsResource, srsResourceJson(R"({"aperiodic":{}})", R"({"n4":{"combOffset-n4":1,"cyclicShift-n4":7}})"),
               [](auto& r)
               {
@@ -660,10 +612,7 @@ void srsRows(Table& table)
               })
         .refused(srsResource, ".spatialRelationInfo.referenceSignal: tag 0 is not in 1..3",
                  [](auto& r) { r.bitMask = RRC_SRS_RESOURCE_PTRS_SPATIAL_RELATION_INFO_PRESENCE; });
-    table
-        .row("`RrcSrsResource_t.resourceType.semiPersistent.period`, `RrcSrsResource_t.resourceType.periodic.period` 0 "
-             "or above 17",
-             "the line \"No SRS_PeriodicityAndOffset_PR\", then refused", "store 1 (sl1) to 17 (sl2560)")
+    table.row("record-srs-period")
         .refused(srsResource, ".resourceType.semi-persistent.periodicityAndOffset-sp: tag 0 is not in 1..17",
                  [](auto& r) { r.presence1 = RRC_SRS_RESOURCE_TYPE_SEMI_PERSISTENT_PERSENCE; })
         .printing("No SRS_PeriodicityAndOffset_PR\n")
@@ -674,10 +623,7 @@ void srsRows(Table& table)
                      r.resourceType.periodic.period = 18;
                  })
         .printing("No SRS_PeriodicityAndOffset_PR\n");
-    table
-        .row("`RrcSrsResource_t.resourceType.semiPersistent.offset`, `RrcSrsResource_t.resourceType.periodic.offset`, "
-             "periods 2 to 13",
-             "the low 8 bits: 257 is sent as 1", "keep the offset below the period")
+    table.row("record-srs-offset")
         .sent(srsResource, srsResourceJson(R"({"semi-persistent":{"periodicityAndOffset-sp":{"sl2":1}}})"),
               [](auto& r)
               {
@@ -692,7 +638,7 @@ void srsRows(Table& table)
                   r.resourceType.periodic.period = 13;
                   r.resourceType.periodic.offset = 300;
               });
-    table.row("`RrcSrsResourceSet_t.p0`", "the low 16 of its 32 bits: 65486 is sent as -50 dBm", "store -202 to 24")
+    table.row("record-srs-p0-upper-bits")
         .sent(srsSet,
               R"({"srs-ResourceSetId":0,"resourceType":{"semi-persistent":{}},"usage":"beamManagement","p0":-50})",
               [](auto& r)
@@ -700,15 +646,12 @@ void srsRows(Table& table)
                   r.presence |= RRC_SRS_RESOURCE_SET_P0_PERSENCE;
                   r.p0 = 65486;
               });
-    table
-        .row("`RrcSrsCfg_t.tpcAccumulation`", "0 is sent as disabled, any other number is refused",
-             "store 0 to disable; to leave it enabled, clear the bit")
+    table.row("record-srs-tpc-accumulation-one-value")
         .sent(srs, R"({"tpc-Accumulation":"disabled"})",
               [](auto& r) { r.bitMask = RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE; })
+        .asMeant()
         .oneValue(srs, RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE, &RrcSrsCfg_t::tpcAccumulation, "tpc-Accumulation");
-    table
-        .row("no field: aperiodicSRS-ResourceTriggerList-v1530", "not sent",
-             "a set has one trigger; give further ones in sets with the same resources")
+    table.row("record-srs-no-field")
         .sent(srsSet,
               R"({"srs-ResourceSetId":0,"resourceType":{"aperiodic":{"aperiodicSRS-ResourceTrigger":3,"csi-RS":191,)"
               R"("slotOffset":32}},"usage":"beamManagement"})",
@@ -721,19 +664,14 @@ void srsRows(Table& table)
 
 void bandwidthPartRows(Table& table)
 {
-    table.region("Beam failure recovery and further uplink bandwidth parts (`RrcBeamFailRecoveryCfg_t`, `RrcBwpUl_t`)");
-    table
-        .row("`RRC_BEAM_FAIL_RECOVERY_MSG1_SUB_CARRIER_SPACING_V1530_PRESENCE`, `msg1SubCarrierSpacingV1530`",
-             "not sent, whatever the field holds", "there is no way; leave the bit clear")
+    table.row("record-bfr-msg1-subcarrier-spacing")
         .sent(recovery, "{}",
               [](auto& r)
               {
                   r.bitMask = RRC_BEAM_FAIL_RECOVERY_MSG1_SUB_CARRIER_SPACING_V1530_PRESENCE;
                   r.msg1SubCarrierSpacingV1530 = 255;
               });
-    table
-        .row("no field: candidateBeamRSList", "not sent",
-             "there is no way to give the UE preambles of its own for recovery; it uses contention-based random access")
+    table.row("record-bfr-no-field")
         .sent(recovery,
               R"({"rootSequenceIndex-BFR":0,"rach-ConfigBFR":)" + std::string(rachGeneric) +
                   R"(,"rsrp-ThresholdSSB":0,"ssb-perRACH-Occasion":"oneEighth","ra-ssb-OccasionMaskIndex":0,)"
@@ -744,28 +682,19 @@ void bandwidthPartRows(Table& table)
                   r.bitMask = 0xFFFF;
                   r.rachCfgBFR.preambleRecTargetPower = -100;
               });
-    table
-        .row("`RRC_RACH_CFG_COMMON_ONEEIGHTH_PRESENCE`",
-             "oneHalf; it wins over `RRC_RACH_CFG_COMMON_ONEFOURTH_PRESENCE`, too",
-             "set it for oneHalf; oneEighth can be sent only in the initial bandwidth part's common part, which the "
-             "distributed unit composes: `NrRachCfgCommon_t.ssbPerRachOccasion`")
+    table.row("record-rach-one-eighth")
         .sent(perOccasion, R"({"oneHalf":"n20"})",
               [](auto& r) { r.presence1 = RRC_RACH_CFG_COMMON_ONEEIGHTH_PRESENCE; })
         .sent(perOccasion, R"({"oneHalf":"n20"})",
               [](auto& r)
               { r.presence1 = RRC_RACH_CFG_COMMON_ONEEIGHTH_PRESENCE | RRC_RACH_CFG_COMMON_ONEFOURTH_PRESENCE; });
-    table
-        .row("`RRC_RACH_CFG_COMMON_ONEHALF_PRESENCE`", "not read; alone: refused",
-             "set `RRC_RACH_CFG_COMMON_ONEEIGHTH_PRESENCE` in its place")
+    table.row("record-rach-one-half")
         .refused(perOccasion, ": tag 0 is not in 1..8",
                  [](auto& r) { r.presence1 = RRC_RACH_CFG_COMMON_ONEHALF_PRESENCE; })
         .sent(perOccasion, R"({"oneFourth":"n20"})",
               [](auto& r)
               { r.presence1 = RRC_RACH_CFG_COMMON_ONEHALF_PRESENCE | RRC_RACH_CFG_COMMON_ONEFOURTH_PRESENCE; });
-    table
-        .row("`RrcRachCfgComm_t.presence`, `presence1` without exactly one bit",
-             "of several the highest: of both root sequences l139, the low octet of `l839`; without one refused",
-             "set one bit of each")
+    table.row("record-rach-common-choices")
         .sent(perOccasion, R"({"sixteen":4})",
               [](auto& r) { r.presence1 = RRC_RACH_CFG_COMMON_ONE_PRESENCE | RRC_RACH_CFG_COMMON_SIXTEEM_PRESENCE; })
         .refused(perOccasion, ": tag 0 is not in 1..8")
@@ -776,84 +705,69 @@ void bandwidthPartRows(Table& table)
                   r.prachRootSeqIdx.l839 = 256 + 5;
               })
         .refused(rachCommon, ".prach-RootSequenceIndex: tag 0 is not in 1..2", [](auto& r) { r.presence = 0; });
-    table
-        .row("`RrcPuschCfgComm_t.p0NominalWithGrant`",
-             "the octet as an unsigned number, unlike others: 0 to 24 dBm; above 24 refused",
-             "a negative power can be sent only in the initial bandwidth part's common part, which the distributed "
-             "unit composes: `NrPuschCfgCommon_t.p0NominalWithGrant`")
+    table.row("record-pusch-common-p0-nominal")
         .sent(puschCommon, R"({"p0-NominalWithGrant":24})",
               [](auto& r)
               {
                   r.bitMask = RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE;
                   r.p0NominalWithGrant = 24;
               })
+        .asMeant()
         .refused(puschCommon, ".p0-NominalWithGrant: 166 is not in -202..24",
                  [](auto& r)
                  {
                      r.bitMask = RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE;
                      r.p0NominalWithGrant = 0xA6;
                  });
-    table
-        .row("`RrcPucchCfgComm_t.p0Nominal`", "-128 to 24 dBm: an octet cannot hold less",
-             "less can be sent only in the initial bandwidth part's common part, which the distributed unit composes: "
-             "`NrPucchCfgCommon_t.p0Nominal`")
+    table.row("record-pucch-common-p0-nominal")
         .sent(pucchCommon, R"({"pucch-GroupHopping":"neither","p0-nominal":-128})",
               [](auto& r)
               {
                   r.bitMask = RRC_PUCCH_CFG_COMMON_P0_NOMINAL_PRESENCE;
                   r.p0Nominal = -128;
               });
-    table.row("`msg3DeltaPreable`", "the octet as a signed number: 255 is sent as -1", "add 256 to a negative number")
+    table.row("record-pusch-common-msg3-delta-preamble")
         .sent(puschCommon, R"({"msg3-DeltaPreamble":-1})",
               [](auto& r)
               {
                   r.bitMask = RRC_PUSCH_CFG_COMMON_MSG3_DELTA_PREABLE_PRESENCE;
                   r.msg3DeltaPreable = 255;
               });
-    table
-        .row("`groupHoppingEnabledTransformPrecoding`, `msg3TransformPreCoder`",
-             "0 is sent as enabled, any other number is refused", "store 0: the bit alone says it")
+    table.row("record-uplink-common-one-value")
         .sent(puschCommon, R"({"groupHoppingEnabledTransformPrecoding":"enabled"})",
               [](auto& r) { r.bitMask = RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE; })
+        .asMeant()
         .oneValue(puschCommon, RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE,
                   &RrcPuschCfgComm_t::groupHoppingEnabledTransformPrecoding, "groupHoppingEnabledTransformPrecoding")
         .sent(rachCommon, rachCommonJson("", R"({"l839":0})", R"("msg3-transformPrecoder":"enabled")"),
               [](auto& r) { r.bitMask = RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE; })
+        .asMeant()
         .oneValue(rachCommon, RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE,
                   &RrcRachCfgComm_t::msg3TransformPreCoder, "msg3-transformPrecoder");
 }
 
 void cellLevelRows(Table& table)
 {
-    table.region("Serving cell level (`RrcPuschServingCellCfg_t`, `RrcSrsCarrierSwitching_t`, "
-                 "`RrcPdcchServingCellCfg_t`, `RrcPdschServingCellCfg_t`)");
-    table
-        .row("`RRC_PUSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS`, `RRC_PUSCH_SERVING_CELL_CFG_PROCESS_TYPE_2ENABLE`",
-             "nothing is sent: unlike the PDSCH's, maxMIMO-Layers and processingType2Enabled have no field",
-             "there is no way; limit the layers with `RrcPuschCfg_t.maxRank`")
+    table.row("record-pusch-serving-cell-bits-not-sent")
         .sent(puschCell, "{}",
               [](auto& r) {
                   r.bitMask =
                       RRC_PUSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS | RRC_PUSCH_SERVING_CELL_CFG_PROCESS_TYPE_2ENABLE;
               });
-    table
-        .row("`RrcPuschServingCellCfg_t.rateMatching`", "0 is sent as limitedBufferRM, any other number is refused",
-             "store 0: the bit alone says it")
+    table.row("record-pusch-rate-matching-one-value")
         .sent(puschCell, R"({"rateMatching":"limitedBufferRM"})",
               [](auto& r) { r.bitMask = RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE; })
+        .asMeant()
         .oneValue(puschCell, RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE, &RrcPuschServingCellCfg_t::rateMatching,
                   "rateMatching");
-    table
-        .row("`SwitchFromCarrier`", "always sent, the BOOL as an enumeration: 0 sUL, 1 nUL, others refused",
-             "store it whenever `RRC_UL_CFG_CARRIER_SWITCHING_PRESENCE` is set")
+    table.row("record-srs-switch-from-carrier")
         .sent(carrierSwitching, R"({"srs-SwitchFromCarrier":"sUL"})")
+        .asMeant()
         .sent(carrierSwitching, R"({"srs-SwitchFromCarrier":"nUL"})", [](auto& r) { r.SwitchFromCarrier = 1; })
+        .asMeant()
         .refused(carrierSwitching, ".srs-SwitchFromCarrier: 256 is not in 0..1",
                  [](auto& r) { r.SwitchFromCarrier = 256; });
-    table
-        .row("`RrcSrsCarrierSwitching_t.presence` without exactly one bit",
-             "both: typeB, with `srsTpcPdcchGroup` read as such; none: refused",
-             "set one bit; to leave the group out, clear `RRC_SRS_CARRIER_SWITCH_SRS_TPC_PDCCH_GROUP_PRESENCE`")
+    table.row("record-srs-tpc-group-choice")
         .sent(carrierSwitching,
               R"({"srs-SwitchFromCarrier":"sUL","srs-TPC-PDCCH-Group":{"typeB":{"srs-CC-SetIndexlist":[{}]}}})",
               [](auto& r)
@@ -865,10 +779,7 @@ void cellLevelRows(Table& table)
               })
         .refused(carrierSwitching, ".srs-TPC-PDCCH-Group: tag 0 is not in 1..2",
                  [](auto& r) { r.bitMask = RRC_SRS_CARRIER_SWITCH_SRS_TPC_PDCCH_GROUP_PRESENCE; });
-    table
-        .row("`srsTpcPdcchGroup.typeA.num`, `RrcSrsTpcPdcchCfg_t.num`, `RrcmonitoringCells.num` 0",
-             "typeA and monitoringCells are refused; an SRS-TPC-PDCCH-Config, in typeA or typeB, is sent empty",
-             "list the entries, or clear the bit")
+    table.row("record-srs-switching-list-counts")
         .refused(carrierSwitching, ".srs-TPC-PDCCH-Group.typeA: 0 elements, not 1..32",
                  [](auto& r)
                  {
@@ -890,18 +801,16 @@ void cellLevelRows(Table& table)
                   r.presence = RRC_SRS_CARRIER_SWITCH_TPC_PDCCH_GROUP_TYPEA_PRESENCE;
                   r.srsTpcPdcchGroup.typeA.num = 1;
               });
-    table
-        .row("`numSlotFormatComb`, `numSlotFormat` 0",
-             "no combinations: the list is left out; a combination without formats: refused",
-             "give each combination its formats")
+    table.row("record-slot-format-counts")
         .sent(slotFormats, R"({"servingCellId":0,"subcarrierSpacing":"kHz15"})")
+        .asMeant()
         .refused(slotFormats, ".slotFormatCombinations[0].slotFormats: 0 elements, not 1..256",
                  [](auto& r)
                  {
                      r.numSlotFormatComb = 1;
                      rrcInit(&r.SlotFormatComb[0]);
                  });
-    table.row("`codeBlockGroupFlushInd`, `Type2Enabled`", "the low 8 bits: 256 is sent as false", "store 0 or 1")
+    table.row("record-pdsch-serving-cell-booleans")
         .sent(pdschCell,
               R"({"codeBlockGroupTransmission":{"setup":{"maxCodeBlockGroupsPerTransportBlock":"n2",)"
               R"("codeBlockGroupFlushIndicator":false}},"processingType2Enabled":false})",
@@ -921,7 +830,8 @@ void cellLevelRows(Table& table)
                               RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED;
                   r.codeBlockGroupTransmission.codeBlockGroupFlushInd = 1;
                   r.Type2Enabled = 1;
-              });
+              })
+        .asMeant();
 }
 
 } // namespace

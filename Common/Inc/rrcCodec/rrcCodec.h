@@ -69,10 +69,11 @@ typedef struct rrcCellGroupCfg_s
     RrcMacCellGrpCfg_t macCellGrpCfg;              /**< mac-CellGroupConfig */
     RrcPhyCellGrpCfg_t phyCellGrpCfg;              /**< physicalCellGroupConfig */
     RrcSpCellCfg_t spCellCfg;                      /**< spCellConfig */
-    UINT8 sCellAddModNum;                          /**< entries used of sCellAddMod, 0..3; above 3 it becomes 3 */
-    RrcScellCfg_t sCellAddMod[MAX_NROF_SCellS];    /**< sCellToAddModList */
-    UINT8 sCellReleaseNum;                         /**< entries used of sCellIdx, 0..3 */
-    UINT8 sCellIdx[MAX_NROF_SCellS];               /**< sCellToReleaseList, each 1..31 */
+    /** entries used of sCellAddMod, 0..3, further ones are not sent; above 3 it becomes 3 */
+    UINT8 sCellAddModNum;
+    RrcScellCfg_t sCellAddMod[MAX_NROF_SCellS]; /**< sCellToAddModList */
+    UINT8 sCellReleaseNum;                      /**< entries used of sCellIdx, 0..3 */
+    UINT8 sCellIdx[MAX_NROF_SCellS];            /**< sCellToReleaseList, each 1..31 */
     /**
      * reportUplinkTxDirectCurrent-v1530, not sent, CellGroupConfig_reportUplinkTxDirectCurrent_v1530_...: 0 true; no
      * composer announces its extension group

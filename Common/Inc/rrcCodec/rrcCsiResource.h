@@ -169,7 +169,7 @@ struct nzpCsiRsResourceSetList_s
     UINT8 numNzpCsiRsResourceSet; /**< entries used of nzpCsiRsResourceSetId, 0..16 */
     UINT8 nzpCsiRsResourceSetId[RRC_MAX_NROF_NZP_CSI_RS_RESOURCE_SETS_PER_CFG]; /**< nzp-CSI-RS-ResourceSetList, each
                                                                                    0..63 */
-    UINT8 numCsiSsbResourceSet; /**< entries used of csiSsbResourceSetId, 0..1 */
+    UINT8 numCsiSsbResourceSet; /**< entries used of csiSsbResourceSetId, 0..1, further ones are not sent */
     UINT8 csiSsbResourceSetId[RRC_MAX_NROF_CSI_SSB_RESOURCE_SETS_PER_CFG]; /**< csi-SSB-ResourceSetList, each 0..63 */
 };
 

@@ -1,0 +1,122 @@
+// The fields of a record as its check takes them: what it needs of each in 32 octets, where the description has 128.
+// Made from that when it is compiled.
+#ifndef CHECKOPS_H
+#define CHECKOPS_H
+
+#include "recordOps.h"
+
+// Of the field with the same index.
+struct RrcRecordCheckOp
+{
+    enum : UINT8
+    {
+        Skip,   // nothing of its own can be wrong with it
+        Number, // a number, or what is one as long as it is in range
+        Mask,   // bits
+        Count,  // entries of an array
+        Record, // a structure
+        List,   // structures with their count
+        Field   // any other
+    };
+
+    INT64 lower;     // Number, Count
+    UINT64 span;     // Number, Count: how many follow the lower one; Mask: bits of which something may have to be said
+    UINT32 offset;   // of the field
+    UINT32 guard;    // of the octet that holds the guard
+    UINT8 guardMask; // the bit in that octet; 0: none
+    UINT8 code;
+    UINT8 size; // of the field
+    UINT8 isSigned;
+};
+static_assert(sizeof(RrcRecordCheckOp) <= 32);
+
+namespace records
+{
+
+// All that so many bits can hold.
+constexpr UINT64 lowBits(unsigned count)
+{
+    return count >= 64 ? ~UINT64{0} : (UINT64{1} << count) - 1;
+}
+
+constexpr UINT64 spanOf(const RrcRecordField& field)
+{
+    return field.kind == RRC_FIELD_BITS      ? lowBits(field.bits)
+           : field.kind == RRC_FIELD_BOOLEAN ? 1
+                                             : static_cast<UINT64>(field.upper) - static_cast<UINT64>(field.lower);
+}
+
+// The bits of a mask that are not looked at without more.
+constexpr UINT64 doubtfulBits(UINT16 mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
+{
+    UINT64 doubtful = ~static_cast<UINT64>(field.upper);
+    for (UINT16 i = 0; i < bitCount; ++i)
+    {
+        if (bits[i].mask == mask && (bits[i].role == RRC_BIT_NOT_SENT || bits[i].with >= 0))
+        {
+            doubtful |= UINT64{1} << bits[i].number;
+        }
+    }
+    return doubtful;
+}
+
+// Whether the guard's bit alone tells that a field is read.
+constexpr bool isPlainlyRead(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
+{
+    return field.choice < 0 &&
+           (field.guard < 0 || (bits[field.guard].with < 0 && fields[bits[field.guard].mask].guard < 0));
+}
+
+constexpr UINT8 checkCodeOf(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
+{
+    if (field.kind == RRC_FIELD_UNREAD || field.kind == RRC_FIELD_ALTERNATIVE ||
+        (field.flags & RRC_FIELD_ELSE_ABSENT) != 0)
+    {
+        return RrcRecordCheckOp::Skip;
+    }
+    if (!isPlainlyRead(field, fields, bits) || (field.flags & RRC_FIELD_NOT_SENT) != 0 || field.bitWidth != 0)
+    {
+        return RrcRecordCheckOp::Field;
+    }
+    if (field.kind <= RRC_FIELD_BITS && field.bound == 0)
+    {
+        return RrcRecordCheckOp::Number;
+    }
+    switch (field.kind)
+    {
+    case RRC_FIELD_MASK:
+        return RrcRecordCheckOp::Mask;
+    case RRC_FIELD_COUNT:
+        return RrcRecordCheckOp::Count;
+    case RRC_FIELD_RECORD:
+        return field.bound == 0 ? RrcRecordCheckOp::Record : RrcRecordCheckOp::List;
+    default:
+        return RrcRecordCheckOp::Field;
+    }
+}
+
+template <std::size_t Fields>
+constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (&fields)[Fields],
+                                                          const RrcRecordBit* bits, UINT16 bitCount)
+{
+    std::array<RrcRecordCheckOp, Fields> ops = {};
+    for (UINT16 i = 0; i < Fields; ++i)
+    {
+        const RrcRecordField& field = fields[i];
+        const Guard guard = guardOf(field, fields, bits);
+        RrcRecordCheckOp& op = ops[i];
+        op.code = checkCodeOf(field, fields, bits);
+        op.lower = field.lower;
+        op.span = op.code == RrcRecordCheckOp::Mask ? doubtfulBits(i, field, bits, bitCount) : spanOf(field);
+        op.offset = field.offset;
+        op.guard = guard.octet;
+        op.guardMask = guard.mask;
+        op.size = static_cast<UINT8>(field.size);
+        op.isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0 ? 1 : 0;
+    }
+    return ops;
+}
+
+} // namespace records
+
+#endif
