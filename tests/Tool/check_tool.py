@@ -765,6 +765,16 @@ def once(members):
     return dict(members)
 
 
+def paths_of(members, path=""):
+    """The paths of all that is in a JSON object, without indices."""
+    paths = []
+    for name, value in members.items():
+        inner = value[0] if isinstance(value, list) and value else value
+        paths.append(path + name)
+        paths += paths_of(inner, f"{path}{name}.") if isinstance(inner, dict) else []
+    return paths
+
+
 def test_example(folder):
     expect(["example"], DONE, re.compile("^one-bearer +a bearer.*\n(.*\n)+releases "))
     call = run("example", "typical-call")[1]
@@ -802,6 +812,26 @@ def test_example(folder):
         for name in field.split("."):
             true(list(within) == [name], f"{field} alone is shown")
             within = within[name]
+    # What is deeper stands in all that a composition cannot do without.
+    expect(["example", "--all", "rlcBearerCfg.rlcCfg.choice.amCfg.ulAmCfg.maxRetxThreash"], DONE, """{
+  "rlcBearerCfg": [
+    {
+      "lchId": 1, // 1..32
+      "rlcCfg": {
+        "choice": {
+          "amCfg": {
+            "ulAmCfg": {
+              "maxRetxThreash": "t1" // t1, t2, t3, t4, t6, t8, t16, t32
+            }
+          }
+        }
+      }
+    }
+  ] // at most 32 entries
+}
+""")
+    for field in paths_of(fields)[::20]:
+        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=run("example", "--all", field)[1])
     expect(["example", "--all", "macCellGrpCfg.tagCf"], USAGE,
            err="cellgroupcfg: RrcMacCellGrpCfg_t has no field 'tagCf'; did you mean tagCfg?\n")
     expect(["explain", "macCellGrpCfg.tagCfg.tag[2].taTimer"], DONE, """macCellGrpCfg.tagCfg.tag[].taTimer

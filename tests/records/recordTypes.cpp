@@ -1,5 +1,5 @@
-// Prints the description of the records, a line for each field: TYPE FIELD OFFSET OCTETS ENTRIES BITS. BITS are those of
-// a bit field that leaves some of its octets out.
+// Prints the description of the records, a line for each field: TYPE FIELD OFFSET OCTETS ENTRIES BITS. BITS are those
+// of a bit field that leaves some of its octets out.
 #include <cstdio>
 
 #include "rrcCodec/rrcCodec.h"
