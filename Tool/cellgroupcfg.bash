@@ -23,7 +23,7 @@ _cellgroupcfg()
         -o | --output | --previous | --rach | --capability | --config) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='decode encode diff delta apply compose example check find pcap rules explain --help --version'
+                words='decode encode diff delta apply compose record example check find pcap rules explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
                     decode) words="$input $messages $texts" ;;
@@ -32,6 +32,7 @@ _cellgroupcfg()
                     delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
                     apply) words="$input $messages --state $texts $octets" ;;
                     compose) words="--color --help --verbose $texts $octets" ;;
+                    record) words="$input --lines --output --cpp" ;;
                     example) words="--all --color --help --output --verbose"
                         [[ $current == -* ]] || words=$(cellgroupcfg example 2>/dev/null | cut -d' ' -f1) ;;
                     check) words="$input $messages --format --severity --fail-on --only --disable --config --no-config --chain

@@ -10,6 +10,7 @@
 #include "textPlaces.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace tool
 {
@@ -63,6 +64,10 @@ public:
         {
             own = readPlaces(given, all.findings);
         }
+        if (message.record() != nullptr)
+        {
+            sortByLine(all.findings);
+        }
         dropUnwanted(all.findings);
         silence(given, own, all);
         const Severity shown = options_.shown;
@@ -115,6 +120,17 @@ private:
         {
             findings.push_back(std::move(finding));
         }
+    }
+
+    // Those of a record stand where its text has them, what has no line behind them.
+    static void sortByLine(std::vector<Finding>& findings)
+    {
+        const auto key = [](const Finding& finding)
+        {
+            return std::tuple(finding.line == 0, finding.line, finding.column);
+        };
+        std::stable_sort(findings.begin(), findings.end(),
+                         [&](const Finding& a, const Finding& b) { return key(a) < key(b); });
     }
 
     // Where the findings are in the text, and what its comments silence.

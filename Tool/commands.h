@@ -40,6 +40,9 @@ void apply(Session& session, const std::string& prev, const Operands& deltas, St
 // A record in JSON as its message.
 void compose(Session& session, const std::string& operand, StateForm form);
 
+// Messages as the records that compose to them: in JSON, or as the C++ that fills them.
+void record(Session& session, const Operands& operands, bool asCpp);
+
 // A record to begin with as JSON; an empty name lists them.
 void example(Session& session, const std::string& name);
 // One with every member of a field, each with what may stand there; an empty path stands for all.

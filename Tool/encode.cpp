@@ -1,5 +1,6 @@
 // encode: a message as octets.
 #include "commands.h"
+#include "text.h"
 
 namespace tool
 {
@@ -14,7 +15,7 @@ void encode(Session& session, const Operands& operands, OctetsForm form)
     unsigned number = 0;
     const auto write = [&](const Given& given)
     {
-        const std::string name = several ? "message" + std::to_string(++number) : "message";
+        const std::string name = numbered("message", several, number);
         session.put(octetsIn(form, octetsOf(*session.common().type, given), name));
     };
     session.forEach(operands, write);

@@ -51,36 +51,21 @@ const Example& exampleNamed(const std::string& name)
                       (close ? "; did you mean " + std::string(*close) + "?" : "; 'cellgroupcfg example' lists them"));
 }
 
-// A record with every member of a place, each with what may stand there.
+// A record with every member of a place, each with what may stand there. Around the place stands what a composition
+// cannot do without.
 class Scaffold
 {
 public:
     std::string text(const std::vector<RecordPlace>& trail)
     {
         open('{');
-        for (const RecordPlace& place : trail)
-        {
-            name(*place.field);
-            if (&place != &trail.back())
-            {
-                begin(*place.field);
-            }
-        }
         if (trail.empty())
         {
             fields(*rrcRecordTypes[0], "");
         }
         else
         {
-            value(trail.back());
-        }
-        for (std::size_t i = trail.size(); i-- > 0;)
-        {
-            comment(trail[i]);
-            if (i != 0)
-            {
-                end(*trail[i - 1].field);
-            }
+            around(trail, 0);
         }
         close('}');
         return text_ + "\n";
@@ -138,11 +123,18 @@ private:
         open('{');
     }
 
-    void end(const RrcRecordField& field)
+    // An array that has always all of its entries gets the others.
+    void end(const RecordPlace& place)
     {
+        const RrcRecordField& field = *place.field;
         close('}');
         if (isArray(field))
         {
+            for (unsigned i = 1; i < field.bound && field.count < 0; ++i)
+            {
+                item();
+                entry(place);
+            }
             close(']');
         }
     }
@@ -196,24 +188,134 @@ private:
     {
         for (unsigned i = 0; i < type.fieldCount; ++i)
         {
-            const RecordPlace place = fieldPlace(type, path, i);
-            if (!isShown(type, *place.field))
+            field(fieldPlace(type, path, i));
+        }
+    }
+
+    void field(const RecordPlace& place)
+    {
+        const RrcRecordType& type = *place.owner;
+        if (!isShown(type, *place.field))
+        {
+            return;
+        }
+        if (place.field->kind != RRC_FIELD_MASK)
+        {
+            name(*place.field);
+            value(place);
+            comment(place);
+            return;
+        }
+        const auto mask = static_cast<unsigned>(place.field - type.fields);
+        if (const std::string bits = moreBits(type, mask); !bits.empty())
+        {
+            name(*place.field);
+            text_ += '[' + chosenBits(type, mask) + ']';
+            comment_ = bits;
+        }
+    }
+
+    // The fields of a structure on the way to a place: the one that leads there, and those that are needed beside it.
+    void around(const std::vector<RecordPlace>& trail, std::size_t depth)
+    {
+        const RecordPlace& next = trail[depth];
+        const RrcRecordType& type = *next.owner;
+        for (unsigned i = 0; i < type.fieldCount; ++i)
+        {
+            const RecordPlace place = fieldPlace(type, depth == 0 ? "" : trail[depth - 1].path, i);
+            const bool isInSame = next.field->choice >= 0 && place.field->choice == next.field->choice;
+            if (place.field != next.field)
             {
+                if (type.isUnion == 0 && !isInSame && isNeeded(type, i, next.field->guard))
+                {
+                    field(place);
+                }
                 continue;
             }
-            if (place.field->kind != RRC_FIELD_MASK)
+            name(*place.field);
+            if (depth + 1 == trail.size())
             {
-                name(*place.field);
                 value(place);
-                comment(place);
             }
-            else if (const std::string bits = moreBits(type, i); !bits.empty())
+            else
             {
-                name(*place.field);
-                text_ += '[' + chosenBits(type, i) + ']';
-                comment_ = bits;
+                begin(*place.field);
+                around(trail, depth + 1);
+                end(place);
+            }
+            comment(place);
+        }
+    }
+
+    // Whether a field, or one below it, has to be given where an element is sent, alone or with this bit of its record:
+    // the encoder refuses what an empty record has there.
+    static bool isNeeded(const RrcRecordType& type, unsigned index, int bit = -1)
+    {
+        const RrcRecordField& field = type.fields[index];
+        constexpr unsigned isOptional = RRC_FIELD_NOT_SENT | RRC_FIELD_ELSE_ABSENT | RRC_FIELD_ELSE_DEFAULT;
+        const bool isWithBit = bit >= 0 && field.guard == bit;
+        if ((field.flags & isOptional) != 0 || !isShown(type, field))
+        {
+            return false;
+        }
+        for (unsigned i = 0; i < type.choiceCount; ++i)
+        {
+            const RrcRecordChoice& choice = type.choices[i];
+            const bool isOf = choice.selector == index || field.choice == static_cast<int>(i);
+            if (isOf && (isWithBit || isMandatory(type, choice.way)))
+            {
+                return true;
             }
         }
+        const bool isAlways = (field.flags & RRC_FIELD_ALWAYS_SENT) != 0 && field.guard < 0;
+        if (field.choice >= 0 || !(isWithBit || isAlways || isMandatory(type, field.way)))
+        {
+            return false;
+        }
+        if (field.count >= 0)
+        {
+            return leastEntries(type, field.way) != 0;
+        }
+        return field.record == nullptr ? field.lower > 0 || field.upper < 0 : needsAny(*field.record);
+    }
+
+    static bool needsAny(const RrcRecordType& type)
+    {
+        for (unsigned i = 0; i < type.fieldCount; ++i)
+        {
+            if (isNeeded(type, i))
+            {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // Whether a way leads to what the element always has.
+    static bool isMandatory(const RrcRecordType& type, const RrcRecordWay& way)
+    {
+        const RtxType* at = type.element;
+        for (unsigned i = 0; i < way.stepCount && way.steps[i] != RRC_STEP_ENTRY; ++i)
+        {
+            const rtx::Member& member = at->members[way.steps[i]];
+            if (at->kind == rtx::Kind::Sequence && (member.flag >= 0 || way.steps[i] >= at->rootCount))
+            {
+                return false;
+            }
+            at = member.type;
+        }
+        return way.path != nullptr;
+    }
+
+    // Of the list that a way leads into.
+    static std::int32_t leastEntries(const RrcRecordType& type, const RrcRecordWay& way)
+    {
+        const RtxType* at = type.element;
+        for (unsigned i = 0; i < way.stepCount && way.steps[i] != RRC_STEP_ENTRY; ++i)
+        {
+            at = at->members[way.steps[i]].type;
+        }
+        return at->lower;
     }
 
     // Bits that follow from nothing.
@@ -351,6 +453,8 @@ private:
         case RRC_FIELD_BITS:
         case RRC_FIELD_OCTETS:
             return '"' + std::string((field.bits + 7U) / 8 * 2, '0') + '"';
+        case RRC_FIELD_MASK:
+            return '[' + chosenBits(*place.owner, static_cast<unsigned>(&field - place.owner->fields)) + ']';
         case RRC_FIELD_ALTERNATIVE:
             for (unsigned i = 0; i < place.owner->choiceCount; ++i)
             {

@@ -348,6 +348,11 @@ void explain(Session& session, const std::string& name, bool tree)
         session.put(ruleText(*rule, session.color()));
         return;
     }
+    if (const RrcRecordRule* const rule = rrcRecordRuleById(name.c_str()))
+    {
+        session.put(recordRuleText(*rule, session.color()));
+        return;
+    }
     if (const IdWords words = wordsOf(name); !words.statement.empty())
     {
         session.put(idText(name, words, session.color()));
@@ -362,15 +367,10 @@ void explain(Session& session, const std::string& name, bool tree)
             Explanation(session, findPlaces(name)).write(tree);
             return;
         }
-        if ((isWord && explainMember(session, name, tree)) || explainField(session, name))
+        if (!(isWord && explainMember(session, name, tree)) && !explainField(session, name))
         {
-            return;
+            nothingNamed(begin);
         }
-        if (isWord)
-        {
-            nothingNamed(name);
-        }
-        Explanation(session, findPlaces(name)).write(tree);
     }
     catch (const PathError& error)
     {

@@ -1,7 +1,9 @@
 // explain: what the description says of a field of the record.
 #include "explainRecord.h"
 #include "recordPath.h"
+#include "rows.h"
 #include "rtxType.h"
+#include "ruleTable.h"
 #include "schemaPath.h"
 #include "style.h"
 
@@ -25,12 +27,6 @@ constexpr const char* kinds[] = {
     "not read",
 };
 
-void row(Session& session, std::string_view label, const std::string& text)
-{
-    constexpr std::size_t column = 13;
-    session.put("  " + std::string(label) + std::string(column - label.size(), ' ') + text + "\n");
-}
-
 // Of what a way of the record leads to.
 std::string elementOf(const RrcRecordType& type, const RrcRecordWay& way)
 {
@@ -46,7 +42,23 @@ void note(Session& session, const char* text)
 {
     if (*text != '\0')
     {
-        row(session, "note", text);
+        session.put(rows("note", text));
+    }
+}
+
+// What becomes of a place that does not do what one would expect.
+void behaviour(Session& session, const std::string& place)
+{
+    for (const RrcRecordRule* const rule : allRecordRules())
+    {
+        const char* const* const places = rule->places;
+        for (unsigned i = 0; places != nullptr && places[i] != nullptr; ++i)
+        {
+            if (place == places[i])
+            {
+                session.put(rows("behaves", recordStatement(*rule) + "; " + rule->instead + " [" + rule->id + "]"));
+            }
+        }
     }
 }
 
@@ -76,10 +88,11 @@ void fields(Session& session, const RrcRecordType& type, const std::string& path
 void explainStructure(Session& session, const RrcRecordType& type)
 {
     heading(session, type.name);
-    row(session, type.isUnion != 0 ? "union" : "structure",
-        std::string(type.header) + ", " + std::to_string(type.size) + " octets");
-    row(session, "holds", type.path);
+    session.put(row(type.isUnion != 0 ? "union" : "structure",
+                    std::string(type.header) + ", " + std::to_string(type.size) + " octets"));
+    session.put(row("holds", type.path));
     note(session, type.note);
+    behaviour(session, type.name);
     fields(session, type, type.name);
 }
 
@@ -99,9 +112,8 @@ bool explainBit(Session& session, std::string_view name)
                 continue;
             }
             heading(session, bit.name);
-            row(session, "bit",
-                std::to_string(bit.number) + " of " + type.name + "." + type.fields[bit.mask].name + ", " +
-                    type.header);
+            session.put(row("bit", std::to_string(bit.number) + " of " + type.name + "." + type.fields[bit.mask].name +
+                                       ", " + type.header));
             std::string what = bit.way.path != nullptr ? bit.way.path : "";
             for (unsigned k = 0; k < type.fieldCount; ++k)
             {
@@ -122,16 +134,17 @@ bool explainBit(Session& session, std::string_view name)
                     }
                 }
             }
-            row(session, roles[bit.role], what);
+            session.put(row(roles[bit.role], what));
             if (bit.otherwise != nullptr)
             {
-                row(session, "else", bit.otherwise);
+                session.put(row("else", bit.otherwise));
             }
             if (bit.with >= 0)
             {
-                row(session, "looked at", std::string("with ") + type.bits[bit.with].name);
+                session.put(row("looked at", std::string("with ") + type.bits[bit.with].name));
             }
             note(session, bit.note);
+            behaviour(session, bit.name);
             found = true;
         }
     }
@@ -176,6 +189,7 @@ public:
         flags();
         bits();
         note(session_, field_.note);
+        behaviour(session_, std::string(owner_.name) + "." + field_.name);
         if (field_.record != nullptr)
         {
             fields(session_, *field_.record, place_.path);
@@ -185,7 +199,7 @@ public:
 private:
     void row(std::string_view label, const std::string& text)
     {
-        tool::row(session_, label, text);
+        session_.put(tool::row(label, text));
     }
 
     void wrapped(std::string_view label, std::string_view text)

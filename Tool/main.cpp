@@ -43,7 +43,7 @@ private:
         }
         return "\nA message is a file, '-' or nothing for standard input, or the octets themselves. What it looks "
                "like\n"
-               "is found out: hex, dumps, C arrays, base64, binary, JER, flat lines, log lines.\n"
+               "is found out: hex, dumps, C arrays, base64, binary, JER, records, flat lines, log lines.\n"
                "Exit status: 0 done, 1 findings, differences or a refusal, 2 usage or a file, 3 malformed input,\n"
                "4 a delta has nothing to send.\n"
                "'cellgroupcfg COMMAND --help' tells more; so does the manual, cellgroupcfg(1).\n";
@@ -78,6 +78,7 @@ public:
         delta();
         apply();
         compose();
+        record();
         example();
         check();
         find();
@@ -454,6 +455,23 @@ private:
         return decodeForm();
     }
 
+    void record()
+    {
+        CLI::App& app =
+            command("record", "Make the records that compose to messages.",
+                    "  cellgroupcfg record message.hex > record.json\n"
+                    "  cellgroupcfg record capture.log | sed 's/\"ms100\"/\"ms200\"/' | cellgroupcfg compose\n"
+                    "  cellgroupcfg record --cpp -o test.cpp message.hex\n",
+                    [this](Session& session)
+                    {
+                        session.outputTo(output_);
+                        tool::record(session, operands_, cpp_);
+                    });
+        messages(app);
+        output(app);
+        app.add_flag("--cpp", cpp_, "The C++ that fills the record, instead of JSON");
+    }
+
     void example()
     {
         CLI::App& app = command("example", "Show records in JSON to begin with.",
@@ -682,6 +700,7 @@ private:
     bool sync_ = false;
     bool switch_ = false;
     bool all_ = false;
+    bool cpp_ = false;
     std::vector<std::string> recreate_;
 };
 

@@ -4,6 +4,7 @@
 #include "rrcRecordCheck.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace tool
 {
@@ -18,6 +19,17 @@ std::string pathOf(const std::string& field)
     return recordRoot + (field.empty() ? "" : "." + field);
 }
 
+// As the other rules have it.
+std::string sentence(std::string text)
+{
+    if (!text.empty())
+    {
+        text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+        text += '.';
+    }
+    return text;
+}
+
 Finding findingOf(const RrcRecordFinding& found)
 {
     Finding finding;
@@ -28,7 +40,7 @@ Finding findingOf(const RrcRecordFinding& found)
     finding.message = std::string(found.found) + (*found.found == '\0' ? "" : " ") + found.words;
     finding.value = found.found;
     finding.allowed = found.allowed;
-    finding.advice = found.advice;
+    finding.advice = sentence(found.advice);
     return finding;
 }
 

@@ -97,6 +97,20 @@ std::string idText(const std::string& id, const IdWords& words, bool color)
     return text;
 }
 
+std::string recordRuleText(const RrcRecordRule& rule, bool color)
+{
+    std::string places;
+    for (const char* const* place = rule.places; place != nullptr && *place != nullptr; ++place)
+    {
+        places += (places.empty() ? "" : " ") + std::string(*place);
+    }
+    std::string text = styled(rule.id, Style::Bold, color) + "\n" + row("severity", recordSeverityName(rule));
+    text += rows("statement", recordStatement(rule)) + rows("what to do", rule.instead);
+    text += places.empty() ? "" : rows("of", places);
+    text += rule.region == nullptr ? "" : row("group", rule.region);
+    return text + lines("to silence it", {"cellgroupcfg check --disable " + std::string(rule.id)});
+}
+
 std::string ruleText(const RrcRule& rule, bool color)
 {
     const std::string id = rule.id;

@@ -34,6 +34,9 @@ std::vector<std::string> exampleLines(std::string_view example);
 // What there is to say of a rule: what holds, what to do where it does not, examples, how to silence it.
 std::string ruleText(const RrcRule& rule, bool color);
 
+// The same of a rule of the record.
+std::string recordRuleText(const RrcRecordRule& rule, bool color);
+
 // What there is to say of another finding's id.
 std::string idText(const std::string& id, const IdWords& words, bool color);
 

@@ -323,6 +323,11 @@ Place placeOf(std::string_view all, std::size_t i)
     return place;
 }
 
+std::string numbered(const std::string& name, bool isSeveral, unsigned& number)
+{
+    return isSeveral ? name + std::to_string(++number) : name;
+}
+
 std::string counted(std::size_t count, std::string_view thing)
 {
     return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");

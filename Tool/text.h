@@ -70,6 +70,9 @@ std::size_t skipComments(const Piece& text, std::size_t i);
 
 Place placeOf(std::string_view all, std::size_t i);
 
+// The name of the next of several things, "message1", or that of the only one, "message".
+std::string numbered(const std::string& name, bool isSeveral, unsigned& number);
+
 // "1 octet", "2 octets"
 std::string counted(std::size_t count, std::string_view thing);
 

@@ -20,7 +20,8 @@ extern "C"
  * NR-RRC-Definitions.h are included, and fill a record that composes to the same, whatever its memory held. Any record
  * can be written, whatever it holds; no memory is taken.
  * @param pRrcCellGroupCfg  never null
- * @param name              of a pointer to a RrcCellGroupCfg_t in these statements: "record"; never null
+ * @param name              of a RrcCellGroupCfg_t or a reference to one in these statements: "record", "(*record)" by a
+ *                          pointer to one; never null
  * @param sink              is given pieces of text in order, never null
  * @param arg               is handed to the sink
  */

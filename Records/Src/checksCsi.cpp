@@ -155,13 +155,14 @@ void portIndicesCount(const RRCPortIndexFor8Ranks_t& r, Report& report)
     notEmpty(report, rowRules::csiReportListCounts, r.numPortIndexFor8Ranks);
 }
 
-// A list of fixed size, of which the record has room for so many entries.
+// A list of fixed size, of which the record has room for so many entries; surplus ones are dropped, and not refused.
 template <typename Count>
 void ofFixedSize(Report& report, const Count& count, unsigned size)
 {
     if (count != 0 && count != size)
     {
         report.say(rowRules::portIndexListCounts, &count);
+        report.notAsItStands(&count);
     }
 }
 

@@ -29,7 +29,7 @@ public:
     {
         if (place == nullptr)
         {
-            out_.put("rrcInit(");
+            out_.put("rrcInit(&");
             out_.put(name_);
             out_.put(");\n");
         }
@@ -105,13 +105,12 @@ private:
         if (place.outer != nullptr)
         {
             path(*place.outer);
-            out_.put(".");
         }
         else
         {
             out_.put(name_);
-            out_.put("->");
         }
+        out_.put(".");
         out_.put(place.field->name);
         if (place.field->bound != 0)
         {

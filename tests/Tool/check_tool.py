@@ -543,16 +543,20 @@ def test_rules(folder):
     """The table of rules, as text and as JSON, and what is told of one."""
     status, text, _ = run("rules")
     lines = text.decode().splitlines()
-    columns = re.compile(r"([a-z0-9-]+) +(error|warning|notice) +(\S.*\.)$")
+    columns = re.compile(r"([a-z0-9-]+) +(error|warning|notice|fact) +(\S.*)$")
     rows = [columns.match(line) for line in lines]
     true(status == DONE and all(rows), "rules: id, severity and statement in each line")
     true(len({row.start(2) for row in rows}) == 1 and len({row.start(3) for row in rows}) == 1, "rules: columns")
     status, text, _ = run("rules", "--json")
     table = json.loads(text)
-    true(status == DONE and list(table) == ["version", "rules"] and table["version"] == 1, "rules --json has a version")
-    true([(rule["id"], rule["severity"], rule["statement"]) for rule in table["rules"]] == [row.groups() for row in rows],
-         "rules --json tells the same")
-    true(len(rows) == 214, f"{len(rows)} rules")
+    true(status == DONE and list(table) == ["version", "rules", "recordRules"] and table["version"] == 1, "rules --json has a version")
+    told = [(rule["id"], rule["severity"], rule["statement"]) for rule in table["rules"]]
+    told += [(rule["id"], rule["severity"], f"{rule['field']}: {rule['goesOut']}") for rule in table["recordRules"]]
+    true(told == [row.groups() for row in rows], "rules --json tells the same")
+    true(len(table["rules"]) == 214, f"{len(table['rules'])} rules")
+    for rule in table["recordRules"]:
+        true(list(rule) == ["id", "region", "severity", "field", "goesOut", "instead", "places"], f"{rule['id']}: its members")
+        true(rule["id"].startswith("record-"), f"{rule['id']} is of a record")
     for rule in table["rules"]:
         true(list(rule) == ["id", "group", "severity", "statement", "advice", "clause", "given", "bad", "good", "since"],
              f"{rule['id']}: its members")
@@ -692,6 +696,85 @@ def test_compose(folder):
     expect(["compose", "none.json"], USAGE, err="cellgroupcfg: none.json: No such file or directory\n")
 
 
+RECORD_JSON = """{
+  "cellGroupId": 0,
+  "lchIdRelease": [4, 31]
+}
+"""
+RECORD_CPP = """#include "NR-RRC-Definitions.h"
+#include "rrcCodec/rrcInit.h"
+"""
+RECORD_FILL = """
+    rrcInit(&record);
+    record.cellGroupId = 0;
+    record.rlcBearerAddModNum = 0;
+    record.rlcBearerReleaseNum = 2;
+    record.lchIdRelease[0] = 4;
+    record.lchIdRelease[1] = 31;
+    record.bitMask = 0;
+    record.sCellAddModNum = 0;
+    record.sCellReleaseNum = 0;
+}
+"""
+
+
+def test_record(folder):
+    expect(["record", RELEASE_HEX], DONE, RECORD_JSON)
+    expect(["record"], DONE, RECORD_JSON, stdin=RELEASE)
+    expect(["record", "--as", "base64", "-"], DONE, RECORD_JSON, stdin=base64.b64encode(RELEASE))
+    expect(["record", "-"], DONE, RECORD_JSON, stdin=RELEASE_FLAT)
+    message = folder / "message.hex"
+    message.write_text(RELEASE_HEX, encoding="utf-8")
+    expect(["record", str(message), RELEASE_HEX], DONE,
+           f"// {message}\n{RECORD_JSON}// operand\n{RECORD_JSON}")
+    lines = f"{RELEASE_HEX}\n{OTHER.hex()}\n"
+    expect(["record", "--lines", "-"], DONE, '{"cellGroupId": 0,"lchIdRelease": [4, 31]}\n'
+                                             '{"cellGroupId": 1,"lchIdRelease": [4, 9]}\n', stdin=lines)
+    expect(["record", "--cpp", RELEASE_HEX], DONE, f"{RECORD_CPP}\nvoid fill(RrcCellGroupCfg_t& record)\n{{{RECORD_FILL}")
+    other = RECORD_FILL.replace("cellGroupId = 0", "cellGroupId = 1").replace("31", "9")
+    expect(["record", "--cpp", "--lines", "-"], DONE,
+           f"{RECORD_CPP}\n// standard input:1\nvoid fill1(RrcCellGroupCfg_t& record)\n{{{RECORD_FILL}"
+           f"\n// standard input:2\nvoid fill2(RrcCellGroupCfg_t& record)\n{{{other}", stdin=lines)
+    output = folder / "record.json"
+    expect(["record", "-o", str(output), RELEASE_HEX], DONE)
+    expect(["compose", str(output)], DONE, RELEASE_HEX + "\n")
+
+    # What a record cannot say.
+    expect(["record", "-"], FINDINGS, '{\n  "cellGroupId": 0,\n  "macCellGrpCfg": {\n    "skipUpTxDynamic": true\n  }\n}\n',
+           "cellgroupcfg: standard input: CellGroupConfig.mac-CellGroupConfig.drx-Config: release, which no record says\n"
+           "cellgroupcfg: standard input: CellGroupConfig.mac-CellGroupConfig.phr-Config: release, which no record says\n",
+           stdin='{"cellGroupId": 0, "mac-CellGroupConfig": {"drx-Config": {"release": null}, '
+                 '"phr-Config": {"release": null}, "skipUplinkTxDynamic": true}}')
+    expect(["record", UNKNOWN.hex()], FINDINGS, '{\n  "cellGroupId": 0\n}\n', re.compile("of a later release\n"))
+
+    # What is no message.
+    expect(["record"], MALFORMED, err="cellgroupcfg: standard input: the input is empty\n", stdin="")
+    expect(["record", RELEASE_HEX[:6]], MALFORMED,
+           err=re.compile("^cellgroupcfg: operand: CellGroupConfig.rlc-BearerToReleaseList.* the input ends before"))
+    message.write_bytes(bytes(1000000))
+    expect(["record", "--as", "binary", str(message)], MALFORMED,
+           err=f"cellgroupcfg: {message}: 1000000 octets are no message; the longest that is read has 65536\n")
+    expect(["record", "none.hex"], USAGE, err="cellgroupcfg: none.hex: No such file or directory, and no message\n")
+    expect(["record", "--lines", "-"], MALFORMED, '{"cellGroupId": 0,"lchIdRelease": [4, 31]}\n',
+           re.compile("^cellgroupcfg: standard input:1: "), stdin=f"{RELEASE_HEX[:6]}\n{RELEASE_HEX}\n")
+
+
+def once(members):
+    names = [name for name, _ in members]
+    true(len(set(names)) == len(names), f"every member stands once: {names}")
+    return dict(members)
+
+
+def paths_of(members, path=""):
+    """The paths of all that is in a JSON object, without indices."""
+    paths = []
+    for name, value in members.items():
+        inner = value[0] if isinstance(value, list) and value else value
+        paths.append(path + name)
+        paths += paths_of(inner, f"{path}{name}.") if isinstance(inner, dict) else []
+    return paths
+
+
 def test_example(folder):
     expect(["example"], DONE, re.compile("^one-bearer +a bearer.*\n(.*\n)+releases "))
     call = run("example", "typical-call")[1]
@@ -714,12 +797,41 @@ def test_example(folder):
   }
 }
 """)
-    for field in ("rlcBearerCfg", "macCellGrpCfg", "phyCellGrpCfg", "spCellCfg.recfgWithSync", "sCellIdx"):
-        scaffold = run("example", "--all", field)[1]
-        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=scaffold)
-    # What cannot be composed is read all the same.
-    scaffold = run("example", "--all")[1]
-    true(run("compose", stdin=scaffold)[0] in (DONE, FINDINGS), "the scaffold of all is read")
+    scaffold = run("example", "--all")[1].decode()
+    expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=scaffold)
+    for line in scaffold.splitlines():
+        # What is no bracket alone is a member that says what may stand there, or opens a structure or a list of them.
+        true(re.search(r"^ *[{}\[\]]+,?( //.*)?$|^ *\"\w+\": ([{\[]$|.* // )", line), f"a member tells its values: {line}")
+    fields = json.loads(re.sub(" // .*", "", scaffold), object_pairs_hook=once)
+    true(list(fields) == ["cellGroupId", "rlcBearerCfg", "lchIdRelease", "macCellGrpCfg", "phyCellGrpCfg", "spCellCfg",
+                          "sCellAddMod", "sCellIdx", "reportUplinkTxDirect"], "all fields of the header, in its order")
+    for field in [*fields, *(f"spCellCfg.{field}" for field in fields["spCellCfg"])]:
+        part = run("example", "--all", field)[1].decode()
+        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=part)
+        within = json.loads(re.sub(" // .*", "", part))
+        for name in field.split("."):
+            true(list(within) == [name], f"{field} alone is shown")
+            within = within[name]
+    # What is deeper stands in all that a composition cannot do without.
+    expect(["example", "--all", "rlcBearerCfg.rlcCfg.choice.amCfg.ulAmCfg.maxRetxThreash"], DONE, """{
+  "rlcBearerCfg": [
+    {
+      "lchId": 1, // 1..32
+      "rlcCfg": {
+        "choice": {
+          "amCfg": {
+            "ulAmCfg": {
+              "maxRetxThreash": "t1" // t1, t2, t3, t4, t6, t8, t16, t32
+            }
+          }
+        }
+      }
+    }
+  ] // at most 32 entries
+}
+""")
+    for field in paths_of(fields)[::20]:
+        expect(["compose", "--flat"], DONE, re.compile("^CellGroupConfig"), stdin=run("example", "--all", field)[1])
     expect(["example", "--all", "macCellGrpCfg.tagCf"], USAGE,
            err="cellgroupcfg: RrcMacCellGrpCfg_t has no field 'tagCf'; did you mean tagCfg?\n")
     expect(["explain", "macCellGrpCfg.tagCfg.tag[2].taTimer"], DONE, """macCellGrpCfg.tagCfg.tag[].taTimer
@@ -746,7 +858,7 @@ def test_help(folder):
     text = text.decode()
     true(status == DONE and text.startswith("Examples:\n"), "--help begins with examples")
     commands = re.findall(r"^  ([a-z]+) {5,}", text[text.index("\nCommands:\n"):], re.M)
-    true(len(commands) == 12, f"--help lists the commands: {commands}")
+    true(len(commands) == 13, f"--help lists the commands: {commands}")
     manual = (PROJECT / "docs/cellgroupcfg.1.scd").read_text(encoding="utf-8").replace("\\", "")
     completion = (PROJECT / "Tool/cellgroupcfg.bash").read_text(encoding="utf-8")
     for command in commands:
@@ -772,5 +884,5 @@ def test_help(folder):
 
 
 main(test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta, test_apply,
-     test_diff_state, test_compose, test_example, test_find, test_pcap, test_wireshark, test_explain, test_rules, test_streams,
-     test_help)
+     test_diff_state, test_compose, test_record, test_example, test_find, test_pcap, test_wireshark, test_explain, test_rules,
+     test_streams, test_help)

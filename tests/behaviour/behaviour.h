@@ -55,6 +55,7 @@ struct Run
     std::string refusal;                                   // the line that says why
     std::string notice{};                                  // what is printed before
     std::function<bool(const RrcCellGroupCfg_t&)> holds{}; // what the record has to be like afterwards
+    bool isMeant = false;                                  // a check has nothing to say
 };
 
 // Leaves the record as it comes.
@@ -111,6 +112,13 @@ struct Row
     Row& leaving(std::function<bool(const RrcCellGroupCfg_t&)> holds)
     {
         runs.back().holds = std::move(holds);
+        return *this;
+    }
+
+    // Said of the run before: this is how one says it, or what is not sent lies behind a clear bit, where nobody looks.
+    Row& asMeant()
+    {
+        runs.back().isMeant = true;
         return *this;
     }
 

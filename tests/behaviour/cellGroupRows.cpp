@@ -229,7 +229,8 @@ void bearerRows(Table& table)
                   r.bitMask = RRC_RLCCFG_UM_BI_PRESENCE;
                   r.choice.umBiCfg.dlUmCfg.snFeildLen = static_cast<RrcRlcSnFeildLenUm_e>(2);
                   r.choice.umBiCfg.ulUmCfg.snFeildLen = static_cast<RrcRlcSnFeildLenUm_e>(2);
-              });
+              })
+        .asMeant();
     table.row("record-logical-channel-parameters")
         .sent(bearer, R"({"logicalChannelIdentity":1,"mac-LogicalChannelConfig":{}})",
               [](auto& r)
@@ -246,9 +247,11 @@ void bearerRows(Table& table)
     table.row("record-rlc-bearer-one-value")
         .sent(bearer, R"({"logicalChannelIdentity":1,"reestablishRLC":"true"})",
               [](auto& r) { r.bitMask = RRC_RLCBEARERCFG_REESTABRLC_PRESENCE; })
+        .asMeant()
         .oneValue(bearer, RRC_RLCBEARERCFG_REESTABRLC_PRESENCE, &RrcRlcBearerCfg_t::reestablRlc, "reestablishRLC")
         .sent(logicalChannel, logicalChannelJson(R"("configuredGrantType1Allowed":"true")"),
               [](auto& r) { r.bitMask = RRC_UL_SPECIFICPARA_GRANT_TYPE1_CFG_PRESENCE; })
+        .asMeant()
         .refused(logicalChannel, ".configuredGrantType1Allowed: 256 is not in 0..0",
                  [](auto& r)
                  {
@@ -287,6 +290,7 @@ void macRows(Table& table)
                   r.bitMask = 0;
                   r.drxOnDurationTimer.subMilliSeconds = 31;
               })
+        .asMeant()
         .refused(drx, ".drx-onDurationTimer.subMilliSeconds: 0 is not in 1..31", [](auto& r) { r.bitMask = 0; });
     table.row("record-drx-long-cycle")
         .refused(drx, ".drx-LongCycleStartOffset: tag 0 is not in 1..20",
@@ -308,8 +312,10 @@ void macRows(Table& table)
         .sent(mac, R"({"skipUplinkTxDynamic":false})", [](auto& r) { r.skipUpTxDynamic = 256; })
         .sent(phr, phrJson("false", "false", "false"), [](auto& r) { r.multiplePHR = 256; })
         .sent(phr, phrJson("true", "false", "false"), [](auto& r) { r.multiplePHR = 1; })
+        .asMeant()
         .sent(phr, phrJson("false", "false", "false"), [](auto& r) { r.phrType2OtherCell = 0x100; })
-        .sent(phr, phrJson("false", "false", "true"), [](auto& r) { r.phrType2OtherCell = 0x102; });
+        .sent(phr, phrJson("false", "false", "true"), [](auto& r) { r.phrType2OtherCell = 0x102; })
+        .asMeant();
     table.row("record-phr-dummy")
         .sent(phr, phrJson("false", "true", "false"), [](auto& r) { r.dummy = 1; })
         .sent(phr, phrJson("false", "false", "false"), [](auto& r) { r.dummy = 256; });
@@ -342,6 +348,7 @@ void physicalRows(Table& table)
               R"({"harq-ACK-SpatialBundlingPUCCH":"true","harq-ACK-SpatialBundlingPUSCH":"true",)"
               R"("pdsch-HARQ-ACK-Codebook":"semiStatic"})",
               [](auto& r) { r.bitMask = RRC_PHY_CGC_HARQ_PUCCH_PRESENCE | RRC_PHY_CGC_HARQ_PUSCH_PRESENCE; })
+        .asMeant()
         .oneValue(physical, RRC_PHY_CGC_HARQ_PUCCH_PRESENCE, &RrcPhyCellGrpCfg_t::harqAckBundlingPucch,
                   "harq-ACK-SpatialBundlingPUCCH")
         .oneValue(physical, RRC_PHY_CGC_HARQ_PUSCH_PRESENCE, &RrcPhyCellGrpCfg_t::harqAckBundlingPusch,

@@ -313,6 +313,7 @@ void resourceRows(Table& table)
     table.row("record-trs-info-one-value")
         .sent(resourceSet, R"({"nzp-CSI-ResourceSetId":0,"nzp-CSI-RS-Resources":[0],"trs-Info":"true"})",
               [](auto& r) { r.bitMask = RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE; })
+        .asMeant()
         .oneValue(resourceSet, RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE, &RrcNzpCsiRsResourceSet_t::trsInfo,
                   "trs-Info");
 }
@@ -346,9 +347,11 @@ void reportRows(Table& table)
               {
                   r.Presence = RRC_PORT_INDEX1_PRESENCE;
                   r.PortIndexFor8Ranks_n.portIndex1 = 0xFFFF;
-              });
+              })
+        .asMeant();
     table.row("record-csi-report-subband-size")
         .sent(report, reportJson({.subband = "value2"}), [](auto& r) { r.subBandSize = 1; })
+        .asMeant()
         .refused(report, ".subbandSize: 256 is not in 0..1", [](auto& r) { r.subBandSize = 256; });
     table.row("record-csi-report-semi-persistent-v1530")
         .sent(report, reportJson({}),
@@ -446,10 +449,12 @@ void codebookRows(Table& table)
 {
     table.row("record-codebook-choices")
         .sent(type2, type2Json())
+        .asMeant()
         .refused(codebook, ": tag 0 is not in 1..2")
         .refused(type1, ".subType: tag 0 is not in 1..2")
         .sent(singlePanel, R"({"nrOfAntennaPorts":{"two":{"twoTX-CodebookSubsetRestriction":"000000"}},)"
                            R"("typeI-SinglePanel-ri-Restriction":"00000000"})")
+        .asMeant()
         .refused(singlePanel, ".nrOfAntennaPorts: tag 0 is not in 1..2",
                  [](auto& r) { r.SinglePanel_nrOfAntennaPorts.Presence = 0; })
         .sent(moreThanTwo, R"({"n1-n2":{"four-one-TypeI-SinglePanel-Restriction":"1000000000000001"}})",

@@ -159,11 +159,13 @@ void pdcchRows(Table& table)
         .sent(controlResourceSet,
               controlResourceSetJson(R"({"interleaved":{"reg-BundleSize":"n2","interleaverSize":"n2"}})"),
               [](auto& r) { r.presence = RRC_CCE_MAP_TYPE_INTERLEAVED | RRC_CCE_MAP_TYPE_NON_INTERLEAVED; })
-        .sent(controlResourceSet, controlResourceSetJson());
+        .sent(controlResourceSet, controlResourceSetJson())
+        .asMeant();
     table.row("record-coreset-one-value")
         .sent(controlResourceSet,
               controlResourceSetJson(R"({"nonInterleaved":null})", R"("tci-PresentInDCI":"enabled")"),
               [](auto& r) { r.bitMask = RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE; })
+        .asMeant()
         .oneValue(controlResourceSet, RRC_CONTROL_RESOURCE_SET_TCI_IN_DCI_PRESENCE,
                   &RrcControlResourceSet_t::enTciPresentInDci, "tci-PresentInDCI");
     table.row("record-coreset-frequency-upper-bits")
@@ -263,7 +265,8 @@ void pdschRows(Table& table)
         .sent(pdsch, pdschJson("", "", "", R"({"dynamicBundling":{}})"),
               [](auto& r) { r.prbBitmask = RRC_PDSCH_CFG_PRB_BUNDLING_STATIC | RRC_PDSCH_CFG_PRB_BUNDLING_DYNAMIC; })
         .refused(pdsch, ".prb-BundlingType: tag 0 is not in 1..2", [](auto& r) { r.prbBitmask = 0; })
-        .sent(pdsch, pdschJson(""));
+        .sent(pdsch, pdschJson(""))
+        .asMeant();
     table.row("record-qcl-reference-signal")
         .sent(tciState, R"({"tci-StateId":0,"qcl-Type1":{"referenceSignal":{"csi-rs":63},"qcl-Type":"typeA"}})",
               [](auto& r) { r.qclType1.refSignal.ssbIdx = 63; })
@@ -276,6 +279,7 @@ void pdschRows(Table& table)
     table.row("record-rate-match-group-choice")
         .sent(group, R"([{"cellLevel":0},{"cellLevel":3}])",
               [](auto& r) { r.presense = RRC_RATE_MATCH_PATTERN_GROUP_CELL_LEVEL_PRESENCE; })
+        .asMeant()
         .sent(group, R"([{"bwpLevel":0},{"bwpLevel":3}])", [](auto& r) { r.presense = 3; })
         .refused(group, "[0]: tag 0 is not in 1..2");
     table.row("record-pdsch-rate-match-pattern")
@@ -395,17 +399,20 @@ void pdschRows(Table& table)
                   fresh(r.pdschTimeDomainAllocList).num = 1;
                   r.rateMatchPatternGroup1.numRateMatchPattern = 1;
                   r.rateMatchPatternGroup2.numRateMatchPattern = 1;
-              });
+              })
+        .asMeant();
     table.row("record-zp-csi-rs-set-count")
         .refused(pdsch, ".p-ZP-CSI-RS-ResourceSet.setup.zp-CSI-RS-ResourceIdList: 0 elements, not 1..16",
                  [](auto& r) { r.bitMask = RRC_PDSCH_CFG_ZP_CSI_RS_RESOURCE_SET_PRESENCE; });
     table.row("record-pdsch-one-value")
         .sent(dmrs, R"({"dmrs-Type":"type2","maxLength":"len2"})",
               [](auto& r) { r.bitMask = RRC_DMRS_DL_CFG_TYPE_PRESENCE | RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE; })
+        .asMeant()
         .oneValue(dmrs, RRC_DMRS_DL_CFG_TYPE_PRESENCE, &RrcDmrsDlCfg_t::dmrsType, "dmrs-Type")
         .oneValue(dmrs, RRC_DMRS_DL_CFG_MAX_LEN_PRESENCE, &RrcDmrsDlCfg_t::maxLength, "maxLength")
         .sent(sps, R"({"periodicity":"ms10","nrofHARQ-Processes":1,"mcs-Table":"qam64LowSE"})",
               [](auto& r) { r.bitMask = RRC_SPS_CFG_MCS_TABLE_PRESENCE; })
+        .asMeant()
         .oneValue(sps, RRC_SPS_CFG_MCS_TABLE_PRESENCE, &RrcSpsCfg_t::mcsTable, "mcs-Table");
     table.row("record-rlm-resource-choice")
         .sent(monitoring,
@@ -438,6 +445,7 @@ void bandwidthPartRows(Table& table)
             bwpCommon,
             R"({"genericParameters":{"locationAndBandwidth":0,"subcarrierSpacing":"kHz15","cyclicPrefix":"extended"}})",
             [](auto& r) { r.genericParam.bitMask = RRC_BWP_CYCLEPREFIX_PRESENCE; })
+        .asMeant()
         .refused(bwpCommon, ".genericParameters.cyclicPrefix: 1 is not in 0..0",
                  [](auto& r)
                  {

@@ -94,6 +94,7 @@ void specialCellRows(Table& table)
     table.row("record-rlm-threshold-one-value")
         .sent(spCell, R"({"rlmInSyncOutOfSyncThreshold":"n1"})",
               [](auto& r) { r.bitMask = RRC_SPCELLCFG_THRESHOLD_PRESENCE; })
+        .asMeant()
         .oneValue(spCell, RRC_SPCELLCFG_THRESHOLD_PRESENCE, &RrcSpCellCfg_t::rlmInSyncOutSyncThreshold,
                   "rlmInSyncOutOfSyncThreshold");
     table.row("record-smtc-period")

@@ -4,7 +4,9 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <regex>
 #include <set>
@@ -14,6 +16,7 @@
 
 #include "behaviour.h"
 #include "gnbCommon/duCompose.h"
+#include "places.h"
 #include "rrcRecordType.h"
 #include "support/ComposerTest.h"
 
@@ -97,23 +100,29 @@ Document document()
     return {text.substr(0, first), text.substr(first, end - first), text.substr(end)};
 }
 
+// The one record of all runs: what those before have left in it must not matter, nor what it held at first.
+RrcCellGroupCfg_t& filledBy(const std::function<void(RrcCellGroupCfg_t&)>& fill)
+{
+    static const std::unique_ptr<RrcCellGroupCfg_t> record = []
+    {
+        auto junk = std::make_unique<RrcCellGroupCfg_t>();
+        std::memset(junk.get(), 0xA5, sizeof *junk);
+        return junk;
+    }();
+    fill(*record);
+    return *record;
+}
+
 class rows : public test::ComposerTest, public testing::WithParamInterface<const Row*>
 {
 protected:
     void expect(const behaviour::Run& run)
     {
-        // What the runs before have left in it must not matter, nor what it held at first.
-        static const std::unique_ptr<RrcCellGroupCfg_t> record = []
-        {
-            auto junk = std::make_unique<RrcCellGroupCfg_t>();
-            std::memset(junk.get(), 0xA5, sizeof *junk);
-            return junk;
-        }();
         constexpr UINT32 untouched = 0xA5A5A5A5;
         std::vector<UINT8> octets(8192);
         Mbuf_t message = {untouched, octets.data()};
-        run.fill(*record);
-        const INT32 result = rrcComposeCellGroupCfg(record.get(), &message);
+        RrcCellGroupCfg_t& record = filledBy(run.fill);
+        const INT32 result = rrcComposeCellGroupCfg(&record, &message);
         const std::string lines = printed();
         if (run.message.empty())
         {
@@ -128,7 +137,7 @@ protected:
             EXPECT_EQ(lines, "");
             expectDecoded("CellGroupConfig", test::hexDigits(octets.data(), message.bufLen), run.message);
         }
-        EXPECT_TRUE(!run.holds || run.holds(*record)) << "the record afterwards";
+        EXPECT_TRUE(!run.holds || run.holds(record)) << "the record afterwards";
     }
 };
 
@@ -141,6 +150,70 @@ TEST_P(rows, hold)
     {
         expect(run);
     }
+}
+
+// The greatest weight of the findings by each rule.
+std::map<const RrcRecordRule*, int> findings(const RrcCellGroupCfg_t& record)
+{
+    std::map<const RrcRecordRule*, int> found;
+    const auto sink = [](void* arg, const RrcRecordFinding* finding)
+    {
+        int& greatest = (*static_cast<std::map<const RrcRecordRule*, int>*>(arg))[finding->rule];
+        greatest = std::max<int>(greatest, finding->severity);
+        EXPECT_LE(finding->severity, finding->rule->severity) << finding->rule->id;
+        return 0;
+    };
+    rrcCheckCellGroupCfg(&record, sink, &found);
+    return found;
+}
+
+TEST_P(rows, areFound)
+{
+    const Row& row = *GetParam();
+    int reached = 0;
+    for (size_t i = 0; i < row.runs.size(); ++i)
+    {
+        const behaviour::Run& run = row.runs[i];
+        SCOPED_TRACE(std::string(row.rule.id) + ", run " + std::to_string(i + 1));
+        const std::map<const RrcRecordRule*, int> found = findings(filledBy(run.fill));
+        const auto own = found.find(&row.rule);
+        const int weight = own == found.end() ? 0 : own->second;
+        EXPECT_EQ(weight == 0, row.rule.severity == 0 || run.isMeant);
+        if (weight != 0)
+        {
+            EXPECT_EQ(weight == RRC_RECORD_ERROR, run.message.empty());
+        }
+        // No check knows how long a message is.
+        const bool isTooLong = run.refusal.find("does not fit into") != std::string::npos;
+        EXPECT_EQ(
+            std::any_of(found.begin(), found.end(), [](const auto& each) { return each.second == RRC_RECORD_ERROR; }),
+            run.message.empty() && !isTooLong);
+        reached = std::max(reached, weight);
+    }
+    EXPECT_EQ(reached, row.rule.severity) << row.rule.id;
+}
+
+TEST(findings, AreNoneOfWhatHoldsNothing)
+{
+    const auto expectNone = [](const auto& place)
+    {
+        for (const auto& [rule, weight] : findings(filledBy([&](RrcCellGroupCfg_t& record) { place.on(record); })))
+        {
+            ADD_FAILURE() << rule->id << " of " << place.message;
+        }
+    };
+    expectNone(behaviour::cellGroup);
+    expectNone(behaviour::spCell);
+    expectNone(behaviour::sync);
+    expectNone(behaviour::common);
+    expectNone(behaviour::dedicated);
+    expectNone(behaviour::downlink);
+    expectNone(behaviour::furtherDownlink);
+    expectNone(behaviour::uplink);
+    expectNone(behaviour::initialUplink);
+    expectNone(behaviour::pusch);
+    expectNone(behaviour::slotFormats);
+    expectNone(behaviour::csiMeas);
 }
 
 std::vector<const Row*> each()

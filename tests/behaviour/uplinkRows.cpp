@@ -279,6 +279,7 @@ void pucchRows(Table& table)
                   r.bitMask = RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE |
                               RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE;
               })
+        .asMeant()
         .oneValue(pucchFormat, RRC_PUCCH_FORMAT_CFG_INTER_SLOT_FREQ_HOPPING_PRESENCE,
                   &RrcPucchFormatCfg_t::interSlotFreqHopping, "interslotFrequencyHopping")
         .oneValue(pucchFormat, RRC_PUCCH_FORMAT_CFG_ADDITIONAL_DMRS_PRESENCE, &RrcPucchFormatCfg_t::additionalDMRS,
@@ -290,6 +291,7 @@ void pucchRows(Table& table)
                   &RrcPucchResource_t::intraSlotFreqHopping, "intraSlotFrequencyHopping")
         .sent(pucchPower, R"({"twoPUCCH-PC-AdjustmentStates":"twoStates"})",
               [](auto& r) { r.bitMask = RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE; })
+        .asMeant()
         .oneValue(pucchPower, RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE,
                   &RrcPucchPowerControl_t::twoPucchPcAdjStates, "twoPUCCH-PC-AdjustmentStates");
     table.row("record-scheduling-request-period")
@@ -300,6 +302,7 @@ void pucchRows(Table& table)
                   r.periodAndOffset.period = 1;
                   r.periodAndOffset.offset = 19;
               })
+        .asMeant()
         .refused(schedulingRequest, ".periodicityAndOffset: tag 0 is not in 1..15",
                  [](auto& r) { r.periodAndOffset.period = 10; });
     table.row("record-scheduling-request-offset")
@@ -397,7 +400,8 @@ void puschRows(Table& table)
                   r.freqHoppingOffset[1] = 274;
               })
         .sent(pusch, R"({"frequencyHopping":"intraSlot",)" + allocation + "}",
-              [](auto& r) { r.bitMask = RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE; });
+              [](auto& r) { r.bitMask = RRC_PUSCH_CFG_FREQ_HOPPING_PRESENCE; })
+        .asMeant();
     table.row("record-uci-dynamic-beta-offsets")
         .sent(puschUci, R"({"betaOffsets":{"dynamic":[{"betaOffsetACK-Index1":31},{},{},{}]},"scaling":"f0p5"})",
               [](auto& r)
@@ -413,6 +417,7 @@ void puschRows(Table& table)
                   r.presence = RRC_CG_UCI_ON_PUSCH_DYNAMIC_PRESENCE;
                   r.betaOffset.dynamic.num = 2;
               })
+        .asMeant()
         .refused(grantUci, ".dynamic: 0 elements, not 1..4",
                  [](auto& r) { r.presence = RRC_CG_UCI_ON_PUSCH_DYNAMIC_PRESENCE; })
         .refused(grantUci, ".dynamic: 5 elements, not 1..4",
@@ -470,10 +475,12 @@ void puschRows(Table& table)
     table.row("record-pusch-one-value")
         .sent(pusch, "{" + allocation + R"(,"rbg-Size":"config2","tp-pi2BPSK":"enabled"})",
               [](auto& r) { r.bitMask = RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE | RRC_PUSCH_CFG_RBG_SIZE_PRESENCE; })
+        .asMeant()
         .oneValue(pusch, RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE, &RrcPuschCfg_t::tpPi2Bpsk, "tp-pi2BPSK")
         .oneValue(pusch, RRC_PUSCH_CFG_RBG_SIZE_PRESENCE, &RrcPuschCfg_t::rbgSize, "rbg-Size")
         .sent(grant, grantJson("", R"("rbg-Size":"config2")"),
               [](auto& r) { r.bitMask = RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE; })
+        .asMeant()
         .oneValue(grant, RRC_CFGD_GRANT_CFG_RBG_SIZE_PRESENCE, &RrcCfgGrantCfg_t::rbgSize, "rbg-Size")
         .sent(puschPower,
               R"({"tpc-Accumulation":"disabled","twoPUSCH-PC-AdjustmentStates":"twoStates","deltaMCS":"enabled"})",
@@ -483,6 +490,7 @@ void puschRows(Table& table)
                               RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE |
                               RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE;
               })
+        .asMeant()
         .oneValue(puschPower, RRC_PUSCH_POWER_CONTROL_TCP_ACCUMULATION_PRESENCE,
                   &RrcPuschPowerControl_t::tpcAccumulation, "tpc-Accumulation")
         .oneValue(puschPower, RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE,
@@ -499,6 +507,7 @@ void puschRows(Table& table)
                 r.transformPrecodEnable.bitMask =
                     RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE | RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE;
             })
+        .asMeant()
         .oneValue(puschDmrs, RRC_DMRS_UL_CFG_TYPE_PRESENCE, &RrcDmrsUlCfg_t::dmrsType, "dmrs-Type")
         .oneValue(puschDmrs, RRC_DMRS_UL_CFG_MAX_LENGTH_PRESENCE, &RrcDmrsUlCfg_t::maxLength, "maxLength")
         .refused(puschDmrs, ".transformPrecodingEnabled.sequenceGroupHopping: 1 is not in 0..0",
@@ -530,7 +539,9 @@ void puschRows(Table& table)
                  [](auto& r) { r.bitMask = RRC_PUSCH_CFG_COMMON_PUSCH_TIMING_DOMAIN_ALLOCATION_LIST_PRESENCE; })
         .sent(pusch, "{" + allocation + "}",
               [](auto& r) { r.puschTimeDomainAllocList.numPuschTimeDomainResourceAllocList = 1; })
-        .sent(puschCommon, "{}", [](auto& r) { r.puschTimieDomainAllocList.numPuschTimeDomainResourceAllocList = 1; });
+        .asMeant()
+        .sent(puschCommon, "{}", [](auto& r) { r.puschTimieDomainAllocList.numPuschTimeDomainResourceAllocList = 1; })
+        .asMeant();
     table.row("record-configured-grant-dmrs").sent(grant, grantJson());
     table.row("record-configured-grant-frequency-upper-bits")
         .sent(grant,
@@ -638,6 +649,7 @@ void srsRows(Table& table)
     table.row("record-srs-tpc-accumulation-one-value")
         .sent(srs, R"({"tpc-Accumulation":"disabled"})",
               [](auto& r) { r.bitMask = RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE; })
+        .asMeant()
         .oneValue(srs, RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE, &RrcSrsCfg_t::tpcAccumulation, "tpc-Accumulation");
     table.row("record-srs-no-field")
         .sent(srsSet,
@@ -700,6 +712,7 @@ void bandwidthPartRows(Table& table)
                   r.bitMask = RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE;
                   r.p0NominalWithGrant = 24;
               })
+        .asMeant()
         .refused(puschCommon, ".p0-NominalWithGrant: 166 is not in -202..24",
                  [](auto& r)
                  {
@@ -723,10 +736,12 @@ void bandwidthPartRows(Table& table)
     table.row("record-uplink-common-one-value")
         .sent(puschCommon, R"({"groupHoppingEnabledTransformPrecoding":"enabled"})",
               [](auto& r) { r.bitMask = RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE; })
+        .asMeant()
         .oneValue(puschCommon, RRC_PUSCH_CFG_COMMON_GROUP_HOPPING_ENABLED_TRANSFORM_PRECODEING_PRESENCE,
                   &RrcPuschCfgComm_t::groupHoppingEnabledTransformPrecoding, "groupHoppingEnabledTransformPrecoding")
         .sent(rachCommon, rachCommonJson("", R"({"l839":0})", R"("msg3-transformPrecoder":"enabled")"),
               [](auto& r) { r.bitMask = RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE; })
+        .asMeant()
         .oneValue(rachCommon, RRC_RACH_CFG_COMMON_MSG3_TRANSFORM_PRECODER_PRESENCE,
                   &RrcRachCfgComm_t::msg3TransformPreCoder, "msg3-transformPrecoder");
 }
@@ -742,11 +757,14 @@ void cellLevelRows(Table& table)
     table.row("record-pusch-rate-matching-one-value")
         .sent(puschCell, R"({"rateMatching":"limitedBufferRM"})",
               [](auto& r) { r.bitMask = RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE; })
+        .asMeant()
         .oneValue(puschCell, RRC_PUSCH_SERVING_CELL_CFG_RATE_MATCHING_PRESECE, &RrcPuschServingCellCfg_t::rateMatching,
                   "rateMatching");
     table.row("record-srs-switch-from-carrier")
         .sent(carrierSwitching, R"({"srs-SwitchFromCarrier":"sUL"})")
+        .asMeant()
         .sent(carrierSwitching, R"({"srs-SwitchFromCarrier":"nUL"})", [](auto& r) { r.SwitchFromCarrier = 1; })
+        .asMeant()
         .refused(carrierSwitching, ".srs-SwitchFromCarrier: 256 is not in 0..1",
                  [](auto& r) { r.SwitchFromCarrier = 256; });
     table.row("record-srs-tpc-group-choice")
@@ -785,6 +803,7 @@ void cellLevelRows(Table& table)
               });
     table.row("record-slot-format-counts")
         .sent(slotFormats, R"({"servingCellId":0,"subcarrierSpacing":"kHz15"})")
+        .asMeant()
         .refused(slotFormats, ".slotFormatCombinations[0].slotFormats: 0 elements, not 1..256",
                  [](auto& r)
                  {
@@ -811,7 +830,8 @@ void cellLevelRows(Table& table)
                               RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED;
                   r.codeBlockGroupTransmission.codeBlockGroupFlushInd = 1;
                   r.Type2Enabled = 1;
-              });
+              })
+        .asMeant();
 }
 
 } // namespace

@@ -48,12 +48,14 @@ class Reference:
         """What docs/behaviour.md says of a place."""
         for rule in self.rules.get(place, []):
             self.used.add(place)
-            yield f"**{rule['goesOut']}**: {rule['instead']} ([{rule['id']}](../behaviour.md))"
+            words = f"**{rule['field']}**: {rule['goesOut']}; {rule['instead']}"
+            words = re.sub(r"\]\((?=[\w-]+\.md)", "](../", words)  # links of docs/behaviour.md, seen from here
+            yield f"{words} ([{rule['id']}](../behaviour.md#what-one-would-not-expect))"
 
     @staticmethod
     def sentences(*texts):
         def begun(text):
-            return text[:1].upper() + text[1:] if re.match(r"[a-z]+\b", text) else text
+            return text[:1].upper() + text[1:] if re.match(r"[a-z]+( |$)", text) else text
 
         return cell(". ".join(begun(text).rstrip(".") for text in texts if text))
 

@@ -76,7 +76,9 @@ class Layout:
             offset = child.number("data_member_location")
             if "data_bit_offset" in child.attributes:
                 offset = child.number("data_bit_offset") // 8
-            self.lines.add(f"{name} {field} {offset} {kind.number('byte_size')} {bound} {bits}")
+            octets = kind.number("byte_size")
+            bits = 0 if bits == 8 * octets else bits  # a bit field of all bits: clang tells of none
+            self.lines.add(f"{name} {field} {offset} {octets} {bound} {bits}")
             if kind.tag in ("structure_type", "union_type"):
                 nested = any(kind is other for other in entry.children)
                 own = self.names.get(inner, kind.attributes.get("name"))

@@ -48,7 +48,7 @@ int main(int argc, char** argv)
         chance.start(i + 1);
         records::draw(chance, *record);
         report(*record);
-        std::printf("void fill%u(RrcCellGroupCfg_t* record);\nvoid fill%u(RrcCellGroupCfg_t* record)\n{\n", i, i);
+        std::printf("void fill%u(RrcCellGroupCfg_t& record);\nvoid fill%u(RrcCellGroupCfg_t& record)\n{\n", i, i);
         rrcRecordToCpp(record.get(), "record", put, nullptr);
         std::printf("}\n\n");
     }

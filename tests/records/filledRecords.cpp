@@ -1,4 +1,4 @@
-// Runs the statements that cppRecords has written and prints what each record composes to, in hex, or the line that
+// Runs statements that fill records and prints what each record composes to, in hex, or the line that
 // refuses it.
 #include "filledRecords.h"
 
@@ -23,7 +23,7 @@ int main()
     std::memset(static_cast<void*>(record.get()), 0xA5, sizeof *record); // what the statements leave must not matter
     for (const Fill* fill = fills; *fill != nullptr; ++fill)
     {
-        (*fill)(record.get());
+        (*fill)(*record);
         std::vector<UINT8> octets(8192);
         size_t length = 0;
         char error[512];

@@ -1,10 +1,10 @@
-// What cppRecords writes and filledRecords runs.
+// Statements that fill records, which filledRecords.cpp runs.
 #ifndef FILLEDRECORDS_H
 #define FILLEDRECORDS_H
 
 #include "rrcCodec/rrcCodec.h"
 
-using Fill = void (*)(RrcCellGroupCfg_t* record);
+using Fill = void (*)(RrcCellGroupCfg_t& record);
 
 // The last one is null.
 extern const Fill fills[];

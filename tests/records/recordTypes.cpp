@@ -1,4 +1,5 @@
-// Prints the description of the records, a line for each field: TYPE FIELD OFFSET OCTETS ENTRIES BITS.
+// Prints the description of the records, a line for each field: TYPE FIELD OFFSET OCTETS ENTRIES BITS. BITS are those
+// of a bit field that leaves some of its octets out.
 #include <cstdio>
 
 #include "rrcCodec/rrcCodec.h"
@@ -16,8 +17,8 @@ int main()
         for (UINT32 i = 0; i < type.fieldCount; ++i)
         {
             const RrcRecordField& field = type.fields[i];
-            std::printf("%s %s %u %u %u %u\n", type.name, field.name, field.offset, field.size, field.bound,
-                        field.bitWidth);
+            const unsigned bits = field.bitWidth == 8 * field.size ? 0U : field.bitWidth;
+            std::printf("%s %s %u %u %u %u\n", type.name, field.name, field.offset, field.size, field.bound, bits);
         }
     }
     return witness == nullptr ? 0 : 1;
