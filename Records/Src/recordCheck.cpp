@@ -479,13 +479,13 @@ private:
                 }
                 break;
             case RrcRecordCheckOp::Records:
-                if (!guarded)
+                if (!guarded && !isEmpty(type, op, record))
                 {
                     entries(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Field:
-                if (!guarded && isChosen(frame, type.fields[i], i))
+                if (!guarded && !isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
                 {
                     field(at(frame, i));
                 }
@@ -497,6 +497,12 @@ private:
                 break;
             }
         }
+    }
+
+    // Whether an array has no entries, as most have.
+    static bool isEmpty(const RrcRecordType& type, const RrcRecordCheckOp& op, const unsigned char* record)
+    {
+        return op.count >= 0 && bitsAt(type.checks[op.count].size, record + type.checks[op.count].offset) == 0;
     }
 
     // Whether the record's choices leave a field.
