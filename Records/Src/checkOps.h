@@ -31,6 +31,7 @@ struct RrcRecordCheckOp
     UINT8 code;
     UINT8 size; // of the field
     UINT8 isSigned;
+    INT16 count; // of an array: the field that says how many entries are used; -1: none
 };
 static_assert(sizeof(RrcRecordCheckOp) <= 32);
 
@@ -121,6 +122,7 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
         op.offset = field.offset;
         op.guard = guard.octet;
         op.guardMask = guard.mask;
+        op.count = field.count;
         op.size = static_cast<UINT8>(field.size);
         op.isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0 ? 1 : 0;
     }

@@ -212,73 +212,33 @@ INT64 valueNamed(const Type& type, INT64 number)
     return -1;
 }
 
-// "A, B and C"
-class Listing
-{
-public:
-    Listing(Line& line, unsigned count, const char* last) : line_(line), left_(count), last_(last) {}
-
-    void add(const char* name)
-    {
-        separate();
-        append(line_, "%s", name);
-    }
-    void add(unsigned number)
-    {
-        separate();
-        append(line_, "%u", number);
-    }
-
-private:
-    void separate()
-    {
-        if (begun_)
-        {
-            append(line_, "%s", left_ == 1 ? last_ : ", ");
-        }
-        begun_ = true;
-        --left_;
-    }
-
-    Line& line_;
-    unsigned left_;
-    const char* last_;
-    bool begun_ = false;
-};
-
-// Bits of a mask by their numbers: "bit 5", "bits 5 and 9".
+// Bits of a mask by their numbers: "bit 5", "bits 0..3, 9".
 void appendBits(Line& line, UINT64 bits)
 {
-    const auto count = static_cast<unsigned>(std::popcount(bits));
-    append(line, count == 1 ? "bit " : "bits ");
-    Listing listing(line, count, " and ");
-    for (; bits != 0; bits &= bits - 1)
+    append(line, std::has_single_bit(bits) ? "bit " : "bits ");
+    const char* separator = "";
+    while (bits != 0)
     {
-        listing.add(static_cast<unsigned>(std::countr_zero(bits)));
+        const int first = std::countr_zero(bits);
+        const int count = std::countr_one(bits >> first);
+        append(line, count == 1 ? "%s%d" : "%s%d..%d", separator, first, first + count - 1);
+        separator = ", ";
+        bits &= ~(records::lowBits(static_cast<unsigned>(count)) << first);
     }
 }
 
-void appendBitNames(Line& line, const RrcRecordType& type, UINT16 mask, UINT64 bits, const char* last)
+// Those that choose.
+void appendBitNames(Line& line, const RrcRecordType& type, const RrcRecordChoice& choice)
 {
-    Listing listing(line, static_cast<unsigned>(std::popcount(bits)), last);
-    for (UINT32 i = 0; i < type.bitCount; ++i)
-    {
-        if (type.bits[i].mask == mask && (bits >> type.bits[i].number & 1) != 0)
-        {
-            listing.add(type.bits[i].name);
-        }
-    }
-}
-
-// The bits of a mask that choose.
-UINT64 choosingBits(const RrcRecordChoice& choice)
-{
-    UINT64 bits = 0;
+    const char* separator = "";
     for (UINT32 i = 0; i < choice.optionCount; ++i)
     {
-        bits |= choice.options[i].number < 0 ? 0 : UINT64{1} << choice.options[i].number;
+        if (choice.options[i].bit >= 0)
+        {
+            append(line, "%s%s", separator, type.bits[choice.options[i].bit].name);
+            separator = ", ";
+        }
     }
-    return bits;
 }
 
 // Paths.
@@ -507,9 +467,9 @@ private:
                 }
                 break;
             case RrcRecordCheckOp::Count:
-                if (guarded ? bitsAt(op.size, record + op.offset) != 0 : !isInRange(op, record + op.offset))
+                if (!guarded && !isInRange(op, record + op.offset))
                 {
-                    count(at(frame, i), !guarded);
+                    count(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Record:
@@ -519,13 +479,13 @@ private:
                 }
                 break;
             case RrcRecordCheckOp::Records:
-                if (!guarded)
+                if (!guarded && !isEmpty(type, op, record))
                 {
                     entries(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Field:
-                if (!guarded && isChosen(frame, type.fields[i], i))
+                if (!guarded && !isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
                 {
                     field(at(frame, i));
                 }
@@ -537,6 +497,12 @@ private:
                 break;
             }
         }
+    }
+
+    // Whether an array has no entries, as most have.
+    static bool isEmpty(const RrcRecordType& type, const RrcRecordCheckOp& op, const unsigned char* record)
+    {
+        return op.count >= 0 && bitsAt(type.checks[op.count].size, record + type.checks[op.count].offset) == 0;
     }
 
     // Whether the record's choices leave a field.
@@ -559,14 +525,9 @@ private:
 
     void doubtful(Frame& frame)
     {
-        const RrcRecordField& field = frame.at();
         if (rrcRecordIsRead(&frame.type, frame.record, frame.field) != 0)
         {
             this->field(frame);
-        }
-        else if (field.kind == RRC_FIELD_COUNT && field.choice < 0 && rrcRecordBits(&field, frame.record, 0) != 0)
-        {
-            count(frame, false);
         }
     }
 
@@ -645,7 +606,7 @@ private:
         case RRC_FIELD_COUNT:
             if (!isInRange(type.checks[frame.field], static_cast<const unsigned char*>(frame.place())))
             {
-                count(frame, true);
+                count(frame);
             }
             break;
         case RRC_FIELD_OCTETS:
@@ -1015,25 +976,21 @@ private:
     {
         const RrcRecordChoice& choice = frame.type.choices[index];
         const RrcRecordField& selector = frame.type.fields[choice.selector];
-        const UINT64 value = bitsAt(selector.size, static_cast<const unsigned char*>(frame.record) + selector.offset);
         const RrcRecordOption*& option = frame.chosen[index];
-        if (choice.byNumber != 0)
+        option = nullptr;
+        if (choice.byNumber != 0 && selector.guard < 0) // mostly they are numbered in their order
         {
-            // Mostly they are numbered in their order.
-            const UINT64 likely = value - static_cast<UINT64>(choice.options[0].number);
-            const bool known = selector.guard < 0 && likely < choice.optionCount &&
-                               choice.options[likely].number == static_cast<INT64>(value);
-            option = known ? choice.options + likely : rrcRecordChosen(&frame.type, frame.record, index);
-            if (option == nullptr || option->sentAs != option->alternative)
-            {
-                chosenByNumber(at(frame, choice.selector), choice, option);
-            }
-            return;
+            const auto* const place = static_cast<const unsigned char*>(frame.record) + selector.offset;
+            const UINT64 number = bitsAt(selector.size, place);
+            const UINT64 likely = number - static_cast<UINT64>(choice.options[0].number);
+            const bool known =
+                likely < choice.optionCount && choice.options[likely].number == static_cast<INT64>(number);
+            option = known ? choice.options + likely : nullptr;
         }
-        option = rrcRecordChosen(&frame.type, frame.record, index);
-        if (option == nullptr || !std::has_single_bit(value))
+        option = option != nullptr ? option : rrcRecordChosen(&frame.type, frame.record, index);
+        if (option == nullptr && isSent(at(frame, choice.selector), choice))
         {
-            chosenByBits(at(frame, choice.selector), choice, option, value & choosingBits(choice));
+            notChosen(frame, choice);
         }
     }
 
@@ -1051,108 +1008,49 @@ private:
         return sent;
     }
 
-    [[gnu::noinline]] void chosenByNumber(Frame& frame, const RrcRecordChoice& choice, const RrcRecordOption* option)
+    [[gnu::noinline]] void notChosen(Frame& frame, const RrcRecordChoice& choice)
     {
-        const RrcRecordField& field = frame.at();
-        if (!isSent(frame, choice))
+        const auto make = [&](Texts& texts)
         {
-            return;
-        }
-        const Type& type = *choice.way.target;
-        const UINT64 number = rrcRecordBits(&field, frame.record, 0);
-        const auto allowed = [&](Texts& texts)
-        {
-            const RrcRecordOption& first = choice.options[0];
-            const RrcRecordOption& last = choice.options[choice.optionCount - 1];
             Line found(texts.found, sizeof texts.found);
-            append(found, "%" PRIu64, UINT64{number});
-            if (option != nullptr)
+            Line allowed(texts.allowed, sizeof texts.allowed);
+            Line words(texts.words, sizeof texts.words);
+            Line advice(texts.advice, sizeof texts.advice);
+            if (choice.byNumber != 0)
             {
-                append(found, " %s", type.names[option->alternative]);
+                append(found, "%" PRIu64, UINT64{rrcRecordBits(&frame.at(), frame.record, 0)});
+                appendOption(allowed, choice, choice.options[0]);
+                append(allowed, " .. ");
+                appendOption(allowed, choice, choice.options[choice.optionCount - 1]);
+                append(words, "is refused: no alternative's number, not in %s", texts.allowed);
+                append(advice, "store the number of an alternative");
             }
-            Line range(texts.allowed, sizeof texts.allowed);
-            append(range, "%d %s .. %d %s", int{first.number}, type.names[first.alternative], int{last.number},
-                   type.names[last.alternative]);
-        };
-        if (option == nullptr)
-        {
-            say(frame, generalRules::alternative,
-                [&](Texts& texts)
-                {
-                    allowed(texts);
-                    Line words(texts.words, sizeof texts.words);
-                    append(words, "is refused: the number of no alternative, not in %s", texts.allowed);
-                    Line advice(texts.advice, sizeof texts.advice);
-                    append(advice, "store the number of an alternative");
-                    if (field.guard >= 0)
-                    {
-                        append(advice, ", or clear %s", frame.type.bits[field.guard].name);
-                    }
-                });
-            return;
-        }
-        say(frame, generalRules::sentAs,
-            [&](Texts& texts)
+            else
             {
-                allowed(texts);
-                Line words(texts.words, sizeof texts.words);
-                append(words, "is sent as %s", type.names[option->sentAs]);
-                Line advice(texts.advice, sizeof texts.advice);
-                append(advice, "store the number of another alternative");
-            });
+                append(found, "no bit");
+                append(allowed, "one of ");
+                appendBitNames(allowed, frame.type, choice);
+                append(words, "is refused: %s has no alternative",
+                       choice.way.path[0] != '\0' ? choice.way.path : frame.type.path);
+                append(advice, "set the bit of one alternative");
+            }
+            if (frame.at().guard >= 0)
+            {
+                append(advice, ", or clear %s", frame.type.bits[frame.at().guard].name);
+            }
+        };
+        say(frame, generalRules::alternative, make);
     }
 
-    [[gnu::noinline]] void chosenByBits(Frame& frame, const RrcRecordChoice& choice, const RrcRecordOption* option,
-                                        UINT64 bits)
+    static void appendOption(Line& line, const RrcRecordChoice& choice, const RrcRecordOption& option)
     {
-        const RrcRecordType& type = frame.type;
-        if ((option != nullptr && (bits & (bits - 1)) == 0) || !isSent(frame, choice))
-        {
-            return;
-        }
-        const auto names = [&](Texts& texts)
-        {
-            Line allowed(texts.allowed, sizeof texts.allowed);
-            append(allowed, "one of ");
-            appendBitNames(allowed, type, choice.selector, choosingBits(choice), ", ");
-        };
-        if (option == nullptr)
-        {
-            say(frame, generalRules::alternative,
-                [&](Texts& texts)
-                {
-                    names(texts);
-                    Line found(texts.found, sizeof texts.found);
-                    append(found, "no bit");
-                    Line words(texts.words, sizeof texts.words);
-                    append(words, "is refused: %s has no alternative",
-                           choice.way.path[0] != '\0' ? choice.way.path : "the choice");
-                    Line advice(texts.advice, sizeof texts.advice);
-                    append(advice, "set the bit of one alternative");
-                    if (frame.at().guard >= 0)
-                    {
-                        append(advice, ", or clear %s", type.bits[frame.at().guard].name);
-                    }
-                });
-            return;
-        }
-        say(frame, generalRules::alternatives,
-            [&](Texts& texts)
-            {
-                names(texts);
-                Line found(texts.found, sizeof texts.found);
-                appendBitNames(found, type, choice.selector, bits, " and ");
-                Line words(texts.words, sizeof texts.words);
-                append(words, "are sent as %s alone", choice.way.target->names[option->sentAs]);
-                Line advice(texts.advice, sizeof texts.advice);
-                append(advice, "set one of them");
-            });
+        append(line, "%d %s", int{option.number}, choice.way.target->names[option.alternative]);
     }
 
     // --- lists
 
-    // A count that is out of range, or has no list to count.
-    [[gnu::noinline]] void count(Frame& frame, bool isRead)
+    // A count that is out of range. Where further entries are left out, a row says so.
+    [[gnu::noinline]] void count(Frame& frame)
     {
         const RrcRecordField& field = frame.at();
         const RrcRecordType& type = frame.type;
@@ -1168,51 +1066,21 @@ private:
             Line allowed(to.allowed, sizeof to.allowed);
             append(allowed, "%" PRIu64 "..%" PRIu64, UINT64{lower}, UINT64{upper});
         };
-        if (!isRead)
+        if (arrival > upper && ((field.flags & RRC_FIELD_REST_NOT_SENT) != 0 || isCountedUnsent(frame)))
         {
-            if (!isCountedUnsent(frame))
-            {
-                say(
-                    frame, generalRules::countAlone,
-                    [&](Texts& to)
-                    {
-                        texts(to);
-                        Line words(to.words, sizeof to.words);
-                        append(words, "%s not sent: %s is clear", number == 1 ? "is" : "are", bit);
-                        Line advice(to.advice, sizeof to.advice);
-                        append(advice, "set %s, or store 0", bit);
-                    },
-                    0, bit);
-            }
+            return;
         }
-        else if (arrival > upper && (field.flags & RRC_FIELD_REST_NOT_SENT) != 0)
+        if (arrival > upper)
         {
-            say(
-                frame, generalRules::count,
+            say(frame, generalRules::count,
                 [&](Texts& to)
                 {
                     texts(to);
                     Line words(to.words, sizeof to.words);
-                    append(words, "are sent as %" PRIu64 ": there are no more", UINT64{upper});
+                    append(words, "is refused: not in %s", to.allowed);
                     Line advice(to.advice, sizeof to.advice);
-                    append(advice, "store %" PRIu64 " or less", UINT64{upper});
-                },
-                RRC_RECORD_WARNING);
-        }
-        else if (arrival > upper)
-        {
-            if (!isCountedUnsent(frame))
-            {
-                say(frame, generalRules::count,
-                    [&](Texts& to)
-                    {
-                        texts(to);
-                        Line words(to.words, sizeof to.words);
-                        append(words, "is refused: not in %s", to.allowed);
-                        Line advice(to.advice, sizeof to.advice);
-                        append(advice, "give at most %" PRIu64 " entr%s", UINT64{upper}, upper == 1 ? "y" : "ies");
-                    });
-            }
+                    append(advice, "give at most %" PRIu64 " entr%s", UINT64{upper}, upper == 1 ? "y" : "ies");
+                });
         }
         else if (arrival < lower)
         {
@@ -1299,8 +1167,8 @@ private:
         }
     };
 
-    // False: its entries have none, or the record does not hold it.
-    static bool identityOf(const RrcRecordField& list, const Type& type, Identity& identity)
+    // False: its entries have none, or the record does not hold it. The entries of a list that releases are identities.
+    static bool identityOf(const RrcRecordField& list, const Type& type, bool isOwn, Identity& identity)
     {
         if (type.kind != Kind::List && type.kind != Kind::Array)
         {
@@ -1309,7 +1177,7 @@ private:
         identity = {&list, nullptr};
         if (list.record == nullptr)
         {
-            return type.identity == rtx::ownIdentity;
+            return isOwn || type.identity == rtx::ownIdentity;
         }
         for (UINT32 i = 0; i < list.record->fieldCount && type.identity >= 0; ++i)
         {
@@ -1334,7 +1202,7 @@ private:
         const rtx::Need* const needs = listed.container->needs;
         const bool releases = needs != nullptr && needs[listed.member].list == rtx::ListRole::Release;
         Identity identity = {};
-        if ((count > 1 || releases) && identityOf(field, *listed.list, identity))
+        if ((count > 1 || releases) && identityOf(field, *listed.list, releases, identity))
         {
             different(frame, identity, count);
             if (releases && needs[listed.member].partner >= 0)
@@ -1410,7 +1278,7 @@ private:
                                    other.way.steps[way.stepCount - 1] == RRC_STEP_ENTRY;
             Identity others = {};
             if (!isPartner || rrcRecordIsRead(&type, frame.record, i) == 0 ||
-                !identityOf(other, *listOf(type.element, other.way).list, others))
+                !identityOf(other, *listOf(type.element, other.way).list, false, others))
             {
                 continue;
             }
