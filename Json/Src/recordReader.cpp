@@ -174,8 +174,8 @@ private:
     void tellUnread(const Structure& all, std::uint32_t index)
     {
         const RrcRecordField& field = all.type.fields[index];
-        const bool isOther = field.kind == RRC_FIELD_UNION &&
-                             rrcRecordMember(&all.type, all.record, index) != all.given.members[index];
+        const bool isOther =
+            field.kind == RRC_FIELD_UNION && rrcRecordMember(&all.type, all.record, index) != all.given.members[index];
         if (rrcRecordIsRead(&all.type, all.record, index) != 0 && !isOther)
         {
             return;
