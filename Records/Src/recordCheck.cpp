@@ -482,6 +482,18 @@ private:
             const bool guarded = op.guardMask != 0 && (record[op.guard] & op.guardMask) == 0;
             switch (op.code)
             {
+            case RrcRecordCheckOp::Octet:
+                if (!guarded && record[op.offset] - static_cast<UINT64>(op.lower) > op.span)
+                {
+                    number(at(frame, i));
+                }
+                break;
+            case RrcRecordCheckOp::Two:
+                if (!guarded && bitsAt(2, record + op.offset) - static_cast<UINT64>(op.lower) > op.span)
+                {
+                    number(at(frame, i));
+                }
+                break;
             case RrcRecordCheckOp::Number:
                 if (!guarded && !isInRange(op, record + op.offset))
                 {
@@ -489,7 +501,7 @@ private:
                 }
                 break;
             case RrcRecordCheckOp::Mask:
-                if (!guarded && (bitsAt(op.size, record + op.offset) & op.span & records::lowBits(8U * op.size)) != 0)
+                if (!guarded && (bitsAt(op.size, record + op.offset) & op.span) != 0)
                 {
                     mask(at(frame, i));
                 }
@@ -506,18 +518,55 @@ private:
                     inner(at(frame, i), record + op.offset, nullptr);
                 }
                 break;
-            case RrcRecordCheckOp::List:
+            case RrcRecordCheckOp::Records:
                 if (!guarded)
                 {
                     entries(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Field:
-                field(at(frame, i));
+                if (!guarded && isChosen(frame, type.fields[i], i))
+                {
+                    field(at(frame, i));
+                }
+                break;
+            case RrcRecordCheckOp::Doubtful:
+                doubtful(at(frame, i));
                 break;
             default:
                 break;
             }
+        }
+    }
+
+    // Whether the record's choices leave a field.
+    static bool isChosen(const Frame& frame, const RrcRecordField& field, UINT32 index)
+    {
+        if (field.choice < 0)
+        {
+            return true;
+        }
+        const RrcRecordOption* const option = frame.chosen[field.choice];
+        return option != nullptr && (field.alternative < 0 ? option->field == static_cast<INT32>(index)
+                                                           : option->sentAs == field.alternative);
+    }
+
+    // Entries that are read.
+    static UINT32 entriesOf(const Frame& frame)
+    {
+        return frame.at().bound == 0 ? 1 : rrcRecordEntries(&frame.type, frame.record, frame.field);
+    }
+
+    void doubtful(Frame& frame)
+    {
+        const RrcRecordField& field = frame.at();
+        if (rrcRecordIsRead(&frame.type, frame.record, frame.field) != 0)
+        {
+            this->field(frame);
+        }
+        else if (field.kind == RRC_FIELD_COUNT && field.choice < 0 && rrcRecordBits(&field, frame.record, 0) != 0)
+        {
+            count(frame, false);
         }
     }
 
@@ -567,7 +616,7 @@ private:
     // The structures of an array.
     void entries(Frame& frame, const Type* content = nullptr)
     {
-        const UINT32 count = rrcRecordEntries(&frame.type, frame.record, frame.field);
+        const UINT32 count = entriesOf(frame);
         identities(frame, count);
         for (UINT32 i = 0; i < count && !ended_; ++i)
         {
@@ -576,20 +625,11 @@ private:
         }
     }
 
-    // Any field, by the description alone.
+    // Any field that is read, by the description alone.
     [[gnu::noinline]] void field(Frame& frame)
     {
         const RrcRecordType& type = frame.type;
         const RrcRecordField& field = frame.at();
-        if (rrcRecordIsRead(&type, frame.record, frame.field) == 0)
-        {
-            if (field.kind == RRC_FIELD_COUNT && field.guard >= 0 && field.choice < 0 &&
-                rrcRecordBits(&field, frame.record, 0) != 0)
-            {
-                count(frame, false);
-            }
-            return;
-        }
         if ((field.flags & RRC_FIELD_NOT_SENT) != 0)
         {
             unsent(frame);
@@ -615,7 +655,7 @@ private:
             entries(frame, content);
             break;
         case RRC_FIELD_UNION:
-            for (UINT32 i = 0; i < rrcRecordEntries(&type, frame.record, frame.field) && !ended_; ++i)
+            for (UINT32 i = 0, count = entriesOf(frame); i < count && !ended_; ++i)
             {
                 member(frame, i, option, content);
             }
@@ -642,7 +682,7 @@ private:
 
     void numbers(Frame& frame)
     {
-        const UINT32 count = rrcRecordEntries(&frame.type, frame.record, frame.field);
+        const UINT32 count = entriesOf(frame);
         identities(frame, count);
         const bool isValue = frame.at().kind == RRC_FIELD_VALUE;
         const RrcRecordCheckOp& op = frame.type.checks[frame.field];
@@ -974,20 +1014,26 @@ private:
     void choose(Frame& frame, UINT32 index)
     {
         const RrcRecordChoice& choice = frame.type.choices[index];
-        frame.chosen[index] = rrcRecordChosen(&frame.type, frame.record, index);
-        const RrcRecordOption* const option = frame.chosen[index];
+        const RrcRecordField& selector = frame.type.fields[choice.selector];
+        const UINT64 value = bitsAt(selector.size, static_cast<const unsigned char*>(frame.record) + selector.offset);
+        const RrcRecordOption*& option = frame.chosen[index];
         if (choice.byNumber != 0)
         {
+            // Mostly they are numbered in their order.
+            const UINT64 likely = value - static_cast<UINT64>(choice.options[0].number);
+            const bool known = selector.guard < 0 && likely < choice.optionCount &&
+                               choice.options[likely].number == static_cast<INT64>(value);
+            option = known ? choice.options + likely : rrcRecordChosen(&frame.type, frame.record, index);
             if (option == nullptr || option->sentAs != option->alternative)
             {
                 chosenByNumber(at(frame, choice.selector), choice, option);
             }
             return;
         }
-        const UINT64 bits = rrcRecordBits(&frame.type.fields[choice.selector], frame.record, 0) & choosingBits(choice);
-        if (option == nullptr || (bits & (bits - 1)) != 0)
+        option = rrcRecordChosen(&frame.type, frame.record, index);
+        if (option == nullptr || !std::has_single_bit(value))
         {
-            chosenByBits(at(frame, choice.selector), choice, option, bits);
+            chosenByBits(at(frame, choice.selector), choice, option, value & choosingBits(choice));
         }
     }
 
@@ -1060,7 +1106,7 @@ private:
                                         UINT64 bits)
     {
         const RrcRecordType& type = frame.type;
-        if (!isSent(frame, choice))
+        if ((option != nullptr && (bits & (bits - 1)) == 0) || !isSent(frame, choice))
         {
             return;
         }
