@@ -55,7 +55,9 @@ class AsnType:
         self.upper = int(self._word(text, "upper") or 0)
         self.is_setup = self._word(text, "setupRelease") == "true"
         self.names = []
+        self.root_count = int(self._word(text, "rootCount") or 0)
         self.members = []  # (type, optional)
+        self.places = []  # of the members: the offset and the number of the presence flag, as C++
 
     @staticmethod
     def _word(text, key):
@@ -82,8 +84,9 @@ class Schema:
             found.names = re.findall(r'"([^"]*)"', names.get(symbol, ""))
             for line in members.get(symbol, "").splitlines():
                 inner, rest = re.match(r"\s*member\(type_(\w+), (.*)\),$", line).groups()
-                flag = re.search(r"\), (-?\d+)", rest)
-                found.members.append((self.types[inner], flag is not None and flag.group(1) != "-1"))
+                place, flag = re.match(r"(offsetof\(.*?\)|\d+)(?:, (-?\d+))?", rest).groups(default="-1")
+                found.members.append((self.types[inner], flag != "-1"))
+                found.places.append((place, flag))
         self.named = {found.name: found for found in self.types.values()}
 
     def absolute(self, path):
@@ -853,6 +856,7 @@ class Writer:
         return (
             f"// {GENERATED}\n// clang-format off\n"
             '#include "rrcRecordType.h"\n\n'
+            '#include "NR-RRC-Definitions.h"\n'
             f'#include "NR-RRC-Tables.h"\n#include "checkOps.h"\n{includes}\n\n#include <cstddef>\n\n'
             "namespace\n{\n\n" + "\n".join(ways) + "\n\n" + "\n".join(bodies) + "\n} // namespace\n\n"
             f"const RrcRecordType* const rrcRecordTypes[] = {{\n{listed}\n}};\n\n"
@@ -882,10 +886,12 @@ class Writer:
                 for index, choice in enumerate(made.choices)
             )
             lines.append(f"constexpr RrcRecordChoice choices_{made.symbol}[] = {{\n{text}}};\n")
-        held = f"sizeof({struct.expression}), fields_{made.symbol}, {f'bits_{made.symbol}' if bits else 'nullptr'}, {len(bits)}"
+        sources = "".join(f"    {self.source(made.element, described)},\n" for described in made.fields)
+        lines.append(f"constexpr RrcRecordSource sources_{made.symbol}[] = {{\n{sources}}};\n")
+        guards = f"{f'bits_{made.symbol}' if bits else 'nullptr'}, {len(bits)}"
+        held = f"sizeof({struct.expression}), fields_{made.symbol}, sources_{made.symbol}, {guards}"
         lines.append(f"constexpr auto ops_{made.symbol} = records::opsOf<records::opCount({held})>({held});\n")
-        checked = held.split(", ", 1)[1]
-        lines.append(f"constexpr auto checks_{made.symbol} = records::checkOpsOf({checked});\n")
+        lines.append(f"constexpr auto checks_{made.symbol} = records::checkOpsOf(fields_{made.symbol}, {guards});\n")
         lines.append(
             f"constexpr RrcRecordType type_{made.symbol} = {{{quoted(struct.name)}, {quoted(struct.file)}, "
             f"{quoted(made.path)}, {quoted(made.note)}, &nr_rrc::type_{made.element.symbol}, "
@@ -896,6 +902,17 @@ class Writer:
             f"{self.numbers.get(struct.name, 'RRC_NO_RECORD_NUMBER')}}};\n"
         )
         return "".join(lines)
+
+    @staticmethod
+    def source(element, described):
+        """The member of the element that a field's way begins with, where it is in the root of a sequence."""
+        steps = described.way.steps if described.way is not None else []
+        if not steps or element.kind != "Sequence" or steps[0] >= element.root_count:
+            return "{}"
+        kind = element.members[steps[0]][0]
+        width = {"Integer": kind.width, "Enumerated": 4, "Boolean": 1}.get(kind.kind, 0)
+        place, flag = element.places[steps[0]]
+        return f"{{{place}, {flag}, {width}, {int(kind.kind == 'Integer' and kind.lower < 0)}, 1}}"
 
     def field(self, struct, described):
         field = described.field

@@ -69,13 +69,18 @@ public:
         if (answer.said == Said::Yes && guard >= 0)
         {
             const RrcRecordBit& bit = type_.bits[guard];
-            add(type_.fields[bit.mask].offset + bit.number / 8U, static_cast<UINT8>(1U << bit.number % 8));
+            add(type_.fields[bit.mask], bit.number);
         }
         else if (answer.said == Said::No)
         {
             refused_ |= guard < 0 ? 0 : UINT64{1} << guard;
             complete_ = complete_ && answer.optional;
         }
+    }
+
+    void add(const RrcRecordField& mask, unsigned number)
+    {
+        add(mask.offset + number / 8U, static_cast<UINT8>(1U << number % 8));
     }
 
     void add(UINT32 octet, UINT8 bit)
@@ -111,27 +116,16 @@ public:
     // Fills a record from its element, which is null where it is absent or empty. False: the record cannot say it.
     bool fill(const RrcRecordType& type, const void* element, void* record) const
     {
-        clear(type, record);
+        const RrcRecordOp* const first = clear(type, record);
         Guards guards(type, record);
         for (UINT32 i = 0; i < type.choiceCount; ++i)
         {
             guards.add(choose(type, i, element, record, guards), type.fields[type.choices[i].selector].guard);
         }
-        // What is stored may lie anywhere for all the compiler knows: so nothing is read again for each field.
-        const Type& of = *type.element;
-        const rtx::Member* const members = of.members;
-        const unsigned rootCount = of.kind == Kind::Sequence ? of.rootCount : 0;
         const RrcRecordOp* const end = type.ops + type.opCount;
-        for (const RrcRecordOp* op = type.ops; op != end; ++op)
+        for (const RrcRecordOp* op = first; op != end; ++op)
         {
-            const UINT8 code = op->code;
-            if (code == RrcRecordOp::Clear)
-            {
-                continue;
-            }
-            const unsigned step = op->step;
-            const rtx::Member* const member = step < rootCount ? members + step : nullptr;
-            if (element == nullptr || (member != nullptr && !rtx::isPresent(*member, element)))
+            if (element == nullptr || (op->flag >= 0 && !rtx::hasFlag(element, op->flag)))
             {
                 if (op->isReadAnyway)
                 {
@@ -139,21 +133,22 @@ public:
                 }
                 continue;
             }
-            if (member == nullptr || code >= RrcRecordOp::Field)
+            const UINT8 code = op->code;
+            if (code >= RrcRecordOp::Field)
             {
                 slow(type, *op, element, record, guards);
                 continue;
             }
-            const void* const content = rtx::at(element, *member);
+            const void* const content = static_cast<const OSOCTET*>(element) + op->from;
             OSOCTET* const to = static_cast<OSOCTET*>(record) + op->offset;
             const UINT32 guard = op->guard;
             const UINT8 guardMask = op->guardMask;
-            const bool said = code == RrcRecordOp::Number   ? storeNumber(*op, *member, content, to)
+            const bool said = code == RrcRecordOp::Number   ? storeNumber(*op, content, to)
                               : code == RrcRecordOp::Record ? fill(*type.fields[op->index].record, content, to)
-                                                            : list(type, *op, {member->type, content}, record);
+                                                            : list(type, *op, content, record);
             if (!said)
             {
-                guards.add({Said::No, member->flag >= 0}, type.fields[op->index].guard);
+                guards.add({Said::No, op->flag >= 0}, type.fields[op->index].guard);
             }
             else if (guardMask != 0)
             {
@@ -168,14 +163,15 @@ public:
     }
 
 private:
-    [[gnu::noinline]] bool list(const RrcRecordType& type, const RrcRecordOp& op, const Place& place,
+    [[gnu::noinline]] bool list(const RrcRecordType& type, const RrcRecordOp& op, const void* content,
                                 void* record) const
     {
         const RrcRecordField& field = type.fields[op.index];
+        const Place place = {type.element->members[field.way.steps[0]].type, content};
         UINT32 used = 0;
         forEntries(place, field.bound,
                    [&](const void* data) { used += fill(*field.record, data, placeOf(field, record, used)) ? 1 : 0; });
-        rrcRecordStore(&type.fields[field.count], record, 0, used);
+        storeCount(type.fields[field.count], used, record);
         return used != 0;
     }
 
@@ -195,26 +191,9 @@ private:
         }
     }
 
-    static bool storeNumber(const RrcRecordOp& op, const rtx::Member& member, const void* from, void* to)
+    static bool storeNumber(const RrcRecordOp& op, const void* from, void* to)
     {
-        const bool isSigned = member.lower < 0;
-        int64_t number = 0;
-        switch (member.step)
-        {
-        case rtx::Step::Value1:
-            number = rtx::loadInteger(from, 1, isSigned);
-            break;
-        case rtx::Step::Value2:
-            number = rtx::loadInteger(from, 2, isSigned);
-            break;
-        case rtx::Step::Value4:
-            number = rtx::loadInteger(from, 4, isSigned);
-            break;
-        default:
-            number = rtx::loadNumber(*member.type, from);
-            break;
-        }
-        return storeNumber(number, op.size, op.isSigned, to);
+        return storeNumber(rtx::loadInteger(from, op.fromSize, op.fromSigned != 0), op.size, op.isSigned != 0, to);
     }
 
     // Of the resource sets that are released the ids beyond the number of added sets go out as 0.
@@ -226,28 +205,25 @@ private:
         record.numResourceSetRel = static_cast<UINT8>(end - ids);
     }
 
-    // Masks, counts and all that is sent without being switched on.
-    static void clear(const RrcRecordType& type, void* record)
+    // Masks, counts and all that is sent without being switched on. Returns the first op that is none of these.
+    static const RrcRecordOp* clear(const RrcRecordType& type, void* record)
     {
+        const RrcRecordOp* op = type.ops;
         if (type.size <= records::smallRecord)
         {
             std::memset(record, 0, type.size);
-            return;
+            return op;
         }
-        for (const RrcRecordOp* op = type.ops; op != type.ops + type.opCount && op->code == RrcRecordOp::Clear; ++op)
+        for (; op != type.ops + type.opCount && op->code == RrcRecordOp::Clear; ++op)
         {
             std::memset(static_cast<OSOCTET*>(record) + op->offset, 0, op->guard);
         }
+        return op;
     }
 
     static void* placeOf(const RrcRecordField& field, void* record, UINT32 index)
     {
         return static_cast<unsigned char*>(record) + field.offset + size_t{index} * field.size;
-    }
-
-    static void setBit(const RrcRecordField& mask, unsigned number, void* record)
-    {
-        rrcRecordStore(&mask, record, 0, rrcRecordBits(&mask, record, 0) | UINT64{1} << number);
     }
 
     // The way in the tree.
@@ -401,7 +377,7 @@ private:
         }
         else if (option->number >= 0)
         {
-            setBit(selector, static_cast<unsigned>(option->number), record);
+            guards.add(selector, static_cast<unsigned>(option->number));
         }
         // The field that the option names is the first of those that hold the alternative.
         for (UINT32 i = option->field < 0 ? type.fieldCount : static_cast<UINT32>(option->field); i < type.fieldCount;
@@ -497,7 +473,7 @@ private:
         forEntries(list, field.bound, each);
         if (field.count >= 0)
         {
-            rrcRecordStore(&type.fields[field.count], record, 0, used);
+            storeCount(type.fields[field.count], used, record);
             return used != 0;
         }
         for (UINT32 i = used; i < field.bound; ++i)
@@ -529,7 +505,7 @@ private:
         }
         if (field.kind == RRC_FIELD_RECORD)
         {
-            clear(*field.record, to);
+            (void)clear(*field.record, to);
         }
         const auto which = static_cast<UINT32>(member);
         return this->field(*field.record, which, place.value, to, -1, content).said == Said::Yes;
@@ -573,6 +549,11 @@ private:
         default:
             return storeAs<UINT64, INT64>(number, isSigned, to);
         }
+    }
+
+    static void storeCount(const RrcRecordField& count, UINT32 number, void* record)
+    {
+        (void)storeNumber(number, count.size, false, placeOf(count, record, 0));
     }
 
     template <typename Unsigned, typename Signed>

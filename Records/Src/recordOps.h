@@ -8,6 +8,16 @@
 #include <array>
 #include <cstddef>
 
+// Where a field's way begins: a member in the root of its record's element.
+struct RrcRecordSource
+{
+    UINT32 offset;
+    INT16 flag; // bit number of its presence flag, -1 for a mandatory member
+    UINT8 size; // of a number, in octets
+    bool isSigned;
+    bool isThere; // false: the way begins elsewhere
+};
+
 // A field that no choice guards, or a bit that sends a member without a field.
 struct RrcRecordOp
 {
@@ -20,17 +30,19 @@ struct RrcRecordOp
         Send,   // a bit
         Clear   // `guard` octets from `offset` on
     };
-    static constexpr UINT16 noStep = RRC_STEP_ENTRY;
 
     UINT32 offset;   // of the field
     UINT32 guard;    // of the octet that holds the guard
-    UINT16 step;     // the first one into the element, or noStep
-    UINT16 index;    // of the field or the bit
+    UINT16 from;     // of the member
+    UINT8 index;     // of the field or the bit
+    INT8 flag;       // of the member, -1: it is mandatory, or looked for by `Field` or `Send`
     UINT8 guardMask; // the bit in that octet; 0: none
     UINT8 code;
     UINT8 size : 6;         // Number: of the field
     UINT8 isSigned : 1;     // Number: as the field is read
     UINT8 isReadAnyway : 1; // something has to be stored although the member is absent
+    UINT8 fromSize : 7;     // Number: of the member
+    UINT8 fromSigned : 1;   // Number: as the member is read
 };
 static_assert(sizeof(RrcRecordOp) <= 16);
 
@@ -69,25 +81,30 @@ constexpr Guard guardOf(const RrcRecordField& field, const RrcRecordField* field
     return {fields[bit.mask].offset + bit.number / 8U, static_cast<UINT8>(1U << bit.number % 8)};
 }
 
-constexpr RrcRecordOp opOf(const RrcRecordField* fields, UINT16 index, const RrcRecordBit* bits)
+constexpr RrcRecordOp opOf(const RrcRecordField* fields, const RrcRecordSource& source, UINT16 index,
+                           const RrcRecordBit* bits)
 {
     const RrcRecordField& field = fields[index];
     RrcRecordOp op = {};
     op.offset = field.offset;
-    op.step = field.way.stepCount == 0 ? RrcRecordOp::noStep : field.way.steps[0];
-    op.index = index;
+    op.index = static_cast<UINT8>(index);
+    op.from = static_cast<UINT16>(source.offset);
+    op.flag = static_cast<INT8>(source.isThere ? source.flag : -1);
+    op.fromSize = source.size & 0x7FU;
+    op.fromSigned = source.isSigned ? 1 : 0;
     const Guard guard = guardOf(field, fields, bits);
     op.guard = guard.octet;
     op.guardMask = guard.mask;
-    const bool isNumber = field.kind == RRC_FIELD_NUMBER || field.kind == RRC_FIELD_ENUMERATED;
+    const bool isNumber = field.kind <= RRC_FIELD_BOOLEAN && source.size != 0;
     const bool isPlain = isNumber && field.way.stepCount == 1 && field.bound == 0 && field.bitWidth == 0;
     const bool isRecord = field.kind == RRC_FIELD_RECORD && field.way.stepCount != 0;
     const bool isMember = field.way.stepCount == 1;
     const bool isList = field.way.stepCount == 2 && field.way.steps[1] == RRC_STEP_ENTRY && field.count >= 0;
-    op.code = isPlain                                    ? RrcRecordOp::Number
-              : isRecord && field.bound == 0 && isMember ? RrcRecordOp::Record
-              : isRecord && field.bound != 0 && isList   ? RrcRecordOp::List
-                                                         : RrcRecordOp::Field;
+    op.code = !source.isThere || source.offset > UINT16_MAX || source.flag > INT8_MAX ? RrcRecordOp::Field
+              : isPlain                                                               ? RrcRecordOp::Number
+              : isRecord && field.bound == 0 && isMember                              ? RrcRecordOp::Record
+              : isRecord && field.bound != 0 && isList                                ? RrcRecordOp::List
+                                                                                      : RrcRecordOp::Field;
     op.size = static_cast<UINT8>(isPlain ? field.size & 0x3FU : 0U);
     const bool isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0;
     op.isSigned = isSigned ? 1 : 0;
@@ -99,8 +116,8 @@ constexpr RrcRecordOp opOf(const RrcRecordField* fields, UINT16 index, const Rrc
 
 // Gives all of a record's to a sink.
 template <std::size_t Fields, typename Sink>
-constexpr void forOps(UINT32 size, const RrcRecordField (&fields)[Fields], const RrcRecordBit* bits, UINT16 bitCount,
-                      const Sink& sink)
+constexpr void forOps(UINT32 size, const RrcRecordField (&fields)[Fields], const RrcRecordSource (&sources)[Fields],
+                      const RrcRecordBit* bits, UINT16 bitCount, const Sink& sink)
 {
     for (UINT16 i = 0; i < Fields && size > smallRecord; ++i)
     {
@@ -120,7 +137,7 @@ constexpr void forOps(UINT32 size, const RrcRecordField (&fields)[Fields], const
     {
         if (isTaken(fields[i]))
         {
-            sink(opOf(fields, i, bits));
+            sink(opOf(fields, sources[i], i, bits));
         }
     }
     for (UINT16 i = 0; i < bitCount; ++i)
@@ -129,28 +146,30 @@ constexpr void forOps(UINT32 size, const RrcRecordField (&fields)[Fields], const
         {
             RrcRecordOp send = {};
             send.code = RrcRecordOp::Send;
-            send.step = RrcRecordOp::noStep;
-            send.index = i;
+            send.flag = -1;
+            send.index = static_cast<UINT8>(i);
             sink(send);
         }
     }
 }
 
 template <std::size_t Fields>
-constexpr UINT16 opCount(UINT32 size, const RrcRecordField (&fields)[Fields], const RrcRecordBit* bits, UINT16 bitCount)
+constexpr UINT16 opCount(UINT32 size, const RrcRecordField (&fields)[Fields], const RrcRecordSource (&sources)[Fields],
+                         const RrcRecordBit* bits, UINT16 bitCount)
 {
     UINT16 count = 0;
-    forOps(size, fields, bits, bitCount, [&](const RrcRecordOp&) { ++count; });
+    forOps(size, fields, sources, bits, bitCount, [&](const RrcRecordOp&) { ++count; });
     return count;
 }
 
 template <std::size_t Count, std::size_t Fields>
 constexpr std::array<RrcRecordOp, Count> opsOf(UINT32 size, const RrcRecordField (&fields)[Fields],
-                                               const RrcRecordBit* bits, UINT16 bitCount)
+                                               const RrcRecordSource (&sources)[Fields], const RrcRecordBit* bits,
+                                               UINT16 bitCount)
 {
     std::array<RrcRecordOp, Count> ops = {};
     std::size_t used = 0;
-    forOps(size, fields, bits, bitCount, [&](const RrcRecordOp& op) { ops[used++] = op; });
+    forOps(size, fields, sources, bits, bitCount, [&](const RrcRecordOp& op) { ops[used++] = op; });
     return ops;
 }
 
