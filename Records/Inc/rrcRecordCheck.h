@@ -39,7 +39,7 @@ typedef struct RrcRecordRule
         that has a name */
     const char* const* places;
     OSUINT8
-        severity; /**< RrcRecordSeverity_e, the highest that it reports; 0: a fact of which no record can be accused */
+    severity; /**< RrcRecordSeverity_e, the highest that it reports; 0: a fact of which no record can be accused */
 } RrcRecordRule;
 
 /** All rules, in the order of the regions */

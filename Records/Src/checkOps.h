@@ -24,7 +24,7 @@ struct RrcRecordCheckOp
 
     INT64 lower; // of numbers and counts
     UINT64
-        span; // of numbers and counts: how many follow the lower one; Mask: bits of which something may have to be said
+    span; // of numbers and counts: how many follow the lower one; Mask: bits of which something may have to be said
     UINT32 offset;   // of the field
     UINT32 guard;    // of the octet that holds the guard
     UINT8 guardMask; // the bit in that octet; 0: none
@@ -111,7 +111,8 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
                                                           const RrcRecordBit* bits, UINT16 bitCount)
 {
     std::array<RrcRecordCheckOp, Fields> ops = {};
-    for (UINT16 i = 0; i < Fields; ++i)
+    static_assert(Fields <= RRC_RECORD_MAX_FIELDS);
+    for (UINT16 i = 0; i < UINT16{Fields}; ++i)
     {
         const RrcRecordField& field = fields[i];
         const Guard guard = guardOf(field, fields, bits);

@@ -85,8 +85,11 @@ private:
         const RowCheck* check;
         UINT16 next;
     };
-#define RECORD_COUNTED(type, number) +1
-    static constexpr unsigned records = RRC_RECORDS(RECORD_COUNTED);
+#define RECORD_COUNTED(type, number) counted##number,
+    enum : unsigned
+    {
+        RRC_RECORDS(RECORD_COUNTED) records
+    };
 #undef RECORD_COUNTED
 
     Row rows_[room];

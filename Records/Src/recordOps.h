@@ -133,7 +133,7 @@ constexpr void forOps(UINT32 size, const RrcRecordField (&fields)[Fields], const
             sink(clear);
         }
     }
-    for (UINT16 i = 0; i < Fields; ++i)
+    for (UINT16 i = 0; i < UINT16{Fields}; ++i)
     {
         if (isTaken(fields[i]))
         {
