@@ -73,7 +73,7 @@ private:
 
     void add(const RowCheck& check)
     {
-        if (used_ < room) // more are never listed: Records.check counts them
+        if (used_ < room) // a row that found no room would tell nothing, and its test fail
         {
             rows_[used_] = {&check, first_[check.number]};
             first_[check.number] = static_cast<UINT16>(used_++);
@@ -85,12 +85,12 @@ private:
         const RowCheck* check;
         UINT16 next;
     };
-#define RECORD_COUNTED(type, number) +1
-    static constexpr unsigned records = RRC_RECORDS(RECORD_COUNTED);
+#define RECORD_COUNTED(type, number) true,
+    static constexpr bool records[] = {RRC_RECORDS(RECORD_COUNTED)};
 #undef RECORD_COUNTED
 
     Row rows_[room];
-    UINT16 first_[records];
+    UINT16 first_[sizeof records];
     unsigned used_ = 0;
 };
 
@@ -431,6 +431,7 @@ private:
         const RrcRecordType& type = frame.type;
         current_ = &frame;
         rows_.run(type.number, frame.record, *this);
+        current_ = nullptr;
         for (UINT32 i = 0; i < type.choiceCount; ++i)
         {
             choose(frame, i);
@@ -1199,7 +1200,7 @@ private:
             return;
         }
         const Listed listed = listOf(frame.type.element, field.way);
-        const rtx::Need* const needs = listed.container->needs;
+        const rtx::Need* const needs = listed.container == nullptr ? nullptr : listed.container->needs;
         const bool releases = needs != nullptr && needs[listed.member].list == rtx::ListRole::Release;
         Identity identity = {};
         if ((count > 1 || releases) && identityOf(field, *listed.list, releases, identity))

@@ -252,10 +252,10 @@ void schedulingRequests(RrcCellGroupCfg_t& record)
     RrcSRCfg_t& requests = record.macCellGrpCfg.srCfg;
     rrcInit(&requests);
     requests.numSrAddMod = count;
-    for (UINT8 i = 0; i < std::size(requests.srASddMod); ++i)
+    for (unsigned i = 0; i < std::size(requests.srASddMod); ++i)
     {
         rrcInit(&requests.srASddMod[i]);
-        requests.srASddMod[i].srId = i;
+        requests.srASddMod[i].srId = static_cast<UINT8>(i);
     }
 }
 
