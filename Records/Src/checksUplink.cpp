@@ -59,7 +59,7 @@ void schedulingRequestPeriod(const RrcSchedReqResourceCfg_t& r, Report& report)
 {
     if (hasRequestPeriodicity(r) && requestPeriodicities(r) == 0)
     {
-        report.say(rowRules::schedulingRequestPeriod, &r.periodAndOffset.period);
+        report.say(rowRules::schedulingRequestPeriod, &r.presence);
     }
 }
 
