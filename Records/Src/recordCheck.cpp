@@ -521,7 +521,18 @@ private:
     // Entries that are read.
     static UINT32 entriesOf(const Frame& frame)
     {
-        return frame.at().bound == 0 ? 1 : rrcRecordEntries(&frame.type, frame.record, frame.field);
+        const RrcRecordField& field = frame.at();
+        if (field.bound == 0)
+        {
+            return 1;
+        }
+        if (field.count < 0 || frame.type.fields[field.count].bits != 0)
+        {
+            return rrcRecordEntries(&frame.type, frame.record, frame.field);
+        }
+        const RrcRecordCheckOp& count = frame.type.checks[field.count];
+        const UINT64 used = bitsAt(count.size, static_cast<const unsigned char*>(frame.record) + count.offset);
+        return static_cast<UINT32>(std::min<UINT64>(used, field.bound));
     }
 
     void doubtful(Frame& frame)
@@ -1195,7 +1206,9 @@ private:
     void identities(Frame& frame, UINT32 count)
     {
         const RrcRecordField& field = frame.at();
-        if (count == 0 || field.way.stepCount < 2 || field.way.steps[field.way.stepCount - 1] != RRC_STEP_ENTRY)
+        const bool isAlone = count == 1 && field.record != nullptr; // what is released are numbers
+        if (count == 0 || isAlone || field.way.stepCount < 2 ||
+            field.way.steps[field.way.stepCount - 1] != RRC_STEP_ENTRY)
         {
             return;
         }
