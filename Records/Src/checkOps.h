@@ -24,7 +24,7 @@ struct RrcRecordCheckOp
 
     INT64 lower; // of numbers and counts
     UINT64
-        span; // of numbers and counts: how many follow the lower one; Mask: bits of which something may have to be said
+    span; // of numbers and counts: how many follow the lower one; Mask: bits of which something may have to be said
     UINT32 offset;   // of the field
     UINT32 guard;    // of the octet that holds the guard
     UINT8 guardMask; // the bit in that octet; 0: none
@@ -52,7 +52,7 @@ constexpr UINT64 spanOf(const RrcRecordField& field)
 }
 
 // The bits of a mask that are not looked at without more.
-constexpr UINT64 doubtfulBits(UINT16 mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
+constexpr UINT64 doubtfulBits(std::size_t mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
 {
     UINT64 doubtful = ~static_cast<UINT64>(field.upper) & lowBits(8U * field.size);
     for (UINT16 i = 0; i < bitCount; ++i)
@@ -111,7 +111,7 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
                                                           const RrcRecordBit* bits, UINT16 bitCount)
 {
     std::array<RrcRecordCheckOp, Fields> ops = {};
-    for (UINT16 i = 0; i < Fields; ++i)
+    for (std::size_t i = 0; i < Fields; ++i)
     {
         const RrcRecordField& field = fields[i];
         const Guard guard = guardOf(field, fields, bits);
