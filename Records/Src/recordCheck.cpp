@@ -97,11 +97,16 @@ private:
 // A record on the way from the cell group to what is looked at.
 struct Frame
 {
+    Frame(const RrcRecordType& itsType, const void* itsRecord, const Frame* around, const Type* itsContent = nullptr)
+        : type(itsType), record(itsRecord), outer(around), content(itsContent)
+    {
+    }
+
     const RrcRecordType& type;
     const void* record;
     const Frame* outer;
-    const Type* content = nullptr; // of the alternative that it holds, where the record around it chooses
-    UINT32 field = 0;              // that is looked at, and which entry
+    const Type* content; // of the alternative that it holds, where the record around it chooses
+    UINT32 field = 0;    // that is looked at, and which entry
     UINT32 entry = 0;
     const RrcRecordOption* chosen[RRC_RECORD_MAX_CHOICES] = {};
 
