@@ -52,7 +52,7 @@ constexpr UINT64 spanOf(const RrcRecordField& field)
 }
 
 // The bits of a mask that are not looked at without more.
-constexpr UINT64 doubtfulBits(UINT16 mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
+constexpr UINT64 doubtfulBits(std::size_t mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
 {
     UINT64 doubtful = ~static_cast<UINT64>(field.upper) & lowBits(8U * field.size);
     for (UINT16 i = 0; i < bitCount; ++i)
@@ -111,8 +111,7 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
                                                           const RrcRecordBit* bits, UINT16 bitCount)
 {
     std::array<RrcRecordCheckOp, Fields> ops = {};
-    static_assert(Fields <= RRC_RECORD_MAX_FIELDS);
-    for (UINT16 i = 0; i < UINT16{Fields}; ++i)
+    for (std::size_t i = 0; i < Fields; ++i)
     {
         const RrcRecordField& field = fields[i];
         const Guard guard = guardOf(field, fields, bits);

@@ -73,7 +73,7 @@ private:
 
     void add(const RowCheck& check)
     {
-        if (used_ < room) // more are never listed: Records.check counts them
+        if (used_ < room) // a row that found no room would tell nothing, and its test fail
         {
             rows_[used_] = {&check, first_[check.number]};
             first_[check.number] = static_cast<UINT16>(used_++);
@@ -85,26 +85,28 @@ private:
         const RowCheck* check;
         UINT16 next;
     };
-#define RECORD_COUNTED(type, number) counted##number,
-    enum : unsigned
-    {
-        RRC_RECORDS(RECORD_COUNTED) records
-    };
+#define RECORD_COUNTED(type, number) true,
+    static constexpr bool records[] = {RRC_RECORDS(RECORD_COUNTED)};
 #undef RECORD_COUNTED
 
     Row rows_[room];
-    UINT16 first_[records];
+    UINT16 first_[sizeof records];
     unsigned used_ = 0;
 };
 
 // A record on the way from the cell group to what is looked at.
 struct Frame
 {
+    Frame(const RrcRecordType& itsType, const void* itsRecord, const Frame* around, const Type* itsContent = nullptr)
+        : type(itsType), record(itsRecord), outer(around), content(itsContent)
+    {
+    }
+
     const RrcRecordType& type;
     const void* record;
     const Frame* outer;
-    const Type* content = nullptr; // of the alternative that it holds, where the record around it chooses
-    UINT32 field = 0;              // that is looked at, and which entry
+    const Type* content; // of the alternative that it holds, where the record around it chooses
+    UINT32 field = 0;    // that is looked at, and which entry
     UINT32 entry = 0;
     const RrcRecordOption* chosen[RRC_RECORD_MAX_CHOICES] = {};
 
@@ -434,6 +436,7 @@ private:
         const RrcRecordType& type = frame.type;
         current_ = &frame;
         rows_.run(type.number, frame.record, *this);
+        current_ = nullptr;
         for (UINT32 i = 0; i < type.choiceCount; ++i)
         {
             choose(frame, i);
@@ -523,7 +526,18 @@ private:
     // Entries that are read.
     static UINT32 entriesOf(const Frame& frame)
     {
-        return frame.at().bound == 0 ? 1 : rrcRecordEntries(&frame.type, frame.record, frame.field);
+        const RrcRecordField& field = frame.at();
+        if (field.bound == 0)
+        {
+            return 1;
+        }
+        if (field.count < 0 || frame.type.fields[field.count].bits != 0)
+        {
+            return rrcRecordEntries(&frame.type, frame.record, frame.field);
+        }
+        const RrcRecordCheckOp& count = frame.type.checks[field.count];
+        const UINT64 used = bitsAt(count.size, static_cast<const unsigned char*>(frame.record) + count.offset);
+        return static_cast<UINT32>(std::min<UINT64>(used, field.bound));
     }
 
     void doubtful(Frame& frame)
@@ -1197,12 +1211,14 @@ private:
     void identities(Frame& frame, UINT32 count)
     {
         const RrcRecordField& field = frame.at();
-        if (count == 0 || field.way.stepCount < 2 || field.way.steps[field.way.stepCount - 1] != RRC_STEP_ENTRY)
+        const bool isAlone = count == 1 && field.record != nullptr; // what is released are numbers
+        if (count == 0 || isAlone || field.way.stepCount < 2 ||
+            field.way.steps[field.way.stepCount - 1] != RRC_STEP_ENTRY)
         {
             return;
         }
         const Listed listed = listOf(frame.type.element, field.way);
-        const rtx::Need* const needs = listed.container->needs;
+        const rtx::Need* const needs = listed.container == nullptr ? nullptr : listed.container->needs;
         const bool releases = needs != nullptr && needs[listed.member].list == rtx::ListRole::Release;
         Identity identity = {};
         if ((count > 1 || releases) && identityOf(field, *listed.list, releases, identity))

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -293,10 +295,10 @@ void schedulingRequests(RrcCellGroupCfg_t& record)
     RrcSRCfg_t& requests = record.macCellGrpCfg.srCfg;
     rrcInit(&requests);
     requests.numSrAddMod = count;
-    for (UINT8 i = 0; i < std::size(requests.srASddMod); ++i)
+    for (unsigned i = 0; i < std::size(requests.srASddMod); ++i)
     {
         rrcInit(&requests.srASddMod[i]);
-        requests.srASddMod[i].srId = i;
+        requests.srASddMod[i].srId = static_cast<UINT8>(i);
     }
 }
 
@@ -494,6 +496,18 @@ TEST(findings, areFormattedIntoAnyRoom)
     EXPECT_EQ(rrcRecordFindingFormat(&finding, text, 6), line.size());
     EXPECT_STREQ(text, "error");
     EXPECT_EQ(rrcRecordFindingFormat(&finding, nullptr, 0), line.size());
+}
+
+TEST(generalRules, standInTheDocument)
+{
+    std::ifstream file("docs/record.md");
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    for (OSUINT32 i = 0; i < rrcRecordRuleCount; ++i)
+    {
+        const RrcRecordRule& rule = *rrcRecordRules[i];
+        const std::string row = "| `" + std::string(rule.id) + "` | " + rule.field + " |\n";
+        EXPECT_TRUE(rule.region != nullptr || text.find(row) != std::string::npos) << row;
+    }
 }
 
 TEST(generalRules, haveACaseEach)
