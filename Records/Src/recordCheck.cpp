@@ -442,9 +442,11 @@ private:
             choose(frame, i);
         }
         const auto* const record = static_cast<const unsigned char*>(frame.record);
-        for (UINT32 i = 0; i < type.fieldCount && !ended_; ++i)
+        const RrcRecordCheckOp* const ops = type.checks; // no call changes them, which the compiler does not see
+        const UINT32 fields = ended_ ? 0 : type.fieldCount;
+        for (UINT32 i = 0; i < fields; ++i)
         {
-            const RrcRecordCheckOp& op = type.checks[i];
+            const RrcRecordCheckOp& op = ops[i];
             const bool guarded = op.guardMask != 0 && (record[op.guard] & op.guardMask) == 0;
             switch (op.code)
             {
