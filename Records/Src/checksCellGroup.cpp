@@ -25,13 +25,14 @@ void rlcConfigChoice(const RrcRlcCfg_t& r, Report& report)
     oneBit(report, rowRules::rlcConfigChoice, r.bitMask, RRC_RLCCFG_UM_UNI_DL_PRESENCE);
 }
 
-// 2 is how a record says that the field is absent.
+// 2 is how a record says that the field is absent, and may be meant.
 template <typename Record>
 void rlcSnLength(const Record& r, Report& report)
 {
-    if (static_cast<UINT32>(r.snFeildLen) > 2)
+    const auto value = static_cast<UINT32>(r.snFeildLen);
+    if (value > 1)
     {
-        report.say(rowRules::rlcSnLength, &r.snFeildLen);
+        report.say(rowRules::rlcSnLength, value == 2 ? RRC_RECORD_NOTICE : RRC_RECORD_WARNING, &r.snFeildLen);
     }
 }
 

@@ -236,8 +236,7 @@ void bearerRows(Table& table)
                   r.bitMask = RRC_RLCCFG_UM_BI_PRESENCE;
                   r.choice.umBiCfg.dlUmCfg.snFeildLen = static_cast<RrcRlcSnFeildLenUm_e>(2);
                   r.choice.umBiCfg.ulUmCfg.snFeildLen = static_cast<RrcRlcSnFeildLenUm_e>(2);
-              })
-        .asMeant();
+              });
     table.row("record-logical-channel-parameters")
         .sent(bearer, R"({"logicalChannelIdentity":1,"mac-LogicalChannelConfig":{}})",
               [](auto& r)
