@@ -31,9 +31,9 @@ _cellgroupcfg()
                     diff) words="$input --type --json --state" ;;
                     delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
                     apply) words="$input $messages --state $texts $octets" ;;
-                    compose) words="--color --help --verbose $texts $octets" ;;
+                    compose) words="--color --help $texts $octets" ;;
                     record) words="$input --lines --output --cpp" ;;
-                    example) words="--all --color --help --output --verbose"
+                    example) words="--all --color --help --output"
                         [[ $current == -* ]] || words=$(cellgroupcfg example 2>/dev/null | cut -d' ' -f1) ;;
                     check) words="$input $messages --format --severity --fail-on --only --disable --config --no-config --chain
                         $known" ;;

@@ -90,7 +90,7 @@ void Message::readRecord(const Input& input)
     if (rrcEncodeCellGroupCfg(record_.get(), octets_.data(), octets_.size(), &length, error.data(), error.size()) !=
         RRC_COMPOSE_OK)
     {
-        refusal_ = error.c_str();
+        refusal_ = error.substr(0, error.find('\0'));
         return;
     }
     (void)pu_setBuffer(&context_, octets_.data(), length, 0);

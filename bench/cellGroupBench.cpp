@@ -174,13 +174,10 @@ public:
     }
 #endif
 #ifdef RRCRECORDCHECK_H
-    // All that is wrong with the record is counted: nothing is.
-    void recordCheck()
+    // All that is wrong with the record is counted.
+    OSUINT32 recordCheck() const
     {
-        if (rrcCheckCellGroupCfg(record_.get(), nullptr, nullptr) != 0)
-        {
-            fail("recordCheck");
-        }
+        return rrcCheckCellGroupCfg(record_.get(), nullptr, nullptr);
     }
 #endif
 #ifdef RRCDECOMPOSE_H
@@ -343,7 +340,8 @@ void addTypicalCall(Message& m)
         [&m](auto& state) { runWarm(state, [&m] { benchmark::DoNotOptimize(m.recordToJson()); }); });
 #endif
 #ifdef RRCRECORDCHECK_H
-    add("typical_call/record_check", [&m](auto& state) { runWarm(state, [&m] { m.recordCheck(); }); });
+    add("typical_call/record_check",
+        [&m](auto& state) { runWarm(state, [&m] { benchmark::DoNotOptimize(m.recordCheck()); }); });
 #endif
     addCold("typical_call/entry_after_6MB", walk, [&m] { m.entry(); });
     addCold("typical_call/decode_after_6MB", walk, [&m] { m.decode(); });

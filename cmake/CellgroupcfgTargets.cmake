@@ -45,7 +45,8 @@ function(cgc_library target)
         PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti> "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:${CGC_GNU_OPTIONS}>"
     )
     foreach(folder IN LISTS arg_INCLUDES)
-        target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/${folder}>)
+        cmake_path(SET path NORMALIZE "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
+        target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${path}>)
     endforeach()
 
     if(arg_ALIAS)

@@ -36,13 +36,14 @@ struct Input
     size_t length;
     size_t last = 0; // offset of the last mistake
     int mistakes = 0;
+    int unread = 0;
 };
 
 void checkMistake(void* arg, const RrcRecordMistake* found)
 {
     auto& input = *static_cast<Input*>(arg);
     const Asn1Mistake& mistake = found->mistake;
-    ++input.mistakes;
+    ++(found->isUnread != 0 ? input.unread : input.mistakes);
     require(*found->file == '\0', "a mistake in a file");
     require(mistake.offset >= input.last && mistake.offset <= input.length, "a mistake out of its place");
     input.last = mistake.offset;
@@ -58,7 +59,9 @@ int read(RrcCellGroupCfg_t& record, const char* text, size_t length)
 {
     Input input{text, length};
     const int mistakes = rrcRecordFromJson(&record, text, length, nullptr, checkMistake, &input);
-    require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES, "mistakes are counted otherwise");
+    require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES && input.unread <= ASN1_MAX_MISTAKES,
+            "mistakes are counted otherwise");
+    require(mistakes == 0 || input.unread == 0, "a record with mistakes is read");
     return mistakes;
 }
 

@@ -21,7 +21,8 @@ typedef struct RrcRecordMistake
     OSBOOL isUnread;     // no mistake: a field is given that no composition reads, by what the text says elsewhere
 } RrcRecordMistake;
 
-// Called once for each mistake, file by file in the order of the text, of each file behind them for what is not read. Must not throw. May be null.
+// Called once for each mistake, file by file in the order of the text; where there is none, in the same order for what
+// is not read. Must not throw. May be null.
 typedef void (*RrcRecordMistakeSink)(void* arg, const RrcRecordMistake* mistake);
 
 // Reads a record. It is cleared first, all of it: what the text does not give is 0 or absent, masks, counts and

@@ -173,14 +173,16 @@ private:
     // By now all is known that decides it: a mask or an alternative that the text gives wins over what would follow.
     void tellUnread(const Structure& all, std::uint32_t index)
     {
-        if (rrcRecordIsRead(&all.type, all.record, index) != 0)
+        const RrcRecordField& field = all.type.fields[index];
+        const bool isOther =
+            field.kind == RRC_FIELD_UNION && rrcRecordMember(&all.type, all.record, index) != all.given.members[index];
+        if (rrcRecordIsRead(&all.type, all.record, index) != 0 && !isOther)
         {
             return;
         }
-        const RrcRecordField& field = all.type.fields[index];
         const Within within(*this, field.name);
         std::string words = "given, and not read";
-        if (field.guard >= 0)
+        if (field.guard >= 0 && !isOther)
         {
             const RrcRecordBit& bit = all.type.bits[field.guard];
             words += ": " + std::string(bit.name) + " is clear in " + all.type.fields[bit.mask].name;
@@ -682,12 +684,11 @@ private:
     std::vector<Step> steps_; // that lead to a value
 };
 
-int report(std::deque<Source>& sources, RrcRecordMistakeSink sink, void* arg)
+int report(std::deque<Source>& sources, Mistakes Source::*kind, OSBOOL isUnread, RrcRecordMistakeSink sink, void* arg)
 {
     int number = 0;
     for (Source& source : sources)
     {
-        OSBOOL isUnread = 0;
         const auto one = [&](const Asn1Mistake& mistake)
         {
             const RrcRecordMistake whole = {source.file.c_str(), mistake, isUnread};
@@ -700,10 +701,7 @@ int report(std::deque<Source>& sources, RrcRecordMistakeSink sink, void* arg)
         {
             (*static_cast<decltype(one)*>(to))(*mistake);
         };
-        void* const to = const_cast<void*>(static_cast<const void*>(&one));
-        number += source.mistakes.report(source.text, each, to);
-        isUnread = 1;
-        (void)source.unread.report(source.text, each, to);
+        number += (source.*kind).report(source.text, each, const_cast<void*>(static_cast<const void*>(&one)));
     }
     return number;
 }
@@ -723,7 +721,12 @@ int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length
         {
             text::RecordReader(document).run(*rrcRecordTypes[0], record, *root);
         }
-        return text::report(document.sources(), sink, arg);
+        const int mistakes = text::report(document.sources(), &text::Source::mistakes, 0, sink, arg);
+        if (mistakes == 0)
+        {
+            (void)text::report(document.sources(), &text::Source::unread, 1, sink, arg);
+        }
+        return mistakes;
     }
     catch (const std::exception&)
     {

@@ -39,7 +39,7 @@ typedef struct RrcRecordRule
         that has a name */
     const char* const* places;
     OSUINT8
-        severity; /**< RrcRecordSeverity_e, the highest that it reports; 0: a fact of which no record can be accused */
+    severity; /**< RrcRecordSeverity_e, the highest that it reports; 0: a fact of which no record can be accused */
 } RrcRecordRule;
 
 /** All rules, in the order of the regions */
@@ -56,11 +56,15 @@ typedef struct RrcRecordFinding
     const char* element; /**< what the field feeds, from CellGroupConfig on; "" where it feeds nothing */
     const char* found;   /**< what is there: "999", "bits 5 and 9"; with the name of an enumeration's value */
     const char* allowed; /**< the bound: "0..63", "0 ms1 .. 8 ms20"; "" where there is none */
-    const char* words;   /**< what becomes of it, reads on behind found: "is refused: not in 0..63" */
+    const char* words;   /**< what becomes of it, reads on behind found: "is refused: not in 0..63"; of a row, behind a
+                              dash, all that the row says */
     const char* advice;  /**< what to do instead */
 } RrcRecordFinding;
 
-/** One call for each finding, in the order of the record's fields; nonzero ends them */
+/**
+ * One call for each finding; nonzero ends them. They come in the order of the record's fields, where a structure's rows
+ * of docs/behaviour.md and its choices come before its fields.
+ */
 typedef int (*RrcRecordSink)(void* arg, const RrcRecordFinding* finding);
 
 /**

@@ -13,23 +13,28 @@ struct RrcRecordCheckOp
 {
     enum : UINT8
     {
-        Skip,   // nothing of its own can be wrong with it
-        Number, // a number, or what is one as long as it is in range
-        Mask,   // bits
-        Count,  // entries of an array
-        Record, // a structure
-        List,   // structures with their count
-        Field   // any other
+        Skip,    // nothing of its own can be wrong with it
+        Octet,   // a number of an octet without sign, or what is one as long as it is in range
+        Two,     // the same of two octets
+        Number,  // of any other size
+        Mask,    // bits
+        Count,   // entries of an array
+        Record,  // a structure
+        Records, // of an array
+        Field,   // any other
+        Doubtful // the same, and the guard's bit does not tell alone that it is read
     };
 
-    INT64 lower;     // Number, Count
-    UINT64 span;     // Number, Count: how many follow the lower one; Mask: bits of which something may have to be said
+    INT64 lower; // of numbers and counts
+    UINT64
+    span; // of numbers and counts: how many follow the lower one; Mask: bits of which something may have to be said
     UINT32 offset;   // of the field
     UINT32 guard;    // of the octet that holds the guard
     UINT8 guardMask; // the bit in that octet; 0: none
     UINT8 code;
     UINT8 size; // of the field
     UINT8 isSigned;
+    INT16 count; // of an array: the field that says how many entries are used; -1: none
 };
 static_assert(sizeof(RrcRecordCheckOp) <= 32);
 
@@ -67,9 +72,9 @@ constexpr UINT64 spanOf(const RrcRecordField& field)
 }
 
 // The bits of a mask that are not looked at without more.
-constexpr UINT64 doubtfulBits(UINT16 mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
+constexpr UINT64 doubtfulBits(std::size_t mask, const RrcRecordField& field, const RrcRecordBit* bits, UINT16 bitCount)
 {
-    UINT64 doubtful = ~static_cast<UINT64>(field.upper);
+    UINT64 doubtful = ~static_cast<UINT64>(field.upper) & lowBits(8U * field.size);
     for (UINT16 i = 0; i < bitCount; ++i)
     {
         if (bits[i].mask == mask && (bits[i].role == RRC_BIT_NOT_SENT || bits[i].with >= 0))
@@ -81,10 +86,9 @@ constexpr UINT64 doubtfulBits(UINT16 mask, const RrcRecordField& field, const Rr
 }
 
 // Whether the guard's bit alone tells that a field is read.
-constexpr bool isPlainlyRead(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
+constexpr bool isPlainlyGuarded(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
 {
-    return field.choice < 0 &&
-           (field.guard < 0 || (bits[field.guard].with < 0 && fields[bits[field.guard].mask].guard < 0));
+    return field.guard < 0 || (bits[field.guard].with < 0 && fields[bits[field.guard].mask].guard < 0);
 }
 
 constexpr UINT8 checkCodeOf(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
@@ -94,13 +98,20 @@ constexpr UINT8 checkCodeOf(const RrcRecordField& field, const RrcRecordField* f
     {
         return RrcRecordCheckOp::Skip;
     }
-    if (!isPlainlyRead(field, fields, bits) || (field.flags & RRC_FIELD_NOT_SENT) != 0 || field.bitWidth != 0)
+    if (!isPlainlyGuarded(field, fields, bits))
+    {
+        return RrcRecordCheckOp::Doubtful;
+    }
+    if (field.choice >= 0 || (field.flags & RRC_FIELD_NOT_SENT) != 0 || field.bitWidth != 0)
     {
         return RrcRecordCheckOp::Field;
     }
     if (field.kind <= RRC_FIELD_BITS && field.bound == 0)
     {
-        return RrcRecordCheckOp::Number;
+        const bool isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0;
+        return isSigned || field.size > 2 ? RrcRecordCheckOp::Number
+               : field.size == 1          ? RrcRecordCheckOp::Octet
+                                          : RrcRecordCheckOp::Two;
     }
     switch (field.kind)
     {
@@ -109,7 +120,7 @@ constexpr UINT8 checkCodeOf(const RrcRecordField& field, const RrcRecordField* f
     case RRC_FIELD_COUNT:
         return RrcRecordCheckOp::Count;
     case RRC_FIELD_RECORD:
-        return field.bound == 0 ? RrcRecordCheckOp::Record : RrcRecordCheckOp::List;
+        return field.bound == 0 ? RrcRecordCheckOp::Record : RrcRecordCheckOp::Records;
     default:
         return RrcRecordCheckOp::Field;
     }
@@ -120,7 +131,7 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
                                                           const RrcRecordBit* bits, UINT16 bitCount)
 {
     std::array<RrcRecordCheckOp, Fields> ops = {};
-    for (UINT16 i = 0; i < Fields; ++i)
+    for (std::size_t i = 0; i < Fields; ++i)
     {
         const RrcRecordField& field = fields[i];
         const Guard guard = guardOf(field, fields, bits);
@@ -131,6 +142,7 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
         op.offset = field.offset;
         op.guard = guard.octet;
         op.guardMask = guard.mask;
+        op.count = field.count;
         op.size = static_cast<UINT8>(field.size);
         op.isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0 ? 1 : 0;
     }

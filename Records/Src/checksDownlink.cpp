@@ -113,9 +113,13 @@ void csiRsOffset(const RrcCsiResourcePeriodictyAndOffset_t& r, Report& report)
     shortOffset(report, rowRules::csiRsOffset, r.slotsPeriod >= 1 && r.slotsPeriod <= 11, r.offset);
 }
 
-void pdschListCounts(const RrcPdschTimeDomainResourceAllocList_t& r, Report& report)
+// The common part's list has a rule of its own.
+void pdschListCounts(const RrcPdschCfg_t& r, Report& report)
 {
-    notEmpty(report, rowRules::pdschListCounts, r.num);
+    if ((r.bitMask & RRC_PDSCH_CFG_TIMING_ALLOC_PRESENCE) != 0)
+    {
+        notEmpty(report, rowRules::pdschListCounts, r.pdschTimeDomainAllocList.num);
+    }
 }
 
 void rateMatchGroupCount(const RrcRateMatchPatternGroup_t& r, Report& report)

@@ -148,7 +148,7 @@ void cfraResourcesByDefault(const RrcCfra_t& r, Report& report)
     }
     if (r.resources.scirs.numCsirsRecouces == 0)
     {
-        report.say(rowRules::cfraResourcesByDefault, &r.bitMask);
+        report.say(rowRules::cfraResourcesByDefault, &r.resources.scirs.numCsirsRecouces);
     }
     else if ((r.bitMask & RRC_SCIS_RESOURCE) == 0)
     {

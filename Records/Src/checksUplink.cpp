@@ -59,7 +59,7 @@ void schedulingRequestPeriod(const RrcSchedReqResourceCfg_t& r, Report& report)
 {
     if (hasRequestPeriodicity(r) && requestPeriodicities(r) == 0)
     {
-        report.say(rowRules::schedulingRequestPeriod, &r.periodAndOffset.period);
+        report.say(rowRules::schedulingRequestPeriod, &r.presence);
     }
 }
 
@@ -77,9 +77,10 @@ void pucchChoices(const RrcPucchResource_t& r, Report& report)
     oneBit(report, rowRules::pucchChoices, r.presence, RRC_PUCCH_RESOURCE_FORMAT4_PRESENCE);
 }
 
+// None at all has a rule of its own.
 void schedulingRequestChoice(const RrcSchedReqResourceCfg_t& r, Report& report)
 {
-    if (hasRequestPeriodicity(r))
+    if (hasRequestPeriodicity(r) && requestPeriodicities(r) != 0)
     {
         choice(report, rowRules::pucchChoices, &r.presence, requestPeriodicities(r));
     }
@@ -291,10 +292,12 @@ void rachOneHalf(const RrcRachCfgComm_t& r, Report& report)
 void rachCommonChoices(const RrcRachCfgComm_t& r, Report& report)
 {
     oneBit(report, rowRules::rachCommonChoices, r.presence, RRC_RACH_CFG_COMMON_PRACH_ROOT_SEQ_IDX_L139_PRESENCE);
-    if ((r.bitMask & RRC_RACH_CFG_COMMON_SSB_PER_RACH_OCCASION_PREAMBLE_PER_SSB_PRESENCE) != 0)
+    // The bit that is not read has a rule of its own.
+    const UINT64 set = ssbPerOccasion(r);
+    if ((r.bitMask & RRC_RACH_CFG_COMMON_SSB_PER_RACH_OCCASION_PREAMBLE_PER_SSB_PRESENCE) != 0 &&
+        set != RRC_RACH_CFG_COMMON_ONEHALF_PRESENCE)
     {
-        choice(report, rowRules::rachCommonChoices, &r.presence1,
-               ssbPerOccasion(r) & ~UINT64{RRC_RACH_CFG_COMMON_ONEHALF_PRESENCE});
+        choice(report, rowRules::rachCommonChoices, &r.presence1, set & ~UINT64{RRC_RACH_CFG_COMMON_ONEHALF_PRESENCE});
     }
 }
 

@@ -11,13 +11,10 @@
     X(dropped)                                                                                                         \
     X(boolean)                                                                                                         \
     X(alternative)                                                                                                     \
-    X(alternatives)                                                                                                    \
-    X(sentAs)                                                                                                          \
     X(bit)                                                                                                             \
     X(notSent)                                                                                                         \
     X(count)                                                                                                           \
     X(empty)                                                                                                           \
-    X(countAlone)                                                                                                      \
     X(twice)                                                                                                           \
     X(released)
 

@@ -73,7 +73,7 @@ private:
 
     void add(const RowCheck& check)
     {
-        if (used_ < room) // more are never listed: Records.check counts them
+        if (used_ < room) // a row that found no room would tell nothing, and its test fail
         {
             rows_[used_] = {&check, first_[check.number]};
             first_[check.number] = static_cast<UINT16>(used_++);
@@ -85,23 +85,28 @@ private:
         const RowCheck* check;
         UINT16 next;
     };
-#define RECORD_COUNTED(type, number) +1
-    static constexpr unsigned records = RRC_RECORDS(RECORD_COUNTED);
+#define RECORD_COUNTED(type, number) true,
+    static constexpr bool records[] = {RRC_RECORDS(RECORD_COUNTED)};
 #undef RECORD_COUNTED
 
     Row rows_[room];
-    UINT16 first_[records];
+    UINT16 first_[sizeof records];
     unsigned used_ = 0;
 };
 
 // A record on the way from the cell group to what is looked at.
 struct Frame
 {
+    Frame(const RrcRecordType& itsType, const void* itsRecord, const Frame* around, const Type* itsContent = nullptr)
+        : type(itsType), record(itsRecord), outer(around), content(itsContent)
+    {
+    }
+
     const RrcRecordType& type;
     const void* record;
     const Frame* outer;
-    const Type* content = nullptr; // of the alternative that it holds, where the record around it chooses
-    UINT32 field = 0;              // that is looked at, and which entry
+    const Type* content; // of the alternative that it holds, where the record around it chooses
+    UINT32 field = 0;    // that is looked at, and which entry
     UINT32 entry = 0;
     const RrcRecordOption* chosen[RRC_RECORD_MAX_CHOICES] = {};
 
@@ -212,73 +217,33 @@ INT64 valueNamed(const Type& type, INT64 number)
     return -1;
 }
 
-// "A, B and C"
-class Listing
-{
-public:
-    Listing(Line& line, unsigned count, const char* last) : line_(line), left_(count), last_(last) {}
-
-    void add(const char* name)
-    {
-        separate();
-        append(line_, "%s", name);
-    }
-    void add(unsigned number)
-    {
-        separate();
-        append(line_, "%u", number);
-    }
-
-private:
-    void separate()
-    {
-        if (begun_)
-        {
-            append(line_, "%s", left_ == 1 ? last_ : ", ");
-        }
-        begun_ = true;
-        --left_;
-    }
-
-    Line& line_;
-    unsigned left_;
-    const char* last_;
-    bool begun_ = false;
-};
-
-// Bits of a mask by their numbers: "bit 5", "bits 5 and 9".
+// Bits of a mask by their numbers: "bit 5", "bits 0..3, 9".
 void appendBits(Line& line, UINT64 bits)
 {
-    const auto count = static_cast<unsigned>(std::popcount(bits));
-    append(line, count == 1 ? "bit " : "bits ");
-    Listing listing(line, count, " and ");
-    for (; bits != 0; bits &= bits - 1)
+    append(line, std::has_single_bit(bits) ? "bit " : "bits ");
+    const char* separator = "";
+    while (bits != 0)
     {
-        listing.add(static_cast<unsigned>(std::countr_zero(bits)));
+        const int first = std::countr_zero(bits);
+        const int count = std::countr_one(bits >> first);
+        append(line, count == 1 ? "%s%d" : "%s%d..%d", separator, first, first + count - 1);
+        separator = ", ";
+        bits &= ~(records::lowBits(static_cast<unsigned>(count)) << first);
     }
 }
 
-void appendBitNames(Line& line, const RrcRecordType& type, UINT16 mask, UINT64 bits, const char* last)
+// Those that choose.
+void appendBitNames(Line& line, const RrcRecordType& type, const RrcRecordChoice& choice)
 {
-    Listing listing(line, static_cast<unsigned>(std::popcount(bits)), last);
-    for (UINT32 i = 0; i < type.bitCount; ++i)
-    {
-        if (type.bits[i].mask == mask && (bits >> type.bits[i].number & 1) != 0)
-        {
-            listing.add(type.bits[i].name);
-        }
-    }
-}
-
-// The bits of a mask that choose.
-UINT64 choosingBits(const RrcRecordChoice& choice)
-{
-    UINT64 bits = 0;
+    const char* separator = "";
     for (UINT32 i = 0; i < choice.optionCount; ++i)
     {
-        bits |= choice.options[i].number < 0 ? 0 : UINT64{1} << choice.options[i].number;
+        if (choice.options[i].bit >= 0)
+        {
+            append(line, "%s%s", separator, type.bits[choice.options[i].bit].name);
+            separator = ", ";
+        }
     }
-    return bits;
 }
 
 // Paths.
@@ -471,17 +436,32 @@ private:
         const RrcRecordType& type = frame.type;
         current_ = &frame;
         rows_.run(type.number, frame.record, *this);
+        current_ = nullptr;
         for (UINT32 i = 0; i < type.choiceCount; ++i)
         {
             choose(frame, i);
         }
         const auto* const record = static_cast<const unsigned char*>(frame.record);
-        for (UINT32 i = 0; i < type.fieldCount && !ended_; ++i)
+        const RrcRecordCheckOp* const ops = type.checks; // no call changes them, which the compiler does not see
+        const UINT32 fields = ended_ ? 0 : type.fieldCount;
+        for (UINT32 i = 0; i < fields; ++i)
         {
-            const RrcRecordCheckOp& op = type.checks[i];
+            const RrcRecordCheckOp& op = ops[i];
             const bool guarded = op.guardMask != 0 && (record[op.guard] & op.guardMask) == 0;
             switch (op.code)
             {
+            case RrcRecordCheckOp::Octet:
+                if (!guarded && record[op.offset] - static_cast<UINT64>(op.lower) > op.span)
+                {
+                    number(at(frame, i));
+                }
+                break;
+            case RrcRecordCheckOp::Two:
+                if (!guarded && bitsAt(2, record + op.offset) - static_cast<UINT64>(op.lower) > op.span)
+                {
+                    number(at(frame, i));
+                }
+                break;
             case RrcRecordCheckOp::Number:
                 if (!guarded && !isInRange(op, record + op.offset))
                 {
@@ -489,15 +469,15 @@ private:
                 }
                 break;
             case RrcRecordCheckOp::Mask:
-                if (!guarded && (bitsAt(op.size, record + op.offset) & op.span & records::lowBits(8U * op.size)) != 0)
+                if (!guarded && (bitsAt(op.size, record + op.offset) & op.span) != 0)
                 {
                     mask(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Count:
-                if (guarded ? bitsAt(op.size, record + op.offset) != 0 : !isInRange(op, record + op.offset))
+                if (!guarded && !isInRange(op, record + op.offset))
                 {
-                    count(at(frame, i), !guarded);
+                    count(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Record:
@@ -506,18 +486,67 @@ private:
                     inner(at(frame, i), record + op.offset, nullptr);
                 }
                 break;
-            case RrcRecordCheckOp::List:
-                if (!guarded)
+            case RrcRecordCheckOp::Records:
+                if (!guarded && !isEmpty(type, op, record))
                 {
                     entries(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Field:
-                field(at(frame, i));
+                if (!guarded && !isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
+                {
+                    field(at(frame, i));
+                }
+                break;
+            case RrcRecordCheckOp::Doubtful:
+                doubtful(at(frame, i));
                 break;
             default:
                 break;
             }
+        }
+    }
+
+    // Whether an array has no entries, as most have.
+    static bool isEmpty(const RrcRecordType& type, const RrcRecordCheckOp& op, const unsigned char* record)
+    {
+        return op.count >= 0 && bitsAt(type.checks[op.count].size, record + type.checks[op.count].offset) == 0;
+    }
+
+    // Whether the record's choices leave a field.
+    static bool isChosen(const Frame& frame, const RrcRecordField& field, UINT32 index)
+    {
+        if (field.choice < 0)
+        {
+            return true;
+        }
+        const RrcRecordOption* const option = frame.chosen[field.choice];
+        return option != nullptr && (field.alternative < 0 ? option->field == static_cast<INT32>(index)
+                                                           : option->sentAs == field.alternative);
+    }
+
+    // Entries that are read.
+    static UINT32 entriesOf(const Frame& frame)
+    {
+        const RrcRecordField& field = frame.at();
+        if (field.bound == 0)
+        {
+            return 1;
+        }
+        if (field.count < 0 || frame.type.fields[field.count].bits != 0)
+        {
+            return rrcRecordEntries(&frame.type, frame.record, frame.field);
+        }
+        const RrcRecordCheckOp& count = frame.type.checks[field.count];
+        const UINT64 used = bitsAt(count.size, static_cast<const unsigned char*>(frame.record) + count.offset);
+        return static_cast<UINT32>(std::min<UINT64>(used, field.bound));
+    }
+
+    void doubtful(Frame& frame)
+    {
+        if (rrcRecordIsRead(&frame.type, frame.record, frame.field) != 0)
+        {
+            this->field(frame);
         }
     }
 
@@ -567,7 +596,7 @@ private:
     // The structures of an array.
     void entries(Frame& frame, const Type* content = nullptr)
     {
-        const UINT32 count = rrcRecordEntries(&frame.type, frame.record, frame.field);
+        const UINT32 count = entriesOf(frame);
         identities(frame, count);
         for (UINT32 i = 0; i < count && !ended_; ++i)
         {
@@ -576,20 +605,11 @@ private:
         }
     }
 
-    // Any field, by the description alone.
+    // Any field that is read, by the description alone.
     [[gnu::noinline]] void field(Frame& frame)
     {
         const RrcRecordType& type = frame.type;
         const RrcRecordField& field = frame.at();
-        if (rrcRecordIsRead(&type, frame.record, frame.field) == 0)
-        {
-            if (field.kind == RRC_FIELD_COUNT && field.guard >= 0 && field.choice < 0 &&
-                rrcRecordBits(&field, frame.record, 0) != 0)
-            {
-                count(frame, false);
-            }
-            return;
-        }
         if ((field.flags & RRC_FIELD_NOT_SENT) != 0)
         {
             unsent(frame);
@@ -605,7 +625,7 @@ private:
         case RRC_FIELD_COUNT:
             if (!isInRange(type.checks[frame.field], static_cast<const unsigned char*>(frame.place())))
             {
-                count(frame, true);
+                count(frame);
             }
             break;
         case RRC_FIELD_OCTETS:
@@ -615,7 +635,7 @@ private:
             entries(frame, content);
             break;
         case RRC_FIELD_UNION:
-            for (UINT32 i = 0; i < rrcRecordEntries(&type, frame.record, frame.field) && !ended_; ++i)
+            for (UINT32 i = 0, count = entriesOf(frame); i < count && !ended_; ++i)
             {
                 member(frame, i, option, content);
             }
@@ -642,7 +662,7 @@ private:
 
     void numbers(Frame& frame)
     {
-        const UINT32 count = rrcRecordEntries(&frame.type, frame.record, frame.field);
+        const UINT32 count = entriesOf(frame);
         identities(frame, count);
         const bool isValue = frame.at().kind == RRC_FIELD_VALUE;
         const RrcRecordCheckOp& op = frame.type.checks[frame.field];
@@ -974,20 +994,22 @@ private:
     void choose(Frame& frame, UINT32 index)
     {
         const RrcRecordChoice& choice = frame.type.choices[index];
-        frame.chosen[index] = rrcRecordChosen(&frame.type, frame.record, index);
-        const RrcRecordOption* const option = frame.chosen[index];
-        if (choice.byNumber != 0)
+        const RrcRecordField& selector = frame.type.fields[choice.selector];
+        const RrcRecordOption*& option = frame.chosen[index];
+        option = nullptr;
+        if (choice.byNumber != 0 && selector.guard < 0) // mostly they are numbered in their order
         {
-            if (option == nullptr || option->sentAs != option->alternative)
-            {
-                chosenByNumber(at(frame, choice.selector), choice, option);
-            }
-            return;
+            const auto* const place = static_cast<const unsigned char*>(frame.record) + selector.offset;
+            const UINT64 number = bitsAt(selector.size, place);
+            const UINT64 likely = number - static_cast<UINT64>(choice.options[0].number);
+            const bool known =
+                likely < choice.optionCount && choice.options[likely].number == static_cast<INT64>(number);
+            option = known ? choice.options + likely : nullptr;
         }
-        const UINT64 bits = rrcRecordBits(&frame.type.fields[choice.selector], frame.record, 0) & choosingBits(choice);
-        if (option == nullptr || (bits & (bits - 1)) != 0)
+        option = option != nullptr ? option : rrcRecordChosen(&frame.type, frame.record, index);
+        if (option == nullptr && isSent(at(frame, choice.selector), choice))
         {
-            chosenByBits(at(frame, choice.selector), choice, option, bits);
+            notChosen(frame, choice);
         }
     }
 
@@ -1005,108 +1027,49 @@ private:
         return sent;
     }
 
-    [[gnu::noinline]] void chosenByNumber(Frame& frame, const RrcRecordChoice& choice, const RrcRecordOption* option)
+    [[gnu::noinline]] void notChosen(Frame& frame, const RrcRecordChoice& choice)
     {
-        const RrcRecordField& field = frame.at();
-        if (!isSent(frame, choice))
+        const auto make = [&](Texts& texts)
         {
-            return;
-        }
-        const Type& type = *choice.way.target;
-        const UINT64 number = rrcRecordBits(&field, frame.record, 0);
-        const auto allowed = [&](Texts& texts)
-        {
-            const RrcRecordOption& first = choice.options[0];
-            const RrcRecordOption& last = choice.options[choice.optionCount - 1];
             Line found(texts.found, sizeof texts.found);
-            append(found, "%" PRIu64, UINT64{number});
-            if (option != nullptr)
+            Line allowed(texts.allowed, sizeof texts.allowed);
+            Line words(texts.words, sizeof texts.words);
+            Line advice(texts.advice, sizeof texts.advice);
+            if (choice.byNumber != 0)
             {
-                append(found, " %s", type.names[option->alternative]);
+                append(found, "%" PRIu64, UINT64{rrcRecordBits(&frame.at(), frame.record, 0)});
+                appendOption(allowed, choice, choice.options[0]);
+                append(allowed, " .. ");
+                appendOption(allowed, choice, choice.options[choice.optionCount - 1]);
+                append(words, "is refused: no alternative's number, not in %s", texts.allowed);
+                append(advice, "store the number of an alternative");
             }
-            Line range(texts.allowed, sizeof texts.allowed);
-            append(range, "%d %s .. %d %s", int{first.number}, type.names[first.alternative], int{last.number},
-                   type.names[last.alternative]);
-        };
-        if (option == nullptr)
-        {
-            say(frame, generalRules::alternative,
-                [&](Texts& texts)
-                {
-                    allowed(texts);
-                    Line words(texts.words, sizeof texts.words);
-                    append(words, "is refused: the number of no alternative, not in %s", texts.allowed);
-                    Line advice(texts.advice, sizeof texts.advice);
-                    append(advice, "store the number of an alternative");
-                    if (field.guard >= 0)
-                    {
-                        append(advice, ", or clear %s", frame.type.bits[field.guard].name);
-                    }
-                });
-            return;
-        }
-        say(frame, generalRules::sentAs,
-            [&](Texts& texts)
+            else
             {
-                allowed(texts);
-                Line words(texts.words, sizeof texts.words);
-                append(words, "is sent as %s", type.names[option->sentAs]);
-                Line advice(texts.advice, sizeof texts.advice);
-                append(advice, "store the number of another alternative");
-            });
+                append(found, "no bit");
+                append(allowed, "one of ");
+                appendBitNames(allowed, frame.type, choice);
+                append(words, "is refused: %s has no alternative",
+                       choice.way.path[0] != '\0' ? choice.way.path : frame.type.path);
+                append(advice, "set the bit of one alternative");
+            }
+            if (frame.at().guard >= 0)
+            {
+                append(advice, ", or clear %s", frame.type.bits[frame.at().guard].name);
+            }
+        };
+        say(frame, generalRules::alternative, make);
     }
 
-    [[gnu::noinline]] void chosenByBits(Frame& frame, const RrcRecordChoice& choice, const RrcRecordOption* option,
-                                        UINT64 bits)
+    static void appendOption(Line& line, const RrcRecordChoice& choice, const RrcRecordOption& option)
     {
-        const RrcRecordType& type = frame.type;
-        if (!isSent(frame, choice))
-        {
-            return;
-        }
-        const auto names = [&](Texts& texts)
-        {
-            Line allowed(texts.allowed, sizeof texts.allowed);
-            append(allowed, "one of ");
-            appendBitNames(allowed, type, choice.selector, choosingBits(choice), ", ");
-        };
-        if (option == nullptr)
-        {
-            say(frame, generalRules::alternative,
-                [&](Texts& texts)
-                {
-                    names(texts);
-                    Line found(texts.found, sizeof texts.found);
-                    append(found, "no bit");
-                    Line words(texts.words, sizeof texts.words);
-                    append(words, "is refused: %s has no alternative",
-                           choice.way.path[0] != '\0' ? choice.way.path : "the choice");
-                    Line advice(texts.advice, sizeof texts.advice);
-                    append(advice, "set the bit of one alternative");
-                    if (frame.at().guard >= 0)
-                    {
-                        append(advice, ", or clear %s", type.bits[frame.at().guard].name);
-                    }
-                });
-            return;
-        }
-        say(frame, generalRules::alternatives,
-            [&](Texts& texts)
-            {
-                names(texts);
-                Line found(texts.found, sizeof texts.found);
-                appendBitNames(found, type, choice.selector, bits, " and ");
-                Line words(texts.words, sizeof texts.words);
-                append(words, "are sent as %s alone", choice.way.target->names[option->sentAs]);
-                Line advice(texts.advice, sizeof texts.advice);
-                append(advice, "set one of them");
-            });
+        append(line, "%d %s", int{option.number}, choice.way.target->names[option.alternative]);
     }
 
     // --- lists
 
-    // A count that is out of range, or has no list to count.
-    [[gnu::noinline]] void count(Frame& frame, bool isRead)
+    // A count that is out of range. Where further entries are left out, a row says so.
+    [[gnu::noinline]] void count(Frame& frame)
     {
         const RrcRecordField& field = frame.at();
         const RrcRecordType& type = frame.type;
@@ -1122,51 +1085,21 @@ private:
             Line allowed(to.allowed, sizeof to.allowed);
             append(allowed, "%" PRIu64 "..%" PRIu64, UINT64{lower}, UINT64{upper});
         };
-        if (!isRead)
+        if (arrival > upper && ((field.flags & RRC_FIELD_REST_NOT_SENT) != 0 || isCountedUnsent(frame)))
         {
-            if (!isCountedUnsent(frame))
-            {
-                say(
-                    frame, generalRules::countAlone,
-                    [&](Texts& to)
-                    {
-                        texts(to);
-                        Line words(to.words, sizeof to.words);
-                        append(words, "%s not sent: %s is clear", number == 1 ? "is" : "are", bit);
-                        Line advice(to.advice, sizeof to.advice);
-                        append(advice, "set %s, or store 0", bit);
-                    },
-                    0, bit);
-            }
+            return;
         }
-        else if (arrival > upper && (field.flags & RRC_FIELD_REST_NOT_SENT) != 0)
+        if (arrival > upper)
         {
-            say(
-                frame, generalRules::count,
+            say(frame, generalRules::count,
                 [&](Texts& to)
                 {
                     texts(to);
                     Line words(to.words, sizeof to.words);
-                    append(words, "are sent as %" PRIu64 ": there are no more", UINT64{upper});
+                    append(words, "is refused: not in %s", to.allowed);
                     Line advice(to.advice, sizeof to.advice);
-                    append(advice, "store %" PRIu64 " or less", UINT64{upper});
-                },
-                RRC_RECORD_WARNING);
-        }
-        else if (arrival > upper)
-        {
-            if (!isCountedUnsent(frame))
-            {
-                say(frame, generalRules::count,
-                    [&](Texts& to)
-                    {
-                        texts(to);
-                        Line words(to.words, sizeof to.words);
-                        append(words, "is refused: not in %s", to.allowed);
-                        Line advice(to.advice, sizeof to.advice);
-                        append(advice, "give at most %" PRIu64 " entr%s", UINT64{upper}, upper == 1 ? "y" : "ies");
-                    });
-            }
+                    append(advice, "give at most %" PRIu64 " entr%s", UINT64{upper}, upper == 1 ? "y" : "ies");
+                });
         }
         else if (arrival < lower)
         {
@@ -1253,8 +1186,8 @@ private:
         }
     };
 
-    // False: its entries have none, or the record does not hold it.
-    static bool identityOf(const RrcRecordField& list, const Type& type, Identity& identity)
+    // False: its entries have none, or the record does not hold it. The entries of a list that releases are identities.
+    static bool identityOf(const RrcRecordField& list, const Type& type, bool isOwn, Identity& identity)
     {
         if (type.kind != Kind::List && type.kind != Kind::Array)
         {
@@ -1263,7 +1196,7 @@ private:
         identity = {&list, nullptr};
         if (list.record == nullptr)
         {
-            return type.identity == rtx::ownIdentity;
+            return isOwn || type.identity == rtx::ownIdentity;
         }
         for (UINT32 i = 0; i < list.record->fieldCount && type.identity >= 0; ++i)
         {
@@ -1280,15 +1213,17 @@ private:
     void identities(Frame& frame, UINT32 count)
     {
         const RrcRecordField& field = frame.at();
-        if (count == 0 || field.way.stepCount < 2 || field.way.steps[field.way.stepCount - 1] != RRC_STEP_ENTRY)
+        const bool isAlone = count == 1 && field.record != nullptr; // what is released are numbers
+        if (count == 0 || isAlone || field.way.stepCount < 2 ||
+            field.way.steps[field.way.stepCount - 1] != RRC_STEP_ENTRY)
         {
             return;
         }
         const Listed listed = listOf(frame.type.element, field.way);
-        const rtx::Need* const needs = listed.container->needs;
+        const rtx::Need* const needs = listed.container == nullptr ? nullptr : listed.container->needs;
         const bool releases = needs != nullptr && needs[listed.member].list == rtx::ListRole::Release;
         Identity identity = {};
-        if ((count > 1 || releases) && identityOf(field, *listed.list, identity))
+        if ((count > 1 || releases) && identityOf(field, *listed.list, releases, identity))
         {
             different(frame, identity, count);
             if (releases && needs[listed.member].partner >= 0)
@@ -1364,7 +1299,7 @@ private:
                                    other.way.steps[way.stepCount - 1] == RRC_STEP_ENTRY;
             Identity others = {};
             if (!isPartner || rrcRecordIsRead(&type, frame.record, i) == 0 ||
-                !identityOf(other, *listOf(type.element, other.way).list, others))
+                !identityOf(other, *listOf(type.element, other.way).list, false, others))
             {
                 continue;
             }

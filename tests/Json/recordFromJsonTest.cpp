@@ -31,21 +31,34 @@ protected:
         std::filesystem::remove_all(folder_, error);
     }
 
+    struct Told
+    {
+        std::vector<std::string> mistakes;
+        std::vector<std::string> unread;
+    };
+
     // The mistakes, each as FILE:LINE:COLUMN: PATH: WORDS.
     std::vector<std::string> read(const std::string& text, const char* file = nullptr)
     {
-        std::vector<std::string> mistakes;
+        return told(text, file).mistakes;
+    }
+
+    // What is told of fields that are not read, too.
+    Told told(const std::string& text, const char* file = nullptr)
+    {
+        Told all;
         const auto sink = [](void* to, const RrcRecordMistake* found)
         {
             const Asn1Mistake& mistake = found->mistake;
             const std::string name = std::filesystem::path(found->file).filename().string();
-            static_cast<std::vector<std::string>*>(to)->push_back(
-                (name.empty() ? name : name + ":") + std::to_string(mistake.line) + ":" +
-                std::to_string(mistake.column) + ": " + mistake.path + ": " + mistake.words);
+            auto& [mistakes, unread] = *static_cast<Told*>(to);
+            (found->isUnread != 0 ? unread : mistakes)
+                .push_back((name.empty() ? name : name + ":") + std::to_string(mistake.line) + ":" +
+                           std::to_string(mistake.column) + ": " + mistake.path + ": " + mistake.words);
         };
-        const int count = rrcRecordFromJson(record_.get(), text.data(), text.size(), file, sink, &mistakes);
-        EXPECT_EQ(static_cast<std::size_t>(count), mistakes.size());
-        return mistakes;
+        const int count = rrcRecordFromJson(record_.get(), text.data(), text.size(), file, sink, &all);
+        EXPECT_EQ(static_cast<std::size_t>(count), all.mistakes.size());
+        return all;
     }
 
     std::string save(const std::string& name, const std::string& text)
@@ -91,6 +104,25 @@ TEST_F(recordFromJson, masksCountsAndAlternativesFollow)
     EXPECT_EQ(drx.drxOnDurationTimer.milliSeconds, 7);
     EXPECT_EQ(drx.drxLongCycleStartOffset.period, 12);
     EXPECT_EQ(drx.drxLongCycleStartOffset.offset, 9);
+}
+
+TEST_F(recordFromJson, whatIsNotReadIsTold)
+{
+    const Told guarded = told(R"({"bitMask": 0, "macCellGrpCfg": {}, "cellGroupId": 1})");
+    EXPECT_THAT(guarded.mistakes, IsEmpty());
+    EXPECT_THAT(guarded.unread,
+                ElementsAre("1:16: macCellGrpCfg: given, and not read: RRC_CELLGROUPCFG_MAC_PRESENCE is "
+                            "clear in bitMask"));
+    // Of two alternatives the mask lets the higher one win.
+    const Told chosen = told(R"({"rlcBearerCfg": [{
+        "rlcCfg": {"bitMask": ["RRC_RLCCFG_UM_BI_PRESENCE"], "choice": {"amCfg": {}}}}]})");
+    EXPECT_THAT(chosen.mistakes, IsEmpty());
+    EXPECT_THAT(chosen.unread, ElementsAre("2:62: rlcBearerCfg[0].rlcCfg.choice: given, and not read: bitMask chooses "
+                                           "another alternative"));
+    // As long as there are mistakes, these alone.
+    const Told wrong = told(R"({"bitMask": 0, "macCellGrpCfg": {}, "cellGroupID": 1})");
+    EXPECT_EQ(wrong.mistakes.size(), 1U);
+    EXPECT_THAT(wrong.unread, IsEmpty());
 }
 
 TEST_F(recordFromJson, whatIsSaidWins)

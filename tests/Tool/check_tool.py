@@ -869,6 +869,8 @@ def test_help(folder):
         for option in options_of(text[text.index("\nUsage:"):]):
             true(option in options_of(manual), f"the manual tells of {option}")
             true(option in options_of(completion), f"the completion knows {option}")
+        for option in completed("cellgroupcfg", command, "--"):
+            true(option in options_of(text), f"{command} has {option}, which is completed")
     true(completed("cellgroupcfg", "enc") == ["encode"], "a command is completed")
     true(completed("cellgroupcfg", "decode", "--va") == ["--value-notation"], "an option is completed")
     true(completed("cellgroupcfg", "check", "--format", "s") == ["sarif"], "a value is completed")

@@ -383,8 +383,9 @@ TEST(Input, base64)
         {"XKAAAQ==\n", "base64 5ca00001"},
         {"\"XKAAAQ==\",", "base64 5ca00001"},
         // RFC 4648: the alphabets differ in their last two characters.
-        {"+/+/AAAAAAAAAAAAAAAAab==", "refused 1:1: neither hex, a dump, an array, base64, JER, flat lines nor text "
-                                     "with hex, unless it is a binary message that looks like text; say --as binary"},
+        {"+/+/AAAAAAAAAAAAAAAAab==",
+         "refused 1:1: neither hex, a dump, an array, base64, JER, a record, flat lines nor text "
+         "with hex, unless it is a binary message that looks like text; say --as binary"},
         {"+/+/AAAAAAAAAAAAAAAAaQ==", "base64 fbffbf"
                                      "000000000000000000000000"
                                      "69"},
@@ -448,8 +449,9 @@ TEST(Input, logLines)
         {"May  1 12:00:01 host rrc[4711]: ptr 0x7ffe12345678 pdu 5ca00001 (4 bytes)", "log 5ca00001"},
         {"12:00:01.123456 rnti=0x4601 5ca00001", "log 5ca00001"},
         {"12:00:01,123 DEBUG 5ca00001", "log 5ca00001"},
-        {"12:00:01,5ca00001020", "refused 1:1: neither hex, a dump, an array, base64, JER, flat lines nor text with "
-                                 "hex, unless it is a binary message that looks like text; say --as binary"},
+        {"12:00:01,5ca00001020",
+         "refused 1:1: neither hex, a dump, an array, base64, JER, a record, flat lines nor text with "
+         "hex, unless it is a binary message that looks like text; say --as binary"},
         {"12:00:01,5ca000010203", "log 5ca000010203"}, // a table's field, not the time's fraction
         {"12:00:01 5c a0 00 01", "log 5ca00001"},
         {"550e8400-e29b-41d4-a716-446655440000 5ca00001", "log 5ca00001"},
@@ -481,8 +483,9 @@ TEST(Input, logLines)
         {"pdu: 5ca00001020304...", "refused 1:20: the hex is cut short here"},
         {"pdu: \"5ca00001020304\xE2\x80\xA6\"", "refused 1:21: the hex is cut short here"},
         {"pdu: \"5ca00001020304\" [truncated]", "refused 1:21: the hex is cut short here"},
-        {"hello world", "refused 1:1: neither hex, a dump, an array, base64, JER, flat lines nor text with hex, unless "
-                        "it is a binary message that looks like text; say --as binary"},
+        {"hello world",
+         "refused 1:1: neither hex, a dump, an array, base64, JER, a record, flat lines nor text with hex, unless "
+         "it is a binary message that looks like text; say --as binary"},
     });
     EXPECT_EQ(noteOf("x\ny: 5c a0 00 01"), "hex run of 4 octets at column 4 of line 2");
     EXPECT_EQ(outcome("pdu 5ca0", Form::LogLine), "log 5ca0");
@@ -515,7 +518,8 @@ TEST(Input, binaryOrText)
         {"", "refused the input is empty"},
         {" \r\n\t", "refused the input has only blanks and comments"},
         {"# nothing\n", "refused the input has only blanks and comments"},
-        {"\\@", "refused 1:1: neither hex, a dump, an array, base64, JER, flat lines nor text with hex, unless it is a "
+        {"\\@", "refused 1:1: neither hex, a dump, an array, base64, JER, a record, flat lines nor text with hex, "
+                "unless it is a "
                 "binary message that looks like text; say --as binary"},
     });
     EXPECT_EQ(noteOf("\x5c\xa0\x01"), "binary, 3 octets");
@@ -581,7 +585,7 @@ TEST(Form, namesAndTypos)
     EXPECT_EQ(tool::unknownForm("carray"), "unknown form 'carray': did you mean 'c-array'?");
     EXPECT_EQ(tool::unknownForm("BASE46"), "unknown form 'BASE46': did you mean 'base64'?");
     EXPECT_EQ(tool::unknownForm("pcap"), "unknown form 'pcap': the forms are binary, hex, hexdump, c-array, escaped, "
-                                         "base64, jer, flat, log");
+                                         "base64, jer, record, flat, log");
     EXPECT_FALSE(text::nearest("", {}));
 }
 

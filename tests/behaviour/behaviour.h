@@ -50,6 +50,7 @@ auto within(const Place<Outer>& outer, const std::string& element, Step step)
 // One cell group and what comes of it.
 struct Run
 {
+    std::function<void(RrcCellGroupCfg_t&)> empty; // the place as it comes
     std::function<void(RrcCellGroupCfg_t&)> fill;
     std::string message;                                   // the message as JSON; empty: it is refused
     std::string refusal;                                   // the line that says why
@@ -77,7 +78,7 @@ struct Row
     template <typename Record, typename Fill = Nothing>
     Row& sent(const Place<Record>& place, const std::string& element, Fill fill = {})
     {
-        runs.push_back({filling(place, fill), filled(place.message, element), ""});
+        runs.push_back({filling(place, Nothing{}), filling(place, fill), filled(place.message, element), ""});
         return *this;
     }
 
@@ -85,7 +86,7 @@ struct Row
     template <typename Record, typename Fill = Nothing>
     Row& refused(const Place<Record>& place, const std::string& line, Fill fill = {})
     {
-        runs.push_back({filling(place, fill), "", pathTo(place.message) + line});
+        runs.push_back({filling(place, Nothing{}), filling(place, fill), "", pathTo(place.message) + line});
         return *this;
     }
 

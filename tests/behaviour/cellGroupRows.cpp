@@ -211,7 +211,14 @@ void bearerRows(Table& table)
                   r.choice.amCfg.ulAmCfg.snFeildLen = RRC_AM_SIZE18;
                   r.choice.amCfg.ulAmCfg.tPollRetransmit = 9;
               })
-        .refused(rlc, ": tag 0 is not in 1..4");
+        .refused(rlc, ": tag 0 is not in 1..4")
+        .sent(rlc, R"({"um-Uni-Directional-UL":{"ul-UM-RLC":{"sn-FieldLength":"size6"}}})",
+              [](auto& r)
+              {
+                  r.bitMask = RRC_RLCCFG_UM_UNI_UL_PRESENCE;
+                  r.choice.umUniUlCfg.snFeildLen = RRC_UM_SIZE6;
+              })
+        .asMeant();
     table.row("record-rlc-sn-length")
         .sent(
             rlc,

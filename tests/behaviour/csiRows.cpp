@@ -150,6 +150,9 @@ const auto singlePanel = within(type1, R"({"subType":{"typeI-SinglePanel":@},"co
                                     return &panel;
                                 });
 
+const char* const twoPorts = R"({"nrOfAntennaPorts":{"two":{"twoTX-CodebookSubsetRestriction":"000000"}},)"
+                             R"("typeI-SinglePanel-ri-Restriction":"00000000"})";
+
 const auto moreThanTwo =
     within(singlePanel, R"({"nrOfAntennaPorts":{"moreThanTwo":@},"typeI-SinglePanel-ri-Restriction":"00000000"})",
            [](auto& panel)
@@ -257,7 +260,16 @@ void resourceRows(Table& table)
                   sets.numCsiSsbResourceSet = 2;
                   sets.csiSsbResourceSetId[0] = 63;
               });
-    table.row("record-csi-resource-config-empty").sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{}})"));
+    table.row("record-csi-resource-config-empty")
+        .sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{}})"))
+        .sent(resourceConfig, resourceConfigJson(R"({"nzp-CSI-RS-SSB":{"nzp-CSI-RS-ResourceSetList":[63]}})"),
+              [](auto& r)
+              {
+                  auto& sets = r.csiRsResourceSetList.nzpCsiRsResourceSetList;
+                  sets.numNzpCsiRsResourceSet = 1;
+                  sets.nzpCsiRsResourceSetId[0] = 63;
+              })
+        .asMeant();
     table.row("record-csi-resource-choices")
         .sent(resourceConfig, resourceConfigJson(R"({"csi-IM-ResourceSetList":[63]})"),
               [](auto& r)
@@ -452,8 +464,7 @@ void codebookRows(Table& table)
         .asMeant()
         .refused(codebook, ": tag 0 is not in 1..2")
         .refused(type1, ".subType: tag 0 is not in 1..2")
-        .sent(singlePanel, R"({"nrOfAntennaPorts":{"two":{"twoTX-CodebookSubsetRestriction":"000000"}},)"
-                           R"("typeI-SinglePanel-ri-Restriction":"00000000"})")
+        .sent(singlePanel, twoPorts)
         .asMeant()
         .refused(singlePanel, ".nrOfAntennaPorts: tag 0 is not in 1..2",
                  [](auto& r) { r.SinglePanel_nrOfAntennaPorts.Presence = 0; })
@@ -486,7 +497,9 @@ void codebookRows(Table& table)
         .refused(multiPanel, ".ri-Restriction: a bit string of 8 bits, not 4")
         .refused(multiPanel, ".ri-Restriction: a bit string of 0 bits, not 4",
                  [](auto& r) { r.bitMask = RRC_MULTI_PANEL_RESTRICT; })
-        .refused(multiPanel, ".ng-n1-n2: tag 0 is not in 1..8", [](auto& r) { r.bitMask = RRC_RI_RESTRICTION; });
+        .refused(multiPanel, ".ng-n1-n2: tag 0 is not in 1..8", [](auto& r) { r.bitMask = RRC_RI_RESTRICTION; })
+        .sent(singlePanel, twoPorts)
+        .asMeant();
     table.row("record-codebook-mandatory-bits")
         .refused(moreThanTwo, ".n1-n2: tag 0 is not in 1..13",
                  [](auto& r)
@@ -504,7 +517,16 @@ void codebookRows(Table& table)
                   r.phaseAlphabetSize = 1;
                   r.subBandAmplitude = 1;
                   r.numberOfBeams = 2;
-              });
+              })
+        .sent(type2, type2Json("n8", "true", "four"),
+              [](auto& r)
+              {
+                  r.bitMask |= RRC_PHASE_ALPHA_BET_SIZE | RRC_SUB_BAND_AMPLITUDE | RRC_NUM_BER_OFBEAMS;
+                  r.phaseAlphabetSize = 1;
+                  r.subBandAmplitude = 1;
+                  r.numberOfBeams = 2;
+              })
+        .asMeant();
     table.row("record-codebook-type2-upper-bits")
         .sent(type2, type2Json(),
               [](auto& r)

@@ -355,7 +355,14 @@ void pdschRows(Table& table)
         .refused(period, ": tag 0 is not in 1..13")
         .printing("Have no CSI_ResourcePeriodicityAndOffset type\n")
         .refused(period, ": tag 14 is not in 1..13", [](auto& r) { r.slotsPeriod = 14; })
-        .printing("Have no CSI_ResourcePeriodicityAndOffset type\n");
+        .printing("Have no CSI_ResourcePeriodicityAndOffset type\n")
+        .sent(period, R"({"slots640":639})",
+              [](auto& r)
+              {
+                  r.slotsPeriod = 13;
+                  r.offset = 639;
+              })
+        .asMeant();
     table.row("record-csi-rs-offset")
         .sent(period, R"({"slots4":1})",
               [](auto& r)
@@ -422,7 +429,15 @@ void pdschRows(Table& table)
                   r.presence = RRC_RADIO_LINK_MONITOR_SSB_PRESENCE | RRC_RADIO_LINK_MONITOR_CSI_RS_PRESENCE;
                   r.detectionResource.ssbIdx = 63;
               })
-        .refused(monitoring, ".detectionResource: tag 0 is not in 1..2");
+        .refused(monitoring, ".detectionResource: tag 0 is not in 1..2")
+        .sent(monitoring,
+              R"({"radioLinkMonitoringRS-Id":0,"purpose":"beamFailure","detectionResource":{"csi-RS-Index":191}})",
+              [](auto& r)
+              {
+                  r.presence = RRC_RADIO_LINK_MONITOR_CSI_RS_PRESENCE;
+                  r.detectionResource.csiRsIdx = 191;
+              })
+        .asMeant();
 }
 
 void bandwidthPartRows(Table& table)
@@ -439,7 +454,15 @@ void bandwidthPartRows(Table& table)
     table.row("record-pdsch-common-allocations")
         .sent(pdschCommon, "{}", [](auto& r) { r.pdschTimeDomainAllocList.num = 3; })
         .refused(pdschCommon, ".pdsch-TimeDomainAllocationList: 0 elements, not 1..16",
-                 [](auto& r) { r.bitMask = RRC_PDSCH_COMMON_PRESENCE; });
+                 [](auto& r) { r.bitMask = RRC_PDSCH_COMMON_PRESENCE; })
+        .sent(pdschCommon, R"({"pdsch-TimeDomainAllocationList":[{"mappingType":"typeA","startSymbolAndLength":0}]})",
+              [](auto& r)
+              {
+                  r.bitMask = RRC_PDSCH_COMMON_PRESENCE;
+                  r.pdschTimeDomainAllocList.num = 1;
+                  rrcInit(&r.pdschTimeDomainAllocList.alloc[0]);
+              })
+        .asMeant();
     table.row("record-bwp-cyclic-prefix-one-value")
         .sent(
             bwpCommon,

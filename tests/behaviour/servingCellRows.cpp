@@ -314,7 +314,22 @@ void randomAccessRows(Table& table)
                 resource.raOccasionIdx[0] = 511;
             })
         .refused(cfra, ".resources.csirs.csirs-ResourceList: 0 elements, not 1..96",
-                 [](auto& r) { r.bitMask = RRC_CFRA_PREAMBLE_PRESENCE; });
+                 [](auto& r) { r.bitMask = RRC_CFRA_PREAMBLE_PRESENCE; })
+        .sent(
+            cfra,
+            R"({"resources":{"csirs":{"csirs-ResourceList":[{"csi-RS":95,"ra-OccasionList":[0],"ra-PreambleIndex":0}],)"
+            R"("rsrp-ThresholdCSI-RS":0}}})",
+            [](auto& r)
+            {
+                r.bitMask = RRC_SCIS_RESOURCE;
+                auto& csiRs = fresh(r.resources.scirs);
+                csiRs.numCsirsRecouces = 1;
+                auto& resource = fresh(csiRs.csirsResource[0]);
+                resource.csiRSIdx = 95;
+                resource.numRaOccasion = 1;
+                resource.raOccasionIdx[0] = 0;
+            })
+        .asMeant();
     table.row("record-cfra-csi-rs-occasions")
         .refused(cfra, ".resources.csirs.csirs-ResourceList[0].ra-OccasionList: 65 elements, not 1..64",
                  [](auto& r)
