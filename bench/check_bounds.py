@@ -20,7 +20,7 @@ def bounds(found):
     for what, to, bound in (("one_bearer/entry_of_many_switched_off", "one_bearer/entry", 1),
                             ("typical_call/entry_after_malloc", "typical_call/entry_after_nothing", 1.1),
                             ("typical_call/check", "typical_call/entry", 10),
-                            ("typical_call/decompose", "typical_call/decode", 3),
+                            ("typical_call/decompose", "typical_call/decode", 2),
                             ("typical_call/record_check", "typical_call/entry", 3),
                             ("typical_call/record_to_json", "typical_call/entry", 100)):
         yield what, f"x {to}", measured.ratio(found, what, to), bound

@@ -148,9 +148,7 @@ struct RrcRecordType
     const RrcRecordField* fields; /**< in their order */
     const RrcRecordBit* bits;     /**< of all its masks, those of one mask in ascending order */
     const RrcRecordChoice* choices;        /**< that it makes */
-    const struct RrcRecordOp* ops;         /**< the same in short, for rrcDecomposeCellGroupCfg alone */
-    UINT16 opCount;                        /**< of ops */
-    const struct RrcRecordCheckOp* checks; /**< the same of each field, for rrcCheckCellGroupCfg alone */
+    const struct RrcRecordCheckOp* checks; /**< each field in short, for rrcCheckCellGroupCfg alone */
     UINT16 number; /**< that rrcInit knows it by (rrcRecords.h); RRC_NO_RECORD_NUMBER where it has no name of its own */
 };
 

@@ -3,7 +3,10 @@
 #ifndef CHECKOPS_H
 #define CHECKOPS_H
 
-#include "recordOps.h"
+#include "rrcRecordType.h"
+
+#include <array>
+#include <cstddef>
 
 // Of the field with the same index.
 struct RrcRecordCheckOp
@@ -37,6 +40,23 @@ static_assert(sizeof(RrcRecordCheckOp) <= 32);
 
 namespace records
 {
+
+// The octet of a record that holds a bit, and the bit in it; none: no bit.
+struct Guard
+{
+    UINT32 octet = 0;
+    UINT8 mask = 0;
+};
+
+constexpr Guard guardOf(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
+{
+    if (field.guard < 0)
+    {
+        return {};
+    }
+    const RrcRecordBit& bit = bits[field.guard];
+    return {fields[bit.mask].offset + bit.number / 8U, static_cast<UINT8>(1U << bit.number % 8)};
+}
 
 // All that so many bits can hold.
 constexpr UINT64 lowBits(unsigned count)

@@ -2,7 +2,6 @@
 // clang-format off
 #include "rrcRecordType.h"
 
-#include "NR-RRC-Definitions.h"
 #include "NR-RRC-Tables.h"
 #include "checkOps.h"
 #include "gnbCommon/gnbServingCell.h"
@@ -113,76 +112,43 @@ constexpr RrcRecordField fields_RrcUlAmRlcCfg_t[] = {
     {"pollByte", {"pollByte", way_3, 1, &nr_rrc::type_PollByte}, nullptr, nullptr, "", 0, 43, offsetof(RrcUlAmRlcCfg_t, pollByte), sizeof(RrcUlAmRlcCfg_t::pollByte), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"maxRetxThreash", {"maxRetxThreshold", way_4, 1, &nr_rrc::type_UL_AM_RLC_maxRetxThreshold}, nullptr, nullptr, "", 0, 7, offsetof(RrcUlAmRlcCfg_t, maxRetxThreash), sizeof(RrcUlAmRlcCfg_t::maxRetxThreash), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcUlAmRlcCfg_t[] = {
-    {offsetof(UL_AM_RLC, sn_FieldLength), 0, 4, 0, 1},
-    {offsetof(UL_AM_RLC, t_PollRetransmit), -1, 4, 0, 1},
-    {offsetof(UL_AM_RLC, pollPDU), -1, 4, 0, 1},
-    {offsetof(UL_AM_RLC, pollByte), -1, 4, 0, 1},
-    {offsetof(UL_AM_RLC, maxRetxThreshold), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcUlAmRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcUlAmRlcCfg_t), fields_RrcUlAmRlcCfg_t, sources_RrcUlAmRlcCfg_t, nullptr, 0)>(sizeof(RrcUlAmRlcCfg_t), fields_RrcUlAmRlcCfg_t, sources_RrcUlAmRlcCfg_t, nullptr, 0);
 constexpr auto checks_RrcUlAmRlcCfg_t = records::checkOpsOf(fields_RrcUlAmRlcCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcUlAmRlcCfg_t = {"RrcUlAmRlcCfg_t", "rrcCodec/rrcRlc.h", "UL-AM-RLC", "", &nr_rrc::type_UL_AM_RLC, sizeof(RrcUlAmRlcCfg_t), 0, 5, 0, 0, fields_RrcUlAmRlcCfg_t, nullptr, nullptr, ops_RrcUlAmRlcCfg_t.data(), static_cast<UINT16>(ops_RrcUlAmRlcCfg_t.size()), checks_RrcUlAmRlcCfg_t.data(), 223};
+constexpr RrcRecordType type_RrcUlAmRlcCfg_t = {"RrcUlAmRlcCfg_t", "rrcCodec/rrcRlc.h", "UL-AM-RLC", "", &nr_rrc::type_UL_AM_RLC, sizeof(RrcUlAmRlcCfg_t), 0, 5, 0, 0, fields_RrcUlAmRlcCfg_t, nullptr, nullptr, checks_RrcUlAmRlcCfg_t.data(), 223};
 
 constexpr RrcRecordField fields_RrcDlAmRlcCfg_t[] = {
     {"snFeildLen", {"sn-FieldLength", way_0, 1, &nr_rrc::type_SN_FieldLengthAM}, nullptr, nullptr, "", 0, 1, offsetof(RrcDlAmRlcCfg_t, snFeildLen), sizeof(RrcDlAmRlcCfg_t::snFeildLen), 0, 0, RRC_FIELD_ENUMERATED, RRC_FIELD_ELSE_ABSENT, 0, 0, -1, -1, -1, -1},
     {"tReassembly", {"t-Reassembly", way_1, 1, &nr_rrc::type_T_Reassembly}, nullptr, nullptr, "", 0, 30, offsetof(RrcDlAmRlcCfg_t, tReassembly), sizeof(RrcDlAmRlcCfg_t::tReassembly), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"tStatusProhibit", {"t-StatusProhibit", way_2, 1, &nr_rrc::type_T_StatusProhibit}, nullptr, nullptr, "", 0, 61, offsetof(RrcDlAmRlcCfg_t, tStatusProhibit), sizeof(RrcDlAmRlcCfg_t::tStatusProhibit), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcDlAmRlcCfg_t[] = {
-    {offsetof(DL_AM_RLC, sn_FieldLength), 0, 4, 0, 1},
-    {offsetof(DL_AM_RLC, t_Reassembly), -1, 4, 0, 1},
-    {offsetof(DL_AM_RLC, t_StatusProhibit), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcDlAmRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcDlAmRlcCfg_t), fields_RrcDlAmRlcCfg_t, sources_RrcDlAmRlcCfg_t, nullptr, 0)>(sizeof(RrcDlAmRlcCfg_t), fields_RrcDlAmRlcCfg_t, sources_RrcDlAmRlcCfg_t, nullptr, 0);
 constexpr auto checks_RrcDlAmRlcCfg_t = records::checkOpsOf(fields_RrcDlAmRlcCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcDlAmRlcCfg_t = {"RrcDlAmRlcCfg_t", "rrcCodec/rrcRlc.h", "DL-AM-RLC", "", &nr_rrc::type_DL_AM_RLC, sizeof(RrcDlAmRlcCfg_t), 0, 3, 0, 0, fields_RrcDlAmRlcCfg_t, nullptr, nullptr, ops_RrcDlAmRlcCfg_t.data(), static_cast<UINT16>(ops_RrcDlAmRlcCfg_t.size()), checks_RrcDlAmRlcCfg_t.data(), 222};
+constexpr RrcRecordType type_RrcDlAmRlcCfg_t = {"RrcDlAmRlcCfg_t", "rrcCodec/rrcRlc.h", "DL-AM-RLC", "", &nr_rrc::type_DL_AM_RLC, sizeof(RrcDlAmRlcCfg_t), 0, 3, 0, 0, fields_RrcDlAmRlcCfg_t, nullptr, nullptr, checks_RrcDlAmRlcCfg_t.data(), 222};
 
 constexpr RrcRecordField fields_RrcAmRlcCfg_t[] = {
     {"ulAmCfg", {"ul-AM-RLC", way_0, 1, &nr_rrc::type_UL_AM_RLC}, &type_RrcUlAmRlcCfg_t, nullptr, "", 0, 0, offsetof(RrcAmRlcCfg_t, ulAmCfg), sizeof(RrcAmRlcCfg_t::ulAmCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"dlAmCfg", {"dl-AM-RLC", way_1, 1, &nr_rrc::type_DL_AM_RLC}, &type_RrcDlAmRlcCfg_t, nullptr, "", 0, 0, offsetof(RrcAmRlcCfg_t, dlAmCfg), sizeof(RrcAmRlcCfg_t::dlAmCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcAmRlcCfg_t[] = {
-    {offsetof(RLC_Config_am, ul_AM_RLC), -1, 0, 0, 1},
-    {offsetof(RLC_Config_am, dl_AM_RLC), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcAmRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcAmRlcCfg_t), fields_RrcAmRlcCfg_t, sources_RrcAmRlcCfg_t, nullptr, 0)>(sizeof(RrcAmRlcCfg_t), fields_RrcAmRlcCfg_t, sources_RrcAmRlcCfg_t, nullptr, 0);
 constexpr auto checks_RrcAmRlcCfg_t = records::checkOpsOf(fields_RrcAmRlcCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcAmRlcCfg_t = {"RrcAmRlcCfg_t", "rrcCodec/rrcRlc.h", "RLC-Config.am", "", &nr_rrc::type_RLC_Config_am, sizeof(RrcAmRlcCfg_t), 0, 2, 0, 0, fields_RrcAmRlcCfg_t, nullptr, nullptr, ops_RrcAmRlcCfg_t.data(), static_cast<UINT16>(ops_RrcAmRlcCfg_t.size()), checks_RrcAmRlcCfg_t.data(), 221};
+constexpr RrcRecordType type_RrcAmRlcCfg_t = {"RrcAmRlcCfg_t", "rrcCodec/rrcRlc.h", "RLC-Config.am", "", &nr_rrc::type_RLC_Config_am, sizeof(RrcAmRlcCfg_t), 0, 2, 0, 0, fields_RrcAmRlcCfg_t, nullptr, nullptr, checks_RrcAmRlcCfg_t.data(), 221};
 
 constexpr RrcRecordField fields_RrcDlUmRlcCfg_t[] = {
     {"snFeildLen", {"sn-FieldLength", way_0, 1, &nr_rrc::type_SN_FieldLengthUM}, nullptr, nullptr, "", 0, 1, offsetof(RrcDlUmRlcCfg_t, snFeildLen), sizeof(RrcDlUmRlcCfg_t::snFeildLen), 0, 0, RRC_FIELD_ENUMERATED, RRC_FIELD_ELSE_ABSENT, 0, 0, -1, -1, -1, -1},
     {"tDlReassembly", {"t-Reassembly", way_1, 1, &nr_rrc::type_T_Reassembly}, nullptr, nullptr, "", 0, 30, offsetof(RrcDlUmRlcCfg_t, tDlReassembly), sizeof(RrcDlUmRlcCfg_t::tDlReassembly), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcDlUmRlcCfg_t[] = {
-    {offsetof(DL_UM_RLC, sn_FieldLength), 0, 4, 0, 1},
-    {offsetof(DL_UM_RLC, t_Reassembly), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcDlUmRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcDlUmRlcCfg_t), fields_RrcDlUmRlcCfg_t, sources_RrcDlUmRlcCfg_t, nullptr, 0)>(sizeof(RrcDlUmRlcCfg_t), fields_RrcDlUmRlcCfg_t, sources_RrcDlUmRlcCfg_t, nullptr, 0);
 constexpr auto checks_RrcDlUmRlcCfg_t = records::checkOpsOf(fields_RrcDlUmRlcCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcDlUmRlcCfg_t = {"RrcDlUmRlcCfg_t", "rrcCodec/rrcRlc.h", "DL-UM-RLC", "", &nr_rrc::type_DL_UM_RLC, sizeof(RrcDlUmRlcCfg_t), 0, 2, 0, 0, fields_RrcDlUmRlcCfg_t, nullptr, nullptr, ops_RrcDlUmRlcCfg_t.data(), static_cast<UINT16>(ops_RrcDlUmRlcCfg_t.size()), checks_RrcDlUmRlcCfg_t.data(), 220};
+constexpr RrcRecordType type_RrcDlUmRlcCfg_t = {"RrcDlUmRlcCfg_t", "rrcCodec/rrcRlc.h", "DL-UM-RLC", "", &nr_rrc::type_DL_UM_RLC, sizeof(RrcDlUmRlcCfg_t), 0, 2, 0, 0, fields_RrcDlUmRlcCfg_t, nullptr, nullptr, checks_RrcDlUmRlcCfg_t.data(), 220};
 
 constexpr RrcRecordField fields_RrcUlUmRlcCfg_t[] = {
     {"snFeildLen", {"sn-FieldLength", way_0, 1, &nr_rrc::type_SN_FieldLengthUM}, nullptr, nullptr, "", 0, 1, offsetof(RrcUlUmRlcCfg_t, snFeildLen), sizeof(RrcUlUmRlcCfg_t::snFeildLen), 0, 0, RRC_FIELD_ENUMERATED, RRC_FIELD_ELSE_ABSENT, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcUlUmRlcCfg_t[] = {
-    {offsetof(UL_UM_RLC, sn_FieldLength), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcUlUmRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcUlUmRlcCfg_t), fields_RrcUlUmRlcCfg_t, sources_RrcUlUmRlcCfg_t, nullptr, 0)>(sizeof(RrcUlUmRlcCfg_t), fields_RrcUlUmRlcCfg_t, sources_RrcUlUmRlcCfg_t, nullptr, 0);
 constexpr auto checks_RrcUlUmRlcCfg_t = records::checkOpsOf(fields_RrcUlUmRlcCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcUlUmRlcCfg_t = {"RrcUlUmRlcCfg_t", "rrcCodec/rrcRlc.h", "UL-UM-RLC", "", &nr_rrc::type_UL_UM_RLC, sizeof(RrcUlUmRlcCfg_t), 0, 1, 0, 0, fields_RrcUlUmRlcCfg_t, nullptr, nullptr, ops_RrcUlUmRlcCfg_t.data(), static_cast<UINT16>(ops_RrcUlUmRlcCfg_t.size()), checks_RrcUlUmRlcCfg_t.data(), 219};
+constexpr RrcRecordType type_RrcUlUmRlcCfg_t = {"RrcUlUmRlcCfg_t", "rrcCodec/rrcRlc.h", "UL-UM-RLC", "", &nr_rrc::type_UL_UM_RLC, sizeof(RrcUlUmRlcCfg_t), 0, 1, 0, 0, fields_RrcUlUmRlcCfg_t, nullptr, nullptr, checks_RrcUlUmRlcCfg_t.data(), 219};
 
 constexpr RrcRecordField fields_RrcUmBiRlcCfg_t[] = {
     {"dlUmCfg", {"dl-UM-RLC", way_1, 1, &nr_rrc::type_DL_UM_RLC}, &type_RrcDlUmRlcCfg_t, nullptr, "", 0, 0, offsetof(RrcUmBiRlcCfg_t, dlUmCfg), sizeof(RrcUmBiRlcCfg_t::dlUmCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"ulUmCfg", {"ul-UM-RLC", way_0, 1, &nr_rrc::type_UL_UM_RLC}, &type_RrcUlUmRlcCfg_t, nullptr, "", 0, 0, offsetof(RrcUmBiRlcCfg_t, ulUmCfg), sizeof(RrcUmBiRlcCfg_t::ulUmCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcUmBiRlcCfg_t[] = {
-    {offsetof(RLC_Config_um_Bi_Directional, dl_UM_RLC), -1, 0, 0, 1},
-    {offsetof(RLC_Config_um_Bi_Directional, ul_UM_RLC), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcUmBiRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcUmBiRlcCfg_t), fields_RrcUmBiRlcCfg_t, sources_RrcUmBiRlcCfg_t, nullptr, 0)>(sizeof(RrcUmBiRlcCfg_t), fields_RrcUmBiRlcCfg_t, sources_RrcUmBiRlcCfg_t, nullptr, 0);
 constexpr auto checks_RrcUmBiRlcCfg_t = records::checkOpsOf(fields_RrcUmBiRlcCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcUmBiRlcCfg_t = {"RrcUmBiRlcCfg_t", "rrcCodec/rrcRlc.h", "RLC-Config.um-Bi-Directional", "", &nr_rrc::type_RLC_Config_um_Bi_Directional, sizeof(RrcUmBiRlcCfg_t), 0, 2, 0, 0, fields_RrcUmBiRlcCfg_t, nullptr, nullptr, ops_RrcUmBiRlcCfg_t.data(), static_cast<UINT16>(ops_RrcUmBiRlcCfg_t.size()), checks_RrcUmBiRlcCfg_t.data(), 218};
+constexpr RrcRecordType type_RrcUmBiRlcCfg_t = {"RrcUmBiRlcCfg_t", "rrcCodec/rrcRlc.h", "RLC-Config.um-Bi-Directional", "", &nr_rrc::type_RLC_Config_um_Bi_Directional, sizeof(RrcUmBiRlcCfg_t), 0, 2, 0, 0, fields_RrcUmBiRlcCfg_t, nullptr, nullptr, checks_RrcUmBiRlcCfg_t.data(), 218};
 
 constexpr RrcRecordField fields_RrcRlcCfg_t_choice[] = {
     {"amCfg", {"am", way_0, 1, &nr_rrc::type_RLC_Config_am}, &type_RrcAmRlcCfg_t, nullptr, "", 0, 0, offsetof(decltype(RrcRlcCfg_t::choice), amCfg), sizeof(decltype(RrcRlcCfg_t::choice)::amCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -190,15 +156,8 @@ constexpr RrcRecordField fields_RrcRlcCfg_t_choice[] = {
     {"umUniUlCfg", {"um-Uni-Directional-UL.ul-UM-RLC", way_5, 2, &nr_rrc::type_UL_UM_RLC}, &type_RrcUlUmRlcCfg_t, nullptr, "", 0, 0, offsetof(decltype(RrcRlcCfg_t::choice), umUniUlCfg), sizeof(decltype(RrcRlcCfg_t::choice)::umUniUlCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"umUniDlCfg", {"um-Uni-Directional-DL.dl-UM-RLC", way_6, 2, &nr_rrc::type_DL_UM_RLC}, &type_RrcDlUmRlcCfg_t, nullptr, "", 0, 0, offsetof(decltype(RrcRlcCfg_t::choice), umUniDlCfg), sizeof(decltype(RrcRlcCfg_t::choice)::umUniDlCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRlcCfg_t_choice[] = {
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcRlcCfg_t_choice = records::opsOf<records::opCount(sizeof(decltype(RrcRlcCfg_t::choice)), fields_RrcRlcCfg_t_choice, sources_RrcRlcCfg_t_choice, nullptr, 0)>(sizeof(decltype(RrcRlcCfg_t::choice)), fields_RrcRlcCfg_t_choice, sources_RrcRlcCfg_t_choice, nullptr, 0);
 constexpr auto checks_RrcRlcCfg_t_choice = records::checkOpsOf(fields_RrcRlcCfg_t_choice, nullptr, 0);
-constexpr RrcRecordType type_RrcRlcCfg_t_choice = {"RrcRlcCfg_t.choice", "rrcCodec/rrcRlc.h", "", "", &nr_rrc::type_RLC_Config, sizeof(decltype(RrcRlcCfg_t::choice)), 1, 4, 0, 0, fields_RrcRlcCfg_t_choice, nullptr, nullptr, ops_RrcRlcCfg_t_choice.data(), static_cast<UINT16>(ops_RrcRlcCfg_t_choice.size()), checks_RrcRlcCfg_t_choice.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcRlcCfg_t_choice = {"RrcRlcCfg_t.choice", "rrcCodec/rrcRlc.h", "", "", &nr_rrc::type_RLC_Config, sizeof(decltype(RrcRlcCfg_t::choice)), 1, 4, 0, 0, fields_RrcRlcCfg_t_choice, nullptr, nullptr, checks_RrcRlcCfg_t_choice.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcRlcCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "with none the encoder refuses the bearer", 0, 15, offsetof(RrcRlcCfg_t, bitMask), sizeof(RrcRlcCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -219,13 +178,8 @@ constexpr RrcRecordOption options_RrcRlcCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcRlcCfg_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_RLC_Config}, 0, 0, 4, options_RrcRlcCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcRlcCfg_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcRlcCfg_t = records::opsOf<records::opCount(sizeof(RrcRlcCfg_t), fields_RrcRlcCfg_t, sources_RrcRlcCfg_t, bits_RrcRlcCfg_t, 4)>(sizeof(RrcRlcCfg_t), fields_RrcRlcCfg_t, sources_RrcRlcCfg_t, bits_RrcRlcCfg_t, 4);
 constexpr auto checks_RrcRlcCfg_t = records::checkOpsOf(fields_RrcRlcCfg_t, bits_RrcRlcCfg_t, 4);
-constexpr RrcRecordType type_RrcRlcCfg_t = {"RrcRlcCfg_t", "rrcCodec/rrcRlc.h", "RLC-Config", "One bit of bitMask says which member of choice counts; of several the highest does.", &nr_rrc::type_RLC_Config, sizeof(RrcRlcCfg_t), 0, 2, 4, 1, fields_RrcRlcCfg_t, bits_RrcRlcCfg_t, choices_RrcRlcCfg_t, ops_RrcRlcCfg_t.data(), static_cast<UINT16>(ops_RrcRlcCfg_t.size()), checks_RrcRlcCfg_t.data(), 217};
+constexpr RrcRecordType type_RrcRlcCfg_t = {"RrcRlcCfg_t", "rrcCodec/rrcRlc.h", "RLC-Config", "One bit of bitMask says which member of choice counts; of several the highest does.", &nr_rrc::type_RLC_Config, sizeof(RrcRlcCfg_t), 0, 2, 4, 1, fields_RrcRlcCfg_t, bits_RrcRlcCfg_t, choices_RrcRlcCfg_t, checks_RrcRlcCfg_t.data(), 217};
 
 constexpr RrcRecordField fields_RrcUlSpecificParaCfg_t[] = {
     {"priority", {"priority", way_0, 1, &nr_rrc::type_LogicalChannelConfig_ul_SpecificParameters_priority}, nullptr, nullptr, "", 1, 16, offsetof(RrcUlSpecificParaCfg_t, priority), sizeof(RrcUlSpecificParaCfg_t::priority), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -253,26 +207,8 @@ constexpr RrcRecordBit bits_RrcUlSpecificParaCfg_t[] = {
     {"RRC_UL_SPECIFICPARA_SR_CFG_PRESENCE", "", nullptr, {}, 7, 5, RRC_BIT_GUARDS, -1},
     {"RRC_UL_SPECIFICPARA_BITRATE_QUERY_PROHIBIT_TIMER", "", nullptr, {}, 7, 6, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcUlSpecificParaCfg_t[] = {
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, priority), -1, 1, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, prioritisedBitRate), -1, 4, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, bucketSizeDuration), -1, 4, 0, 1},
-    {},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, allowedServingCells), 0, 0, 0, 1},
-    {},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, allowedSCS_List), 1, 0, 0, 1},
-    {},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, maxPUSCH_Duration), 2, 4, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, configuredGrantType1Allowed), 3, 4, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, logicalChannelGroup), 4, 1, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, schedulingRequestID), 5, 1, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, logicalChannelSR_Mask), -1, 1, 0, 1},
-    {offsetof(LogicalChannelConfig_ul_SpecificParameters, logicalChannelSR_DelayTimerApplied), -1, 1, 0, 1},
-    {},
-};
-constexpr auto ops_RrcUlSpecificParaCfg_t = records::opsOf<records::opCount(sizeof(RrcUlSpecificParaCfg_t), fields_RrcUlSpecificParaCfg_t, sources_RrcUlSpecificParaCfg_t, bits_RrcUlSpecificParaCfg_t, 7)>(sizeof(RrcUlSpecificParaCfg_t), fields_RrcUlSpecificParaCfg_t, sources_RrcUlSpecificParaCfg_t, bits_RrcUlSpecificParaCfg_t, 7);
 constexpr auto checks_RrcUlSpecificParaCfg_t = records::checkOpsOf(fields_RrcUlSpecificParaCfg_t, bits_RrcUlSpecificParaCfg_t, 7);
-constexpr RrcRecordType type_RrcUlSpecificParaCfg_t = {"RrcUlSpecificParaCfg_t", "rrcCodec/rrcRlc.h", "LogicalChannelConfig.ul-SpecificParameters", "", &nr_rrc::type_LogicalChannelConfig_ul_SpecificParameters, sizeof(RrcUlSpecificParaCfg_t), 0, 15, 7, 0, fields_RrcUlSpecificParaCfg_t, bits_RrcUlSpecificParaCfg_t, nullptr, ops_RrcUlSpecificParaCfg_t.data(), static_cast<UINT16>(ops_RrcUlSpecificParaCfg_t.size()), checks_RrcUlSpecificParaCfg_t.data(), 216};
+constexpr RrcRecordType type_RrcUlSpecificParaCfg_t = {"RrcUlSpecificParaCfg_t", "rrcCodec/rrcRlc.h", "LogicalChannelConfig.ul-SpecificParameters", "", &nr_rrc::type_LogicalChannelConfig_ul_SpecificParameters, sizeof(RrcUlSpecificParaCfg_t), 0, 15, 7, 0, fields_RrcUlSpecificParaCfg_t, bits_RrcUlSpecificParaCfg_t, nullptr, checks_RrcUlSpecificParaCfg_t.data(), 216};
 
 constexpr RrcRecordField fields_RrcLchCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(RrcLchCfg_t, bitMask), sizeof(RrcLchCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -281,13 +217,8 @@ constexpr RrcRecordField fields_RrcLchCfg_t[] = {
 constexpr RrcRecordBit bits_RrcLchCfg_t[] = {
     {"RRC_LCH_EXPLICIT_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcLchCfg_t[] = {
-    {},
-    {offsetof(LogicalChannelConfig, ul_SpecificParameters), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcLchCfg_t = records::opsOf<records::opCount(sizeof(RrcLchCfg_t), fields_RrcLchCfg_t, sources_RrcLchCfg_t, bits_RrcLchCfg_t, 1)>(sizeof(RrcLchCfg_t), fields_RrcLchCfg_t, sources_RrcLchCfg_t, bits_RrcLchCfg_t, 1);
 constexpr auto checks_RrcLchCfg_t = records::checkOpsOf(fields_RrcLchCfg_t, bits_RrcLchCfg_t, 1);
-constexpr RrcRecordType type_RrcLchCfg_t = {"RrcLchCfg_t", "rrcCodec/rrcRlc.h", "LogicalChannelConfig", "", &nr_rrc::type_LogicalChannelConfig, sizeof(RrcLchCfg_t), 0, 2, 1, 0, fields_RrcLchCfg_t, bits_RrcLchCfg_t, nullptr, ops_RrcLchCfg_t.data(), static_cast<UINT16>(ops_RrcLchCfg_t.size()), checks_RrcLchCfg_t.data(), 215};
+constexpr RrcRecordType type_RrcLchCfg_t = {"RrcLchCfg_t", "rrcCodec/rrcRlc.h", "LogicalChannelConfig", "", &nr_rrc::type_LogicalChannelConfig, sizeof(RrcLchCfg_t), 0, 2, 1, 0, fields_RrcLchCfg_t, bits_RrcLchCfg_t, nullptr, checks_RrcLchCfg_t.data(), 215};
 
 constexpr RrcRecordField fields_RrcRlcBearerCfg_t[] = {
     {"lchId", {"logicalChannelIdentity", way_0, 1, &nr_rrc::type_LogicalChannelIdentity}, nullptr, nullptr, "", 1, 32, offsetof(RrcRlcBearerCfg_t, lchId), sizeof(RrcRlcBearerCfg_t::lchId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -311,30 +242,15 @@ constexpr RrcRecordOption options_RrcRlcBearerCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcRlcBearerCfg_t[] = {
     {{"servedRadioBearer", way_1, 1, &nr_rrc::type_RLC_BearerConfig_servedRadioBearer}, 2, 1, 2, options_RrcRlcBearerCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcRlcBearerCfg_t[] = {
-    {offsetof(RLC_BearerConfig, logicalChannelIdentity), -1, 1, 0, 1},
-    {},
-    {offsetof(RLC_BearerConfig, servedRadioBearer), 0, 0, 0, 1},
-    {},
-    {offsetof(RLC_BearerConfig, reestablishRLC), 1, 4, 0, 1},
-    {offsetof(RLC_BearerConfig, rlc_Config), 2, 0, 0, 1},
-    {offsetof(RLC_BearerConfig, mac_LogicalChannelConfig), 3, 0, 0, 1},
-};
-constexpr auto ops_RrcRlcBearerCfg_t = records::opsOf<records::opCount(sizeof(RrcRlcBearerCfg_t), fields_RrcRlcBearerCfg_t, sources_RrcRlcBearerCfg_t, bits_RrcRlcBearerCfg_t, 4)>(sizeof(RrcRlcBearerCfg_t), fields_RrcRlcBearerCfg_t, sources_RrcRlcBearerCfg_t, bits_RrcRlcBearerCfg_t, 4);
 constexpr auto checks_RrcRlcBearerCfg_t = records::checkOpsOf(fields_RrcRlcBearerCfg_t, bits_RrcRlcBearerCfg_t, 4);
-constexpr RrcRecordType type_RrcRlcBearerCfg_t = {"RrcRlcBearerCfg_t", "rrcCodec/rrcRlc.h", "RLC-BearerConfig", "", &nr_rrc::type_RLC_BearerConfig, sizeof(RrcRlcBearerCfg_t), 0, 7, 4, 1, fields_RrcRlcBearerCfg_t, bits_RrcRlcBearerCfg_t, choices_RrcRlcBearerCfg_t, ops_RrcRlcBearerCfg_t.data(), static_cast<UINT16>(ops_RrcRlcBearerCfg_t.size()), checks_RrcRlcBearerCfg_t.data(), 214};
+constexpr RrcRecordType type_RrcRlcBearerCfg_t = {"RrcRlcBearerCfg_t", "rrcCodec/rrcRlc.h", "RLC-BearerConfig", "", &nr_rrc::type_RLC_BearerConfig, sizeof(RrcRlcBearerCfg_t), 0, 7, 4, 1, fields_RrcRlcBearerCfg_t, bits_RrcRlcBearerCfg_t, choices_RrcRlcBearerCfg_t, checks_RrcRlcBearerCfg_t.data(), 214};
 
 constexpr RrcRecordField fields_RrcDrxCfg_t_drxOnDurationTimer[] = {
     {"subMilliSeconds", {"subMilliSeconds", way_0, 1, &nr_rrc::type_DRX_Config_drx_onDurationTimer_subMilliSeconds}, nullptr, "1/32 ms", "", 1, 31, offsetof(decltype(RrcDrxCfg_t::drxOnDurationTimer), subMilliSeconds), sizeof(decltype(RrcDrxCfg_t::drxOnDurationTimer)::subMilliSeconds), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"milliSeconds", {"milliSeconds", way_1, 1, &nr_rrc::type_DRX_Config_drx_onDurationTimer_milliSeconds}, nullptr, nullptr, "", 0, 23, offsetof(decltype(RrcDrxCfg_t::drxOnDurationTimer), milliSeconds), sizeof(decltype(RrcDrxCfg_t::drxOnDurationTimer)::milliSeconds), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcDrxCfg_t_drxOnDurationTimer[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcDrxCfg_t_drxOnDurationTimer = records::opsOf<records::opCount(sizeof(decltype(RrcDrxCfg_t::drxOnDurationTimer)), fields_RrcDrxCfg_t_drxOnDurationTimer, sources_RrcDrxCfg_t_drxOnDurationTimer, nullptr, 0)>(sizeof(decltype(RrcDrxCfg_t::drxOnDurationTimer)), fields_RrcDrxCfg_t_drxOnDurationTimer, sources_RrcDrxCfg_t_drxOnDurationTimer, nullptr, 0);
 constexpr auto checks_RrcDrxCfg_t_drxOnDurationTimer = records::checkOpsOf(fields_RrcDrxCfg_t_drxOnDurationTimer, nullptr, 0);
-constexpr RrcRecordType type_RrcDrxCfg_t_drxOnDurationTimer = {"RrcDrxCfg_t.drxOnDurationTimer", "rrcCodec/rrcMac.h", "drx-onDurationTimer", "", &nr_rrc::type_DRX_Config_drx_onDurationTimer, sizeof(decltype(RrcDrxCfg_t::drxOnDurationTimer)), 1, 2, 0, 0, fields_RrcDrxCfg_t_drxOnDurationTimer, nullptr, nullptr, ops_RrcDrxCfg_t_drxOnDurationTimer.data(), static_cast<UINT16>(ops_RrcDrxCfg_t_drxOnDurationTimer.size()), checks_RrcDrxCfg_t_drxOnDurationTimer.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcDrxCfg_t_drxOnDurationTimer = {"RrcDrxCfg_t.drxOnDurationTimer", "rrcCodec/rrcMac.h", "drx-onDurationTimer", "", &nr_rrc::type_DRX_Config_drx_onDurationTimer, sizeof(decltype(RrcDrxCfg_t::drxOnDurationTimer)), 1, 2, 0, 0, fields_RrcDrxCfg_t_drxOnDurationTimer, nullptr, nullptr, checks_RrcDrxCfg_t_drxOnDurationTimer.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcLongCycleStartOffset_t[] = {
     {"period", {"", nullptr, 0, &nr_rrc::type_DRX_Config_drx_LongCycleStartOffset}, nullptr, nullptr, "", 1, 20, offsetof(RrcLongCycleStartOffset_t, period), sizeof(RrcLongCycleStartOffset_t::period), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -365,25 +281,15 @@ constexpr RrcRecordOption options_RrcLongCycleStartOffset_t_0[] = {
 constexpr RrcRecordChoice choices_RrcLongCycleStartOffset_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_DRX_Config_drx_LongCycleStartOffset}, 0, 1, 20, options_RrcLongCycleStartOffset_t_0},
 };
-constexpr RrcRecordSource sources_RrcLongCycleStartOffset_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcLongCycleStartOffset_t = records::opsOf<records::opCount(sizeof(RrcLongCycleStartOffset_t), fields_RrcLongCycleStartOffset_t, sources_RrcLongCycleStartOffset_t, nullptr, 0)>(sizeof(RrcLongCycleStartOffset_t), fields_RrcLongCycleStartOffset_t, sources_RrcLongCycleStartOffset_t, nullptr, 0);
 constexpr auto checks_RrcLongCycleStartOffset_t = records::checkOpsOf(fields_RrcLongCycleStartOffset_t, nullptr, 0);
-constexpr RrcRecordType type_RrcLongCycleStartOffset_t = {"RrcLongCycleStartOffset_t", "rrcCodec/rrcMac.h", "DRX-Config.drx-LongCycleStartOffset", "", &nr_rrc::type_DRX_Config_drx_LongCycleStartOffset, sizeof(RrcLongCycleStartOffset_t), 0, 2, 0, 1, fields_RrcLongCycleStartOffset_t, nullptr, choices_RrcLongCycleStartOffset_t, ops_RrcLongCycleStartOffset_t.data(), static_cast<UINT16>(ops_RrcLongCycleStartOffset_t.size()), checks_RrcLongCycleStartOffset_t.data(), 213};
+constexpr RrcRecordType type_RrcLongCycleStartOffset_t = {"RrcLongCycleStartOffset_t", "rrcCodec/rrcMac.h", "DRX-Config.drx-LongCycleStartOffset", "", &nr_rrc::type_DRX_Config_drx_LongCycleStartOffset, sizeof(RrcLongCycleStartOffset_t), 0, 2, 0, 1, fields_RrcLongCycleStartOffset_t, nullptr, choices_RrcLongCycleStartOffset_t, checks_RrcLongCycleStartOffset_t.data(), 213};
 
 constexpr RrcRecordField fields_RrcShortDrx_t[] = {
     {"period", {"drx-ShortCycle", way_0, 1, &nr_rrc::type_DRX_Config_shortDRX_drx_ShortCycle}, nullptr, nullptr, "", 0, 22, offsetof(RrcShortDrx_t, period), sizeof(RrcShortDrx_t::period), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"offset", {"drx-ShortCycleTimer", way_1, 1, &nr_rrc::type_DRX_Config_shortDRX_drx_ShortCycleTimer}, nullptr, "short cycles", "", 1, 16, offsetof(RrcShortDrx_t, offset), sizeof(RrcShortDrx_t::offset), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcShortDrx_t[] = {
-    {offsetof(DRX_Config_shortDRX, drx_ShortCycle), -1, 4, 0, 1},
-    {offsetof(DRX_Config_shortDRX, drx_ShortCycleTimer), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcShortDrx_t = records::opsOf<records::opCount(sizeof(RrcShortDrx_t), fields_RrcShortDrx_t, sources_RrcShortDrx_t, nullptr, 0)>(sizeof(RrcShortDrx_t), fields_RrcShortDrx_t, sources_RrcShortDrx_t, nullptr, 0);
 constexpr auto checks_RrcShortDrx_t = records::checkOpsOf(fields_RrcShortDrx_t, nullptr, 0);
-constexpr RrcRecordType type_RrcShortDrx_t = {"RrcShortDrx_t", "rrcCodec/rrcMac.h", "DRX-Config.shortDRX", "", &nr_rrc::type_DRX_Config_shortDRX, sizeof(RrcShortDrx_t), 0, 2, 0, 0, fields_RrcShortDrx_t, nullptr, nullptr, ops_RrcShortDrx_t.data(), static_cast<UINT16>(ops_RrcShortDrx_t.size()), checks_RrcShortDrx_t.data(), 212};
+constexpr RrcRecordType type_RrcShortDrx_t = {"RrcShortDrx_t", "rrcCodec/rrcMac.h", "DRX-Config.shortDRX", "", &nr_rrc::type_DRX_Config_shortDRX, sizeof(RrcShortDrx_t), 0, 2, 0, 0, fields_RrcShortDrx_t, nullptr, nullptr, checks_RrcShortDrx_t.data(), 212};
 
 constexpr RrcRecordField fields_RrcDrxCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcDrxCfg_t, bitMask), sizeof(RrcDrxCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -408,21 +314,8 @@ constexpr RrcRecordOption options_RrcDrxCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcDrxCfg_t[] = {
     {{"drx-onDurationTimer", way_0, 1, &nr_rrc::type_DRX_Config_drx_onDurationTimer}, 0, 0, 2, options_RrcDrxCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcDrxCfg_t[] = {
-    {},
-    {offsetof(DRX_Config, drx_onDurationTimer), -1, 0, 0, 1},
-    {offsetof(DRX_Config, drx_InactivityTimer), -1, 4, 0, 1},
-    {offsetof(DRX_Config, drx_HARQ_RTT_TimerDL), -1, 1, 0, 1},
-    {offsetof(DRX_Config, drx_HARQ_RTT_TimerUL), -1, 1, 0, 1},
-    {offsetof(DRX_Config, drx_RetransmissionTimerDL), -1, 4, 0, 1},
-    {offsetof(DRX_Config, drx_RetransmissionTimerUL), -1, 4, 0, 1},
-    {offsetof(DRX_Config, drx_LongCycleStartOffset), -1, 0, 0, 1},
-    {offsetof(DRX_Config, shortDRX), 0, 0, 0, 1},
-    {offsetof(DRX_Config, drx_SlotOffset), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcDrxCfg_t = records::opsOf<records::opCount(sizeof(RrcDrxCfg_t), fields_RrcDrxCfg_t, sources_RrcDrxCfg_t, bits_RrcDrxCfg_t, 2)>(sizeof(RrcDrxCfg_t), fields_RrcDrxCfg_t, sources_RrcDrxCfg_t, bits_RrcDrxCfg_t, 2);
 constexpr auto checks_RrcDrxCfg_t = records::checkOpsOf(fields_RrcDrxCfg_t, bits_RrcDrxCfg_t, 2);
-constexpr RrcRecordType type_RrcDrxCfg_t = {"RrcDrxCfg_t", "rrcCodec/rrcMac.h", "DRX-Config", "", &nr_rrc::type_DRX_Config, sizeof(RrcDrxCfg_t), 0, 10, 2, 1, fields_RrcDrxCfg_t, bits_RrcDrxCfg_t, choices_RrcDrxCfg_t, ops_RrcDrxCfg_t.data(), static_cast<UINT16>(ops_RrcDrxCfg_t.size()), checks_RrcDrxCfg_t.data(), 211};
+constexpr RrcRecordType type_RrcDrxCfg_t = {"RrcDrxCfg_t", "rrcCodec/rrcMac.h", "DRX-Config", "", &nr_rrc::type_DRX_Config, sizeof(RrcDrxCfg_t), 0, 10, 2, 1, fields_RrcDrxCfg_t, bits_RrcDrxCfg_t, choices_RrcDrxCfg_t, checks_RrcDrxCfg_t.data(), 211};
 
 constexpr RrcRecordField fields_RrcSrAddMod_t[] = {
     {"srId", {"schedulingRequestId", way_0, 1, &nr_rrc::type_SchedulingRequestId}, nullptr, nullptr, "", 0, 7, offsetof(RrcSrAddMod_t, srId), sizeof(RrcSrAddMod_t::srId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -433,15 +326,8 @@ constexpr RrcRecordField fields_RrcSrAddMod_t[] = {
 constexpr RrcRecordBit bits_RrcSrAddMod_t[] = {
     {"RRC_SR_PROHIBITTIMER_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcSrAddMod_t[] = {
-    {offsetof(SchedulingRequestToAddMod, schedulingRequestId), -1, 1, 0, 1},
-    {offsetof(SchedulingRequestToAddMod, sr_TransMax), -1, 4, 0, 1},
-    {},
-    {offsetof(SchedulingRequestToAddMod, sr_ProhibitTimer), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcSrAddMod_t = records::opsOf<records::opCount(sizeof(RrcSrAddMod_t), fields_RrcSrAddMod_t, sources_RrcSrAddMod_t, bits_RrcSrAddMod_t, 1)>(sizeof(RrcSrAddMod_t), fields_RrcSrAddMod_t, sources_RrcSrAddMod_t, bits_RrcSrAddMod_t, 1);
 constexpr auto checks_RrcSrAddMod_t = records::checkOpsOf(fields_RrcSrAddMod_t, bits_RrcSrAddMod_t, 1);
-constexpr RrcRecordType type_RrcSrAddMod_t = {"RrcSrAddMod_t", "rrcCodec/rrcMac.h", "SchedulingRequestToAddMod", "", &nr_rrc::type_SchedulingRequestToAddMod, sizeof(RrcSrAddMod_t), 0, 4, 1, 0, fields_RrcSrAddMod_t, bits_RrcSrAddMod_t, nullptr, ops_RrcSrAddMod_t.data(), static_cast<UINT16>(ops_RrcSrAddMod_t.size()), checks_RrcSrAddMod_t.data(), 210};
+constexpr RrcRecordType type_RrcSrAddMod_t = {"RrcSrAddMod_t", "rrcCodec/rrcMac.h", "SchedulingRequestToAddMod", "", &nr_rrc::type_SchedulingRequestToAddMod, sizeof(RrcSrAddMod_t), 0, 4, 1, 0, fields_RrcSrAddMod_t, bits_RrcSrAddMod_t, nullptr, checks_RrcSrAddMod_t.data(), 210};
 
 constexpr RrcRecordField fields_RrcSRCfg_t[] = {
     {"numSrAddMod", {}, nullptr, nullptr, "", 0, 8, offsetof(RrcSRCfg_t, numSrAddMod), sizeof(RrcSRCfg_t::numSrAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -449,15 +335,8 @@ constexpr RrcRecordField fields_RrcSRCfg_t[] = {
     {"numSrRel", {}, nullptr, nullptr, "", 0, 8, offsetof(RrcSRCfg_t, numSrRel), sizeof(RrcSRCfg_t::numSrRel), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"srId", {"schedulingRequestToReleaseList", way_17, 2, &nr_rrc::type_SchedulingRequestId}, nullptr, nullptr, "", 0, 7, offsetof(RrcSRCfg_t, srId), sizeof(RrcSRCfg_t::srId[0]), sizeof(RrcSRCfg_t::srId) / sizeof(RrcSRCfg_t::srId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 2, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSRCfg_t[] = {
-    {},
-    {offsetof(SchedulingRequestConfig, schedulingRequestToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(SchedulingRequestConfig, schedulingRequestToReleaseList), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcSRCfg_t = records::opsOf<records::opCount(sizeof(RrcSRCfg_t), fields_RrcSRCfg_t, sources_RrcSRCfg_t, nullptr, 0)>(sizeof(RrcSRCfg_t), fields_RrcSRCfg_t, sources_RrcSRCfg_t, nullptr, 0);
 constexpr auto checks_RrcSRCfg_t = records::checkOpsOf(fields_RrcSRCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSRCfg_t = {"RrcSRCfg_t", "rrcCodec/rrcMac.h", "SchedulingRequestConfig", "A list is sent when its count is not 0.", &nr_rrc::type_SchedulingRequestConfig, sizeof(RrcSRCfg_t), 0, 4, 0, 0, fields_RrcSRCfg_t, nullptr, nullptr, ops_RrcSRCfg_t.data(), static_cast<UINT16>(ops_RrcSRCfg_t.size()), checks_RrcSRCfg_t.data(), 209};
+constexpr RrcRecordType type_RrcSRCfg_t = {"RrcSRCfg_t", "rrcCodec/rrcMac.h", "SchedulingRequestConfig", "A list is sent when its count is not 0.", &nr_rrc::type_SchedulingRequestConfig, sizeof(RrcSRCfg_t), 0, 4, 0, 0, fields_RrcSRCfg_t, nullptr, nullptr, checks_RrcSRCfg_t.data(), 209};
 
 constexpr RrcRecordField fields_RrcBsrCfg_t[] = {
     {"periodicBsrTimer", {"periodicBSR-Timer", way_0, 1, &nr_rrc::type_BSR_Config_periodicBSR_Timer}, nullptr, nullptr, "", 0, 15, offsetof(RrcBsrCfg_t, periodicBsrTimer), sizeof(RrcBsrCfg_t::periodicBsrTimer), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -468,27 +347,15 @@ constexpr RrcRecordField fields_RrcBsrCfg_t[] = {
 constexpr RrcRecordBit bits_RrcBsrCfg_t[] = {
     {"RRC_BSR_SRDELAY_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBsrCfg_t[] = {
-    {offsetof(BSR_Config, periodicBSR_Timer), -1, 4, 0, 1},
-    {offsetof(BSR_Config, retxBSR_Timer), -1, 4, 0, 1},
-    {},
-    {offsetof(BSR_Config, logicalChannelSR_DelayTimer), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcBsrCfg_t = records::opsOf<records::opCount(sizeof(RrcBsrCfg_t), fields_RrcBsrCfg_t, sources_RrcBsrCfg_t, bits_RrcBsrCfg_t, 1)>(sizeof(RrcBsrCfg_t), fields_RrcBsrCfg_t, sources_RrcBsrCfg_t, bits_RrcBsrCfg_t, 1);
 constexpr auto checks_RrcBsrCfg_t = records::checkOpsOf(fields_RrcBsrCfg_t, bits_RrcBsrCfg_t, 1);
-constexpr RrcRecordType type_RrcBsrCfg_t = {"RrcBsrCfg_t", "rrcCodec/rrcMac.h", "BSR-Config", "", &nr_rrc::type_BSR_Config, sizeof(RrcBsrCfg_t), 0, 4, 1, 0, fields_RrcBsrCfg_t, bits_RrcBsrCfg_t, nullptr, ops_RrcBsrCfg_t.data(), static_cast<UINT16>(ops_RrcBsrCfg_t.size()), checks_RrcBsrCfg_t.data(), 208};
+constexpr RrcRecordType type_RrcBsrCfg_t = {"RrcBsrCfg_t", "rrcCodec/rrcMac.h", "BSR-Config", "", &nr_rrc::type_BSR_Config, sizeof(RrcBsrCfg_t), 0, 4, 1, 0, fields_RrcBsrCfg_t, bits_RrcBsrCfg_t, nullptr, checks_RrcBsrCfg_t.data(), 208};
 
 constexpr RrcRecordField fields_RrcTag_t[] = {
     {"tagId", {"tag-Id", way_0, 1, &nr_rrc::type_TAG_Id}, nullptr, nullptr, "", 0, 3, offsetof(RrcTag_t, tagId), sizeof(RrcTag_t::tagId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"taTimer", {"timeAlignmentTimer", way_1, 1, &nr_rrc::type_TimeAlignmentTimer}, nullptr, nullptr, "", 0, 7, offsetof(RrcTag_t, taTimer), sizeof(RrcTag_t::taTimer), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcTag_t[] = {
-    {offsetof(TAG, tag_Id), -1, 1, 0, 1},
-    {offsetof(TAG, timeAlignmentTimer), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcTag_t = records::opsOf<records::opCount(sizeof(RrcTag_t), fields_RrcTag_t, sources_RrcTag_t, nullptr, 0)>(sizeof(RrcTag_t), fields_RrcTag_t, sources_RrcTag_t, nullptr, 0);
 constexpr auto checks_RrcTag_t = records::checkOpsOf(fields_RrcTag_t, nullptr, 0);
-constexpr RrcRecordType type_RrcTag_t = {"RrcTag_t", "rrcCodec/rrcMac.h", "TAG", "", &nr_rrc::type_TAG, sizeof(RrcTag_t), 0, 2, 0, 0, fields_RrcTag_t, nullptr, nullptr, ops_RrcTag_t.data(), static_cast<UINT16>(ops_RrcTag_t.size()), checks_RrcTag_t.data(), 207};
+constexpr RrcRecordType type_RrcTag_t = {"RrcTag_t", "rrcCodec/rrcMac.h", "TAG", "", &nr_rrc::type_TAG, sizeof(RrcTag_t), 0, 2, 0, 0, fields_RrcTag_t, nullptr, nullptr, checks_RrcTag_t.data(), 207};
 
 constexpr RrcRecordField fields_RrcTagCfg_t[] = {
     {"numTagAddMod", {}, nullptr, nullptr, "", 0, 4, offsetof(RrcTagCfg_t, numTagAddMod), sizeof(RrcTagCfg_t::numTagAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -496,15 +363,8 @@ constexpr RrcRecordField fields_RrcTagCfg_t[] = {
     {"numTagRel", {}, nullptr, nullptr, "", 0, 4, offsetof(RrcTagCfg_t, numTagRel), sizeof(RrcTagCfg_t::numTagRel), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"tagId", {"tag-ToReleaseList", way_16, 2, &nr_rrc::type_TAG_Id}, nullptr, nullptr, "", 0, 3, offsetof(RrcTagCfg_t, tagId), sizeof(RrcTagCfg_t::tagId[0]), sizeof(RrcTagCfg_t::tagId) / sizeof(RrcTagCfg_t::tagId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 2, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcTagCfg_t[] = {
-    {},
-    {offsetof(TAG_Config, tag_ToAddModList), 1, 0, 0, 1},
-    {},
-    {offsetof(TAG_Config, tag_ToReleaseList), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcTagCfg_t = records::opsOf<records::opCount(sizeof(RrcTagCfg_t), fields_RrcTagCfg_t, sources_RrcTagCfg_t, nullptr, 0)>(sizeof(RrcTagCfg_t), fields_RrcTagCfg_t, sources_RrcTagCfg_t, nullptr, 0);
 constexpr auto checks_RrcTagCfg_t = records::checkOpsOf(fields_RrcTagCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcTagCfg_t = {"RrcTagCfg_t", "rrcCodec/rrcMac.h", "TAG-Config", "A list is sent when its count is not 0.", &nr_rrc::type_TAG_Config, sizeof(RrcTagCfg_t), 0, 4, 0, 0, fields_RrcTagCfg_t, nullptr, nullptr, ops_RrcTagCfg_t.data(), static_cast<UINT16>(ops_RrcTagCfg_t.size()), checks_RrcTagCfg_t.data(), 206};
+constexpr RrcRecordType type_RrcTagCfg_t = {"RrcTagCfg_t", "rrcCodec/rrcMac.h", "TAG-Config", "A list is sent when its count is not 0.", &nr_rrc::type_TAG_Config, sizeof(RrcTagCfg_t), 0, 4, 0, 0, fields_RrcTagCfg_t, nullptr, nullptr, checks_RrcTagCfg_t.data(), 206};
 
 constexpr RrcRecordField fields_RrcPhrCfg_t[] = {
     {"phrPeriodTimer", {"phr-PeriodicTimer", way_0, 1, &nr_rrc::type_PHR_Config_phr_PeriodicTimer}, nullptr, nullptr, "", 0, 7, offsetof(RrcPhrCfg_t, phrPeriodTimer), sizeof(RrcPhrCfg_t::phrPeriodTimer), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -515,18 +375,8 @@ constexpr RrcRecordField fields_RrcPhrCfg_t[] = {
     {"phrType2OtherCell", {"phr-Type2OtherCell", way_9, 1, &nr_rrc::type_PHR_Config_phr_Type2OtherCell}, nullptr, nullptr, "", 0, 1, offsetof(RrcPhrCfg_t, phrType2OtherCell), sizeof(RrcPhrCfg_t::phrType2OtherCell), 0, 0, RRC_FIELD_BOOLEAN, 0, 1, 0, -1, -1, -1, -1},
     {"phrModeOtherCG", {"phr-ModeOtherCG", way_10, 1, &nr_rrc::type_PHR_Config_phr_ModeOtherCG}, nullptr, nullptr, "", 0, 1, offsetof(RrcPhrCfg_t, phrModeOtherCG), sizeof(RrcPhrCfg_t::phrModeOtherCG), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPhrCfg_t[] = {
-    {offsetof(PHR_Config, phr_PeriodicTimer), -1, 4, 0, 1},
-    {offsetof(PHR_Config, phr_ProhibitTimer), -1, 4, 0, 1},
-    {offsetof(PHR_Config, phr_Tx_PowerFactorChange), -1, 4, 0, 1},
-    {offsetof(PHR_Config, multiplePHR), -1, 1, 0, 1},
-    {offsetof(PHR_Config, dummy), -1, 1, 0, 1},
-    {offsetof(PHR_Config, phr_Type2OtherCell), -1, 1, 0, 1},
-    {offsetof(PHR_Config, phr_ModeOtherCG), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcPhrCfg_t = records::opsOf<records::opCount(sizeof(RrcPhrCfg_t), fields_RrcPhrCfg_t, sources_RrcPhrCfg_t, nullptr, 0)>(sizeof(RrcPhrCfg_t), fields_RrcPhrCfg_t, sources_RrcPhrCfg_t, nullptr, 0);
 constexpr auto checks_RrcPhrCfg_t = records::checkOpsOf(fields_RrcPhrCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPhrCfg_t = {"RrcPhrCfg_t", "rrcCodec/rrcMac.h", "PHR-Config", "", &nr_rrc::type_PHR_Config, sizeof(RrcPhrCfg_t), 0, 7, 0, 0, fields_RrcPhrCfg_t, nullptr, nullptr, ops_RrcPhrCfg_t.data(), static_cast<UINT16>(ops_RrcPhrCfg_t.size()), checks_RrcPhrCfg_t.data(), 205};
+constexpr RrcRecordType type_RrcPhrCfg_t = {"RrcPhrCfg_t", "rrcCodec/rrcMac.h", "PHR-Config", "", &nr_rrc::type_PHR_Config, sizeof(RrcPhrCfg_t), 0, 7, 0, 0, fields_RrcPhrCfg_t, nullptr, nullptr, checks_RrcPhrCfg_t.data(), 205};
 
 constexpr RrcRecordField fields_RrcMacCellGrpCfg_t[] = {
     {"skipUpTxDynamic", {"skipUplinkTxDynamic", way_9, 1, &nr_rrc::type_MAC_CellGroupConfig_skipUplinkTxDynamic}, nullptr, nullptr, "", 0, 1, offsetof(RrcMacCellGrpCfg_t, skipUpTxDynamic), sizeof(RrcMacCellGrpCfg_t::skipUpTxDynamic), 0, 0, RRC_FIELD_BOOLEAN, 0, 1, 0, -1, -1, -1, -1},
@@ -548,20 +398,8 @@ constexpr RrcRecordBit bits_RrcMacCellGrpCfg_t[] = {
     {"RRC_MAC_CELL_GRP_CFG_CSI_PRESENCE", "", nullptr, {}, 1, 5, RRC_BIT_GUARDS, -1},
     {"RRC_MAC_CELL_GRP_CFG_TIMER_PRESENCE", "", nullptr, {}, 1, 6, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcMacCellGrpCfg_t[] = {
-    {offsetof(MAC_CellGroupConfig, skipUplinkTxDynamic), -1, 1, 0, 1},
-    {},
-    {offsetof(MAC_CellGroupConfig, drx_Config), 0, 0, 0, 1},
-    {offsetof(MAC_CellGroupConfig, schedulingRequestConfig), 1, 0, 0, 1},
-    {offsetof(MAC_CellGroupConfig, bsr_Config), 2, 0, 0, 1},
-    {offsetof(MAC_CellGroupConfig, tag_Config), 3, 0, 0, 1},
-    {offsetof(MAC_CellGroupConfig, phr_Config), 4, 0, 0, 1},
-    {},
-    {},
-};
-constexpr auto ops_RrcMacCellGrpCfg_t = records::opsOf<records::opCount(sizeof(RrcMacCellGrpCfg_t), fields_RrcMacCellGrpCfg_t, sources_RrcMacCellGrpCfg_t, bits_RrcMacCellGrpCfg_t, 7)>(sizeof(RrcMacCellGrpCfg_t), fields_RrcMacCellGrpCfg_t, sources_RrcMacCellGrpCfg_t, bits_RrcMacCellGrpCfg_t, 7);
 constexpr auto checks_RrcMacCellGrpCfg_t = records::checkOpsOf(fields_RrcMacCellGrpCfg_t, bits_RrcMacCellGrpCfg_t, 7);
-constexpr RrcRecordType type_RrcMacCellGrpCfg_t = {"RrcMacCellGrpCfg_t", "rrcCodec/rrcMac.h", "MAC-CellGroupConfig", "DRX and PHR are always set up, never released.", &nr_rrc::type_MAC_CellGroupConfig, sizeof(RrcMacCellGrpCfg_t), 0, 9, 7, 0, fields_RrcMacCellGrpCfg_t, bits_RrcMacCellGrpCfg_t, nullptr, ops_RrcMacCellGrpCfg_t.data(), static_cast<UINT16>(ops_RrcMacCellGrpCfg_t.size()), checks_RrcMacCellGrpCfg_t.data(), 204};
+constexpr RrcRecordType type_RrcMacCellGrpCfg_t = {"RrcMacCellGrpCfg_t", "rrcCodec/rrcMac.h", "MAC-CellGroupConfig", "DRX and PHR are always set up, never released.", &nr_rrc::type_MAC_CellGroupConfig, sizeof(RrcMacCellGrpCfg_t), 0, 9, 7, 0, fields_RrcMacCellGrpCfg_t, bits_RrcMacCellGrpCfg_t, nullptr, checks_RrcMacCellGrpCfg_t.data(), 204};
 
 constexpr RrcRecordField fields_RrcPhyCellGrpCfg_t[] = {
     {"pdschHarqAckCodeBook", {"pdsch-HARQ-ACK-Codebook", way_3, 1, &nr_rrc::type_PhysicalCellGroupConfig_pdsch_HARQ_ACK_Codebook}, nullptr, nullptr, "", 0, 1, offsetof(RrcPhyCellGrpCfg_t, pdschHarqAckCodeBook), sizeof(RrcPhyCellGrpCfg_t::pdschHarqAckCodeBook), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -589,49 +427,23 @@ constexpr RrcRecordBit bits_RrcPhyCellGrpCfg_t[] = {
     {"RRC_PHY_CGC_MCS_CRNTI_PRESENCE", "", nullptr, {}, 1, 8, RRC_BIT_GUARDS, -1},
     {"RRC_PHY_CGC_UE_PMAX_PRESENCE", "", nullptr, {}, 1, 9, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPhyCellGrpCfg_t[] = {
-    {offsetof(PhysicalCellGroupConfig, pdsch_HARQ_ACK_Codebook), -1, 4, 0, 1},
-    {},
-    {offsetof(PhysicalCellGroupConfig, harq_ACK_SpatialBundlingPUCCH), 0, 4, 0, 1},
-    {offsetof(PhysicalCellGroupConfig, harq_ACK_SpatialBundlingPUSCH), 1, 4, 0, 1},
-    {offsetof(PhysicalCellGroupConfig, p_NR_FR1), 2, 1, 1, 1},
-    {offsetof(PhysicalCellGroupConfig, tpc_SRS_RNTI), 3, 2, 0, 1},
-    {offsetof(PhysicalCellGroupConfig, tpc_PUCCH_RNTI), 4, 2, 0, 1},
-    {offsetof(PhysicalCellGroupConfig, tpc_PUSCH_RNTI), 5, 2, 0, 1},
-    {offsetof(PhysicalCellGroupConfig, sp_CSI_RNTI), 6, 2, 0, 1},
-    {offsetof(PhysicalCellGroupConfig, cs_RNTI), 7, 0, 0, 1},
-    {},
-    {},
-};
-constexpr auto ops_RrcPhyCellGrpCfg_t = records::opsOf<records::opCount(sizeof(RrcPhyCellGrpCfg_t), fields_RrcPhyCellGrpCfg_t, sources_RrcPhyCellGrpCfg_t, bits_RrcPhyCellGrpCfg_t, 10)>(sizeof(RrcPhyCellGrpCfg_t), fields_RrcPhyCellGrpCfg_t, sources_RrcPhyCellGrpCfg_t, bits_RrcPhyCellGrpCfg_t, 10);
 constexpr auto checks_RrcPhyCellGrpCfg_t = records::checkOpsOf(fields_RrcPhyCellGrpCfg_t, bits_RrcPhyCellGrpCfg_t, 10);
-constexpr RrcRecordType type_RrcPhyCellGrpCfg_t = {"RrcPhyCellGrpCfg_t", "rrcCodec/rrcPhy.h", "PhysicalCellGroupConfig", "", &nr_rrc::type_PhysicalCellGroupConfig, sizeof(RrcPhyCellGrpCfg_t), 0, 12, 10, 0, fields_RrcPhyCellGrpCfg_t, bits_RrcPhyCellGrpCfg_t, nullptr, ops_RrcPhyCellGrpCfg_t.data(), static_cast<UINT16>(ops_RrcPhyCellGrpCfg_t.size()), checks_RrcPhyCellGrpCfg_t.data(), 203};
+constexpr RrcRecordType type_RrcPhyCellGrpCfg_t = {"RrcPhyCellGrpCfg_t", "rrcCodec/rrcPhy.h", "PhysicalCellGroupConfig", "", &nr_rrc::type_PhysicalCellGroupConfig, sizeof(RrcPhyCellGrpCfg_t), 0, 12, 10, 0, fields_RrcPhyCellGrpCfg_t, bits_RrcPhyCellGrpCfg_t, nullptr, checks_RrcPhyCellGrpCfg_t.data(), 203};
 
 constexpr RrcRecordField fields_RrcCfraSsbResource_t[] = {
     {"ssbIdx", {"ssb", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(RrcCfraSsbResource_t, ssbIdx), sizeof(RrcCfraSsbResource_t::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"raPreableIdx", {"ra-PreambleIndex", way_1, 1, &nr_rrc::type_CFRA_SSB_Resource_ra_PreambleIndex}, nullptr, nullptr, "", 0, 63, offsetof(RrcCfraSsbResource_t, raPreableIdx), sizeof(RrcCfraSsbResource_t::raPreableIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCfraSsbResource_t[] = {
-    {offsetof(CFRA_SSB_Resource, ssb), -1, 1, 0, 1},
-    {offsetof(CFRA_SSB_Resource, ra_PreambleIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcCfraSsbResource_t = records::opsOf<records::opCount(sizeof(RrcCfraSsbResource_t), fields_RrcCfraSsbResource_t, sources_RrcCfraSsbResource_t, nullptr, 0)>(sizeof(RrcCfraSsbResource_t), fields_RrcCfraSsbResource_t, sources_RrcCfraSsbResource_t, nullptr, 0);
 constexpr auto checks_RrcCfraSsbResource_t = records::checkOpsOf(fields_RrcCfraSsbResource_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCfraSsbResource_t = {"RrcCfraSsbResource_t", "rrcCodec/rrcRach.h", "CFRA-SSB-Resource", "", &nr_rrc::type_CFRA_SSB_Resource, sizeof(RrcCfraSsbResource_t), 0, 2, 0, 0, fields_RrcCfraSsbResource_t, nullptr, nullptr, ops_RrcCfraSsbResource_t.data(), static_cast<UINT16>(ops_RrcCfraSsbResource_t.size()), checks_RrcCfraSsbResource_t.data(), 202};
+constexpr RrcRecordType type_RrcCfraSsbResource_t = {"RrcCfraSsbResource_t", "rrcCodec/rrcRach.h", "CFRA-SSB-Resource", "", &nr_rrc::type_CFRA_SSB_Resource, sizeof(RrcCfraSsbResource_t), 0, 2, 0, 0, fields_RrcCfraSsbResource_t, nullptr, nullptr, checks_RrcCfraSsbResource_t.data(), 202};
 
 constexpr RrcRecordField fields_RrcSsb_t[] = {
     {"numSsbResources", {}, nullptr, nullptr, "", 1, 64, offsetof(RrcSsb_t, numSsbResources), sizeof(RrcSsb_t::numSsbResources), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"ssbResource", {"ssb-ResourceList", way_16, 2, &nr_rrc::type_CFRA_SSB_Resource}, &type_RrcCfraSsbResource_t, nullptr, "", 0, 0, offsetof(RrcSsb_t, ssbResource), sizeof(RrcSsb_t::ssbResource[0]), sizeof(RrcSsb_t::ssbResource) / sizeof(RrcSsb_t::ssbResource[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
     {"raSsbOccasionMaskIdx", {"ra-ssb-OccasionMaskIndex", way_1, 1, &nr_rrc::type_CFRA_resources_ssb_ra_ssb_OccasionMaskIndex}, nullptr, nullptr, "", 0, 15, offsetof(RrcSsb_t, raSsbOccasionMaskIdx), sizeof(RrcSsb_t::raSsbOccasionMaskIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSsb_t[] = {
-    {},
-    {offsetof(CFRA_resources_ssb, ssb_ResourceList), -1, 0, 0, 1},
-    {offsetof(CFRA_resources_ssb, ra_ssb_OccasionMaskIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcSsb_t = records::opsOf<records::opCount(sizeof(RrcSsb_t), fields_RrcSsb_t, sources_RrcSsb_t, nullptr, 0)>(sizeof(RrcSsb_t), fields_RrcSsb_t, sources_RrcSsb_t, nullptr, 0);
 constexpr auto checks_RrcSsb_t = records::checkOpsOf(fields_RrcSsb_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSsb_t = {"RrcSsb_t", "rrcCodec/rrcRach.h", "CFRA.resources.ssb", "", &nr_rrc::type_CFRA_resources_ssb, sizeof(RrcSsb_t), 0, 3, 0, 0, fields_RrcSsb_t, nullptr, nullptr, ops_RrcSsb_t.data(), static_cast<UINT16>(ops_RrcSsb_t.size()), checks_RrcSsb_t.data(), 201};
+constexpr RrcRecordType type_RrcSsb_t = {"RrcSsb_t", "rrcCodec/rrcRach.h", "CFRA.resources.ssb", "", &nr_rrc::type_CFRA_resources_ssb, sizeof(RrcSsb_t), 0, 3, 0, 0, fields_RrcSsb_t, nullptr, nullptr, checks_RrcSsb_t.data(), 201};
 
 constexpr RrcRecordField fields_RrcCsirsResource_t[] = {
     {"csiRSIdx", {"csi-RS", way_0, 1, &nr_rrc::type_CSI_RS_Index}, nullptr, nullptr, "", 0, 95, offsetof(RrcCsirsResource_t, csiRSIdx), sizeof(RrcCsirsResource_t::csiRSIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -639,41 +451,23 @@ constexpr RrcRecordField fields_RrcCsirsResource_t[] = {
     {"raOccasionIdx", {"ra-OccasionList", way_17, 2, &nr_rrc::type_CFRA_CSIRS_Resource_ra_OccasionList_element}, nullptr, nullptr, "", 0, 511, offsetof(RrcCsirsResource_t, raOccasionIdx), sizeof(RrcCsirsResource_t::raOccasionIdx[0]), sizeof(RrcCsirsResource_t::raOccasionIdx) / sizeof(RrcCsirsResource_t::raOccasionIdx[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
     {"raPreambleIdx", {"ra-PreambleIndex", way_2, 1, &nr_rrc::type_CFRA_CSIRS_Resource_ra_PreambleIndex}, nullptr, nullptr, "", 0, 63, offsetof(RrcCsirsResource_t, raPreambleIdx), sizeof(RrcCsirsResource_t::raPreambleIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsirsResource_t[] = {
-    {offsetof(CFRA_CSIRS_Resource, csi_RS), -1, 1, 0, 1},
-    {},
-    {offsetof(CFRA_CSIRS_Resource, ra_OccasionList), -1, 0, 0, 1},
-    {offsetof(CFRA_CSIRS_Resource, ra_PreambleIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcCsirsResource_t = records::opsOf<records::opCount(sizeof(RrcCsirsResource_t), fields_RrcCsirsResource_t, sources_RrcCsirsResource_t, nullptr, 0)>(sizeof(RrcCsirsResource_t), fields_RrcCsirsResource_t, sources_RrcCsirsResource_t, nullptr, 0);
 constexpr auto checks_RrcCsirsResource_t = records::checkOpsOf(fields_RrcCsirsResource_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsirsResource_t = {"RrcCsirsResource_t", "rrcCodec/rrcRach.h", "CFRA-CSIRS-Resource", "", &nr_rrc::type_CFRA_CSIRS_Resource, sizeof(RrcCsirsResource_t), 0, 4, 0, 0, fields_RrcCsirsResource_t, nullptr, nullptr, ops_RrcCsirsResource_t.data(), static_cast<UINT16>(ops_RrcCsirsResource_t.size()), checks_RrcCsirsResource_t.data(), 200};
+constexpr RrcRecordType type_RrcCsirsResource_t = {"RrcCsirsResource_t", "rrcCodec/rrcRach.h", "CFRA-CSIRS-Resource", "", &nr_rrc::type_CFRA_CSIRS_Resource, sizeof(RrcCsirsResource_t), 0, 4, 0, 0, fields_RrcCsirsResource_t, nullptr, nullptr, checks_RrcCsirsResource_t.data(), 200};
 
 constexpr RrcRecordField fields_RrcSsirs_t[] = {
     {"numCsirsRecouces", {}, nullptr, nullptr, "", 1, 96, offsetof(RrcSsirs_t, numCsirsRecouces), sizeof(RrcSsirs_t::numCsirsRecouces), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"csirsResource", {"csirs-ResourceList", way_16, 2, &nr_rrc::type_CFRA_CSIRS_Resource}, &type_RrcCsirsResource_t, nullptr, "", 0, 0, offsetof(RrcSsirs_t, csirsResource), sizeof(RrcSsirs_t::csirsResource[0]), sizeof(RrcSsirs_t::csirsResource) / sizeof(RrcSsirs_t::csirsResource[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
     {"rsrpThreshCsiRs", {"rsrp-ThresholdCSI-RS", way_1, 1, &nr_rrc::type_RSRP_Range}, nullptr, "dBm above -156", "127 is infinity", 0, 127, offsetof(RrcSsirs_t, rsrpThreshCsiRs), sizeof(RrcSsirs_t::rsrpThreshCsiRs), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSsirs_t[] = {
-    {},
-    {offsetof(CFRA_resources_csirs, csirs_ResourceList), -1, 0, 0, 1},
-    {offsetof(CFRA_resources_csirs, rsrp_ThresholdCSI_RS), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcSsirs_t = records::opsOf<records::opCount(sizeof(RrcSsirs_t), fields_RrcSsirs_t, sources_RrcSsirs_t, nullptr, 0)>(sizeof(RrcSsirs_t), fields_RrcSsirs_t, sources_RrcSsirs_t, nullptr, 0);
 constexpr auto checks_RrcSsirs_t = records::checkOpsOf(fields_RrcSsirs_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSsirs_t = {"RrcSsirs_t", "rrcCodec/rrcRach.h", "CFRA.resources.csirs", "", &nr_rrc::type_CFRA_resources_csirs, sizeof(RrcSsirs_t), 0, 3, 0, 0, fields_RrcSsirs_t, nullptr, nullptr, ops_RrcSsirs_t.data(), static_cast<UINT16>(ops_RrcSsirs_t.size()), checks_RrcSsirs_t.data(), 199};
+constexpr RrcRecordType type_RrcSsirs_t = {"RrcSsirs_t", "rrcCodec/rrcRach.h", "CFRA.resources.csirs", "", &nr_rrc::type_CFRA_resources_csirs, sizeof(RrcSsirs_t), 0, 3, 0, 0, fields_RrcSsirs_t, nullptr, nullptr, checks_RrcSsirs_t.data(), 199};
 
 constexpr RrcRecordField fields_RrcCfra_t_resources[] = {
     {"ssb", {"ssb", way_0, 1, &nr_rrc::type_CFRA_resources_ssb}, &type_RrcSsb_t, nullptr, "", 0, 0, offsetof(decltype(RrcCfra_t::resources), ssb), sizeof(decltype(RrcCfra_t::resources)::ssb), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"scirs", {"csirs", way_1, 1, &nr_rrc::type_CFRA_resources_csirs}, &type_RrcSsirs_t, nullptr, "", 0, 0, offsetof(decltype(RrcCfra_t::resources), scirs), sizeof(decltype(RrcCfra_t::resources)::scirs), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCfra_t_resources[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcCfra_t_resources = records::opsOf<records::opCount(sizeof(decltype(RrcCfra_t::resources)), fields_RrcCfra_t_resources, sources_RrcCfra_t_resources, nullptr, 0)>(sizeof(decltype(RrcCfra_t::resources)), fields_RrcCfra_t_resources, sources_RrcCfra_t_resources, nullptr, 0);
 constexpr auto checks_RrcCfra_t_resources = records::checkOpsOf(fields_RrcCfra_t_resources, nullptr, 0);
-constexpr RrcRecordType type_RrcCfra_t_resources = {"RrcCfra_t.resources", "rrcCodec/rrcRach.h", "resources", "", &nr_rrc::type_CFRA_resources, sizeof(decltype(RrcCfra_t::resources)), 1, 2, 0, 0, fields_RrcCfra_t_resources, nullptr, nullptr, ops_RrcCfra_t_resources.data(), static_cast<UINT16>(ops_RrcCfra_t_resources.size()), checks_RrcCfra_t_resources.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcCfra_t_resources = {"RrcCfra_t.resources", "rrcCodec/rrcRach.h", "resources", "", &nr_rrc::type_CFRA_resources, sizeof(decltype(RrcCfra_t::resources)), 1, 2, 0, 0, fields_RrcCfra_t_resources, nullptr, nullptr, checks_RrcCfra_t_resources.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcRachCfgGeneric_t[] = {
     {"prachCfgIdx", {"prach-ConfigurationIndex", way_0, 1, &nr_rrc::type_RACH_ConfigGeneric_prach_ConfigurationIndex}, nullptr, nullptr, "", 0, 255, offsetof(RrcRachCfgGeneric_t, prachCfgIdx), sizeof(RrcRachCfgGeneric_t::prachCfgIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -685,19 +479,8 @@ constexpr RrcRecordField fields_RrcRachCfgGeneric_t[] = {
     {"powerRampingStep", {"powerRampingStep", way_10, 1, &nr_rrc::type_RACH_ConfigGeneric_powerRampingStep}, nullptr, nullptr, "", 0, 3, offsetof(RrcRachCfgGeneric_t, powerRampingStep), sizeof(RrcRachCfgGeneric_t::powerRampingStep), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"raRspWindow", {"ra-ResponseWindow", way_11, 1, &nr_rrc::type_RACH_ConfigGeneric_ra_ResponseWindow}, nullptr, nullptr, "", 0, 7, offsetof(RrcRachCfgGeneric_t, raRspWindow), sizeof(RrcRachCfgGeneric_t::raRspWindow), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRachCfgGeneric_t[] = {
-    {offsetof(RACH_ConfigGeneric, prach_ConfigurationIndex), -1, 1, 0, 1},
-    {offsetof(RACH_ConfigGeneric, msg1_FDM), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigGeneric, msg1_FrequencyStart), -1, 2, 0, 1},
-    {offsetof(RACH_ConfigGeneric, zeroCorrelationZoneConfig), -1, 1, 0, 1},
-    {offsetof(RACH_ConfigGeneric, preambleReceivedTargetPower), -1, 2, 1, 1},
-    {offsetof(RACH_ConfigGeneric, preambleTransMax), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigGeneric, powerRampingStep), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigGeneric, ra_ResponseWindow), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcRachCfgGeneric_t = records::opsOf<records::opCount(sizeof(RrcRachCfgGeneric_t), fields_RrcRachCfgGeneric_t, sources_RrcRachCfgGeneric_t, nullptr, 0)>(sizeof(RrcRachCfgGeneric_t), fields_RrcRachCfgGeneric_t, sources_RrcRachCfgGeneric_t, nullptr, 0);
 constexpr auto checks_RrcRachCfgGeneric_t = records::checkOpsOf(fields_RrcRachCfgGeneric_t, nullptr, 0);
-constexpr RrcRecordType type_RrcRachCfgGeneric_t = {"RrcRachCfgGeneric_t", "rrcCodec/rrcRach.h", "RACH-ConfigGeneric", "", &nr_rrc::type_RACH_ConfigGeneric, sizeof(RrcRachCfgGeneric_t), 0, 8, 0, 0, fields_RrcRachCfgGeneric_t, nullptr, nullptr, ops_RrcRachCfgGeneric_t.data(), static_cast<UINT16>(ops_RrcRachCfgGeneric_t.size()), checks_RrcRachCfgGeneric_t.data(), 198};
+constexpr RrcRecordType type_RrcRachCfgGeneric_t = {"RrcRachCfgGeneric_t", "rrcCodec/rrcRach.h", "RACH-ConfigGeneric", "", &nr_rrc::type_RACH_ConfigGeneric, sizeof(RrcRachCfgGeneric_t), 0, 8, 0, 0, fields_RrcRachCfgGeneric_t, nullptr, nullptr, checks_RrcRachCfgGeneric_t.data(), 198};
 
 constexpr RrcRecordField fields_RrcOccasions_t[] = {
     {"rachCfgGen", {"rach-ConfigGeneric", way_0, 1, &nr_rrc::type_RACH_ConfigGeneric}, &type_RrcRachCfgGeneric_t, nullptr, "", 0, 0, offsetof(RrcOccasions_t, rachCfgGen), sizeof(RrcOccasions_t::rachCfgGen), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -707,14 +490,8 @@ constexpr RrcRecordField fields_RrcOccasions_t[] = {
 constexpr RrcRecordBit bits_RrcOccasions_t[] = {
     {"RRC_OCCASION_SSB_PER_RACH_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcOccasions_t[] = {
-    {offsetof(CFRA_occasions, rach_ConfigGeneric), -1, 0, 0, 1},
-    {},
-    {offsetof(CFRA_occasions, ssb_perRACH_Occasion), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcOccasions_t = records::opsOf<records::opCount(sizeof(RrcOccasions_t), fields_RrcOccasions_t, sources_RrcOccasions_t, bits_RrcOccasions_t, 1)>(sizeof(RrcOccasions_t), fields_RrcOccasions_t, sources_RrcOccasions_t, bits_RrcOccasions_t, 1);
 constexpr auto checks_RrcOccasions_t = records::checkOpsOf(fields_RrcOccasions_t, bits_RrcOccasions_t, 1);
-constexpr RrcRecordType type_RrcOccasions_t = {"RrcOccasions_t", "rrcCodec/rrcRach.h", "CFRA.occasions", "", &nr_rrc::type_CFRA_occasions, sizeof(RrcOccasions_t), 0, 3, 1, 0, fields_RrcOccasions_t, bits_RrcOccasions_t, nullptr, ops_RrcOccasions_t.data(), static_cast<UINT16>(ops_RrcOccasions_t.size()), checks_RrcOccasions_t.data(), 197};
+constexpr RrcRecordType type_RrcOccasions_t = {"RrcOccasions_t", "rrcCodec/rrcRach.h", "CFRA.occasions", "", &nr_rrc::type_CFRA_occasions, sizeof(RrcOccasions_t), 0, 3, 1, 0, fields_RrcOccasions_t, bits_RrcOccasions_t, nullptr, checks_RrcOccasions_t.data(), 197};
 
 constexpr RrcRecordField fields_RrcCfra_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcCfra_t, bitMask), sizeof(RrcCfra_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -735,15 +512,8 @@ constexpr RrcRecordOption options_RrcCfra_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCfra_t[] = {
     {{"resources", way_1, 1, &nr_rrc::type_CFRA_resources}, 0, 0, 2, options_RrcCfra_t_0},
 };
-constexpr RrcRecordSource sources_RrcCfra_t[] = {
-    {},
-    {offsetof(CFRA, resources), -1, 0, 0, 1},
-    {offsetof(CFRA, occasions), 0, 0, 0, 1},
-    {},
-};
-constexpr auto ops_RrcCfra_t = records::opsOf<records::opCount(sizeof(RrcCfra_t), fields_RrcCfra_t, sources_RrcCfra_t, bits_RrcCfra_t, 4)>(sizeof(RrcCfra_t), fields_RrcCfra_t, sources_RrcCfra_t, bits_RrcCfra_t, 4);
 constexpr auto checks_RrcCfra_t = records::checkOpsOf(fields_RrcCfra_t, bits_RrcCfra_t, 4);
-constexpr RrcRecordType type_RrcCfra_t = {"RrcCfra_t", "rrcCodec/rrcRach.h", "CFRA", "", &nr_rrc::type_CFRA, sizeof(RrcCfra_t), 0, 4, 4, 1, fields_RrcCfra_t, bits_RrcCfra_t, choices_RrcCfra_t, ops_RrcCfra_t.data(), static_cast<UINT16>(ops_RrcCfra_t.size()), checks_RrcCfra_t.data(), 196};
+constexpr RrcRecordType type_RrcCfra_t = {"RrcCfra_t", "rrcCodec/rrcRach.h", "CFRA", "", &nr_rrc::type_CFRA, sizeof(RrcCfra_t), 0, 4, 4, 1, fields_RrcCfra_t, bits_RrcCfra_t, choices_RrcCfra_t, checks_RrcCfra_t.data(), 196};
 
 constexpr RrcRecordField fields_RrcRaPrio_t[] = {
     {"powerRampingStepHighPriority", {"powerRampingStepHighPriority", way_0, 1, &nr_rrc::type_RA_Prioritization_powerRampingStepHighPriority}, nullptr, nullptr, "", 0, 3, offsetof(RrcRaPrio_t, powerRampingStepHighPriority), sizeof(RrcRaPrio_t::powerRampingStepHighPriority), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -753,14 +523,8 @@ constexpr RrcRecordField fields_RrcRaPrio_t[] = {
 constexpr RrcRecordBit bits_RrcRaPrio_t[] = {
     {"RRC_RA_PRIO_SCALINGFACTOR_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcRaPrio_t[] = {
-    {offsetof(RA_Prioritization, powerRampingStepHighPriority), -1, 4, 0, 1},
-    {},
-    {offsetof(RA_Prioritization, scalingFactorBI), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcRaPrio_t = records::opsOf<records::opCount(sizeof(RrcRaPrio_t), fields_RrcRaPrio_t, sources_RrcRaPrio_t, bits_RrcRaPrio_t, 1)>(sizeof(RrcRaPrio_t), fields_RrcRaPrio_t, sources_RrcRaPrio_t, bits_RrcRaPrio_t, 1);
 constexpr auto checks_RrcRaPrio_t = records::checkOpsOf(fields_RrcRaPrio_t, bits_RrcRaPrio_t, 1);
-constexpr RrcRecordType type_RrcRaPrio_t = {"RrcRaPrio_t", "rrcCodec/rrcRach.h", "RA-Prioritization", "", &nr_rrc::type_RA_Prioritization, sizeof(RrcRaPrio_t), 0, 3, 1, 0, fields_RrcRaPrio_t, bits_RrcRaPrio_t, nullptr, ops_RrcRaPrio_t.data(), static_cast<UINT16>(ops_RrcRaPrio_t.size()), checks_RrcRaPrio_t.data(), 195};
+constexpr RrcRecordType type_RrcRaPrio_t = {"RrcRaPrio_t", "rrcCodec/rrcRach.h", "RA-Prioritization", "", &nr_rrc::type_RA_Prioritization, sizeof(RrcRaPrio_t), 0, 3, 1, 0, fields_RrcRaPrio_t, bits_RrcRaPrio_t, nullptr, checks_RrcRaPrio_t.data(), 195};
 
 constexpr RrcRecordField fields_RrcRachCfgDedi_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcRachCfgDedi_t, bitMask), sizeof(RrcRachCfgDedi_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -771,40 +535,23 @@ constexpr RrcRecordBit bits_RrcRachCfgDedi_t[] = {
     {"RRC_RACH_CFG_DEDI_CFRA_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_RACH_CFG_DEDI_RA_PRIO_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcRachCfgDedi_t[] = {
-    {},
-    {offsetof(RACH_ConfigDedicated, cfra), 0, 0, 0, 1},
-    {offsetof(RACH_ConfigDedicated, ra_Prioritization), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcRachCfgDedi_t = records::opsOf<records::opCount(sizeof(RrcRachCfgDedi_t), fields_RrcRachCfgDedi_t, sources_RrcRachCfgDedi_t, bits_RrcRachCfgDedi_t, 2)>(sizeof(RrcRachCfgDedi_t), fields_RrcRachCfgDedi_t, sources_RrcRachCfgDedi_t, bits_RrcRachCfgDedi_t, 2);
 constexpr auto checks_RrcRachCfgDedi_t = records::checkOpsOf(fields_RrcRachCfgDedi_t, bits_RrcRachCfgDedi_t, 2);
-constexpr RrcRecordType type_RrcRachCfgDedi_t = {"RrcRachCfgDedi_t", "rrcCodec/rrcRach.h", "RACH-ConfigDedicated", "", &nr_rrc::type_RACH_ConfigDedicated, sizeof(RrcRachCfgDedi_t), 0, 3, 2, 0, fields_RrcRachCfgDedi_t, bits_RrcRachCfgDedi_t, nullptr, ops_RrcRachCfgDedi_t.data(), static_cast<UINT16>(ops_RrcRachCfgDedi_t.size()), checks_RrcRachCfgDedi_t.data(), 194};
+constexpr RrcRecordType type_RrcRachCfgDedi_t = {"RrcRachCfgDedi_t", "rrcCodec/rrcRach.h", "RACH-ConfigDedicated", "", &nr_rrc::type_RACH_ConfigDedicated, sizeof(RrcRachCfgDedi_t), 0, 3, 2, 0, fields_RrcRachCfgDedi_t, bits_RrcRachCfgDedi_t, nullptr, checks_RrcRachCfgDedi_t.data(), 194};
 
 constexpr RrcRecordField fields_RrcReconfWithSync_t_choice[] = {
     {"uplink", {"uplink", way_0, 1, &nr_rrc::type_RACH_ConfigDedicated}, &type_RrcRachCfgDedi_t, nullptr, "", 0, 0, offsetof(decltype(RrcReconfWithSync_t::choice), uplink), sizeof(decltype(RrcReconfWithSync_t::choice)::uplink), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"suppUplink", {"supplementaryUplink", way_1, 1, &nr_rrc::type_RACH_ConfigDedicated}, &type_RrcRachCfgDedi_t, nullptr, "", 0, 0, offsetof(decltype(RrcReconfWithSync_t::choice), suppUplink), sizeof(decltype(RrcReconfWithSync_t::choice)::suppUplink), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcReconfWithSync_t_choice[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcReconfWithSync_t_choice = records::opsOf<records::opCount(sizeof(decltype(RrcReconfWithSync_t::choice)), fields_RrcReconfWithSync_t_choice, sources_RrcReconfWithSync_t_choice, nullptr, 0)>(sizeof(decltype(RrcReconfWithSync_t::choice)), fields_RrcReconfWithSync_t_choice, sources_RrcReconfWithSync_t_choice, nullptr, 0);
 constexpr auto checks_RrcReconfWithSync_t_choice = records::checkOpsOf(fields_RrcReconfWithSync_t_choice, nullptr, 0);
-constexpr RrcRecordType type_RrcReconfWithSync_t_choice = {"RrcReconfWithSync_t.choice", "rrcCodec/rrcSpCell.h", "rach-ConfigDedicated", "", &nr_rrc::type_ReconfigurationWithSync_rach_ConfigDedicated, sizeof(decltype(RrcReconfWithSync_t::choice)), 1, 2, 0, 0, fields_RrcReconfWithSync_t_choice, nullptr, nullptr, ops_RrcReconfWithSync_t_choice.data(), static_cast<UINT16>(ops_RrcReconfWithSync_t_choice.size()), checks_RrcReconfWithSync_t_choice.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcReconfWithSync_t_choice = {"RrcReconfWithSync_t.choice", "rrcCodec/rrcSpCell.h", "rach-ConfigDedicated", "", &nr_rrc::type_ReconfigurationWithSync_rach_ConfigDedicated, sizeof(decltype(RrcReconfWithSync_t::choice)), 1, 2, 0, 0, fields_RrcReconfWithSync_t_choice, nullptr, nullptr, checks_RrcReconfWithSync_t_choice.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_SpecificCarrier_t[] = {
     {"offsetToCarrier", {"offsetToCarrier", way_0, 1, &nr_rrc::type_SCS_SpecificCarrier_offsetToCarrier}, nullptr, "PRBs", "from point A", 0, 2199, offsetof(SpecificCarrier_t, offsetToCarrier), sizeof(SpecificCarrier_t::offsetToCarrier), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"subcarrierSpacing", {"subcarrierSpacing", way_1, 1, &nr_rrc::type_SubcarrierSpacing}, nullptr, nullptr, "", 0, 4, offsetof(SpecificCarrier_t, subcarrierSpacing), sizeof(SpecificCarrier_t::subcarrierSpacing), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"carrierBandwidth", {"carrierBandwidth", way_2, 1, &nr_rrc::type_SCS_SpecificCarrier_carrierBandwidth}, nullptr, "PRBs", "", 1, 275, offsetof(SpecificCarrier_t, carrierBandwidth), sizeof(SpecificCarrier_t::carrierBandwidth), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_SpecificCarrier_t[] = {
-    {offsetof(SCS_SpecificCarrier, offsetToCarrier), -1, 2, 0, 1},
-    {offsetof(SCS_SpecificCarrier, subcarrierSpacing), -1, 4, 0, 1},
-    {offsetof(SCS_SpecificCarrier, carrierBandwidth), -1, 2, 0, 1},
-};
-constexpr auto ops_SpecificCarrier_t = records::opsOf<records::opCount(sizeof(SpecificCarrier_t), fields_SpecificCarrier_t, sources_SpecificCarrier_t, nullptr, 0)>(sizeof(SpecificCarrier_t), fields_SpecificCarrier_t, sources_SpecificCarrier_t, nullptr, 0);
 constexpr auto checks_SpecificCarrier_t = records::checkOpsOf(fields_SpecificCarrier_t, nullptr, 0);
-constexpr RrcRecordType type_SpecificCarrier_t = {"SpecificCarrier_t", "gnbCommon/gnbServingCell.h", "SCS-SpecificCarrier", "without txDirectCurrentLocation", &nr_rrc::type_SCS_SpecificCarrier, sizeof(SpecificCarrier_t), 0, 3, 0, 0, fields_SpecificCarrier_t, nullptr, nullptr, ops_SpecificCarrier_t.data(), static_cast<UINT16>(ops_SpecificCarrier_t.size()), checks_SpecificCarrier_t.data(), 193};
+constexpr RrcRecordType type_SpecificCarrier_t = {"SpecificCarrier_t", "gnbCommon/gnbServingCell.h", "SCS-SpecificCarrier", "without txDirectCurrentLocation", &nr_rrc::type_SCS_SpecificCarrier, sizeof(SpecificCarrier_t), 0, 3, 0, 0, fields_SpecificCarrier_t, nullptr, nullptr, checks_SpecificCarrier_t.data(), 193};
 
 constexpr RrcRecordField fields_RrcFreqInfoDl_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(RrcFreqInfoDl_t, bitMask), sizeof(RrcFreqInfoDl_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -818,30 +565,15 @@ constexpr RrcRecordField fields_RrcFreqInfoDl_t[] = {
 constexpr RrcRecordBit bits_RrcFreqInfoDl_t[] = {
     {"FREQ_INFO_DL_ABS_FREQ_SSB", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcFreqInfoDl_t[] = {
-    {},
-    {offsetof(FrequencyInfoDL, absoluteFrequencySSB), 0, 4, 0, 1},
-    {},
-    {offsetof(FrequencyInfoDL, frequencyBandList), -1, 0, 0, 1},
-    {offsetof(FrequencyInfoDL, absoluteFrequencyPointA), -1, 4, 0, 1},
-    {},
-    {offsetof(FrequencyInfoDL, scs_SpecificCarrierList), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcFreqInfoDl_t = records::opsOf<records::opCount(sizeof(RrcFreqInfoDl_t), fields_RrcFreqInfoDl_t, sources_RrcFreqInfoDl_t, bits_RrcFreqInfoDl_t, 1)>(sizeof(RrcFreqInfoDl_t), fields_RrcFreqInfoDl_t, sources_RrcFreqInfoDl_t, bits_RrcFreqInfoDl_t, 1);
 constexpr auto checks_RrcFreqInfoDl_t = records::checkOpsOf(fields_RrcFreqInfoDl_t, bits_RrcFreqInfoDl_t, 1);
-constexpr RrcRecordType type_RrcFreqInfoDl_t = {"RrcFreqInfoDl_t", "rrcCodec/rrcServingCellCommon.h", "FrequencyInfoDL", "", &nr_rrc::type_FrequencyInfoDL, sizeof(RrcFreqInfoDl_t), 0, 7, 1, 0, fields_RrcFreqInfoDl_t, bits_RrcFreqInfoDl_t, nullptr, ops_RrcFreqInfoDl_t.data(), static_cast<UINT16>(ops_RrcFreqInfoDl_t.size()), checks_RrcFreqInfoDl_t.data(), 192};
+constexpr RrcRecordType type_RrcFreqInfoDl_t = {"RrcFreqInfoDl_t", "rrcCodec/rrcServingCellCommon.h", "FrequencyInfoDL", "", &nr_rrc::type_FrequencyInfoDL, sizeof(RrcFreqInfoDl_t), 0, 7, 1, 0, fields_RrcFreqInfoDl_t, bits_RrcFreqInfoDl_t, nullptr, checks_RrcFreqInfoDl_t.data(), 192};
 
 constexpr RrcRecordField fields_NrBWP_t[] = {
     {"locationAndBandwidth", {"locationAndBandwidth", way_0, 1, &nr_rrc::type_BWP_locationAndBandwidth}, nullptr, nullptr, "both in one number, the RIV of TS 38.214", 0, 37949, offsetof(NrBWP_t, locationAndBandwidth), sizeof(NrBWP_t::locationAndBandwidth), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"subcarrierSpacing", {"subcarrierSpacing", way_1, 1, &nr_rrc::type_SubcarrierSpacing}, nullptr, nullptr, "", 0, 4, offsetof(NrBWP_t, subcarrierSpacing), sizeof(NrBWP_t::subcarrierSpacing), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_NrBWP_t[] = {
-    {offsetof(BWP, locationAndBandwidth), -1, 2, 0, 1},
-    {offsetof(BWP, subcarrierSpacing), -1, 4, 0, 1},
-};
-constexpr auto ops_NrBWP_t = records::opsOf<records::opCount(sizeof(NrBWP_t), fields_NrBWP_t, sources_NrBWP_t, nullptr, 0)>(sizeof(NrBWP_t), fields_NrBWP_t, sources_NrBWP_t, nullptr, 0);
 constexpr auto checks_NrBWP_t = records::checkOpsOf(fields_NrBWP_t, nullptr, 0);
-constexpr RrcRecordType type_NrBWP_t = {"NrBWP_t", "gnbCommon/gnbServingCell.h", "BWP", "Whether the cyclic prefix is extended is told by the mask of the record around it.", &nr_rrc::type_BWP, sizeof(NrBWP_t), 0, 2, 0, 0, fields_NrBWP_t, nullptr, nullptr, ops_NrBWP_t.data(), static_cast<UINT16>(ops_NrBWP_t.size()), checks_NrBWP_t.data(), 191};
+constexpr RrcRecordType type_NrBWP_t = {"NrBWP_t", "gnbCommon/gnbServingCell.h", "BWP", "Whether the cyclic prefix is extended is told by the mask of the record around it.", &nr_rrc::type_BWP, sizeof(NrBWP_t), 0, 2, 0, 0, fields_NrBWP_t, nullptr, nullptr, checks_NrBWP_t.data(), 191};
 
 constexpr RrcRecordField fields_NrControlResourceSet_t[] = {
     {"controlResourceSetId", {"controlResourceSetId", way_0, 1, &nr_rrc::type_ControlResourceSetId}, nullptr, nullptr, "", 0, 11, offsetof(NrControlResourceSet_t, controlResourceSetId), sizeof(NrControlResourceSet_t::controlResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -871,25 +603,8 @@ constexpr RrcRecordOption options_NrControlResourceSet_t_0[] = {
 constexpr RrcRecordChoice choices_NrControlResourceSet_t[] = {
     {{"cce-REG-MappingType", way_3, 1, &nr_rrc::type_ControlResourceSet_cce_REG_MappingType}, 3, 1, 2, options_NrControlResourceSet_t_0},
 };
-constexpr RrcRecordSource sources_NrControlResourceSet_t[] = {
-    {offsetof(ControlResourceSet, controlResourceSetId), -1, 1, 0, 1},
-    {offsetof(ControlResourceSet, frequencyDomainResources), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, duration), -1, 1, 0, 1},
-    {offsetof(ControlResourceSet, cce_REG_MappingType), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, cce_REG_MappingType), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, cce_REG_MappingType), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, cce_REG_MappingType), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, precoderGranularity), -1, 4, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, tci_StatesPDCCH_ToAddList), 0, 0, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, tci_StatesPDCCH_ToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, pdcch_DMRS_ScramblingID), 3, 2, 0, 1},
-};
-constexpr auto ops_NrControlResourceSet_t = records::opsOf<records::opCount(sizeof(NrControlResourceSet_t), fields_NrControlResourceSet_t, sources_NrControlResourceSet_t, bits_NrControlResourceSet_t, 3)>(sizeof(NrControlResourceSet_t), fields_NrControlResourceSet_t, sources_NrControlResourceSet_t, bits_NrControlResourceSet_t, 3);
 constexpr auto checks_NrControlResourceSet_t = records::checkOpsOf(fields_NrControlResourceSet_t, bits_NrControlResourceSet_t, 3);
-constexpr RrcRecordType type_NrControlResourceSet_t = {"NrControlResourceSet_t", "gnbCommon/gnbServingCell.h", "ControlResourceSet", "", &nr_rrc::type_ControlResourceSet, sizeof(NrControlResourceSet_t), 0, 14, 3, 1, fields_NrControlResourceSet_t, bits_NrControlResourceSet_t, choices_NrControlResourceSet_t, ops_NrControlResourceSet_t.data(), static_cast<UINT16>(ops_NrControlResourceSet_t.size()), checks_NrControlResourceSet_t.data(), 190};
+constexpr RrcRecordType type_NrControlResourceSet_t = {"NrControlResourceSet_t", "gnbCommon/gnbServingCell.h", "ControlResourceSet", "", &nr_rrc::type_ControlResourceSet, sizeof(NrControlResourceSet_t), 0, 14, 3, 1, fields_NrControlResourceSet_t, bits_NrControlResourceSet_t, choices_NrControlResourceSet_t, checks_NrControlResourceSet_t.data(), 190};
 
 constexpr RrcRecordField fields_NrNrofCandidates_t[] = {
     {"aggregationLevel1", {"aggregationLevel1", way_0, 1, &nr_rrc::type_SearchSpace_nrofCandidates_aggregationLevel1}, nullptr, nullptr, "", 0, 7, offsetof(NrNrofCandidates_t, aggregationLevel1), sizeof(NrNrofCandidates_t::aggregationLevel1), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -898,16 +613,8 @@ constexpr RrcRecordField fields_NrNrofCandidates_t[] = {
     {"aggregationLevel8", {"aggregationLevel8", way_3, 1, &nr_rrc::type_SearchSpace_nrofCandidates_aggregationLevel8}, nullptr, nullptr, "", 0, 7, offsetof(NrNrofCandidates_t, aggregationLevel8), sizeof(NrNrofCandidates_t::aggregationLevel8), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"aggregationLevel16", {"aggregationLevel16", way_4, 1, &nr_rrc::type_SearchSpace_nrofCandidates_aggregationLevel16}, nullptr, nullptr, "", 0, 7, offsetof(NrNrofCandidates_t, aggregationLevel16), sizeof(NrNrofCandidates_t::aggregationLevel16), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_NrNrofCandidates_t[] = {
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel1), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel2), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel4), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel8), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel16), -1, 4, 0, 1},
-};
-constexpr auto ops_NrNrofCandidates_t = records::opsOf<records::opCount(sizeof(NrNrofCandidates_t), fields_NrNrofCandidates_t, sources_NrNrofCandidates_t, nullptr, 0)>(sizeof(NrNrofCandidates_t), fields_NrNrofCandidates_t, sources_NrNrofCandidates_t, nullptr, 0);
 constexpr auto checks_NrNrofCandidates_t = records::checkOpsOf(fields_NrNrofCandidates_t, nullptr, 0);
-constexpr RrcRecordType type_NrNrofCandidates_t = {"NrNrofCandidates_t", "gnbCommon/gnbServingCell.h", "SearchSpace.nrofCandidates", "", &nr_rrc::type_SearchSpace_nrofCandidates, sizeof(NrNrofCandidates_t), 0, 5, 0, 0, fields_NrNrofCandidates_t, nullptr, nullptr, ops_NrNrofCandidates_t.data(), static_cast<UINT16>(ops_NrNrofCandidates_t.size()), checks_NrNrofCandidates_t.data(), 189};
+constexpr RrcRecordType type_NrNrofCandidates_t = {"NrNrofCandidates_t", "gnbCommon/gnbServingCell.h", "SearchSpace.nrofCandidates", "", &nr_rrc::type_SearchSpace_nrofCandidates, sizeof(NrNrofCandidates_t), 0, 5, 0, 0, fields_NrNrofCandidates_t, nullptr, nullptr, checks_NrNrofCandidates_t.data(), 189};
 
 constexpr RrcRecordField fields_NrNrofCandidatesSfi_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 31, offsetof(NrNrofCandidatesSfi_t, bitmask), sizeof(NrNrofCandidatesSfi_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -924,17 +631,8 @@ constexpr RrcRecordBit bits_NrNrofCandidatesSfi_t[] = {
     {"NR_SFI_AGGREGATION_LEVEL8_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
     {"NR_SFI_AGGREGATION_LEVEL16_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_NrNrofCandidatesSfi_t[] = {
-    {},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, aggregationLevel1), 0, 4, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, aggregationLevel2), 1, 4, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, aggregationLevel4), 2, 4, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, aggregationLevel8), 3, 4, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, aggregationLevel16), 4, 4, 0, 1},
-};
-constexpr auto ops_NrNrofCandidatesSfi_t = records::opsOf<records::opCount(sizeof(NrNrofCandidatesSfi_t), fields_NrNrofCandidatesSfi_t, sources_NrNrofCandidatesSfi_t, bits_NrNrofCandidatesSfi_t, 5)>(sizeof(NrNrofCandidatesSfi_t), fields_NrNrofCandidatesSfi_t, sources_NrNrofCandidatesSfi_t, bits_NrNrofCandidatesSfi_t, 5);
 constexpr auto checks_NrNrofCandidatesSfi_t = records::checkOpsOf(fields_NrNrofCandidatesSfi_t, bits_NrNrofCandidatesSfi_t, 5);
-constexpr RrcRecordType type_NrNrofCandidatesSfi_t = {"NrNrofCandidatesSfi_t", "gnbCommon/gnbServingCell.h", "SearchSpace.searchSpaceType.common.dci-Format2-0.nrofCandidates-SFI", "", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, sizeof(NrNrofCandidatesSfi_t), 0, 6, 5, 0, fields_NrNrofCandidatesSfi_t, bits_NrNrofCandidatesSfi_t, nullptr, ops_NrNrofCandidatesSfi_t.data(), static_cast<UINT16>(ops_NrNrofCandidatesSfi_t.size()), checks_NrNrofCandidatesSfi_t.data(), 188};
+constexpr RrcRecordType type_NrNrofCandidatesSfi_t = {"NrNrofCandidatesSfi_t", "gnbCommon/gnbServingCell.h", "SearchSpace.searchSpaceType.common.dci-Format2-0.nrofCandidates-SFI", "", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_0_nrofCandidates_SFI, sizeof(NrNrofCandidatesSfi_t), 0, 6, 5, 0, fields_NrNrofCandidatesSfi_t, bits_NrNrofCandidatesSfi_t, nullptr, checks_NrNrofCandidatesSfi_t.data(), 188};
 
 constexpr RrcRecordField fields_NrSearchSpaceCommon_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 63, offsetof(NrSearchSpaceCommon_t, bitmask), sizeof(NrSearchSpaceCommon_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -950,15 +648,8 @@ constexpr RrcRecordBit bits_NrSearchSpaceCommon_t[] = {
     {"NR_SEARCH_SPACE_DCI_FORMAT2_3", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
     {"NR_SEARCH_SPACE_DCI_FORMAT2_3_DUMMY1_PRESENCE", "", nullptr, {}, 0, 5, RRC_BIT_GUARDS, 4},
 };
-constexpr RrcRecordSource sources_NrSearchSpaceCommon_t[] = {
-    {},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_0), 1, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_3), 4, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_3), 4, 0, 0, 1},
-};
-constexpr auto ops_NrSearchSpaceCommon_t = records::opsOf<records::opCount(sizeof(NrSearchSpaceCommon_t), fields_NrSearchSpaceCommon_t, sources_NrSearchSpaceCommon_t, bits_NrSearchSpaceCommon_t, 6)>(sizeof(NrSearchSpaceCommon_t), fields_NrSearchSpaceCommon_t, sources_NrSearchSpaceCommon_t, bits_NrSearchSpaceCommon_t, 6);
 constexpr auto checks_NrSearchSpaceCommon_t = records::checkOpsOf(fields_NrSearchSpaceCommon_t, bits_NrSearchSpaceCommon_t, 6);
-constexpr RrcRecordType type_NrSearchSpaceCommon_t = {"NrSearchSpaceCommon_t", "gnbCommon/gnbServingCell.h", "SearchSpace.searchSpaceType.common", "", &nr_rrc::type_SearchSpace_searchSpaceType_common, sizeof(NrSearchSpaceCommon_t), 0, 4, 6, 0, fields_NrSearchSpaceCommon_t, bits_NrSearchSpaceCommon_t, nullptr, ops_NrSearchSpaceCommon_t.data(), static_cast<UINT16>(ops_NrSearchSpaceCommon_t.size()), checks_NrSearchSpaceCommon_t.data(), 187};
+constexpr RrcRecordType type_NrSearchSpaceCommon_t = {"NrSearchSpaceCommon_t", "gnbCommon/gnbServingCell.h", "SearchSpace.searchSpaceType.common", "", &nr_rrc::type_SearchSpace_searchSpaceType_common, sizeof(NrSearchSpaceCommon_t), 0, 4, 6, 0, fields_NrSearchSpaceCommon_t, bits_NrSearchSpaceCommon_t, nullptr, checks_NrSearchSpaceCommon_t.data(), 187};
 
 constexpr RrcRecordField fields_NrSearchSpace_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 63, offsetof(NrSearchSpace_t, bitmask), sizeof(NrSearchSpace_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1006,22 +697,8 @@ constexpr RrcRecordChoice choices_NrSearchSpace_t[] = {
     {{"monitoringSlotPeriodicityAndOffset", way_2, 1, &nr_rrc::type_SearchSpace_monitoringSlotPeriodicityAndOffset}, 3, 1, 15, options_NrSearchSpace_t_0},
     {{"searchSpaceType", way_10, 1, &nr_rrc::type_SearchSpace_searchSpaceType}, 8, 1, 2, options_NrSearchSpace_t_1},
 };
-constexpr RrcRecordSource sources_NrSearchSpace_t[] = {
-    {},
-    {offsetof(SearchSpace, searchSpaceId), -1, 1, 0, 1},
-    {offsetof(SearchSpace, controlResourceSetId), 0, 1, 0, 1},
-    {offsetof(SearchSpace, monitoringSlotPeriodicityAndOffset), 1, 0, 0, 1},
-    {},
-    {offsetof(SearchSpace, duration), 2, 2, 0, 1},
-    {offsetof(SearchSpace, monitoringSymbolsWithinSlot), 3, 0, 0, 1},
-    {offsetof(SearchSpace, nrofCandidates), 4, 0, 0, 1},
-    {offsetof(SearchSpace, searchSpaceType), 5, 0, 0, 1},
-    {offsetof(SearchSpace, searchSpaceType), 5, 0, 0, 1},
-    {offsetof(SearchSpace, searchSpaceType), 5, 0, 0, 1},
-};
-constexpr auto ops_NrSearchSpace_t = records::opsOf<records::opCount(sizeof(NrSearchSpace_t), fields_NrSearchSpace_t, sources_NrSearchSpace_t, bits_NrSearchSpace_t, 6)>(sizeof(NrSearchSpace_t), fields_NrSearchSpace_t, sources_NrSearchSpace_t, bits_NrSearchSpace_t, 6);
 constexpr auto checks_NrSearchSpace_t = records::checkOpsOf(fields_NrSearchSpace_t, bits_NrSearchSpace_t, 6);
-constexpr RrcRecordType type_NrSearchSpace_t = {"NrSearchSpace_t", "gnbCommon/gnbServingCell.h", "SearchSpace", "", &nr_rrc::type_SearchSpace, sizeof(NrSearchSpace_t), 0, 11, 6, 2, fields_NrSearchSpace_t, bits_NrSearchSpace_t, choices_NrSearchSpace_t, ops_NrSearchSpace_t.data(), static_cast<UINT16>(ops_NrSearchSpace_t.size()), checks_NrSearchSpace_t.data(), 186};
+constexpr RrcRecordType type_NrSearchSpace_t = {"NrSearchSpace_t", "gnbCommon/gnbServingCell.h", "SearchSpace", "", &nr_rrc::type_SearchSpace, sizeof(NrSearchSpace_t), 0, 11, 6, 2, fields_NrSearchSpace_t, bits_NrSearchSpace_t, choices_NrSearchSpace_t, checks_NrSearchSpace_t.data(), 186};
 
 constexpr RrcRecordField fields_NrFirstPdcchMonitoringOccasion_t[] = {
     {"zone", {"", nullptr, 0, &nr_rrc::type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO}, nullptr, nullptr, "", 1, 8, offsetof(NrFirstPdcchMonitoringOccasion_t, zone), sizeof(NrFirstPdcchMonitoringOccasion_t::zone), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -1041,14 +718,8 @@ constexpr RrcRecordOption options_NrFirstPdcchMonitoringOccasion_t_0[] = {
 constexpr RrcRecordChoice choices_NrFirstPdcchMonitoringOccasion_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO}, 0, 1, 8, options_NrFirstPdcchMonitoringOccasion_t_0},
 };
-constexpr RrcRecordSource sources_NrFirstPdcchMonitoringOccasion_t[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_NrFirstPdcchMonitoringOccasion_t = records::opsOf<records::opCount(sizeof(NrFirstPdcchMonitoringOccasion_t), fields_NrFirstPdcchMonitoringOccasion_t, sources_NrFirstPdcchMonitoringOccasion_t, nullptr, 0)>(sizeof(NrFirstPdcchMonitoringOccasion_t), fields_NrFirstPdcchMonitoringOccasion_t, sources_NrFirstPdcchMonitoringOccasion_t, nullptr, 0);
 constexpr auto checks_NrFirstPdcchMonitoringOccasion_t = records::checkOpsOf(fields_NrFirstPdcchMonitoringOccasion_t, nullptr, 0);
-constexpr RrcRecordType type_NrFirstPdcchMonitoringOccasion_t = {"NrFirstPdcchMonitoringOccasion_t", "gnbCommon/gnbServingCell.h", "PDCCH-ConfigCommon.firstPDCCH-MonitoringOccasionOfPO", "", &nr_rrc::type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO, sizeof(NrFirstPdcchMonitoringOccasion_t), 0, 3, 0, 1, fields_NrFirstPdcchMonitoringOccasion_t, nullptr, choices_NrFirstPdcchMonitoringOccasion_t, ops_NrFirstPdcchMonitoringOccasion_t.data(), static_cast<UINT16>(ops_NrFirstPdcchMonitoringOccasion_t.size()), checks_NrFirstPdcchMonitoringOccasion_t.data(), 185};
+constexpr RrcRecordType type_NrFirstPdcchMonitoringOccasion_t = {"NrFirstPdcchMonitoringOccasion_t", "gnbCommon/gnbServingCell.h", "PDCCH-ConfigCommon.firstPDCCH-MonitoringOccasionOfPO", "", &nr_rrc::type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO, sizeof(NrFirstPdcchMonitoringOccasion_t), 0, 3, 0, 1, fields_NrFirstPdcchMonitoringOccasion_t, nullptr, choices_NrFirstPdcchMonitoringOccasion_t, checks_NrFirstPdcchMonitoringOccasion_t.data(), 185};
 
 constexpr RrcRecordField fields_PdcchCfgCommon_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 255, offsetof(PdcchCfgCommon_t, bitmask), sizeof(PdcchCfgCommon_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1073,22 +744,8 @@ constexpr RrcRecordBit bits_PdcchCfgCommon_t[] = {
     {"NR_PDCCH_COMMON_RA_SEARCH_SPACE_PRESENCE", "", nullptr, {}, 0, 6, RRC_BIT_GUARDS, -1},
     {"NR_PDCCH_COMMON_FIRST_MONITORING_OCCASION_PRESENCE", "", nullptr, {}, 0, 7, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_PdcchCfgCommon_t[] = {
-    {},
-    {offsetof(PDCCH_ConfigCommon, controlResourceSetZero), 0, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, commonControlResourceSet), 1, 0, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, searchSpaceZero), 2, 1, 0, 1},
-    {},
-    {offsetof(PDCCH_ConfigCommon, commonSearchSpaceList), 3, 0, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, searchSpaceSIB1), 4, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, searchSpaceOtherSystemInformation), 5, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, pagingSearchSpace), 6, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, ra_SearchSpace), 7, 1, 0, 1},
-    {},
-};
-constexpr auto ops_PdcchCfgCommon_t = records::opsOf<records::opCount(sizeof(PdcchCfgCommon_t), fields_PdcchCfgCommon_t, sources_PdcchCfgCommon_t, bits_PdcchCfgCommon_t, 8)>(sizeof(PdcchCfgCommon_t), fields_PdcchCfgCommon_t, sources_PdcchCfgCommon_t, bits_PdcchCfgCommon_t, 8);
 constexpr auto checks_PdcchCfgCommon_t = records::checkOpsOf(fields_PdcchCfgCommon_t, bits_PdcchCfgCommon_t, 8);
-constexpr RrcRecordType type_PdcchCfgCommon_t = {"PdcchCfgCommon_t", "gnbCommon/gnbServingCell.h", "PDCCH-ConfigCommon", "", &nr_rrc::type_PDCCH_ConfigCommon, sizeof(PdcchCfgCommon_t), 0, 11, 8, 0, fields_PdcchCfgCommon_t, bits_PdcchCfgCommon_t, nullptr, ops_PdcchCfgCommon_t.data(), static_cast<UINT16>(ops_PdcchCfgCommon_t.size()), checks_PdcchCfgCommon_t.data(), 184};
+constexpr RrcRecordType type_PdcchCfgCommon_t = {"PdcchCfgCommon_t", "gnbCommon/gnbServingCell.h", "PDCCH-ConfigCommon", "", &nr_rrc::type_PDCCH_ConfigCommon, sizeof(PdcchCfgCommon_t), 0, 11, 8, 0, fields_PdcchCfgCommon_t, bits_PdcchCfgCommon_t, nullptr, checks_PdcchCfgCommon_t.data(), 184};
 
 constexpr RrcRecordField fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 1, offsetof(NrTimeDomainAlloc_t, bitmask), sizeof(NrTimeDomainAlloc_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1099,27 +756,15 @@ constexpr RrcRecordField fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllo
 constexpr RrcRecordBit bits_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation[] = {
     {"NR_TIME_DOMAIN_ALLOC_SLOT_OFFSET_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation[] = {
-    {},
-    {offsetof(PDSCH_TimeDomainResourceAllocation, k0), 0, 1, 0, 1},
-    {offsetof(PDSCH_TimeDomainResourceAllocation, mappingType), -1, 4, 0, 1},
-    {offsetof(PDSCH_TimeDomainResourceAllocation, startSymbolAndLength), -1, 1, 0, 1},
-};
-constexpr auto ops_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation = records::opsOf<records::opCount(sizeof(NrTimeDomainAlloc_t), fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, sources_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, 1)>(sizeof(NrTimeDomainAlloc_t), fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, sources_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, 1);
 constexpr auto checks_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation = records::checkOpsOf(fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, 1);
-constexpr RrcRecordType type_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation = {"NrTimeDomainAlloc_t", "gnbCommon/gnbServingCell.h", "PDSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PDSCH_TimeDomainResourceAllocation, sizeof(NrTimeDomainAlloc_t), 0, 4, 1, 0, fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, nullptr, ops_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation.data(), static_cast<UINT16>(ops_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation.size()), checks_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation.data(), 177};
+constexpr RrcRecordType type_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation = {"NrTimeDomainAlloc_t", "gnbCommon/gnbServingCell.h", "PDSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PDSCH_TimeDomainResourceAllocation, sizeof(NrTimeDomainAlloc_t), 0, 4, 1, 0, fields_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, nullptr, checks_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation.data(), 177};
 
 constexpr RrcRecordField fields_PdschCfgCommon_t[] = {
     {"numTimeDomainAllocs", {}, nullptr, nullptr, "", 0, 16, offsetof(PdschCfgCommon_t, numTimeDomainAllocs), sizeof(PdschCfgCommon_t::numTimeDomainAllocs), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"timeDomainAlloc", {"pdsch-TimeDomainAllocationList", way_16, 2, &nr_rrc::type_PDSCH_TimeDomainResourceAllocation}, &type_NrTimeDomainAlloc_t_PDSCH_TimeDomainResourceAllocation, nullptr, "", 0, 0, offsetof(PdschCfgCommon_t, timeDomainAlloc), sizeof(PdschCfgCommon_t::timeDomainAlloc[0]), sizeof(PdschCfgCommon_t::timeDomainAlloc) / sizeof(PdschCfgCommon_t::timeDomainAlloc[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_PdschCfgCommon_t[] = {
-    {},
-    {offsetof(PDSCH_ConfigCommon, pdsch_TimeDomainAllocationList), 0, 0, 0, 1},
-};
-constexpr auto ops_PdschCfgCommon_t = records::opsOf<records::opCount(sizeof(PdschCfgCommon_t), fields_PdschCfgCommon_t, sources_PdschCfgCommon_t, nullptr, 0)>(sizeof(PdschCfgCommon_t), fields_PdschCfgCommon_t, sources_PdschCfgCommon_t, nullptr, 0);
 constexpr auto checks_PdschCfgCommon_t = records::checkOpsOf(fields_PdschCfgCommon_t, nullptr, 0);
-constexpr RrcRecordType type_PdschCfgCommon_t = {"PdschCfgCommon_t", "gnbCommon/gnbServingCell.h", "PDSCH-ConfigCommon", "", &nr_rrc::type_PDSCH_ConfigCommon, sizeof(PdschCfgCommon_t), 0, 2, 0, 0, fields_PdschCfgCommon_t, nullptr, nullptr, ops_PdschCfgCommon_t.data(), static_cast<UINT16>(ops_PdschCfgCommon_t.size()), checks_PdschCfgCommon_t.data(), 183};
+constexpr RrcRecordType type_PdschCfgCommon_t = {"PdschCfgCommon_t", "gnbCommon/gnbServingCell.h", "PDSCH-ConfigCommon", "", &nr_rrc::type_PDSCH_ConfigCommon, sizeof(PdschCfgCommon_t), 0, 2, 0, 0, fields_PdschCfgCommon_t, nullptr, nullptr, checks_PdschCfgCommon_t.data(), 183};
 
 constexpr RrcRecordField fields_NrBwpDownLinkCommon_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 7, offsetof(NrBwpDownLinkCommon_t, bitmask), sizeof(NrBwpDownLinkCommon_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1132,15 +777,8 @@ constexpr RrcRecordBit bits_NrBwpDownLinkCommon_t[] = {
     {"NR_BWP_DL_PDSCH_CFG_COMMON_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
     {"NR_BWP_DL_EXTENDED_CYCLIC_PREFIX", "", nullptr, {"genericParameters.cyclicPrefix", way_33, 2, &nr_rrc::type_BWP_cyclicPrefix}, 0, 2, RRC_BIT_SENDS, -1},
 };
-constexpr RrcRecordSource sources_NrBwpDownLinkCommon_t[] = {
-    {},
-    {offsetof(BWP_DownlinkCommon, genericParameters), -1, 0, 0, 1},
-    {offsetof(BWP_DownlinkCommon, pdcch_ConfigCommon), 0, 0, 0, 1},
-    {offsetof(BWP_DownlinkCommon, pdsch_ConfigCommon), 1, 0, 0, 1},
-};
-constexpr auto ops_NrBwpDownLinkCommon_t = records::opsOf<records::opCount(sizeof(NrBwpDownLinkCommon_t), fields_NrBwpDownLinkCommon_t, sources_NrBwpDownLinkCommon_t, bits_NrBwpDownLinkCommon_t, 3)>(sizeof(NrBwpDownLinkCommon_t), fields_NrBwpDownLinkCommon_t, sources_NrBwpDownLinkCommon_t, bits_NrBwpDownLinkCommon_t, 3);
 constexpr auto checks_NrBwpDownLinkCommon_t = records::checkOpsOf(fields_NrBwpDownLinkCommon_t, bits_NrBwpDownLinkCommon_t, 3);
-constexpr RrcRecordType type_NrBwpDownLinkCommon_t = {"NrBwpDownLinkCommon_t", "gnbCommon/gnbServingCell.h", "BWP-DownlinkCommon", "", &nr_rrc::type_BWP_DownlinkCommon, sizeof(NrBwpDownLinkCommon_t), 0, 4, 3, 0, fields_NrBwpDownLinkCommon_t, bits_NrBwpDownLinkCommon_t, nullptr, ops_NrBwpDownLinkCommon_t.data(), static_cast<UINT16>(ops_NrBwpDownLinkCommon_t.size()), checks_NrBwpDownLinkCommon_t.data(), 182};
+constexpr RrcRecordType type_NrBwpDownLinkCommon_t = {"NrBwpDownLinkCommon_t", "gnbCommon/gnbServingCell.h", "BWP-DownlinkCommon", "", &nr_rrc::type_BWP_DownlinkCommon, sizeof(NrBwpDownLinkCommon_t), 0, 4, 3, 0, fields_NrBwpDownLinkCommon_t, bits_NrBwpDownLinkCommon_t, nullptr, checks_NrBwpDownLinkCommon_t.data(), 182};
 
 constexpr RrcRecordField fields_RrcDlCfgComm_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcDlCfgComm_t, bitMask), sizeof(RrcDlCfgComm_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1151,14 +789,8 @@ constexpr RrcRecordBit bits_RrcDlCfgComm_t[] = {
     {"RRC_DLCFGCOMM_FREQ_DL_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_DLCFGCOMM_INIT_DL_BWP_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcDlCfgComm_t[] = {
-    {},
-    {offsetof(DownlinkConfigCommon, frequencyInfoDL), 0, 0, 0, 1},
-    {offsetof(DownlinkConfigCommon, initialDownlinkBWP), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcDlCfgComm_t = records::opsOf<records::opCount(sizeof(RrcDlCfgComm_t), fields_RrcDlCfgComm_t, sources_RrcDlCfgComm_t, bits_RrcDlCfgComm_t, 2)>(sizeof(RrcDlCfgComm_t), fields_RrcDlCfgComm_t, sources_RrcDlCfgComm_t, bits_RrcDlCfgComm_t, 2);
 constexpr auto checks_RrcDlCfgComm_t = records::checkOpsOf(fields_RrcDlCfgComm_t, bits_RrcDlCfgComm_t, 2);
-constexpr RrcRecordType type_RrcDlCfgComm_t = {"RrcDlCfgComm_t", "rrcCodec/rrcServingCellCommon.h", "DownlinkConfigCommon", "", &nr_rrc::type_DownlinkConfigCommon, sizeof(RrcDlCfgComm_t), 0, 3, 2, 0, fields_RrcDlCfgComm_t, bits_RrcDlCfgComm_t, nullptr, ops_RrcDlCfgComm_t.data(), static_cast<UINT16>(ops_RrcDlCfgComm_t.size()), checks_RrcDlCfgComm_t.data(), 181};
+constexpr RrcRecordType type_RrcDlCfgComm_t = {"RrcDlCfgComm_t", "rrcCodec/rrcServingCellCommon.h", "DownlinkConfigCommon", "", &nr_rrc::type_DownlinkConfigCommon, sizeof(RrcDlCfgComm_t), 0, 3, 2, 0, fields_RrcDlCfgComm_t, bits_RrcDlCfgComm_t, nullptr, checks_RrcDlCfgComm_t.data(), 181};
 
 constexpr RrcRecordField fields_RrcFreqInfoUl_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcFreqInfoUl_t, bitMask), sizeof(RrcFreqInfoUl_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1177,20 +809,8 @@ constexpr RrcRecordBit bits_RrcFreqInfoUl_t[] = {
     {"FREQ_INFO_UL_PMAX_PRESENCE", "it is copied and not sent", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
     {"FREQ_INFO_UL_FREQ_SHIFT_7P5KHZ", "it is copied and not sent", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcFreqInfoUl_t[] = {
-    {},
-    {},
-    {offsetof(FrequencyInfoUL, frequencyBandList), 0, 0, 0, 1},
-    {offsetof(FrequencyInfoUL, absoluteFrequencyPointA), 1, 4, 0, 1},
-    {},
-    {offsetof(FrequencyInfoUL, scs_SpecificCarrierList), -1, 0, 0, 1},
-    {offsetof(FrequencyInfoUL, additionalSpectrumEmission), 2, 1, 0, 1},
-    {offsetof(FrequencyInfoUL, p_Max), 3, 1, 1, 1},
-    {offsetof(FrequencyInfoUL, frequencyShift7p5khz), 4, 4, 0, 1},
-};
-constexpr auto ops_RrcFreqInfoUl_t = records::opsOf<records::opCount(sizeof(RrcFreqInfoUl_t), fields_RrcFreqInfoUl_t, sources_RrcFreqInfoUl_t, bits_RrcFreqInfoUl_t, 4)>(sizeof(RrcFreqInfoUl_t), fields_RrcFreqInfoUl_t, sources_RrcFreqInfoUl_t, bits_RrcFreqInfoUl_t, 4);
 constexpr auto checks_RrcFreqInfoUl_t = records::checkOpsOf(fields_RrcFreqInfoUl_t, bits_RrcFreqInfoUl_t, 4);
-constexpr RrcRecordType type_RrcFreqInfoUl_t = {"RrcFreqInfoUl_t", "rrcCodec/rrcServingCellCommon.h", "FrequencyInfoUL", "The four members that bitMask guards are copied into the element and never sent.", &nr_rrc::type_FrequencyInfoUL, sizeof(RrcFreqInfoUl_t), 0, 9, 4, 0, fields_RrcFreqInfoUl_t, bits_RrcFreqInfoUl_t, nullptr, ops_RrcFreqInfoUl_t.data(), static_cast<UINT16>(ops_RrcFreqInfoUl_t.size()), checks_RrcFreqInfoUl_t.data(), 180};
+constexpr RrcRecordType type_RrcFreqInfoUl_t = {"RrcFreqInfoUl_t", "rrcCodec/rrcServingCellCommon.h", "FrequencyInfoUL", "The four members that bitMask guards are copied into the element and never sent.", &nr_rrc::type_FrequencyInfoUL, sizeof(RrcFreqInfoUl_t), 0, 9, 4, 0, fields_RrcFreqInfoUl_t, bits_RrcFreqInfoUl_t, nullptr, checks_RrcFreqInfoUl_t.data(), 180};
 
 constexpr RrcRecordField fields_NrRachCfgGeneric_t[] = {
     {"prachConfigurationIndex", {"prach-ConfigurationIndex", way_0, 1, &nr_rrc::type_RACH_ConfigGeneric_prach_ConfigurationIndex}, nullptr, nullptr, "", 0, 255, offsetof(NrRachCfgGeneric_t, prachConfigurationIndex), sizeof(NrRachCfgGeneric_t::prachConfigurationIndex), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -1202,19 +822,8 @@ constexpr RrcRecordField fields_NrRachCfgGeneric_t[] = {
     {"powerRampingStep", {"powerRampingStep", way_10, 1, &nr_rrc::type_RACH_ConfigGeneric_powerRampingStep}, nullptr, nullptr, "", 0, 3, offsetof(NrRachCfgGeneric_t, powerRampingStep), sizeof(NrRachCfgGeneric_t::powerRampingStep), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"raResponseWindow", {"ra-ResponseWindow", way_11, 1, &nr_rrc::type_RACH_ConfigGeneric_ra_ResponseWindow}, nullptr, nullptr, "", 0, 7, offsetof(NrRachCfgGeneric_t, raResponseWindow), sizeof(NrRachCfgGeneric_t::raResponseWindow), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_NrRachCfgGeneric_t[] = {
-    {offsetof(RACH_ConfigGeneric, prach_ConfigurationIndex), -1, 1, 0, 1},
-    {offsetof(RACH_ConfigGeneric, msg1_FDM), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigGeneric, msg1_FrequencyStart), -1, 2, 0, 1},
-    {offsetof(RACH_ConfigGeneric, zeroCorrelationZoneConfig), -1, 1, 0, 1},
-    {offsetof(RACH_ConfigGeneric, preambleReceivedTargetPower), -1, 2, 1, 1},
-    {offsetof(RACH_ConfigGeneric, preambleTransMax), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigGeneric, powerRampingStep), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigGeneric, ra_ResponseWindow), -1, 4, 0, 1},
-};
-constexpr auto ops_NrRachCfgGeneric_t = records::opsOf<records::opCount(sizeof(NrRachCfgGeneric_t), fields_NrRachCfgGeneric_t, sources_NrRachCfgGeneric_t, nullptr, 0)>(sizeof(NrRachCfgGeneric_t), fields_NrRachCfgGeneric_t, sources_NrRachCfgGeneric_t, nullptr, 0);
 constexpr auto checks_NrRachCfgGeneric_t = records::checkOpsOf(fields_NrRachCfgGeneric_t, nullptr, 0);
-constexpr RrcRecordType type_NrRachCfgGeneric_t = {"NrRachCfgGeneric_t", "gnbCommon/gnbServingCell.h", "RACH-ConfigGeneric", "", &nr_rrc::type_RACH_ConfigGeneric, sizeof(NrRachCfgGeneric_t), 0, 8, 0, 0, fields_NrRachCfgGeneric_t, nullptr, nullptr, ops_NrRachCfgGeneric_t.data(), static_cast<UINT16>(ops_NrRachCfgGeneric_t.size()), checks_NrRachCfgGeneric_t.data(), 179};
+constexpr RrcRecordType type_NrRachCfgGeneric_t = {"NrRachCfgGeneric_t", "gnbCommon/gnbServingCell.h", "RACH-ConfigGeneric", "", &nr_rrc::type_RACH_ConfigGeneric, sizeof(NrRachCfgGeneric_t), 0, 8, 0, 0, fields_NrRachCfgGeneric_t, nullptr, nullptr, checks_NrRachCfgGeneric_t.data(), 179};
 
 constexpr RrcRecordField fields_NrRachCfgCommon_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 127, offsetof(NrRachCfgCommon_t, bitmask), sizeof(NrRachCfgCommon_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1260,26 +869,8 @@ constexpr RrcRecordChoice choices_NrRachCfgCommon_t[] = {
     {{"ssb-perRACH-OccasionAndCB-PreamblesPerSSB", way_2, 1, &nr_rrc::type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB}, 3, 1, 8, options_NrRachCfgCommon_t_0},
     {{"prach-RootSequenceIndex", way_11, 1, &nr_rrc::type_RACH_ConfigCommon_prach_RootSequenceIndex}, 11, 1, 2, options_NrRachCfgCommon_t_1},
 };
-constexpr RrcRecordSource sources_NrRachCfgCommon_t[] = {
-    {},
-    {offsetof(RACH_ConfigCommon, rach_ConfigGeneric), -1, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, totalNumberOfRA_Preambles), 0, 1, 0, 1},
-    {offsetof(RACH_ConfigCommon, ssb_perRACH_OccasionAndCB_PreamblesPerSSB), 1, 0, 0, 1},
-    {},
-    {offsetof(RACH_ConfigCommon, groupBconfigured), 2, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, groupBconfigured), 2, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, groupBconfigured), 2, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, ra_ContentionResolutionTimer), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigCommon, rsrp_ThresholdSSB), 3, 1, 0, 1},
-    {offsetof(RACH_ConfigCommon, rsrp_ThresholdSSB_SUL), 4, 1, 0, 1},
-    {offsetof(RACH_ConfigCommon, prach_RootSequenceIndex), -1, 0, 0, 1},
-    {},
-    {offsetof(RACH_ConfigCommon, msg1_SubcarrierSpacing), 5, 4, 0, 1},
-    {offsetof(RACH_ConfigCommon, restrictedSetConfig), -1, 4, 0, 1},
-};
-constexpr auto ops_NrRachCfgCommon_t = records::opsOf<records::opCount(sizeof(NrRachCfgCommon_t), fields_NrRachCfgCommon_t, sources_NrRachCfgCommon_t, bits_NrRachCfgCommon_t, 7)>(sizeof(NrRachCfgCommon_t), fields_NrRachCfgCommon_t, sources_NrRachCfgCommon_t, bits_NrRachCfgCommon_t, 7);
 constexpr auto checks_NrRachCfgCommon_t = records::checkOpsOf(fields_NrRachCfgCommon_t, bits_NrRachCfgCommon_t, 7);
-constexpr RrcRecordType type_NrRachCfgCommon_t = {"NrRachCfgCommon_t", "gnbCommon/gnbServingCell.h", "RACH-ConfigCommon", "", &nr_rrc::type_RACH_ConfigCommon, sizeof(NrRachCfgCommon_t), 0, 15, 7, 2, fields_NrRachCfgCommon_t, bits_NrRachCfgCommon_t, choices_NrRachCfgCommon_t, ops_NrRachCfgCommon_t.data(), static_cast<UINT16>(ops_NrRachCfgCommon_t.size()), checks_NrRachCfgCommon_t.data(), 178};
+constexpr RrcRecordType type_NrRachCfgCommon_t = {"NrRachCfgCommon_t", "gnbCommon/gnbServingCell.h", "RACH-ConfigCommon", "", &nr_rrc::type_RACH_ConfigCommon, sizeof(NrRachCfgCommon_t), 0, 15, 7, 2, fields_NrRachCfgCommon_t, bits_NrRachCfgCommon_t, choices_NrRachCfgCommon_t, checks_NrRachCfgCommon_t.data(), 178};
 
 constexpr RrcRecordField fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 1, offsetof(NrTimeDomainAlloc_t, bitmask), sizeof(NrTimeDomainAlloc_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1290,15 +881,8 @@ constexpr RrcRecordField fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllo
 constexpr RrcRecordBit bits_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation[] = {
     {"NR_TIME_DOMAIN_ALLOC_SLOT_OFFSET_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation[] = {
-    {},
-    {offsetof(PUSCH_TimeDomainResourceAllocation, k2), 0, 1, 0, 1},
-    {offsetof(PUSCH_TimeDomainResourceAllocation, mappingType), -1, 4, 0, 1},
-    {offsetof(PUSCH_TimeDomainResourceAllocation, startSymbolAndLength), -1, 1, 0, 1},
-};
-constexpr auto ops_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation = records::opsOf<records::opCount(sizeof(NrTimeDomainAlloc_t), fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, sources_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, 1)>(sizeof(NrTimeDomainAlloc_t), fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, sources_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, 1);
 constexpr auto checks_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation = records::checkOpsOf(fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, 1);
-constexpr RrcRecordType type_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation = {"NrTimeDomainAlloc_t", "gnbCommon/gnbServingCell.h", "PUSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PUSCH_TimeDomainResourceAllocation, sizeof(NrTimeDomainAlloc_t), 0, 4, 1, 0, fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, nullptr, ops_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation.data(), static_cast<UINT16>(ops_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation.size()), checks_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation.data(), 177};
+constexpr RrcRecordType type_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation = {"NrTimeDomainAlloc_t", "gnbCommon/gnbServingCell.h", "PUSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PUSCH_TimeDomainResourceAllocation, sizeof(NrTimeDomainAlloc_t), 0, 4, 1, 0, fields_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, bits_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation, nullptr, checks_NrTimeDomainAlloc_t_PUSCH_TimeDomainResourceAllocation.data(), 177};
 
 constexpr RrcRecordField fields_NrPuschCfgCommon_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 7, offsetof(NrPuschCfgCommon_t, bitmask), sizeof(NrPuschCfgCommon_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1312,16 +896,8 @@ constexpr RrcRecordBit bits_NrPuschCfgCommon_t[] = {
     {"NR_PUSCH_COMMON_MSG3_DELTA_PREAMBLE_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
     {"NR_PUSCH_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_NrPuschCfgCommon_t[] = {
-    {},
-    {},
-    {offsetof(PUSCH_ConfigCommon, pusch_TimeDomainAllocationList), 1, 0, 0, 1},
-    {offsetof(PUSCH_ConfigCommon, msg3_DeltaPreamble), 2, 1, 1, 1},
-    {offsetof(PUSCH_ConfigCommon, p0_NominalWithGrant), 3, 2, 1, 1},
-};
-constexpr auto ops_NrPuschCfgCommon_t = records::opsOf<records::opCount(sizeof(NrPuschCfgCommon_t), fields_NrPuschCfgCommon_t, sources_NrPuschCfgCommon_t, bits_NrPuschCfgCommon_t, 3)>(sizeof(NrPuschCfgCommon_t), fields_NrPuschCfgCommon_t, sources_NrPuschCfgCommon_t, bits_NrPuschCfgCommon_t, 3);
 constexpr auto checks_NrPuschCfgCommon_t = records::checkOpsOf(fields_NrPuschCfgCommon_t, bits_NrPuschCfgCommon_t, 3);
-constexpr RrcRecordType type_NrPuschCfgCommon_t = {"NrPuschCfgCommon_t", "gnbCommon/gnbServingCell.h", "PUSCH-ConfigCommon", "", &nr_rrc::type_PUSCH_ConfigCommon, sizeof(NrPuschCfgCommon_t), 0, 5, 3, 0, fields_NrPuschCfgCommon_t, bits_NrPuschCfgCommon_t, nullptr, ops_NrPuschCfgCommon_t.data(), static_cast<UINT16>(ops_NrPuschCfgCommon_t.size()), checks_NrPuschCfgCommon_t.data(), 176};
+constexpr RrcRecordType type_NrPuschCfgCommon_t = {"NrPuschCfgCommon_t", "gnbCommon/gnbServingCell.h", "PUSCH-ConfigCommon", "", &nr_rrc::type_PUSCH_ConfigCommon, sizeof(NrPuschCfgCommon_t), 0, 5, 3, 0, fields_NrPuschCfgCommon_t, bits_NrPuschCfgCommon_t, nullptr, checks_NrPuschCfgCommon_t.data(), 176};
 
 constexpr RrcRecordField fields_NrPucchCfgCommon_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 7, offsetof(NrPucchCfgCommon_t, bitmask), sizeof(NrPucchCfgCommon_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1335,16 +911,8 @@ constexpr RrcRecordBit bits_NrPucchCfgCommon_t[] = {
     {"NR_PUCCH_COMMON_HOPPING_ID_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
     {"NR_PUCCH_COMMON_P0_NOMINAL_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_NrPucchCfgCommon_t[] = {
-    {},
-    {offsetof(PUCCH_ConfigCommon, pucch_ResourceCommon), 0, 1, 0, 1},
-    {offsetof(PUCCH_ConfigCommon, pucch_GroupHopping), -1, 4, 0, 1},
-    {offsetof(PUCCH_ConfigCommon, hoppingId), 1, 2, 0, 1},
-    {offsetof(PUCCH_ConfigCommon, p0_nominal), 2, 2, 1, 1},
-};
-constexpr auto ops_NrPucchCfgCommon_t = records::opsOf<records::opCount(sizeof(NrPucchCfgCommon_t), fields_NrPucchCfgCommon_t, sources_NrPucchCfgCommon_t, bits_NrPucchCfgCommon_t, 3)>(sizeof(NrPucchCfgCommon_t), fields_NrPucchCfgCommon_t, sources_NrPucchCfgCommon_t, bits_NrPucchCfgCommon_t, 3);
 constexpr auto checks_NrPucchCfgCommon_t = records::checkOpsOf(fields_NrPucchCfgCommon_t, bits_NrPucchCfgCommon_t, 3);
-constexpr RrcRecordType type_NrPucchCfgCommon_t = {"NrPucchCfgCommon_t", "gnbCommon/gnbServingCell.h", "PUCCH-ConfigCommon", "", &nr_rrc::type_PUCCH_ConfigCommon, sizeof(NrPucchCfgCommon_t), 0, 5, 3, 0, fields_NrPucchCfgCommon_t, bits_NrPucchCfgCommon_t, nullptr, ops_NrPucchCfgCommon_t.data(), static_cast<UINT16>(ops_NrPucchCfgCommon_t.size()), checks_NrPucchCfgCommon_t.data(), 175};
+constexpr RrcRecordType type_NrPucchCfgCommon_t = {"NrPucchCfgCommon_t", "gnbCommon/gnbServingCell.h", "PUCCH-ConfigCommon", "", &nr_rrc::type_PUCCH_ConfigCommon, sizeof(NrPucchCfgCommon_t), 0, 5, 3, 0, fields_NrPucchCfgCommon_t, bits_NrPucchCfgCommon_t, nullptr, checks_NrPucchCfgCommon_t.data(), 175};
 
 constexpr RrcRecordField fields_InitialUlBwp_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 15, offsetof(InitialUlBwp_t, bitmask), sizeof(InitialUlBwp_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1359,16 +927,8 @@ constexpr RrcRecordBit bits_InitialUlBwp_t[] = {
     {"NR_BWP_UL_PUCCH_CFG_COMMON_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
     {"NR_BWP_UL_EXTENDED_CYCLIC_PREFIX", "", nullptr, {"genericParameters.cyclicPrefix", way_33, 2, &nr_rrc::type_BWP_cyclicPrefix}, 0, 3, RRC_BIT_SENDS, -1},
 };
-constexpr RrcRecordSource sources_InitialUlBwp_t[] = {
-    {},
-    {offsetof(BWP_UplinkCommon, genericParameters), -1, 0, 0, 1},
-    {offsetof(BWP_UplinkCommon, rach_ConfigCommon), 0, 0, 0, 1},
-    {offsetof(BWP_UplinkCommon, pusch_ConfigCommon), 1, 0, 0, 1},
-    {offsetof(BWP_UplinkCommon, pucch_ConfigCommon), 2, 0, 0, 1},
-};
-constexpr auto ops_InitialUlBwp_t = records::opsOf<records::opCount(sizeof(InitialUlBwp_t), fields_InitialUlBwp_t, sources_InitialUlBwp_t, bits_InitialUlBwp_t, 4)>(sizeof(InitialUlBwp_t), fields_InitialUlBwp_t, sources_InitialUlBwp_t, bits_InitialUlBwp_t, 4);
 constexpr auto checks_InitialUlBwp_t = records::checkOpsOf(fields_InitialUlBwp_t, bits_InitialUlBwp_t, 4);
-constexpr RrcRecordType type_InitialUlBwp_t = {"InitialUlBwp_t", "gnbCommon/gnbServingCell.h", "BWP-UplinkCommon", "", &nr_rrc::type_BWP_UplinkCommon, sizeof(InitialUlBwp_t), 0, 5, 4, 0, fields_InitialUlBwp_t, bits_InitialUlBwp_t, nullptr, ops_InitialUlBwp_t.data(), static_cast<UINT16>(ops_InitialUlBwp_t.size()), checks_InitialUlBwp_t.data(), 174};
+constexpr RrcRecordType type_InitialUlBwp_t = {"InitialUlBwp_t", "gnbCommon/gnbServingCell.h", "BWP-UplinkCommon", "", &nr_rrc::type_BWP_UplinkCommon, sizeof(InitialUlBwp_t), 0, 5, 4, 0, fields_InitialUlBwp_t, bits_InitialUlBwp_t, nullptr, checks_InitialUlBwp_t.data(), 174};
 
 constexpr RrcRecordField fields_RrcUlCfgComm_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcUlCfgComm_t, bitMask), sizeof(RrcUlCfgComm_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1380,41 +940,23 @@ constexpr RrcRecordBit bits_RrcUlCfgComm_t[] = {
     {"RRC_FREQ_INFO_UL_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_UPLINK_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcUlCfgComm_t[] = {
-    {},
-    {offsetof(UplinkConfigCommon, frequencyInfoUL), 0, 0, 0, 1},
-    {offsetof(UplinkConfigCommon, initialUplinkBWP), 1, 0, 0, 1},
-    {offsetof(UplinkConfigCommon, dummy), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcUlCfgComm_t = records::opsOf<records::opCount(sizeof(RrcUlCfgComm_t), fields_RrcUlCfgComm_t, sources_RrcUlCfgComm_t, bits_RrcUlCfgComm_t, 2)>(sizeof(RrcUlCfgComm_t), fields_RrcUlCfgComm_t, sources_RrcUlCfgComm_t, bits_RrcUlCfgComm_t, 2);
 constexpr auto checks_RrcUlCfgComm_t = records::checkOpsOf(fields_RrcUlCfgComm_t, bits_RrcUlCfgComm_t, 2);
-constexpr RrcRecordType type_RrcUlCfgComm_t = {"RrcUlCfgComm_t", "rrcCodec/rrcServingCellCommon.h", "UplinkConfigCommon", "", &nr_rrc::type_UplinkConfigCommon, sizeof(RrcUlCfgComm_t), 0, 4, 2, 0, fields_RrcUlCfgComm_t, bits_RrcUlCfgComm_t, nullptr, ops_RrcUlCfgComm_t.data(), static_cast<UINT16>(ops_RrcUlCfgComm_t.size()), checks_RrcUlCfgComm_t.data(), 173};
+constexpr RrcRecordType type_RrcUlCfgComm_t = {"RrcUlCfgComm_t", "rrcCodec/rrcServingCellCommon.h", "UplinkConfigCommon", "", &nr_rrc::type_UplinkConfigCommon, sizeof(RrcUlCfgComm_t), 0, 4, 2, 0, fields_RrcUlCfgComm_t, bits_RrcUlCfgComm_t, nullptr, checks_RrcUlCfgComm_t.data(), 173};
 
 constexpr RrcRecordField fields_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst[] = {
     {"shortBitmap", {"shortBitmap", way_0, 1, &nr_rrc::type_ServingCellConfigCommon_ssb_PositionsInBurst_shortBitmap}, nullptr, nullptr, "SSB 0 in bit 3", 0, 0, 0, 1, 0, 4, RRC_FIELD_BITS, 0, 0, 4, -1, -1, -1, -1},
     {"mediumBitmap", {"mediumBitmap", way_1, 1, &nr_rrc::type_ServingCellConfigCommon_ssb_PositionsInBurst_mediumBitmap}, nullptr, nullptr, "SSB 0 in bit 7", 0, 0, offsetof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst), mediumBitmap), sizeof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst)::mediumBitmap), 0, 8, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
     {"longBitmap", {"longBitmap", way_2, 1, &nr_rrc::type_ServingCellConfigCommon_ssb_PositionsInBurst_longBitmap}, nullptr, nullptr, "SSB 0 in bit 63", 0, 0, offsetof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst), longBitmap), sizeof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst)::longBitmap), 0, 64, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst = records::opsOf<records::opCount(sizeof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst)), fields_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, sources_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, nullptr, 0)>(sizeof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst)), fields_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, sources_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, nullptr, 0);
 constexpr auto checks_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst = records::checkOpsOf(fields_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, nullptr, 0);
-constexpr RrcRecordType type_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst = {"RrcServingCellCfgCommon_t.RrcSsbPositionInBurst", "rrcCodec/rrcServingCellCommon.h", "ssb-PositionsInBurst", "", &nr_rrc::type_ServingCellConfigCommon_ssb_PositionsInBurst, sizeof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst)), 1, 3, 0, 0, fields_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, nullptr, nullptr, ops_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst.data(), static_cast<UINT16>(ops_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst.size()), checks_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst = {"RrcServingCellCfgCommon_t.RrcSsbPositionInBurst", "rrcCodec/rrcServingCellCommon.h", "ssb-PositionsInBurst", "", &nr_rrc::type_ServingCellConfigCommon_ssb_PositionsInBurst, sizeof(decltype(RrcServingCellCfgCommon_t::RrcSsbPositionInBurst)), 1, 3, 0, 0, fields_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst, nullptr, nullptr, checks_RrcServingCellCfgCommon_t_RrcSsbPositionInBurst.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcBitMaps_t_symbolsInResourceBlock[] = {
     {"oneSlot", {"oneSlot", way_0, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock_oneSlot}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcBitMaps_t::symbolsInResourceBlock), oneSlot), sizeof(decltype(RrcBitMaps_t::symbolsInResourceBlock)::oneSlot), 0, 14, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
     {"twoSLots", {"twoSlots", way_1, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock_twoSlots}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcBitMaps_t::symbolsInResourceBlock), twoSLots), sizeof(decltype(RrcBitMaps_t::symbolsInResourceBlock)::twoSLots), 0, 16, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcBitMaps_t_symbolsInResourceBlock[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcBitMaps_t_symbolsInResourceBlock = records::opsOf<records::opCount(sizeof(decltype(RrcBitMaps_t::symbolsInResourceBlock)), fields_RrcBitMaps_t_symbolsInResourceBlock, sources_RrcBitMaps_t_symbolsInResourceBlock, nullptr, 0)>(sizeof(decltype(RrcBitMaps_t::symbolsInResourceBlock)), fields_RrcBitMaps_t_symbolsInResourceBlock, sources_RrcBitMaps_t_symbolsInResourceBlock, nullptr, 0);
 constexpr auto checks_RrcBitMaps_t_symbolsInResourceBlock = records::checkOpsOf(fields_RrcBitMaps_t_symbolsInResourceBlock, nullptr, 0);
-constexpr RrcRecordType type_RrcBitMaps_t_symbolsInResourceBlock = {"RrcBitMaps_t.symbolsInResourceBlock", "rrcCodec/rrcServingCellCommon.h", "symbolsInResourceBlock", "", &nr_rrc::type_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock, sizeof(decltype(RrcBitMaps_t::symbolsInResourceBlock)), 1, 2, 0, 0, fields_RrcBitMaps_t_symbolsInResourceBlock, nullptr, nullptr, ops_RrcBitMaps_t_symbolsInResourceBlock.data(), static_cast<UINT16>(ops_RrcBitMaps_t_symbolsInResourceBlock.size()), checks_RrcBitMaps_t_symbolsInResourceBlock.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcBitMaps_t_symbolsInResourceBlock = {"RrcBitMaps_t.symbolsInResourceBlock", "rrcCodec/rrcServingCellCommon.h", "symbolsInResourceBlock", "", &nr_rrc::type_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock, sizeof(decltype(RrcBitMaps_t::symbolsInResourceBlock)), 1, 2, 0, 0, fields_RrcBitMaps_t_symbolsInResourceBlock, nullptr, nullptr, checks_RrcBitMaps_t_symbolsInResourceBlock.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcBitMaps_t_periodictyAndPattern[] = {
     {"n2", {"n2", way_0, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n2}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcBitMaps_t::periodictyAndPattern), n2), sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)::n2), 0, 2, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
@@ -1425,18 +967,8 @@ constexpr RrcRecordField fields_RrcBitMaps_t_periodictyAndPattern[] = {
     {"n20", {"n20", way_9, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n20}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcBitMaps_t::periodictyAndPattern), n20), sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)::n20), 0, 20, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
     {"n40", {"n40", way_10, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_periodicityAndPattern_n40}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcBitMaps_t::periodictyAndPattern), n40), sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)::n40), 0, 40, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcBitMaps_t_periodictyAndPattern[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcBitMaps_t_periodictyAndPattern = records::opsOf<records::opCount(sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)), fields_RrcBitMaps_t_periodictyAndPattern, sources_RrcBitMaps_t_periodictyAndPattern, nullptr, 0)>(sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)), fields_RrcBitMaps_t_periodictyAndPattern, sources_RrcBitMaps_t_periodictyAndPattern, nullptr, 0);
 constexpr auto checks_RrcBitMaps_t_periodictyAndPattern = records::checkOpsOf(fields_RrcBitMaps_t_periodictyAndPattern, nullptr, 0);
-constexpr RrcRecordType type_RrcBitMaps_t_periodictyAndPattern = {"RrcBitMaps_t.periodictyAndPattern", "rrcCodec/rrcServingCellCommon.h", "periodicityAndPattern", "", &nr_rrc::type_RateMatchPattern_patternType_bitmaps_periodicityAndPattern, sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)), 1, 7, 0, 0, fields_RrcBitMaps_t_periodictyAndPattern, nullptr, nullptr, ops_RrcBitMaps_t_periodictyAndPattern.data(), static_cast<UINT16>(ops_RrcBitMaps_t_periodictyAndPattern.size()), checks_RrcBitMaps_t_periodictyAndPattern.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcBitMaps_t_periodictyAndPattern = {"RrcBitMaps_t.periodictyAndPattern", "rrcCodec/rrcServingCellCommon.h", "periodicityAndPattern", "", &nr_rrc::type_RateMatchPattern_patternType_bitmaps_periodicityAndPattern, sizeof(decltype(RrcBitMaps_t::periodictyAndPattern)), 1, 7, 0, 0, fields_RrcBitMaps_t_periodictyAndPattern, nullptr, nullptr, checks_RrcBitMaps_t_periodictyAndPattern.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcBitMaps_t[] = {
     {"resourceBlocks", {"resourceBlocks", way_0, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_resourceBlocks}, nullptr, nullptr, "as they lie in memory, the first bit the most significant of the first octet. With no bit in symbolsInResourceBlockPresence the last four octets are the tag of symbolsInResourceBlock.", 0, 0, offsetof(RrcBitMaps_t, resourceBlocks), sizeof(RrcBitMaps_t::resourceBlocks[0]), sizeof(RrcBitMaps_t::resourceBlocks) / sizeof(RrcBitMaps_t::resourceBlocks[0]), 275, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
@@ -1475,29 +1007,15 @@ constexpr RrcRecordChoice choices_RrcBitMaps_t[] = {
     {{"symbolsInResourceBlock", way_1, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock}, 1, 0, 2, options_RrcBitMaps_t_0},
     {{"periodicityAndPattern", way_2, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps_periodicityAndPattern}, 4, 0, 7, options_RrcBitMaps_t_1},
 };
-constexpr RrcRecordSource sources_RrcBitMaps_t[] = {
-    {offsetof(RateMatchPattern_patternType_bitmaps, resourceBlocks), -1, 0, 0, 1},
-    {},
-    {offsetof(RateMatchPattern_patternType_bitmaps, symbolsInResourceBlock), -1, 0, 0, 1},
-    {},
-    {},
-    {offsetof(RateMatchPattern_patternType_bitmaps, periodicityAndPattern), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcBitMaps_t = records::opsOf<records::opCount(sizeof(RrcBitMaps_t), fields_RrcBitMaps_t, sources_RrcBitMaps_t, bits_RrcBitMaps_t, 10)>(sizeof(RrcBitMaps_t), fields_RrcBitMaps_t, sources_RrcBitMaps_t, bits_RrcBitMaps_t, 10);
 constexpr auto checks_RrcBitMaps_t = records::checkOpsOf(fields_RrcBitMaps_t, bits_RrcBitMaps_t, 10);
-constexpr RrcRecordType type_RrcBitMaps_t = {"RrcBitMaps_t", "rrcCodec/rrcServingCellCommon.h", "RateMatchPattern.patternType.bitmaps", "Bit strings hold their first bit in the highest of their bits.", &nr_rrc::type_RateMatchPattern_patternType_bitmaps, sizeof(RrcBitMaps_t), 0, 6, 10, 2, fields_RrcBitMaps_t, bits_RrcBitMaps_t, choices_RrcBitMaps_t, ops_RrcBitMaps_t.data(), static_cast<UINT16>(ops_RrcBitMaps_t.size()), checks_RrcBitMaps_t.data(), 172};
+constexpr RrcRecordType type_RrcBitMaps_t = {"RrcBitMaps_t", "rrcCodec/rrcServingCellCommon.h", "RateMatchPattern.patternType.bitmaps", "Bit strings hold their first bit in the highest of their bits.", &nr_rrc::type_RateMatchPattern_patternType_bitmaps, sizeof(RrcBitMaps_t), 0, 6, 10, 2, fields_RrcBitMaps_t, bits_RrcBitMaps_t, choices_RrcBitMaps_t, checks_RrcBitMaps_t.data(), 172};
 
 constexpr RrcRecordField fields_RrcRateMatchPattern_t_patternType[] = {
     {"bitmaps", {"bitmaps", way_0, 1, &nr_rrc::type_RateMatchPattern_patternType_bitmaps}, &type_RrcBitMaps_t, nullptr, "", 0, 0, offsetof(decltype(RrcRateMatchPattern_t::patternType), bitmaps), sizeof(decltype(RrcRateMatchPattern_t::patternType)::bitmaps), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"controlResourceSetId", {"controlResourceSet", way_1, 1, &nr_rrc::type_ControlResourceSetId}, nullptr, nullptr, "", 0, 11, offsetof(decltype(RrcRateMatchPattern_t::patternType), controlResourceSetId), sizeof(decltype(RrcRateMatchPattern_t::patternType)::controlResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRateMatchPattern_t_patternType[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcRateMatchPattern_t_patternType = records::opsOf<records::opCount(sizeof(decltype(RrcRateMatchPattern_t::patternType)), fields_RrcRateMatchPattern_t_patternType, sources_RrcRateMatchPattern_t_patternType, nullptr, 0)>(sizeof(decltype(RrcRateMatchPattern_t::patternType)), fields_RrcRateMatchPattern_t_patternType, sources_RrcRateMatchPattern_t_patternType, nullptr, 0);
 constexpr auto checks_RrcRateMatchPattern_t_patternType = records::checkOpsOf(fields_RrcRateMatchPattern_t_patternType, nullptr, 0);
-constexpr RrcRecordType type_RrcRateMatchPattern_t_patternType = {"RrcRateMatchPattern_t.patternType", "rrcCodec/rrcServingCellCommon.h", "patternType", "", &nr_rrc::type_RateMatchPattern_patternType, sizeof(decltype(RrcRateMatchPattern_t::patternType)), 1, 2, 0, 0, fields_RrcRateMatchPattern_t_patternType, nullptr, nullptr, ops_RrcRateMatchPattern_t_patternType.data(), static_cast<UINT16>(ops_RrcRateMatchPattern_t_patternType.size()), checks_RrcRateMatchPattern_t_patternType.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcRateMatchPattern_t_patternType = {"RrcRateMatchPattern_t.patternType", "rrcCodec/rrcServingCellCommon.h", "patternType", "", &nr_rrc::type_RateMatchPattern_patternType, sizeof(decltype(RrcRateMatchPattern_t::patternType)), 1, 2, 0, 0, fields_RrcRateMatchPattern_t_patternType, nullptr, nullptr, checks_RrcRateMatchPattern_t_patternType.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcRateMatchPattern_t[] = {
     {"rateMatchPatternId", {"rateMatchPatternId", way_0, 1, &nr_rrc::type_RateMatchPatternId}, nullptr, nullptr, "", 0, 3, offsetof(RrcRateMatchPattern_t, rateMatchPatternId), sizeof(RrcRateMatchPattern_t::rateMatchPatternId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -1519,17 +1037,8 @@ constexpr RrcRecordOption options_RrcRateMatchPattern_t_0[] = {
 constexpr RrcRecordChoice choices_RrcRateMatchPattern_t[] = {
     {{"patternType", way_1, 1, &nr_rrc::type_RateMatchPattern_patternType}, 2, 0, 2, options_RrcRateMatchPattern_t_0},
 };
-constexpr RrcRecordSource sources_RrcRateMatchPattern_t[] = {
-    {offsetof(RateMatchPattern, rateMatchPatternId), -1, 1, 0, 1},
-    {offsetof(RateMatchPattern, dummy), -1, 4, 0, 1},
-    {},
-    {offsetof(RateMatchPattern, patternType), -1, 0, 0, 1},
-    {},
-    {offsetof(RateMatchPattern, subcarrierSpacing), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcRateMatchPattern_t = records::opsOf<records::opCount(sizeof(RrcRateMatchPattern_t), fields_RrcRateMatchPattern_t, sources_RrcRateMatchPattern_t, bits_RrcRateMatchPattern_t, 3)>(sizeof(RrcRateMatchPattern_t), fields_RrcRateMatchPattern_t, sources_RrcRateMatchPattern_t, bits_RrcRateMatchPattern_t, 3);
 constexpr auto checks_RrcRateMatchPattern_t = records::checkOpsOf(fields_RrcRateMatchPattern_t, bits_RrcRateMatchPattern_t, 3);
-constexpr RrcRecordType type_RrcRateMatchPattern_t = {"RrcRateMatchPattern_t", "rrcCodec/rrcServingCellCommon.h", "RateMatchPattern", "", &nr_rrc::type_RateMatchPattern, sizeof(RrcRateMatchPattern_t), 0, 6, 3, 1, fields_RrcRateMatchPattern_t, bits_RrcRateMatchPattern_t, choices_RrcRateMatchPattern_t, ops_RrcRateMatchPattern_t.data(), static_cast<UINT16>(ops_RrcRateMatchPattern_t.size()), checks_RrcRateMatchPattern_t.data(), 171};
+constexpr RrcRecordType type_RrcRateMatchPattern_t = {"RrcRateMatchPattern_t", "rrcCodec/rrcServingCellCommon.h", "RateMatchPattern", "", &nr_rrc::type_RateMatchPattern, sizeof(RrcRateMatchPattern_t), 0, 6, 3, 1, fields_RrcRateMatchPattern_t, bits_RrcRateMatchPattern_t, choices_RrcRateMatchPattern_t, checks_RrcRateMatchPattern_t.data(), 171};
 
 constexpr RrcRecordField fields_TddUlDlPattern_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 1, offsetof(TddUlDlPattern_t, bitmask), sizeof(TddUlDlPattern_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1543,18 +1052,8 @@ constexpr RrcRecordField fields_TddUlDlPattern_t[] = {
 constexpr RrcRecordBit bits_TddUlDlPattern_t[] = {
     {"NR_TDD_PATTERN_PERIODICITY_V1530_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_TddUlDlPattern_t[] = {
-    {},
-    {offsetof(TDD_UL_DL_Pattern, dl_UL_TransmissionPeriodicity), -1, 4, 0, 1},
-    {offsetof(TDD_UL_DL_Pattern, nrofDownlinkSlots), -1, 2, 0, 1},
-    {offsetof(TDD_UL_DL_Pattern, nrofDownlinkSymbols), -1, 1, 0, 1},
-    {offsetof(TDD_UL_DL_Pattern, nrofUplinkSlots), -1, 2, 0, 1},
-    {offsetof(TDD_UL_DL_Pattern, nrofUplinkSymbols), -1, 1, 0, 1},
-    {},
-};
-constexpr auto ops_TddUlDlPattern_t = records::opsOf<records::opCount(sizeof(TddUlDlPattern_t), fields_TddUlDlPattern_t, sources_TddUlDlPattern_t, bits_TddUlDlPattern_t, 1)>(sizeof(TddUlDlPattern_t), fields_TddUlDlPattern_t, sources_TddUlDlPattern_t, bits_TddUlDlPattern_t, 1);
 constexpr auto checks_TddUlDlPattern_t = records::checkOpsOf(fields_TddUlDlPattern_t, bits_TddUlDlPattern_t, 1);
-constexpr RrcRecordType type_TddUlDlPattern_t = {"TddUlDlPattern_t", "gnbCommon/gnbServingCell.h", "TDD-UL-DL-Pattern", "", &nr_rrc::type_TDD_UL_DL_Pattern, sizeof(TddUlDlPattern_t), 0, 7, 1, 0, fields_TddUlDlPattern_t, bits_TddUlDlPattern_t, nullptr, ops_TddUlDlPattern_t.data(), static_cast<UINT16>(ops_TddUlDlPattern_t.size()), checks_TddUlDlPattern_t.data(), 170};
+constexpr RrcRecordType type_TddUlDlPattern_t = {"TddUlDlPattern_t", "gnbCommon/gnbServingCell.h", "TDD-UL-DL-Pattern", "", &nr_rrc::type_TDD_UL_DL_Pattern, sizeof(TddUlDlPattern_t), 0, 7, 1, 0, fields_TddUlDlPattern_t, bits_TddUlDlPattern_t, nullptr, checks_TddUlDlPattern_t.data(), 170};
 
 constexpr RrcRecordField fields_TddUlDlCfgCom_t[] = {
     {"bitmask", {}, nullptr, nullptr, "", 0, 1, offsetof(TddUlDlCfgCom_t, bitmask), sizeof(TddUlDlCfgCom_t::bitmask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1565,15 +1064,8 @@ constexpr RrcRecordField fields_TddUlDlCfgCom_t[] = {
 constexpr RrcRecordBit bits_TddUlDlCfgCom_t[] = {
     {"NR_TDD_PATTERN2_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_TddUlDlCfgCom_t[] = {
-    {},
-    {offsetof(TDD_UL_DL_ConfigCommon, referenceSubcarrierSpacing), -1, 4, 0, 1},
-    {offsetof(TDD_UL_DL_ConfigCommon, pattern1), -1, 0, 0, 1},
-    {offsetof(TDD_UL_DL_ConfigCommon, pattern2), 0, 0, 0, 1},
-};
-constexpr auto ops_TddUlDlCfgCom_t = records::opsOf<records::opCount(sizeof(TddUlDlCfgCom_t), fields_TddUlDlCfgCom_t, sources_TddUlDlCfgCom_t, bits_TddUlDlCfgCom_t, 1)>(sizeof(TddUlDlCfgCom_t), fields_TddUlDlCfgCom_t, sources_TddUlDlCfgCom_t, bits_TddUlDlCfgCom_t, 1);
 constexpr auto checks_TddUlDlCfgCom_t = records::checkOpsOf(fields_TddUlDlCfgCom_t, bits_TddUlDlCfgCom_t, 1);
-constexpr RrcRecordType type_TddUlDlCfgCom_t = {"TddUlDlCfgCom_t", "gnbCommon/gnbServingCell.h", "TDD-UL-DL-ConfigCommon", "", &nr_rrc::type_TDD_UL_DL_ConfigCommon, sizeof(TddUlDlCfgCom_t), 0, 4, 1, 0, fields_TddUlDlCfgCom_t, bits_TddUlDlCfgCom_t, nullptr, ops_TddUlDlCfgCom_t.data(), static_cast<UINT16>(ops_TddUlDlCfgCom_t.size()), checks_TddUlDlCfgCom_t.data(), 169};
+constexpr RrcRecordType type_TddUlDlCfgCom_t = {"TddUlDlCfgCom_t", "gnbCommon/gnbServingCell.h", "TDD-UL-DL-ConfigCommon", "", &nr_rrc::type_TDD_UL_DL_ConfigCommon, sizeof(TddUlDlCfgCom_t), 0, 4, 1, 0, fields_TddUlDlCfgCom_t, bits_TddUlDlCfgCom_t, nullptr, checks_TddUlDlCfgCom_t.data(), 169};
 
 constexpr RrcRecordField fields_RrcServingCellCfgCommon_t[] = {
     {"dmrsTypeAPosition", {"dmrs-TypeA-Position", way_11, 1, &nr_rrc::type_ServingCellConfigCommon_dmrs_TypeA_Position}, nullptr, nullptr, "", 0, 1, offsetof(RrcServingCellCfgCommon_t, dmrsTypeAPosition), sizeof(RrcServingCellCfgCommon_t::dmrsTypeAPosition), 0, 0, RRC_FIELD_ENUMERATED, RRC_FIELD_ALWAYS_SENT, 0, 0, -1, -1, -1, -1},
@@ -1616,28 +1108,8 @@ constexpr RrcRecordOption options_RrcServingCellCfgCommon_t_0[] = {
 constexpr RrcRecordChoice choices_RrcServingCellCfgCommon_t[] = {
     {{"ssb-PositionsInBurst", way_9, 1, &nr_rrc::type_ServingCellConfigCommon_ssb_PositionsInBurst}, 8, 0, 3, options_RrcServingCellCfgCommon_t_0},
 };
-constexpr RrcRecordSource sources_RrcServingCellCfgCommon_t[] = {
-    {offsetof(ServingCellConfigCommon, dmrs_TypeA_Position), -1, 4, 0, 1},
-    {offsetof(ServingCellConfigCommon, ss_PBCH_BlockPower), -1, 1, 1, 1},
-    {},
-    {offsetof(ServingCellConfigCommon, physCellId), 0, 2, 0, 1},
-    {offsetof(ServingCellConfigCommon, downlinkConfigCommon), 1, 0, 0, 1},
-    {offsetof(ServingCellConfigCommon, uplinkConfigCommon), 2, 0, 0, 1},
-    {offsetof(ServingCellConfigCommon, supplementaryUplinkConfig), 3, 0, 0, 1},
-    {offsetof(ServingCellConfigCommon, n_TimingAdvanceOffset), 4, 4, 0, 1},
-    {},
-    {offsetof(ServingCellConfigCommon, ssb_PositionsInBurst), 5, 0, 0, 1},
-    {offsetof(ServingCellConfigCommon, ssb_periodicityServingCell), 6, 4, 0, 1},
-    {},
-    {offsetof(ServingCellConfigCommon, rateMatchPatternToAddModList), 8, 0, 0, 1},
-    {},
-    {offsetof(ServingCellConfigCommon, rateMatchPatternToReleaseList), 9, 0, 0, 1},
-    {offsetof(ServingCellConfigCommon, ssbSubcarrierSpacing), 10, 4, 0, 1},
-    {offsetof(ServingCellConfigCommon, tdd_UL_DL_ConfigurationCommon), 11, 0, 0, 1},
-};
-constexpr auto ops_RrcServingCellCfgCommon_t = records::opsOf<records::opCount(sizeof(RrcServingCellCfgCommon_t), fields_RrcServingCellCfgCommon_t, sources_RrcServingCellCfgCommon_t, bits_RrcServingCellCfgCommon_t, 12)>(sizeof(RrcServingCellCfgCommon_t), fields_RrcServingCellCfgCommon_t, sources_RrcServingCellCfgCommon_t, bits_RrcServingCellCfgCommon_t, 12);
 constexpr auto checks_RrcServingCellCfgCommon_t = records::checkOpsOf(fields_RrcServingCellCfgCommon_t, bits_RrcServingCellCfgCommon_t, 12);
-constexpr RrcRecordType type_RrcServingCellCfgCommon_t = {"RrcServingCellCfgCommon_t", "rrcCodec/rrcServingCellCommon.h", "ServingCellConfigCommon", "The rate-match lists are sent when their counts are not 0.", &nr_rrc::type_ServingCellConfigCommon, sizeof(RrcServingCellCfgCommon_t), 0, 17, 12, 1, fields_RrcServingCellCfgCommon_t, bits_RrcServingCellCfgCommon_t, choices_RrcServingCellCfgCommon_t, ops_RrcServingCellCfgCommon_t.data(), static_cast<UINT16>(ops_RrcServingCellCfgCommon_t.size()), checks_RrcServingCellCfgCommon_t.data(), 168};
+constexpr RrcRecordType type_RrcServingCellCfgCommon_t = {"RrcServingCellCfgCommon_t", "rrcCodec/rrcServingCellCommon.h", "ServingCellConfigCommon", "The rate-match lists are sent when their counts are not 0.", &nr_rrc::type_ServingCellConfigCommon, sizeof(RrcServingCellCfgCommon_t), 0, 17, 12, 1, fields_RrcServingCellCfgCommon_t, bits_RrcServingCellCfgCommon_t, choices_RrcServingCellCfgCommon_t, checks_RrcServingCellCfgCommon_t.data(), 168};
 
 constexpr RrcRecordField fields_RrcSSBMTC_t[] = {
     {"period", {"periodicityAndOffset", way_0, 1, &nr_rrc::type_SSB_MTC_periodicityAndOffset}, nullptr, nullptr, "", 1, 6, offsetof(RrcSSBMTC_t, period), sizeof(RrcSSBMTC_t::period), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -1655,14 +1127,8 @@ constexpr RrcRecordOption options_RrcSSBMTC_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSSBMTC_t[] = {
     {{"periodicityAndOffset", way_0, 1, &nr_rrc::type_SSB_MTC_periodicityAndOffset}, 0, 1, 6, options_RrcSSBMTC_t_0},
 };
-constexpr RrcRecordSource sources_RrcSSBMTC_t[] = {
-    {offsetof(SSB_MTC, periodicityAndOffset), -1, 0, 0, 1},
-    {},
-    {offsetof(SSB_MTC, duration), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcSSBMTC_t = records::opsOf<records::opCount(sizeof(RrcSSBMTC_t), fields_RrcSSBMTC_t, sources_RrcSSBMTC_t, nullptr, 0)>(sizeof(RrcSSBMTC_t), fields_RrcSSBMTC_t, sources_RrcSSBMTC_t, nullptr, 0);
 constexpr auto checks_RrcSSBMTC_t = records::checkOpsOf(fields_RrcSSBMTC_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSSBMTC_t = {"RrcSSBMTC_t", "rrcCodec/rrcServingCellCommon.h", "SSB-MTC", "", &nr_rrc::type_SSB_MTC, sizeof(RrcSSBMTC_t), 0, 3, 0, 1, fields_RrcSSBMTC_t, nullptr, choices_RrcSSBMTC_t, ops_RrcSSBMTC_t.data(), static_cast<UINT16>(ops_RrcSSBMTC_t.size()), checks_RrcSSBMTC_t.data(), 167};
+constexpr RrcRecordType type_RrcSSBMTC_t = {"RrcSSBMTC_t", "rrcCodec/rrcServingCellCommon.h", "SSB-MTC", "", &nr_rrc::type_SSB_MTC, sizeof(RrcSSBMTC_t), 0, 3, 0, 1, fields_RrcSSBMTC_t, nullptr, choices_RrcSSBMTC_t, checks_RrcSSBMTC_t.data(), 167};
 
 constexpr RrcRecordField fields_RrcReconfWithSync_t[] = {
     {"newUEId", {"newUE-Identity", way_1, 1, &nr_rrc::type_RNTI_Value}, nullptr, nullptr, "", 0, 65535, offsetof(RrcReconfWithSync_t, newUEId), sizeof(RrcReconfWithSync_t::newUEId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -1687,18 +1153,8 @@ constexpr RrcRecordOption options_RrcReconfWithSync_t_0[] = {
 constexpr RrcRecordChoice choices_RrcReconfWithSync_t[] = {
     {{"rach-ConfigDedicated", way_3, 1, &nr_rrc::type_ReconfigurationWithSync_rach_ConfigDedicated}, 3, 0, 2, options_RrcReconfWithSync_t_0},
 };
-constexpr RrcRecordSource sources_RrcReconfWithSync_t[] = {
-    {offsetof(ReconfigurationWithSync, newUE_Identity), -1, 2, 0, 1},
-    {offsetof(ReconfigurationWithSync, t304), -1, 4, 0, 1},
-    {},
-    {},
-    {offsetof(ReconfigurationWithSync, rach_ConfigDedicated), 1, 0, 0, 1},
-    {offsetof(ReconfigurationWithSync, spCellConfigCommon), 0, 0, 0, 1},
-    {},
-};
-constexpr auto ops_RrcReconfWithSync_t = records::opsOf<records::opCount(sizeof(RrcReconfWithSync_t), fields_RrcReconfWithSync_t, sources_RrcReconfWithSync_t, bits_RrcReconfWithSync_t, 5)>(sizeof(RrcReconfWithSync_t), fields_RrcReconfWithSync_t, sources_RrcReconfWithSync_t, bits_RrcReconfWithSync_t, 5);
 constexpr auto checks_RrcReconfWithSync_t = records::checkOpsOf(fields_RrcReconfWithSync_t, bits_RrcReconfWithSync_t, 5);
-constexpr RrcRecordType type_RrcReconfWithSync_t = {"RrcReconfWithSync_t", "rrcCodec/rrcSpCell.h", "ReconfigurationWithSync", "", &nr_rrc::type_ReconfigurationWithSync, sizeof(RrcReconfWithSync_t), 0, 7, 5, 1, fields_RrcReconfWithSync_t, bits_RrcReconfWithSync_t, choices_RrcReconfWithSync_t, ops_RrcReconfWithSync_t.data(), static_cast<UINT16>(ops_RrcReconfWithSync_t.size()), checks_RrcReconfWithSync_t.data(), 166};
+constexpr RrcRecordType type_RrcReconfWithSync_t = {"RrcReconfWithSync_t", "rrcCodec/rrcSpCell.h", "ReconfigurationWithSync", "", &nr_rrc::type_ReconfigurationWithSync, sizeof(RrcReconfWithSync_t), 0, 7, 5, 1, fields_RrcReconfWithSync_t, bits_RrcReconfWithSync_t, choices_RrcReconfWithSync_t, checks_RrcReconfWithSync_t.data(), 166};
 
 constexpr RrcRecordField fields_RrcRlfTimerConstants_t[] = {
     {"t310", {"t310", way_0, 1, &nr_rrc::type_RLF_TimersAndConstants_t310}, nullptr, nullptr, "", 0, 8, offsetof(RrcRlfTimerConstants_t, t310), sizeof(RrcRlfTimerConstants_t::t310), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -1706,15 +1162,8 @@ constexpr RrcRecordField fields_RrcRlfTimerConstants_t[] = {
     {"n311", {"n311", way_2, 1, &nr_rrc::type_RLF_TimersAndConstants_n311}, nullptr, nullptr, "", 0, 7, offsetof(RrcRlfTimerConstants_t, n311), sizeof(RrcRlfTimerConstants_t::n311), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"t311", {"t311-v1530", way_3, 1, &nr_rrc::type_RLF_TimersAndConstants_t311_v1530}, nullptr, nullptr, "", 0, 6, offsetof(RrcRlfTimerConstants_t, t311), sizeof(RrcRlfTimerConstants_t::t311), 0, 0, RRC_FIELD_ENUMERATED, RRC_FIELD_ALWAYS_SENT, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRlfTimerConstants_t[] = {
-    {offsetof(RLF_TimersAndConstants, t310), -1, 4, 0, 1},
-    {offsetof(RLF_TimersAndConstants, n310), -1, 4, 0, 1},
-    {offsetof(RLF_TimersAndConstants, n311), -1, 4, 0, 1},
-    {},
-};
-constexpr auto ops_RrcRlfTimerConstants_t = records::opsOf<records::opCount(sizeof(RrcRlfTimerConstants_t), fields_RrcRlfTimerConstants_t, sources_RrcRlfTimerConstants_t, nullptr, 0)>(sizeof(RrcRlfTimerConstants_t), fields_RrcRlfTimerConstants_t, sources_RrcRlfTimerConstants_t, nullptr, 0);
 constexpr auto checks_RrcRlfTimerConstants_t = records::checkOpsOf(fields_RrcRlfTimerConstants_t, nullptr, 0);
-constexpr RrcRecordType type_RrcRlfTimerConstants_t = {"RrcRlfTimerConstants_t", "rrcCodec/rrcSpCell.h", "RLF-TimersAndConstants", "", &nr_rrc::type_RLF_TimersAndConstants, sizeof(RrcRlfTimerConstants_t), 0, 4, 0, 0, fields_RrcRlfTimerConstants_t, nullptr, nullptr, ops_RrcRlfTimerConstants_t.data(), static_cast<UINT16>(ops_RrcRlfTimerConstants_t.size()), checks_RrcRlfTimerConstants_t.data(), 165};
+constexpr RrcRecordType type_RrcRlfTimerConstants_t = {"RrcRlfTimerConstants_t", "rrcCodec/rrcSpCell.h", "RLF-TimersAndConstants", "", &nr_rrc::type_RLF_TimersAndConstants, sizeof(RrcRlfTimerConstants_t), 0, 4, 0, 0, fields_RrcRlfTimerConstants_t, nullptr, nullptr, checks_RrcRlfTimerConstants_t.data(), 165};
 
 constexpr RrcRecordField fields_explicit_s[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(explicit_s, bitMask), sizeof(explicit_s::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1725,14 +1174,8 @@ constexpr RrcRecordBit bits_explicit_s[] = {
     {"RRC_SLOTCFG_SYM_EXPLICIT_DL_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_SLOTCFG_SYM_EXPLICIT_UL_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_explicit_s[] = {
-    {},
-    {offsetof(TDD_UL_DL_SlotConfig_symbols_explicit_, nrofDownlinkSymbols), 0, 1, 0, 1},
-    {offsetof(TDD_UL_DL_SlotConfig_symbols_explicit_, nrofUplinkSymbols), 1, 1, 0, 1},
-};
-constexpr auto ops_explicit_s = records::opsOf<records::opCount(sizeof(explicit_s), fields_explicit_s, sources_explicit_s, bits_explicit_s, 2)>(sizeof(explicit_s), fields_explicit_s, sources_explicit_s, bits_explicit_s, 2);
 constexpr auto checks_explicit_s = records::checkOpsOf(fields_explicit_s, bits_explicit_s, 2);
-constexpr RrcRecordType type_explicit_s = {"explicit_s", "rrcCodec/rrcServingCellCommon.h", "TDD-UL-DL-SlotConfig.symbols.explicit", "", &nr_rrc::type_TDD_UL_DL_SlotConfig_symbols_explicit_, sizeof(explicit_s), 0, 3, 2, 0, fields_explicit_s, bits_explicit_s, nullptr, ops_explicit_s.data(), static_cast<UINT16>(ops_explicit_s.size()), checks_explicit_s.data(), 164};
+constexpr RrcRecordType type_explicit_s = {"explicit_s", "rrcCodec/rrcServingCellCommon.h", "TDD-UL-DL-SlotConfig.symbols.explicit", "", &nr_rrc::type_TDD_UL_DL_SlotConfig_symbols_explicit_, sizeof(explicit_s), 0, 3, 2, 0, fields_explicit_s, bits_explicit_s, nullptr, checks_explicit_s.data(), 164};
 
 constexpr RrcRecordField fields_RrcTddUlDlSlotCfg_t[] = {
     {"slotIdx", {"slotIndex", way_0, 1, &nr_rrc::type_TDD_UL_DL_SlotIndex}, nullptr, nullptr, "", 0, 319, offsetof(RrcTddUlDlSlotCfg_t, slotIdx), sizeof(RrcTddUlDlSlotCfg_t::slotIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -1750,14 +1193,8 @@ constexpr RrcRecordOption options_RrcTddUlDlSlotCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcTddUlDlSlotCfg_t[] = {
     {{"symbols", way_1, 1, &nr_rrc::type_TDD_UL_DL_SlotConfig_symbols}, 1, 0, 1, options_RrcTddUlDlSlotCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcTddUlDlSlotCfg_t[] = {
-    {offsetof(TDD_UL_DL_SlotConfig, slotIndex), -1, 2, 0, 1},
-    {},
-    {offsetof(TDD_UL_DL_SlotConfig, symbols), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcTddUlDlSlotCfg_t = records::opsOf<records::opCount(sizeof(RrcTddUlDlSlotCfg_t), fields_RrcTddUlDlSlotCfg_t, sources_RrcTddUlDlSlotCfg_t, bits_RrcTddUlDlSlotCfg_t, 3)>(sizeof(RrcTddUlDlSlotCfg_t), fields_RrcTddUlDlSlotCfg_t, sources_RrcTddUlDlSlotCfg_t, bits_RrcTddUlDlSlotCfg_t, 3);
 constexpr auto checks_RrcTddUlDlSlotCfg_t = records::checkOpsOf(fields_RrcTddUlDlSlotCfg_t, bits_RrcTddUlDlSlotCfg_t, 3);
-constexpr RrcRecordType type_RrcTddUlDlSlotCfg_t = {"RrcTddUlDlSlotCfg_t", "rrcCodec/rrcServingCellCommon.h", "TDD-UL-DL-SlotConfig", "", &nr_rrc::type_TDD_UL_DL_SlotConfig, sizeof(RrcTddUlDlSlotCfg_t), 0, 3, 3, 1, fields_RrcTddUlDlSlotCfg_t, bits_RrcTddUlDlSlotCfg_t, choices_RrcTddUlDlSlotCfg_t, ops_RrcTddUlDlSlotCfg_t.data(), static_cast<UINT16>(ops_RrcTddUlDlSlotCfg_t.size()), checks_RrcTddUlDlSlotCfg_t.data(), 163};
+constexpr RrcRecordType type_RrcTddUlDlSlotCfg_t = {"RrcTddUlDlSlotCfg_t", "rrcCodec/rrcServingCellCommon.h", "TDD-UL-DL-SlotConfig", "", &nr_rrc::type_TDD_UL_DL_SlotConfig, sizeof(RrcTddUlDlSlotCfg_t), 0, 3, 3, 1, fields_RrcTddUlDlSlotCfg_t, bits_RrcTddUlDlSlotCfg_t, choices_RrcTddUlDlSlotCfg_t, checks_RrcTddUlDlSlotCfg_t.data(), 163};
 
 constexpr RrcRecordField fields_RrcTddUlDlCfgDedi_t[] = {
     {"numSlotsAddMod", {}, nullptr, nullptr, "", 0, 320, offsetof(RrcTddUlDlCfgDedi_t, numSlotsAddMod), sizeof(RrcTddUlDlCfgDedi_t::numSlotsAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -1765,15 +1202,8 @@ constexpr RrcRecordField fields_RrcTddUlDlCfgDedi_t[] = {
     {"numSlotsRelease", {}, nullptr, nullptr, "", 0, 320, offsetof(RrcTddUlDlCfgDedi_t, numSlotsRelease), sizeof(RrcTddUlDlCfgDedi_t::numSlotsRelease), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"slotIdx", {"slotSpecificConfigurationsToreleaseList", way_17, 2, &nr_rrc::type_TDD_UL_DL_SlotIndex}, nullptr, nullptr, "", 0, 319, offsetof(RrcTddUlDlCfgDedi_t, slotIdx), sizeof(RrcTddUlDlCfgDedi_t::slotIdx[0]), sizeof(RrcTddUlDlCfgDedi_t::slotIdx) / sizeof(RrcTddUlDlCfgDedi_t::slotIdx[0]), 0, RRC_FIELD_NUMBER, RRC_FIELD_NOT_SENT, 0, 0, 2, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcTddUlDlCfgDedi_t[] = {
-    {},
-    {offsetof(TDD_UL_DL_ConfigDedicated, slotSpecificConfigurationsToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(TDD_UL_DL_ConfigDedicated, slotSpecificConfigurationsToreleaseList), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcTddUlDlCfgDedi_t = records::opsOf<records::opCount(sizeof(RrcTddUlDlCfgDedi_t), fields_RrcTddUlDlCfgDedi_t, sources_RrcTddUlDlCfgDedi_t, nullptr, 0)>(sizeof(RrcTddUlDlCfgDedi_t), fields_RrcTddUlDlCfgDedi_t, sources_RrcTddUlDlCfgDedi_t, nullptr, 0);
 constexpr auto checks_RrcTddUlDlCfgDedi_t = records::checkOpsOf(fields_RrcTddUlDlCfgDedi_t, nullptr, 0);
-constexpr RrcRecordType type_RrcTddUlDlCfgDedi_t = {"RrcTddUlDlCfgDedi_t", "rrcCodec/rrcTddDedicated.h", "TDD-UL-DL-ConfigDedicated", "Its lists are composed, but never sent.", &nr_rrc::type_TDD_UL_DL_ConfigDedicated, sizeof(RrcTddUlDlCfgDedi_t), 0, 4, 0, 0, fields_RrcTddUlDlCfgDedi_t, nullptr, nullptr, ops_RrcTddUlDlCfgDedi_t.data(), static_cast<UINT16>(ops_RrcTddUlDlCfgDedi_t.size()), checks_RrcTddUlDlCfgDedi_t.data(), 162};
+constexpr RrcRecordType type_RrcTddUlDlCfgDedi_t = {"RrcTddUlDlCfgDedi_t", "rrcCodec/rrcTddDedicated.h", "TDD-UL-DL-ConfigDedicated", "Its lists are composed, but never sent.", &nr_rrc::type_TDD_UL_DL_ConfigDedicated, sizeof(RrcTddUlDlCfgDedi_t), 0, 4, 0, 0, fields_RrcTddUlDlCfgDedi_t, nullptr, nullptr, checks_RrcTddUlDlCfgDedi_t.data(), 162};
 
 constexpr RrcRecordField fields_RrcInterleaved_t[] = {
     {"regBundleSize", {"reg-BundleSize", way_0, 1, &nr_rrc::type_ControlResourceSet_cce_REG_MappingType_interleaved_reg_BundleSize}, nullptr, nullptr, "", 0, 2, offsetof(RrcInterleaved_t, regBundleSize), sizeof(RrcInterleaved_t::regBundleSize), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -1784,15 +1214,8 @@ constexpr RrcRecordField fields_RrcInterleaved_t[] = {
 constexpr RrcRecordBit bits_RrcInterleaved_t[] = {
     {"RRC_INTERLEACED_SHIFT_INDEX_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcInterleaved_t[] = {
-    {offsetof(ControlResourceSet_cce_REG_MappingType_interleaved, reg_BundleSize), -1, 4, 0, 1},
-    {offsetof(ControlResourceSet_cce_REG_MappingType_interleaved, interleaverSize), -1, 4, 0, 1},
-    {},
-    {offsetof(ControlResourceSet_cce_REG_MappingType_interleaved, shiftIndex), 0, 2, 0, 1},
-};
-constexpr auto ops_RrcInterleaved_t = records::opsOf<records::opCount(sizeof(RrcInterleaved_t), fields_RrcInterleaved_t, sources_RrcInterleaved_t, bits_RrcInterleaved_t, 1)>(sizeof(RrcInterleaved_t), fields_RrcInterleaved_t, sources_RrcInterleaved_t, bits_RrcInterleaved_t, 1);
 constexpr auto checks_RrcInterleaved_t = records::checkOpsOf(fields_RrcInterleaved_t, bits_RrcInterleaved_t, 1);
-constexpr RrcRecordType type_RrcInterleaved_t = {"RrcInterleaved_t", "rrcCodec/rrcPdcch.h", "ControlResourceSet.cce-REG-MappingType.interleaved", "", &nr_rrc::type_ControlResourceSet_cce_REG_MappingType_interleaved, sizeof(RrcInterleaved_t), 0, 4, 1, 0, fields_RrcInterleaved_t, bits_RrcInterleaved_t, nullptr, ops_RrcInterleaved_t.data(), static_cast<UINT16>(ops_RrcInterleaved_t.size()), checks_RrcInterleaved_t.data(), 161};
+constexpr RrcRecordType type_RrcInterleaved_t = {"RrcInterleaved_t", "rrcCodec/rrcPdcch.h", "ControlResourceSet.cce-REG-MappingType.interleaved", "", &nr_rrc::type_ControlResourceSet_cce_REG_MappingType_interleaved, sizeof(RrcInterleaved_t), 0, 4, 1, 0, fields_RrcInterleaved_t, bits_RrcInterleaved_t, nullptr, checks_RrcInterleaved_t.data(), 161};
 
 constexpr RrcRecordField fields_RrcControlResourceSet_t[] = {
     {"setIdx", {"controlResourceSetId", way_0, 1, &nr_rrc::type_ControlResourceSetId}, nullptr, nullptr, "", 0, 11, offsetof(RrcControlResourceSet_t, setIdx), sizeof(RrcControlResourceSet_t::setIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -1822,24 +1245,8 @@ constexpr RrcRecordOption options_RrcControlResourceSet_t_0[] = {
 constexpr RrcRecordChoice choices_RrcControlResourceSet_t[] = {
     {{"cce-REG-MappingType", way_3, 1, &nr_rrc::type_ControlResourceSet_cce_REG_MappingType}, 3, 0, 2, options_RrcControlResourceSet_t_0},
 };
-constexpr RrcRecordSource sources_RrcControlResourceSet_t[] = {
-    {offsetof(ControlResourceSet, controlResourceSetId), -1, 1, 0, 1},
-    {offsetof(ControlResourceSet, frequencyDomainResources), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, duration), -1, 1, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, cce_REG_MappingType), -1, 0, 0, 1},
-    {offsetof(ControlResourceSet, precoderGranularity), -1, 4, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, tci_StatesPDCCH_ToAddList), 0, 0, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, tci_StatesPDCCH_ToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(ControlResourceSet, tci_PresentInDCI), 2, 4, 0, 1},
-    {offsetof(ControlResourceSet, pdcch_DMRS_ScramblingID), 3, 2, 0, 1},
-};
-constexpr auto ops_RrcControlResourceSet_t = records::opsOf<records::opCount(sizeof(RrcControlResourceSet_t), fields_RrcControlResourceSet_t, sources_RrcControlResourceSet_t, bits_RrcControlResourceSet_t, 4)>(sizeof(RrcControlResourceSet_t), fields_RrcControlResourceSet_t, sources_RrcControlResourceSet_t, bits_RrcControlResourceSet_t, 4);
 constexpr auto checks_RrcControlResourceSet_t = records::checkOpsOf(fields_RrcControlResourceSet_t, bits_RrcControlResourceSet_t, 4);
-constexpr RrcRecordType type_RrcControlResourceSet_t = {"RrcControlResourceSet_t", "rrcCodec/rrcPdcch.h", "ControlResourceSet", "", &nr_rrc::type_ControlResourceSet, sizeof(RrcControlResourceSet_t), 0, 13, 4, 1, fields_RrcControlResourceSet_t, bits_RrcControlResourceSet_t, choices_RrcControlResourceSet_t, ops_RrcControlResourceSet_t.data(), static_cast<UINT16>(ops_RrcControlResourceSet_t.size()), checks_RrcControlResourceSet_t.data(), 160};
+constexpr RrcRecordType type_RrcControlResourceSet_t = {"RrcControlResourceSet_t", "rrcCodec/rrcPdcch.h", "ControlResourceSet", "", &nr_rrc::type_ControlResourceSet, sizeof(RrcControlResourceSet_t), 0, 13, 4, 1, fields_RrcControlResourceSet_t, bits_RrcControlResourceSet_t, choices_RrcControlResourceSet_t, checks_RrcControlResourceSet_t.data(), 160};
 
 constexpr RrcRecordField fields_slotPeriodOffset_s[] = {
     {"period", {"", nullptr, 0, &nr_rrc::type_SearchSpace_monitoringSlotPeriodicityAndOffset}, nullptr, nullptr, "", 1, 15, offsetof(slotPeriodOffset_s, period), sizeof(slotPeriodOffset_s::period), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -1865,13 +1272,8 @@ constexpr RrcRecordOption options_slotPeriodOffset_s_0[] = {
 constexpr RrcRecordChoice choices_slotPeriodOffset_s[] = {
     {{"", nullptr, 0, &nr_rrc::type_SearchSpace_monitoringSlotPeriodicityAndOffset}, 0, 1, 15, options_slotPeriodOffset_s_0},
 };
-constexpr RrcRecordSource sources_slotPeriodOffset_s[] = {
-    {},
-    {},
-};
-constexpr auto ops_slotPeriodOffset_s = records::opsOf<records::opCount(sizeof(slotPeriodOffset_s), fields_slotPeriodOffset_s, sources_slotPeriodOffset_s, nullptr, 0)>(sizeof(slotPeriodOffset_s), fields_slotPeriodOffset_s, sources_slotPeriodOffset_s, nullptr, 0);
 constexpr auto checks_slotPeriodOffset_s = records::checkOpsOf(fields_slotPeriodOffset_s, nullptr, 0);
-constexpr RrcRecordType type_slotPeriodOffset_s = {"slotPeriodOffset_s", "rrcCodec/rrcPdcch.h", "SearchSpace.monitoringSlotPeriodicityAndOffset", "", &nr_rrc::type_SearchSpace_monitoringSlotPeriodicityAndOffset, sizeof(slotPeriodOffset_s), 0, 2, 0, 1, fields_slotPeriodOffset_s, nullptr, choices_slotPeriodOffset_s, ops_slotPeriodOffset_s.data(), static_cast<UINT16>(ops_slotPeriodOffset_s.size()), checks_slotPeriodOffset_s.data(), 159};
+constexpr RrcRecordType type_slotPeriodOffset_s = {"slotPeriodOffset_s", "rrcCodec/rrcPdcch.h", "SearchSpace.monitoringSlotPeriodicityAndOffset", "", &nr_rrc::type_SearchSpace_monitoringSlotPeriodicityAndOffset, sizeof(slotPeriodOffset_s), 0, 2, 0, 1, fields_slotPeriodOffset_s, nullptr, choices_slotPeriodOffset_s, checks_slotPeriodOffset_s.data(), 159};
 
 constexpr RrcRecordField fields_nrofCadidate_s[] = {
     {"aggrLev1", {"aggregationLevel1", way_0, 1, &nr_rrc::type_SearchSpace_nrofCandidates_aggregationLevel1}, nullptr, nullptr, "", 0, 7, offsetof(nrofCadidate_s, aggrLev1), sizeof(nrofCadidate_s::aggrLev1), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -1880,26 +1282,14 @@ constexpr RrcRecordField fields_nrofCadidate_s[] = {
     {"aggrLev8", {"aggregationLevel8", way_3, 1, &nr_rrc::type_SearchSpace_nrofCandidates_aggregationLevel8}, nullptr, nullptr, "", 0, 7, offsetof(nrofCadidate_s, aggrLev8), sizeof(nrofCadidate_s::aggrLev8), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"aggrLev16", {"aggregationLevel16", way_4, 1, &nr_rrc::type_SearchSpace_nrofCandidates_aggregationLevel16}, nullptr, nullptr, "", 0, 7, offsetof(nrofCadidate_s, aggrLev16), sizeof(nrofCadidate_s::aggrLev16), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_nrofCadidate_s[] = {
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel1), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel2), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel4), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel8), -1, 4, 0, 1},
-    {offsetof(SearchSpace_nrofCandidates, aggregationLevel16), -1, 4, 0, 1},
-};
-constexpr auto ops_nrofCadidate_s = records::opsOf<records::opCount(sizeof(nrofCadidate_s), fields_nrofCadidate_s, sources_nrofCadidate_s, nullptr, 0)>(sizeof(nrofCadidate_s), fields_nrofCadidate_s, sources_nrofCadidate_s, nullptr, 0);
 constexpr auto checks_nrofCadidate_s = records::checkOpsOf(fields_nrofCadidate_s, nullptr, 0);
-constexpr RrcRecordType type_nrofCadidate_s = {"nrofCadidate_s", "rrcCodec/rrcPdcch.h", "SearchSpace.nrofCandidates", "", &nr_rrc::type_SearchSpace_nrofCandidates, sizeof(nrofCadidate_s), 0, 5, 0, 0, fields_nrofCadidate_s, nullptr, nullptr, ops_nrofCadidate_s.data(), static_cast<UINT16>(ops_nrofCadidate_s.size()), checks_nrofCadidate_s.data(), 158};
+constexpr RrcRecordType type_nrofCadidate_s = {"nrofCadidate_s", "rrcCodec/rrcPdcch.h", "SearchSpace.nrofCandidates", "", &nr_rrc::type_SearchSpace_nrofCandidates, sizeof(nrofCadidate_s), 0, 5, 0, 0, fields_nrofCadidate_s, nullptr, nullptr, checks_nrofCadidate_s.data(), 158};
 
 constexpr RrcRecordField fields_dciFormat0AndFormat1_s[] = {
     {"padding", {}, nullptr, nullptr, "", 0, 0, offsetof(dciFormat0AndFormat1_s, padding), sizeof(dciFormat0AndFormat1_s::padding), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_dciFormat0AndFormat1_s[] = {
-    {},
-};
-constexpr auto ops_dciFormat0AndFormat1_s = records::opsOf<records::opCount(sizeof(dciFormat0AndFormat1_s), fields_dciFormat0AndFormat1_s, sources_dciFormat0AndFormat1_s, nullptr, 0)>(sizeof(dciFormat0AndFormat1_s), fields_dciFormat0AndFormat1_s, sources_dciFormat0AndFormat1_s, nullptr, 0);
 constexpr auto checks_dciFormat0AndFormat1_s = records::checkOpsOf(fields_dciFormat0AndFormat1_s, nullptr, 0);
-constexpr RrcRecordType type_dciFormat0AndFormat1_s = {"dciFormat0AndFormat1_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format0-0-AndFormat1-0", "it has no content", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0, sizeof(dciFormat0AndFormat1_s), 0, 1, 0, 0, fields_dciFormat0AndFormat1_s, nullptr, nullptr, ops_dciFormat0AndFormat1_s.data(), static_cast<UINT16>(ops_dciFormat0AndFormat1_s.size()), checks_dciFormat0AndFormat1_s.data(), 157};
+constexpr RrcRecordType type_dciFormat0AndFormat1_s = {"dciFormat0AndFormat1_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format0-0-AndFormat1-0", "it has no content", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format0_0_AndFormat1_0, sizeof(dciFormat0AndFormat1_s), 0, 1, 0, 0, fields_dciFormat0AndFormat1_s, nullptr, nullptr, checks_dciFormat0AndFormat1_s.data(), 157};
 
 constexpr RrcRecordField fields_dciFormat2_0_s[] = {
     {"presence", {}, nullptr, nullptr, "", 0, 31, offsetof(dciFormat2_0_s, presence), sizeof(dciFormat2_0_s::presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1916,37 +1306,20 @@ constexpr RrcRecordBit bits_dciFormat2_0_s[] = {
     {"RRC_DCI2_0_AGGR_LEV8_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
     {"RRC_DCI2_0_AGGR_LEV16_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_dciFormat2_0_s[] = {
-    {},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, nrofCandidates_SFI), -1, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, nrofCandidates_SFI), -1, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, nrofCandidates_SFI), -1, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, nrofCandidates_SFI), -1, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_0, nrofCandidates_SFI), -1, 0, 0, 1},
-};
-constexpr auto ops_dciFormat2_0_s = records::opsOf<records::opCount(sizeof(dciFormat2_0_s), fields_dciFormat2_0_s, sources_dciFormat2_0_s, bits_dciFormat2_0_s, 5)>(sizeof(dciFormat2_0_s), fields_dciFormat2_0_s, sources_dciFormat2_0_s, bits_dciFormat2_0_s, 5);
 constexpr auto checks_dciFormat2_0_s = records::checkOpsOf(fields_dciFormat2_0_s, bits_dciFormat2_0_s, 5);
-constexpr RrcRecordType type_dciFormat2_0_s = {"dciFormat2_0_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-0", "", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_0, sizeof(dciFormat2_0_s), 0, 6, 5, 0, fields_dciFormat2_0_s, bits_dciFormat2_0_s, nullptr, ops_dciFormat2_0_s.data(), static_cast<UINT16>(ops_dciFormat2_0_s.size()), checks_dciFormat2_0_s.data(), 156};
+constexpr RrcRecordType type_dciFormat2_0_s = {"dciFormat2_0_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-0", "", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_0, sizeof(dciFormat2_0_s), 0, 6, 5, 0, fields_dciFormat2_0_s, bits_dciFormat2_0_s, nullptr, checks_dciFormat2_0_s.data(), 156};
 
 constexpr RrcRecordField fields_dciFormat2_1_s[] = {
     {"padding", {}, nullptr, nullptr, "", 0, 0, offsetof(dciFormat2_1_s, padding), sizeof(dciFormat2_1_s::padding), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_dciFormat2_1_s[] = {
-    {},
-};
-constexpr auto ops_dciFormat2_1_s = records::opsOf<records::opCount(sizeof(dciFormat2_1_s), fields_dciFormat2_1_s, sources_dciFormat2_1_s, nullptr, 0)>(sizeof(dciFormat2_1_s), fields_dciFormat2_1_s, sources_dciFormat2_1_s, nullptr, 0);
 constexpr auto checks_dciFormat2_1_s = records::checkOpsOf(fields_dciFormat2_1_s, nullptr, 0);
-constexpr RrcRecordType type_dciFormat2_1_s = {"dciFormat2_1_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-1", "it has no content", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_1, sizeof(dciFormat2_1_s), 0, 1, 0, 0, fields_dciFormat2_1_s, nullptr, nullptr, ops_dciFormat2_1_s.data(), static_cast<UINT16>(ops_dciFormat2_1_s.size()), checks_dciFormat2_1_s.data(), 155};
+constexpr RrcRecordType type_dciFormat2_1_s = {"dciFormat2_1_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-1", "it has no content", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_1, sizeof(dciFormat2_1_s), 0, 1, 0, 0, fields_dciFormat2_1_s, nullptr, nullptr, checks_dciFormat2_1_s.data(), 155};
 
 constexpr RrcRecordField fields_dciFormat2_2_s[] = {
     {"padding", {}, nullptr, nullptr, "", 0, 0, offsetof(dciFormat2_2_s, padding), sizeof(dciFormat2_2_s::padding), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_dciFormat2_2_s[] = {
-    {},
-};
-constexpr auto ops_dciFormat2_2_s = records::opsOf<records::opCount(sizeof(dciFormat2_2_s), fields_dciFormat2_2_s, sources_dciFormat2_2_s, nullptr, 0)>(sizeof(dciFormat2_2_s), fields_dciFormat2_2_s, sources_dciFormat2_2_s, nullptr, 0);
 constexpr auto checks_dciFormat2_2_s = records::checkOpsOf(fields_dciFormat2_2_s, nullptr, 0);
-constexpr RrcRecordType type_dciFormat2_2_s = {"dciFormat2_2_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-2", "it has no content", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_2, sizeof(dciFormat2_2_s), 0, 1, 0, 0, fields_dciFormat2_2_s, nullptr, nullptr, ops_dciFormat2_2_s.data(), static_cast<UINT16>(ops_dciFormat2_2_s.size()), checks_dciFormat2_2_s.data(), 154};
+constexpr RrcRecordType type_dciFormat2_2_s = {"dciFormat2_2_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-2", "it has no content", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_2, sizeof(dciFormat2_2_s), 0, 1, 0, 0, fields_dciFormat2_2_s, nullptr, nullptr, checks_dciFormat2_2_s.data(), 154};
 
 constexpr RrcRecordField fields_dciFormat2_3_s[] = {
     {"presence", {}, nullptr, nullptr, "", 0, 1, offsetof(dciFormat2_3_s, presence), sizeof(dciFormat2_3_s::presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1956,14 +1329,8 @@ constexpr RrcRecordField fields_dciFormat2_3_s[] = {
 constexpr RrcRecordBit bits_dciFormat2_3_s[] = {
     {"RRC_DCI2_3_DUMMY1_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_dciFormat2_3_s[] = {
-    {},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_3, dummy1), 0, 4, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common_dci_Format2_3, dummy2), -1, 4, 0, 1},
-};
-constexpr auto ops_dciFormat2_3_s = records::opsOf<records::opCount(sizeof(dciFormat2_3_s), fields_dciFormat2_3_s, sources_dciFormat2_3_s, bits_dciFormat2_3_s, 1)>(sizeof(dciFormat2_3_s), fields_dciFormat2_3_s, sources_dciFormat2_3_s, bits_dciFormat2_3_s, 1);
 constexpr auto checks_dciFormat2_3_s = records::checkOpsOf(fields_dciFormat2_3_s, bits_dciFormat2_3_s, 1);
-constexpr RrcRecordType type_dciFormat2_3_s = {"dciFormat2_3_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-3", "", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_3, sizeof(dciFormat2_3_s), 0, 3, 1, 0, fields_dciFormat2_3_s, bits_dciFormat2_3_s, nullptr, ops_dciFormat2_3_s.data(), static_cast<UINT16>(ops_dciFormat2_3_s.size()), checks_dciFormat2_3_s.data(), 153};
+constexpr RrcRecordType type_dciFormat2_3_s = {"dciFormat2_3_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common.dci-Format2-3", "", &nr_rrc::type_SearchSpace_searchSpaceType_common_dci_Format2_3, sizeof(dciFormat2_3_s), 0, 3, 1, 0, fields_dciFormat2_3_s, bits_dciFormat2_3_s, nullptr, checks_dciFormat2_3_s.data(), 153};
 
 constexpr RrcRecordField fields_common_s[] = {
     {"presence", {}, nullptr, nullptr, "", 0, 31, offsetof(common_s, presence), sizeof(common_s::presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -1980,39 +1347,21 @@ constexpr RrcRecordBit bits_common_s[] = {
     {"RRC_SEARCH_TYPE_COMMON_DCI2_2_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
     {"RRC_SEARCH_TYPE_COMMON_DCI2_3_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_common_s[] = {
-    {},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format0_0_AndFormat1_0), 0, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_0), 1, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_1), 2, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_2), 3, 0, 0, 1},
-    {offsetof(SearchSpace_searchSpaceType_common, dci_Format2_3), 4, 0, 0, 1},
-};
-constexpr auto ops_common_s = records::opsOf<records::opCount(sizeof(common_s), fields_common_s, sources_common_s, bits_common_s, 5)>(sizeof(common_s), fields_common_s, sources_common_s, bits_common_s, 5);
 constexpr auto checks_common_s = records::checkOpsOf(fields_common_s, bits_common_s, 5);
-constexpr RrcRecordType type_common_s = {"common_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common", "", &nr_rrc::type_SearchSpace_searchSpaceType_common, sizeof(common_s), 0, 6, 5, 0, fields_common_s, bits_common_s, nullptr, ops_common_s.data(), static_cast<UINT16>(ops_common_s.size()), checks_common_s.data(), 152};
+constexpr RrcRecordType type_common_s = {"common_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.common", "", &nr_rrc::type_SearchSpace_searchSpaceType_common, sizeof(common_s), 0, 6, 5, 0, fields_common_s, bits_common_s, nullptr, checks_common_s.data(), 152};
 
 constexpr RrcRecordField fields_ueSpecific_s[] = {
     {"dciFormats", {"dci-Formats", way_0, 1, &nr_rrc::type_SearchSpace_searchSpaceType_ue_Specific_dci_Formats}, nullptr, nullptr, "", 0, 1, offsetof(ueSpecific_s, dciFormats), sizeof(ueSpecific_s::dciFormats), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_ueSpecific_s[] = {
-    {offsetof(SearchSpace_searchSpaceType_ue_Specific, dci_Formats), -1, 4, 0, 1},
-};
-constexpr auto ops_ueSpecific_s = records::opsOf<records::opCount(sizeof(ueSpecific_s), fields_ueSpecific_s, sources_ueSpecific_s, nullptr, 0)>(sizeof(ueSpecific_s), fields_ueSpecific_s, sources_ueSpecific_s, nullptr, 0);
 constexpr auto checks_ueSpecific_s = records::checkOpsOf(fields_ueSpecific_s, nullptr, 0);
-constexpr RrcRecordType type_ueSpecific_s = {"ueSpecific_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.ue-Specific", "", &nr_rrc::type_SearchSpace_searchSpaceType_ue_Specific, sizeof(ueSpecific_s), 0, 1, 0, 0, fields_ueSpecific_s, nullptr, nullptr, ops_ueSpecific_s.data(), static_cast<UINT16>(ops_ueSpecific_s.size()), checks_ueSpecific_s.data(), 151};
+constexpr RrcRecordType type_ueSpecific_s = {"ueSpecific_s", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType.ue-Specific", "", &nr_rrc::type_SearchSpace_searchSpaceType_ue_Specific, sizeof(ueSpecific_s), 0, 1, 0, 0, fields_ueSpecific_s, nullptr, nullptr, checks_ueSpecific_s.data(), 151};
 
 constexpr RrcRecordField fields_searchType_u[] = {
     {"common", {"common", way_0, 1, &nr_rrc::type_SearchSpace_searchSpaceType_common}, &type_common_s, nullptr, "", 0, 0, offsetof(searchType_u, common), sizeof(searchType_u::common), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"ueSpecific", {"ue-Specific", way_1, 1, &nr_rrc::type_SearchSpace_searchSpaceType_ue_Specific}, &type_ueSpecific_s, nullptr, "", 0, 0, offsetof(searchType_u, ueSpecific), sizeof(searchType_u::ueSpecific), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_searchType_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_searchType_u = records::opsOf<records::opCount(sizeof(searchType_u), fields_searchType_u, sources_searchType_u, nullptr, 0)>(sizeof(searchType_u), fields_searchType_u, sources_searchType_u, nullptr, 0);
 constexpr auto checks_searchType_u = records::checkOpsOf(fields_searchType_u, nullptr, 0);
-constexpr RrcRecordType type_searchType_u = {"searchType_u", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType", "", &nr_rrc::type_SearchSpace_searchSpaceType, sizeof(searchType_u), 1, 2, 0, 0, fields_searchType_u, nullptr, nullptr, ops_searchType_u.data(), static_cast<UINT16>(ops_searchType_u.size()), checks_searchType_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_searchType_u = {"searchType_u", "rrcCodec/rrcPdcch.h", "SearchSpace.searchSpaceType", "", &nr_rrc::type_SearchSpace_searchSpaceType, sizeof(searchType_u), 1, 2, 0, 0, fields_searchType_u, nullptr, nullptr, checks_searchType_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcSearchSpace_t[] = {
     {"searchSpaceId", {"searchSpaceId", way_0, 1, &nr_rrc::type_SearchSpaceId}, nullptr, nullptr, "", 0, 39, offsetof(RrcSearchSpace_t, searchSpaceId), sizeof(RrcSearchSpace_t::searchSpaceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2042,32 +1391,15 @@ constexpr RrcRecordOption options_RrcSearchSpace_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSearchSpace_t[] = {
     {{"searchSpaceType", way_10, 1, &nr_rrc::type_SearchSpace_searchSpaceType}, 7, 0, 2, options_RrcSearchSpace_t_0},
 };
-constexpr RrcRecordSource sources_RrcSearchSpace_t[] = {
-    {offsetof(SearchSpace, searchSpaceId), -1, 1, 0, 1},
-    {},
-    {offsetof(SearchSpace, controlResourceSetId), 0, 1, 0, 1},
-    {offsetof(SearchSpace, monitoringSlotPeriodicityAndOffset), 1, 0, 0, 1},
-    {offsetof(SearchSpace, duration), 2, 2, 0, 1},
-    {offsetof(SearchSpace, monitoringSymbolsWithinSlot), 3, 0, 0, 1},
-    {offsetof(SearchSpace, nrofCandidates), 4, 0, 0, 1},
-    {},
-    {offsetof(SearchSpace, searchSpaceType), 5, 0, 0, 1},
-};
-constexpr auto ops_RrcSearchSpace_t = records::opsOf<records::opCount(sizeof(RrcSearchSpace_t), fields_RrcSearchSpace_t, sources_RrcSearchSpace_t, bits_RrcSearchSpace_t, 8)>(sizeof(RrcSearchSpace_t), fields_RrcSearchSpace_t, sources_RrcSearchSpace_t, bits_RrcSearchSpace_t, 8);
 constexpr auto checks_RrcSearchSpace_t = records::checkOpsOf(fields_RrcSearchSpace_t, bits_RrcSearchSpace_t, 8);
-constexpr RrcRecordType type_RrcSearchSpace_t = {"RrcSearchSpace_t", "rrcCodec/rrcPdcch.h", "SearchSpace", "", &nr_rrc::type_SearchSpace, sizeof(RrcSearchSpace_t), 0, 9, 8, 1, fields_RrcSearchSpace_t, bits_RrcSearchSpace_t, choices_RrcSearchSpace_t, ops_RrcSearchSpace_t.data(), static_cast<UINT16>(ops_RrcSearchSpace_t.size()), checks_RrcSearchSpace_t.data(), 150};
+constexpr RrcRecordType type_RrcSearchSpace_t = {"RrcSearchSpace_t", "rrcCodec/rrcPdcch.h", "SearchSpace", "", &nr_rrc::type_SearchSpace, sizeof(RrcSearchSpace_t), 0, 9, 8, 1, fields_RrcSearchSpace_t, bits_RrcSearchSpace_t, choices_RrcSearchSpace_t, checks_RrcSearchSpace_t.data(), 150};
 
 constexpr RrcRecordField fields_IntCfgPerServingCell_s[] = {
     {"serverCellIdx", {"servingCellId", way_0, 1, &nr_rrc::type_ServCellIndex}, nullptr, nullptr, "", 0, 31, offsetof(IntCfgPerServingCell_s, serverCellIdx), sizeof(IntCfgPerServingCell_s::serverCellIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"positionInDci", {"positionInDCI", way_1, 1, &nr_rrc::type_INT_ConfigurationPerServingCell_positionInDCI}, nullptr, "bits", "", 0, 125, offsetof(IntCfgPerServingCell_s, positionInDci), sizeof(IntCfgPerServingCell_s::positionInDci), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_IntCfgPerServingCell_s[] = {
-    {offsetof(INT_ConfigurationPerServingCell, servingCellId), -1, 1, 0, 1},
-    {offsetof(INT_ConfigurationPerServingCell, positionInDCI), -1, 1, 0, 1},
-};
-constexpr auto ops_IntCfgPerServingCell_s = records::opsOf<records::opCount(sizeof(IntCfgPerServingCell_s), fields_IntCfgPerServingCell_s, sources_IntCfgPerServingCell_s, nullptr, 0)>(sizeof(IntCfgPerServingCell_s), fields_IntCfgPerServingCell_s, sources_IntCfgPerServingCell_s, nullptr, 0);
 constexpr auto checks_IntCfgPerServingCell_s = records::checkOpsOf(fields_IntCfgPerServingCell_s, nullptr, 0);
-constexpr RrcRecordType type_IntCfgPerServingCell_s = {"IntCfgPerServingCell_s", "rrcCodec/rrcPdcch.h", "INT-ConfigurationPerServingCell", "", &nr_rrc::type_INT_ConfigurationPerServingCell, sizeof(IntCfgPerServingCell_s), 0, 2, 0, 0, fields_IntCfgPerServingCell_s, nullptr, nullptr, ops_IntCfgPerServingCell_s.data(), static_cast<UINT16>(ops_IntCfgPerServingCell_s.size()), checks_IntCfgPerServingCell_s.data(), 149};
+constexpr RrcRecordType type_IntCfgPerServingCell_s = {"IntCfgPerServingCell_s", "rrcCodec/rrcPdcch.h", "INT-ConfigurationPerServingCell", "", &nr_rrc::type_INT_ConfigurationPerServingCell, sizeof(IntCfgPerServingCell_s), 0, 2, 0, 0, fields_IntCfgPerServingCell_s, nullptr, nullptr, checks_IntCfgPerServingCell_s.data(), 149};
 
 constexpr RrcRecordField fields_RrcDlPreemption_t[] = {
     {"intRnti", {"int-RNTI", way_0, 1, &nr_rrc::type_RNTI_Value}, nullptr, nullptr, "", 0, 65535, offsetof(RrcDlPreemption_t, intRnti), sizeof(RrcDlPreemption_t::intRnti), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2076,16 +1408,8 @@ constexpr RrcRecordField fields_RrcDlPreemption_t[] = {
     {"numServingCells", {}, nullptr, nullptr, "", 1, 32, offsetof(RrcDlPreemption_t, numServingCells), sizeof(RrcDlPreemption_t::numServingCells), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"intCfgPerServingCells", {"int-ConfigurationPerServingCell", way_7, 2, &nr_rrc::type_INT_ConfigurationPerServingCell}, &type_IntCfgPerServingCell_s, nullptr, "", 0, 0, offsetof(RrcDlPreemption_t, intCfgPerServingCells), sizeof(RrcDlPreemption_t::intCfgPerServingCells[0]), sizeof(RrcDlPreemption_t::intCfgPerServingCells) / sizeof(RrcDlPreemption_t::intCfgPerServingCells[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 3, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcDlPreemption_t[] = {
-    {offsetof(DownlinkPreemption, int_RNTI), -1, 2, 0, 1},
-    {offsetof(DownlinkPreemption, timeFrequencySet), -1, 4, 0, 1},
-    {offsetof(DownlinkPreemption, dci_PayloadSize), -1, 1, 0, 1},
-    {},
-    {offsetof(DownlinkPreemption, int_ConfigurationPerServingCell), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcDlPreemption_t = records::opsOf<records::opCount(sizeof(RrcDlPreemption_t), fields_RrcDlPreemption_t, sources_RrcDlPreemption_t, nullptr, 0)>(sizeof(RrcDlPreemption_t), fields_RrcDlPreemption_t, sources_RrcDlPreemption_t, nullptr, 0);
 constexpr auto checks_RrcDlPreemption_t = records::checkOpsOf(fields_RrcDlPreemption_t, nullptr, 0);
-constexpr RrcRecordType type_RrcDlPreemption_t = {"RrcDlPreemption_t", "rrcCodec/rrcPdcch.h", "DownlinkPreemption", "", &nr_rrc::type_DownlinkPreemption, sizeof(RrcDlPreemption_t), 0, 5, 0, 0, fields_RrcDlPreemption_t, nullptr, nullptr, ops_RrcDlPreemption_t.data(), static_cast<UINT16>(ops_RrcDlPreemption_t.size()), checks_RrcDlPreemption_t.data(), 148};
+constexpr RrcRecordType type_RrcDlPreemption_t = {"RrcDlPreemption_t", "rrcCodec/rrcPdcch.h", "DownlinkPreemption", "", &nr_rrc::type_DownlinkPreemption, sizeof(RrcDlPreemption_t), 0, 5, 0, 0, fields_RrcDlPreemption_t, nullptr, nullptr, checks_RrcDlPreemption_t.data(), 148};
 
 constexpr RrcRecordField fields_RrcPuschTpcCmdCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 7, offsetof(RrcPuschTpcCmdCfg_t, bitMask), sizeof(RrcPuschTpcCmdCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2098,15 +1422,8 @@ constexpr RrcRecordBit bits_RrcPuschTpcCmdCfg_t[] = {
     {"RRC_PUSCH_TPC_INDEX_SUL_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
     {"RRC_PUSCH_TPC_TARGET_CELL_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschTpcCmdCfg_t[] = {
-    {},
-    {offsetof(PUSCH_TPC_CommandConfig, tpc_Index), 0, 1, 0, 1},
-    {offsetof(PUSCH_TPC_CommandConfig, tpc_IndexSUL), 1, 1, 0, 1},
-    {offsetof(PUSCH_TPC_CommandConfig, targetCell), 2, 1, 0, 1},
-};
-constexpr auto ops_RrcPuschTpcCmdCfg_t = records::opsOf<records::opCount(sizeof(RrcPuschTpcCmdCfg_t), fields_RrcPuschTpcCmdCfg_t, sources_RrcPuschTpcCmdCfg_t, bits_RrcPuschTpcCmdCfg_t, 3)>(sizeof(RrcPuschTpcCmdCfg_t), fields_RrcPuschTpcCmdCfg_t, sources_RrcPuschTpcCmdCfg_t, bits_RrcPuschTpcCmdCfg_t, 3);
 constexpr auto checks_RrcPuschTpcCmdCfg_t = records::checkOpsOf(fields_RrcPuschTpcCmdCfg_t, bits_RrcPuschTpcCmdCfg_t, 3);
-constexpr RrcRecordType type_RrcPuschTpcCmdCfg_t = {"RrcPuschTpcCmdCfg_t", "rrcCodec/rrcPdcch.h", "PUSCH-TPC-CommandConfig", "", &nr_rrc::type_PUSCH_TPC_CommandConfig, sizeof(RrcPuschTpcCmdCfg_t), 0, 4, 3, 0, fields_RrcPuschTpcCmdCfg_t, bits_RrcPuschTpcCmdCfg_t, nullptr, ops_RrcPuschTpcCmdCfg_t.data(), static_cast<UINT16>(ops_RrcPuschTpcCmdCfg_t.size()), checks_RrcPuschTpcCmdCfg_t.data(), 147};
+constexpr RrcRecordType type_RrcPuschTpcCmdCfg_t = {"RrcPuschTpcCmdCfg_t", "rrcCodec/rrcPdcch.h", "PUSCH-TPC-CommandConfig", "", &nr_rrc::type_PUSCH_TPC_CommandConfig, sizeof(RrcPuschTpcCmdCfg_t), 0, 4, 3, 0, fields_RrcPuschTpcCmdCfg_t, bits_RrcPuschTpcCmdCfg_t, nullptr, checks_RrcPuschTpcCmdCfg_t.data(), 147};
 
 constexpr RrcRecordField fields_RrcPucchTpcCmdCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcPucchTpcCmdCfg_t, bitMask), sizeof(RrcPucchTpcCmdCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2117,14 +1434,8 @@ constexpr RrcRecordBit bits_RrcPucchTpcCmdCfg_t[] = {
     {"RRC_PUCCH_TPC_PCELL_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_PUCCH_TPC_SCELL_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchTpcCmdCfg_t[] = {
-    {},
-    {offsetof(PUCCH_TPC_CommandConfig, tpc_IndexPCell), 0, 1, 0, 1},
-    {offsetof(PUCCH_TPC_CommandConfig, tpc_IndexPUCCH_SCell), 1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchTpcCmdCfg_t = records::opsOf<records::opCount(sizeof(RrcPucchTpcCmdCfg_t), fields_RrcPucchTpcCmdCfg_t, sources_RrcPucchTpcCmdCfg_t, bits_RrcPucchTpcCmdCfg_t, 2)>(sizeof(RrcPucchTpcCmdCfg_t), fields_RrcPucchTpcCmdCfg_t, sources_RrcPucchTpcCmdCfg_t, bits_RrcPucchTpcCmdCfg_t, 2);
 constexpr auto checks_RrcPucchTpcCmdCfg_t = records::checkOpsOf(fields_RrcPucchTpcCmdCfg_t, bits_RrcPucchTpcCmdCfg_t, 2);
-constexpr RrcRecordType type_RrcPucchTpcCmdCfg_t = {"RrcPucchTpcCmdCfg_t", "rrcCodec/rrcPdcch.h", "PUCCH-TPC-CommandConfig", "", &nr_rrc::type_PUCCH_TPC_CommandConfig, sizeof(RrcPucchTpcCmdCfg_t), 0, 3, 2, 0, fields_RrcPucchTpcCmdCfg_t, bits_RrcPucchTpcCmdCfg_t, nullptr, ops_RrcPucchTpcCmdCfg_t.data(), static_cast<UINT16>(ops_RrcPucchTpcCmdCfg_t.size()), checks_RrcPucchTpcCmdCfg_t.data(), 146};
+constexpr RrcRecordType type_RrcPucchTpcCmdCfg_t = {"RrcPucchTpcCmdCfg_t", "rrcCodec/rrcPdcch.h", "PUCCH-TPC-CommandConfig", "", &nr_rrc::type_PUCCH_TPC_CommandConfig, sizeof(RrcPucchTpcCmdCfg_t), 0, 3, 2, 0, fields_RrcPucchTpcCmdCfg_t, bits_RrcPucchTpcCmdCfg_t, nullptr, checks_RrcPucchTpcCmdCfg_t.data(), 146};
 
 constexpr RrcRecordField fields_RrcSrsTpcCmdCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 7, offsetof(RrcSrsTpcCmdCfg_t, bitMask), sizeof(RrcSrsTpcCmdCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2137,15 +1448,8 @@ constexpr RrcRecordBit bits_RrcSrsTpcCmdCfg_t[] = {
     {"RRC_SRS_TPC_FIELD_TYPE_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
     {"RRC_SRS_TPC_STARTING_BIT_SUL_PRESENCE", "RRC_SRS_TPC_STARTING_BIT_PRESENCE speaks for startBitSulFormat2_3 too", nullptr, {}, 0, 2, RRC_BIT_UNREAD, -1},
 };
-constexpr RrcRecordSource sources_RrcSrsTpcCmdCfg_t[] = {
-    {},
-    {offsetof(SRS_TPC_CommandConfig, startingBitOfFormat2_3), 0, 1, 0, 1},
-    {},
-    {offsetof(SRS_TPC_CommandConfig, fieldTypeFormat2_3), 1, 1, 0, 1},
-};
-constexpr auto ops_RrcSrsTpcCmdCfg_t = records::opsOf<records::opCount(sizeof(RrcSrsTpcCmdCfg_t), fields_RrcSrsTpcCmdCfg_t, sources_RrcSrsTpcCmdCfg_t, bits_RrcSrsTpcCmdCfg_t, 3)>(sizeof(RrcSrsTpcCmdCfg_t), fields_RrcSrsTpcCmdCfg_t, sources_RrcSrsTpcCmdCfg_t, bits_RrcSrsTpcCmdCfg_t, 3);
 constexpr auto checks_RrcSrsTpcCmdCfg_t = records::checkOpsOf(fields_RrcSrsTpcCmdCfg_t, bits_RrcSrsTpcCmdCfg_t, 3);
-constexpr RrcRecordType type_RrcSrsTpcCmdCfg_t = {"RrcSrsTpcCmdCfg_t", "rrcCodec/rrcPdcch.h", "SRS-TPC-CommandConfig", "", &nr_rrc::type_SRS_TPC_CommandConfig, sizeof(RrcSrsTpcCmdCfg_t), 0, 4, 3, 0, fields_RrcSrsTpcCmdCfg_t, bits_RrcSrsTpcCmdCfg_t, nullptr, ops_RrcSrsTpcCmdCfg_t.data(), static_cast<UINT16>(ops_RrcSrsTpcCmdCfg_t.size()), checks_RrcSrsTpcCmdCfg_t.data(), 145};
+constexpr RrcRecordType type_RrcSrsTpcCmdCfg_t = {"RrcSrsTpcCmdCfg_t", "rrcCodec/rrcPdcch.h", "SRS-TPC-CommandConfig", "", &nr_rrc::type_SRS_TPC_CommandConfig, sizeof(RrcSrsTpcCmdCfg_t), 0, 4, 3, 0, fields_RrcSrsTpcCmdCfg_t, bits_RrcSrsTpcCmdCfg_t, nullptr, checks_RrcSrsTpcCmdCfg_t.data(), 145};
 
 constexpr RrcRecordField fields_RrcPdcchCfg_t[] = {
     {"numControlResourceSetAddMod", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcPdcchCfg_t, numControlResourceSetAddMod), sizeof(RrcPdcchCfg_t::numControlResourceSetAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -2168,24 +1472,8 @@ constexpr RrcRecordBit bits_RrcPdcchCfg_t[] = {
     {"RRC_PDCCH_CFG_PUCCH_TPC_CMDCFG_PRESENCE", "", nullptr, {}, 8, 2, RRC_BIT_GUARDS, -1},
     {"RRC_PDCCH_CFG_SPS_TPC_CMDCFG_PRESENCE", "", nullptr, {}, 8, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPdcchCfg_t[] = {
-    {},
-    {offsetof(PDCCH_Config, controlResourceSetToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(PDCCH_Config, controlResourceSetToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(PDCCH_Config, searchSpacesToAddModList), 2, 0, 0, 1},
-    {},
-    {offsetof(PDCCH_Config, searchSpacesToReleaseList), 3, 0, 0, 1},
-    {},
-    {offsetof(PDCCH_Config, downlinkPreemption), 4, 0, 0, 1},
-    {offsetof(PDCCH_Config, tpc_PUSCH), 5, 0, 0, 1},
-    {offsetof(PDCCH_Config, tpc_PUCCH), 6, 0, 0, 1},
-    {offsetof(PDCCH_Config, tpc_SRS), 7, 0, 0, 1},
-};
-constexpr auto ops_RrcPdcchCfg_t = records::opsOf<records::opCount(sizeof(RrcPdcchCfg_t), fields_RrcPdcchCfg_t, sources_RrcPdcchCfg_t, bits_RrcPdcchCfg_t, 4)>(sizeof(RrcPdcchCfg_t), fields_RrcPdcchCfg_t, sources_RrcPdcchCfg_t, bits_RrcPdcchCfg_t, 4);
 constexpr auto checks_RrcPdcchCfg_t = records::checkOpsOf(fields_RrcPdcchCfg_t, bits_RrcPdcchCfg_t, 4);
-constexpr RrcRecordType type_RrcPdcchCfg_t = {"RrcPdcchCfg_t", "rrcCodec/rrcPdcch.h", "PDCCH-Config", "", &nr_rrc::type_PDCCH_Config, sizeof(RrcPdcchCfg_t), 0, 13, 4, 0, fields_RrcPdcchCfg_t, bits_RrcPdcchCfg_t, nullptr, ops_RrcPdcchCfg_t.data(), static_cast<UINT16>(ops_RrcPdcchCfg_t.size()), checks_RrcPdcchCfg_t.data(), 144};
+constexpr RrcRecordType type_RrcPdcchCfg_t = {"RrcPdcchCfg_t", "rrcCodec/rrcPdcch.h", "PDCCH-Config", "", &nr_rrc::type_PDCCH_Config, sizeof(RrcPdcchCfg_t), 0, 13, 4, 0, fields_RrcPdcchCfg_t, bits_RrcPdcchCfg_t, nullptr, checks_RrcPdcchCfg_t.data(), 144};
 
 constexpr RrcRecordField fields_staticBundingType[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(staticBundingType, bitMask), sizeof(staticBundingType::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2194,13 +1482,8 @@ constexpr RrcRecordField fields_staticBundingType[] = {
 constexpr RrcRecordBit bits_staticBundingType[] = {
     {"RRC_PRB_BUNDLINGTYPE_STATIC_BUNDLE_SIZE_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_staticBundingType[] = {
-    {},
-    {offsetof(PDSCH_Config_prb_BundlingType_staticBundling, bundleSize), 0, 4, 0, 1},
-};
-constexpr auto ops_staticBundingType = records::opsOf<records::opCount(sizeof(staticBundingType), fields_staticBundingType, sources_staticBundingType, bits_staticBundingType, 1)>(sizeof(staticBundingType), fields_staticBundingType, sources_staticBundingType, bits_staticBundingType, 1);
 constexpr auto checks_staticBundingType = records::checkOpsOf(fields_staticBundingType, bits_staticBundingType, 1);
-constexpr RrcRecordType type_staticBundingType = {"staticBundingType", "rrcCodec/rrcPdsch.h", "PDSCH-Config.prb-BundlingType.staticBundling", "", &nr_rrc::type_PDSCH_Config_prb_BundlingType_staticBundling, sizeof(staticBundingType), 0, 2, 1, 0, fields_staticBundingType, bits_staticBundingType, nullptr, ops_staticBundingType.data(), static_cast<UINT16>(ops_staticBundingType.size()), checks_staticBundingType.data(), 143};
+constexpr RrcRecordType type_staticBundingType = {"staticBundingType", "rrcCodec/rrcPdsch.h", "PDSCH-Config.prb-BundlingType.staticBundling", "", &nr_rrc::type_PDSCH_Config_prb_BundlingType_staticBundling, sizeof(staticBundingType), 0, 2, 1, 0, fields_staticBundingType, bits_staticBundingType, nullptr, checks_staticBundingType.data(), 143};
 
 constexpr RrcRecordField fields_dynamicBundingType[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(dynamicBundingType, bitMask), sizeof(dynamicBundingType::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2211,14 +1494,8 @@ constexpr RrcRecordBit bits_dynamicBundingType[] = {
     {"RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET1_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_PRB_BUNDLINGTYPE_DYNMIC_BUNDLE_SET2_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_dynamicBundingType[] = {
-    {},
-    {offsetof(PDSCH_Config_prb_BundlingType_dynamicBundling, bundleSizeSet1), 0, 4, 0, 1},
-    {offsetof(PDSCH_Config_prb_BundlingType_dynamicBundling, bundleSizeSet2), 1, 4, 0, 1},
-};
-constexpr auto ops_dynamicBundingType = records::opsOf<records::opCount(sizeof(dynamicBundingType), fields_dynamicBundingType, sources_dynamicBundingType, bits_dynamicBundingType, 2)>(sizeof(dynamicBundingType), fields_dynamicBundingType, sources_dynamicBundingType, bits_dynamicBundingType, 2);
 constexpr auto checks_dynamicBundingType = records::checkOpsOf(fields_dynamicBundingType, bits_dynamicBundingType, 2);
-constexpr RrcRecordType type_dynamicBundingType = {"dynamicBundingType", "rrcCodec/rrcPdsch.h", "PDSCH-Config.prb-BundlingType.dynamicBundling", "", &nr_rrc::type_PDSCH_Config_prb_BundlingType_dynamicBundling, sizeof(dynamicBundingType), 0, 3, 2, 0, fields_dynamicBundingType, bits_dynamicBundingType, nullptr, ops_dynamicBundingType.data(), static_cast<UINT16>(ops_dynamicBundingType.size()), checks_dynamicBundingType.data(), 142};
+constexpr RrcRecordType type_dynamicBundingType = {"dynamicBundingType", "rrcCodec/rrcPdsch.h", "PDSCH-Config.prb-BundlingType.dynamicBundling", "", &nr_rrc::type_PDSCH_Config_prb_BundlingType_dynamicBundling, sizeof(dynamicBundingType), 0, 3, 2, 0, fields_dynamicBundingType, bits_dynamicBundingType, nullptr, checks_dynamicBundingType.data(), 142};
 
 constexpr RrcRecordField fields_RrcPtrsDlCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcPtrsDlCfg_t, bitMask), sizeof(RrcPtrsDlCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2233,16 +1510,8 @@ constexpr RrcRecordBit bits_RrcPtrsDlCfg_t[] = {
     {"RRC_PTRS_DL_CFG_EPRE_RATIO_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
     {"RRC_PTRS_DL_CFG_RESOURCE_ELE_OFFSET_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPtrsDlCfg_t[] = {
-    {},
-    {offsetof(PTRS_DownlinkConfig, frequencyDensity), 0, 0, 0, 1},
-    {offsetof(PTRS_DownlinkConfig, timeDensity), 1, 0, 0, 1},
-    {offsetof(PTRS_DownlinkConfig, epre_Ratio), 2, 1, 0, 1},
-    {offsetof(PTRS_DownlinkConfig, resourceElementOffset), 3, 4, 0, 1},
-};
-constexpr auto ops_RrcPtrsDlCfg_t = records::opsOf<records::opCount(sizeof(RrcPtrsDlCfg_t), fields_RrcPtrsDlCfg_t, sources_RrcPtrsDlCfg_t, bits_RrcPtrsDlCfg_t, 4)>(sizeof(RrcPtrsDlCfg_t), fields_RrcPtrsDlCfg_t, sources_RrcPtrsDlCfg_t, bits_RrcPtrsDlCfg_t, 4);
 constexpr auto checks_RrcPtrsDlCfg_t = records::checkOpsOf(fields_RrcPtrsDlCfg_t, bits_RrcPtrsDlCfg_t, 4);
-constexpr RrcRecordType type_RrcPtrsDlCfg_t = {"RrcPtrsDlCfg_t", "rrcCodec/rrcPdsch.h", "PTRS-DownlinkConfig", "", &nr_rrc::type_PTRS_DownlinkConfig, sizeof(RrcPtrsDlCfg_t), 0, 5, 4, 0, fields_RrcPtrsDlCfg_t, bits_RrcPtrsDlCfg_t, nullptr, ops_RrcPtrsDlCfg_t.data(), static_cast<UINT16>(ops_RrcPtrsDlCfg_t.size()), checks_RrcPtrsDlCfg_t.data(), 141};
+constexpr RrcRecordType type_RrcPtrsDlCfg_t = {"RrcPtrsDlCfg_t", "rrcCodec/rrcPdsch.h", "PTRS-DownlinkConfig", "", &nr_rrc::type_PTRS_DownlinkConfig, sizeof(RrcPtrsDlCfg_t), 0, 5, 4, 0, fields_RrcPtrsDlCfg_t, bits_RrcPtrsDlCfg_t, nullptr, checks_RrcPtrsDlCfg_t.data(), 141};
 
 constexpr RrcRecordField fields_RrcDmrsDlCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 63, offsetof(RrcDmrsDlCfg_t, bitMask), sizeof(RrcDmrsDlCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2261,30 +1530,15 @@ constexpr RrcRecordBit bits_RrcDmrsDlCfg_t[] = {
     {"RRC_DMRS_DL_CFG_SCRAM_ID1_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
     {"RRC_DMRS_DL_CFG_TRACKRS_PRESENCE", "", nullptr, {}, 0, 5, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcDmrsDlCfg_t[] = {
-    {},
-    {offsetof(DMRS_DownlinkConfig, dmrs_Type), 0, 4, 0, 1},
-    {offsetof(DMRS_DownlinkConfig, dmrs_AdditionalPosition), 1, 4, 0, 1},
-    {offsetof(DMRS_DownlinkConfig, maxLength), 2, 4, 0, 1},
-    {offsetof(DMRS_DownlinkConfig, scramblingID0), 3, 2, 0, 1},
-    {offsetof(DMRS_DownlinkConfig, scramblingID1), 4, 2, 0, 1},
-    {offsetof(DMRS_DownlinkConfig, phaseTrackingRS), 5, 0, 0, 1},
-};
-constexpr auto ops_RrcDmrsDlCfg_t = records::opsOf<records::opCount(sizeof(RrcDmrsDlCfg_t), fields_RrcDmrsDlCfg_t, sources_RrcDmrsDlCfg_t, bits_RrcDmrsDlCfg_t, 6)>(sizeof(RrcDmrsDlCfg_t), fields_RrcDmrsDlCfg_t, sources_RrcDmrsDlCfg_t, bits_RrcDmrsDlCfg_t, 6);
 constexpr auto checks_RrcDmrsDlCfg_t = records::checkOpsOf(fields_RrcDmrsDlCfg_t, bits_RrcDmrsDlCfg_t, 6);
-constexpr RrcRecordType type_RrcDmrsDlCfg_t = {"RrcDmrsDlCfg_t", "rrcCodec/rrcPdsch.h", "DMRS-DownlinkConfig", "", &nr_rrc::type_DMRS_DownlinkConfig, sizeof(RrcDmrsDlCfg_t), 0, 7, 6, 0, fields_RrcDmrsDlCfg_t, bits_RrcDmrsDlCfg_t, nullptr, ops_RrcDmrsDlCfg_t.data(), static_cast<UINT16>(ops_RrcDmrsDlCfg_t.size()), checks_RrcDmrsDlCfg_t.data(), 140};
+constexpr RrcRecordType type_RrcDmrsDlCfg_t = {"RrcDmrsDlCfg_t", "rrcCodec/rrcPdsch.h", "DMRS-DownlinkConfig", "", &nr_rrc::type_DMRS_DownlinkConfig, sizeof(RrcDmrsDlCfg_t), 0, 7, 6, 0, fields_RrcDmrsDlCfg_t, bits_RrcDmrsDlCfg_t, nullptr, checks_RrcDmrsDlCfg_t.data(), 140};
 
 constexpr RrcRecordField fields_RrcQclInfo_t_refSignal[] = {
     {"ssbIdx", {"ssb", way_1, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(decltype(RrcQclInfo_t::refSignal), ssbIdx), sizeof(decltype(RrcQclInfo_t::refSignal)::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-rs", way_0, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(decltype(RrcQclInfo_t::refSignal), csiRsIdx), sizeof(decltype(RrcQclInfo_t::refSignal)::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcQclInfo_t_refSignal[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcQclInfo_t_refSignal = records::opsOf<records::opCount(sizeof(decltype(RrcQclInfo_t::refSignal)), fields_RrcQclInfo_t_refSignal, sources_RrcQclInfo_t_refSignal, nullptr, 0)>(sizeof(decltype(RrcQclInfo_t::refSignal)), fields_RrcQclInfo_t_refSignal, sources_RrcQclInfo_t_refSignal, nullptr, 0);
 constexpr auto checks_RrcQclInfo_t_refSignal = records::checkOpsOf(fields_RrcQclInfo_t_refSignal, nullptr, 0);
-constexpr RrcRecordType type_RrcQclInfo_t_refSignal = {"RrcQclInfo_t.refSignal", "rrcCodec/rrcPdsch.h", "referenceSignal", "", &nr_rrc::type_QCL_Info_referenceSignal, sizeof(decltype(RrcQclInfo_t::refSignal)), 1, 2, 0, 0, fields_RrcQclInfo_t_refSignal, nullptr, nullptr, ops_RrcQclInfo_t_refSignal.data(), static_cast<UINT16>(ops_RrcQclInfo_t_refSignal.size()), checks_RrcQclInfo_t_refSignal.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcQclInfo_t_refSignal = {"RrcQclInfo_t.refSignal", "rrcCodec/rrcPdsch.h", "referenceSignal", "", &nr_rrc::type_QCL_Info_referenceSignal, sizeof(decltype(RrcQclInfo_t::refSignal)), 1, 2, 0, 0, fields_RrcQclInfo_t_refSignal, nullptr, nullptr, checks_RrcQclInfo_t_refSignal.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcQclInfo_t[] = {
     {"qclType", {"qcl-Type", way_3, 1, &nr_rrc::type_QCL_Info_qcl_Type}, nullptr, nullptr, "", 0, 3, offsetof(RrcQclInfo_t, qclType), sizeof(RrcQclInfo_t::qclType), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -2306,17 +1560,8 @@ constexpr RrcRecordOption options_RrcQclInfo_t_0[] = {
 constexpr RrcRecordChoice choices_RrcQclInfo_t[] = {
     {{"referenceSignal", way_2, 1, &nr_rrc::type_QCL_Info_referenceSignal}, 1, 0, 2, options_RrcQclInfo_t_0},
 };
-constexpr RrcRecordSource sources_RrcQclInfo_t[] = {
-    {offsetof(QCL_Info, qcl_Type), -1, 4, 0, 1},
-    {},
-    {offsetof(QCL_Info, referenceSignal), -1, 0, 0, 1},
-    {},
-    {offsetof(QCL_Info, cell), 0, 1, 0, 1},
-    {offsetof(QCL_Info, bwp_Id), 1, 1, 0, 1},
-};
-constexpr auto ops_RrcQclInfo_t = records::opsOf<records::opCount(sizeof(RrcQclInfo_t), fields_RrcQclInfo_t, sources_RrcQclInfo_t, bits_RrcQclInfo_t, 3)>(sizeof(RrcQclInfo_t), fields_RrcQclInfo_t, sources_RrcQclInfo_t, bits_RrcQclInfo_t, 3);
 constexpr auto checks_RrcQclInfo_t = records::checkOpsOf(fields_RrcQclInfo_t, bits_RrcQclInfo_t, 3);
-constexpr RrcRecordType type_RrcQclInfo_t = {"RrcQclInfo_t", "rrcCodec/rrcPdsch.h", "QCL-Info", "", &nr_rrc::type_QCL_Info, sizeof(RrcQclInfo_t), 0, 6, 3, 1, fields_RrcQclInfo_t, bits_RrcQclInfo_t, choices_RrcQclInfo_t, ops_RrcQclInfo_t.data(), static_cast<UINT16>(ops_RrcQclInfo_t.size()), checks_RrcQclInfo_t.data(), 139};
+constexpr RrcRecordType type_RrcQclInfo_t = {"RrcQclInfo_t", "rrcCodec/rrcPdsch.h", "QCL-Info", "", &nr_rrc::type_QCL_Info, sizeof(RrcQclInfo_t), 0, 6, 3, 1, fields_RrcQclInfo_t, bits_RrcQclInfo_t, choices_RrcQclInfo_t, checks_RrcQclInfo_t.data(), 139};
 
 constexpr RrcRecordField fields_RrcTciState_t[] = {
     {"tciStateId", {"tci-StateId", way_0, 1, &nr_rrc::type_TCI_StateId}, nullptr, nullptr, "", 0, 127, offsetof(RrcTciState_t, tciStateId), sizeof(RrcTciState_t::tciStateId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2327,15 +1572,8 @@ constexpr RrcRecordField fields_RrcTciState_t[] = {
 constexpr RrcRecordBit bits_RrcTciState_t[] = {
     {"RRC_TCI_STATE_QCL_TYPE2_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcTciState_t[] = {
-    {offsetof(TCI_State, tci_StateId), -1, 1, 0, 1},
-    {offsetof(TCI_State, qcl_Type1), -1, 0, 0, 1},
-    {},
-    {offsetof(TCI_State, qcl_Type2), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcTciState_t = records::opsOf<records::opCount(sizeof(RrcTciState_t), fields_RrcTciState_t, sources_RrcTciState_t, bits_RrcTciState_t, 1)>(sizeof(RrcTciState_t), fields_RrcTciState_t, sources_RrcTciState_t, bits_RrcTciState_t, 1);
 constexpr auto checks_RrcTciState_t = records::checkOpsOf(fields_RrcTciState_t, bits_RrcTciState_t, 1);
-constexpr RrcRecordType type_RrcTciState_t = {"RrcTciState_t", "rrcCodec/rrcPdsch.h", "TCI-State", "", &nr_rrc::type_TCI_State, sizeof(RrcTciState_t), 0, 4, 1, 0, fields_RrcTciState_t, bits_RrcTciState_t, nullptr, ops_RrcTciState_t.data(), static_cast<UINT16>(ops_RrcTciState_t.size()), checks_RrcTciState_t.data(), 138};
+constexpr RrcRecordType type_RrcTciState_t = {"RrcTciState_t", "rrcCodec/rrcPdsch.h", "TCI-State", "", &nr_rrc::type_TCI_State, sizeof(RrcTciState_t), 0, 4, 1, 0, fields_RrcTciState_t, bits_RrcTciState_t, nullptr, checks_RrcTciState_t.data(), 138};
 
 constexpr RrcRecordField fields_RrcPdschTimeDomainResourceAlloc_t[] = {
     {"mappingType", {"mappingType", way_1, 1, &nr_rrc::type_PDSCH_TimeDomainResourceAllocation_mappingType}, nullptr, nullptr, "", 0, 1, offsetof(RrcPdschTimeDomainResourceAlloc_t, mappingType), sizeof(RrcPdschTimeDomainResourceAlloc_t::mappingType), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -2346,39 +1584,22 @@ constexpr RrcRecordField fields_RrcPdschTimeDomainResourceAlloc_t[] = {
 constexpr RrcRecordBit bits_RrcPdschTimeDomainResourceAlloc_t[] = {
     {"RRC_PDSCH_TIMING_KO_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPdschTimeDomainResourceAlloc_t[] = {
-    {offsetof(PDSCH_TimeDomainResourceAllocation, mappingType), -1, 4, 0, 1},
-    {offsetof(PDSCH_TimeDomainResourceAllocation, startSymbolAndLength), -1, 1, 0, 1},
-    {},
-    {offsetof(PDSCH_TimeDomainResourceAllocation, k0), 0, 1, 0, 1},
-};
-constexpr auto ops_RrcPdschTimeDomainResourceAlloc_t = records::opsOf<records::opCount(sizeof(RrcPdschTimeDomainResourceAlloc_t), fields_RrcPdschTimeDomainResourceAlloc_t, sources_RrcPdschTimeDomainResourceAlloc_t, bits_RrcPdschTimeDomainResourceAlloc_t, 1)>(sizeof(RrcPdschTimeDomainResourceAlloc_t), fields_RrcPdschTimeDomainResourceAlloc_t, sources_RrcPdschTimeDomainResourceAlloc_t, bits_RrcPdschTimeDomainResourceAlloc_t, 1);
 constexpr auto checks_RrcPdschTimeDomainResourceAlloc_t = records::checkOpsOf(fields_RrcPdschTimeDomainResourceAlloc_t, bits_RrcPdschTimeDomainResourceAlloc_t, 1);
-constexpr RrcRecordType type_RrcPdschTimeDomainResourceAlloc_t = {"RrcPdschTimeDomainResourceAlloc_t", "rrcCodec/rrcPdsch.h", "PDSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PDSCH_TimeDomainResourceAllocation, sizeof(RrcPdschTimeDomainResourceAlloc_t), 0, 4, 1, 0, fields_RrcPdschTimeDomainResourceAlloc_t, bits_RrcPdschTimeDomainResourceAlloc_t, nullptr, ops_RrcPdschTimeDomainResourceAlloc_t.data(), static_cast<UINT16>(ops_RrcPdschTimeDomainResourceAlloc_t.size()), checks_RrcPdschTimeDomainResourceAlloc_t.data(), 137};
+constexpr RrcRecordType type_RrcPdschTimeDomainResourceAlloc_t = {"RrcPdschTimeDomainResourceAlloc_t", "rrcCodec/rrcPdsch.h", "PDSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PDSCH_TimeDomainResourceAllocation, sizeof(RrcPdschTimeDomainResourceAlloc_t), 0, 4, 1, 0, fields_RrcPdschTimeDomainResourceAlloc_t, bits_RrcPdschTimeDomainResourceAlloc_t, nullptr, checks_RrcPdschTimeDomainResourceAlloc_t.data(), 137};
 
 constexpr RrcRecordField fields_RrcPdschTimeDomainResourceAllocList_t[] = {
     {"num", {}, nullptr, nullptr, "", 1, 16, offsetof(RrcPdschTimeDomainResourceAllocList_t, num), sizeof(RrcPdschTimeDomainResourceAllocList_t::num), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"alloc", {"", way_47, 1, &nr_rrc::type_PDSCH_TimeDomainResourceAllocation}, &type_RrcPdschTimeDomainResourceAlloc_t, nullptr, "the allocations", 0, 0, offsetof(RrcPdschTimeDomainResourceAllocList_t, alloc), sizeof(RrcPdschTimeDomainResourceAllocList_t::alloc[0]), sizeof(RrcPdschTimeDomainResourceAllocList_t::alloc) / sizeof(RrcPdschTimeDomainResourceAllocList_t::alloc[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPdschTimeDomainResourceAllocList_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcPdschTimeDomainResourceAllocList_t = records::opsOf<records::opCount(sizeof(RrcPdschTimeDomainResourceAllocList_t), fields_RrcPdschTimeDomainResourceAllocList_t, sources_RrcPdschTimeDomainResourceAllocList_t, nullptr, 0)>(sizeof(RrcPdschTimeDomainResourceAllocList_t), fields_RrcPdschTimeDomainResourceAllocList_t, sources_RrcPdschTimeDomainResourceAllocList_t, nullptr, 0);
 constexpr auto checks_RrcPdschTimeDomainResourceAllocList_t = records::checkOpsOf(fields_RrcPdschTimeDomainResourceAllocList_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPdschTimeDomainResourceAllocList_t = {"RrcPdschTimeDomainResourceAllocList_t", "rrcCodec/rrcPdsch.h", "PDSCH-TimeDomainResourceAllocationList", "", &nr_rrc::type_PDSCH_TimeDomainResourceAllocationList, sizeof(RrcPdschTimeDomainResourceAllocList_t), 0, 2, 0, 0, fields_RrcPdschTimeDomainResourceAllocList_t, nullptr, nullptr, ops_RrcPdschTimeDomainResourceAllocList_t.data(), static_cast<UINT16>(ops_RrcPdschTimeDomainResourceAllocList_t.size()), checks_RrcPdschTimeDomainResourceAllocList_t.data(), 136};
+constexpr RrcRecordType type_RrcPdschTimeDomainResourceAllocList_t = {"RrcPdschTimeDomainResourceAllocList_t", "rrcCodec/rrcPdsch.h", "PDSCH-TimeDomainResourceAllocationList", "", &nr_rrc::type_PDSCH_TimeDomainResourceAllocationList, sizeof(RrcPdschTimeDomainResourceAllocList_t), 0, 2, 0, 0, fields_RrcPdschTimeDomainResourceAllocList_t, nullptr, nullptr, checks_RrcPdschTimeDomainResourceAllocList_t.data(), 136};
 
 constexpr RrcRecordField fields_rateMatchPatternGroup_u[] = {
     {"cellLevel", {"cellLevel", way_0, 1, &nr_rrc::type_RateMatchPatternId}, nullptr, nullptr, "", 0, 3, offsetof(rateMatchPatternGroup_u, cellLevel), sizeof(rateMatchPatternGroup_u::cellLevel), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"bwpLevel", {"bwpLevel", way_1, 1, &nr_rrc::type_RateMatchPatternId}, nullptr, nullptr, "", 0, 3, offsetof(rateMatchPatternGroup_u, bwpLevel), sizeof(rateMatchPatternGroup_u::bwpLevel), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_rateMatchPatternGroup_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_rateMatchPatternGroup_u = records::opsOf<records::opCount(sizeof(rateMatchPatternGroup_u), fields_rateMatchPatternGroup_u, sources_rateMatchPatternGroup_u, nullptr, 0)>(sizeof(rateMatchPatternGroup_u), fields_rateMatchPatternGroup_u, sources_rateMatchPatternGroup_u, nullptr, 0);
 constexpr auto checks_rateMatchPatternGroup_u = records::checkOpsOf(fields_rateMatchPatternGroup_u, nullptr, 0);
-constexpr RrcRecordType type_rateMatchPatternGroup_u = {"rateMatchPatternGroup_u", "rrcCodec/rrcPdsch.h", "RateMatchPatternGroup[]", "one pattern of a group", &nr_rrc::type_RateMatchPatternGroup_element, sizeof(rateMatchPatternGroup_u), 1, 2, 0, 0, fields_rateMatchPatternGroup_u, nullptr, nullptr, ops_rateMatchPatternGroup_u.data(), static_cast<UINT16>(ops_rateMatchPatternGroup_u.size()), checks_rateMatchPatternGroup_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_rateMatchPatternGroup_u = {"rateMatchPatternGroup_u", "rrcCodec/rrcPdsch.h", "RateMatchPatternGroup[]", "one pattern of a group", &nr_rrc::type_RateMatchPatternGroup_element, sizeof(rateMatchPatternGroup_u), 1, 2, 0, 0, fields_rateMatchPatternGroup_u, nullptr, nullptr, checks_rateMatchPatternGroup_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcRateMatchPatternGroup_t[] = {
     {"numRateMatchPattern", {}, nullptr, nullptr, "", 1, 8, offsetof(RrcRateMatchPatternGroup_t, numRateMatchPattern), sizeof(RrcRateMatchPatternGroup_t::numRateMatchPattern), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -2396,14 +1617,8 @@ constexpr RrcRecordOption options_RrcRateMatchPatternGroup_t_0[] = {
 constexpr RrcRecordChoice choices_RrcRateMatchPatternGroup_t[] = {
     {{"[]", way_47, 1, &nr_rrc::type_RateMatchPatternGroup_element}, 1, 0, 2, options_RrcRateMatchPatternGroup_t_0},
 };
-constexpr RrcRecordSource sources_RrcRateMatchPatternGroup_t[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcRateMatchPatternGroup_t = records::opsOf<records::opCount(sizeof(RrcRateMatchPatternGroup_t), fields_RrcRateMatchPatternGroup_t, sources_RrcRateMatchPatternGroup_t, bits_RrcRateMatchPatternGroup_t, 2)>(sizeof(RrcRateMatchPatternGroup_t), fields_RrcRateMatchPatternGroup_t, sources_RrcRateMatchPatternGroup_t, bits_RrcRateMatchPatternGroup_t, 2);
 constexpr auto checks_RrcRateMatchPatternGroup_t = records::checkOpsOf(fields_RrcRateMatchPatternGroup_t, bits_RrcRateMatchPatternGroup_t, 2);
-constexpr RrcRecordType type_RrcRateMatchPatternGroup_t = {"RrcRateMatchPatternGroup_t", "rrcCodec/rrcPdsch.h", "RateMatchPatternGroup", "", &nr_rrc::type_RateMatchPatternGroup, sizeof(RrcRateMatchPatternGroup_t), 0, 3, 2, 1, fields_RrcRateMatchPatternGroup_t, bits_RrcRateMatchPatternGroup_t, choices_RrcRateMatchPatternGroup_t, ops_RrcRateMatchPatternGroup_t.data(), static_cast<UINT16>(ops_RrcRateMatchPatternGroup_t.size()), checks_RrcRateMatchPatternGroup_t.data(), 135};
+constexpr RrcRecordType type_RrcRateMatchPatternGroup_t = {"RrcRateMatchPatternGroup_t", "rrcCodec/rrcPdsch.h", "RateMatchPatternGroup", "", &nr_rrc::type_RateMatchPatternGroup, sizeof(RrcRateMatchPatternGroup_t), 0, 3, 2, 1, fields_RrcRateMatchPatternGroup_t, bits_RrcRateMatchPatternGroup_t, choices_RrcRateMatchPatternGroup_t, checks_RrcRateMatchPatternGroup_t.data(), 135};
 
 constexpr RrcRecordField fields_RrcCsiRsResourceMapping_t_freqDomainAlloc[] = {
     {"row1", {"row1", way_0, 1, &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation_row1}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc), row1), sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)::row1), 0, 4, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
@@ -2411,37 +1626,21 @@ constexpr RrcRecordField fields_RrcCsiRsResourceMapping_t_freqDomainAlloc[] = {
     {"row4", {"row4", way_2, 1, &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation_row4}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc), row4), sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)::row4), 0, 3, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
     {"other", {"other", way_3, 1, &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation_other}, nullptr, nullptr, "", 0, 0, offsetof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc), other), sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)::other), 0, 6, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiRsResourceMapping_t_freqDomainAlloc[] = {
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcCsiRsResourceMapping_t_freqDomainAlloc = records::opsOf<records::opCount(sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)), fields_RrcCsiRsResourceMapping_t_freqDomainAlloc, sources_RrcCsiRsResourceMapping_t_freqDomainAlloc, nullptr, 0)>(sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)), fields_RrcCsiRsResourceMapping_t_freqDomainAlloc, sources_RrcCsiRsResourceMapping_t_freqDomainAlloc, nullptr, 0);
 constexpr auto checks_RrcCsiRsResourceMapping_t_freqDomainAlloc = records::checkOpsOf(fields_RrcCsiRsResourceMapping_t_freqDomainAlloc, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiRsResourceMapping_t_freqDomainAlloc = {"RrcCsiRsResourceMapping_t.freqDomainAlloc", "rrcCodec/rrcCsiRs.h", "frequencyDomainAllocation", "", &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation, sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)), 1, 4, 0, 0, fields_RrcCsiRsResourceMapping_t_freqDomainAlloc, nullptr, nullptr, ops_RrcCsiRsResourceMapping_t_freqDomainAlloc.data(), static_cast<UINT16>(ops_RrcCsiRsResourceMapping_t_freqDomainAlloc.size()), checks_RrcCsiRsResourceMapping_t_freqDomainAlloc.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcCsiRsResourceMapping_t_freqDomainAlloc = {"RrcCsiRsResourceMapping_t.freqDomainAlloc", "rrcCodec/rrcCsiRs.h", "frequencyDomainAllocation", "", &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation, sizeof(decltype(RrcCsiRsResourceMapping_t::freqDomainAlloc)), 1, 4, 0, 0, fields_RrcCsiRsResourceMapping_t_freqDomainAlloc, nullptr, nullptr, checks_RrcCsiRsResourceMapping_t_freqDomainAlloc.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCsiRsResourceMapping_t_density[] = {
     {"dots", {"dot5", way_0, 1, &nr_rrc::type_CSI_RS_ResourceMapping_density_dot5}, nullptr, nullptr, "the other alternatives have no value", 0, 1, offsetof(decltype(RrcCsiRsResourceMapping_t::density), dots), sizeof(decltype(RrcCsiRsResourceMapping_t::density)::dots), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiRsResourceMapping_t_density[] = {
-    {},
-};
-constexpr auto ops_RrcCsiRsResourceMapping_t_density = records::opsOf<records::opCount(sizeof(decltype(RrcCsiRsResourceMapping_t::density)), fields_RrcCsiRsResourceMapping_t_density, sources_RrcCsiRsResourceMapping_t_density, nullptr, 0)>(sizeof(decltype(RrcCsiRsResourceMapping_t::density)), fields_RrcCsiRsResourceMapping_t_density, sources_RrcCsiRsResourceMapping_t_density, nullptr, 0);
 constexpr auto checks_RrcCsiRsResourceMapping_t_density = records::checkOpsOf(fields_RrcCsiRsResourceMapping_t_density, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiRsResourceMapping_t_density = {"RrcCsiRsResourceMapping_t.density", "rrcCodec/rrcCsiRs.h", "density", "", &nr_rrc::type_CSI_RS_ResourceMapping_density, sizeof(decltype(RrcCsiRsResourceMapping_t::density)), 1, 1, 0, 0, fields_RrcCsiRsResourceMapping_t_density, nullptr, nullptr, ops_RrcCsiRsResourceMapping_t_density.data(), static_cast<UINT16>(ops_RrcCsiRsResourceMapping_t_density.size()), checks_RrcCsiRsResourceMapping_t_density.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcCsiRsResourceMapping_t_density = {"RrcCsiRsResourceMapping_t.density", "rrcCodec/rrcCsiRs.h", "density", "", &nr_rrc::type_CSI_RS_ResourceMapping_density, sizeof(decltype(RrcCsiRsResourceMapping_t::density)), 1, 1, 0, 0, fields_RrcCsiRsResourceMapping_t_density, nullptr, nullptr, checks_RrcCsiRsResourceMapping_t_density.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCsiFreqOccupation_t[] = {
     {"startingRb", {"startingRB", way_0, 1, &nr_rrc::type_CSI_FrequencyOccupation_startingRB}, nullptr, "PRBs", "", 0, 274, offsetof(RrcCsiFreqOccupation_t, startingRb), sizeof(RrcCsiFreqOccupation_t::startingRb), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"nrofRBs", {"nrofRBs", way_1, 1, &nr_rrc::type_CSI_FrequencyOccupation_nrofRBs}, nullptr, "PRBs", "", 24, 276, offsetof(RrcCsiFreqOccupation_t, nrofRBs), sizeof(RrcCsiFreqOccupation_t::nrofRBs), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiFreqOccupation_t[] = {
-    {offsetof(CSI_FrequencyOccupation, startingRB), -1, 2, 0, 1},
-    {offsetof(CSI_FrequencyOccupation, nrofRBs), -1, 2, 0, 1},
-};
-constexpr auto ops_RrcCsiFreqOccupation_t = records::opsOf<records::opCount(sizeof(RrcCsiFreqOccupation_t), fields_RrcCsiFreqOccupation_t, sources_RrcCsiFreqOccupation_t, nullptr, 0)>(sizeof(RrcCsiFreqOccupation_t), fields_RrcCsiFreqOccupation_t, sources_RrcCsiFreqOccupation_t, nullptr, 0);
 constexpr auto checks_RrcCsiFreqOccupation_t = records::checkOpsOf(fields_RrcCsiFreqOccupation_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiFreqOccupation_t = {"RrcCsiFreqOccupation_t", "rrcCodec/rrcCsiRs.h", "CSI-FrequencyOccupation", "", &nr_rrc::type_CSI_FrequencyOccupation, sizeof(RrcCsiFreqOccupation_t), 0, 2, 0, 0, fields_RrcCsiFreqOccupation_t, nullptr, nullptr, ops_RrcCsiFreqOccupation_t.data(), static_cast<UINT16>(ops_RrcCsiFreqOccupation_t.size()), checks_RrcCsiFreqOccupation_t.data(), 134};
+constexpr RrcRecordType type_RrcCsiFreqOccupation_t = {"RrcCsiFreqOccupation_t", "rrcCodec/rrcCsiRs.h", "CSI-FrequencyOccupation", "", &nr_rrc::type_CSI_FrequencyOccupation, sizeof(RrcCsiFreqOccupation_t), 0, 2, 0, 0, fields_RrcCsiFreqOccupation_t, nullptr, nullptr, checks_RrcCsiFreqOccupation_t.data(), 134};
 
 constexpr RrcRecordField fields_RrcCsiRsResourceMapping_t[] = {
     {"presenceFreqDomain", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcCsiRsResourceMapping_t, presenceFreqDomain), sizeof(RrcCsiRsResourceMapping_t::presenceFreqDomain), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2482,21 +1681,8 @@ constexpr RrcRecordChoice choices_RrcCsiRsResourceMapping_t[] = {
     {{"frequencyDomainAllocation", way_0, 1, &nr_rrc::type_CSI_RS_ResourceMapping_frequencyDomainAllocation}, 0, 0, 4, options_RrcCsiRsResourceMapping_t_0},
     {{"density", way_9, 1, &nr_rrc::type_CSI_RS_ResourceMapping_density}, 5, 0, 4, options_RrcCsiRsResourceMapping_t_1},
 };
-constexpr RrcRecordSource sources_RrcCsiRsResourceMapping_t[] = {
-    {},
-    {offsetof(CSI_RS_ResourceMapping, frequencyDomainAllocation), -1, 0, 0, 1},
-    {offsetof(CSI_RS_ResourceMapping, nrofPorts), -1, 4, 0, 1},
-    {offsetof(CSI_RS_ResourceMapping, firstOFDMSymbolInTimeDomain), -1, 1, 0, 1},
-    {offsetof(CSI_RS_ResourceMapping, cdm_Type), -1, 4, 0, 1},
-    {},
-    {offsetof(CSI_RS_ResourceMapping, density), -1, 0, 0, 1},
-    {offsetof(CSI_RS_ResourceMapping, freqBand), -1, 0, 0, 1},
-    {},
-    {offsetof(CSI_RS_ResourceMapping, firstOFDMSymbolInTimeDomain2), 0, 1, 0, 1},
-};
-constexpr auto ops_RrcCsiRsResourceMapping_t = records::opsOf<records::opCount(sizeof(RrcCsiRsResourceMapping_t), fields_RrcCsiRsResourceMapping_t, sources_RrcCsiRsResourceMapping_t, bits_RrcCsiRsResourceMapping_t, 9)>(sizeof(RrcCsiRsResourceMapping_t), fields_RrcCsiRsResourceMapping_t, sources_RrcCsiRsResourceMapping_t, bits_RrcCsiRsResourceMapping_t, 9);
 constexpr auto checks_RrcCsiRsResourceMapping_t = records::checkOpsOf(fields_RrcCsiRsResourceMapping_t, bits_RrcCsiRsResourceMapping_t, 9);
-constexpr RrcRecordType type_RrcCsiRsResourceMapping_t = {"RrcCsiRsResourceMapping_t", "rrcCodec/rrcCsiRs.h", "CSI-RS-ResourceMapping", "", &nr_rrc::type_CSI_RS_ResourceMapping, sizeof(RrcCsiRsResourceMapping_t), 0, 10, 9, 2, fields_RrcCsiRsResourceMapping_t, bits_RrcCsiRsResourceMapping_t, choices_RrcCsiRsResourceMapping_t, ops_RrcCsiRsResourceMapping_t.data(), static_cast<UINT16>(ops_RrcCsiRsResourceMapping_t.size()), checks_RrcCsiRsResourceMapping_t.data(), 133};
+constexpr RrcRecordType type_RrcCsiRsResourceMapping_t = {"RrcCsiRsResourceMapping_t", "rrcCodec/rrcCsiRs.h", "CSI-RS-ResourceMapping", "", &nr_rrc::type_CSI_RS_ResourceMapping, sizeof(RrcCsiRsResourceMapping_t), 0, 10, 9, 2, fields_RrcCsiRsResourceMapping_t, bits_RrcCsiRsResourceMapping_t, choices_RrcCsiRsResourceMapping_t, checks_RrcCsiRsResourceMapping_t.data(), 133};
 
 constexpr RrcRecordField fields_RrcCsiResourcePeriodictyAndOffset_t[] = {
     {"slotsPeriod", {"", nullptr, 0, &nr_rrc::type_CSI_ResourcePeriodicityAndOffset}, nullptr, nullptr, "", 1, 13, offsetof(RrcCsiResourcePeriodictyAndOffset_t, slotsPeriod), sizeof(RrcCsiResourcePeriodictyAndOffset_t::slotsPeriod), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -2520,13 +1706,8 @@ constexpr RrcRecordOption options_RrcCsiResourcePeriodictyAndOffset_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCsiResourcePeriodictyAndOffset_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CSI_ResourcePeriodicityAndOffset}, 0, 1, 13, options_RrcCsiResourcePeriodictyAndOffset_t_0},
 };
-constexpr RrcRecordSource sources_RrcCsiResourcePeriodictyAndOffset_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcCsiResourcePeriodictyAndOffset_t = records::opsOf<records::opCount(sizeof(RrcCsiResourcePeriodictyAndOffset_t), fields_RrcCsiResourcePeriodictyAndOffset_t, sources_RrcCsiResourcePeriodictyAndOffset_t, nullptr, 0)>(sizeof(RrcCsiResourcePeriodictyAndOffset_t), fields_RrcCsiResourcePeriodictyAndOffset_t, sources_RrcCsiResourcePeriodictyAndOffset_t, nullptr, 0);
 constexpr auto checks_RrcCsiResourcePeriodictyAndOffset_t = records::checkOpsOf(fields_RrcCsiResourcePeriodictyAndOffset_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiResourcePeriodictyAndOffset_t = {"RrcCsiResourcePeriodictyAndOffset_t", "rrcCodec/rrcCsiRs.h", "CSI-ResourcePeriodicityAndOffset", "", &nr_rrc::type_CSI_ResourcePeriodicityAndOffset, sizeof(RrcCsiResourcePeriodictyAndOffset_t), 0, 2, 0, 1, fields_RrcCsiResourcePeriodictyAndOffset_t, nullptr, choices_RrcCsiResourcePeriodictyAndOffset_t, ops_RrcCsiResourcePeriodictyAndOffset_t.data(), static_cast<UINT16>(ops_RrcCsiResourcePeriodictyAndOffset_t.size()), checks_RrcCsiResourcePeriodictyAndOffset_t.data(), 132};
+constexpr RrcRecordType type_RrcCsiResourcePeriodictyAndOffset_t = {"RrcCsiResourcePeriodictyAndOffset_t", "rrcCodec/rrcCsiRs.h", "CSI-ResourcePeriodicityAndOffset", "", &nr_rrc::type_CSI_ResourcePeriodicityAndOffset, sizeof(RrcCsiResourcePeriodictyAndOffset_t), 0, 2, 0, 1, fields_RrcCsiResourcePeriodictyAndOffset_t, nullptr, choices_RrcCsiResourcePeriodictyAndOffset_t, checks_RrcCsiResourcePeriodictyAndOffset_t.data(), 132};
 
 constexpr RrcRecordField fields_RrcZpCsiRsResource_t[] = {
     {"zpCsiRsResourId", {"zp-CSI-RS-ResourceId", way_0, 1, &nr_rrc::type_ZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 31, offsetof(RrcZpCsiRsResource_t, zpCsiRsResourId), sizeof(RrcZpCsiRsResource_t::zpCsiRsResourId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2537,29 +1718,16 @@ constexpr RrcRecordField fields_RrcZpCsiRsResource_t[] = {
 constexpr RrcRecordBit bits_RrcZpCsiRsResource_t[] = {
     {"RRC_ZP_CSI_RS_RESOURCE_PERIODICITY_OFFSET_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcZpCsiRsResource_t[] = {
-    {offsetof(ZP_CSI_RS_Resource, zp_CSI_RS_ResourceId), -1, 1, 0, 1},
-    {offsetof(ZP_CSI_RS_Resource, resourceMapping), -1, 0, 0, 1},
-    {},
-    {offsetof(ZP_CSI_RS_Resource, periodicityAndOffset), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcZpCsiRsResource_t = records::opsOf<records::opCount(sizeof(RrcZpCsiRsResource_t), fields_RrcZpCsiRsResource_t, sources_RrcZpCsiRsResource_t, bits_RrcZpCsiRsResource_t, 1)>(sizeof(RrcZpCsiRsResource_t), fields_RrcZpCsiRsResource_t, sources_RrcZpCsiRsResource_t, bits_RrcZpCsiRsResource_t, 1);
 constexpr auto checks_RrcZpCsiRsResource_t = records::checkOpsOf(fields_RrcZpCsiRsResource_t, bits_RrcZpCsiRsResource_t, 1);
-constexpr RrcRecordType type_RrcZpCsiRsResource_t = {"RrcZpCsiRsResource_t", "rrcCodec/rrcPdsch.h", "ZP-CSI-RS-Resource", "", &nr_rrc::type_ZP_CSI_RS_Resource, sizeof(RrcZpCsiRsResource_t), 0, 4, 1, 0, fields_RrcZpCsiRsResource_t, bits_RrcZpCsiRsResource_t, nullptr, ops_RrcZpCsiRsResource_t.data(), static_cast<UINT16>(ops_RrcZpCsiRsResource_t.size()), checks_RrcZpCsiRsResource_t.data(), 131};
+constexpr RrcRecordType type_RrcZpCsiRsResource_t = {"RrcZpCsiRsResource_t", "rrcCodec/rrcPdsch.h", "ZP-CSI-RS-Resource", "", &nr_rrc::type_ZP_CSI_RS_Resource, sizeof(RrcZpCsiRsResource_t), 0, 4, 1, 0, fields_RrcZpCsiRsResource_t, bits_RrcZpCsiRsResource_t, nullptr, checks_RrcZpCsiRsResource_t.data(), 131};
 
 constexpr RrcRecordField fields_RrcZpCsiRsResourceSet_t[] = {
     {"zpCsiRsResourceSetId", {"zp-CSI-RS-ResourceSetId", way_0, 1, &nr_rrc::type_ZP_CSI_RS_ResourceSetId}, nullptr, nullptr, "", 0, 15, offsetof(RrcZpCsiRsResourceSet_t, zpCsiRsResourceSetId), sizeof(RrcZpCsiRsResourceSet_t::zpCsiRsResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"numzpCsiRsResourId", {}, nullptr, nullptr, "", 1, 16, offsetof(RrcZpCsiRsResourceSet_t, numzpCsiRsResourId), sizeof(RrcZpCsiRsResourceSet_t::numzpCsiRsResourId), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"zpCsiRsResourId", {"zp-CSI-RS-ResourceIdList", way_17, 2, &nr_rrc::type_ZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 31, offsetof(RrcZpCsiRsResourceSet_t, zpCsiRsResourId), sizeof(RrcZpCsiRsResourceSet_t::zpCsiRsResourId[0]), sizeof(RrcZpCsiRsResourceSet_t::zpCsiRsResourId) / sizeof(RrcZpCsiRsResourceSet_t::zpCsiRsResourId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcZpCsiRsResourceSet_t[] = {
-    {offsetof(ZP_CSI_RS_ResourceSet, zp_CSI_RS_ResourceSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(ZP_CSI_RS_ResourceSet, zp_CSI_RS_ResourceIdList), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcZpCsiRsResourceSet_t = records::opsOf<records::opCount(sizeof(RrcZpCsiRsResourceSet_t), fields_RrcZpCsiRsResourceSet_t, sources_RrcZpCsiRsResourceSet_t, nullptr, 0)>(sizeof(RrcZpCsiRsResourceSet_t), fields_RrcZpCsiRsResourceSet_t, sources_RrcZpCsiRsResourceSet_t, nullptr, 0);
 constexpr auto checks_RrcZpCsiRsResourceSet_t = records::checkOpsOf(fields_RrcZpCsiRsResourceSet_t, nullptr, 0);
-constexpr RrcRecordType type_RrcZpCsiRsResourceSet_t = {"RrcZpCsiRsResourceSet_t", "rrcCodec/rrcPdsch.h", "ZP-CSI-RS-ResourceSet", "", &nr_rrc::type_ZP_CSI_RS_ResourceSet, sizeof(RrcZpCsiRsResourceSet_t), 0, 3, 0, 0, fields_RrcZpCsiRsResourceSet_t, nullptr, nullptr, ops_RrcZpCsiRsResourceSet_t.data(), static_cast<UINT16>(ops_RrcZpCsiRsResourceSet_t.size()), checks_RrcZpCsiRsResourceSet_t.data(), 130};
+constexpr RrcRecordType type_RrcZpCsiRsResourceSet_t = {"RrcZpCsiRsResourceSet_t", "rrcCodec/rrcPdsch.h", "ZP-CSI-RS-ResourceSet", "", &nr_rrc::type_ZP_CSI_RS_ResourceSet, sizeof(RrcZpCsiRsResourceSet_t), 0, 3, 0, 0, fields_RrcZpCsiRsResourceSet_t, nullptr, nullptr, checks_RrcZpCsiRsResourceSet_t.data(), 130};
 
 constexpr RrcRecordField fields_RrcPdschCfg_t[] = {
     {"resourceAllocation", {"resourceAllocation", way_10, 1, &nr_rrc::type_PDSCH_Config_resourceAllocation}, nullptr, nullptr, "", 0, 2, offsetof(RrcPdschCfg_t, resourceAllocation), sizeof(RrcPdschCfg_t::resourceAllocation), 0, 0, RRC_FIELD_ENUMERATED, RRC_FIELD_ALWAYS_SENT, 0, 0, -1, -1, -1, -1},
@@ -2618,44 +1786,8 @@ constexpr RrcRecordOption options_RrcPdschCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcPdschCfg_t[] = {
     {{"prb-BundlingType", way_57, 1, &nr_rrc::type_PDSCH_Config_prb_BundlingType}, 2, 0, 2, options_RrcPdschCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcPdschCfg_t[] = {
-    {offsetof(PDSCH_Config, resourceAllocation), -1, 4, 0, 1},
-    {offsetof(PDSCH_Config, rbg_Size), -1, 4, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, prb_BundlingType), -1, 0, 0, 1},
-    {offsetof(PDSCH_Config, prb_BundlingType), -1, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, dataScramblingIdentityPDSCH), 0, 2, 0, 1},
-    {offsetof(PDSCH_Config, dmrs_DownlinkForPDSCH_MappingTypeA), 1, 0, 0, 1},
-    {offsetof(PDSCH_Config, dmrs_DownlinkForPDSCH_MappingTypeB), 2, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, tci_StatesToAddModList), 3, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, tci_StatesToReleaseList), 4, 0, 0, 1},
-    {offsetof(PDSCH_Config, vrb_ToPRB_Interleaver), 5, 4, 0, 1},
-    {offsetof(PDSCH_Config, pdsch_TimeDomainAllocationList), 6, 0, 0, 1},
-    {offsetof(PDSCH_Config, pdsch_AggregationFactor), 7, 4, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, rateMatchPatternToAddModList), 8, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, rateMatchPatternToReleaseList), 9, 0, 0, 1},
-    {offsetof(PDSCH_Config, rateMatchPatternGroup1), 10, 0, 0, 1},
-    {offsetof(PDSCH_Config, rateMatchPatternGroup2), 11, 0, 0, 1},
-    {offsetof(PDSCH_Config, mcs_Table), 12, 4, 0, 1},
-    {offsetof(PDSCH_Config, maxNrofCodeWordsScheduledByDCI), 13, 4, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, zp_CSI_RS_ResourceToAddModList), 14, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, zp_CSI_RS_ResourceToReleaseList), 15, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, aperiodic_ZP_CSI_RS_ResourceSetsToAddModList), 16, 0, 0, 1},
-    {},
-    {offsetof(PDSCH_Config, aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList), 17, 0, 0, 1},
-    {offsetof(PDSCH_Config, p_ZP_CSI_RS_ResourceSet), 20, 0, 0, 1},
-};
-constexpr auto ops_RrcPdschCfg_t = records::opsOf<records::opCount(sizeof(RrcPdschCfg_t), fields_RrcPdschCfg_t, sources_RrcPdschCfg_t, bits_RrcPdschCfg_t, 13)>(sizeof(RrcPdschCfg_t), fields_RrcPdschCfg_t, sources_RrcPdschCfg_t, bits_RrcPdschCfg_t, 13);
 constexpr auto checks_RrcPdschCfg_t = records::checkOpsOf(fields_RrcPdschCfg_t, bits_RrcPdschCfg_t, 13);
-constexpr RrcRecordType type_RrcPdschCfg_t = {"RrcPdschCfg_t", "rrcCodec/rrcPdsch.h", "PDSCH-Config", "", &nr_rrc::type_PDSCH_Config, sizeof(RrcPdschCfg_t), 0, 33, 13, 1, fields_RrcPdschCfg_t, bits_RrcPdschCfg_t, choices_RrcPdschCfg_t, ops_RrcPdschCfg_t.data(), static_cast<UINT16>(ops_RrcPdschCfg_t.size()), checks_RrcPdschCfg_t.data(), 129};
+constexpr RrcRecordType type_RrcPdschCfg_t = {"RrcPdschCfg_t", "rrcCodec/rrcPdsch.h", "PDSCH-Config", "", &nr_rrc::type_PDSCH_Config, sizeof(RrcPdschCfg_t), 0, 33, 13, 1, fields_RrcPdschCfg_t, bits_RrcPdschCfg_t, choices_RrcPdschCfg_t, checks_RrcPdschCfg_t.data(), 129};
 
 constexpr RrcRecordField fields_RrcSpsCfg_t[] = {
     {"periodicity", {"periodicity", way_0, 1, &nr_rrc::type_SPS_Config_periodicity}, nullptr, nullptr, "", 0, 9, offsetof(RrcSpsCfg_t, periodicity), sizeof(RrcSpsCfg_t::periodicity), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -2668,28 +1800,15 @@ constexpr RrcRecordBit bits_RrcSpsCfg_t[] = {
     {"RRC_SPS_CFG_N1_PUCCH_AN_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
     {"RRC_SPS_CFG_MCS_TABLE_PRESENCE", "", nullptr, {}, 2, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcSpsCfg_t[] = {
-    {offsetof(SPS_Config, periodicity), -1, 4, 0, 1},
-    {offsetof(SPS_Config, nrofHARQ_Processes), -1, 1, 0, 1},
-    {},
-    {offsetof(SPS_Config, n1PUCCH_AN), 0, 1, 0, 1},
-    {offsetof(SPS_Config, mcs_Table), 1, 4, 0, 1},
-};
-constexpr auto ops_RrcSpsCfg_t = records::opsOf<records::opCount(sizeof(RrcSpsCfg_t), fields_RrcSpsCfg_t, sources_RrcSpsCfg_t, bits_RrcSpsCfg_t, 2)>(sizeof(RrcSpsCfg_t), fields_RrcSpsCfg_t, sources_RrcSpsCfg_t, bits_RrcSpsCfg_t, 2);
 constexpr auto checks_RrcSpsCfg_t = records::checkOpsOf(fields_RrcSpsCfg_t, bits_RrcSpsCfg_t, 2);
-constexpr RrcRecordType type_RrcSpsCfg_t = {"RrcSpsCfg_t", "rrcCodec/rrcDownlinkBwp.h", "SPS-Config", "", &nr_rrc::type_SPS_Config, sizeof(RrcSpsCfg_t), 0, 5, 2, 0, fields_RrcSpsCfg_t, bits_RrcSpsCfg_t, nullptr, ops_RrcSpsCfg_t.data(), static_cast<UINT16>(ops_RrcSpsCfg_t.size()), checks_RrcSpsCfg_t.data(), 128};
+constexpr RrcRecordType type_RrcSpsCfg_t = {"RrcSpsCfg_t", "rrcCodec/rrcDownlinkBwp.h", "SPS-Config", "", &nr_rrc::type_SPS_Config, sizeof(RrcSpsCfg_t), 0, 5, 2, 0, fields_RrcSpsCfg_t, bits_RrcSpsCfg_t, nullptr, checks_RrcSpsCfg_t.data(), 128};
 
 constexpr RrcRecordField fields_RrcRadioLinkMonitorRs_t_detectionResource[] = {
     {"ssbIdx", {"ssb-Index", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(decltype(RrcRadioLinkMonitorRs_t::detectionResource), ssbIdx), sizeof(decltype(RrcRadioLinkMonitorRs_t::detectionResource)::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-RS-Index", way_1, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(decltype(RrcRadioLinkMonitorRs_t::detectionResource), csiRsIdx), sizeof(decltype(RrcRadioLinkMonitorRs_t::detectionResource)::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRadioLinkMonitorRs_t_detectionResource[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcRadioLinkMonitorRs_t_detectionResource = records::opsOf<records::opCount(sizeof(decltype(RrcRadioLinkMonitorRs_t::detectionResource)), fields_RrcRadioLinkMonitorRs_t_detectionResource, sources_RrcRadioLinkMonitorRs_t_detectionResource, nullptr, 0)>(sizeof(decltype(RrcRadioLinkMonitorRs_t::detectionResource)), fields_RrcRadioLinkMonitorRs_t_detectionResource, sources_RrcRadioLinkMonitorRs_t_detectionResource, nullptr, 0);
 constexpr auto checks_RrcRadioLinkMonitorRs_t_detectionResource = records::checkOpsOf(fields_RrcRadioLinkMonitorRs_t_detectionResource, nullptr, 0);
-constexpr RrcRecordType type_RrcRadioLinkMonitorRs_t_detectionResource = {"RrcRadioLinkMonitorRs_t.detectionResource", "rrcCodec/rrcDownlinkBwp.h", "detectionResource", "", &nr_rrc::type_RadioLinkMonitoringRS_detectionResource, sizeof(decltype(RrcRadioLinkMonitorRs_t::detectionResource)), 1, 2, 0, 0, fields_RrcRadioLinkMonitorRs_t_detectionResource, nullptr, nullptr, ops_RrcRadioLinkMonitorRs_t_detectionResource.data(), static_cast<UINT16>(ops_RrcRadioLinkMonitorRs_t_detectionResource.size()), checks_RrcRadioLinkMonitorRs_t_detectionResource.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcRadioLinkMonitorRs_t_detectionResource = {"RrcRadioLinkMonitorRs_t.detectionResource", "rrcCodec/rrcDownlinkBwp.h", "detectionResource", "", &nr_rrc::type_RadioLinkMonitoringRS_detectionResource, sizeof(decltype(RrcRadioLinkMonitorRs_t::detectionResource)), 1, 2, 0, 0, fields_RrcRadioLinkMonitorRs_t_detectionResource, nullptr, nullptr, checks_RrcRadioLinkMonitorRs_t_detectionResource.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcRadioLinkMonitorRs_t[] = {
     {"radioLinkMonitorRsId", {"radioLinkMonitoringRS-Id", way_0, 1, &nr_rrc::type_RadioLinkMonitoringRS_Id}, nullptr, nullptr, "", 0, 9, offsetof(RrcRadioLinkMonitorRs_t, radioLinkMonitorRsId), sizeof(RrcRadioLinkMonitorRs_t::radioLinkMonitorRsId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2708,15 +1827,8 @@ constexpr RrcRecordOption options_RrcRadioLinkMonitorRs_t_0[] = {
 constexpr RrcRecordChoice choices_RrcRadioLinkMonitorRs_t[] = {
     {{"detectionResource", way_2, 1, &nr_rrc::type_RadioLinkMonitoringRS_detectionResource}, 2, 0, 2, options_RrcRadioLinkMonitorRs_t_0},
 };
-constexpr RrcRecordSource sources_RrcRadioLinkMonitorRs_t[] = {
-    {offsetof(RadioLinkMonitoringRS, radioLinkMonitoringRS_Id), -1, 1, 0, 1},
-    {offsetof(RadioLinkMonitoringRS, purpose), -1, 4, 0, 1},
-    {},
-    {offsetof(RadioLinkMonitoringRS, detectionResource), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcRadioLinkMonitorRs_t = records::opsOf<records::opCount(sizeof(RrcRadioLinkMonitorRs_t), fields_RrcRadioLinkMonitorRs_t, sources_RrcRadioLinkMonitorRs_t, bits_RrcRadioLinkMonitorRs_t, 2)>(sizeof(RrcRadioLinkMonitorRs_t), fields_RrcRadioLinkMonitorRs_t, sources_RrcRadioLinkMonitorRs_t, bits_RrcRadioLinkMonitorRs_t, 2);
 constexpr auto checks_RrcRadioLinkMonitorRs_t = records::checkOpsOf(fields_RrcRadioLinkMonitorRs_t, bits_RrcRadioLinkMonitorRs_t, 2);
-constexpr RrcRecordType type_RrcRadioLinkMonitorRs_t = {"RrcRadioLinkMonitorRs_t", "rrcCodec/rrcDownlinkBwp.h", "RadioLinkMonitoringRS", "", &nr_rrc::type_RadioLinkMonitoringRS, sizeof(RrcRadioLinkMonitorRs_t), 0, 4, 2, 1, fields_RrcRadioLinkMonitorRs_t, bits_RrcRadioLinkMonitorRs_t, choices_RrcRadioLinkMonitorRs_t, ops_RrcRadioLinkMonitorRs_t.data(), static_cast<UINT16>(ops_RrcRadioLinkMonitorRs_t.size()), checks_RrcRadioLinkMonitorRs_t.data(), 127};
+constexpr RrcRecordType type_RrcRadioLinkMonitorRs_t = {"RrcRadioLinkMonitorRs_t", "rrcCodec/rrcDownlinkBwp.h", "RadioLinkMonitoringRS", "", &nr_rrc::type_RadioLinkMonitoringRS, sizeof(RrcRadioLinkMonitorRs_t), 0, 4, 2, 1, fields_RrcRadioLinkMonitorRs_t, bits_RrcRadioLinkMonitorRs_t, choices_RrcRadioLinkMonitorRs_t, checks_RrcRadioLinkMonitorRs_t.data(), 127};
 
 constexpr RrcRecordField fields_RrcRlmCfg_t[] = {
     {"numFailDetectResourceAddMod", {}, nullptr, nullptr, "", 0, 10, offsetof(RrcRlmCfg_t, numFailDetectResourceAddMod), sizeof(RrcRlmCfg_t::numFailDetectResourceAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -2731,18 +1843,8 @@ constexpr RrcRecordBit bits_RrcRlmCfg_t[] = {
     {"RRC_RADIO_LINK_MONITOR_BEAM_FAIL_MAX_COUNT_PRESENCE", "", nullptr, {}, 4, 0, RRC_BIT_GUARDS, -1},
     {"RRC_RADIO_LINK_MONITOR_BEAM_FAIL_DETECT_TIMER_PRESENCE", "", nullptr, {}, 4, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcRlmCfg_t[] = {
-    {},
-    {offsetof(RadioLinkMonitoringConfig, failureDetectionResourcesToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(RadioLinkMonitoringConfig, failureDetectionResourcesToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(RadioLinkMonitoringConfig, beamFailureInstanceMaxCount), 2, 4, 0, 1},
-    {offsetof(RadioLinkMonitoringConfig, beamFailureDetectionTimer), 3, 4, 0, 1},
-};
-constexpr auto ops_RrcRlmCfg_t = records::opsOf<records::opCount(sizeof(RrcRlmCfg_t), fields_RrcRlmCfg_t, sources_RrcRlmCfg_t, bits_RrcRlmCfg_t, 2)>(sizeof(RrcRlmCfg_t), fields_RrcRlmCfg_t, sources_RrcRlmCfg_t, bits_RrcRlmCfg_t, 2);
 constexpr auto checks_RrcRlmCfg_t = records::checkOpsOf(fields_RrcRlmCfg_t, bits_RrcRlmCfg_t, 2);
-constexpr RrcRecordType type_RrcRlmCfg_t = {"RrcRlmCfg_t", "rrcCodec/rrcDownlinkBwp.h", "RadioLinkMonitoringConfig", "A list is sent when its count is not 0.", &nr_rrc::type_RadioLinkMonitoringConfig, sizeof(RrcRlmCfg_t), 0, 7, 2, 0, fields_RrcRlmCfg_t, bits_RrcRlmCfg_t, nullptr, ops_RrcRlmCfg_t.data(), static_cast<UINT16>(ops_RrcRlmCfg_t.size()), checks_RrcRlmCfg_t.data(), 126};
+constexpr RrcRecordType type_RrcRlmCfg_t = {"RrcRlmCfg_t", "rrcCodec/rrcDownlinkBwp.h", "RadioLinkMonitoringConfig", "A list is sent when its count is not 0.", &nr_rrc::type_RadioLinkMonitoringConfig, sizeof(RrcRlmCfg_t), 0, 7, 2, 0, fields_RrcRlmCfg_t, bits_RrcRlmCfg_t, nullptr, checks_RrcRlmCfg_t.data(), 126};
 
 constexpr RrcRecordField fields_RrcBwpDlDedicated_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcBwpDlDedicated_t, bitMask), sizeof(RrcBwpDlDedicated_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2757,16 +1859,8 @@ constexpr RrcRecordBit bits_RrcBwpDlDedicated_t[] = {
     {"RRC_BWP_DL_DEDI_SPS_CFG_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_DL_DEDI_RLM_CFG_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwpDlDedicated_t[] = {
-    {},
-    {offsetof(BWP_DownlinkDedicated, pdcch_Config), 0, 0, 0, 1},
-    {offsetof(BWP_DownlinkDedicated, pdsch_Config), 1, 0, 0, 1},
-    {offsetof(BWP_DownlinkDedicated, sps_Config), 2, 0, 0, 1},
-    {offsetof(BWP_DownlinkDedicated, radioLinkMonitoringConfig), 3, 0, 0, 1},
-};
-constexpr auto ops_RrcBwpDlDedicated_t = records::opsOf<records::opCount(sizeof(RrcBwpDlDedicated_t), fields_RrcBwpDlDedicated_t, sources_RrcBwpDlDedicated_t, bits_RrcBwpDlDedicated_t, 4)>(sizeof(RrcBwpDlDedicated_t), fields_RrcBwpDlDedicated_t, sources_RrcBwpDlDedicated_t, bits_RrcBwpDlDedicated_t, 4);
 constexpr auto checks_RrcBwpDlDedicated_t = records::checkOpsOf(fields_RrcBwpDlDedicated_t, bits_RrcBwpDlDedicated_t, 4);
-constexpr RrcRecordType type_RrcBwpDlDedicated_t = {"RrcBwpDlDedicated_t", "rrcCodec/rrcDownlinkBwp.h", "BWP-DownlinkDedicated", "", &nr_rrc::type_BWP_DownlinkDedicated, sizeof(RrcBwpDlDedicated_t), 0, 5, 4, 0, fields_RrcBwpDlDedicated_t, bits_RrcBwpDlDedicated_t, nullptr, ops_RrcBwpDlDedicated_t.data(), static_cast<UINT16>(ops_RrcBwpDlDedicated_t.size()), checks_RrcBwpDlDedicated_t.data(), 125};
+constexpr RrcRecordType type_RrcBwpDlDedicated_t = {"RrcBwpDlDedicated_t", "rrcCodec/rrcDownlinkBwp.h", "BWP-DownlinkDedicated", "", &nr_rrc::type_BWP_DownlinkDedicated, sizeof(RrcBwpDlDedicated_t), 0, 5, 4, 0, fields_RrcBwpDlDedicated_t, bits_RrcBwpDlDedicated_t, nullptr, checks_RrcBwpDlDedicated_t.data(), 125};
 
 constexpr RrcRecordField fields_RrcBwp_t[] = {
     {"locationAndBandwidth", {"locationAndBandwidth", way_0, 1, &nr_rrc::type_BWP_locationAndBandwidth}, nullptr, nullptr, "both in one number, the RIV of TS 38.214", 0, 37949, offsetof(RrcBwp_t, locationAndBandwidth), sizeof(RrcBwp_t::locationAndBandwidth), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2777,15 +1871,8 @@ constexpr RrcRecordField fields_RrcBwp_t[] = {
 constexpr RrcRecordBit bits_RrcBwp_t[] = {
     {"RRC_BWP_CYCLEPREFIX_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwp_t[] = {
-    {offsetof(BWP, locationAndBandwidth), -1, 2, 0, 1},
-    {offsetof(BWP, subcarrierSpacing), -1, 4, 0, 1},
-    {},
-    {offsetof(BWP, cyclicPrefix), 0, 4, 0, 1},
-};
-constexpr auto ops_RrcBwp_t = records::opsOf<records::opCount(sizeof(RrcBwp_t), fields_RrcBwp_t, sources_RrcBwp_t, bits_RrcBwp_t, 1)>(sizeof(RrcBwp_t), fields_RrcBwp_t, sources_RrcBwp_t, bits_RrcBwp_t, 1);
 constexpr auto checks_RrcBwp_t = records::checkOpsOf(fields_RrcBwp_t, bits_RrcBwp_t, 1);
-constexpr RrcRecordType type_RrcBwp_t = {"RrcBwp_t", "rrcCodec/rrcDownlinkBwp.h", "BWP", "", &nr_rrc::type_BWP, sizeof(RrcBwp_t), 0, 4, 1, 0, fields_RrcBwp_t, bits_RrcBwp_t, nullptr, ops_RrcBwp_t.data(), static_cast<UINT16>(ops_RrcBwp_t.size()), checks_RrcBwp_t.data(), 124};
+constexpr RrcRecordType type_RrcBwp_t = {"RrcBwp_t", "rrcCodec/rrcDownlinkBwp.h", "BWP", "", &nr_rrc::type_BWP, sizeof(RrcBwp_t), 0, 4, 1, 0, fields_RrcBwp_t, bits_RrcBwp_t, nullptr, checks_RrcBwp_t.data(), 124};
 
 constexpr RrcRecordField fields_RrcPdcchCfgCommon_t[] = {
     {"numCommonSearchSpace", {}, nullptr, nullptr, "the list is sent when it is not 0", 0, 4, offsetof(RrcPdcchCfgCommon_t, numCommonSearchSpace), sizeof(RrcPdcchCfgCommon_t::numCommonSearchSpace), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -2809,21 +1896,8 @@ constexpr RrcRecordBit bits_RrcPdcchCfgCommon_t[] = {
     {"RRC_PDCCH_CFG_COMMON_SEARCH_SPACE_RA_PRESENCE", "", nullptr, {}, 2, 6, RRC_BIT_GUARDS, -1},
     {"RRC_PDCCH_CFG_COMMON_FIRST_PDCCH_MONITIOR_OCCASION_PRESENCE", "it has no field here", nullptr, {"firstPDCCH-MonitoringOccasionOfPO", way_12, 1, &nr_rrc::type_PDCCH_ConfigCommon_firstPDCCH_MonitoringOccasionOfPO}, 2, 7, RRC_BIT_NOT_SENT, -1},
 };
-constexpr RrcRecordSource sources_RrcPdcchCfgCommon_t[] = {
-    {},
-    {offsetof(PDCCH_ConfigCommon, commonSearchSpaceList), 3, 0, 0, 1},
-    {},
-    {offsetof(PDCCH_ConfigCommon, controlResourceSetZero), 0, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, commonControlResourceSet), 1, 0, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, searchSpaceZero), 2, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, searchSpaceSIB1), 4, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, searchSpaceOtherSystemInformation), 5, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, pagingSearchSpace), 6, 1, 0, 1},
-    {offsetof(PDCCH_ConfigCommon, ra_SearchSpace), 7, 1, 0, 1},
-};
-constexpr auto ops_RrcPdcchCfgCommon_t = records::opsOf<records::opCount(sizeof(RrcPdcchCfgCommon_t), fields_RrcPdcchCfgCommon_t, sources_RrcPdcchCfgCommon_t, bits_RrcPdcchCfgCommon_t, 8)>(sizeof(RrcPdcchCfgCommon_t), fields_RrcPdcchCfgCommon_t, sources_RrcPdcchCfgCommon_t, bits_RrcPdcchCfgCommon_t, 8);
 constexpr auto checks_RrcPdcchCfgCommon_t = records::checkOpsOf(fields_RrcPdcchCfgCommon_t, bits_RrcPdcchCfgCommon_t, 8);
-constexpr RrcRecordType type_RrcPdcchCfgCommon_t = {"RrcPdcchCfgCommon_t", "rrcCodec/rrcDownlinkBwp.h", "PDCCH-ConfigCommon", "", &nr_rrc::type_PDCCH_ConfigCommon, sizeof(RrcPdcchCfgCommon_t), 0, 10, 8, 0, fields_RrcPdcchCfgCommon_t, bits_RrcPdcchCfgCommon_t, nullptr, ops_RrcPdcchCfgCommon_t.data(), static_cast<UINT16>(ops_RrcPdcchCfgCommon_t.size()), checks_RrcPdcchCfgCommon_t.data(), 123};
+constexpr RrcRecordType type_RrcPdcchCfgCommon_t = {"RrcPdcchCfgCommon_t", "rrcCodec/rrcDownlinkBwp.h", "PDCCH-ConfigCommon", "", &nr_rrc::type_PDCCH_ConfigCommon, sizeof(RrcPdcchCfgCommon_t), 0, 10, 8, 0, fields_RrcPdcchCfgCommon_t, bits_RrcPdcchCfgCommon_t, nullptr, checks_RrcPdcchCfgCommon_t.data(), 123};
 
 constexpr RrcRecordField fields_RrcPdschCfgCommon_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(RrcPdschCfgCommon_t, bitMask), sizeof(RrcPdschCfgCommon_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -2832,13 +1906,8 @@ constexpr RrcRecordField fields_RrcPdschCfgCommon_t[] = {
 constexpr RrcRecordBit bits_RrcPdschCfgCommon_t[] = {
     {"RRC_PDSCH_COMMON_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPdschCfgCommon_t[] = {
-    {},
-    {offsetof(PDSCH_ConfigCommon, pdsch_TimeDomainAllocationList), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcPdschCfgCommon_t = records::opsOf<records::opCount(sizeof(RrcPdschCfgCommon_t), fields_RrcPdschCfgCommon_t, sources_RrcPdschCfgCommon_t, bits_RrcPdschCfgCommon_t, 1)>(sizeof(RrcPdschCfgCommon_t), fields_RrcPdschCfgCommon_t, sources_RrcPdschCfgCommon_t, bits_RrcPdschCfgCommon_t, 1);
 constexpr auto checks_RrcPdschCfgCommon_t = records::checkOpsOf(fields_RrcPdschCfgCommon_t, bits_RrcPdschCfgCommon_t, 1);
-constexpr RrcRecordType type_RrcPdschCfgCommon_t = {"RrcPdschCfgCommon_t", "rrcCodec/rrcDownlinkBwp.h", "PDSCH-ConfigCommon", "", &nr_rrc::type_PDSCH_ConfigCommon, sizeof(RrcPdschCfgCommon_t), 0, 2, 1, 0, fields_RrcPdschCfgCommon_t, bits_RrcPdschCfgCommon_t, nullptr, ops_RrcPdschCfgCommon_t.data(), static_cast<UINT16>(ops_RrcPdschCfgCommon_t.size()), checks_RrcPdschCfgCommon_t.data(), 122};
+constexpr RrcRecordType type_RrcPdschCfgCommon_t = {"RrcPdschCfgCommon_t", "rrcCodec/rrcDownlinkBwp.h", "PDSCH-ConfigCommon", "", &nr_rrc::type_PDSCH_ConfigCommon, sizeof(RrcPdschCfgCommon_t), 0, 2, 1, 0, fields_RrcPdschCfgCommon_t, bits_RrcPdschCfgCommon_t, nullptr, checks_RrcPdschCfgCommon_t.data(), 122};
 
 constexpr RrcRecordField fields_RrcBwpDlCommon_t[] = {
     {"genericParam", {"genericParameters", way_0, 1, &nr_rrc::type_BWP}, &type_RrcBwp_t, nullptr, "", 0, 0, offsetof(RrcBwpDlCommon_t, genericParam), sizeof(RrcBwpDlCommon_t::genericParam), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -2850,15 +1919,8 @@ constexpr RrcRecordBit bits_RrcBwpDlCommon_t[] = {
     {"RRC_BWP_DL_COMMON_PDCCH_CFG_COMMON_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_DL_COMMON_PDSCH_CFG_COMMON_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwpDlCommon_t[] = {
-    {offsetof(BWP_DownlinkCommon, genericParameters), -1, 0, 0, 1},
-    {},
-    {offsetof(BWP_DownlinkCommon, pdcch_ConfigCommon), 0, 0, 0, 1},
-    {offsetof(BWP_DownlinkCommon, pdsch_ConfigCommon), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcBwpDlCommon_t = records::opsOf<records::opCount(sizeof(RrcBwpDlCommon_t), fields_RrcBwpDlCommon_t, sources_RrcBwpDlCommon_t, bits_RrcBwpDlCommon_t, 2)>(sizeof(RrcBwpDlCommon_t), fields_RrcBwpDlCommon_t, sources_RrcBwpDlCommon_t, bits_RrcBwpDlCommon_t, 2);
 constexpr auto checks_RrcBwpDlCommon_t = records::checkOpsOf(fields_RrcBwpDlCommon_t, bits_RrcBwpDlCommon_t, 2);
-constexpr RrcRecordType type_RrcBwpDlCommon_t = {"RrcBwpDlCommon_t", "rrcCodec/rrcDownlinkBwp.h", "BWP-DownlinkCommon", "", &nr_rrc::type_BWP_DownlinkCommon, sizeof(RrcBwpDlCommon_t), 0, 4, 2, 0, fields_RrcBwpDlCommon_t, bits_RrcBwpDlCommon_t, nullptr, ops_RrcBwpDlCommon_t.data(), static_cast<UINT16>(ops_RrcBwpDlCommon_t.size()), checks_RrcBwpDlCommon_t.data(), 121};
+constexpr RrcRecordType type_RrcBwpDlCommon_t = {"RrcBwpDlCommon_t", "rrcCodec/rrcDownlinkBwp.h", "BWP-DownlinkCommon", "", &nr_rrc::type_BWP_DownlinkCommon, sizeof(RrcBwpDlCommon_t), 0, 4, 2, 0, fields_RrcBwpDlCommon_t, bits_RrcBwpDlCommon_t, nullptr, checks_RrcBwpDlCommon_t.data(), 121};
 
 constexpr RrcRecordField fields_RrcBwpDl_t[] = {
     {"bwpId", {"bwp-Id", way_0, 1, &nr_rrc::type_BWP_Id}, nullptr, nullptr, "", 0, 4, offsetof(RrcBwpDl_t, bwpId), sizeof(RrcBwpDl_t::bwpId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -2870,27 +1932,15 @@ constexpr RrcRecordBit bits_RrcBwpDl_t[] = {
     {"RRC_BWP_DL_COMMON_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_DL_DEDICATED_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwpDl_t[] = {
-    {offsetof(BWP_Downlink, bwp_Id), -1, 1, 0, 1},
-    {},
-    {offsetof(BWP_Downlink, bwp_Common), 0, 0, 0, 1},
-    {offsetof(BWP_Downlink, bwp_Dedicated), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcBwpDl_t = records::opsOf<records::opCount(sizeof(RrcBwpDl_t), fields_RrcBwpDl_t, sources_RrcBwpDl_t, bits_RrcBwpDl_t, 2)>(sizeof(RrcBwpDl_t), fields_RrcBwpDl_t, sources_RrcBwpDl_t, bits_RrcBwpDl_t, 2);
 constexpr auto checks_RrcBwpDl_t = records::checkOpsOf(fields_RrcBwpDl_t, bits_RrcBwpDl_t, 2);
-constexpr RrcRecordType type_RrcBwpDl_t = {"RrcBwpDl_t", "rrcCodec/rrcDownlinkBwp.h", "BWP-Downlink", "", &nr_rrc::type_BWP_Downlink, sizeof(RrcBwpDl_t), 0, 4, 2, 0, fields_RrcBwpDl_t, bits_RrcBwpDl_t, nullptr, ops_RrcBwpDl_t.data(), static_cast<UINT16>(ops_RrcBwpDl_t.size()), checks_RrcBwpDl_t.data(), 120};
+constexpr RrcRecordType type_RrcBwpDl_t = {"RrcBwpDl_t", "rrcCodec/rrcDownlinkBwp.h", "BWP-Downlink", "", &nr_rrc::type_BWP_Downlink, sizeof(RrcBwpDl_t), 0, 4, 2, 0, fields_RrcBwpDl_t, bits_RrcBwpDl_t, nullptr, checks_RrcBwpDl_t.data(), 120};
 
 constexpr RrcRecordField fields_RrcRachCfgComm_t_prachRootSeqIdx[] = {
     {"l839", {"l839", way_0, 1, &nr_rrc::type_RACH_ConfigCommon_prach_RootSequenceIndex_l839}, nullptr, nullptr, "", 0, 837, offsetof(decltype(RrcRachCfgComm_t::prachRootSeqIdx), l839), sizeof(decltype(RrcRachCfgComm_t::prachRootSeqIdx)::l839), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"l139", {"l139", way_1, 1, &nr_rrc::type_RACH_ConfigCommon_prach_RootSequenceIndex_l139}, nullptr, nullptr, "", 0, 137, offsetof(decltype(RrcRachCfgComm_t::prachRootSeqIdx), l139), sizeof(decltype(RrcRachCfgComm_t::prachRootSeqIdx)::l139), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRachCfgComm_t_prachRootSeqIdx[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcRachCfgComm_t_prachRootSeqIdx = records::opsOf<records::opCount(sizeof(decltype(RrcRachCfgComm_t::prachRootSeqIdx)), fields_RrcRachCfgComm_t_prachRootSeqIdx, sources_RrcRachCfgComm_t_prachRootSeqIdx, nullptr, 0)>(sizeof(decltype(RrcRachCfgComm_t::prachRootSeqIdx)), fields_RrcRachCfgComm_t_prachRootSeqIdx, sources_RrcRachCfgComm_t_prachRootSeqIdx, nullptr, 0);
 constexpr auto checks_RrcRachCfgComm_t_prachRootSeqIdx = records::checkOpsOf(fields_RrcRachCfgComm_t_prachRootSeqIdx, nullptr, 0);
-constexpr RrcRecordType type_RrcRachCfgComm_t_prachRootSeqIdx = {"RrcRachCfgComm_t.prachRootSeqIdx", "rrcCodec/rrcUplinkBwp.h", "prach-RootSequenceIndex", "", &nr_rrc::type_RACH_ConfigCommon_prach_RootSequenceIndex, sizeof(decltype(RrcRachCfgComm_t::prachRootSeqIdx)), 1, 2, 0, 0, fields_RrcRachCfgComm_t_prachRootSeqIdx, nullptr, nullptr, ops_RrcRachCfgComm_t_prachRootSeqIdx.data(), static_cast<UINT16>(ops_RrcRachCfgComm_t_prachRootSeqIdx.size()), checks_RrcRachCfgComm_t_prachRootSeqIdx.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcRachCfgComm_t_prachRootSeqIdx = {"RrcRachCfgComm_t.prachRootSeqIdx", "rrcCodec/rrcUplinkBwp.h", "prach-RootSequenceIndex", "", &nr_rrc::type_RACH_ConfigCommon_prach_RootSequenceIndex, sizeof(decltype(RrcRachCfgComm_t::prachRootSeqIdx)), 1, 2, 0, 0, fields_RrcRachCfgComm_t_prachRootSeqIdx, nullptr, nullptr, checks_RrcRachCfgComm_t_prachRootSeqIdx.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb[] = {
     {"oneEighth", {}, nullptr, nullptr, "oneEighth cannot be sent", 0, 0, offsetof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb), oneEighth), sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)::oneEighth), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
@@ -2902,33 +1952,16 @@ constexpr RrcRecordField fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamble
     {"eight", {"eight", way_10, 1, &nr_rrc::type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_eight}, nullptr, nullptr, "", 1, 8, offsetof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb), eight), sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)::eight), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"sixteen", {"sixteen", way_11, 1, &nr_rrc::type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB_sixteen}, nullptr, nullptr, "", 1, 4, offsetof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb), sixteen), sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)::sixteen), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb = records::opsOf<records::opCount(sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)), fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, sources_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, nullptr, 0)>(sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)), fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, sources_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, nullptr, 0);
 constexpr auto checks_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb = records::checkOpsOf(fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, nullptr, 0);
-constexpr RrcRecordType type_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb = {"RrcRachCfgComm_t.ssbPerRachOccasionAndCbPreamblesPerSsb", "rrcCodec/rrcUplinkBwp.h", "ssb-perRACH-OccasionAndCB-PreamblesPerSSB", "", &nr_rrc::type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)), 1, 8, 0, 0, fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, nullptr, nullptr, ops_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb.data(), static_cast<UINT16>(ops_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb.size()), checks_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb = {"RrcRachCfgComm_t.ssbPerRachOccasionAndCbPreamblesPerSsb", "rrcCodec/rrcUplinkBwp.h", "ssb-perRACH-OccasionAndCB-PreamblesPerSSB", "", &nr_rrc::type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB, sizeof(decltype(RrcRachCfgComm_t::ssbPerRachOccasionAndCbPreamblesPerSsb)), 1, 8, 0, 0, fields_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb, nullptr, nullptr, checks_RrcRachCfgComm_t_ssbPerRachOccasionAndCbPreamblesPerSsb.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_groupBCfgd_s[] = {
     {"raMsg3SizeGroupA", {"ra-Msg3SizeGroupA", way_0, 1, &nr_rrc::type_RACH_ConfigCommon_groupBconfigured_ra_Msg3SizeGroupA}, nullptr, nullptr, "", 0, 9, offsetof(groupBCfgd_s, raMsg3SizeGroupA), sizeof(groupBCfgd_s::raMsg3SizeGroupA), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"msgPowerOffsetGroupB", {"messagePowerOffsetGroupB", way_1, 1, &nr_rrc::type_RACH_ConfigCommon_groupBconfigured_messagePowerOffsetGroupB}, nullptr, nullptr, "", 0, 7, offsetof(groupBCfgd_s, msgPowerOffsetGroupB), sizeof(groupBCfgd_s::msgPowerOffsetGroupB), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"numOfRaPreambleGroupA", {"numberOfRA-PreamblesGroupA", way_2, 1, &nr_rrc::type_RACH_ConfigCommon_groupBconfigured_numberOfRA_PreamblesGroupA}, nullptr, nullptr, "", 1, 64, offsetof(groupBCfgd_s, numOfRaPreambleGroupA), sizeof(groupBCfgd_s::numOfRaPreambleGroupA), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_groupBCfgd_s[] = {
-    {offsetof(RACH_ConfigCommon_groupBconfigured, ra_Msg3SizeGroupA), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigCommon_groupBconfigured, messagePowerOffsetGroupB), -1, 4, 0, 1},
-    {offsetof(RACH_ConfigCommon_groupBconfigured, numberOfRA_PreamblesGroupA), -1, 1, 0, 1},
-};
-constexpr auto ops_groupBCfgd_s = records::opsOf<records::opCount(sizeof(groupBCfgd_s), fields_groupBCfgd_s, sources_groupBCfgd_s, nullptr, 0)>(sizeof(groupBCfgd_s), fields_groupBCfgd_s, sources_groupBCfgd_s, nullptr, 0);
 constexpr auto checks_groupBCfgd_s = records::checkOpsOf(fields_groupBCfgd_s, nullptr, 0);
-constexpr RrcRecordType type_groupBCfgd_s = {"groupBCfgd_s", "rrcCodec/rrcUplinkBwp.h", "RACH-ConfigCommon.groupBconfigured", "", &nr_rrc::type_RACH_ConfigCommon_groupBconfigured, sizeof(groupBCfgd_s), 0, 3, 0, 0, fields_groupBCfgd_s, nullptr, nullptr, ops_groupBCfgd_s.data(), static_cast<UINT16>(ops_groupBCfgd_s.size()), checks_groupBCfgd_s.data(), 119};
+constexpr RrcRecordType type_groupBCfgd_s = {"groupBCfgd_s", "rrcCodec/rrcUplinkBwp.h", "RACH-ConfigCommon.groupBconfigured", "", &nr_rrc::type_RACH_ConfigCommon_groupBconfigured, sizeof(groupBCfgd_s), 0, 3, 0, 0, fields_groupBCfgd_s, nullptr, nullptr, checks_groupBCfgd_s.data(), 119};
 
 constexpr RrcRecordField fields_RrcRachCfgComm_t[] = {
     {"rachCfgGeneric", {"rach-ConfigGeneric", way_0, 1, &nr_rrc::type_RACH_ConfigGeneric}, &type_RrcRachCfgGeneric_t, nullptr, "", 0, 0, offsetof(RrcRachCfgComm_t, rachCfgGeneric), sizeof(RrcRachCfgComm_t::rachCfgGeneric), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -2982,25 +2015,8 @@ constexpr RrcRecordChoice choices_RrcRachCfgComm_t[] = {
     {{"prach-RootSequenceIndex", way_11, 1, &nr_rrc::type_RACH_ConfigCommon_prach_RootSequenceIndex}, 2, 0, 2, options_RrcRachCfgComm_t_0},
     {{"ssb-perRACH-OccasionAndCB-PreamblesPerSSB", way_2, 1, &nr_rrc::type_RACH_ConfigCommon_ssb_perRACH_OccasionAndCB_PreamblesPerSSB}, 7, 0, 7, options_RrcRachCfgComm_t_1},
 };
-constexpr RrcRecordSource sources_RrcRachCfgComm_t[] = {
-    {offsetof(RACH_ConfigCommon, rach_ConfigGeneric), -1, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, ra_ContentionResolutionTimer), -1, 4, 0, 1},
-    {},
-    {offsetof(RACH_ConfigCommon, prach_RootSequenceIndex), -1, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, restrictedSetConfig), -1, 4, 0, 1},
-    {},
-    {offsetof(RACH_ConfigCommon, totalNumberOfRA_Preambles), 0, 1, 0, 1},
-    {},
-    {offsetof(RACH_ConfigCommon, ssb_perRACH_OccasionAndCB_PreamblesPerSSB), 1, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, groupBconfigured), 2, 0, 0, 1},
-    {offsetof(RACH_ConfigCommon, rsrp_ThresholdSSB), 3, 1, 0, 1},
-    {offsetof(RACH_ConfigCommon, rsrp_ThresholdSSB_SUL), 4, 1, 0, 1},
-    {offsetof(RACH_ConfigCommon, msg1_SubcarrierSpacing), 5, 4, 0, 1},
-    {offsetof(RACH_ConfigCommon, msg3_transformPrecoder), 6, 4, 0, 1},
-};
-constexpr auto ops_RrcRachCfgComm_t = records::opsOf<records::opCount(sizeof(RrcRachCfgComm_t), fields_RrcRachCfgComm_t, sources_RrcRachCfgComm_t, bits_RrcRachCfgComm_t, 17)>(sizeof(RrcRachCfgComm_t), fields_RrcRachCfgComm_t, sources_RrcRachCfgComm_t, bits_RrcRachCfgComm_t, 17);
 constexpr auto checks_RrcRachCfgComm_t = records::checkOpsOf(fields_RrcRachCfgComm_t, bits_RrcRachCfgComm_t, 17);
-constexpr RrcRecordType type_RrcRachCfgComm_t = {"RrcRachCfgComm_t", "rrcCodec/rrcUplinkBwp.h", "RACH-ConfigCommon", "", &nr_rrc::type_RACH_ConfigCommon, sizeof(RrcRachCfgComm_t), 0, 14, 17, 2, fields_RrcRachCfgComm_t, bits_RrcRachCfgComm_t, choices_RrcRachCfgComm_t, ops_RrcRachCfgComm_t.data(), static_cast<UINT16>(ops_RrcRachCfgComm_t.size()), checks_RrcRachCfgComm_t.data(), 118};
+constexpr RrcRecordType type_RrcRachCfgComm_t = {"RrcRachCfgComm_t", "rrcCodec/rrcUplinkBwp.h", "RACH-ConfigCommon", "", &nr_rrc::type_RACH_ConfigCommon, sizeof(RrcRachCfgComm_t), 0, 14, 17, 2, fields_RrcRachCfgComm_t, bits_RrcRachCfgComm_t, choices_RrcRachCfgComm_t, checks_RrcRachCfgComm_t.data(), 118};
 
 constexpr RrcRecordField fields_RrcPuschTimeDomainResourceAlloc_t[] = {
     {"mappingType", {"mappingType", way_1, 1, &nr_rrc::type_PUSCH_TimeDomainResourceAllocation_mappingType}, nullptr, nullptr, "", 0, 1, offsetof(RrcPuschTimeDomainResourceAlloc_t, mappingType), sizeof(RrcPuschTimeDomainResourceAlloc_t::mappingType), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -3011,27 +2027,15 @@ constexpr RrcRecordField fields_RrcPuschTimeDomainResourceAlloc_t[] = {
 constexpr RrcRecordBit bits_RrcPuschTimeDomainResourceAlloc_t[] = {
     {"RRC_PUSCH_TIME_DOMAIN_K2_PRESENCE", "", nullptr, {}, 2, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschTimeDomainResourceAlloc_t[] = {
-    {offsetof(PUSCH_TimeDomainResourceAllocation, mappingType), -1, 4, 0, 1},
-    {offsetof(PUSCH_TimeDomainResourceAllocation, startSymbolAndLength), -1, 1, 0, 1},
-    {},
-    {offsetof(PUSCH_TimeDomainResourceAllocation, k2), 0, 1, 0, 1},
-};
-constexpr auto ops_RrcPuschTimeDomainResourceAlloc_t = records::opsOf<records::opCount(sizeof(RrcPuschTimeDomainResourceAlloc_t), fields_RrcPuschTimeDomainResourceAlloc_t, sources_RrcPuschTimeDomainResourceAlloc_t, bits_RrcPuschTimeDomainResourceAlloc_t, 1)>(sizeof(RrcPuschTimeDomainResourceAlloc_t), fields_RrcPuschTimeDomainResourceAlloc_t, sources_RrcPuschTimeDomainResourceAlloc_t, bits_RrcPuschTimeDomainResourceAlloc_t, 1);
 constexpr auto checks_RrcPuschTimeDomainResourceAlloc_t = records::checkOpsOf(fields_RrcPuschTimeDomainResourceAlloc_t, bits_RrcPuschTimeDomainResourceAlloc_t, 1);
-constexpr RrcRecordType type_RrcPuschTimeDomainResourceAlloc_t = {"RrcPuschTimeDomainResourceAlloc_t", "rrcCodec/rrcPusch.h", "PUSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PUSCH_TimeDomainResourceAllocation, sizeof(RrcPuschTimeDomainResourceAlloc_t), 0, 4, 1, 0, fields_RrcPuschTimeDomainResourceAlloc_t, bits_RrcPuschTimeDomainResourceAlloc_t, nullptr, ops_RrcPuschTimeDomainResourceAlloc_t.data(), static_cast<UINT16>(ops_RrcPuschTimeDomainResourceAlloc_t.size()), checks_RrcPuschTimeDomainResourceAlloc_t.data(), 117};
+constexpr RrcRecordType type_RrcPuschTimeDomainResourceAlloc_t = {"RrcPuschTimeDomainResourceAlloc_t", "rrcCodec/rrcPusch.h", "PUSCH-TimeDomainResourceAllocation", "", &nr_rrc::type_PUSCH_TimeDomainResourceAllocation, sizeof(RrcPuschTimeDomainResourceAlloc_t), 0, 4, 1, 0, fields_RrcPuschTimeDomainResourceAlloc_t, bits_RrcPuschTimeDomainResourceAlloc_t, nullptr, checks_RrcPuschTimeDomainResourceAlloc_t.data(), 117};
 
 constexpr RrcRecordField fields_RrcPuschTimeDomainResourceAllocList_t[] = {
     {"numPuschTimeDomainResourceAllocList", {}, nullptr, nullptr, "", 1, 16, offsetof(RrcPuschTimeDomainResourceAllocList_t, numPuschTimeDomainResourceAllocList), sizeof(RrcPuschTimeDomainResourceAllocList_t::numPuschTimeDomainResourceAllocList), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"item", {"", way_47, 1, &nr_rrc::type_PUSCH_TimeDomainResourceAllocation}, &type_RrcPuschTimeDomainResourceAlloc_t, nullptr, "the allocations", 0, 0, offsetof(RrcPuschTimeDomainResourceAllocList_t, item), sizeof(RrcPuschTimeDomainResourceAllocList_t::item[0]), sizeof(RrcPuschTimeDomainResourceAllocList_t::item) / sizeof(RrcPuschTimeDomainResourceAllocList_t::item[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschTimeDomainResourceAllocList_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcPuschTimeDomainResourceAllocList_t = records::opsOf<records::opCount(sizeof(RrcPuschTimeDomainResourceAllocList_t), fields_RrcPuschTimeDomainResourceAllocList_t, sources_RrcPuschTimeDomainResourceAllocList_t, nullptr, 0)>(sizeof(RrcPuschTimeDomainResourceAllocList_t), fields_RrcPuschTimeDomainResourceAllocList_t, sources_RrcPuschTimeDomainResourceAllocList_t, nullptr, 0);
 constexpr auto checks_RrcPuschTimeDomainResourceAllocList_t = records::checkOpsOf(fields_RrcPuschTimeDomainResourceAllocList_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPuschTimeDomainResourceAllocList_t = {"RrcPuschTimeDomainResourceAllocList_t", "rrcCodec/rrcPusch.h", "PUSCH-TimeDomainResourceAllocationList", "", &nr_rrc::type_PUSCH_TimeDomainResourceAllocationList, sizeof(RrcPuschTimeDomainResourceAllocList_t), 0, 2, 0, 0, fields_RrcPuschTimeDomainResourceAllocList_t, nullptr, nullptr, ops_RrcPuschTimeDomainResourceAllocList_t.data(), static_cast<UINT16>(ops_RrcPuschTimeDomainResourceAllocList_t.size()), checks_RrcPuschTimeDomainResourceAllocList_t.data(), 116};
+constexpr RrcRecordType type_RrcPuschTimeDomainResourceAllocList_t = {"RrcPuschTimeDomainResourceAllocList_t", "rrcCodec/rrcPusch.h", "PUSCH-TimeDomainResourceAllocationList", "", &nr_rrc::type_PUSCH_TimeDomainResourceAllocationList, sizeof(RrcPuschTimeDomainResourceAllocList_t), 0, 2, 0, 0, fields_RrcPuschTimeDomainResourceAllocList_t, nullptr, nullptr, checks_RrcPuschTimeDomainResourceAllocList_t.data(), 116};
 
 constexpr RrcRecordField fields_RrcPuschCfgComm_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcPuschCfgComm_t, bitMask), sizeof(RrcPuschCfgComm_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3046,16 +2050,8 @@ constexpr RrcRecordBit bits_RrcPuschCfgComm_t[] = {
     {"RRC_PUSCH_CFG_COMMON_MSG3_DELTA_PREABLE_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
     {"RRC_PUSCH_CFG_COMMON_P0_NOMINAL_WITH_GRANT_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschCfgComm_t[] = {
-    {},
-    {offsetof(PUSCH_ConfigCommon, groupHoppingEnabledTransformPrecoding), 0, 4, 0, 1},
-    {offsetof(PUSCH_ConfigCommon, pusch_TimeDomainAllocationList), 1, 0, 0, 1},
-    {offsetof(PUSCH_ConfigCommon, msg3_DeltaPreamble), 2, 1, 1, 1},
-    {offsetof(PUSCH_ConfigCommon, p0_NominalWithGrant), 3, 2, 1, 1},
-};
-constexpr auto ops_RrcPuschCfgComm_t = records::opsOf<records::opCount(sizeof(RrcPuschCfgComm_t), fields_RrcPuschCfgComm_t, sources_RrcPuschCfgComm_t, bits_RrcPuschCfgComm_t, 4)>(sizeof(RrcPuschCfgComm_t), fields_RrcPuschCfgComm_t, sources_RrcPuschCfgComm_t, bits_RrcPuschCfgComm_t, 4);
 constexpr auto checks_RrcPuschCfgComm_t = records::checkOpsOf(fields_RrcPuschCfgComm_t, bits_RrcPuschCfgComm_t, 4);
-constexpr RrcRecordType type_RrcPuschCfgComm_t = {"RrcPuschCfgComm_t", "rrcCodec/rrcUplinkBwp.h", "PUSCH-ConfigCommon", "", &nr_rrc::type_PUSCH_ConfigCommon, sizeof(RrcPuschCfgComm_t), 0, 5, 4, 0, fields_RrcPuschCfgComm_t, bits_RrcPuschCfgComm_t, nullptr, ops_RrcPuschCfgComm_t.data(), static_cast<UINT16>(ops_RrcPuschCfgComm_t.size()), checks_RrcPuschCfgComm_t.data(), 115};
+constexpr RrcRecordType type_RrcPuschCfgComm_t = {"RrcPuschCfgComm_t", "rrcCodec/rrcUplinkBwp.h", "PUSCH-ConfigCommon", "", &nr_rrc::type_PUSCH_ConfigCommon, sizeof(RrcPuschCfgComm_t), 0, 5, 4, 0, fields_RrcPuschCfgComm_t, bits_RrcPuschCfgComm_t, nullptr, checks_RrcPuschCfgComm_t.data(), 115};
 
 constexpr RrcRecordField fields_RrcPucchCfgComm_t[] = {
     {"pucchGroupHopping", {"pucch-GroupHopping", way_1, 1, &nr_rrc::type_PUCCH_ConfigCommon_pucch_GroupHopping}, nullptr, nullptr, "", 0, 2, offsetof(RrcPucchCfgComm_t, pucchGroupHopping), sizeof(RrcPucchCfgComm_t::pucchGroupHopping), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -3069,16 +2065,8 @@ constexpr RrcRecordBit bits_RrcPucchCfgComm_t[] = {
     {"RRC_PUCCH_CFG_COMMON_HOPPING_ID_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
     {"RRC_PUCCH_CFG_COMMON_P0_NOMINAL_PRESENCE", "", nullptr, {}, 1, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchCfgComm_t[] = {
-    {offsetof(PUCCH_ConfigCommon, pucch_GroupHopping), -1, 4, 0, 1},
-    {},
-    {offsetof(PUCCH_ConfigCommon, pucch_ResourceCommon), 0, 1, 0, 1},
-    {offsetof(PUCCH_ConfigCommon, hoppingId), 1, 2, 0, 1},
-    {offsetof(PUCCH_ConfigCommon, p0_nominal), 2, 2, 1, 1},
-};
-constexpr auto ops_RrcPucchCfgComm_t = records::opsOf<records::opCount(sizeof(RrcPucchCfgComm_t), fields_RrcPucchCfgComm_t, sources_RrcPucchCfgComm_t, bits_RrcPucchCfgComm_t, 3)>(sizeof(RrcPucchCfgComm_t), fields_RrcPucchCfgComm_t, sources_RrcPucchCfgComm_t, bits_RrcPucchCfgComm_t, 3);
 constexpr auto checks_RrcPucchCfgComm_t = records::checkOpsOf(fields_RrcPucchCfgComm_t, bits_RrcPucchCfgComm_t, 3);
-constexpr RrcRecordType type_RrcPucchCfgComm_t = {"RrcPucchCfgComm_t", "rrcCodec/rrcUplinkBwp.h", "PUCCH-ConfigCommon", "", &nr_rrc::type_PUCCH_ConfigCommon, sizeof(RrcPucchCfgComm_t), 0, 5, 3, 0, fields_RrcPucchCfgComm_t, bits_RrcPucchCfgComm_t, nullptr, ops_RrcPucchCfgComm_t.data(), static_cast<UINT16>(ops_RrcPucchCfgComm_t.size()), checks_RrcPucchCfgComm_t.data(), 114};
+constexpr RrcRecordType type_RrcPucchCfgComm_t = {"RrcPucchCfgComm_t", "rrcCodec/rrcUplinkBwp.h", "PUCCH-ConfigCommon", "", &nr_rrc::type_PUCCH_ConfigCommon, sizeof(RrcPucchCfgComm_t), 0, 5, 3, 0, fields_RrcPucchCfgComm_t, bits_RrcPucchCfgComm_t, nullptr, checks_RrcPucchCfgComm_t.data(), 114};
 
 constexpr RrcRecordField fields_RrcBwpUlComm_t[] = {
     {"genericParam", {"genericParameters", way_0, 1, &nr_rrc::type_BWP}, &type_RrcBwp_t, nullptr, "", 0, 0, offsetof(RrcBwpUlComm_t, genericParam), sizeof(RrcBwpUlComm_t::genericParam), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -3092,16 +2080,8 @@ constexpr RrcRecordBit bits_RrcBwpUlComm_t[] = {
     {"RRC_BWP_UL_COMM_PUSCH_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_UL_COMM_PUCCH_PRESENCE", "", nullptr, {}, 1, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwpUlComm_t[] = {
-    {offsetof(BWP_UplinkCommon, genericParameters), -1, 0, 0, 1},
-    {},
-    {offsetof(BWP_UplinkCommon, rach_ConfigCommon), 0, 0, 0, 1},
-    {offsetof(BWP_UplinkCommon, pusch_ConfigCommon), 1, 0, 0, 1},
-    {offsetof(BWP_UplinkCommon, pucch_ConfigCommon), 2, 0, 0, 1},
-};
-constexpr auto ops_RrcBwpUlComm_t = records::opsOf<records::opCount(sizeof(RrcBwpUlComm_t), fields_RrcBwpUlComm_t, sources_RrcBwpUlComm_t, bits_RrcBwpUlComm_t, 3)>(sizeof(RrcBwpUlComm_t), fields_RrcBwpUlComm_t, sources_RrcBwpUlComm_t, bits_RrcBwpUlComm_t, 3);
 constexpr auto checks_RrcBwpUlComm_t = records::checkOpsOf(fields_RrcBwpUlComm_t, bits_RrcBwpUlComm_t, 3);
-constexpr RrcRecordType type_RrcBwpUlComm_t = {"RrcBwpUlComm_t", "rrcCodec/rrcUplinkBwp.h", "BWP-UplinkCommon", "", &nr_rrc::type_BWP_UplinkCommon, sizeof(RrcBwpUlComm_t), 0, 5, 3, 0, fields_RrcBwpUlComm_t, bits_RrcBwpUlComm_t, nullptr, ops_RrcBwpUlComm_t.data(), static_cast<UINT16>(ops_RrcBwpUlComm_t.size()), checks_RrcBwpUlComm_t.data(), 113};
+constexpr RrcRecordType type_RrcBwpUlComm_t = {"RrcBwpUlComm_t", "rrcCodec/rrcUplinkBwp.h", "BWP-UplinkCommon", "", &nr_rrc::type_BWP_UplinkCommon, sizeof(RrcBwpUlComm_t), 0, 5, 3, 0, fields_RrcBwpUlComm_t, bits_RrcBwpUlComm_t, nullptr, checks_RrcBwpUlComm_t.data(), 113};
 
 constexpr RrcRecordField fields_RrcPucchResourceSet_t[] = {
     {"pucchResourceSetId", {"pucch-ResourceSetId", way_0, 1, &nr_rrc::type_PUCCH_ResourceSetId}, nullptr, nullptr, "", 0, 3, offsetof(RrcPucchResourceSet_t, pucchResourceSetId), sizeof(RrcPucchResourceSet_t::pucchResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3113,30 +2093,16 @@ constexpr RrcRecordField fields_RrcPucchResourceSet_t[] = {
 constexpr RrcRecordBit bits_RrcPucchResourceSet_t[] = {
     {"RRC_PUCCH_RESOURCE_SET_MAX_PAYLOAD_MINUS1_PRESENCE", "", nullptr, {}, 3, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchResourceSet_t[] = {
-    {offsetof(PUCCH_ResourceSet, pucch_ResourceSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(PUCCH_ResourceSet, resourceList), -1, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_ResourceSet, maxPayloadMinus1), 0, 2, 0, 1},
-};
-constexpr auto ops_RrcPucchResourceSet_t = records::opsOf<records::opCount(sizeof(RrcPucchResourceSet_t), fields_RrcPucchResourceSet_t, sources_RrcPucchResourceSet_t, bits_RrcPucchResourceSet_t, 1)>(sizeof(RrcPucchResourceSet_t), fields_RrcPucchResourceSet_t, sources_RrcPucchResourceSet_t, bits_RrcPucchResourceSet_t, 1);
 constexpr auto checks_RrcPucchResourceSet_t = records::checkOpsOf(fields_RrcPucchResourceSet_t, bits_RrcPucchResourceSet_t, 1);
-constexpr RrcRecordType type_RrcPucchResourceSet_t = {"RrcPucchResourceSet_t", "rrcCodec/rrcPucch.h", "PUCCH-ResourceSet", "", &nr_rrc::type_PUCCH_ResourceSet, sizeof(RrcPucchResourceSet_t), 0, 5, 1, 0, fields_RrcPucchResourceSet_t, bits_RrcPucchResourceSet_t, nullptr, ops_RrcPucchResourceSet_t.data(), static_cast<UINT16>(ops_RrcPucchResourceSet_t.size()), checks_RrcPucchResourceSet_t.data(), 112};
+constexpr RrcRecordType type_RrcPucchResourceSet_t = {"RrcPucchResourceSet_t", "rrcCodec/rrcPucch.h", "PUCCH-ResourceSet", "", &nr_rrc::type_PUCCH_ResourceSet, sizeof(RrcPucchResourceSet_t), 0, 5, 1, 0, fields_RrcPucchResourceSet_t, bits_RrcPucchResourceSet_t, nullptr, checks_RrcPucchResourceSet_t.data(), 112};
 
 constexpr RrcRecordField fields_RrcPucchFormat0_t[] = {
     {"initialCyclicShift", {"initialCyclicShift", way_0, 1, &nr_rrc::type_PUCCH_format0_initialCyclicShift}, nullptr, nullptr, "", 0, 11, offsetof(RrcPucchFormat0_t, initialCyclicShift), sizeof(RrcPucchFormat0_t::initialCyclicShift), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"nrofSymbols", {"nrofSymbols", way_1, 1, &nr_rrc::type_PUCCH_format0_nrofSymbols}, nullptr, nullptr, "", 1, 2, offsetof(RrcPucchFormat0_t, nrofSymbols), sizeof(RrcPucchFormat0_t::nrofSymbols), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"startingSymbolIdx", {"startingSymbolIndex", way_2, 1, &nr_rrc::type_PUCCH_format0_startingSymbolIndex}, nullptr, nullptr, "", 0, 13, offsetof(RrcPucchFormat0_t, startingSymbolIdx), sizeof(RrcPucchFormat0_t::startingSymbolIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchFormat0_t[] = {
-    {offsetof(PUCCH_format0, initialCyclicShift), -1, 1, 0, 1},
-    {offsetof(PUCCH_format0, nrofSymbols), -1, 1, 0, 1},
-    {offsetof(PUCCH_format0, startingSymbolIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchFormat0_t = records::opsOf<records::opCount(sizeof(RrcPucchFormat0_t), fields_RrcPucchFormat0_t, sources_RrcPucchFormat0_t, nullptr, 0)>(sizeof(RrcPucchFormat0_t), fields_RrcPucchFormat0_t, sources_RrcPucchFormat0_t, nullptr, 0);
 constexpr auto checks_RrcPucchFormat0_t = records::checkOpsOf(fields_RrcPucchFormat0_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchFormat0_t = {"RrcPucchFormat0_t", "rrcCodec/rrcPucch.h", "PUCCH-format0", "", &nr_rrc::type_PUCCH_format0, sizeof(RrcPucchFormat0_t), 0, 3, 0, 0, fields_RrcPucchFormat0_t, nullptr, nullptr, ops_RrcPucchFormat0_t.data(), static_cast<UINT16>(ops_RrcPucchFormat0_t.size()), checks_RrcPucchFormat0_t.data(), 111};
+constexpr RrcRecordType type_RrcPucchFormat0_t = {"RrcPucchFormat0_t", "rrcCodec/rrcPucch.h", "PUCCH-format0", "", &nr_rrc::type_PUCCH_format0, sizeof(RrcPucchFormat0_t), 0, 3, 0, 0, fields_RrcPucchFormat0_t, nullptr, nullptr, checks_RrcPucchFormat0_t.data(), 111};
 
 constexpr RrcRecordField fields_RrcPucchFormat1_t[] = {
     {"initialCyclicShift", {"initialCyclicShift", way_0, 1, &nr_rrc::type_PUCCH_format1_initialCyclicShift}, nullptr, nullptr, "", 0, 11, offsetof(RrcPucchFormat1_t, initialCyclicShift), sizeof(RrcPucchFormat1_t::initialCyclicShift), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3144,43 +2110,24 @@ constexpr RrcRecordField fields_RrcPucchFormat1_t[] = {
     {"startingSymbolIdx", {"startingSymbolIndex", way_2, 1, &nr_rrc::type_PUCCH_format1_startingSymbolIndex}, nullptr, nullptr, "", 0, 10, offsetof(RrcPucchFormat1_t, startingSymbolIdx), sizeof(RrcPucchFormat1_t::startingSymbolIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"timeDomainOCC", {"timeDomainOCC", way_3, 1, &nr_rrc::type_PUCCH_format1_timeDomainOCC}, nullptr, nullptr, "", 0, 6, offsetof(RrcPucchFormat1_t, timeDomainOCC), sizeof(RrcPucchFormat1_t::timeDomainOCC), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchFormat1_t[] = {
-    {offsetof(PUCCH_format1, initialCyclicShift), -1, 1, 0, 1},
-    {offsetof(PUCCH_format1, nrofSymbols), -1, 1, 0, 1},
-    {offsetof(PUCCH_format1, startingSymbolIndex), -1, 1, 0, 1},
-    {offsetof(PUCCH_format1, timeDomainOCC), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchFormat1_t = records::opsOf<records::opCount(sizeof(RrcPucchFormat1_t), fields_RrcPucchFormat1_t, sources_RrcPucchFormat1_t, nullptr, 0)>(sizeof(RrcPucchFormat1_t), fields_RrcPucchFormat1_t, sources_RrcPucchFormat1_t, nullptr, 0);
 constexpr auto checks_RrcPucchFormat1_t = records::checkOpsOf(fields_RrcPucchFormat1_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchFormat1_t = {"RrcPucchFormat1_t", "rrcCodec/rrcPucch.h", "PUCCH-format1", "", &nr_rrc::type_PUCCH_format1, sizeof(RrcPucchFormat1_t), 0, 4, 0, 0, fields_RrcPucchFormat1_t, nullptr, nullptr, ops_RrcPucchFormat1_t.data(), static_cast<UINT16>(ops_RrcPucchFormat1_t.size()), checks_RrcPucchFormat1_t.data(), 110};
+constexpr RrcRecordType type_RrcPucchFormat1_t = {"RrcPucchFormat1_t", "rrcCodec/rrcPucch.h", "PUCCH-format1", "", &nr_rrc::type_PUCCH_format1, sizeof(RrcPucchFormat1_t), 0, 4, 0, 0, fields_RrcPucchFormat1_t, nullptr, nullptr, checks_RrcPucchFormat1_t.data(), 110};
 
 constexpr RrcRecordField fields_RrcPucchFormat2_t[] = {
     {"nrofPRBs", {"nrofPRBs", way_0, 1, &nr_rrc::type_PUCCH_format2_nrofPRBs}, nullptr, nullptr, "", 1, 16, offsetof(RrcPucchFormat2_t, nrofPRBs), sizeof(RrcPucchFormat2_t::nrofPRBs), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"nrofSymbols", {"nrofSymbols", way_1, 1, &nr_rrc::type_PUCCH_format2_nrofSymbols}, nullptr, nullptr, "", 1, 2, offsetof(RrcPucchFormat2_t, nrofSymbols), sizeof(RrcPucchFormat2_t::nrofSymbols), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"startingSymbolIdx", {"startingSymbolIndex", way_2, 1, &nr_rrc::type_PUCCH_format2_startingSymbolIndex}, nullptr, nullptr, "", 0, 13, offsetof(RrcPucchFormat2_t, startingSymbolIdx), sizeof(RrcPucchFormat2_t::startingSymbolIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchFormat2_t[] = {
-    {offsetof(PUCCH_format2, nrofPRBs), -1, 1, 0, 1},
-    {offsetof(PUCCH_format2, nrofSymbols), -1, 1, 0, 1},
-    {offsetof(PUCCH_format2, startingSymbolIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchFormat2_t = records::opsOf<records::opCount(sizeof(RrcPucchFormat2_t), fields_RrcPucchFormat2_t, sources_RrcPucchFormat2_t, nullptr, 0)>(sizeof(RrcPucchFormat2_t), fields_RrcPucchFormat2_t, sources_RrcPucchFormat2_t, nullptr, 0);
 constexpr auto checks_RrcPucchFormat2_t = records::checkOpsOf(fields_RrcPucchFormat2_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchFormat2_t = {"RrcPucchFormat2_t", "rrcCodec/rrcPucch.h", "PUCCH-format2", "", &nr_rrc::type_PUCCH_format2, sizeof(RrcPucchFormat2_t), 0, 3, 0, 0, fields_RrcPucchFormat2_t, nullptr, nullptr, ops_RrcPucchFormat2_t.data(), static_cast<UINT16>(ops_RrcPucchFormat2_t.size()), checks_RrcPucchFormat2_t.data(), 109};
+constexpr RrcRecordType type_RrcPucchFormat2_t = {"RrcPucchFormat2_t", "rrcCodec/rrcPucch.h", "PUCCH-format2", "", &nr_rrc::type_PUCCH_format2, sizeof(RrcPucchFormat2_t), 0, 3, 0, 0, fields_RrcPucchFormat2_t, nullptr, nullptr, checks_RrcPucchFormat2_t.data(), 109};
 
 constexpr RrcRecordField fields_RrcPucchFormat3_t[] = {
     {"nrofPRBs", {"nrofPRBs", way_0, 1, &nr_rrc::type_PUCCH_format3_nrofPRBs}, nullptr, nullptr, "", 1, 16, offsetof(RrcPucchFormat3_t, nrofPRBs), sizeof(RrcPucchFormat3_t::nrofPRBs), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"nrofSymbols", {"nrofSymbols", way_1, 1, &nr_rrc::type_PUCCH_format3_nrofSymbols}, nullptr, nullptr, "", 4, 14, offsetof(RrcPucchFormat3_t, nrofSymbols), sizeof(RrcPucchFormat3_t::nrofSymbols), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"startingSymbolIdx", {"startingSymbolIndex", way_2, 1, &nr_rrc::type_PUCCH_format3_startingSymbolIndex}, nullptr, nullptr, "", 0, 10, offsetof(RrcPucchFormat3_t, startingSymbolIdx), sizeof(RrcPucchFormat3_t::startingSymbolIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchFormat3_t[] = {
-    {offsetof(PUCCH_format3, nrofPRBs), -1, 1, 0, 1},
-    {offsetof(PUCCH_format3, nrofSymbols), -1, 1, 0, 1},
-    {offsetof(PUCCH_format3, startingSymbolIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchFormat3_t = records::opsOf<records::opCount(sizeof(RrcPucchFormat3_t), fields_RrcPucchFormat3_t, sources_RrcPucchFormat3_t, nullptr, 0)>(sizeof(RrcPucchFormat3_t), fields_RrcPucchFormat3_t, sources_RrcPucchFormat3_t, nullptr, 0);
 constexpr auto checks_RrcPucchFormat3_t = records::checkOpsOf(fields_RrcPucchFormat3_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchFormat3_t = {"RrcPucchFormat3_t", "rrcCodec/rrcPucch.h", "PUCCH-format3", "", &nr_rrc::type_PUCCH_format3, sizeof(RrcPucchFormat3_t), 0, 3, 0, 0, fields_RrcPucchFormat3_t, nullptr, nullptr, ops_RrcPucchFormat3_t.data(), static_cast<UINT16>(ops_RrcPucchFormat3_t.size()), checks_RrcPucchFormat3_t.data(), 108};
+constexpr RrcRecordType type_RrcPucchFormat3_t = {"RrcPucchFormat3_t", "rrcCodec/rrcPucch.h", "PUCCH-format3", "", &nr_rrc::type_PUCCH_format3, sizeof(RrcPucchFormat3_t), 0, 3, 0, 0, fields_RrcPucchFormat3_t, nullptr, nullptr, checks_RrcPucchFormat3_t.data(), 108};
 
 constexpr RrcRecordField fields_RrcPucchFormat4_t[] = {
     {"nrofSymbols", {"nrofSymbols", way_0, 1, &nr_rrc::type_PUCCH_format4_nrofSymbols}, nullptr, nullptr, "", 4, 14, offsetof(RrcPucchFormat4_t, nrofSymbols), sizeof(RrcPucchFormat4_t::nrofSymbols), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3188,15 +2135,8 @@ constexpr RrcRecordField fields_RrcPucchFormat4_t[] = {
     {"occIdx", {"occ-Index", way_2, 1, &nr_rrc::type_PUCCH_format4_occ_Index}, nullptr, nullptr, "", 0, 3, offsetof(RrcPucchFormat4_t, occIdx), sizeof(RrcPucchFormat4_t::occIdx), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"startingSymbolIdx", {"startingSymbolIndex", way_3, 1, &nr_rrc::type_PUCCH_format4_startingSymbolIndex}, nullptr, nullptr, "", 0, 10, offsetof(RrcPucchFormat4_t, startingSymbolIdx), sizeof(RrcPucchFormat4_t::startingSymbolIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchFormat4_t[] = {
-    {offsetof(PUCCH_format4, nrofSymbols), -1, 1, 0, 1},
-    {offsetof(PUCCH_format4, occ_Length), -1, 4, 0, 1},
-    {offsetof(PUCCH_format4, occ_Index), -1, 4, 0, 1},
-    {offsetof(PUCCH_format4, startingSymbolIndex), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchFormat4_t = records::opsOf<records::opCount(sizeof(RrcPucchFormat4_t), fields_RrcPucchFormat4_t, sources_RrcPucchFormat4_t, nullptr, 0)>(sizeof(RrcPucchFormat4_t), fields_RrcPucchFormat4_t, sources_RrcPucchFormat4_t, nullptr, 0);
 constexpr auto checks_RrcPucchFormat4_t = records::checkOpsOf(fields_RrcPucchFormat4_t, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchFormat4_t = {"RrcPucchFormat4_t", "rrcCodec/rrcPucch.h", "PUCCH-format4", "", &nr_rrc::type_PUCCH_format4, sizeof(RrcPucchFormat4_t), 0, 4, 0, 0, fields_RrcPucchFormat4_t, nullptr, nullptr, ops_RrcPucchFormat4_t.data(), static_cast<UINT16>(ops_RrcPucchFormat4_t.size()), checks_RrcPucchFormat4_t.data(), 107};
+constexpr RrcRecordType type_RrcPucchFormat4_t = {"RrcPucchFormat4_t", "rrcCodec/rrcPucch.h", "PUCCH-format4", "", &nr_rrc::type_PUCCH_format4, sizeof(RrcPucchFormat4_t), 0, 4, 0, 0, fields_RrcPucchFormat4_t, nullptr, nullptr, checks_RrcPucchFormat4_t.data(), 107};
 
 constexpr RrcRecordField fields_RrcPucchResource_t_format[] = {
     {"format0", {"format0", way_0, 1, &nr_rrc::type_PUCCH_format0}, &type_RrcPucchFormat0_t, nullptr, "", 0, 0, offsetof(decltype(RrcPucchResource_t::format), format0), sizeof(decltype(RrcPucchResource_t::format)::format0), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -3205,16 +2145,8 @@ constexpr RrcRecordField fields_RrcPucchResource_t_format[] = {
     {"format3", {"format3", way_3, 1, &nr_rrc::type_PUCCH_format3}, &type_RrcPucchFormat3_t, nullptr, "", 0, 0, offsetof(decltype(RrcPucchResource_t::format), format3), sizeof(decltype(RrcPucchResource_t::format)::format3), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"format4", {"format4", way_4, 1, &nr_rrc::type_PUCCH_format4}, &type_RrcPucchFormat4_t, nullptr, "", 0, 0, offsetof(decltype(RrcPucchResource_t::format), format4), sizeof(decltype(RrcPucchResource_t::format)::format4), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchResource_t_format[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcPucchResource_t_format = records::opsOf<records::opCount(sizeof(decltype(RrcPucchResource_t::format)), fields_RrcPucchResource_t_format, sources_RrcPucchResource_t_format, nullptr, 0)>(sizeof(decltype(RrcPucchResource_t::format)), fields_RrcPucchResource_t_format, sources_RrcPucchResource_t_format, nullptr, 0);
 constexpr auto checks_RrcPucchResource_t_format = records::checkOpsOf(fields_RrcPucchResource_t_format, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchResource_t_format = {"RrcPucchResource_t.format", "rrcCodec/rrcPucch.h", "format", "", &nr_rrc::type_PUCCH_Resource_format, sizeof(decltype(RrcPucchResource_t::format)), 1, 5, 0, 0, fields_RrcPucchResource_t_format, nullptr, nullptr, ops_RrcPucchResource_t_format.data(), static_cast<UINT16>(ops_RrcPucchResource_t_format.size()), checks_RrcPucchResource_t_format.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcPucchResource_t_format = {"RrcPucchResource_t.format", "rrcCodec/rrcPucch.h", "format", "", &nr_rrc::type_PUCCH_Resource_format, sizeof(decltype(RrcPucchResource_t::format)), 1, 5, 0, 0, fields_RrcPucchResource_t_format, nullptr, nullptr, checks_RrcPucchResource_t_format.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcPucchResource_t[] = {
     {"pucchResourceId", {"pucch-ResourceId", way_0, 1, &nr_rrc::type_PUCCH_ResourceId}, nullptr, nullptr, "", 0, 127, offsetof(RrcPucchResource_t, pucchResourceId), sizeof(RrcPucchResource_t::pucchResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3244,30 +2176,15 @@ constexpr RrcRecordOption options_RrcPucchResource_t_0[] = {
 constexpr RrcRecordChoice choices_RrcPucchResource_t[] = {
     {{"format", way_4, 1, &nr_rrc::type_PUCCH_Resource_format}, 2, 0, 5, options_RrcPucchResource_t_0},
 };
-constexpr RrcRecordSource sources_RrcPucchResource_t[] = {
-    {offsetof(PUCCH_Resource, pucch_ResourceId), -1, 1, 0, 1},
-    {offsetof(PUCCH_Resource, startingPRB), -1, 2, 0, 1},
-    {},
-    {offsetof(PUCCH_Resource, format), -1, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Resource, intraSlotFrequencyHopping), 0, 4, 0, 1},
-    {offsetof(PUCCH_Resource, secondHopPRB), 1, 2, 0, 1},
-};
-constexpr auto ops_RrcPucchResource_t = records::opsOf<records::opCount(sizeof(RrcPucchResource_t), fields_RrcPucchResource_t, sources_RrcPucchResource_t, bits_RrcPucchResource_t, 7)>(sizeof(RrcPucchResource_t), fields_RrcPucchResource_t, sources_RrcPucchResource_t, bits_RrcPucchResource_t, 7);
 constexpr auto checks_RrcPucchResource_t = records::checkOpsOf(fields_RrcPucchResource_t, bits_RrcPucchResource_t, 7);
-constexpr RrcRecordType type_RrcPucchResource_t = {"RrcPucchResource_t", "rrcCodec/rrcPucch.h", "PUCCH-Resource", "", &nr_rrc::type_PUCCH_Resource, sizeof(RrcPucchResource_t), 0, 7, 7, 1, fields_RrcPucchResource_t, bits_RrcPucchResource_t, choices_RrcPucchResource_t, ops_RrcPucchResource_t.data(), static_cast<UINT16>(ops_RrcPucchResource_t.size()), checks_RrcPucchResource_t.data(), 106};
+constexpr RrcRecordType type_RrcPucchResource_t = {"RrcPucchResource_t", "rrcCodec/rrcPucch.h", "PUCCH-Resource", "", &nr_rrc::type_PUCCH_Resource, sizeof(RrcPucchResource_t), 0, 7, 7, 1, fields_RrcPucchResource_t, bits_RrcPucchResource_t, choices_RrcPucchResource_t, checks_RrcPucchResource_t.data(), 106};
 
 constexpr RrcRecordField fields_RrcSchedReqResourceCfg_t_periodAndOffset[] = {
     {"period", {}, nullptr, nullptr, "presence tells the periodicity", 0, 0, offsetof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset), period), sizeof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset)::period), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
     {"offset", {}, nullptr, "slots", "below the periodicity", 0, 0, offsetof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset), offset), sizeof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset)::offset), 0, 0, RRC_FIELD_VALUE, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSchedReqResourceCfg_t_periodAndOffset[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcSchedReqResourceCfg_t_periodAndOffset = records::opsOf<records::opCount(sizeof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset)), fields_RrcSchedReqResourceCfg_t_periodAndOffset, sources_RrcSchedReqResourceCfg_t_periodAndOffset, nullptr, 0)>(sizeof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset)), fields_RrcSchedReqResourceCfg_t_periodAndOffset, sources_RrcSchedReqResourceCfg_t_periodAndOffset, nullptr, 0);
 constexpr auto checks_RrcSchedReqResourceCfg_t_periodAndOffset = records::checkOpsOf(fields_RrcSchedReqResourceCfg_t_periodAndOffset, nullptr, 0);
-constexpr RrcRecordType type_RrcSchedReqResourceCfg_t_periodAndOffset = {"RrcSchedReqResourceCfg_t.periodAndOffset", "rrcCodec/rrcPucch.h", "periodicityAndOffset", "", &nr_rrc::type_SchedulingRequestResourceConfig_periodicityAndOffset, sizeof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset)), 0, 2, 0, 0, fields_RrcSchedReqResourceCfg_t_periodAndOffset, nullptr, nullptr, ops_RrcSchedReqResourceCfg_t_periodAndOffset.data(), static_cast<UINT16>(ops_RrcSchedReqResourceCfg_t_periodAndOffset.size()), checks_RrcSchedReqResourceCfg_t_periodAndOffset.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcSchedReqResourceCfg_t_periodAndOffset = {"RrcSchedReqResourceCfg_t.periodAndOffset", "rrcCodec/rrcPucch.h", "periodicityAndOffset", "", &nr_rrc::type_SchedulingRequestResourceConfig_periodicityAndOffset, sizeof(decltype(RrcSchedReqResourceCfg_t::periodAndOffset)), 0, 2, 0, 0, fields_RrcSchedReqResourceCfg_t_periodAndOffset, nullptr, nullptr, checks_RrcSchedReqResourceCfg_t_periodAndOffset.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcSchedReqResourceCfg_t[] = {
     {"schedReqResourceId", {"schedulingRequestResourceId", way_0, 1, &nr_rrc::type_SchedulingRequestResourceId}, nullptr, nullptr, "", 1, 8, offsetof(RrcSchedReqResourceCfg_t, schedReqResourceId), sizeof(RrcSchedReqResourceCfg_t::schedReqResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3316,43 +2233,23 @@ constexpr RrcRecordOption options_RrcSchedReqResourceCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSchedReqResourceCfg_t[] = {
     {{"periodicityAndOffset", way_2, 1, &nr_rrc::type_SchedulingRequestResourceConfig_periodicityAndOffset}, 4, 0, 15, options_RrcSchedReqResourceCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcSchedReqResourceCfg_t[] = {
-    {offsetof(SchedulingRequestResourceConfig, schedulingRequestResourceId), -1, 1, 0, 1},
-    {offsetof(SchedulingRequestResourceConfig, schedulingRequestID), -1, 1, 0, 1},
-    {},
-    {offsetof(SchedulingRequestResourceConfig, resource), 1, 1, 0, 1},
-    {},
-    {offsetof(SchedulingRequestResourceConfig, periodicityAndOffset), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcSchedReqResourceCfg_t = records::opsOf<records::opCount(sizeof(RrcSchedReqResourceCfg_t), fields_RrcSchedReqResourceCfg_t, sources_RrcSchedReqResourceCfg_t, bits_RrcSchedReqResourceCfg_t, 17)>(sizeof(RrcSchedReqResourceCfg_t), fields_RrcSchedReqResourceCfg_t, sources_RrcSchedReqResourceCfg_t, bits_RrcSchedReqResourceCfg_t, 17);
 constexpr auto checks_RrcSchedReqResourceCfg_t = records::checkOpsOf(fields_RrcSchedReqResourceCfg_t, bits_RrcSchedReqResourceCfg_t, 17);
-constexpr RrcRecordType type_RrcSchedReqResourceCfg_t = {"RrcSchedReqResourceCfg_t", "rrcCodec/rrcPucch.h", "SchedulingRequestResourceConfig", "", &nr_rrc::type_SchedulingRequestResourceConfig, sizeof(RrcSchedReqResourceCfg_t), 0, 6, 17, 1, fields_RrcSchedReqResourceCfg_t, bits_RrcSchedReqResourceCfg_t, choices_RrcSchedReqResourceCfg_t, ops_RrcSchedReqResourceCfg_t.data(), static_cast<UINT16>(ops_RrcSchedReqResourceCfg_t.size()), checks_RrcSchedReqResourceCfg_t.data(), 105};
+constexpr RrcRecordType type_RrcSchedReqResourceCfg_t = {"RrcSchedReqResourceCfg_t", "rrcCodec/rrcPucch.h", "SchedulingRequestResourceConfig", "", &nr_rrc::type_SchedulingRequestResourceConfig, sizeof(RrcSchedReqResourceCfg_t), 0, 6, 17, 1, fields_RrcSchedReqResourceCfg_t, bits_RrcSchedReqResourceCfg_t, choices_RrcSchedReqResourceCfg_t, checks_RrcSchedReqResourceCfg_t.data(), 105};
 
 constexpr RrcRecordField fields_RrcPucchSpatialRelationInfo_t_referSignal_srs[] = {
     {"srsResourceId", {"resource", way_0, 1, &nr_rrc::type_SRS_ResourceId}, nullptr, nullptr, "", 0, 63, offsetof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs), srsResourceId), sizeof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs)::srsResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"ulBwpId", {"uplinkBWP", way_1, 1, &nr_rrc::type_BWP_Id}, nullptr, nullptr, "", 0, 4, offsetof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs), ulBwpId), sizeof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs)::ulBwpId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchSpatialRelationInfo_t_referSignal_srs[] = {
-    {offsetof(PUCCH_SpatialRelationInfo_referenceSignal_srs, resource), -1, 1, 0, 1},
-    {offsetof(PUCCH_SpatialRelationInfo_referenceSignal_srs, uplinkBWP), -1, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchSpatialRelationInfo_t_referSignal_srs = records::opsOf<records::opCount(sizeof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs)), fields_RrcPucchSpatialRelationInfo_t_referSignal_srs, sources_RrcPucchSpatialRelationInfo_t_referSignal_srs, nullptr, 0)>(sizeof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs)), fields_RrcPucchSpatialRelationInfo_t_referSignal_srs, sources_RrcPucchSpatialRelationInfo_t_referSignal_srs, nullptr, 0);
 constexpr auto checks_RrcPucchSpatialRelationInfo_t_referSignal_srs = records::checkOpsOf(fields_RrcPucchSpatialRelationInfo_t_referSignal_srs, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchSpatialRelationInfo_t_referSignal_srs = {"RrcPucchSpatialRelationInfo_t.referSignal.srs", "rrcCodec/rrcPucch.h", "srs", "", &nr_rrc::type_PUCCH_SpatialRelationInfo_referenceSignal_srs, sizeof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs)), 0, 2, 0, 0, fields_RrcPucchSpatialRelationInfo_t_referSignal_srs, nullptr, nullptr, ops_RrcPucchSpatialRelationInfo_t_referSignal_srs.data(), static_cast<UINT16>(ops_RrcPucchSpatialRelationInfo_t_referSignal_srs.size()), checks_RrcPucchSpatialRelationInfo_t_referSignal_srs.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcPucchSpatialRelationInfo_t_referSignal_srs = {"RrcPucchSpatialRelationInfo_t.referSignal.srs", "rrcCodec/rrcPucch.h", "srs", "", &nr_rrc::type_PUCCH_SpatialRelationInfo_referenceSignal_srs, sizeof(decltype(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs)), 0, 2, 0, 0, fields_RrcPucchSpatialRelationInfo_t_referSignal_srs, nullptr, nullptr, checks_RrcPucchSpatialRelationInfo_t_referSignal_srs.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcPucchSpatialRelationInfo_t_referSignal[] = {
     {"ssbIdx", {"ssb-Index", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(decltype(RrcPucchSpatialRelationInfo_t::referSignal), ssbIdx), sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-RS-Index", way_1, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(decltype(RrcPucchSpatialRelationInfo_t::referSignal), csiRsIdx), sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"srs", {"srs", way_2, 1, &nr_rrc::type_PUCCH_SpatialRelationInfo_referenceSignal_srs}, &type_RrcPucchSpatialRelationInfo_t_referSignal_srs, nullptr, "", 0, 0, offsetof(decltype(RrcPucchSpatialRelationInfo_t::referSignal), srs), sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)::srs), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchSpatialRelationInfo_t_referSignal[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_RrcPucchSpatialRelationInfo_t_referSignal = records::opsOf<records::opCount(sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)), fields_RrcPucchSpatialRelationInfo_t_referSignal, sources_RrcPucchSpatialRelationInfo_t_referSignal, nullptr, 0)>(sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)), fields_RrcPucchSpatialRelationInfo_t_referSignal, sources_RrcPucchSpatialRelationInfo_t_referSignal, nullptr, 0);
 constexpr auto checks_RrcPucchSpatialRelationInfo_t_referSignal = records::checkOpsOf(fields_RrcPucchSpatialRelationInfo_t_referSignal, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchSpatialRelationInfo_t_referSignal = {"RrcPucchSpatialRelationInfo_t.referSignal", "rrcCodec/rrcPucch.h", "referenceSignal", "", &nr_rrc::type_PUCCH_SpatialRelationInfo_referenceSignal, sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)), 1, 3, 0, 0, fields_RrcPucchSpatialRelationInfo_t_referSignal, nullptr, nullptr, ops_RrcPucchSpatialRelationInfo_t_referSignal.data(), static_cast<UINT16>(ops_RrcPucchSpatialRelationInfo_t_referSignal.size()), checks_RrcPucchSpatialRelationInfo_t_referSignal.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcPucchSpatialRelationInfo_t_referSignal = {"RrcPucchSpatialRelationInfo_t.referSignal", "rrcCodec/rrcPucch.h", "referenceSignal", "", &nr_rrc::type_PUCCH_SpatialRelationInfo_referenceSignal, sizeof(decltype(RrcPucchSpatialRelationInfo_t::referSignal)), 1, 3, 0, 0, fields_RrcPucchSpatialRelationInfo_t_referSignal, nullptr, nullptr, checks_RrcPucchSpatialRelationInfo_t_referSignal.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcPucchSpatialRelationInfo_t[] = {
     {"pucchSpatialRelationInfoId", {"pucch-SpatialRelationInfoId", way_0, 1, &nr_rrc::type_PUCCH_SpatialRelationInfoId}, nullptr, nullptr, "", 1, 8, offsetof(RrcPucchSpatialRelationInfo_t, pucchSpatialRelationInfoId), sizeof(RrcPucchSpatialRelationInfo_t::pucchSpatialRelationInfoId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3378,19 +2275,8 @@ constexpr RrcRecordOption options_RrcPucchSpatialRelationInfo_t_0[] = {
 constexpr RrcRecordChoice choices_RrcPucchSpatialRelationInfo_t[] = {
     {{"referenceSignal", way_2, 1, &nr_rrc::type_PUCCH_SpatialRelationInfo_referenceSignal}, 1, 0, 3, options_RrcPucchSpatialRelationInfo_t_0},
 };
-constexpr RrcRecordSource sources_RrcPucchSpatialRelationInfo_t[] = {
-    {offsetof(PUCCH_SpatialRelationInfo, pucch_SpatialRelationInfoId), -1, 1, 0, 1},
-    {},
-    {offsetof(PUCCH_SpatialRelationInfo, referenceSignal), -1, 0, 0, 1},
-    {offsetof(PUCCH_SpatialRelationInfo, pucch_PathlossReferenceRS_Id), -1, 1, 0, 1},
-    {offsetof(PUCCH_SpatialRelationInfo, p0_PUCCH_Id), -1, 1, 0, 1},
-    {offsetof(PUCCH_SpatialRelationInfo, closedLoopIndex), -1, 4, 0, 1},
-    {},
-    {offsetof(PUCCH_SpatialRelationInfo, servingCellId), 0, 1, 0, 1},
-};
-constexpr auto ops_RrcPucchSpatialRelationInfo_t = records::opsOf<records::opCount(sizeof(RrcPucchSpatialRelationInfo_t), fields_RrcPucchSpatialRelationInfo_t, sources_RrcPucchSpatialRelationInfo_t, bits_RrcPucchSpatialRelationInfo_t, 4)>(sizeof(RrcPucchSpatialRelationInfo_t), fields_RrcPucchSpatialRelationInfo_t, sources_RrcPucchSpatialRelationInfo_t, bits_RrcPucchSpatialRelationInfo_t, 4);
 constexpr auto checks_RrcPucchSpatialRelationInfo_t = records::checkOpsOf(fields_RrcPucchSpatialRelationInfo_t, bits_RrcPucchSpatialRelationInfo_t, 4);
-constexpr RrcRecordType type_RrcPucchSpatialRelationInfo_t = {"RrcPucchSpatialRelationInfo_t", "rrcCodec/rrcPucch.h", "PUCCH-SpatialRelationInfo", "", &nr_rrc::type_PUCCH_SpatialRelationInfo, sizeof(RrcPucchSpatialRelationInfo_t), 0, 8, 4, 1, fields_RrcPucchSpatialRelationInfo_t, bits_RrcPucchSpatialRelationInfo_t, choices_RrcPucchSpatialRelationInfo_t, ops_RrcPucchSpatialRelationInfo_t.data(), static_cast<UINT16>(ops_RrcPucchSpatialRelationInfo_t.size()), checks_RrcPucchSpatialRelationInfo_t.data(), 104};
+constexpr RrcRecordType type_RrcPucchSpatialRelationInfo_t = {"RrcPucchSpatialRelationInfo_t", "rrcCodec/rrcPucch.h", "PUCCH-SpatialRelationInfo", "", &nr_rrc::type_PUCCH_SpatialRelationInfo, sizeof(RrcPucchSpatialRelationInfo_t), 0, 8, 4, 1, fields_RrcPucchSpatialRelationInfo_t, bits_RrcPucchSpatialRelationInfo_t, choices_RrcPucchSpatialRelationInfo_t, checks_RrcPucchSpatialRelationInfo_t.data(), 104};
 
 constexpr RrcRecordField fields_RrcPucchFormatCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 63, offsetof(RrcPucchFormatCfg_t, bitMask), sizeof(RrcPucchFormatCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3409,42 +2295,22 @@ constexpr RrcRecordBit bits_RrcPucchFormatCfg_t[] = {
     {"RRC_PUCCH_FORMAT_CFG_SIMULTANEOUS_HARQ_ACK_CSI_PRESENCE", "this bit and the next stand in the reverse of the standard's order", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
     {"RRC_PUCCH_FORMAT_CFG_PI2BPSK_PRESENCE", "", nullptr, {}, 0, 5, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchFormatCfg_t[] = {
-    {},
-    {offsetof(PUCCH_FormatConfig, interslotFrequencyHopping), 0, 4, 0, 1},
-    {offsetof(PUCCH_FormatConfig, additionalDMRS), 1, 4, 0, 1},
-    {offsetof(PUCCH_FormatConfig, maxCodeRate), 2, 4, 0, 1},
-    {offsetof(PUCCH_FormatConfig, nrofSlots), 3, 4, 0, 1},
-    {offsetof(PUCCH_FormatConfig, pi2BPSK), 4, 4, 0, 1},
-    {offsetof(PUCCH_FormatConfig, simultaneousHARQ_ACK_CSI), 5, 4, 0, 1},
-};
-constexpr auto ops_RrcPucchFormatCfg_t = records::opsOf<records::opCount(sizeof(RrcPucchFormatCfg_t), fields_RrcPucchFormatCfg_t, sources_RrcPucchFormatCfg_t, bits_RrcPucchFormatCfg_t, 6)>(sizeof(RrcPucchFormatCfg_t), fields_RrcPucchFormatCfg_t, sources_RrcPucchFormatCfg_t, bits_RrcPucchFormatCfg_t, 6);
 constexpr auto checks_RrcPucchFormatCfg_t = records::checkOpsOf(fields_RrcPucchFormatCfg_t, bits_RrcPucchFormatCfg_t, 6);
-constexpr RrcRecordType type_RrcPucchFormatCfg_t = {"RrcPucchFormatCfg_t", "rrcCodec/rrcPucch.h", "PUCCH-FormatConfig", "", &nr_rrc::type_PUCCH_FormatConfig, sizeof(RrcPucchFormatCfg_t), 0, 7, 6, 0, fields_RrcPucchFormatCfg_t, bits_RrcPucchFormatCfg_t, nullptr, ops_RrcPucchFormatCfg_t.data(), static_cast<UINT16>(ops_RrcPucchFormatCfg_t.size()), checks_RrcPucchFormatCfg_t.data(), 103};
+constexpr RrcRecordType type_RrcPucchFormatCfg_t = {"RrcPucchFormatCfg_t", "rrcCodec/rrcPucch.h", "PUCCH-FormatConfig", "", &nr_rrc::type_PUCCH_FormatConfig, sizeof(RrcPucchFormatCfg_t), 0, 7, 6, 0, fields_RrcPucchFormatCfg_t, bits_RrcPucchFormatCfg_t, nullptr, checks_RrcPucchFormatCfg_t.data(), 103};
 
 constexpr RrcRecordField fields_RrcP0Pucch_t[] = {
     {"p0PucchId", {"p0-PUCCH-Id", way_0, 1, &nr_rrc::type_P0_PUCCH_Id}, nullptr, nullptr, "", 1, 8, offsetof(RrcP0Pucch_t, p0PucchId), sizeof(RrcP0Pucch_t::p0PucchId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"poPucchValue", {"p0-PUCCH-Value", way_1, 1, &nr_rrc::type_P0_PUCCH_p0_PUCCH_Value}, nullptr, "dB", "", -16, 15, offsetof(RrcP0Pucch_t, poPucchValue), sizeof(RrcP0Pucch_t::poPucchValue), 0, 0, RRC_FIELD_NUMBER, RRC_FIELD_TWOS_COMPLEMENT, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcP0Pucch_t[] = {
-    {offsetof(P0_PUCCH, p0_PUCCH_Id), -1, 1, 0, 1},
-    {offsetof(P0_PUCCH, p0_PUCCH_Value), -1, 1, 1, 1},
-};
-constexpr auto ops_RrcP0Pucch_t = records::opsOf<records::opCount(sizeof(RrcP0Pucch_t), fields_RrcP0Pucch_t, sources_RrcP0Pucch_t, nullptr, 0)>(sizeof(RrcP0Pucch_t), fields_RrcP0Pucch_t, sources_RrcP0Pucch_t, nullptr, 0);
 constexpr auto checks_RrcP0Pucch_t = records::checkOpsOf(fields_RrcP0Pucch_t, nullptr, 0);
-constexpr RrcRecordType type_RrcP0Pucch_t = {"RrcP0Pucch_t", "rrcCodec/rrcPucch.h", "P0-PUCCH", "", &nr_rrc::type_P0_PUCCH, sizeof(RrcP0Pucch_t), 0, 2, 0, 0, fields_RrcP0Pucch_t, nullptr, nullptr, ops_RrcP0Pucch_t.data(), static_cast<UINT16>(ops_RrcP0Pucch_t.size()), checks_RrcP0Pucch_t.data(), 102};
+constexpr RrcRecordType type_RrcP0Pucch_t = {"RrcP0Pucch_t", "rrcCodec/rrcPucch.h", "P0-PUCCH", "", &nr_rrc::type_P0_PUCCH, sizeof(RrcP0Pucch_t), 0, 2, 0, 0, fields_RrcP0Pucch_t, nullptr, nullptr, checks_RrcP0Pucch_t.data(), 102};
 
 constexpr RrcRecordField fields_RrcPucchPathLossRefRs_t_refSignal[] = {
     {"ssbIdx", {"ssb-Index", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(decltype(RrcPucchPathLossRefRs_t::refSignal), ssbIdx), sizeof(decltype(RrcPucchPathLossRefRs_t::refSignal)::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-RS-Index", way_1, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(decltype(RrcPucchPathLossRefRs_t::refSignal), csiRsIdx), sizeof(decltype(RrcPucchPathLossRefRs_t::refSignal)::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchPathLossRefRs_t_refSignal[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcPucchPathLossRefRs_t_refSignal = records::opsOf<records::opCount(sizeof(decltype(RrcPucchPathLossRefRs_t::refSignal)), fields_RrcPucchPathLossRefRs_t_refSignal, sources_RrcPucchPathLossRefRs_t_refSignal, nullptr, 0)>(sizeof(decltype(RrcPucchPathLossRefRs_t::refSignal)), fields_RrcPucchPathLossRefRs_t_refSignal, sources_RrcPucchPathLossRefRs_t_refSignal, nullptr, 0);
 constexpr auto checks_RrcPucchPathLossRefRs_t_refSignal = records::checkOpsOf(fields_RrcPucchPathLossRefRs_t_refSignal, nullptr, 0);
-constexpr RrcRecordType type_RrcPucchPathLossRefRs_t_refSignal = {"RrcPucchPathLossRefRs_t.refSignal", "rrcCodec/rrcPucch.h", "referenceSignal", "", &nr_rrc::type_PUCCH_PathlossReferenceRS_referenceSignal, sizeof(decltype(RrcPucchPathLossRefRs_t::refSignal)), 1, 2, 0, 0, fields_RrcPucchPathLossRefRs_t_refSignal, nullptr, nullptr, ops_RrcPucchPathLossRefRs_t_refSignal.data(), static_cast<UINT16>(ops_RrcPucchPathLossRefRs_t_refSignal.size()), checks_RrcPucchPathLossRefRs_t_refSignal.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcPucchPathLossRefRs_t_refSignal = {"RrcPucchPathLossRefRs_t.refSignal", "rrcCodec/rrcPucch.h", "referenceSignal", "", &nr_rrc::type_PUCCH_PathlossReferenceRS_referenceSignal, sizeof(decltype(RrcPucchPathLossRefRs_t::refSignal)), 1, 2, 0, 0, fields_RrcPucchPathLossRefRs_t_refSignal, nullptr, nullptr, checks_RrcPucchPathLossRefRs_t_refSignal.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcPucchPathLossRefRs_t[] = {
     {"pucchPathLossRefRsId", {"pucch-PathlossReferenceRS-Id", way_0, 1, &nr_rrc::type_PUCCH_PathlossReferenceRS_Id}, nullptr, nullptr, "", 0, 3, offsetof(RrcPucchPathLossRefRs_t, pucchPathLossRefRsId), sizeof(RrcPucchPathLossRefRs_t::pucchPathLossRefRsId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3462,14 +2328,8 @@ constexpr RrcRecordOption options_RrcPucchPathLossRefRs_t_0[] = {
 constexpr RrcRecordChoice choices_RrcPucchPathLossRefRs_t[] = {
     {{"referenceSignal", way_1, 1, &nr_rrc::type_PUCCH_PathlossReferenceRS_referenceSignal}, 1, 0, 2, options_RrcPucchPathLossRefRs_t_0},
 };
-constexpr RrcRecordSource sources_RrcPucchPathLossRefRs_t[] = {
-    {offsetof(PUCCH_PathlossReferenceRS, pucch_PathlossReferenceRS_Id), -1, 1, 0, 1},
-    {},
-    {offsetof(PUCCH_PathlossReferenceRS, referenceSignal), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcPucchPathLossRefRs_t = records::opsOf<records::opCount(sizeof(RrcPucchPathLossRefRs_t), fields_RrcPucchPathLossRefRs_t, sources_RrcPucchPathLossRefRs_t, bits_RrcPucchPathLossRefRs_t, 2)>(sizeof(RrcPucchPathLossRefRs_t), fields_RrcPucchPathLossRefRs_t, sources_RrcPucchPathLossRefRs_t, bits_RrcPucchPathLossRefRs_t, 2);
 constexpr auto checks_RrcPucchPathLossRefRs_t = records::checkOpsOf(fields_RrcPucchPathLossRefRs_t, bits_RrcPucchPathLossRefRs_t, 2);
-constexpr RrcRecordType type_RrcPucchPathLossRefRs_t = {"RrcPucchPathLossRefRs_t", "rrcCodec/rrcPucch.h", "PUCCH-PathlossReferenceRS", "", &nr_rrc::type_PUCCH_PathlossReferenceRS, sizeof(RrcPucchPathLossRefRs_t), 0, 3, 2, 1, fields_RrcPucchPathLossRefRs_t, bits_RrcPucchPathLossRefRs_t, choices_RrcPucchPathLossRefRs_t, ops_RrcPucchPathLossRefRs_t.data(), static_cast<UINT16>(ops_RrcPucchPathLossRefRs_t.size()), checks_RrcPucchPathLossRefRs_t.data(), 101};
+constexpr RrcRecordType type_RrcPucchPathLossRefRs_t = {"RrcPucchPathLossRefRs_t", "rrcCodec/rrcPucch.h", "PUCCH-PathlossReferenceRS", "", &nr_rrc::type_PUCCH_PathlossReferenceRS, sizeof(RrcPucchPathLossRefRs_t), 0, 3, 2, 1, fields_RrcPucchPathLossRefRs_t, bits_RrcPucchPathLossRefRs_t, choices_RrcPucchPathLossRefRs_t, checks_RrcPucchPathLossRefRs_t.data(), 101};
 
 constexpr RrcRecordField fields_RrcPucchPowerControl_t[] = {
     {"numP0Set", {}, nullptr, nullptr, "", 1, 8, offsetof(RrcPucchPowerControl_t, numP0Set), sizeof(RrcPucchPowerControl_t::numP0Set), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, 5, -1, -1},
@@ -3494,22 +2354,8 @@ constexpr RrcRecordBit bits_RrcPucchPowerControl_t[] = {
     {"RRC_PUCCH_POWER_CONTROL_PATH_REFERENCE_RSS", "", nullptr, {}, 4, 6, RRC_BIT_GUARDS, -1},
     {"RRC_PUCCH_POWER_CONTROL_TWO_PUCCH_PC_ADJ_STATES_PRESENCE", "", nullptr, {}, 4, 7, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchPowerControl_t[] = {
-    {},
-    {offsetof(PUCCH_PowerControl, p0_Set), 5, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_PowerControl, pathlossReferenceRSs), 6, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_PowerControl, deltaF_PUCCH_f0), 0, 1, 1, 1},
-    {offsetof(PUCCH_PowerControl, deltaF_PUCCH_f1), 1, 1, 1, 1},
-    {offsetof(PUCCH_PowerControl, deltaF_PUCCH_f2), 2, 1, 1, 1},
-    {offsetof(PUCCH_PowerControl, deltaF_PUCCH_f3), 3, 1, 1, 1},
-    {offsetof(PUCCH_PowerControl, deltaF_PUCCH_f4), 4, 1, 1, 1},
-    {offsetof(PUCCH_PowerControl, twoPUCCH_PC_AdjustmentStates), 7, 4, 0, 1},
-};
-constexpr auto ops_RrcPucchPowerControl_t = records::opsOf<records::opCount(sizeof(RrcPucchPowerControl_t), fields_RrcPucchPowerControl_t, sources_RrcPucchPowerControl_t, bits_RrcPucchPowerControl_t, 8)>(sizeof(RrcPucchPowerControl_t), fields_RrcPucchPowerControl_t, sources_RrcPucchPowerControl_t, bits_RrcPucchPowerControl_t, 8);
 constexpr auto checks_RrcPucchPowerControl_t = records::checkOpsOf(fields_RrcPucchPowerControl_t, bits_RrcPucchPowerControl_t, 8);
-constexpr RrcRecordType type_RrcPucchPowerControl_t = {"RrcPucchPowerControl_t", "rrcCodec/rrcPucch.h", "PUCCH-PowerControl", "A list that is given needs at least one entry.", &nr_rrc::type_PUCCH_PowerControl, sizeof(RrcPucchPowerControl_t), 0, 11, 8, 0, fields_RrcPucchPowerControl_t, bits_RrcPucchPowerControl_t, nullptr, ops_RrcPucchPowerControl_t.data(), static_cast<UINT16>(ops_RrcPucchPowerControl_t.size()), checks_RrcPucchPowerControl_t.data(), 100};
+constexpr RrcRecordType type_RrcPucchPowerControl_t = {"RrcPucchPowerControl_t", "rrcCodec/rrcPucch.h", "PUCCH-PowerControl", "A list that is given needs at least one entry.", &nr_rrc::type_PUCCH_PowerControl, sizeof(RrcPucchPowerControl_t), 0, 11, 8, 0, fields_RrcPucchPowerControl_t, bits_RrcPucchPowerControl_t, nullptr, checks_RrcPucchPowerControl_t.data(), 100};
 
 constexpr RrcRecordField fields_RrcPucchCfg_t[] = {
     {"numResourceSetAddMod", {}, nullptr, nullptr, "", 0, 4, offsetof(RrcPucchCfg_t, numResourceSetAddMod), sizeof(RrcPucchCfg_t::numResourceSetAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -3546,37 +2392,8 @@ constexpr RrcRecordBit bits_RrcPucchCfg_t[] = {
     {"RRC_PUCCH_CFG_FORMAT4_PRESENCE", "", nullptr, {}, 20, 3, RRC_BIT_GUARDS, -1},
     {"RRC_PUCCH_CFG_POWER_CONTROL_PRESENCE", "", nullptr, {}, 20, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPucchCfg_t[] = {
-    {},
-    {offsetof(PUCCH_Config, resourceSetToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, resourceSetToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, resourceToAddModList), 2, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, resourceToReleaseList), 3, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, schedulingRequestResourceToAddModList), 8, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, schedulingRequestResourceToReleaseList), 9, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, multi_CSI_PUCCH_ResourceList), 10, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, dl_DataToUL_ACK), 11, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, spatialRelationInfoToAddModList), 12, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, spatialRelationInfoToReleaseList), 13, 0, 0, 1},
-    {},
-    {offsetof(PUCCH_Config, format1), 4, 0, 0, 1},
-    {offsetof(PUCCH_Config, format2), 5, 0, 0, 1},
-    {offsetof(PUCCH_Config, format3), 6, 0, 0, 1},
-    {offsetof(PUCCH_Config, format4), 7, 0, 0, 1},
-    {offsetof(PUCCH_Config, pucch_PowerControl), 14, 0, 0, 1},
-};
-constexpr auto ops_RrcPucchCfg_t = records::opsOf<records::opCount(sizeof(RrcPucchCfg_t), fields_RrcPucchCfg_t, sources_RrcPucchCfg_t, bits_RrcPucchCfg_t, 5)>(sizeof(RrcPucchCfg_t), fields_RrcPucchCfg_t, sources_RrcPucchCfg_t, bits_RrcPucchCfg_t, 5);
 constexpr auto checks_RrcPucchCfg_t = records::checkOpsOf(fields_RrcPucchCfg_t, bits_RrcPucchCfg_t, 5);
-constexpr RrcRecordType type_RrcPucchCfg_t = {"RrcPucchCfg_t", "rrcCodec/rrcPucch.h", "PUCCH-Config", "A list is sent when its count is not 0.", &nr_rrc::type_PUCCH_Config, sizeof(RrcPucchCfg_t), 0, 26, 5, 0, fields_RrcPucchCfg_t, bits_RrcPucchCfg_t, nullptr, ops_RrcPucchCfg_t.data(), static_cast<UINT16>(ops_RrcPucchCfg_t.size()), checks_RrcPucchCfg_t.data(), 99};
+constexpr RrcRecordType type_RrcPucchCfg_t = {"RrcPucchCfg_t", "rrcCodec/rrcPucch.h", "PUCCH-Config", "A list is sent when its count is not 0.", &nr_rrc::type_PUCCH_Config, sizeof(RrcPucchCfg_t), 0, 26, 5, 0, fields_RrcPucchCfg_t, bits_RrcPucchCfg_t, nullptr, checks_RrcPucchCfg_t.data(), 99};
 
 constexpr RrcRecordField fields_RrcPtrsUlTransformPrecodeDisable_t[] = {
     {"maxNrofPorts", {"maxNrofPorts", way_2, 1, &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderDisabled_maxNrofPorts}, nullptr, nullptr, "", 0, 1, offsetof(RrcPtrsUlTransformPrecodeDisable_t, maxNrofPorts), sizeof(RrcPtrsUlTransformPrecodeDisable_t::maxNrofPorts), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -3591,17 +2408,8 @@ constexpr RrcRecordBit bits_RrcPtrsUlTransformPrecodeDisable_t[] = {
     {"RRC_PTRS_UL_CFG_DISABLE_TIME_DENSITY_PRESENCE", "", nullptr, {}, 2, 1, RRC_BIT_GUARDS, -1},
     {"RRC_PTRS_UL_CFG_DISABLE_RESOURCE_ELE_OFFSET_PRESENCE", "", nullptr, {}, 2, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPtrsUlTransformPrecodeDisable_t[] = {
-    {offsetof(PTRS_UplinkConfig_transformPrecoderDisabled, maxNrofPorts), -1, 4, 0, 1},
-    {offsetof(PTRS_UplinkConfig_transformPrecoderDisabled, ptrs_Power), -1, 4, 0, 1},
-    {},
-    {offsetof(PTRS_UplinkConfig_transformPrecoderDisabled, frequencyDensity), 0, 0, 0, 1},
-    {offsetof(PTRS_UplinkConfig_transformPrecoderDisabled, timeDensity), 1, 0, 0, 1},
-    {offsetof(PTRS_UplinkConfig_transformPrecoderDisabled, resourceElementOffset), 2, 4, 0, 1},
-};
-constexpr auto ops_RrcPtrsUlTransformPrecodeDisable_t = records::opsOf<records::opCount(sizeof(RrcPtrsUlTransformPrecodeDisable_t), fields_RrcPtrsUlTransformPrecodeDisable_t, sources_RrcPtrsUlTransformPrecodeDisable_t, bits_RrcPtrsUlTransformPrecodeDisable_t, 3)>(sizeof(RrcPtrsUlTransformPrecodeDisable_t), fields_RrcPtrsUlTransformPrecodeDisable_t, sources_RrcPtrsUlTransformPrecodeDisable_t, bits_RrcPtrsUlTransformPrecodeDisable_t, 3);
 constexpr auto checks_RrcPtrsUlTransformPrecodeDisable_t = records::checkOpsOf(fields_RrcPtrsUlTransformPrecodeDisable_t, bits_RrcPtrsUlTransformPrecodeDisable_t, 3);
-constexpr RrcRecordType type_RrcPtrsUlTransformPrecodeDisable_t = {"RrcPtrsUlTransformPrecodeDisable_t", "rrcCodec/rrcPusch.h", "PTRS-UplinkConfig.transformPrecoderDisabled", "", &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderDisabled, sizeof(RrcPtrsUlTransformPrecodeDisable_t), 0, 6, 3, 0, fields_RrcPtrsUlTransformPrecodeDisable_t, bits_RrcPtrsUlTransformPrecodeDisable_t, nullptr, ops_RrcPtrsUlTransformPrecodeDisable_t.data(), static_cast<UINT16>(ops_RrcPtrsUlTransformPrecodeDisable_t.size()), checks_RrcPtrsUlTransformPrecodeDisable_t.data(), 98};
+constexpr RrcRecordType type_RrcPtrsUlTransformPrecodeDisable_t = {"RrcPtrsUlTransformPrecodeDisable_t", "rrcCodec/rrcPusch.h", "PTRS-UplinkConfig.transformPrecoderDisabled", "", &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderDisabled, sizeof(RrcPtrsUlTransformPrecodeDisable_t), 0, 6, 3, 0, fields_RrcPtrsUlTransformPrecodeDisable_t, bits_RrcPtrsUlTransformPrecodeDisable_t, nullptr, checks_RrcPtrsUlTransformPrecodeDisable_t.data(), 98};
 
 constexpr RrcRecordField fields_RrcPtrsUlTransformPrecodeEnable_t[] = {
     {"sampleDensity", {"sampleDensity", way_16, 2, &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderEnabled_sampleDensity_element}, nullptr, "PRBs", "", 1, 276, offsetof(RrcPtrsUlTransformPrecodeEnable_t, sampleDensity), sizeof(RrcPtrsUlTransformPrecodeEnable_t::sampleDensity[0]), sizeof(RrcPtrsUlTransformPrecodeEnable_t::sampleDensity) / sizeof(RrcPtrsUlTransformPrecodeEnable_t::sampleDensity[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3611,14 +2419,8 @@ constexpr RrcRecordField fields_RrcPtrsUlTransformPrecodeEnable_t[] = {
 constexpr RrcRecordBit bits_RrcPtrsUlTransformPrecodeEnable_t[] = {
     {"RRC_PTRS_UL_CFG_ENABLE_TIME_DENSITY_PRESENCE", "", nullptr, {"timeDensityTransformPrecoding", way_1, 1, &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderEnabled_timeDensityTransformPrecoding}, 1, 0, RRC_BIT_SENDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPtrsUlTransformPrecodeEnable_t[] = {
-    {offsetof(PTRS_UplinkConfig_transformPrecoderEnabled, sampleDensity), -1, 0, 0, 1},
-    {},
-    {},
-};
-constexpr auto ops_RrcPtrsUlTransformPrecodeEnable_t = records::opsOf<records::opCount(sizeof(RrcPtrsUlTransformPrecodeEnable_t), fields_RrcPtrsUlTransformPrecodeEnable_t, sources_RrcPtrsUlTransformPrecodeEnable_t, bits_RrcPtrsUlTransformPrecodeEnable_t, 1)>(sizeof(RrcPtrsUlTransformPrecodeEnable_t), fields_RrcPtrsUlTransformPrecodeEnable_t, sources_RrcPtrsUlTransformPrecodeEnable_t, bits_RrcPtrsUlTransformPrecodeEnable_t, 1);
 constexpr auto checks_RrcPtrsUlTransformPrecodeEnable_t = records::checkOpsOf(fields_RrcPtrsUlTransformPrecodeEnable_t, bits_RrcPtrsUlTransformPrecodeEnable_t, 1);
-constexpr RrcRecordType type_RrcPtrsUlTransformPrecodeEnable_t = {"RrcPtrsUlTransformPrecodeEnable_t", "rrcCodec/rrcPusch.h", "PTRS-UplinkConfig.transformPrecoderEnabled", "", &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderEnabled, sizeof(RrcPtrsUlTransformPrecodeEnable_t), 0, 3, 1, 0, fields_RrcPtrsUlTransformPrecodeEnable_t, bits_RrcPtrsUlTransformPrecodeEnable_t, nullptr, ops_RrcPtrsUlTransformPrecodeEnable_t.data(), static_cast<UINT16>(ops_RrcPtrsUlTransformPrecodeEnable_t.size()), checks_RrcPtrsUlTransformPrecodeEnable_t.data(), 97};
+constexpr RrcRecordType type_RrcPtrsUlTransformPrecodeEnable_t = {"RrcPtrsUlTransformPrecodeEnable_t", "rrcCodec/rrcPusch.h", "PTRS-UplinkConfig.transformPrecoderEnabled", "", &nr_rrc::type_PTRS_UplinkConfig_transformPrecoderEnabled, sizeof(RrcPtrsUlTransformPrecodeEnable_t), 0, 3, 1, 0, fields_RrcPtrsUlTransformPrecodeEnable_t, bits_RrcPtrsUlTransformPrecodeEnable_t, nullptr, checks_RrcPtrsUlTransformPrecodeEnable_t.data(), 97};
 
 constexpr RrcRecordField fields_RrcPtrsUlCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcPtrsUlCfg_t, bitMask), sizeof(RrcPtrsUlCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3629,14 +2431,8 @@ constexpr RrcRecordBit bits_RrcPtrsUlCfg_t[] = {
     {"RRC_PTRS_UL_CFG_DISABLE_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_PTRS_UL_CFG_ENABLE_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPtrsUlCfg_t[] = {
-    {},
-    {offsetof(PTRS_UplinkConfig, transformPrecoderDisabled), 0, 0, 0, 1},
-    {offsetof(PTRS_UplinkConfig, transformPrecoderEnabled), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcPtrsUlCfg_t = records::opsOf<records::opCount(sizeof(RrcPtrsUlCfg_t), fields_RrcPtrsUlCfg_t, sources_RrcPtrsUlCfg_t, bits_RrcPtrsUlCfg_t, 2)>(sizeof(RrcPtrsUlCfg_t), fields_RrcPtrsUlCfg_t, sources_RrcPtrsUlCfg_t, bits_RrcPtrsUlCfg_t, 2);
 constexpr auto checks_RrcPtrsUlCfg_t = records::checkOpsOf(fields_RrcPtrsUlCfg_t, bits_RrcPtrsUlCfg_t, 2);
-constexpr RrcRecordType type_RrcPtrsUlCfg_t = {"RrcPtrsUlCfg_t", "rrcCodec/rrcPusch.h", "PTRS-UplinkConfig", "", &nr_rrc::type_PTRS_UplinkConfig, sizeof(RrcPtrsUlCfg_t), 0, 3, 2, 0, fields_RrcPtrsUlCfg_t, bits_RrcPtrsUlCfg_t, nullptr, ops_RrcPtrsUlCfg_t.data(), static_cast<UINT16>(ops_RrcPtrsUlCfg_t.size()), checks_RrcPtrsUlCfg_t.data(), 96};
+constexpr RrcRecordType type_RrcPtrsUlCfg_t = {"RrcPtrsUlCfg_t", "rrcCodec/rrcPusch.h", "PTRS-UplinkConfig", "", &nr_rrc::type_PTRS_UplinkConfig, sizeof(RrcPtrsUlCfg_t), 0, 3, 2, 0, fields_RrcPtrsUlCfg_t, bits_RrcPtrsUlCfg_t, nullptr, checks_RrcPtrsUlCfg_t.data(), 96};
 
 constexpr RrcRecordField fields_RrcTransformPrecodDisable_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcTransformPrecodDisable_t, bitMask), sizeof(RrcTransformPrecodDisable_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3647,14 +2443,8 @@ constexpr RrcRecordBit bits_RrcTransformPrecodDisable_t[] = {
     {"RRC_TRANSFORM_PRECODE_DISABLE_ID0_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_TRANSFORM_PRECODE_DISABLE_ID1_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcTransformPrecodDisable_t[] = {
-    {},
-    {offsetof(DMRS_UplinkConfig_transformPrecodingDisabled, scramblingID0), 0, 2, 0, 1},
-    {offsetof(DMRS_UplinkConfig_transformPrecodingDisabled, scramblingID1), 1, 2, 0, 1},
-};
-constexpr auto ops_RrcTransformPrecodDisable_t = records::opsOf<records::opCount(sizeof(RrcTransformPrecodDisable_t), fields_RrcTransformPrecodDisable_t, sources_RrcTransformPrecodDisable_t, bits_RrcTransformPrecodDisable_t, 2)>(sizeof(RrcTransformPrecodDisable_t), fields_RrcTransformPrecodDisable_t, sources_RrcTransformPrecodDisable_t, bits_RrcTransformPrecodDisable_t, 2);
 constexpr auto checks_RrcTransformPrecodDisable_t = records::checkOpsOf(fields_RrcTransformPrecodDisable_t, bits_RrcTransformPrecodDisable_t, 2);
-constexpr RrcRecordType type_RrcTransformPrecodDisable_t = {"RrcTransformPrecodDisable_t", "rrcCodec/rrcPusch.h", "DMRS-UplinkConfig.transformPrecodingDisabled", "", &nr_rrc::type_DMRS_UplinkConfig_transformPrecodingDisabled, sizeof(RrcTransformPrecodDisable_t), 0, 3, 2, 0, fields_RrcTransformPrecodDisable_t, bits_RrcTransformPrecodDisable_t, nullptr, ops_RrcTransformPrecodDisable_t.data(), static_cast<UINT16>(ops_RrcTransformPrecodDisable_t.size()), checks_RrcTransformPrecodDisable_t.data(), 95};
+constexpr RrcRecordType type_RrcTransformPrecodDisable_t = {"RrcTransformPrecodDisable_t", "rrcCodec/rrcPusch.h", "DMRS-UplinkConfig.transformPrecodingDisabled", "", &nr_rrc::type_DMRS_UplinkConfig_transformPrecodingDisabled, sizeof(RrcTransformPrecodDisable_t), 0, 3, 2, 0, fields_RrcTransformPrecodDisable_t, bits_RrcTransformPrecodDisable_t, nullptr, checks_RrcTransformPrecodDisable_t.data(), 95};
 
 constexpr RrcRecordField fields_RrcTransformPrecodEnable_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 7, offsetof(RrcTransformPrecodEnable_t, bitMask), sizeof(RrcTransformPrecodEnable_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3667,15 +2457,8 @@ constexpr RrcRecordBit bits_RrcTransformPrecodEnable_t[] = {
     {"RRC_TRANSFORM_PRECODE_ENABLE_GROUP_HOPPING_PRESENCE", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
     {"RRC_TRANSFORM_PRECODE_ENABLE_HOPPING_PRESENCE", "", nullptr, {}, 0, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcTransformPrecodEnable_t[] = {
-    {},
-    {offsetof(DMRS_UplinkConfig_transformPrecodingEnabled, nPUSCH_Identity), 0, 2, 0, 1},
-    {offsetof(DMRS_UplinkConfig_transformPrecodingEnabled, sequenceGroupHopping), 1, 4, 0, 1},
-    {offsetof(DMRS_UplinkConfig_transformPrecodingEnabled, sequenceHopping), 2, 4, 0, 1},
-};
-constexpr auto ops_RrcTransformPrecodEnable_t = records::opsOf<records::opCount(sizeof(RrcTransformPrecodEnable_t), fields_RrcTransformPrecodEnable_t, sources_RrcTransformPrecodEnable_t, bits_RrcTransformPrecodEnable_t, 3)>(sizeof(RrcTransformPrecodEnable_t), fields_RrcTransformPrecodEnable_t, sources_RrcTransformPrecodEnable_t, bits_RrcTransformPrecodEnable_t, 3);
 constexpr auto checks_RrcTransformPrecodEnable_t = records::checkOpsOf(fields_RrcTransformPrecodEnable_t, bits_RrcTransformPrecodEnable_t, 3);
-constexpr RrcRecordType type_RrcTransformPrecodEnable_t = {"RrcTransformPrecodEnable_t", "rrcCodec/rrcPusch.h", "DMRS-UplinkConfig.transformPrecodingEnabled", "", &nr_rrc::type_DMRS_UplinkConfig_transformPrecodingEnabled, sizeof(RrcTransformPrecodEnable_t), 0, 4, 3, 0, fields_RrcTransformPrecodEnable_t, bits_RrcTransformPrecodEnable_t, nullptr, ops_RrcTransformPrecodEnable_t.data(), static_cast<UINT16>(ops_RrcTransformPrecodEnable_t.size()), checks_RrcTransformPrecodEnable_t.data(), 94};
+constexpr RrcRecordType type_RrcTransformPrecodEnable_t = {"RrcTransformPrecodEnable_t", "rrcCodec/rrcPusch.h", "DMRS-UplinkConfig.transformPrecodingEnabled", "", &nr_rrc::type_DMRS_UplinkConfig_transformPrecodingEnabled, sizeof(RrcTransformPrecodEnable_t), 0, 4, 3, 0, fields_RrcTransformPrecodEnable_t, bits_RrcTransformPrecodEnable_t, nullptr, checks_RrcTransformPrecodEnable_t.data(), 94};
 
 constexpr RrcRecordField fields_RrcDmrsUlCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 63, offsetof(RrcDmrsUlCfg_t, bitMask), sizeof(RrcDmrsUlCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3694,18 +2477,8 @@ constexpr RrcRecordBit bits_RrcDmrsUlCfg_t[] = {
     {"RRC_DMRS_UL_CFG_TRANSFORM_PRECODE_DISABLE_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
     {"RRC_DMRS_UL_CFG_TRANSFORM_PRECODE_ENABLE_PRESENCE", "", nullptr, {}, 0, 5, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcDmrsUlCfg_t[] = {
-    {},
-    {offsetof(DMRS_UplinkConfig, dmrs_Type), 0, 4, 0, 1},
-    {offsetof(DMRS_UplinkConfig, dmrs_AdditionalPosition), 1, 4, 0, 1},
-    {offsetof(DMRS_UplinkConfig, phaseTrackingRS), 2, 0, 0, 1},
-    {offsetof(DMRS_UplinkConfig, maxLength), 3, 4, 0, 1},
-    {offsetof(DMRS_UplinkConfig, transformPrecodingDisabled), 4, 0, 0, 1},
-    {offsetof(DMRS_UplinkConfig, transformPrecodingEnabled), 5, 0, 0, 1},
-};
-constexpr auto ops_RrcDmrsUlCfg_t = records::opsOf<records::opCount(sizeof(RrcDmrsUlCfg_t), fields_RrcDmrsUlCfg_t, sources_RrcDmrsUlCfg_t, bits_RrcDmrsUlCfg_t, 6)>(sizeof(RrcDmrsUlCfg_t), fields_RrcDmrsUlCfg_t, sources_RrcDmrsUlCfg_t, bits_RrcDmrsUlCfg_t, 6);
 constexpr auto checks_RrcDmrsUlCfg_t = records::checkOpsOf(fields_RrcDmrsUlCfg_t, bits_RrcDmrsUlCfg_t, 6);
-constexpr RrcRecordType type_RrcDmrsUlCfg_t = {"RrcDmrsUlCfg_t", "rrcCodec/rrcPusch.h", "DMRS-UplinkConfig", "", &nr_rrc::type_DMRS_UplinkConfig, sizeof(RrcDmrsUlCfg_t), 0, 7, 6, 0, fields_RrcDmrsUlCfg_t, bits_RrcDmrsUlCfg_t, nullptr, ops_RrcDmrsUlCfg_t.data(), static_cast<UINT16>(ops_RrcDmrsUlCfg_t.size()), checks_RrcDmrsUlCfg_t.data(), 93};
+constexpr RrcRecordType type_RrcDmrsUlCfg_t = {"RrcDmrsUlCfg_t", "rrcCodec/rrcPusch.h", "DMRS-UplinkConfig", "", &nr_rrc::type_DMRS_UplinkConfig, sizeof(RrcDmrsUlCfg_t), 0, 7, 6, 0, fields_RrcDmrsUlCfg_t, bits_RrcDmrsUlCfg_t, nullptr, checks_RrcDmrsUlCfg_t.data(), 93};
 
 constexpr RrcRecordField fields_RrcP0PuschAlphaSet_t[] = {
     {"p0PuschAlphaId", {"p0-PUSCH-AlphaSetId", way_0, 1, &nr_rrc::type_P0_PUSCH_AlphaSetId}, nullptr, nullptr, "", 0, 29, offsetof(RrcP0PuschAlphaSet_t, p0PuschAlphaId), sizeof(RrcP0PuschAlphaSet_t::p0PuschAlphaId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3717,27 +2490,15 @@ constexpr RrcRecordBit bits_RrcP0PuschAlphaSet_t[] = {
     {"RRC_P0PUSCH_ALPHA_SET_P0_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
     {"RRC_P0PUSCH_ALPHA_SET_ALPHA_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcP0PuschAlphaSet_t[] = {
-    {offsetof(P0_PUSCH_AlphaSet, p0_PUSCH_AlphaSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(P0_PUSCH_AlphaSet, p0), 0, 1, 1, 1},
-    {offsetof(P0_PUSCH_AlphaSet, alpha), 1, 4, 0, 1},
-};
-constexpr auto ops_RrcP0PuschAlphaSet_t = records::opsOf<records::opCount(sizeof(RrcP0PuschAlphaSet_t), fields_RrcP0PuschAlphaSet_t, sources_RrcP0PuschAlphaSet_t, bits_RrcP0PuschAlphaSet_t, 2)>(sizeof(RrcP0PuschAlphaSet_t), fields_RrcP0PuschAlphaSet_t, sources_RrcP0PuschAlphaSet_t, bits_RrcP0PuschAlphaSet_t, 2);
 constexpr auto checks_RrcP0PuschAlphaSet_t = records::checkOpsOf(fields_RrcP0PuschAlphaSet_t, bits_RrcP0PuschAlphaSet_t, 2);
-constexpr RrcRecordType type_RrcP0PuschAlphaSet_t = {"RrcP0PuschAlphaSet_t", "rrcCodec/rrcPusch.h", "P0-PUSCH-AlphaSet", "", &nr_rrc::type_P0_PUSCH_AlphaSet, sizeof(RrcP0PuschAlphaSet_t), 0, 4, 2, 0, fields_RrcP0PuschAlphaSet_t, bits_RrcP0PuschAlphaSet_t, nullptr, ops_RrcP0PuschAlphaSet_t.data(), static_cast<UINT16>(ops_RrcP0PuschAlphaSet_t.size()), checks_RrcP0PuschAlphaSet_t.data(), 92};
+constexpr RrcRecordType type_RrcP0PuschAlphaSet_t = {"RrcP0PuschAlphaSet_t", "rrcCodec/rrcPusch.h", "P0-PUSCH-AlphaSet", "", &nr_rrc::type_P0_PUSCH_AlphaSet, sizeof(RrcP0PuschAlphaSet_t), 0, 4, 2, 0, fields_RrcP0PuschAlphaSet_t, bits_RrcP0PuschAlphaSet_t, nullptr, checks_RrcP0PuschAlphaSet_t.data(), 92};
 
 constexpr RrcRecordField fields_RrcPuschPathLossRefRs_t_regSig[] = {
     {"ssbIdx", {"ssb-Index", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(decltype(RrcPuschPathLossRefRs_t::regSig), ssbIdx), sizeof(decltype(RrcPuschPathLossRefRs_t::regSig)::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-RS-Index", way_1, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(decltype(RrcPuschPathLossRefRs_t::regSig), csiRsIdx), sizeof(decltype(RrcPuschPathLossRefRs_t::regSig)::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschPathLossRefRs_t_regSig[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcPuschPathLossRefRs_t_regSig = records::opsOf<records::opCount(sizeof(decltype(RrcPuschPathLossRefRs_t::regSig)), fields_RrcPuschPathLossRefRs_t_regSig, sources_RrcPuschPathLossRefRs_t_regSig, nullptr, 0)>(sizeof(decltype(RrcPuschPathLossRefRs_t::regSig)), fields_RrcPuschPathLossRefRs_t_regSig, sources_RrcPuschPathLossRefRs_t_regSig, nullptr, 0);
 constexpr auto checks_RrcPuschPathLossRefRs_t_regSig = records::checkOpsOf(fields_RrcPuschPathLossRefRs_t_regSig, nullptr, 0);
-constexpr RrcRecordType type_RrcPuschPathLossRefRs_t_regSig = {"RrcPuschPathLossRefRs_t.regSig", "rrcCodec/rrcPusch.h", "referenceSignal", "", &nr_rrc::type_PUSCH_PathlossReferenceRS_referenceSignal, sizeof(decltype(RrcPuschPathLossRefRs_t::regSig)), 1, 2, 0, 0, fields_RrcPuschPathLossRefRs_t_regSig, nullptr, nullptr, ops_RrcPuschPathLossRefRs_t_regSig.data(), static_cast<UINT16>(ops_RrcPuschPathLossRefRs_t_regSig.size()), checks_RrcPuschPathLossRefRs_t_regSig.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcPuschPathLossRefRs_t_regSig = {"RrcPuschPathLossRefRs_t.regSig", "rrcCodec/rrcPusch.h", "referenceSignal", "", &nr_rrc::type_PUSCH_PathlossReferenceRS_referenceSignal, sizeof(decltype(RrcPuschPathLossRefRs_t::regSig)), 1, 2, 0, 0, fields_RrcPuschPathLossRefRs_t_regSig, nullptr, nullptr, checks_RrcPuschPathLossRefRs_t_regSig.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcPuschPathLossRefRs_t[] = {
     {"puschPathLossRefRsId", {"pusch-PathlossReferenceRS-Id", way_0, 1, &nr_rrc::type_PUSCH_PathlossReferenceRS_Id}, nullptr, nullptr, "", 0, 3, offsetof(RrcPuschPathLossRefRs_t, puschPathLossRefRsId), sizeof(RrcPuschPathLossRefRs_t::puschPathLossRefRsId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3755,14 +2516,8 @@ constexpr RrcRecordOption options_RrcPuschPathLossRefRs_t_0[] = {
 constexpr RrcRecordChoice choices_RrcPuschPathLossRefRs_t[] = {
     {{"referenceSignal", way_1, 1, &nr_rrc::type_PUSCH_PathlossReferenceRS_referenceSignal}, 1, 0, 2, options_RrcPuschPathLossRefRs_t_0},
 };
-constexpr RrcRecordSource sources_RrcPuschPathLossRefRs_t[] = {
-    {offsetof(PUSCH_PathlossReferenceRS, pusch_PathlossReferenceRS_Id), -1, 1, 0, 1},
-    {},
-    {offsetof(PUSCH_PathlossReferenceRS, referenceSignal), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcPuschPathLossRefRs_t = records::opsOf<records::opCount(sizeof(RrcPuschPathLossRefRs_t), fields_RrcPuschPathLossRefRs_t, sources_RrcPuschPathLossRefRs_t, bits_RrcPuschPathLossRefRs_t, 2)>(sizeof(RrcPuschPathLossRefRs_t), fields_RrcPuschPathLossRefRs_t, sources_RrcPuschPathLossRefRs_t, bits_RrcPuschPathLossRefRs_t, 2);
 constexpr auto checks_RrcPuschPathLossRefRs_t = records::checkOpsOf(fields_RrcPuschPathLossRefRs_t, bits_RrcPuschPathLossRefRs_t, 2);
-constexpr RrcRecordType type_RrcPuschPathLossRefRs_t = {"RrcPuschPathLossRefRs_t", "rrcCodec/rrcPusch.h", "PUSCH-PathlossReferenceRS", "", &nr_rrc::type_PUSCH_PathlossReferenceRS, sizeof(RrcPuschPathLossRefRs_t), 0, 3, 2, 1, fields_RrcPuschPathLossRefRs_t, bits_RrcPuschPathLossRefRs_t, choices_RrcPuschPathLossRefRs_t, ops_RrcPuschPathLossRefRs_t.data(), static_cast<UINT16>(ops_RrcPuschPathLossRefRs_t.size()), checks_RrcPuschPathLossRefRs_t.data(), 91};
+constexpr RrcRecordType type_RrcPuschPathLossRefRs_t = {"RrcPuschPathLossRefRs_t", "rrcCodec/rrcPusch.h", "PUSCH-PathlossReferenceRS", "", &nr_rrc::type_PUSCH_PathlossReferenceRS, sizeof(RrcPuschPathLossRefRs_t), 0, 3, 2, 1, fields_RrcPuschPathLossRefRs_t, bits_RrcPuschPathLossRefRs_t, choices_RrcPuschPathLossRefRs_t, checks_RrcPuschPathLossRefRs_t.data(), 91};
 
 constexpr RrcRecordField fields_RrcSriPuschPowerControl_t[] = {
     {"sriPuschPowerControlId", {"sri-PUSCH-PowerControlId", way_0, 1, &nr_rrc::type_SRI_PUSCH_PowerControlId}, nullptr, nullptr, "", 0, 15, offsetof(RrcSriPuschPowerControl_t, sriPuschPowerControlId), sizeof(RrcSriPuschPowerControl_t::sriPuschPowerControlId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -3770,15 +2525,8 @@ constexpr RrcRecordField fields_RrcSriPuschPowerControl_t[] = {
     {"sriP0PuschAlphaSetId", {"sri-P0-PUSCH-AlphaSetId", way_2, 1, &nr_rrc::type_P0_PUSCH_AlphaSetId}, nullptr, nullptr, "", 0, 29, offsetof(RrcSriPuschPowerControl_t, sriP0PuschAlphaSetId), sizeof(RrcSriPuschPowerControl_t::sriP0PuschAlphaSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"sriPuschClosedLoopIdx", {"sri-PUSCH-ClosedLoopIndex", way_3, 1, &nr_rrc::type_SRI_PUSCH_PowerControl_sri_PUSCH_ClosedLoopIndex}, nullptr, nullptr, "", 0, 1, offsetof(RrcSriPuschPowerControl_t, sriPuschClosedLoopIdx), sizeof(RrcSriPuschPowerControl_t::sriPuschClosedLoopIdx), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSriPuschPowerControl_t[] = {
-    {offsetof(SRI_PUSCH_PowerControl, sri_PUSCH_PowerControlId), -1, 1, 0, 1},
-    {offsetof(SRI_PUSCH_PowerControl, sri_PUSCH_PathlossReferenceRS_Id), -1, 1, 0, 1},
-    {offsetof(SRI_PUSCH_PowerControl, sri_P0_PUSCH_AlphaSetId), -1, 1, 0, 1},
-    {offsetof(SRI_PUSCH_PowerControl, sri_PUSCH_ClosedLoopIndex), -1, 4, 0, 1},
-};
-constexpr auto ops_RrcSriPuschPowerControl_t = records::opsOf<records::opCount(sizeof(RrcSriPuschPowerControl_t), fields_RrcSriPuschPowerControl_t, sources_RrcSriPuschPowerControl_t, nullptr, 0)>(sizeof(RrcSriPuschPowerControl_t), fields_RrcSriPuschPowerControl_t, sources_RrcSriPuschPowerControl_t, nullptr, 0);
 constexpr auto checks_RrcSriPuschPowerControl_t = records::checkOpsOf(fields_RrcSriPuschPowerControl_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSriPuschPowerControl_t = {"RrcSriPuschPowerControl_t", "rrcCodec/rrcPusch.h", "SRI-PUSCH-PowerControl", "", &nr_rrc::type_SRI_PUSCH_PowerControl, sizeof(RrcSriPuschPowerControl_t), 0, 4, 0, 0, fields_RrcSriPuschPowerControl_t, nullptr, nullptr, ops_RrcSriPuschPowerControl_t.data(), static_cast<UINT16>(ops_RrcSriPuschPowerControl_t.size()), checks_RrcSriPuschPowerControl_t.data(), 90};
+constexpr RrcRecordType type_RrcSriPuschPowerControl_t = {"RrcSriPuschPowerControl_t", "rrcCodec/rrcPusch.h", "SRI-PUSCH-PowerControl", "", &nr_rrc::type_SRI_PUSCH_PowerControl, sizeof(RrcSriPuschPowerControl_t), 0, 4, 0, 0, fields_RrcSriPuschPowerControl_t, nullptr, nullptr, checks_RrcSriPuschPowerControl_t.data(), 90};
 
 constexpr RrcRecordField fields_RrcPuschPowerControl_t[] = {
     {"numP0AlphaSets", {}, nullptr, nullptr, "", 0, 30, offsetof(RrcPuschPowerControl_t, numP0AlphaSets), sizeof(RrcPuschPowerControl_t::numP0AlphaSets), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -3805,27 +2553,8 @@ constexpr RrcRecordBit bits_RrcPuschPowerControl_t[] = {
     {"RRC_PUSCH_POWER_CONTROL_TWO_PUSCH_PC_ADJ_STATES_PRESENCE", "", nullptr, {}, 10, 3, RRC_BIT_GUARDS, -1},
     {"RRC_PUSCH_POWER_CONTROL_DELTA_MCS_PRESENCE", "", nullptr, {}, 10, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschPowerControl_t[] = {
-    {},
-    {offsetof(PUSCH_PowerControl, p0_AlphaSets), 3, 0, 0, 1},
-    {},
-    {offsetof(PUSCH_PowerControl, pathlossReferenceRSToAddModList), 4, 0, 0, 1},
-    {},
-    {offsetof(PUSCH_PowerControl, pathlossReferenceRSToReleaseList), 5, 0, 0, 1},
-    {},
-    {offsetof(PUSCH_PowerControl, sri_PUSCH_MappingToAddModList), 8, 0, 0, 1},
-    {},
-    {offsetof(PUSCH_PowerControl, sri_PUSCH_MappingToReleaseList), 9, 0, 0, 1},
-    {},
-    {offsetof(PUSCH_PowerControl, tpc_Accumulation), 0, 4, 0, 1},
-    {offsetof(PUSCH_PowerControl, msg3_Alpha), 1, 4, 0, 1},
-    {offsetof(PUSCH_PowerControl, p0_NominalWithoutGrant), 2, 2, 1, 1},
-    {offsetof(PUSCH_PowerControl, twoPUSCH_PC_AdjustmentStates), 6, 4, 0, 1},
-    {offsetof(PUSCH_PowerControl, deltaMCS), 7, 4, 0, 1},
-};
-constexpr auto ops_RrcPuschPowerControl_t = records::opsOf<records::opCount(sizeof(RrcPuschPowerControl_t), fields_RrcPuschPowerControl_t, sources_RrcPuschPowerControl_t, bits_RrcPuschPowerControl_t, 5)>(sizeof(RrcPuschPowerControl_t), fields_RrcPuschPowerControl_t, sources_RrcPuschPowerControl_t, bits_RrcPuschPowerControl_t, 5);
 constexpr auto checks_RrcPuschPowerControl_t = records::checkOpsOf(fields_RrcPuschPowerControl_t, bits_RrcPuschPowerControl_t, 5);
-constexpr RrcRecordType type_RrcPuschPowerControl_t = {"RrcPuschPowerControl_t", "rrcCodec/rrcPusch.h", "PUSCH-PowerControl", "A list is sent when its count is not 0.", &nr_rrc::type_PUSCH_PowerControl, sizeof(RrcPuschPowerControl_t), 0, 16, 5, 0, fields_RrcPuschPowerControl_t, bits_RrcPuschPowerControl_t, nullptr, ops_RrcPuschPowerControl_t.data(), static_cast<UINT16>(ops_RrcPuschPowerControl_t.size()), checks_RrcPuschPowerControl_t.data(), 89};
+constexpr RrcRecordType type_RrcPuschPowerControl_t = {"RrcPuschPowerControl_t", "rrcCodec/rrcPusch.h", "PUSCH-PowerControl", "A list is sent when its count is not 0.", &nr_rrc::type_PUSCH_PowerControl, sizeof(RrcPuschPowerControl_t), 0, 16, 5, 0, fields_RrcPuschPowerControl_t, bits_RrcPuschPowerControl_t, nullptr, checks_RrcPuschPowerControl_t.data(), 89};
 
 constexpr RrcRecordField fields_RrcBetaOffsets_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 127, offsetof(RrcBetaOffsets_t, bitMask), sizeof(RrcBetaOffsets_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -3846,31 +2575,15 @@ constexpr RrcRecordBit bits_RrcBetaOffsets_t[] = {
     {"RRC_BETA_OFFSETS_CSI_PART2_IDX1_PRESENCE", "", nullptr, {}, 0, 5, RRC_BIT_GUARDS, -1},
     {"RRC_BETA_OFFSETS_CSI_PART2_IDX2_PRESENCE", "", nullptr, {}, 0, 6, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBetaOffsets_t[] = {
-    {},
-    {offsetof(BetaOffsets, betaOffsetACK_Index1), 0, 1, 0, 1},
-    {offsetof(BetaOffsets, betaOffsetACK_Index2), 1, 1, 0, 1},
-    {offsetof(BetaOffsets, betaOffsetACK_Index3), 2, 1, 0, 1},
-    {offsetof(BetaOffsets, betaOffsetCSI_Part1_Index1), 3, 1, 0, 1},
-    {offsetof(BetaOffsets, betaOffsetCSI_Part1_Index2), 4, 1, 0, 1},
-    {offsetof(BetaOffsets, betaOffsetCSI_Part2_Index1), 5, 1, 0, 1},
-    {offsetof(BetaOffsets, betaOffsetCSI_Part2_Index2), 6, 1, 0, 1},
-};
-constexpr auto ops_RrcBetaOffsets_t = records::opsOf<records::opCount(sizeof(RrcBetaOffsets_t), fields_RrcBetaOffsets_t, sources_RrcBetaOffsets_t, bits_RrcBetaOffsets_t, 7)>(sizeof(RrcBetaOffsets_t), fields_RrcBetaOffsets_t, sources_RrcBetaOffsets_t, bits_RrcBetaOffsets_t, 7);
 constexpr auto checks_RrcBetaOffsets_t = records::checkOpsOf(fields_RrcBetaOffsets_t, bits_RrcBetaOffsets_t, 7);
-constexpr RrcRecordType type_RrcBetaOffsets_t = {"RrcBetaOffsets_t", "rrcCodec/rrcPusch.h", "BetaOffsets", "", &nr_rrc::type_BetaOffsets, sizeof(RrcBetaOffsets_t), 0, 8, 7, 0, fields_RrcBetaOffsets_t, bits_RrcBetaOffsets_t, nullptr, ops_RrcBetaOffsets_t.data(), static_cast<UINT16>(ops_RrcBetaOffsets_t.size()), checks_RrcBetaOffsets_t.data(), 88};
+constexpr RrcRecordType type_RrcBetaOffsets_t = {"RrcBetaOffsets_t", "rrcCodec/rrcPusch.h", "BetaOffsets", "", &nr_rrc::type_BetaOffsets, sizeof(RrcBetaOffsets_t), 0, 8, 7, 0, fields_RrcBetaOffsets_t, bits_RrcBetaOffsets_t, nullptr, checks_RrcBetaOffsets_t.data(), 88};
 
 constexpr RrcRecordField fields_RrcUciOnPusch_t_betaOffset[] = {
     {"dynamic", {"dynamic", way_16, 2, &nr_rrc::type_BetaOffsets}, &type_RrcBetaOffsets_t, nullptr, "always four", 0, 0, offsetof(decltype(RrcUciOnPusch_t::betaOffset), dynamic), sizeof(decltype(RrcUciOnPusch_t::betaOffset)::dynamic[0]), sizeof(decltype(RrcUciOnPusch_t::betaOffset)::dynamic) / sizeof(decltype(RrcUciOnPusch_t::betaOffset)::dynamic[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"semiStatic", {"semiStatic", way_1, 1, &nr_rrc::type_BetaOffsets}, &type_RrcBetaOffsets_t, nullptr, "", 0, 0, offsetof(decltype(RrcUciOnPusch_t::betaOffset), semiStatic), sizeof(decltype(RrcUciOnPusch_t::betaOffset)::semiStatic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcUciOnPusch_t_betaOffset[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcUciOnPusch_t_betaOffset = records::opsOf<records::opCount(sizeof(decltype(RrcUciOnPusch_t::betaOffset)), fields_RrcUciOnPusch_t_betaOffset, sources_RrcUciOnPusch_t_betaOffset, nullptr, 0)>(sizeof(decltype(RrcUciOnPusch_t::betaOffset)), fields_RrcUciOnPusch_t_betaOffset, sources_RrcUciOnPusch_t_betaOffset, nullptr, 0);
 constexpr auto checks_RrcUciOnPusch_t_betaOffset = records::checkOpsOf(fields_RrcUciOnPusch_t_betaOffset, nullptr, 0);
-constexpr RrcRecordType type_RrcUciOnPusch_t_betaOffset = {"RrcUciOnPusch_t.betaOffset", "rrcCodec/rrcPusch.h", "betaOffsets", "", &nr_rrc::type_UCI_OnPUSCH_betaOffsets, sizeof(decltype(RrcUciOnPusch_t::betaOffset)), 1, 2, 0, 0, fields_RrcUciOnPusch_t_betaOffset, nullptr, nullptr, ops_RrcUciOnPusch_t_betaOffset.data(), static_cast<UINT16>(ops_RrcUciOnPusch_t_betaOffset.size()), checks_RrcUciOnPusch_t_betaOffset.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcUciOnPusch_t_betaOffset = {"RrcUciOnPusch_t.betaOffset", "rrcCodec/rrcPusch.h", "betaOffsets", "", &nr_rrc::type_UCI_OnPUSCH_betaOffsets, sizeof(decltype(RrcUciOnPusch_t::betaOffset)), 1, 2, 0, 0, fields_RrcUciOnPusch_t_betaOffset, nullptr, nullptr, checks_RrcUciOnPusch_t_betaOffset.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcUciOnPusch_t[] = {
     {"scaling", {"scaling", way_1, 1, &nr_rrc::type_UCI_OnPUSCH_scaling}, nullptr, nullptr, "", 0, 3, offsetof(RrcUciOnPusch_t, scaling), sizeof(RrcUciOnPusch_t::scaling), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -3890,15 +2603,8 @@ constexpr RrcRecordOption options_RrcUciOnPusch_t_0[] = {
 constexpr RrcRecordChoice choices_RrcUciOnPusch_t[] = {
     {{"betaOffsets", way_0, 1, &nr_rrc::type_UCI_OnPUSCH_betaOffsets}, 2, 0, 2, options_RrcUciOnPusch_t_0},
 };
-constexpr RrcRecordSource sources_RrcUciOnPusch_t[] = {
-    {offsetof(UCI_OnPUSCH, scaling), -1, 4, 0, 1},
-    {},
-    {},
-    {offsetof(UCI_OnPUSCH, betaOffsets), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcUciOnPusch_t = records::opsOf<records::opCount(sizeof(RrcUciOnPusch_t), fields_RrcUciOnPusch_t, sources_RrcUciOnPusch_t, bits_RrcUciOnPusch_t, 3)>(sizeof(RrcUciOnPusch_t), fields_RrcUciOnPusch_t, sources_RrcUciOnPusch_t, bits_RrcUciOnPusch_t, 3);
 constexpr auto checks_RrcUciOnPusch_t = records::checkOpsOf(fields_RrcUciOnPusch_t, bits_RrcUciOnPusch_t, 3);
-constexpr RrcRecordType type_RrcUciOnPusch_t = {"RrcUciOnPusch_t", "rrcCodec/rrcPusch.h", "UCI-OnPUSCH", "", &nr_rrc::type_UCI_OnPUSCH, sizeof(RrcUciOnPusch_t), 0, 4, 3, 1, fields_RrcUciOnPusch_t, bits_RrcUciOnPusch_t, choices_RrcUciOnPusch_t, ops_RrcUciOnPusch_t.data(), static_cast<UINT16>(ops_RrcUciOnPusch_t.size()), checks_RrcUciOnPusch_t.data(), 87};
+constexpr RrcRecordType type_RrcUciOnPusch_t = {"RrcUciOnPusch_t", "rrcCodec/rrcPusch.h", "UCI-OnPUSCH", "", &nr_rrc::type_UCI_OnPUSCH, sizeof(RrcUciOnPusch_t), 0, 4, 3, 1, fields_RrcUciOnPusch_t, bits_RrcUciOnPusch_t, choices_RrcUciOnPusch_t, checks_RrcUciOnPusch_t.data(), 87};
 
 constexpr RrcRecordField fields_RrcPuschCfg_t[] = {
     {"resourceAlloc", {"resourceAllocation", way_11, 1, &nr_rrc::type_PUSCH_Config_resourceAllocation}, nullptr, nullptr, "", 0, 2, offsetof(RrcPuschCfg_t, resourceAlloc), sizeof(RrcPuschCfg_t::resourceAlloc), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -3940,55 +2646,22 @@ constexpr RrcRecordBit bits_RrcPuschCfg_t[] = {
     {"RRC_PUSCH_CFG_UCI_ON_PUSCH_PRESENCE", "", nullptr, {}, 3, 14, RRC_BIT_GUARDS, -1},
     {"RRC_PUSCH_CFG_TP_PI2_BPSK_PRESENCE", "", nullptr, {}, 3, 15, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschCfg_t[] = {
-    {offsetof(PUSCH_Config, resourceAllocation), -1, 4, 0, 1},
-    {},
-    {offsetof(PUSCH_Config, frequencyHoppingOffsetLists), 6, 0, 0, 1},
-    {},
-    {offsetof(PUSCH_Config, dataScramblingIdentityPUSCH), 0, 2, 0, 1},
-    {offsetof(PUSCH_Config, txConfig), 1, 4, 0, 1},
-    {offsetof(PUSCH_Config, dmrs_UplinkForPUSCH_MappingTypeA), 2, 0, 0, 1},
-    {offsetof(PUSCH_Config, dmrs_UplinkForPUSCH_MappingTypeB), 3, 0, 0, 1},
-    {offsetof(PUSCH_Config, pusch_PowerControl), 4, 0, 0, 1},
-    {offsetof(PUSCH_Config, frequencyHopping), 5, 4, 0, 1},
-    {offsetof(PUSCH_Config, pusch_TimeDomainAllocationList), 7, 0, 0, 1},
-    {offsetof(PUSCH_Config, pusch_AggregationFactor), 8, 4, 0, 1},
-    {offsetof(PUSCH_Config, mcs_Table), 9, 4, 0, 1},
-    {offsetof(PUSCH_Config, mcs_TableTransformPrecoder), 10, 4, 0, 1},
-    {offsetof(PUSCH_Config, transformPrecoder), 11, 4, 0, 1},
-    {offsetof(PUSCH_Config, codebookSubset), 12, 4, 0, 1},
-    {offsetof(PUSCH_Config, maxRank), 13, 1, 0, 1},
-    {offsetof(PUSCH_Config, rbg_Size), 14, 4, 0, 1},
-    {offsetof(PUSCH_Config, uci_OnPUSCH), 15, 0, 0, 1},
-    {offsetof(PUSCH_Config, tp_pi2BPSK), 16, 4, 0, 1},
-};
-constexpr auto ops_RrcPuschCfg_t = records::opsOf<records::opCount(sizeof(RrcPuschCfg_t), fields_RrcPuschCfg_t, sources_RrcPuschCfg_t, bits_RrcPuschCfg_t, 16)>(sizeof(RrcPuschCfg_t), fields_RrcPuschCfg_t, sources_RrcPuschCfg_t, bits_RrcPuschCfg_t, 16);
 constexpr auto checks_RrcPuschCfg_t = records::checkOpsOf(fields_RrcPuschCfg_t, bits_RrcPuschCfg_t, 16);
-constexpr RrcRecordType type_RrcPuschCfg_t = {"RrcPuschCfg_t", "rrcCodec/rrcPusch.h", "PUSCH-Config", "", &nr_rrc::type_PUSCH_Config, sizeof(RrcPuschCfg_t), 0, 20, 16, 0, fields_RrcPuschCfg_t, bits_RrcPuschCfg_t, nullptr, ops_RrcPuschCfg_t.data(), static_cast<UINT16>(ops_RrcPuschCfg_t.size()), checks_RrcPuschCfg_t.data(), 86};
+constexpr RrcRecordType type_RrcPuschCfg_t = {"RrcPuschCfg_t", "rrcCodec/rrcPusch.h", "PUSCH-Config", "", &nr_rrc::type_PUSCH_Config, sizeof(RrcPuschCfg_t), 0, 20, 16, 0, fields_RrcPuschCfg_t, bits_RrcPuschCfg_t, nullptr, checks_RrcPuschCfg_t.data(), 86};
 
 constexpr RrcRecordField fields_RrcDynamicBetaOffsets_t[] = {
     {"num", {}, nullptr, nullptr, "", 1, 4, offsetof(RrcDynamicBetaOffsets_t, num), sizeof(RrcDynamicBetaOffsets_t::num), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"betaOffsets", {"", way_47, 1, &nr_rrc::type_BetaOffsets}, &type_RrcBetaOffsets_t, nullptr, "the offsets", 0, 0, offsetof(RrcDynamicBetaOffsets_t, betaOffsets), sizeof(RrcDynamicBetaOffsets_t::betaOffsets[0]), sizeof(RrcDynamicBetaOffsets_t::betaOffsets) / sizeof(RrcDynamicBetaOffsets_t::betaOffsets[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcDynamicBetaOffsets_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcDynamicBetaOffsets_t = records::opsOf<records::opCount(sizeof(RrcDynamicBetaOffsets_t), fields_RrcDynamicBetaOffsets_t, sources_RrcDynamicBetaOffsets_t, nullptr, 0)>(sizeof(RrcDynamicBetaOffsets_t), fields_RrcDynamicBetaOffsets_t, sources_RrcDynamicBetaOffsets_t, nullptr, 0);
 constexpr auto checks_RrcDynamicBetaOffsets_t = records::checkOpsOf(fields_RrcDynamicBetaOffsets_t, nullptr, 0);
-constexpr RrcRecordType type_RrcDynamicBetaOffsets_t = {"RrcDynamicBetaOffsets_t", "rrcCodec/rrcConfiguredGrant.h", "CG-UCI-OnPUSCH.dynamic", "", &nr_rrc::type_CG_UCI_OnPUSCH_dynamic, sizeof(RrcDynamicBetaOffsets_t), 0, 2, 0, 0, fields_RrcDynamicBetaOffsets_t, nullptr, nullptr, ops_RrcDynamicBetaOffsets_t.data(), static_cast<UINT16>(ops_RrcDynamicBetaOffsets_t.size()), checks_RrcDynamicBetaOffsets_t.data(), 85};
+constexpr RrcRecordType type_RrcDynamicBetaOffsets_t = {"RrcDynamicBetaOffsets_t", "rrcCodec/rrcConfiguredGrant.h", "CG-UCI-OnPUSCH.dynamic", "", &nr_rrc::type_CG_UCI_OnPUSCH_dynamic, sizeof(RrcDynamicBetaOffsets_t), 0, 2, 0, 0, fields_RrcDynamicBetaOffsets_t, nullptr, nullptr, checks_RrcDynamicBetaOffsets_t.data(), 85};
 
 constexpr RrcRecordField fields_RrcCgUciOnPusch_t_betaOffset[] = {
     {"dynamic", {"dynamic", way_0, 1, &nr_rrc::type_CG_UCI_OnPUSCH_dynamic}, &type_RrcDynamicBetaOffsets_t, nullptr, "", 0, 0, offsetof(decltype(RrcCgUciOnPusch_t::betaOffset), dynamic), sizeof(decltype(RrcCgUciOnPusch_t::betaOffset)::dynamic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"semiStatic", {"semiStatic", way_1, 1, &nr_rrc::type_BetaOffsets}, &type_RrcBetaOffsets_t, nullptr, "", 0, 0, offsetof(decltype(RrcCgUciOnPusch_t::betaOffset), semiStatic), sizeof(decltype(RrcCgUciOnPusch_t::betaOffset)::semiStatic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCgUciOnPusch_t_betaOffset[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcCgUciOnPusch_t_betaOffset = records::opsOf<records::opCount(sizeof(decltype(RrcCgUciOnPusch_t::betaOffset)), fields_RrcCgUciOnPusch_t_betaOffset, sources_RrcCgUciOnPusch_t_betaOffset, nullptr, 0)>(sizeof(decltype(RrcCgUciOnPusch_t::betaOffset)), fields_RrcCgUciOnPusch_t_betaOffset, sources_RrcCgUciOnPusch_t_betaOffset, nullptr, 0);
 constexpr auto checks_RrcCgUciOnPusch_t_betaOffset = records::checkOpsOf(fields_RrcCgUciOnPusch_t_betaOffset, nullptr, 0);
-constexpr RrcRecordType type_RrcCgUciOnPusch_t_betaOffset = {"RrcCgUciOnPusch_t.betaOffset", "rrcCodec/rrcConfiguredGrant.h", "", "", &nr_rrc::type_CG_UCI_OnPUSCH, sizeof(decltype(RrcCgUciOnPusch_t::betaOffset)), 1, 2, 0, 0, fields_RrcCgUciOnPusch_t_betaOffset, nullptr, nullptr, ops_RrcCgUciOnPusch_t_betaOffset.data(), static_cast<UINT16>(ops_RrcCgUciOnPusch_t_betaOffset.size()), checks_RrcCgUciOnPusch_t_betaOffset.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcCgUciOnPusch_t_betaOffset = {"RrcCgUciOnPusch_t.betaOffset", "rrcCodec/rrcConfiguredGrant.h", "", "", &nr_rrc::type_CG_UCI_OnPUSCH, sizeof(decltype(RrcCgUciOnPusch_t::betaOffset)), 1, 2, 0, 0, fields_RrcCgUciOnPusch_t_betaOffset, nullptr, nullptr, checks_RrcCgUciOnPusch_t_betaOffset.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCgUciOnPusch_t[] = {
     {"presence", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcCgUciOnPusch_t, presence), sizeof(RrcCgUciOnPusch_t::presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4005,13 +2678,8 @@ constexpr RrcRecordOption options_RrcCgUciOnPusch_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCgUciOnPusch_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CG_UCI_OnPUSCH}, 0, 0, 2, options_RrcCgUciOnPusch_t_0},
 };
-constexpr RrcRecordSource sources_RrcCgUciOnPusch_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcCgUciOnPusch_t = records::opsOf<records::opCount(sizeof(RrcCgUciOnPusch_t), fields_RrcCgUciOnPusch_t, sources_RrcCgUciOnPusch_t, bits_RrcCgUciOnPusch_t, 2)>(sizeof(RrcCgUciOnPusch_t), fields_RrcCgUciOnPusch_t, sources_RrcCgUciOnPusch_t, bits_RrcCgUciOnPusch_t, 2);
 constexpr auto checks_RrcCgUciOnPusch_t = records::checkOpsOf(fields_RrcCgUciOnPusch_t, bits_RrcCgUciOnPusch_t, 2);
-constexpr RrcRecordType type_RrcCgUciOnPusch_t = {"RrcCgUciOnPusch_t", "rrcCodec/rrcConfiguredGrant.h", "CG-UCI-OnPUSCH", "", &nr_rrc::type_CG_UCI_OnPUSCH, sizeof(RrcCgUciOnPusch_t), 0, 2, 2, 1, fields_RrcCgUciOnPusch_t, bits_RrcCgUciOnPusch_t, choices_RrcCgUciOnPusch_t, ops_RrcCgUciOnPusch_t.data(), static_cast<UINT16>(ops_RrcCgUciOnPusch_t.size()), checks_RrcCgUciOnPusch_t.data(), 84};
+constexpr RrcRecordType type_RrcCgUciOnPusch_t = {"RrcCgUciOnPusch_t", "rrcCodec/rrcConfiguredGrant.h", "CG-UCI-OnPUSCH", "", &nr_rrc::type_CG_UCI_OnPUSCH, sizeof(RrcCgUciOnPusch_t), 0, 2, 2, 1, fields_RrcCgUciOnPusch_t, bits_RrcCgUciOnPusch_t, choices_RrcCgUciOnPusch_t, checks_RrcCgUciOnPusch_t.data(), 84};
 
 constexpr RrcRecordField fields_rrcCfgdUlGrant_s[] = {
     {"timeDomainOffset", {"timeDomainOffset", way_0, 1, &nr_rrc::type_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant_timeDomainOffset}, nullptr, "slots", "", 0, 5119, offsetof(rrcCfgdUlGrant_s, timeDomainOffset), sizeof(rrcCfgdUlGrant_s::timeDomainOffset), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4031,22 +2699,8 @@ constexpr RrcRecordBit bits_rrcCfgdUlGrant_s[] = {
     {"RRC_CFGD_GRANT_CFG_UL_GRANT_SRS_RESOURCE_IND_PRESENCE", "", nullptr, {}, 7, 1, RRC_BIT_GUARDS, -1},
     {"RRC_CFGD_GRANT_CFG_UL_GRANT_FREQ_HOPPING_OFFSET_PRESENCE", "", nullptr, {}, 7, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_rrcCfgdUlGrant_s[] = {
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, timeDomainOffset), -1, 2, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, timeDomainAllocation), -1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, frequencyDomainAllocation), -1, 0, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, antennaPort), -1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, precodingAndNumberOfLayers), -1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, mcsAndTBS), -1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, pathlossReferenceIndex), -1, 1, 0, 1},
-    {},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, dmrs_SeqInitialization), 0, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, srs_ResourceIndicator), 1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, frequencyHoppingOffset), 2, 2, 0, 1},
-};
-constexpr auto ops_rrcCfgdUlGrant_s = records::opsOf<records::opCount(sizeof(rrcCfgdUlGrant_s), fields_rrcCfgdUlGrant_s, sources_rrcCfgdUlGrant_s, bits_rrcCfgdUlGrant_s, 3)>(sizeof(rrcCfgdUlGrant_s), fields_rrcCfgdUlGrant_s, sources_rrcCfgdUlGrant_s, bits_rrcCfgdUlGrant_s, 3);
 constexpr auto checks_rrcCfgdUlGrant_s = records::checkOpsOf(fields_rrcCfgdUlGrant_s, bits_rrcCfgdUlGrant_s, 3);
-constexpr RrcRecordType type_rrcCfgdUlGrant_s = {"rrcCfgdUlGrant_s", "rrcCodec/rrcConfiguredGrant.h", "ConfiguredGrantConfig.rrc-ConfiguredUplinkGrant", "", &nr_rrc::type_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, sizeof(rrcCfgdUlGrant_s), 0, 11, 3, 0, fields_rrcCfgdUlGrant_s, bits_rrcCfgdUlGrant_s, nullptr, ops_rrcCfgdUlGrant_s.data(), static_cast<UINT16>(ops_rrcCfgdUlGrant_s.size()), checks_rrcCfgdUlGrant_s.data(), 83};
+constexpr RrcRecordType type_rrcCfgdUlGrant_s = {"rrcCfgdUlGrant_s", "rrcCodec/rrcConfiguredGrant.h", "ConfiguredGrantConfig.rrc-ConfiguredUplinkGrant", "", &nr_rrc::type_ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, sizeof(rrcCfgdUlGrant_s), 0, 11, 3, 0, fields_rrcCfgdUlGrant_s, bits_rrcCfgdUlGrant_s, nullptr, checks_rrcCfgdUlGrant_s.data(), 83};
 
 constexpr RrcRecordField fields_RrcCfgGrantCfg_t[] = {
     {"cgDmrsCfg", {"cg-DMRS-Configuration", way_1, 1, &nr_rrc::type_DMRS_UplinkConfig}, &type_RrcDmrsUlCfg_t, nullptr, "", 0, 0, offsetof(RrcCfgGrantCfg_t, cgDmrsCfg), sizeof(RrcCfgGrantCfg_t::cgDmrsCfg), 0, 0, RRC_FIELD_RECORD, RRC_FIELD_ALWAYS_SENT, 0, 0, -1, -1, -1, -1},
@@ -4078,28 +2732,8 @@ constexpr RrcRecordBit bits_RrcCfgGrantCfg_t[] = {
     {"RRC_CFGD_GRANT_CFG_CFGD_GRANT_TIMER_PRESENCE", "", nullptr, {}, 7, 7, RRC_BIT_GUARDS, -1},
     {"RRC_CFGD_GRANT_CFG_RRC_CFGD_UL_GRANT_PRESENCE", "", nullptr, {}, 7, 8, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcCfgGrantCfg_t[] = {
-    {offsetof(ConfiguredGrantConfig, cg_DMRS_Configuration), -1, 0, 0, 1},
-    {offsetof(ConfiguredGrantConfig, resourceAllocation), -1, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, powerControlLoopToUse), -1, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, p0_PUSCH_Alpha), -1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig, nrofHARQ_Processes), -1, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig, repK), -1, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, periodicity), -1, 4, 0, 1},
-    {},
-    {offsetof(ConfiguredGrantConfig, frequencyHopping), 0, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, mcs_Table), 1, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, mcs_TableTransformPrecoder), 2, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, uci_OnPUSCH), 3, 0, 0, 1},
-    {offsetof(ConfiguredGrantConfig, rbg_Size), 4, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, transformPrecoder), 5, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, repK_RV), 6, 4, 0, 1},
-    {offsetof(ConfiguredGrantConfig, configuredGrantTimer), 7, 1, 0, 1},
-    {offsetof(ConfiguredGrantConfig, rrc_ConfiguredUplinkGrant), 8, 0, 0, 1},
-};
-constexpr auto ops_RrcCfgGrantCfg_t = records::opsOf<records::opCount(sizeof(RrcCfgGrantCfg_t), fields_RrcCfgGrantCfg_t, sources_RrcCfgGrantCfg_t, bits_RrcCfgGrantCfg_t, 9)>(sizeof(RrcCfgGrantCfg_t), fields_RrcCfgGrantCfg_t, sources_RrcCfgGrantCfg_t, bits_RrcCfgGrantCfg_t, 9);
 constexpr auto checks_RrcCfgGrantCfg_t = records::checkOpsOf(fields_RrcCfgGrantCfg_t, bits_RrcCfgGrantCfg_t, 9);
-constexpr RrcRecordType type_RrcCfgGrantCfg_t = {"RrcCfgGrantCfg_t", "rrcCodec/rrcConfiguredGrant.h", "ConfiguredGrantConfig", "", &nr_rrc::type_ConfiguredGrantConfig, sizeof(RrcCfgGrantCfg_t), 0, 17, 9, 0, fields_RrcCfgGrantCfg_t, bits_RrcCfgGrantCfg_t, nullptr, ops_RrcCfgGrantCfg_t.data(), static_cast<UINT16>(ops_RrcCfgGrantCfg_t.size()), checks_RrcCfgGrantCfg_t.data(), 82};
+constexpr RrcRecordType type_RrcCfgGrantCfg_t = {"RrcCfgGrantCfg_t", "rrcCodec/rrcConfiguredGrant.h", "ConfiguredGrantConfig", "", &nr_rrc::type_ConfiguredGrantConfig, sizeof(RrcCfgGrantCfg_t), 0, 17, 9, 0, fields_RrcCfgGrantCfg_t, bits_RrcCfgGrantCfg_t, nullptr, checks_RrcCfgGrantCfg_t.data(), 82};
 
 constexpr RrcRecordField fields_aperiodic_s[] = {
     {"aperiodicSrsResourceTrigger", {"aperiodicSRS-ResourceTrigger", way_0, 1, &nr_rrc::type_SRS_ResourceSet_resourceType_aperiodic_aperiodicSRS_ResourceTrigger}, nullptr, nullptr, "", 1, 3, offsetof(aperiodic_s, aperiodicSrsResourceTrigger), sizeof(aperiodic_s::aperiodicSrsResourceTrigger), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4111,15 +2745,8 @@ constexpr RrcRecordBit bits_aperiodic_s[] = {
     {"RRC_SRS_RESOURCE_SET_APERIODIC_CSI_RS_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
     {"RRC_SRS_RESOURCE_SET_APERIODIC_SLOT_OFFSET_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_aperiodic_s[] = {
-    {offsetof(SRS_ResourceSet_resourceType_aperiodic, aperiodicSRS_ResourceTrigger), -1, 1, 0, 1},
-    {},
-    {offsetof(SRS_ResourceSet_resourceType_aperiodic, csi_RS), 0, 1, 0, 1},
-    {offsetof(SRS_ResourceSet_resourceType_aperiodic, slotOffset), 1, 1, 0, 1},
-};
-constexpr auto ops_aperiodic_s = records::opsOf<records::opCount(sizeof(aperiodic_s), fields_aperiodic_s, sources_aperiodic_s, bits_aperiodic_s, 2)>(sizeof(aperiodic_s), fields_aperiodic_s, sources_aperiodic_s, bits_aperiodic_s, 2);
 constexpr auto checks_aperiodic_s = records::checkOpsOf(fields_aperiodic_s, bits_aperiodic_s, 2);
-constexpr RrcRecordType type_aperiodic_s = {"aperiodic_s", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType.aperiodic", "", &nr_rrc::type_SRS_ResourceSet_resourceType_aperiodic, sizeof(aperiodic_s), 0, 4, 2, 0, fields_aperiodic_s, bits_aperiodic_s, nullptr, ops_aperiodic_s.data(), static_cast<UINT16>(ops_aperiodic_s.size()), checks_aperiodic_s.data(), 81};
+constexpr RrcRecordType type_aperiodic_s = {"aperiodic_s", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType.aperiodic", "", &nr_rrc::type_SRS_ResourceSet_resourceType_aperiodic, sizeof(aperiodic_s), 0, 4, 2, 0, fields_aperiodic_s, bits_aperiodic_s, nullptr, checks_aperiodic_s.data(), 81};
 
 constexpr RrcRecordField fields_semiPersistent_s[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(semiPersistent_s, bitMask), sizeof(semiPersistent_s::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4128,13 +2755,8 @@ constexpr RrcRecordField fields_semiPersistent_s[] = {
 constexpr RrcRecordBit bits_semiPersistent_s[] = {
     {"RRC_SRS_RESOURCE_SET_SEMI_PERSISTENT_CSI_RS_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_semiPersistent_s[] = {
-    {},
-    {offsetof(SRS_ResourceSet_resourceType_semi_persistent, associatedCSI_RS), 0, 1, 0, 1},
-};
-constexpr auto ops_semiPersistent_s = records::opsOf<records::opCount(sizeof(semiPersistent_s), fields_semiPersistent_s, sources_semiPersistent_s, bits_semiPersistent_s, 1)>(sizeof(semiPersistent_s), fields_semiPersistent_s, sources_semiPersistent_s, bits_semiPersistent_s, 1);
 constexpr auto checks_semiPersistent_s = records::checkOpsOf(fields_semiPersistent_s, bits_semiPersistent_s, 1);
-constexpr RrcRecordType type_semiPersistent_s = {"semiPersistent_s", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType.semi-persistent", "", &nr_rrc::type_SRS_ResourceSet_resourceType_semi_persistent, sizeof(semiPersistent_s), 0, 2, 1, 0, fields_semiPersistent_s, bits_semiPersistent_s, nullptr, ops_semiPersistent_s.data(), static_cast<UINT16>(ops_semiPersistent_s.size()), checks_semiPersistent_s.data(), 80};
+constexpr RrcRecordType type_semiPersistent_s = {"semiPersistent_s", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType.semi-persistent", "", &nr_rrc::type_SRS_ResourceSet_resourceType_semi_persistent, sizeof(semiPersistent_s), 0, 2, 1, 0, fields_semiPersistent_s, bits_semiPersistent_s, nullptr, checks_semiPersistent_s.data(), 80};
 
 constexpr RrcRecordField fields_periodic_s[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(periodic_s, bitMask), sizeof(periodic_s::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4143,39 +2765,23 @@ constexpr RrcRecordField fields_periodic_s[] = {
 constexpr RrcRecordBit bits_periodic_s[] = {
     {"RRC_SRS_RESOURCE_SET_PERIODIC_CSI_RS_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_periodic_s[] = {
-    {},
-    {offsetof(SRS_ResourceSet_resourceType_periodic, associatedCSI_RS), 0, 1, 0, 1},
-};
-constexpr auto ops_periodic_s = records::opsOf<records::opCount(sizeof(periodic_s), fields_periodic_s, sources_periodic_s, bits_periodic_s, 1)>(sizeof(periodic_s), fields_periodic_s, sources_periodic_s, bits_periodic_s, 1);
 constexpr auto checks_periodic_s = records::checkOpsOf(fields_periodic_s, bits_periodic_s, 1);
-constexpr RrcRecordType type_periodic_s = {"periodic_s", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType.periodic", "", &nr_rrc::type_SRS_ResourceSet_resourceType_periodic, sizeof(periodic_s), 0, 2, 1, 0, fields_periodic_s, bits_periodic_s, nullptr, ops_periodic_s.data(), static_cast<UINT16>(ops_periodic_s.size()), checks_periodic_s.data(), 79};
+constexpr RrcRecordType type_periodic_s = {"periodic_s", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType.periodic", "", &nr_rrc::type_SRS_ResourceSet_resourceType_periodic, sizeof(periodic_s), 0, 2, 1, 0, fields_periodic_s, bits_periodic_s, nullptr, checks_periodic_s.data(), 79};
 
 constexpr RrcRecordField fields_resourceType_u[] = {
     {"aperiodic", {"aperiodic", way_0, 1, &nr_rrc::type_SRS_ResourceSet_resourceType_aperiodic}, &type_aperiodic_s, nullptr, "", 0, 0, offsetof(resourceType_u, aperiodic), sizeof(resourceType_u::aperiodic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"semiPersistent", {"semi-persistent", way_1, 1, &nr_rrc::type_SRS_ResourceSet_resourceType_semi_persistent}, &type_semiPersistent_s, nullptr, "", 0, 0, offsetof(resourceType_u, semiPersistent), sizeof(resourceType_u::semiPersistent), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"periodic", {"periodic", way_2, 1, &nr_rrc::type_SRS_ResourceSet_resourceType_periodic}, &type_periodic_s, nullptr, "", 0, 0, offsetof(resourceType_u, periodic), sizeof(resourceType_u::periodic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_resourceType_u[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_resourceType_u = records::opsOf<records::opCount(sizeof(resourceType_u), fields_resourceType_u, sources_resourceType_u, nullptr, 0)>(sizeof(resourceType_u), fields_resourceType_u, sources_resourceType_u, nullptr, 0);
 constexpr auto checks_resourceType_u = records::checkOpsOf(fields_resourceType_u, nullptr, 0);
-constexpr RrcRecordType type_resourceType_u = {"resourceType_u", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType", "", &nr_rrc::type_SRS_ResourceSet_resourceType, sizeof(resourceType_u), 1, 3, 0, 0, fields_resourceType_u, nullptr, nullptr, ops_resourceType_u.data(), static_cast<UINT16>(ops_resourceType_u.size()), checks_resourceType_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_resourceType_u = {"resourceType_u", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.resourceType", "", &nr_rrc::type_SRS_ResourceSet_resourceType, sizeof(resourceType_u), 1, 3, 0, 0, fields_resourceType_u, nullptr, nullptr, checks_resourceType_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcSRSPathLossRefRs_t_u[] = {
     {"ssbIdx", {"ssb-Index", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(decltype(RrcSRSPathLossRefRs_t::u), ssbIdx), sizeof(decltype(RrcSRSPathLossRefRs_t::u)::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-RS-Index", way_1, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(decltype(RrcSRSPathLossRefRs_t::u), csiRsIdx), sizeof(decltype(RrcSRSPathLossRefRs_t::u)::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSRSPathLossRefRs_t_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcSRSPathLossRefRs_t_u = records::opsOf<records::opCount(sizeof(decltype(RrcSRSPathLossRefRs_t::u)), fields_RrcSRSPathLossRefRs_t_u, sources_RrcSRSPathLossRefRs_t_u, nullptr, 0)>(sizeof(decltype(RrcSRSPathLossRefRs_t::u)), fields_RrcSRSPathLossRefRs_t_u, sources_RrcSRSPathLossRefRs_t_u, nullptr, 0);
 constexpr auto checks_RrcSRSPathLossRefRs_t_u = records::checkOpsOf(fields_RrcSRSPathLossRefRs_t_u, nullptr, 0);
-constexpr RrcRecordType type_RrcSRSPathLossRefRs_t_u = {"RrcSRSPathLossRefRs_t.u", "rrcCodec/rrcSrs.h", "", "", &nr_rrc::type_SRS_ResourceSet_pathlossReferenceRS, sizeof(decltype(RrcSRSPathLossRefRs_t::u)), 1, 2, 0, 0, fields_RrcSRSPathLossRefRs_t_u, nullptr, nullptr, ops_RrcSRSPathLossRefRs_t_u.data(), static_cast<UINT16>(ops_RrcSRSPathLossRefRs_t_u.size()), checks_RrcSRSPathLossRefRs_t_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_RrcSRSPathLossRefRs_t_u = {"RrcSRSPathLossRefRs_t.u", "rrcCodec/rrcSrs.h", "", "", &nr_rrc::type_SRS_ResourceSet_pathlossReferenceRS, sizeof(decltype(RrcSRSPathLossRefRs_t::u)), 1, 2, 0, 0, fields_RrcSRSPathLossRefRs_t_u, nullptr, nullptr, checks_RrcSRSPathLossRefRs_t_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcSRSPathLossRefRs_t[] = {
     {"presence", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcSRSPathLossRefRs_t, presence), sizeof(RrcSRSPathLossRefRs_t::presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4192,13 +2798,8 @@ constexpr RrcRecordOption options_RrcSRSPathLossRefRs_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSRSPathLossRefRs_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_SRS_ResourceSet_pathlossReferenceRS}, 0, 0, 2, options_RrcSRSPathLossRefRs_t_0},
 };
-constexpr RrcRecordSource sources_RrcSRSPathLossRefRs_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcSRSPathLossRefRs_t = records::opsOf<records::opCount(sizeof(RrcSRSPathLossRefRs_t), fields_RrcSRSPathLossRefRs_t, sources_RrcSRSPathLossRefRs_t, bits_RrcSRSPathLossRefRs_t, 2)>(sizeof(RrcSRSPathLossRefRs_t), fields_RrcSRSPathLossRefRs_t, sources_RrcSRSPathLossRefRs_t, bits_RrcSRSPathLossRefRs_t, 2);
 constexpr auto checks_RrcSRSPathLossRefRs_t = records::checkOpsOf(fields_RrcSRSPathLossRefRs_t, bits_RrcSRSPathLossRefRs_t, 2);
-constexpr RrcRecordType type_RrcSRSPathLossRefRs_t = {"RrcSRSPathLossRefRs_t", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.pathlossReferenceRS", "", &nr_rrc::type_SRS_ResourceSet_pathlossReferenceRS, sizeof(RrcSRSPathLossRefRs_t), 0, 2, 2, 1, fields_RrcSRSPathLossRefRs_t, bits_RrcSRSPathLossRefRs_t, choices_RrcSRSPathLossRefRs_t, ops_RrcSRSPathLossRefRs_t.data(), static_cast<UINT16>(ops_RrcSRSPathLossRefRs_t.size()), checks_RrcSRSPathLossRefRs_t.data(), 78};
+constexpr RrcRecordType type_RrcSRSPathLossRefRs_t = {"RrcSRSPathLossRefRs_t", "rrcCodec/rrcSrs.h", "SRS-ResourceSet.pathlossReferenceRS", "", &nr_rrc::type_SRS_ResourceSet_pathlossReferenceRS, sizeof(RrcSRSPathLossRefRs_t), 0, 2, 2, 1, fields_RrcSRSPathLossRefRs_t, bits_RrcSRSPathLossRefRs_t, choices_RrcSRSPathLossRefRs_t, checks_RrcSRSPathLossRefRs_t.data(), 78};
 
 constexpr RrcRecordField fields_RrcSrsResourceSet_t[] = {
     {"srsResourceSetId", {"srs-ResourceSetId", way_0, 1, &nr_rrc::type_SRS_ResourceSetId}, nullptr, nullptr, "", 0, 15, offsetof(RrcSrsResourceSet_t, srsResourceSetId), sizeof(RrcSrsResourceSet_t::srsResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4229,95 +2830,51 @@ constexpr RrcRecordOption options_RrcSrsResourceSet_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSrsResourceSet_t[] = {
     {{"resourceType", way_2, 1, &nr_rrc::type_SRS_ResourceSet_resourceType}, 3, 0, 3, options_RrcSrsResourceSet_t_0},
 };
-constexpr RrcRecordSource sources_RrcSrsResourceSet_t[] = {
-    {offsetof(SRS_ResourceSet, srs_ResourceSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(SRS_ResourceSet, srs_ResourceIdList), 0, 0, 0, 1},
-    {},
-    {offsetof(SRS_ResourceSet, resourceType), -1, 0, 0, 1},
-    {offsetof(SRS_ResourceSet, usage), -1, 4, 0, 1},
-    {offsetof(SRS_ResourceSet, alpha), 1, 4, 0, 1},
-    {offsetof(SRS_ResourceSet, p0), 2, 2, 1, 1},
-    {offsetof(SRS_ResourceSet, pathlossReferenceRS), 3, 0, 0, 1},
-    {offsetof(SRS_ResourceSet, srs_PowerControlAdjustmentStates), 4, 4, 0, 1},
-};
-constexpr auto ops_RrcSrsResourceSet_t = records::opsOf<records::opCount(sizeof(RrcSrsResourceSet_t), fields_RrcSrsResourceSet_t, sources_RrcSrsResourceSet_t, bits_RrcSrsResourceSet_t, 7)>(sizeof(RrcSrsResourceSet_t), fields_RrcSrsResourceSet_t, sources_RrcSrsResourceSet_t, bits_RrcSrsResourceSet_t, 7);
 constexpr auto checks_RrcSrsResourceSet_t = records::checkOpsOf(fields_RrcSrsResourceSet_t, bits_RrcSrsResourceSet_t, 7);
-constexpr RrcRecordType type_RrcSrsResourceSet_t = {"RrcSrsResourceSet_t", "rrcCodec/rrcSrs.h", "SRS-ResourceSet", "", &nr_rrc::type_SRS_ResourceSet, sizeof(RrcSrsResourceSet_t), 0, 10, 7, 1, fields_RrcSrsResourceSet_t, bits_RrcSrsResourceSet_t, choices_RrcSrsResourceSet_t, ops_RrcSrsResourceSet_t.data(), static_cast<UINT16>(ops_RrcSrsResourceSet_t.size()), checks_RrcSrsResourceSet_t.data(), 77};
+constexpr RrcRecordType type_RrcSrsResourceSet_t = {"RrcSrsResourceSet_t", "rrcCodec/rrcSrs.h", "SRS-ResourceSet", "", &nr_rrc::type_SRS_ResourceSet, sizeof(RrcSrsResourceSet_t), 0, 10, 7, 1, fields_RrcSrsResourceSet_t, bits_RrcSrsResourceSet_t, choices_RrcSrsResourceSet_t, checks_RrcSrsResourceSet_t.data(), 77};
 
 constexpr RrcRecordField fields_transmissionComb_u_n2[] = {
     {"combOffsetN2", {"combOffset-n2", way_0, 1, &nr_rrc::type_SRS_Resource_transmissionComb_n2_combOffset_n2}, nullptr, nullptr, "", 0, 1, offsetof(decltype(transmissionComb_u::n2), combOffsetN2), sizeof(decltype(transmissionComb_u::n2)::combOffsetN2), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"cyclicShiftN2", {"cyclicShift-n2", way_1, 1, &nr_rrc::type_SRS_Resource_transmissionComb_n2_cyclicShift_n2}, nullptr, nullptr, "", 0, 7, offsetof(decltype(transmissionComb_u::n2), cyclicShiftN2), sizeof(decltype(transmissionComb_u::n2)::cyclicShiftN2), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_transmissionComb_u_n2[] = {
-    {offsetof(SRS_Resource_transmissionComb_n2, combOffset_n2), -1, 1, 0, 1},
-    {offsetof(SRS_Resource_transmissionComb_n2, cyclicShift_n2), -1, 1, 0, 1},
-};
-constexpr auto ops_transmissionComb_u_n2 = records::opsOf<records::opCount(sizeof(decltype(transmissionComb_u::n2)), fields_transmissionComb_u_n2, sources_transmissionComb_u_n2, nullptr, 0)>(sizeof(decltype(transmissionComb_u::n2)), fields_transmissionComb_u_n2, sources_transmissionComb_u_n2, nullptr, 0);
 constexpr auto checks_transmissionComb_u_n2 = records::checkOpsOf(fields_transmissionComb_u_n2, nullptr, 0);
-constexpr RrcRecordType type_transmissionComb_u_n2 = {"transmissionComb_u.n2", "rrcCodec/rrcSrs.h", "n2", "", &nr_rrc::type_SRS_Resource_transmissionComb_n2, sizeof(decltype(transmissionComb_u::n2)), 0, 2, 0, 0, fields_transmissionComb_u_n2, nullptr, nullptr, ops_transmissionComb_u_n2.data(), static_cast<UINT16>(ops_transmissionComb_u_n2.size()), checks_transmissionComb_u_n2.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_transmissionComb_u_n2 = {"transmissionComb_u.n2", "rrcCodec/rrcSrs.h", "n2", "", &nr_rrc::type_SRS_Resource_transmissionComb_n2, sizeof(decltype(transmissionComb_u::n2)), 0, 2, 0, 0, fields_transmissionComb_u_n2, nullptr, nullptr, checks_transmissionComb_u_n2.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_transmissionComb_u_n4[] = {
     {"combOffsetN4", {"combOffset-n4", way_0, 1, &nr_rrc::type_SRS_Resource_transmissionComb_n4_combOffset_n4}, nullptr, nullptr, "", 0, 3, offsetof(decltype(transmissionComb_u::n4), combOffsetN4), sizeof(decltype(transmissionComb_u::n4)::combOffsetN4), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"cyclicShiftN4", {"cyclicShift-n4", way_1, 1, &nr_rrc::type_SRS_Resource_transmissionComb_n4_cyclicShift_n4}, nullptr, nullptr, "", 0, 11, offsetof(decltype(transmissionComb_u::n4), cyclicShiftN4), sizeof(decltype(transmissionComb_u::n4)::cyclicShiftN4), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_transmissionComb_u_n4[] = {
-    {offsetof(SRS_Resource_transmissionComb_n4, combOffset_n4), -1, 1, 0, 1},
-    {offsetof(SRS_Resource_transmissionComb_n4, cyclicShift_n4), -1, 1, 0, 1},
-};
-constexpr auto ops_transmissionComb_u_n4 = records::opsOf<records::opCount(sizeof(decltype(transmissionComb_u::n4)), fields_transmissionComb_u_n4, sources_transmissionComb_u_n4, nullptr, 0)>(sizeof(decltype(transmissionComb_u::n4)), fields_transmissionComb_u_n4, sources_transmissionComb_u_n4, nullptr, 0);
 constexpr auto checks_transmissionComb_u_n4 = records::checkOpsOf(fields_transmissionComb_u_n4, nullptr, 0);
-constexpr RrcRecordType type_transmissionComb_u_n4 = {"transmissionComb_u.n4", "rrcCodec/rrcSrs.h", "n4", "", &nr_rrc::type_SRS_Resource_transmissionComb_n4, sizeof(decltype(transmissionComb_u::n4)), 0, 2, 0, 0, fields_transmissionComb_u_n4, nullptr, nullptr, ops_transmissionComb_u_n4.data(), static_cast<UINT16>(ops_transmissionComb_u_n4.size()), checks_transmissionComb_u_n4.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_transmissionComb_u_n4 = {"transmissionComb_u.n4", "rrcCodec/rrcSrs.h", "n4", "", &nr_rrc::type_SRS_Resource_transmissionComb_n4, sizeof(decltype(transmissionComb_u::n4)), 0, 2, 0, 0, fields_transmissionComb_u_n4, nullptr, nullptr, checks_transmissionComb_u_n4.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_transmissionComb_u[] = {
     {"n2", {"n2", way_0, 1, &nr_rrc::type_SRS_Resource_transmissionComb_n2}, &type_transmissionComb_u_n2, nullptr, "", 0, 0, offsetof(transmissionComb_u, n2), sizeof(transmissionComb_u::n2), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"n4", {"n4", way_1, 1, &nr_rrc::type_SRS_Resource_transmissionComb_n4}, &type_transmissionComb_u_n4, nullptr, "", 0, 0, offsetof(transmissionComb_u, n4), sizeof(transmissionComb_u::n4), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_transmissionComb_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_transmissionComb_u = records::opsOf<records::opCount(sizeof(transmissionComb_u), fields_transmissionComb_u, sources_transmissionComb_u, nullptr, 0)>(sizeof(transmissionComb_u), fields_transmissionComb_u, sources_transmissionComb_u, nullptr, 0);
 constexpr auto checks_transmissionComb_u = records::checkOpsOf(fields_transmissionComb_u, nullptr, 0);
-constexpr RrcRecordType type_transmissionComb_u = {"transmissionComb_u", "rrcCodec/rrcSrs.h", "SRS-Resource.transmissionComb", "", &nr_rrc::type_SRS_Resource_transmissionComb, sizeof(transmissionComb_u), 1, 2, 0, 0, fields_transmissionComb_u, nullptr, nullptr, ops_transmissionComb_u.data(), static_cast<UINT16>(ops_transmissionComb_u.size()), checks_transmissionComb_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_transmissionComb_u = {"transmissionComb_u", "rrcCodec/rrcSrs.h", "SRS-Resource.transmissionComb", "", &nr_rrc::type_SRS_Resource_transmissionComb, sizeof(transmissionComb_u), 1, 2, 0, 0, fields_transmissionComb_u, nullptr, nullptr, checks_transmissionComb_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_resourceMapping_s[] = {
     {"startPos", {"startPosition", way_0, 1, &nr_rrc::type_SRS_Resource_resourceMapping_startPosition}, nullptr, "symbols", "0 is the last one of the slot", 0, 5, offsetof(resourceMapping_s, startPos), sizeof(resourceMapping_s::startPos), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"nfofSymbols", {"nrofSymbols", way_1, 1, &nr_rrc::type_SRS_Resource_resourceMapping_nrofSymbols}, nullptr, nullptr, "", 0, 2, offsetof(resourceMapping_s, nfofSymbols), sizeof(resourceMapping_s::nfofSymbols), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"repetitionFactor", {"repetitionFactor", way_2, 1, &nr_rrc::type_SRS_Resource_resourceMapping_repetitionFactor}, nullptr, nullptr, "", 0, 2, offsetof(resourceMapping_s, repetitionFactor), sizeof(resourceMapping_s::repetitionFactor), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_resourceMapping_s[] = {
-    {offsetof(SRS_Resource_resourceMapping, startPosition), -1, 1, 0, 1},
-    {offsetof(SRS_Resource_resourceMapping, nrofSymbols), -1, 4, 0, 1},
-    {offsetof(SRS_Resource_resourceMapping, repetitionFactor), -1, 4, 0, 1},
-};
-constexpr auto ops_resourceMapping_s = records::opsOf<records::opCount(sizeof(resourceMapping_s), fields_resourceMapping_s, sources_resourceMapping_s, nullptr, 0)>(sizeof(resourceMapping_s), fields_resourceMapping_s, sources_resourceMapping_s, nullptr, 0);
 constexpr auto checks_resourceMapping_s = records::checkOpsOf(fields_resourceMapping_s, nullptr, 0);
-constexpr RrcRecordType type_resourceMapping_s = {"resourceMapping_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceMapping", "", &nr_rrc::type_SRS_Resource_resourceMapping, sizeof(resourceMapping_s), 0, 3, 0, 0, fields_resourceMapping_s, nullptr, nullptr, ops_resourceMapping_s.data(), static_cast<UINT16>(ops_resourceMapping_s.size()), checks_resourceMapping_s.data(), 76};
+constexpr RrcRecordType type_resourceMapping_s = {"resourceMapping_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceMapping", "", &nr_rrc::type_SRS_Resource_resourceMapping, sizeof(resourceMapping_s), 0, 3, 0, 0, fields_resourceMapping_s, nullptr, nullptr, checks_resourceMapping_s.data(), 76};
 
 constexpr RrcRecordField fields_freqHopping_s[] = {
     {"cSrs", {"c-SRS", way_0, 1, &nr_rrc::type_SRS_Resource_freqHopping_c_SRS}, nullptr, nullptr, "", 0, 63, offsetof(freqHopping_s, cSrs), sizeof(freqHopping_s::cSrs), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"bSrs", {"b-SRS", way_1, 1, &nr_rrc::type_SRS_Resource_freqHopping_b_SRS}, nullptr, nullptr, "", 0, 3, offsetof(freqHopping_s, bSrs), sizeof(freqHopping_s::bSrs), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"bHop", {"b-hop", way_2, 1, &nr_rrc::type_SRS_Resource_freqHopping_b_hop}, nullptr, nullptr, "", 0, 3, offsetof(freqHopping_s, bHop), sizeof(freqHopping_s::bHop), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_freqHopping_s[] = {
-    {offsetof(SRS_Resource_freqHopping, c_SRS), -1, 1, 0, 1},
-    {offsetof(SRS_Resource_freqHopping, b_SRS), -1, 1, 0, 1},
-    {offsetof(SRS_Resource_freqHopping, b_hop), -1, 1, 0, 1},
-};
-constexpr auto ops_freqHopping_s = records::opsOf<records::opCount(sizeof(freqHopping_s), fields_freqHopping_s, sources_freqHopping_s, nullptr, 0)>(sizeof(freqHopping_s), fields_freqHopping_s, sources_freqHopping_s, nullptr, 0);
 constexpr auto checks_freqHopping_s = records::checkOpsOf(fields_freqHopping_s, nullptr, 0);
-constexpr RrcRecordType type_freqHopping_s = {"freqHopping_s", "rrcCodec/rrcSrs.h", "SRS-Resource.freqHopping", "", &nr_rrc::type_SRS_Resource_freqHopping, sizeof(freqHopping_s), 0, 3, 0, 0, fields_freqHopping_s, nullptr, nullptr, ops_freqHopping_s.data(), static_cast<UINT16>(ops_freqHopping_s.size()), checks_freqHopping_s.data(), 75};
+constexpr RrcRecordType type_freqHopping_s = {"freqHopping_s", "rrcCodec/rrcSrs.h", "SRS-Resource.freqHopping", "", &nr_rrc::type_SRS_Resource_freqHopping, sizeof(freqHopping_s), 0, 3, 0, 0, fields_freqHopping_s, nullptr, nullptr, checks_freqHopping_s.data(), 75};
 
 constexpr RrcRecordField fields_srsAperiodic_s[] = {
     {"padding", {}, nullptr, nullptr, "gives the structure the same size in C and C++", 0, 0, offsetof(srsAperiodic_s, padding), sizeof(srsAperiodic_s::padding), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_srsAperiodic_s[] = {
-    {},
-};
-constexpr auto ops_srsAperiodic_s = records::opsOf<records::opCount(sizeof(srsAperiodic_s), fields_srsAperiodic_s, sources_srsAperiodic_s, nullptr, 0)>(sizeof(srsAperiodic_s), fields_srsAperiodic_s, sources_srsAperiodic_s, nullptr, 0);
 constexpr auto checks_srsAperiodic_s = records::checkOpsOf(fields_srsAperiodic_s, nullptr, 0);
-constexpr RrcRecordType type_srsAperiodic_s = {"srsAperiodic_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType.aperiodic", "it has no members", &nr_rrc::type_SRS_Resource_resourceType_aperiodic, sizeof(srsAperiodic_s), 0, 1, 0, 0, fields_srsAperiodic_s, nullptr, nullptr, ops_srsAperiodic_s.data(), static_cast<UINT16>(ops_srsAperiodic_s.size()), checks_srsAperiodic_s.data(), 74};
+constexpr RrcRecordType type_srsAperiodic_s = {"srsAperiodic_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType.aperiodic", "it has no members", &nr_rrc::type_SRS_Resource_resourceType_aperiodic, sizeof(srsAperiodic_s), 0, 1, 0, 0, fields_srsAperiodic_s, nullptr, nullptr, checks_srsAperiodic_s.data(), 74};
 
 constexpr RrcRecordField fields_srsSemiPersistent_s[] = {
     {"period", {"periodicityAndOffset-sp", way_0, 1, &nr_rrc::type_SRS_PeriodicityAndOffset}, nullptr, nullptr, "", 1, 17, offsetof(srsSemiPersistent_s, period), sizeof(srsSemiPersistent_s::period), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -4345,13 +2902,8 @@ constexpr RrcRecordOption options_srsSemiPersistent_s_0[] = {
 constexpr RrcRecordChoice choices_srsSemiPersistent_s[] = {
     {{"periodicityAndOffset-sp", way_0, 1, &nr_rrc::type_SRS_PeriodicityAndOffset}, 0, 1, 17, options_srsSemiPersistent_s_0},
 };
-constexpr RrcRecordSource sources_srsSemiPersistent_s[] = {
-    {offsetof(SRS_Resource_resourceType_semi_persistent, periodicityAndOffset_sp), -1, 0, 0, 1},
-    {},
-};
-constexpr auto ops_srsSemiPersistent_s = records::opsOf<records::opCount(sizeof(srsSemiPersistent_s), fields_srsSemiPersistent_s, sources_srsSemiPersistent_s, nullptr, 0)>(sizeof(srsSemiPersistent_s), fields_srsSemiPersistent_s, sources_srsSemiPersistent_s, nullptr, 0);
 constexpr auto checks_srsSemiPersistent_s = records::checkOpsOf(fields_srsSemiPersistent_s, nullptr, 0);
-constexpr RrcRecordType type_srsSemiPersistent_s = {"srsSemiPersistent_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType.semi-persistent", "", &nr_rrc::type_SRS_Resource_resourceType_semi_persistent, sizeof(srsSemiPersistent_s), 0, 2, 0, 1, fields_srsSemiPersistent_s, nullptr, choices_srsSemiPersistent_s, ops_srsSemiPersistent_s.data(), static_cast<UINT16>(ops_srsSemiPersistent_s.size()), checks_srsSemiPersistent_s.data(), 73};
+constexpr RrcRecordType type_srsSemiPersistent_s = {"srsSemiPersistent_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType.semi-persistent", "", &nr_rrc::type_SRS_Resource_resourceType_semi_persistent, sizeof(srsSemiPersistent_s), 0, 2, 0, 1, fields_srsSemiPersistent_s, nullptr, choices_srsSemiPersistent_s, checks_srsSemiPersistent_s.data(), 73};
 
 constexpr RrcRecordField fields_srsPeriodic_s[] = {
     {"period", {"periodicityAndOffset-p", way_0, 1, &nr_rrc::type_SRS_PeriodicityAndOffset}, nullptr, nullptr, "", 1, 17, offsetof(srsPeriodic_s, period), sizeof(srsPeriodic_s::period), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -4379,53 +2931,31 @@ constexpr RrcRecordOption options_srsPeriodic_s_0[] = {
 constexpr RrcRecordChoice choices_srsPeriodic_s[] = {
     {{"periodicityAndOffset-p", way_0, 1, &nr_rrc::type_SRS_PeriodicityAndOffset}, 0, 1, 17, options_srsPeriodic_s_0},
 };
-constexpr RrcRecordSource sources_srsPeriodic_s[] = {
-    {offsetof(SRS_Resource_resourceType_periodic, periodicityAndOffset_p), -1, 0, 0, 1},
-    {},
-};
-constexpr auto ops_srsPeriodic_s = records::opsOf<records::opCount(sizeof(srsPeriodic_s), fields_srsPeriodic_s, sources_srsPeriodic_s, nullptr, 0)>(sizeof(srsPeriodic_s), fields_srsPeriodic_s, sources_srsPeriodic_s, nullptr, 0);
 constexpr auto checks_srsPeriodic_s = records::checkOpsOf(fields_srsPeriodic_s, nullptr, 0);
-constexpr RrcRecordType type_srsPeriodic_s = {"srsPeriodic_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType.periodic", "", &nr_rrc::type_SRS_Resource_resourceType_periodic, sizeof(srsPeriodic_s), 0, 2, 0, 1, fields_srsPeriodic_s, nullptr, choices_srsPeriodic_s, ops_srsPeriodic_s.data(), static_cast<UINT16>(ops_srsPeriodic_s.size()), checks_srsPeriodic_s.data(), 72};
+constexpr RrcRecordType type_srsPeriodic_s = {"srsPeriodic_s", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType.periodic", "", &nr_rrc::type_SRS_Resource_resourceType_periodic, sizeof(srsPeriodic_s), 0, 2, 0, 1, fields_srsPeriodic_s, nullptr, choices_srsPeriodic_s, checks_srsPeriodic_s.data(), 72};
 
 constexpr RrcRecordField fields_srsResourceType_u[] = {
     {"aperiodic", {"aperiodic", way_0, 1, &nr_rrc::type_SRS_Resource_resourceType_aperiodic}, &type_srsAperiodic_s, nullptr, "", 0, 0, offsetof(srsResourceType_u, aperiodic), sizeof(srsResourceType_u::aperiodic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"semiPersistent", {"semi-persistent", way_1, 1, &nr_rrc::type_SRS_Resource_resourceType_semi_persistent}, &type_srsSemiPersistent_s, nullptr, "", 0, 0, offsetof(srsResourceType_u, semiPersistent), sizeof(srsResourceType_u::semiPersistent), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"periodic", {"periodic", way_2, 1, &nr_rrc::type_SRS_Resource_resourceType_periodic}, &type_srsPeriodic_s, nullptr, "", 0, 0, offsetof(srsResourceType_u, periodic), sizeof(srsResourceType_u::periodic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_srsResourceType_u[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_srsResourceType_u = records::opsOf<records::opCount(sizeof(srsResourceType_u), fields_srsResourceType_u, sources_srsResourceType_u, nullptr, 0)>(sizeof(srsResourceType_u), fields_srsResourceType_u, sources_srsResourceType_u, nullptr, 0);
 constexpr auto checks_srsResourceType_u = records::checkOpsOf(fields_srsResourceType_u, nullptr, 0);
-constexpr RrcRecordType type_srsResourceType_u = {"srsResourceType_u", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType", "", &nr_rrc::type_SRS_Resource_resourceType, sizeof(srsResourceType_u), 1, 3, 0, 0, fields_srsResourceType_u, nullptr, nullptr, ops_srsResourceType_u.data(), static_cast<UINT16>(ops_srsResourceType_u.size()), checks_srsResourceType_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_srsResourceType_u = {"srsResourceType_u", "rrcCodec/rrcSrs.h", "SRS-Resource.resourceType", "", &nr_rrc::type_SRS_Resource_resourceType, sizeof(srsResourceType_u), 1, 3, 0, 0, fields_srsResourceType_u, nullptr, nullptr, checks_srsResourceType_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_srsSpatial_s[] = {
     {"resourceId", {"resourceId", way_0, 1, &nr_rrc::type_SRS_ResourceId}, nullptr, nullptr, "", 0, 63, offsetof(srsSpatial_s, resourceId), sizeof(srsSpatial_s::resourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"ulBwpId", {"uplinkBWP", way_1, 1, &nr_rrc::type_BWP_Id}, nullptr, nullptr, "", 0, 4, offsetof(srsSpatial_s, ulBwpId), sizeof(srsSpatial_s::ulBwpId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_srsSpatial_s[] = {
-    {offsetof(SRS_SpatialRelationInfo_referenceSignal_srs, resourceId), -1, 1, 0, 1},
-    {offsetof(SRS_SpatialRelationInfo_referenceSignal_srs, uplinkBWP), -1, 1, 0, 1},
-};
-constexpr auto ops_srsSpatial_s = records::opsOf<records::opCount(sizeof(srsSpatial_s), fields_srsSpatial_s, sources_srsSpatial_s, nullptr, 0)>(sizeof(srsSpatial_s), fields_srsSpatial_s, sources_srsSpatial_s, nullptr, 0);
 constexpr auto checks_srsSpatial_s = records::checkOpsOf(fields_srsSpatial_s, nullptr, 0);
-constexpr RrcRecordType type_srsSpatial_s = {"srsSpatial_s", "rrcCodec/rrcSrs.h", "SRS-SpatialRelationInfo.referenceSignal.srs", "", &nr_rrc::type_SRS_SpatialRelationInfo_referenceSignal_srs, sizeof(srsSpatial_s), 0, 2, 0, 0, fields_srsSpatial_s, nullptr, nullptr, ops_srsSpatial_s.data(), static_cast<UINT16>(ops_srsSpatial_s.size()), checks_srsSpatial_s.data(), 71};
+constexpr RrcRecordType type_srsSpatial_s = {"srsSpatial_s", "rrcCodec/rrcSrs.h", "SRS-SpatialRelationInfo.referenceSignal.srs", "", &nr_rrc::type_SRS_SpatialRelationInfo_referenceSignal_srs, sizeof(srsSpatial_s), 0, 2, 0, 0, fields_srsSpatial_s, nullptr, nullptr, checks_srsSpatial_s.data(), 71};
 
 constexpr RrcRecordField fields_srsRefSig_u[] = {
     {"ssbIdx", {"ssb-Index", way_0, 1, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(srsRefSig_u, ssbIdx), sizeof(srsRefSig_u::ssbIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"csiRsIdx", {"csi-RS-Index", way_1, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(srsRefSig_u, csiRsIdx), sizeof(srsRefSig_u::csiRsIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"srs", {"srs", way_2, 1, &nr_rrc::type_SRS_SpatialRelationInfo_referenceSignal_srs}, &type_srsSpatial_s, nullptr, "", 0, 0, offsetof(srsRefSig_u, srs), sizeof(srsRefSig_u::srs), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_srsRefSig_u[] = {
-    {},
-    {},
-    {},
-};
-constexpr auto ops_srsRefSig_u = records::opsOf<records::opCount(sizeof(srsRefSig_u), fields_srsRefSig_u, sources_srsRefSig_u, nullptr, 0)>(sizeof(srsRefSig_u), fields_srsRefSig_u, sources_srsRefSig_u, nullptr, 0);
 constexpr auto checks_srsRefSig_u = records::checkOpsOf(fields_srsRefSig_u, nullptr, 0);
-constexpr RrcRecordType type_srsRefSig_u = {"srsRefSig_u", "rrcCodec/rrcSrs.h", "SRS-SpatialRelationInfo.referenceSignal", "", &nr_rrc::type_SRS_SpatialRelationInfo_referenceSignal, sizeof(srsRefSig_u), 1, 3, 0, 0, fields_srsRefSig_u, nullptr, nullptr, ops_srsRefSig_u.data(), static_cast<UINT16>(ops_srsRefSig_u.size()), checks_srsRefSig_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_srsRefSig_u = {"srsRefSig_u", "rrcCodec/rrcSrs.h", "SRS-SpatialRelationInfo.referenceSignal", "", &nr_rrc::type_SRS_SpatialRelationInfo_referenceSignal, sizeof(srsRefSig_u), 1, 3, 0, 0, fields_srsRefSig_u, nullptr, nullptr, checks_srsRefSig_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcSrsSpatialRelationInfo_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(RrcSrsSpatialRelationInfo_t, bitMask), sizeof(RrcSrsSpatialRelationInfo_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4447,15 +2977,8 @@ constexpr RrcRecordOption options_RrcSrsSpatialRelationInfo_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSrsSpatialRelationInfo_t[] = {
     {{"referenceSignal", way_1, 1, &nr_rrc::type_SRS_SpatialRelationInfo_referenceSignal}, 2, 0, 3, options_RrcSrsSpatialRelationInfo_t_0},
 };
-constexpr RrcRecordSource sources_RrcSrsSpatialRelationInfo_t[] = {
-    {},
-    {offsetof(SRS_SpatialRelationInfo, servingCellId), 0, 1, 0, 1},
-    {},
-    {offsetof(SRS_SpatialRelationInfo, referenceSignal), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcSrsSpatialRelationInfo_t = records::opsOf<records::opCount(sizeof(RrcSrsSpatialRelationInfo_t), fields_RrcSrsSpatialRelationInfo_t, sources_RrcSrsSpatialRelationInfo_t, bits_RrcSrsSpatialRelationInfo_t, 4)>(sizeof(RrcSrsSpatialRelationInfo_t), fields_RrcSrsSpatialRelationInfo_t, sources_RrcSrsSpatialRelationInfo_t, bits_RrcSrsSpatialRelationInfo_t, 4);
 constexpr auto checks_RrcSrsSpatialRelationInfo_t = records::checkOpsOf(fields_RrcSrsSpatialRelationInfo_t, bits_RrcSrsSpatialRelationInfo_t, 4);
-constexpr RrcRecordType type_RrcSrsSpatialRelationInfo_t = {"RrcSrsSpatialRelationInfo_t", "rrcCodec/rrcSrs.h", "SRS-SpatialRelationInfo", "", &nr_rrc::type_SRS_SpatialRelationInfo, sizeof(RrcSrsSpatialRelationInfo_t), 0, 4, 4, 1, fields_RrcSrsSpatialRelationInfo_t, bits_RrcSrsSpatialRelationInfo_t, choices_RrcSrsSpatialRelationInfo_t, ops_RrcSrsSpatialRelationInfo_t.data(), static_cast<UINT16>(ops_RrcSrsSpatialRelationInfo_t.size()), checks_RrcSrsSpatialRelationInfo_t.data(), 70};
+constexpr RrcRecordType type_RrcSrsSpatialRelationInfo_t = {"RrcSrsSpatialRelationInfo_t", "rrcCodec/rrcSrs.h", "SRS-SpatialRelationInfo", "", &nr_rrc::type_SRS_SpatialRelationInfo, sizeof(RrcSrsSpatialRelationInfo_t), 0, 4, 4, 1, fields_RrcSrsSpatialRelationInfo_t, bits_RrcSrsSpatialRelationInfo_t, choices_RrcSrsSpatialRelationInfo_t, checks_RrcSrsSpatialRelationInfo_t.data(), 70};
 
 constexpr RrcRecordField fields_RrcSrsResource_t[] = {
     {"srsResourceId", {"srs-ResourceId", way_0, 1, &nr_rrc::type_SRS_ResourceId}, nullptr, nullptr, "", 0, 63, offsetof(RrcSrsResource_t, srsResourceId), sizeof(RrcSrsResource_t::srsResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4496,26 +3019,8 @@ constexpr RrcRecordChoice choices_RrcSrsResource_t[] = {
     {{"transmissionComb", way_3, 1, &nr_rrc::type_SRS_Resource_transmissionComb}, 2, 0, 2, options_RrcSrsResource_t_0},
     {{"resourceType", way_13, 1, &nr_rrc::type_SRS_Resource_resourceType}, 9, 0, 3, options_RrcSrsResource_t_1},
 };
-constexpr RrcRecordSource sources_RrcSrsResource_t[] = {
-    {offsetof(SRS_Resource, srs_ResourceId), -1, 1, 0, 1},
-    {offsetof(SRS_Resource, nrofSRS_Ports), -1, 4, 0, 1},
-    {},
-    {offsetof(SRS_Resource, transmissionComb), -1, 0, 0, 1},
-    {offsetof(SRS_Resource, resourceMapping), -1, 0, 0, 1},
-    {offsetof(SRS_Resource, freqDomainPosition), -1, 1, 0, 1},
-    {offsetof(SRS_Resource, freqDomainShift), -1, 2, 0, 1},
-    {offsetof(SRS_Resource, freqHopping), -1, 0, 0, 1},
-    {offsetof(SRS_Resource, groupOrSequenceHopping), -1, 4, 0, 1},
-    {},
-    {offsetof(SRS_Resource, resourceType), -1, 0, 0, 1},
-    {offsetof(SRS_Resource, sequenceId), -1, 2, 0, 1},
-    {},
-    {offsetof(SRS_Resource, ptrs_PortIndex), 0, 4, 0, 1},
-    {offsetof(SRS_Resource, spatialRelationInfo), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcSrsResource_t = records::opsOf<records::opCount(sizeof(RrcSrsResource_t), fields_RrcSrsResource_t, sources_RrcSrsResource_t, bits_RrcSrsResource_t, 7)>(sizeof(RrcSrsResource_t), fields_RrcSrsResource_t, sources_RrcSrsResource_t, bits_RrcSrsResource_t, 7);
 constexpr auto checks_RrcSrsResource_t = records::checkOpsOf(fields_RrcSrsResource_t, bits_RrcSrsResource_t, 7);
-constexpr RrcRecordType type_RrcSrsResource_t = {"RrcSrsResource_t", "rrcCodec/rrcSrs.h", "SRS-Resource", "", &nr_rrc::type_SRS_Resource, sizeof(RrcSrsResource_t), 0, 15, 7, 2, fields_RrcSrsResource_t, bits_RrcSrsResource_t, choices_RrcSrsResource_t, ops_RrcSrsResource_t.data(), static_cast<UINT16>(ops_RrcSrsResource_t.size()), checks_RrcSrsResource_t.data(), 69};
+constexpr RrcRecordType type_RrcSrsResource_t = {"RrcSrsResource_t", "rrcCodec/rrcSrs.h", "SRS-Resource", "", &nr_rrc::type_SRS_Resource, sizeof(RrcSrsResource_t), 0, 15, 7, 2, fields_RrcSrsResource_t, bits_RrcSrsResource_t, choices_RrcSrsResource_t, checks_RrcSrsResource_t.data(), 69};
 
 constexpr RrcRecordField fields_RrcSrsCfg_t[] = {
     {"numSrsResourceSetAddMod", {}, nullptr, nullptr, "", 0, 16, offsetof(RrcSrsCfg_t, numSrsResourceSetAddMod), sizeof(RrcSrsCfg_t::numSrsResourceSetAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -4532,21 +3037,8 @@ constexpr RrcRecordField fields_RrcSrsCfg_t[] = {
 constexpr RrcRecordBit bits_RrcSrsCfg_t[] = {
     {"RRC_SRS_CFG_TPC_ACCUMULATION_PRESENCE", "", nullptr, {}, 8, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcSrsCfg_t[] = {
-    {},
-    {offsetof(SRS_Config, srs_ResourceSetToAddModList), 1, 0, 0, 1},
-    {},
-    {offsetof(SRS_Config, srs_ResourceSetToReleaseList), 0, 0, 0, 1},
-    {},
-    {offsetof(SRS_Config, srs_ResourceToAddModList), 3, 0, 0, 1},
-    {},
-    {offsetof(SRS_Config, srs_ResourceToReleaseList), 2, 0, 0, 1},
-    {},
-    {offsetof(SRS_Config, tpc_Accumulation), 4, 4, 0, 1},
-};
-constexpr auto ops_RrcSrsCfg_t = records::opsOf<records::opCount(sizeof(RrcSrsCfg_t), fields_RrcSrsCfg_t, sources_RrcSrsCfg_t, bits_RrcSrsCfg_t, 1)>(sizeof(RrcSrsCfg_t), fields_RrcSrsCfg_t, sources_RrcSrsCfg_t, bits_RrcSrsCfg_t, 1);
 constexpr auto checks_RrcSrsCfg_t = records::checkOpsOf(fields_RrcSrsCfg_t, bits_RrcSrsCfg_t, 1);
-constexpr RrcRecordType type_RrcSrsCfg_t = {"RrcSrsCfg_t", "rrcCodec/rrcSrs.h", "SRS-Config", "A list is sent when its count is not 0.", &nr_rrc::type_SRS_Config, sizeof(RrcSrsCfg_t), 0, 10, 1, 0, fields_RrcSrsCfg_t, bits_RrcSrsCfg_t, nullptr, ops_RrcSrsCfg_t.data(), static_cast<UINT16>(ops_RrcSrsCfg_t.size()), checks_RrcSrsCfg_t.data(), 68};
+constexpr RrcRecordType type_RrcSrsCfg_t = {"RrcSrsCfg_t", "rrcCodec/rrcSrs.h", "SRS-Config", "A list is sent when its count is not 0.", &nr_rrc::type_SRS_Config, sizeof(RrcSrsCfg_t), 0, 10, 1, 0, fields_RrcSrsCfg_t, bits_RrcSrsCfg_t, nullptr, checks_RrcSrsCfg_t.data(), 68};
 
 constexpr RrcRecordField fields_RrcBeamFailRecoveryCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 511, offsetof(RrcBeamFailRecoveryCfg_t, bitMask), sizeof(RrcBeamFailRecoveryCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4571,21 +3063,8 @@ constexpr RrcRecordBit bits_RrcBeamFailRecoveryCfg_t[] = {
     {"RRC_BEAM_FAIL_RECOVERY_TIMER_PRESENCE", "", nullptr, {}, 0, 7, RRC_BIT_GUARDS, -1},
     {"RRC_BEAM_FAIL_RECOVERY_MSG1_SUB_CARRIER_SPACING_V1530_PRESENCE", "no composer announces its extension group: the encoder does not send it", nullptr, {}, 0, 8, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBeamFailRecoveryCfg_t[] = {
-    {},
-    {offsetof(BeamFailureRecoveryConfig, rootSequenceIndex_BFR), 0, 1, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, rach_ConfigBFR), 1, 0, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, rsrp_ThresholdSSB), 2, 1, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, ssb_perRACH_Occasion), 4, 4, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, ra_ssb_OccasionMaskIndex), 5, 1, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, recoverySearchSpaceId), 6, 1, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, ra_Prioritization), 7, 0, 0, 1},
-    {offsetof(BeamFailureRecoveryConfig, beamFailureRecoveryTimer), 8, 4, 0, 1},
-    {},
-};
-constexpr auto ops_RrcBeamFailRecoveryCfg_t = records::opsOf<records::opCount(sizeof(RrcBeamFailRecoveryCfg_t), fields_RrcBeamFailRecoveryCfg_t, sources_RrcBeamFailRecoveryCfg_t, bits_RrcBeamFailRecoveryCfg_t, 9)>(sizeof(RrcBeamFailRecoveryCfg_t), fields_RrcBeamFailRecoveryCfg_t, sources_RrcBeamFailRecoveryCfg_t, bits_RrcBeamFailRecoveryCfg_t, 9);
 constexpr auto checks_RrcBeamFailRecoveryCfg_t = records::checkOpsOf(fields_RrcBeamFailRecoveryCfg_t, bits_RrcBeamFailRecoveryCfg_t, 9);
-constexpr RrcRecordType type_RrcBeamFailRecoveryCfg_t = {"RrcBeamFailRecoveryCfg_t", "rrcCodec/rrcUplinkBwp.h", "BeamFailureRecoveryConfig", "candidateBeamRSList is never sent", &nr_rrc::type_BeamFailureRecoveryConfig, sizeof(RrcBeamFailRecoveryCfg_t), 0, 10, 9, 0, fields_RrcBeamFailRecoveryCfg_t, bits_RrcBeamFailRecoveryCfg_t, nullptr, ops_RrcBeamFailRecoveryCfg_t.data(), static_cast<UINT16>(ops_RrcBeamFailRecoveryCfg_t.size()), checks_RrcBeamFailRecoveryCfg_t.data(), 67};
+constexpr RrcRecordType type_RrcBeamFailRecoveryCfg_t = {"RrcBeamFailRecoveryCfg_t", "rrcCodec/rrcUplinkBwp.h", "BeamFailureRecoveryConfig", "candidateBeamRSList is never sent", &nr_rrc::type_BeamFailureRecoveryConfig, sizeof(RrcBeamFailRecoveryCfg_t), 0, 10, 9, 0, fields_RrcBeamFailRecoveryCfg_t, bits_RrcBeamFailRecoveryCfg_t, nullptr, checks_RrcBeamFailRecoveryCfg_t.data(), 67};
 
 constexpr RrcRecordField fields_RrcBwpUlDedi_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 31, offsetof(RrcBwpUlDedi_t, bitMask), sizeof(RrcBwpUlDedi_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4602,17 +3081,8 @@ constexpr RrcRecordBit bits_RrcBwpUlDedi_t[] = {
     {"RRC_BWP_UL_DEDI_SRS_CFG_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_UL_DEDI_BEAM_FAILURE_RECOVERY_CFG_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwpUlDedi_t[] = {
-    {},
-    {offsetof(BWP_UplinkDedicated, pucch_Config), 0, 0, 0, 1},
-    {offsetof(BWP_UplinkDedicated, pusch_Config), 1, 0, 0, 1},
-    {offsetof(BWP_UplinkDedicated, configuredGrantConfig), 2, 0, 0, 1},
-    {offsetof(BWP_UplinkDedicated, srs_Config), 3, 0, 0, 1},
-    {offsetof(BWP_UplinkDedicated, beamFailureRecoveryConfig), 4, 0, 0, 1},
-};
-constexpr auto ops_RrcBwpUlDedi_t = records::opsOf<records::opCount(sizeof(RrcBwpUlDedi_t), fields_RrcBwpUlDedi_t, sources_RrcBwpUlDedi_t, bits_RrcBwpUlDedi_t, 5)>(sizeof(RrcBwpUlDedi_t), fields_RrcBwpUlDedi_t, sources_RrcBwpUlDedi_t, bits_RrcBwpUlDedi_t, 5);
 constexpr auto checks_RrcBwpUlDedi_t = records::checkOpsOf(fields_RrcBwpUlDedi_t, bits_RrcBwpUlDedi_t, 5);
-constexpr RrcRecordType type_RrcBwpUlDedi_t = {"RrcBwpUlDedi_t", "rrcCodec/rrcUplinkBwp.h", "BWP-UplinkDedicated", "", &nr_rrc::type_BWP_UplinkDedicated, sizeof(RrcBwpUlDedi_t), 0, 6, 5, 0, fields_RrcBwpUlDedi_t, bits_RrcBwpUlDedi_t, nullptr, ops_RrcBwpUlDedi_t.data(), static_cast<UINT16>(ops_RrcBwpUlDedi_t.size()), checks_RrcBwpUlDedi_t.data(), 66};
+constexpr RrcRecordType type_RrcBwpUlDedi_t = {"RrcBwpUlDedi_t", "rrcCodec/rrcUplinkBwp.h", "BWP-UplinkDedicated", "", &nr_rrc::type_BWP_UplinkDedicated, sizeof(RrcBwpUlDedi_t), 0, 6, 5, 0, fields_RrcBwpUlDedi_t, bits_RrcBwpUlDedi_t, nullptr, checks_RrcBwpUlDedi_t.data(), 66};
 
 constexpr RrcRecordField fields_RrcBwpUl_t[] = {
     {"bwpId", {"bwp-Id", way_0, 1, &nr_rrc::type_BWP_Id}, nullptr, nullptr, "", 0, 4, offsetof(RrcBwpUl_t, bwpId), sizeof(RrcBwpUl_t::bwpId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4624,25 +3094,14 @@ constexpr RrcRecordBit bits_RrcBwpUl_t[] = {
     {"RRC_BWP_UL_COMMON_PRESENCE", "", nullptr, {}, 1, 0, RRC_BIT_GUARDS, -1},
     {"RRC_BWP_UL_DEDICATED_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcBwpUl_t[] = {
-    {offsetof(BWP_Uplink, bwp_Id), -1, 1, 0, 1},
-    {},
-    {offsetof(BWP_Uplink, bwp_Common), 0, 0, 0, 1},
-    {offsetof(BWP_Uplink, bwp_Dedicated), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcBwpUl_t = records::opsOf<records::opCount(sizeof(RrcBwpUl_t), fields_RrcBwpUl_t, sources_RrcBwpUl_t, bits_RrcBwpUl_t, 2)>(sizeof(RrcBwpUl_t), fields_RrcBwpUl_t, sources_RrcBwpUl_t, bits_RrcBwpUl_t, 2);
 constexpr auto checks_RrcBwpUl_t = records::checkOpsOf(fields_RrcBwpUl_t, bits_RrcBwpUl_t, 2);
-constexpr RrcRecordType type_RrcBwpUl_t = {"RrcBwpUl_t", "rrcCodec/rrcUplinkBwp.h", "BWP-Uplink", "", &nr_rrc::type_BWP_Uplink, sizeof(RrcBwpUl_t), 0, 4, 2, 0, fields_RrcBwpUl_t, bits_RrcBwpUl_t, nullptr, ops_RrcBwpUl_t.data(), static_cast<UINT16>(ops_RrcBwpUl_t.size()), checks_RrcBwpUl_t.data(), 65};
+constexpr RrcRecordType type_RrcBwpUl_t = {"RrcBwpUl_t", "rrcCodec/rrcUplinkBwp.h", "BWP-Uplink", "", &nr_rrc::type_BWP_Uplink, sizeof(RrcBwpUl_t), 0, 4, 2, 0, fields_RrcBwpUl_t, bits_RrcBwpUl_t, nullptr, checks_RrcBwpUl_t.data(), 65};
 
 constexpr RrcRecordField fields_rrcPuschCodeBlockGroupTransmission_s[] = {
     {"maxCodeBlockGroupPerTansportBlock", {"maxCodeBlockGroupsPerTransportBlock", way_0, 1, &nr_rrc::type_PUSCH_CodeBlockGroupTransmission_maxCodeBlockGroupsPerTransportBlock}, nullptr, nullptr, "", 0, 3, offsetof(rrcPuschCodeBlockGroupTransmission_s, maxCodeBlockGroupPerTansportBlock), sizeof(rrcPuschCodeBlockGroupTransmission_s::maxCodeBlockGroupPerTansportBlock), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_rrcPuschCodeBlockGroupTransmission_s[] = {
-    {offsetof(PUSCH_CodeBlockGroupTransmission, maxCodeBlockGroupsPerTransportBlock), -1, 4, 0, 1},
-};
-constexpr auto ops_rrcPuschCodeBlockGroupTransmission_s = records::opsOf<records::opCount(sizeof(rrcPuschCodeBlockGroupTransmission_s), fields_rrcPuschCodeBlockGroupTransmission_s, sources_rrcPuschCodeBlockGroupTransmission_s, nullptr, 0)>(sizeof(rrcPuschCodeBlockGroupTransmission_s), fields_rrcPuschCodeBlockGroupTransmission_s, sources_rrcPuschCodeBlockGroupTransmission_s, nullptr, 0);
 constexpr auto checks_rrcPuschCodeBlockGroupTransmission_s = records::checkOpsOf(fields_rrcPuschCodeBlockGroupTransmission_s, nullptr, 0);
-constexpr RrcRecordType type_rrcPuschCodeBlockGroupTransmission_s = {"rrcPuschCodeBlockGroupTransmission_s", "rrcCodec/rrcServingCellLevel.h", "PUSCH-CodeBlockGroupTransmission", "", &nr_rrc::type_PUSCH_CodeBlockGroupTransmission, sizeof(rrcPuschCodeBlockGroupTransmission_s), 0, 1, 0, 0, fields_rrcPuschCodeBlockGroupTransmission_s, nullptr, nullptr, ops_rrcPuschCodeBlockGroupTransmission_s.data(), static_cast<UINT16>(ops_rrcPuschCodeBlockGroupTransmission_s.size()), checks_rrcPuschCodeBlockGroupTransmission_s.data(), 64};
+constexpr RrcRecordType type_rrcPuschCodeBlockGroupTransmission_s = {"rrcPuschCodeBlockGroupTransmission_s", "rrcCodec/rrcServingCellLevel.h", "PUSCH-CodeBlockGroupTransmission", "", &nr_rrc::type_PUSCH_CodeBlockGroupTransmission, sizeof(rrcPuschCodeBlockGroupTransmission_s), 0, 1, 0, 0, fields_rrcPuschCodeBlockGroupTransmission_s, nullptr, nullptr, checks_rrcPuschCodeBlockGroupTransmission_s.data(), 64};
 
 constexpr RrcRecordField fields_RrcPuschServingCellCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 31, offsetof(RrcPuschServingCellCfg_t, bitMask), sizeof(RrcPuschServingCellCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4657,15 +3116,8 @@ constexpr RrcRecordBit bits_RrcPuschServingCellCfg_t[] = {
     {"RRC_PUSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS", "it has no value here", nullptr, {"maxMIMO-Layers", way_3, 1, &nr_rrc::type_PUSCH_ServingCellConfig_maxMIMO_Layers}, 0, 3, RRC_BIT_NOT_SENT, -1},
     {"RRC_PUSCH_SERVING_CELL_CFG_PROCESS_TYPE_2ENABLE", "it has no value here", nullptr, {"processingType2Enabled", way_4, 1, &nr_rrc::type_PUSCH_ServingCellConfig_processingType2Enabled}, 0, 4, RRC_BIT_NOT_SENT, -1},
 };
-constexpr RrcRecordSource sources_RrcPuschServingCellCfg_t[] = {
-    {},
-    {offsetof(PUSCH_ServingCellConfig, codeBlockGroupTransmission), 0, 0, 0, 1},
-    {offsetof(PUSCH_ServingCellConfig, rateMatching), 1, 4, 0, 1},
-    {offsetof(PUSCH_ServingCellConfig, xOverhead), 2, 4, 0, 1},
-};
-constexpr auto ops_RrcPuschServingCellCfg_t = records::opsOf<records::opCount(sizeof(RrcPuschServingCellCfg_t), fields_RrcPuschServingCellCfg_t, sources_RrcPuschServingCellCfg_t, bits_RrcPuschServingCellCfg_t, 5)>(sizeof(RrcPuschServingCellCfg_t), fields_RrcPuschServingCellCfg_t, sources_RrcPuschServingCellCfg_t, bits_RrcPuschServingCellCfg_t, 5);
 constexpr auto checks_RrcPuschServingCellCfg_t = records::checkOpsOf(fields_RrcPuschServingCellCfg_t, bits_RrcPuschServingCellCfg_t, 5);
-constexpr RrcRecordType type_RrcPuschServingCellCfg_t = {"RrcPuschServingCellCfg_t", "rrcCodec/rrcServingCellLevel.h", "PUSCH-ServingCellConfig", "", &nr_rrc::type_PUSCH_ServingCellConfig, sizeof(RrcPuschServingCellCfg_t), 0, 4, 5, 0, fields_RrcPuschServingCellCfg_t, bits_RrcPuschServingCellCfg_t, nullptr, ops_RrcPuschServingCellCfg_t.data(), static_cast<UINT16>(ops_RrcPuschServingCellCfg_t.size()), checks_RrcPuschServingCellCfg_t.data(), 63};
+constexpr RrcRecordType type_RrcPuschServingCellCfg_t = {"RrcPuschServingCellCfg_t", "rrcCodec/rrcServingCellLevel.h", "PUSCH-ServingCellConfig", "", &nr_rrc::type_PUSCH_ServingCellConfig, sizeof(RrcPuschServingCellCfg_t), 0, 4, 5, 0, fields_RrcPuschServingCellCfg_t, bits_RrcPuschServingCellCfg_t, nullptr, checks_RrcPuschServingCellCfg_t.data(), 63};
 
 constexpr RrcRecordField fields_srsCcSetIdx_s[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(srsCcSetIdx_s, bitMask), sizeof(srsCcSetIdx_s::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4676,62 +3128,36 @@ constexpr RrcRecordBit bits_srsCcSetIdx_s[] = {
     {"RRC_SRS_CC_SET_IDX", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
     {"RRC_SRS_CC_SET_IDX_ONE_CC_SET", "", nullptr, {}, 0, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_srsCcSetIdx_s[] = {
-    {},
-    {offsetof(SRS_CC_SetIndex, cc_SetIndex), 0, 1, 0, 1},
-    {offsetof(SRS_CC_SetIndex, cc_IndexInOneCC_Set), 1, 1, 0, 1},
-};
-constexpr auto ops_srsCcSetIdx_s = records::opsOf<records::opCount(sizeof(srsCcSetIdx_s), fields_srsCcSetIdx_s, sources_srsCcSetIdx_s, bits_srsCcSetIdx_s, 2)>(sizeof(srsCcSetIdx_s), fields_srsCcSetIdx_s, sources_srsCcSetIdx_s, bits_srsCcSetIdx_s, 2);
 constexpr auto checks_srsCcSetIdx_s = records::checkOpsOf(fields_srsCcSetIdx_s, bits_srsCcSetIdx_s, 2);
-constexpr RrcRecordType type_srsCcSetIdx_s = {"srsCcSetIdx_s", "rrcCodec/rrcServingCellLevel.h", "SRS-CC-SetIndex", "", &nr_rrc::type_SRS_CC_SetIndex, sizeof(srsCcSetIdx_s), 0, 3, 2, 0, fields_srsCcSetIdx_s, bits_srsCcSetIdx_s, nullptr, ops_srsCcSetIdx_s.data(), static_cast<UINT16>(ops_srsCcSetIdx_s.size()), checks_srsCcSetIdx_s.data(), 62};
+constexpr RrcRecordType type_srsCcSetIdx_s = {"srsCcSetIdx_s", "rrcCodec/rrcServingCellLevel.h", "SRS-CC-SetIndex", "", &nr_rrc::type_SRS_CC_SetIndex, sizeof(srsCcSetIdx_s), 0, 3, 2, 0, fields_srsCcSetIdx_s, bits_srsCcSetIdx_s, nullptr, checks_srsCcSetIdx_s.data(), 62};
 
 constexpr RrcRecordField fields_RrcSrsTpcPdcchCfg_t[] = {
     {"num", {}, nullptr, nullptr, "0: no list", 0, 4, offsetof(RrcSrsTpcPdcchCfg_t, num), sizeof(RrcSrsTpcPdcchCfg_t::num), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"srsCcSetIdx", {"srs-CC-SetIndexlist", way_16, 2, &nr_rrc::type_SRS_CC_SetIndex}, &type_srsCcSetIdx_s, nullptr, "", 0, 0, offsetof(RrcSrsTpcPdcchCfg_t, srsCcSetIdx), sizeof(RrcSrsTpcPdcchCfg_t::srsCcSetIdx[0]), sizeof(RrcSrsTpcPdcchCfg_t::srsCcSetIdx) / sizeof(RrcSrsTpcPdcchCfg_t::srsCcSetIdx[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSrsTpcPdcchCfg_t[] = {
-    {},
-    {offsetof(SRS_TPC_PDCCH_Config, srs_CC_SetIndexlist), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcSrsTpcPdcchCfg_t = records::opsOf<records::opCount(sizeof(RrcSrsTpcPdcchCfg_t), fields_RrcSrsTpcPdcchCfg_t, sources_RrcSrsTpcPdcchCfg_t, nullptr, 0)>(sizeof(RrcSrsTpcPdcchCfg_t), fields_RrcSrsTpcPdcchCfg_t, sources_RrcSrsTpcPdcchCfg_t, nullptr, 0);
 constexpr auto checks_RrcSrsTpcPdcchCfg_t = records::checkOpsOf(fields_RrcSrsTpcPdcchCfg_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSrsTpcPdcchCfg_t = {"RrcSrsTpcPdcchCfg_t", "rrcCodec/rrcServingCellLevel.h", "SRS-TPC-PDCCH-Config", "", &nr_rrc::type_SRS_TPC_PDCCH_Config, sizeof(RrcSrsTpcPdcchCfg_t), 0, 2, 0, 0, fields_RrcSrsTpcPdcchCfg_t, nullptr, nullptr, ops_RrcSrsTpcPdcchCfg_t.data(), static_cast<UINT16>(ops_RrcSrsTpcPdcchCfg_t.size()), checks_RrcSrsTpcPdcchCfg_t.data(), 61};
+constexpr RrcRecordType type_RrcSrsTpcPdcchCfg_t = {"RrcSrsTpcPdcchCfg_t", "rrcCodec/rrcServingCellLevel.h", "SRS-TPC-PDCCH-Config", "", &nr_rrc::type_SRS_TPC_PDCCH_Config, sizeof(RrcSrsTpcPdcchCfg_t), 0, 2, 0, 0, fields_RrcSrsTpcPdcchCfg_t, nullptr, nullptr, checks_RrcSrsTpcPdcchCfg_t.data(), 61};
 
 constexpr RrcRecordField fields_typeA_s[] = {
     {"num", {}, nullptr, nullptr, "", 1, 32, offsetof(typeA_s, num), sizeof(typeA_s::num), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"cfg", {"", way_47, 1, &nr_rrc::type_SRS_TPC_PDCCH_Config}, &type_RrcSrsTpcPdcchCfg_t, nullptr, "the configurations", 0, 0, offsetof(typeA_s, cfg), sizeof(typeA_s::cfg[0]), sizeof(typeA_s::cfg) / sizeof(typeA_s::cfg[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_typeA_s[] = {
-    {},
-    {},
-};
-constexpr auto ops_typeA_s = records::opsOf<records::opCount(sizeof(typeA_s), fields_typeA_s, sources_typeA_s, nullptr, 0)>(sizeof(typeA_s), fields_typeA_s, sources_typeA_s, nullptr, 0);
 constexpr auto checks_typeA_s = records::checkOpsOf(fields_typeA_s, nullptr, 0);
-constexpr RrcRecordType type_typeA_s = {"typeA_s", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching.srs-TPC-PDCCH-Group.typeA", "", &nr_rrc::type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA, sizeof(typeA_s), 0, 2, 0, 0, fields_typeA_s, nullptr, nullptr, ops_typeA_s.data(), static_cast<UINT16>(ops_typeA_s.size()), checks_typeA_s.data(), 60};
+constexpr RrcRecordType type_typeA_s = {"typeA_s", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching.srs-TPC-PDCCH-Group.typeA", "", &nr_rrc::type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA, sizeof(typeA_s), 0, 2, 0, 0, fields_typeA_s, nullptr, nullptr, checks_typeA_s.data(), 60};
 
 constexpr RrcRecordField fields_srsTpcPdcchGroup_u[] = {
     {"typeA", {"typeA", way_0, 1, &nr_rrc::type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group_typeA}, &type_typeA_s, nullptr, "", 0, 0, offsetof(srsTpcPdcchGroup_u, typeA), sizeof(srsTpcPdcchGroup_u::typeA), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"typeB", {"typeB", way_1, 1, &nr_rrc::type_SRS_TPC_PDCCH_Config}, &type_RrcSrsTpcPdcchCfg_t, nullptr, "", 0, 0, offsetof(srsTpcPdcchGroup_u, typeB), sizeof(srsTpcPdcchGroup_u::typeB), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_srsTpcPdcchGroup_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_srsTpcPdcchGroup_u = records::opsOf<records::opCount(sizeof(srsTpcPdcchGroup_u), fields_srsTpcPdcchGroup_u, sources_srsTpcPdcchGroup_u, nullptr, 0)>(sizeof(srsTpcPdcchGroup_u), fields_srsTpcPdcchGroup_u, sources_srsTpcPdcchGroup_u, nullptr, 0);
 constexpr auto checks_srsTpcPdcchGroup_u = records::checkOpsOf(fields_srsTpcPdcchGroup_u, nullptr, 0);
-constexpr RrcRecordType type_srsTpcPdcchGroup_u = {"srsTpcPdcchGroup_u", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching.srs-TPC-PDCCH-Group", "", &nr_rrc::type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group, sizeof(srsTpcPdcchGroup_u), 1, 2, 0, 0, fields_srsTpcPdcchGroup_u, nullptr, nullptr, ops_srsTpcPdcchGroup_u.data(), static_cast<UINT16>(ops_srsTpcPdcchGroup_u.size()), checks_srsTpcPdcchGroup_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_srsTpcPdcchGroup_u = {"srsTpcPdcchGroup_u", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching.srs-TPC-PDCCH-Group", "", &nr_rrc::type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group, sizeof(srsTpcPdcchGroup_u), 1, 2, 0, 0, fields_srsTpcPdcchGroup_u, nullptr, nullptr, checks_srsTpcPdcchGroup_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcmonitoringCells_s[] = {
     {"num", {}, nullptr, nullptr, "", 1, 32, offsetof(RrcmonitoringCells_s, num), sizeof(RrcmonitoringCells_s::num), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"monitoringCells", {"", way_47, 1, &nr_rrc::type_ServCellIndex}, nullptr, nullptr, "serving cell indices", 0, 31, offsetof(RrcmonitoringCells_s, monitoringCells), sizeof(RrcmonitoringCells_s::monitoringCells[0]), sizeof(RrcmonitoringCells_s::monitoringCells) / sizeof(RrcmonitoringCells_s::monitoringCells[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcmonitoringCells_s[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcmonitoringCells_s = records::opsOf<records::opCount(sizeof(RrcmonitoringCells_s), fields_RrcmonitoringCells_s, sources_RrcmonitoringCells_s, nullptr, 0)>(sizeof(RrcmonitoringCells_s), fields_RrcmonitoringCells_s, sources_RrcmonitoringCells_s, nullptr, 0);
 constexpr auto checks_RrcmonitoringCells_s = records::checkOpsOf(fields_RrcmonitoringCells_s, nullptr, 0);
-constexpr RrcRecordType type_RrcmonitoringCells_s = {"RrcmonitoringCells_s", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching.monitoringCells", "", &nr_rrc::type_SRS_CarrierSwitching_monitoringCells, sizeof(RrcmonitoringCells_s), 0, 2, 0, 0, fields_RrcmonitoringCells_s, nullptr, nullptr, ops_RrcmonitoringCells_s.data(), static_cast<UINT16>(ops_RrcmonitoringCells_s.size()), checks_RrcmonitoringCells_s.data(), 59};
+constexpr RrcRecordType type_RrcmonitoringCells_s = {"RrcmonitoringCells_s", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching.monitoringCells", "", &nr_rrc::type_SRS_CarrierSwitching_monitoringCells, sizeof(RrcmonitoringCells_s), 0, 2, 0, 0, fields_RrcmonitoringCells_s, nullptr, nullptr, checks_RrcmonitoringCells_s.data(), 59};
 
 constexpr RrcRecordField fields_RrcSrsCarrierSwitching_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 7, offsetof(RrcSrsCarrierSwitching_t, bitMask), sizeof(RrcSrsCarrierSwitching_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4755,17 +3181,8 @@ constexpr RrcRecordOption options_RrcSrsCarrierSwitching_t_0[] = {
 constexpr RrcRecordChoice choices_RrcSrsCarrierSwitching_t[] = {
     {{"srs-TPC-PDCCH-Group", way_2, 1, &nr_rrc::type_SRS_CarrierSwitching_srs_TPC_PDCCH_Group}, 3, 0, 2, options_RrcSrsCarrierSwitching_t_0},
 };
-constexpr RrcRecordSource sources_RrcSrsCarrierSwitching_t[] = {
-    {},
-    {offsetof(SRS_CarrierSwitching, srs_SwitchFromServCellIndex), 0, 1, 0, 1},
-    {offsetof(SRS_CarrierSwitching, srs_SwitchFromCarrier), -1, 4, 0, 1},
-    {},
-    {offsetof(SRS_CarrierSwitching, srs_TPC_PDCCH_Group), 1, 0, 0, 1},
-    {offsetof(SRS_CarrierSwitching, monitoringCells), 2, 0, 0, 1},
-};
-constexpr auto ops_RrcSrsCarrierSwitching_t = records::opsOf<records::opCount(sizeof(RrcSrsCarrierSwitching_t), fields_RrcSrsCarrierSwitching_t, sources_RrcSrsCarrierSwitching_t, bits_RrcSrsCarrierSwitching_t, 5)>(sizeof(RrcSrsCarrierSwitching_t), fields_RrcSrsCarrierSwitching_t, sources_RrcSrsCarrierSwitching_t, bits_RrcSrsCarrierSwitching_t, 5);
 constexpr auto checks_RrcSrsCarrierSwitching_t = records::checkOpsOf(fields_RrcSrsCarrierSwitching_t, bits_RrcSrsCarrierSwitching_t, 5);
-constexpr RrcRecordType type_RrcSrsCarrierSwitching_t = {"RrcSrsCarrierSwitching_t", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching", "", &nr_rrc::type_SRS_CarrierSwitching, sizeof(RrcSrsCarrierSwitching_t), 0, 6, 5, 1, fields_RrcSrsCarrierSwitching_t, bits_RrcSrsCarrierSwitching_t, choices_RrcSrsCarrierSwitching_t, ops_RrcSrsCarrierSwitching_t.data(), static_cast<UINT16>(ops_RrcSrsCarrierSwitching_t.size()), checks_RrcSrsCarrierSwitching_t.data(), 58};
+constexpr RrcRecordType type_RrcSrsCarrierSwitching_t = {"RrcSrsCarrierSwitching_t", "rrcCodec/rrcServingCellLevel.h", "SRS-CarrierSwitching", "", &nr_rrc::type_SRS_CarrierSwitching, sizeof(RrcSrsCarrierSwitching_t), 0, 6, 5, 1, fields_RrcSrsCarrierSwitching_t, bits_RrcSrsCarrierSwitching_t, choices_RrcSrsCarrierSwitching_t, checks_RrcSrsCarrierSwitching_t.data(), 58};
 
 constexpr RrcRecordField fields_RrcUlCfg_t[] = {
     {"numUlBwpAddMod", {}, nullptr, nullptr, "", 0, 4, offsetof(RrcUlCfg_t, numUlBwpAddMod), sizeof(RrcUlCfg_t::numUlBwpAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -4786,34 +3203,16 @@ constexpr RrcRecordBit bits_RrcUlCfg_t[] = {
     {"RRC_UL_CFG_POWER_BOOST_PI_2BPSK", "it has no value here", nullptr, {"powerBoostPi2BPSK", way_10, 1, &nr_rrc::type_UplinkConfig_powerBoostPi2BPSK}, 4, 4, RRC_BIT_NOT_SENT, -1},
     {"RRC_UL_CFG_UL_CHANNEL_BW_PERSCS_LIST", "it has no value here", nullptr, {"uplinkChannelBW-PerSCS-List", way_11, 1, &nr_rrc::type_UplinkConfig_uplinkChannelBW_PerSCS_List}, 4, 5, RRC_BIT_NOT_SENT, -1},
 };
-constexpr RrcRecordSource sources_RrcUlCfg_t[] = {
-    {},
-    {offsetof(UplinkConfig, uplinkBWP_ToAddModList), 2, 0, 0, 1},
-    {},
-    {offsetof(UplinkConfig, uplinkBWP_ToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(UplinkConfig, initialUplinkBWP), 0, 0, 0, 1},
-    {offsetof(UplinkConfig, firstActiveUplinkBWP_Id), 3, 1, 0, 1},
-    {offsetof(UplinkConfig, pusch_ServingCellConfig), 4, 0, 0, 1},
-    {offsetof(UplinkConfig, carrierSwitching), 5, 0, 0, 1},
-};
-constexpr auto ops_RrcUlCfg_t = records::opsOf<records::opCount(sizeof(RrcUlCfg_t), fields_RrcUlCfg_t, sources_RrcUlCfg_t, bits_RrcUlCfg_t, 6)>(sizeof(RrcUlCfg_t), fields_RrcUlCfg_t, sources_RrcUlCfg_t, bits_RrcUlCfg_t, 6);
 constexpr auto checks_RrcUlCfg_t = records::checkOpsOf(fields_RrcUlCfg_t, bits_RrcUlCfg_t, 6);
-constexpr RrcRecordType type_RrcUlCfg_t = {"RrcUlCfg_t", "rrcCodec/rrcUplinkConfig.h", "UplinkConfig", "A list is sent when its count is not 0.", &nr_rrc::type_UplinkConfig, sizeof(RrcUlCfg_t), 0, 9, 6, 0, fields_RrcUlCfg_t, bits_RrcUlCfg_t, nullptr, ops_RrcUlCfg_t.data(), static_cast<UINT16>(ops_RrcUlCfg_t.size()), checks_RrcUlCfg_t.data(), 57};
+constexpr RrcRecordType type_RrcUlCfg_t = {"RrcUlCfg_t", "rrcCodec/rrcUplinkConfig.h", "UplinkConfig", "A list is sent when its count is not 0.", &nr_rrc::type_UplinkConfig, sizeof(RrcUlCfg_t), 0, 9, 6, 0, fields_RrcUlCfg_t, bits_RrcUlCfg_t, nullptr, checks_RrcUlCfg_t.data(), 57};
 
 constexpr RrcRecordField fields_RrcSlotFormatComb_t[] = {
     {"slotFormatCombId", {"slotFormatCombinationId", way_0, 1, &nr_rrc::type_SlotFormatCombinationId}, nullptr, nullptr, "", 0, 511, offsetof(RrcSlotFormatComb_t, slotFormatCombId), sizeof(RrcSlotFormatComb_t::slotFormatCombId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"numSlotFormat", {}, nullptr, nullptr, "", 1, 256, offsetof(RrcSlotFormatComb_t, numSlotFormat), sizeof(RrcSlotFormatComb_t::numSlotFormat), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"slotsFormats", {"slotFormats", way_17, 2, &nr_rrc::type_SlotFormatCombination_slotFormats_element}, nullptr, nullptr, "", 0, 255, offsetof(RrcSlotFormatComb_t, slotsFormats), sizeof(RrcSlotFormatComb_t::slotsFormats[0]), sizeof(RrcSlotFormatComb_t::slotsFormats) / sizeof(RrcSlotFormatComb_t::slotsFormats[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSlotFormatComb_t[] = {
-    {offsetof(SlotFormatCombination, slotFormatCombinationId), -1, 2, 0, 1},
-    {},
-    {offsetof(SlotFormatCombination, slotFormats), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcSlotFormatComb_t = records::opsOf<records::opCount(sizeof(RrcSlotFormatComb_t), fields_RrcSlotFormatComb_t, sources_RrcSlotFormatComb_t, nullptr, 0)>(sizeof(RrcSlotFormatComb_t), fields_RrcSlotFormatComb_t, sources_RrcSlotFormatComb_t, nullptr, 0);
 constexpr auto checks_RrcSlotFormatComb_t = records::checkOpsOf(fields_RrcSlotFormatComb_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSlotFormatComb_t = {"RrcSlotFormatComb_t", "rrcCodec/rrcServingCellLevel.h", "SlotFormatCombination", "", &nr_rrc::type_SlotFormatCombination, sizeof(RrcSlotFormatComb_t), 0, 3, 0, 0, fields_RrcSlotFormatComb_t, nullptr, nullptr, ops_RrcSlotFormatComb_t.data(), static_cast<UINT16>(ops_RrcSlotFormatComb_t.size()), checks_RrcSlotFormatComb_t.data(), 56};
+constexpr RrcRecordType type_RrcSlotFormatComb_t = {"RrcSlotFormatComb_t", "rrcCodec/rrcServingCellLevel.h", "SlotFormatCombination", "", &nr_rrc::type_SlotFormatCombination, sizeof(RrcSlotFormatComb_t), 0, 3, 0, 0, fields_RrcSlotFormatComb_t, nullptr, nullptr, checks_RrcSlotFormatComb_t.data(), 56};
 
 constexpr RrcRecordField fields_RrcSlotFormatCombPerCell_t[] = {
     {"servingCellIdx", {"servingCellId", way_0, 1, &nr_rrc::type_ServCellIndex}, nullptr, nullptr, "", 0, 31, offsetof(RrcSlotFormatCombPerCell_t, servingCellIdx), sizeof(RrcSlotFormatCombPerCell_t::servingCellIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4828,18 +3227,8 @@ constexpr RrcRecordBit bits_RrcSlotFormatCombPerCell_t[] = {
     {"RRC_SLOT_FORMAT_COMB_PER_CELL_SUB_CARRIER_SPACING2_PRESENCE", "", nullptr, {}, 4, 0, RRC_BIT_GUARDS, -1},
     {"RRC_SLOT_FORMAT_COMB_PER_CELL_POSITION_IN_DCI_PRESENCE", "", nullptr, {}, 4, 1, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcSlotFormatCombPerCell_t[] = {
-    {offsetof(SlotFormatCombinationsPerCell, servingCellId), -1, 1, 0, 1},
-    {offsetof(SlotFormatCombinationsPerCell, subcarrierSpacing), -1, 4, 0, 1},
-    {},
-    {offsetof(SlotFormatCombinationsPerCell, slotFormatCombinations), 1, 0, 0, 1},
-    {},
-    {offsetof(SlotFormatCombinationsPerCell, subcarrierSpacing2), 0, 4, 0, 1},
-    {offsetof(SlotFormatCombinationsPerCell, positionInDCI), 2, 1, 0, 1},
-};
-constexpr auto ops_RrcSlotFormatCombPerCell_t = records::opsOf<records::opCount(sizeof(RrcSlotFormatCombPerCell_t), fields_RrcSlotFormatCombPerCell_t, sources_RrcSlotFormatCombPerCell_t, bits_RrcSlotFormatCombPerCell_t, 2)>(sizeof(RrcSlotFormatCombPerCell_t), fields_RrcSlotFormatCombPerCell_t, sources_RrcSlotFormatCombPerCell_t, bits_RrcSlotFormatCombPerCell_t, 2);
 constexpr auto checks_RrcSlotFormatCombPerCell_t = records::checkOpsOf(fields_RrcSlotFormatCombPerCell_t, bits_RrcSlotFormatCombPerCell_t, 2);
-constexpr RrcRecordType type_RrcSlotFormatCombPerCell_t = {"RrcSlotFormatCombPerCell_t", "rrcCodec/rrcServingCellLevel.h", "SlotFormatCombinationsPerCell", "", &nr_rrc::type_SlotFormatCombinationsPerCell, sizeof(RrcSlotFormatCombPerCell_t), 0, 7, 2, 0, fields_RrcSlotFormatCombPerCell_t, bits_RrcSlotFormatCombPerCell_t, nullptr, ops_RrcSlotFormatCombPerCell_t.data(), static_cast<UINT16>(ops_RrcSlotFormatCombPerCell_t.size()), checks_RrcSlotFormatCombPerCell_t.data(), 55};
+constexpr RrcRecordType type_RrcSlotFormatCombPerCell_t = {"RrcSlotFormatCombPerCell_t", "rrcCodec/rrcServingCellLevel.h", "SlotFormatCombinationsPerCell", "", &nr_rrc::type_SlotFormatCombinationsPerCell, sizeof(RrcSlotFormatCombPerCell_t), 0, 7, 2, 0, fields_RrcSlotFormatCombPerCell_t, bits_RrcSlotFormatCombPerCell_t, nullptr, checks_RrcSlotFormatCombPerCell_t.data(), 55};
 
 constexpr RrcRecordField fields_RrcSlotFormatInd_t[] = {
     {"sfiRnti", {"sfi-RNTI", way_0, 1, &nr_rrc::type_RNTI_Value}, nullptr, nullptr, "", 0, 65535, offsetof(RrcSlotFormatInd_t, sfiRnti), sizeof(RrcSlotFormatInd_t::sfiRnti), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4849,17 +3238,8 @@ constexpr RrcRecordField fields_RrcSlotFormatInd_t[] = {
     {"numSlotFormatCombRel", {}, nullptr, nullptr, "", 0, 16, offsetof(RrcSlotFormatInd_t, numSlotFormatCombRel), sizeof(RrcSlotFormatInd_t::numSlotFormatCombRel), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"servCellIdx", {"slotFormatCombToReleaseList", way_7, 2, &nr_rrc::type_ServCellIndex}, nullptr, nullptr, "", 0, 31, offsetof(RrcSlotFormatInd_t, servCellIdx), sizeof(RrcSlotFormatInd_t::servCellIdx[0]), sizeof(RrcSlotFormatInd_t::servCellIdx) / sizeof(RrcSlotFormatInd_t::servCellIdx[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 4, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSlotFormatInd_t[] = {
-    {offsetof(SlotFormatIndicator, sfi_RNTI), -1, 2, 0, 1},
-    {offsetof(SlotFormatIndicator, dci_PayloadSize), -1, 1, 0, 1},
-    {},
-    {offsetof(SlotFormatIndicator, slotFormatCombToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(SlotFormatIndicator, slotFormatCombToReleaseList), 1, 0, 0, 1},
-};
-constexpr auto ops_RrcSlotFormatInd_t = records::opsOf<records::opCount(sizeof(RrcSlotFormatInd_t), fields_RrcSlotFormatInd_t, sources_RrcSlotFormatInd_t, nullptr, 0)>(sizeof(RrcSlotFormatInd_t), fields_RrcSlotFormatInd_t, sources_RrcSlotFormatInd_t, nullptr, 0);
 constexpr auto checks_RrcSlotFormatInd_t = records::checkOpsOf(fields_RrcSlotFormatInd_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSlotFormatInd_t = {"RrcSlotFormatInd_t", "rrcCodec/rrcServingCellLevel.h", "SlotFormatIndicator", "A list is sent when its count is not 0.", &nr_rrc::type_SlotFormatIndicator, sizeof(RrcSlotFormatInd_t), 0, 6, 0, 0, fields_RrcSlotFormatInd_t, nullptr, nullptr, ops_RrcSlotFormatInd_t.data(), static_cast<UINT16>(ops_RrcSlotFormatInd_t.size()), checks_RrcSlotFormatInd_t.data(), 54};
+constexpr RrcRecordType type_RrcSlotFormatInd_t = {"RrcSlotFormatInd_t", "rrcCodec/rrcServingCellLevel.h", "SlotFormatIndicator", "A list is sent when its count is not 0.", &nr_rrc::type_SlotFormatIndicator, sizeof(RrcSlotFormatInd_t), 0, 6, 0, 0, fields_RrcSlotFormatInd_t, nullptr, nullptr, checks_RrcSlotFormatInd_t.data(), 54};
 
 constexpr RrcRecordField fields_RrcPdcchServingCellCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(RrcPdcchServingCellCfg_t, bitMask), sizeof(RrcPdcchServingCellCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4868,25 +3248,15 @@ constexpr RrcRecordField fields_RrcPdcchServingCellCfg_t[] = {
 constexpr RrcRecordBit bits_RrcPdcchServingCellCfg_t[] = {
     {"RRC_PDCCH_SERVING_CELL_CFG_SLOT_FORMATE_IND", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPdcchServingCellCfg_t[] = {
-    {},
-    {offsetof(PDCCH_ServingCellConfig, slotFormatIndicator), 0, 0, 0, 1},
-};
-constexpr auto ops_RrcPdcchServingCellCfg_t = records::opsOf<records::opCount(sizeof(RrcPdcchServingCellCfg_t), fields_RrcPdcchServingCellCfg_t, sources_RrcPdcchServingCellCfg_t, bits_RrcPdcchServingCellCfg_t, 1)>(sizeof(RrcPdcchServingCellCfg_t), fields_RrcPdcchServingCellCfg_t, sources_RrcPdcchServingCellCfg_t, bits_RrcPdcchServingCellCfg_t, 1);
 constexpr auto checks_RrcPdcchServingCellCfg_t = records::checkOpsOf(fields_RrcPdcchServingCellCfg_t, bits_RrcPdcchServingCellCfg_t, 1);
-constexpr RrcRecordType type_RrcPdcchServingCellCfg_t = {"RrcPdcchServingCellCfg_t", "rrcCodec/rrcServingCellLevel.h", "PDCCH-ServingCellConfig", "", &nr_rrc::type_PDCCH_ServingCellConfig, sizeof(RrcPdcchServingCellCfg_t), 0, 2, 1, 0, fields_RrcPdcchServingCellCfg_t, bits_RrcPdcchServingCellCfg_t, nullptr, ops_RrcPdcchServingCellCfg_t.data(), static_cast<UINT16>(ops_RrcPdcchServingCellCfg_t.size()), checks_RrcPdcchServingCellCfg_t.data(), 53};
+constexpr RrcRecordType type_RrcPdcchServingCellCfg_t = {"RrcPdcchServingCellCfg_t", "rrcCodec/rrcServingCellLevel.h", "PDCCH-ServingCellConfig", "", &nr_rrc::type_PDCCH_ServingCellConfig, sizeof(RrcPdcchServingCellCfg_t), 0, 2, 1, 0, fields_RrcPdcchServingCellCfg_t, bits_RrcPdcchServingCellCfg_t, nullptr, checks_RrcPdcchServingCellCfg_t.data(), 53};
 
 constexpr RrcRecordField fields_codeBlockGroupTransmission_s[] = {
     {"maxCodeBlockGroupsPerTransportBlock", {"maxCodeBlockGroupsPerTransportBlock", way_0, 1, &nr_rrc::type_PDSCH_CodeBlockGroupTransmission_maxCodeBlockGroupsPerTransportBlock}, nullptr, nullptr, "", 0, 3, offsetof(codeBlockGroupTransmission_s, maxCodeBlockGroupsPerTransportBlock), sizeof(codeBlockGroupTransmission_s::maxCodeBlockGroupsPerTransportBlock), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"codeBlockGroupFlushInd", {"codeBlockGroupFlushIndicator", way_1, 1, &nr_rrc::type_PDSCH_CodeBlockGroupTransmission_codeBlockGroupFlushIndicator}, nullptr, nullptr, "", 0, 1, offsetof(codeBlockGroupTransmission_s, codeBlockGroupFlushInd), sizeof(codeBlockGroupTransmission_s::codeBlockGroupFlushInd), 0, 0, RRC_FIELD_BOOLEAN, 0, 1, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_codeBlockGroupTransmission_s[] = {
-    {offsetof(PDSCH_CodeBlockGroupTransmission, maxCodeBlockGroupsPerTransportBlock), -1, 4, 0, 1},
-    {offsetof(PDSCH_CodeBlockGroupTransmission, codeBlockGroupFlushIndicator), -1, 1, 0, 1},
-};
-constexpr auto ops_codeBlockGroupTransmission_s = records::opsOf<records::opCount(sizeof(codeBlockGroupTransmission_s), fields_codeBlockGroupTransmission_s, sources_codeBlockGroupTransmission_s, nullptr, 0)>(sizeof(codeBlockGroupTransmission_s), fields_codeBlockGroupTransmission_s, sources_codeBlockGroupTransmission_s, nullptr, 0);
 constexpr auto checks_codeBlockGroupTransmission_s = records::checkOpsOf(fields_codeBlockGroupTransmission_s, nullptr, 0);
-constexpr RrcRecordType type_codeBlockGroupTransmission_s = {"codeBlockGroupTransmission_s", "rrcCodec/rrcServingCellLevel.h", "PDSCH-CodeBlockGroupTransmission", "", &nr_rrc::type_PDSCH_CodeBlockGroupTransmission, sizeof(codeBlockGroupTransmission_s), 0, 2, 0, 0, fields_codeBlockGroupTransmission_s, nullptr, nullptr, ops_codeBlockGroupTransmission_s.data(), static_cast<UINT16>(ops_codeBlockGroupTransmission_s.size()), checks_codeBlockGroupTransmission_s.data(), 52};
+constexpr RrcRecordType type_codeBlockGroupTransmission_s = {"codeBlockGroupTransmission_s", "rrcCodec/rrcServingCellLevel.h", "PDSCH-CodeBlockGroupTransmission", "", &nr_rrc::type_PDSCH_CodeBlockGroupTransmission, sizeof(codeBlockGroupTransmission_s), 0, 2, 0, 0, fields_codeBlockGroupTransmission_s, nullptr, nullptr, checks_codeBlockGroupTransmission_s.data(), 52};
 
 constexpr RrcRecordField fields_RrcPdschServingCellCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 63, offsetof(RrcPdschServingCellCfg_t, bitMask), sizeof(RrcPdschServingCellCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -4905,18 +3275,8 @@ constexpr RrcRecordBit bits_RrcPdschServingCellCfg_t[] = {
     {"RRC_PDSCH_SERVING_CELL_CFG_MAX_MIMO_LAYERS", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
     {"RRC_PDSCH_SERVING_CELL_CFG_PROCESSING_TYPE2_ENABLED", "", nullptr, {}, 0, 5, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcPdschServingCellCfg_t[] = {
-    {},
-    {offsetof(PDSCH_ServingCellConfig, codeBlockGroupTransmission), 0, 0, 0, 1},
-    {offsetof(PDSCH_ServingCellConfig, xOverhead), 1, 4, 0, 1},
-    {offsetof(PDSCH_ServingCellConfig, nrofHARQ_ProcessesForPDSCH), 2, 4, 0, 1},
-    {offsetof(PDSCH_ServingCellConfig, pucch_Cell), 3, 1, 0, 1},
-    {},
-    {},
-};
-constexpr auto ops_RrcPdschServingCellCfg_t = records::opsOf<records::opCount(sizeof(RrcPdschServingCellCfg_t), fields_RrcPdschServingCellCfg_t, sources_RrcPdschServingCellCfg_t, bits_RrcPdschServingCellCfg_t, 6)>(sizeof(RrcPdschServingCellCfg_t), fields_RrcPdschServingCellCfg_t, sources_RrcPdschServingCellCfg_t, bits_RrcPdschServingCellCfg_t, 6);
 constexpr auto checks_RrcPdschServingCellCfg_t = records::checkOpsOf(fields_RrcPdschServingCellCfg_t, bits_RrcPdschServingCellCfg_t, 6);
-constexpr RrcRecordType type_RrcPdschServingCellCfg_t = {"RrcPdschServingCellCfg_t", "rrcCodec/rrcServingCellLevel.h", "PDSCH-ServingCellConfig", "", &nr_rrc::type_PDSCH_ServingCellConfig, sizeof(RrcPdschServingCellCfg_t), 0, 7, 6, 0, fields_RrcPdschServingCellCfg_t, bits_RrcPdschServingCellCfg_t, nullptr, ops_RrcPdschServingCellCfg_t.data(), static_cast<UINT16>(ops_RrcPdschServingCellCfg_t.size()), checks_RrcPdschServingCellCfg_t.data(), 51};
+constexpr RrcRecordType type_RrcPdschServingCellCfg_t = {"RrcPdschServingCellCfg_t", "rrcCodec/rrcServingCellLevel.h", "PDSCH-ServingCellConfig", "", &nr_rrc::type_PDSCH_ServingCellConfig, sizeof(RrcPdschServingCellCfg_t), 0, 7, 6, 0, fields_RrcPdschServingCellCfg_t, bits_RrcPdschServingCellCfg_t, nullptr, checks_RrcPdschServingCellCfg_t.data(), 51};
 
 constexpr RrcRecordField fields_RrcNzpCsiRsResource_t[] = {
     {"nzpCsiRsResourceId", {"nzp-CSI-RS-ResourceId", way_0, 1, &nr_rrc::type_NZP_CSI_RS_ResourceId}, nullptr, nullptr, "", 0, 191, offsetof(RrcNzpCsiRsResource_t, nzpCsiRsResourceId), sizeof(RrcNzpCsiRsResource_t::nzpCsiRsResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4933,19 +3293,8 @@ constexpr RrcRecordBit bits_RrcNzpCsiRsResource_t[] = {
     {"RRC_NZP_CSI_RS_RESOURCE_PERIODIC_OFFSET_PRESENT", "", nullptr, {}, 4, 1, RRC_BIT_GUARDS, -1},
     {"RRC_NZP_CSI_RS_RESOURCE_QCI_INFO_PERIOD_CSI_RS_PRESENT", "", nullptr, {}, 4, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcNzpCsiRsResource_t[] = {
-    {offsetof(NZP_CSI_RS_Resource, nzp_CSI_RS_ResourceId), -1, 1, 0, 1},
-    {offsetof(NZP_CSI_RS_Resource, resourceMapping), -1, 0, 0, 1},
-    {offsetof(NZP_CSI_RS_Resource, powerControlOffset), -1, 1, 1, 1},
-    {offsetof(NZP_CSI_RS_Resource, scramblingID), -1, 2, 0, 1},
-    {},
-    {offsetof(NZP_CSI_RS_Resource, powerControlOffsetSS), 0, 4, 0, 1},
-    {offsetof(NZP_CSI_RS_Resource, periodicityAndOffset), 1, 0, 0, 1},
-    {offsetof(NZP_CSI_RS_Resource, qcl_InfoPeriodicCSI_RS), 2, 1, 0, 1},
-};
-constexpr auto ops_RrcNzpCsiRsResource_t = records::opsOf<records::opCount(sizeof(RrcNzpCsiRsResource_t), fields_RrcNzpCsiRsResource_t, sources_RrcNzpCsiRsResource_t, bits_RrcNzpCsiRsResource_t, 3)>(sizeof(RrcNzpCsiRsResource_t), fields_RrcNzpCsiRsResource_t, sources_RrcNzpCsiRsResource_t, bits_RrcNzpCsiRsResource_t, 3);
 constexpr auto checks_RrcNzpCsiRsResource_t = records::checkOpsOf(fields_RrcNzpCsiRsResource_t, bits_RrcNzpCsiRsResource_t, 3);
-constexpr RrcRecordType type_RrcNzpCsiRsResource_t = {"RrcNzpCsiRsResource_t", "rrcCodec/rrcCsiResource.h", "NZP-CSI-RS-Resource", "", &nr_rrc::type_NZP_CSI_RS_Resource, sizeof(RrcNzpCsiRsResource_t), 0, 8, 3, 0, fields_RrcNzpCsiRsResource_t, bits_RrcNzpCsiRsResource_t, nullptr, ops_RrcNzpCsiRsResource_t.data(), static_cast<UINT16>(ops_RrcNzpCsiRsResource_t.size()), checks_RrcNzpCsiRsResource_t.data(), 50};
+constexpr RrcRecordType type_RrcNzpCsiRsResource_t = {"RrcNzpCsiRsResource_t", "rrcCodec/rrcCsiResource.h", "NZP-CSI-RS-Resource", "", &nr_rrc::type_NZP_CSI_RS_Resource, sizeof(RrcNzpCsiRsResource_t), 0, 8, 3, 0, fields_RrcNzpCsiRsResource_t, bits_RrcNzpCsiRsResource_t, nullptr, checks_RrcNzpCsiRsResource_t.data(), 50};
 
 constexpr RrcRecordField fields_RrcNzpCsiRsResourceSet_t[] = {
     {"nzpCsiResourceSetId", {"nzp-CSI-ResourceSetId", way_0, 1, &nr_rrc::type_NZP_CSI_RS_ResourceSetId}, nullptr, nullptr, "", 0, 63, offsetof(RrcNzpCsiRsResourceSet_t, nzpCsiResourceSetId), sizeof(RrcNzpCsiRsResourceSet_t::nzpCsiResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -4961,54 +3310,29 @@ constexpr RrcRecordBit bits_RrcNzpCsiRsResourceSet_t[] = {
     {"RRC_NZP_CSI_RS_RESOUECE_SET_APERIODIC_OFFSET_PRESENCE", "", nullptr, {}, 3, 1, RRC_BIT_GUARDS, -1},
     {"RRC_NZP_CSI_RS_RESOUECE_SET_TRS_INFO_PRESENCE", "", nullptr, {}, 3, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcNzpCsiRsResourceSet_t[] = {
-    {offsetof(NZP_CSI_RS_ResourceSet, nzp_CSI_ResourceSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(NZP_CSI_RS_ResourceSet, nzp_CSI_RS_Resources), -1, 0, 0, 1},
-    {},
-    {offsetof(NZP_CSI_RS_ResourceSet, repetition), 0, 4, 0, 1},
-    {offsetof(NZP_CSI_RS_ResourceSet, aperiodicTriggeringOffset), 1, 1, 0, 1},
-    {offsetof(NZP_CSI_RS_ResourceSet, trs_Info), 2, 4, 0, 1},
-};
-constexpr auto ops_RrcNzpCsiRsResourceSet_t = records::opsOf<records::opCount(sizeof(RrcNzpCsiRsResourceSet_t), fields_RrcNzpCsiRsResourceSet_t, sources_RrcNzpCsiRsResourceSet_t, bits_RrcNzpCsiRsResourceSet_t, 3)>(sizeof(RrcNzpCsiRsResourceSet_t), fields_RrcNzpCsiRsResourceSet_t, sources_RrcNzpCsiRsResourceSet_t, bits_RrcNzpCsiRsResourceSet_t, 3);
 constexpr auto checks_RrcNzpCsiRsResourceSet_t = records::checkOpsOf(fields_RrcNzpCsiRsResourceSet_t, bits_RrcNzpCsiRsResourceSet_t, 3);
-constexpr RrcRecordType type_RrcNzpCsiRsResourceSet_t = {"RrcNzpCsiRsResourceSet_t", "rrcCodec/rrcCsiResource.h", "NZP-CSI-RS-ResourceSet", "", &nr_rrc::type_NZP_CSI_RS_ResourceSet, sizeof(RrcNzpCsiRsResourceSet_t), 0, 7, 3, 0, fields_RrcNzpCsiRsResourceSet_t, bits_RrcNzpCsiRsResourceSet_t, nullptr, ops_RrcNzpCsiRsResourceSet_t.data(), static_cast<UINT16>(ops_RrcNzpCsiRsResourceSet_t.size()), checks_RrcNzpCsiRsResourceSet_t.data(), 49};
+constexpr RrcRecordType type_RrcNzpCsiRsResourceSet_t = {"RrcNzpCsiRsResourceSet_t", "rrcCodec/rrcCsiResource.h", "NZP-CSI-RS-ResourceSet", "", &nr_rrc::type_NZP_CSI_RS_ResourceSet, sizeof(RrcNzpCsiRsResourceSet_t), 0, 7, 3, 0, fields_RrcNzpCsiRsResourceSet_t, bits_RrcNzpCsiRsResourceSet_t, nullptr, checks_RrcNzpCsiRsResourceSet_t.data(), 49};
 
 constexpr RrcRecordField fields_pattern0_s[] = {
     {"subCarrierLocationP0", {"subcarrierLocation-p0", way_0, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0_subcarrierLocation_p0}, nullptr, nullptr, "", 0, 5, offsetof(pattern0_s, subCarrierLocationP0), sizeof(pattern0_s::subCarrierLocationP0), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"symbolLocationP0", {"symbolLocation-p0", way_1, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0_symbolLocation_p0}, nullptr, nullptr, "", 0, 12, offsetof(pattern0_s, symbolLocationP0), sizeof(pattern0_s::symbolLocationP0), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_pattern0_s[] = {
-    {offsetof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, subcarrierLocation_p0), -1, 4, 0, 1},
-    {offsetof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, symbolLocation_p0), -1, 1, 0, 1},
-};
-constexpr auto ops_pattern0_s = records::opsOf<records::opCount(sizeof(pattern0_s), fields_pattern0_s, sources_pattern0_s, nullptr, 0)>(sizeof(pattern0_s), fields_pattern0_s, sources_pattern0_s, nullptr, 0);
 constexpr auto checks_pattern0_s = records::checkOpsOf(fields_pattern0_s, nullptr, 0);
-constexpr RrcRecordType type_pattern0_s = {"pattern0_s", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource.csi-IM-ResourceElementPattern.pattern0", "", &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, sizeof(pattern0_s), 0, 2, 0, 0, fields_pattern0_s, nullptr, nullptr, ops_pattern0_s.data(), static_cast<UINT16>(ops_pattern0_s.size()), checks_pattern0_s.data(), 48};
+constexpr RrcRecordType type_pattern0_s = {"pattern0_s", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource.csi-IM-ResourceElementPattern.pattern0", "", &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, sizeof(pattern0_s), 0, 2, 0, 0, fields_pattern0_s, nullptr, nullptr, checks_pattern0_s.data(), 48};
 
 constexpr RrcRecordField fields_pattern1_s[] = {
     {"subCarrierLocationP1", {"subcarrierLocation-p1", way_0, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1_subcarrierLocation_p1}, nullptr, nullptr, "", 0, 2, offsetof(pattern1_s, subCarrierLocationP1), sizeof(pattern1_s::subCarrierLocationP1), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
     {"symbolLocationP1", {"symbolLocation-p1", way_1, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1_symbolLocation_p1}, nullptr, nullptr, "", 0, 13, offsetof(pattern1_s, symbolLocationP1), sizeof(pattern1_s::symbolLocationP1), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_pattern1_s[] = {
-    {offsetof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, subcarrierLocation_p1), -1, 4, 0, 1},
-    {offsetof(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, symbolLocation_p1), -1, 1, 0, 1},
-};
-constexpr auto ops_pattern1_s = records::opsOf<records::opCount(sizeof(pattern1_s), fields_pattern1_s, sources_pattern1_s, nullptr, 0)>(sizeof(pattern1_s), fields_pattern1_s, sources_pattern1_s, nullptr, 0);
 constexpr auto checks_pattern1_s = records::checkOpsOf(fields_pattern1_s, nullptr, 0);
-constexpr RrcRecordType type_pattern1_s = {"pattern1_s", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource.csi-IM-ResourceElementPattern.pattern1", "", &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, sizeof(pattern1_s), 0, 2, 0, 0, fields_pattern1_s, nullptr, nullptr, ops_pattern1_s.data(), static_cast<UINT16>(ops_pattern1_s.size()), checks_pattern1_s.data(), 47};
+constexpr RrcRecordType type_pattern1_s = {"pattern1_s", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource.csi-IM-ResourceElementPattern.pattern1", "", &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, sizeof(pattern1_s), 0, 2, 0, 0, fields_pattern1_s, nullptr, nullptr, checks_pattern1_s.data(), 47};
 
 constexpr RrcRecordField fields_elementPattern_u[] = {
     {"pattern0", {"pattern0", way_0, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0}, &type_pattern0_s, nullptr, "", 0, 0, offsetof(elementPattern_u, pattern0), sizeof(elementPattern_u::pattern0), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"pattern1", {"pattern1", way_1, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1}, &type_pattern1_s, nullptr, "", 0, 0, offsetof(elementPattern_u, pattern1), sizeof(elementPattern_u::pattern1), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_elementPattern_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_elementPattern_u = records::opsOf<records::opCount(sizeof(elementPattern_u), fields_elementPattern_u, sources_elementPattern_u, nullptr, 0)>(sizeof(elementPattern_u), fields_elementPattern_u, sources_elementPattern_u, nullptr, 0);
 constexpr auto checks_elementPattern_u = records::checkOpsOf(fields_elementPattern_u, nullptr, 0);
-constexpr RrcRecordType type_elementPattern_u = {"elementPattern_u", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource.csi-IM-ResourceElementPattern", "", &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern, sizeof(elementPattern_u), 1, 2, 0, 0, fields_elementPattern_u, nullptr, nullptr, ops_elementPattern_u.data(), static_cast<UINT16>(ops_elementPattern_u.size()), checks_elementPattern_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_elementPattern_u = {"elementPattern_u", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource.csi-IM-ResourceElementPattern", "", &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern, sizeof(elementPattern_u), 1, 2, 0, 0, fields_elementPattern_u, nullptr, nullptr, checks_elementPattern_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCsiImResource_t[] = {
     {"csiImResourceId", {"csi-IM-ResourceId", way_0, 1, &nr_rrc::type_CSI_IM_ResourceId}, nullptr, nullptr, "", 0, 31, offsetof(RrcCsiImResource_t, csiImResourceId), sizeof(RrcCsiImResource_t::csiImResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -5032,45 +3356,24 @@ constexpr RrcRecordOption options_RrcCsiImResource_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCsiImResource_t[] = {
     {{"csi-IM-ResourceElementPattern", way_1, 1, &nr_rrc::type_CSI_IM_Resource_csi_IM_ResourceElementPattern}, 2, 0, 2, options_RrcCsiImResource_t_0},
 };
-constexpr RrcRecordSource sources_RrcCsiImResource_t[] = {
-    {offsetof(CSI_IM_Resource, csi_IM_ResourceId), -1, 1, 0, 1},
-    {},
-    {},
-    {offsetof(CSI_IM_Resource, csi_IM_ResourceElementPattern), 0, 0, 0, 1},
-    {offsetof(CSI_IM_Resource, freqBand), 1, 0, 0, 1},
-    {offsetof(CSI_IM_Resource, periodicityAndOffset), 2, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiImResource_t = records::opsOf<records::opCount(sizeof(RrcCsiImResource_t), fields_RrcCsiImResource_t, sources_RrcCsiImResource_t, bits_RrcCsiImResource_t, 5)>(sizeof(RrcCsiImResource_t), fields_RrcCsiImResource_t, sources_RrcCsiImResource_t, bits_RrcCsiImResource_t, 5);
 constexpr auto checks_RrcCsiImResource_t = records::checkOpsOf(fields_RrcCsiImResource_t, bits_RrcCsiImResource_t, 5);
-constexpr RrcRecordType type_RrcCsiImResource_t = {"RrcCsiImResource_t", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource", "", &nr_rrc::type_CSI_IM_Resource, sizeof(RrcCsiImResource_t), 0, 6, 5, 1, fields_RrcCsiImResource_t, bits_RrcCsiImResource_t, choices_RrcCsiImResource_t, ops_RrcCsiImResource_t.data(), static_cast<UINT16>(ops_RrcCsiImResource_t.size()), checks_RrcCsiImResource_t.data(), 46};
+constexpr RrcRecordType type_RrcCsiImResource_t = {"RrcCsiImResource_t", "rrcCodec/rrcCsiResource.h", "CSI-IM-Resource", "", &nr_rrc::type_CSI_IM_Resource, sizeof(RrcCsiImResource_t), 0, 6, 5, 1, fields_RrcCsiImResource_t, bits_RrcCsiImResource_t, choices_RrcCsiImResource_t, checks_RrcCsiImResource_t.data(), 46};
 
 constexpr RrcRecordField fields_RrcCsiImResourceSet_t[] = {
     {"csiImResourceSetId", {"csi-IM-ResourceSetId", way_0, 1, &nr_rrc::type_CSI_IM_ResourceSetId}, nullptr, nullptr, "", 0, 63, offsetof(RrcCsiImResourceSet_t, csiImResourceSetId), sizeof(RrcCsiImResourceSet_t::csiImResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"numCsiImResources", {}, nullptr, nullptr, "", 1, 8, offsetof(RrcCsiImResourceSet_t, numCsiImResources), sizeof(RrcCsiImResourceSet_t::numCsiImResources), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"CsiImResourceId", {"csi-IM-Resources", way_17, 2, &nr_rrc::type_CSI_IM_ResourceId}, nullptr, nullptr, "", 0, 31, offsetof(RrcCsiImResourceSet_t, CsiImResourceId), sizeof(RrcCsiImResourceSet_t::CsiImResourceId[0]), sizeof(RrcCsiImResourceSet_t::CsiImResourceId) / sizeof(RrcCsiImResourceSet_t::CsiImResourceId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiImResourceSet_t[] = {
-    {offsetof(CSI_IM_ResourceSet, csi_IM_ResourceSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(CSI_IM_ResourceSet, csi_IM_Resources), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiImResourceSet_t = records::opsOf<records::opCount(sizeof(RrcCsiImResourceSet_t), fields_RrcCsiImResourceSet_t, sources_RrcCsiImResourceSet_t, nullptr, 0)>(sizeof(RrcCsiImResourceSet_t), fields_RrcCsiImResourceSet_t, sources_RrcCsiImResourceSet_t, nullptr, 0);
 constexpr auto checks_RrcCsiImResourceSet_t = records::checkOpsOf(fields_RrcCsiImResourceSet_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiImResourceSet_t = {"RrcCsiImResourceSet_t", "rrcCodec/rrcCsiResource.h", "CSI-IM-ResourceSet", "", &nr_rrc::type_CSI_IM_ResourceSet, sizeof(RrcCsiImResourceSet_t), 0, 3, 0, 0, fields_RrcCsiImResourceSet_t, nullptr, nullptr, ops_RrcCsiImResourceSet_t.data(), static_cast<UINT16>(ops_RrcCsiImResourceSet_t.size()), checks_RrcCsiImResourceSet_t.data(), 45};
+constexpr RrcRecordType type_RrcCsiImResourceSet_t = {"RrcCsiImResourceSet_t", "rrcCodec/rrcCsiResource.h", "CSI-IM-ResourceSet", "", &nr_rrc::type_CSI_IM_ResourceSet, sizeof(RrcCsiImResourceSet_t), 0, 3, 0, 0, fields_RrcCsiImResourceSet_t, nullptr, nullptr, checks_RrcCsiImResourceSet_t.data(), 45};
 
 constexpr RrcRecordField fields_RrcCsiSsbResourceSet_t[] = {
     {"csiSsbResourceSetId", {"csi-SSB-ResourceSetId", way_0, 1, &nr_rrc::type_CSI_SSB_ResourceSetId}, nullptr, nullptr, "", 0, 63, offsetof(RrcCsiSsbResourceSet_t, csiSsbResourceSetId), sizeof(RrcCsiSsbResourceSet_t::csiSsbResourceSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"numSsbResourceSet", {}, nullptr, nullptr, "", 1, 64, offsetof(RrcCsiSsbResourceSet_t, numSsbResourceSet), sizeof(RrcCsiSsbResourceSet_t::numSsbResourceSet), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"csiSsbIdx", {"csi-SSB-ResourceList", way_17, 2, &nr_rrc::type_SSB_Index}, nullptr, nullptr, "", 0, 63, offsetof(RrcCsiSsbResourceSet_t, csiSsbIdx), sizeof(RrcCsiSsbResourceSet_t::csiSsbIdx[0]), sizeof(RrcCsiSsbResourceSet_t::csiSsbIdx) / sizeof(RrcCsiSsbResourceSet_t::csiSsbIdx[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiSsbResourceSet_t[] = {
-    {offsetof(CSI_SSB_ResourceSet, csi_SSB_ResourceSetId), -1, 1, 0, 1},
-    {},
-    {offsetof(CSI_SSB_ResourceSet, csi_SSB_ResourceList), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiSsbResourceSet_t = records::opsOf<records::opCount(sizeof(RrcCsiSsbResourceSet_t), fields_RrcCsiSsbResourceSet_t, sources_RrcCsiSsbResourceSet_t, nullptr, 0)>(sizeof(RrcCsiSsbResourceSet_t), fields_RrcCsiSsbResourceSet_t, sources_RrcCsiSsbResourceSet_t, nullptr, 0);
 constexpr auto checks_RrcCsiSsbResourceSet_t = records::checkOpsOf(fields_RrcCsiSsbResourceSet_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiSsbResourceSet_t = {"RrcCsiSsbResourceSet_t", "rrcCodec/rrcCsiResource.h", "CSI-SSB-ResourceSet", "", &nr_rrc::type_CSI_SSB_ResourceSet, sizeof(RrcCsiSsbResourceSet_t), 0, 3, 0, 0, fields_RrcCsiSsbResourceSet_t, nullptr, nullptr, ops_RrcCsiSsbResourceSet_t.data(), static_cast<UINT16>(ops_RrcCsiSsbResourceSet_t.size()), checks_RrcCsiSsbResourceSet_t.data(), 44};
+constexpr RrcRecordType type_RrcCsiSsbResourceSet_t = {"RrcCsiSsbResourceSet_t", "rrcCodec/rrcCsiResource.h", "CSI-SSB-ResourceSet", "", &nr_rrc::type_CSI_SSB_ResourceSet, sizeof(RrcCsiSsbResourceSet_t), 0, 3, 0, 0, fields_RrcCsiSsbResourceSet_t, nullptr, nullptr, checks_RrcCsiSsbResourceSet_t.data(), 44};
 
 constexpr RrcRecordField fields_nzpCsiRsResourceSetList_s[] = {
     {"numNzpCsiRsResourceSet", {}, nullptr, nullptr, "", 0, 16, offsetof(nzpCsiRsResourceSetList_s, numNzpCsiRsResourceSet), sizeof(nzpCsiRsResourceSetList_s::numNzpCsiRsResourceSet), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -5078,39 +3381,22 @@ constexpr RrcRecordField fields_nzpCsiRsResourceSetList_s[] = {
     {"numCsiSsbResourceSet", {}, nullptr, nullptr, "", 0, 1, offsetof(nzpCsiRsResourceSetList_s, numCsiSsbResourceSet), sizeof(nzpCsiRsResourceSetList_s::numCsiSsbResourceSet), 0, 0, RRC_FIELD_COUNT, RRC_FIELD_REST_NOT_SENT, 0, 0, -1, -1, -1, -1},
     {"csiSsbResourceSetId", {"csi-SSB-ResourceSetList", way_17, 2, &nr_rrc::type_CSI_SSB_ResourceSetId}, nullptr, nullptr, "", 0, 63, offsetof(nzpCsiRsResourceSetList_s, csiSsbResourceSetId), sizeof(nzpCsiRsResourceSetList_s::csiSsbResourceSetId[0]), sizeof(nzpCsiRsResourceSetList_s::csiSsbResourceSetId) / sizeof(nzpCsiRsResourceSetList_s::csiSsbResourceSetId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 2, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_nzpCsiRsResourceSetList_s[] = {
-    {},
-    {offsetof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, nzp_CSI_RS_ResourceSetList), 0, 0, 0, 1},
-    {},
-    {offsetof(CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, csi_SSB_ResourceSetList), 1, 0, 0, 1},
-};
-constexpr auto ops_nzpCsiRsResourceSetList_s = records::opsOf<records::opCount(sizeof(nzpCsiRsResourceSetList_s), fields_nzpCsiRsResourceSetList_s, sources_nzpCsiRsResourceSetList_s, nullptr, 0)>(sizeof(nzpCsiRsResourceSetList_s), fields_nzpCsiRsResourceSetList_s, sources_nzpCsiRsResourceSetList_s, nullptr, 0);
 constexpr auto checks_nzpCsiRsResourceSetList_s = records::checkOpsOf(fields_nzpCsiRsResourceSetList_s, nullptr, 0);
-constexpr RrcRecordType type_nzpCsiRsResourceSetList_s = {"nzpCsiRsResourceSetList_s", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig.csi-RS-ResourceSetList.nzp-CSI-RS-SSB", "A list is sent when its count is not 0.", &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, sizeof(nzpCsiRsResourceSetList_s), 0, 4, 0, 0, fields_nzpCsiRsResourceSetList_s, nullptr, nullptr, ops_nzpCsiRsResourceSetList_s.data(), static_cast<UINT16>(ops_nzpCsiRsResourceSetList_s.size()), checks_nzpCsiRsResourceSetList_s.data(), 43};
+constexpr RrcRecordType type_nzpCsiRsResourceSetList_s = {"nzpCsiRsResourceSetList_s", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig.csi-RS-ResourceSetList.nzp-CSI-RS-SSB", "A list is sent when its count is not 0.", &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB, sizeof(nzpCsiRsResourceSetList_s), 0, 4, 0, 0, fields_nzpCsiRsResourceSetList_s, nullptr, nullptr, checks_nzpCsiRsResourceSetList_s.data(), 43};
 
 constexpr RrcRecordField fields_csiImResourceSetList_s[] = {
     {"numCsiImResourceSet", {}, nullptr, nullptr, "", 1, 16, offsetof(csiImResourceSetList_s, numCsiImResourceSet), sizeof(csiImResourceSetList_s::numCsiImResourceSet), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"csiImResourceSetId", {"", way_47, 1, &nr_rrc::type_CSI_IM_ResourceSetId}, nullptr, nullptr, "", 0, 63, offsetof(csiImResourceSetList_s, csiImResourceSetId), sizeof(csiImResourceSetList_s::csiImResourceSetId[0]), sizeof(csiImResourceSetList_s::csiImResourceSetId) / sizeof(csiImResourceSetList_s::csiImResourceSetId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_csiImResourceSetList_s[] = {
-    {},
-    {},
-};
-constexpr auto ops_csiImResourceSetList_s = records::opsOf<records::opCount(sizeof(csiImResourceSetList_s), fields_csiImResourceSetList_s, sources_csiImResourceSetList_s, nullptr, 0)>(sizeof(csiImResourceSetList_s), fields_csiImResourceSetList_s, sources_csiImResourceSetList_s, nullptr, 0);
 constexpr auto checks_csiImResourceSetList_s = records::checkOpsOf(fields_csiImResourceSetList_s, nullptr, 0);
-constexpr RrcRecordType type_csiImResourceSetList_s = {"csiImResourceSetList_s", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig.csi-RS-ResourceSetList.csi-IM-ResourceSetList", "", &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList, sizeof(csiImResourceSetList_s), 0, 2, 0, 0, fields_csiImResourceSetList_s, nullptr, nullptr, ops_csiImResourceSetList_s.data(), static_cast<UINT16>(ops_csiImResourceSetList_s.size()), checks_csiImResourceSetList_s.data(), 42};
+constexpr RrcRecordType type_csiImResourceSetList_s = {"csiImResourceSetList_s", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig.csi-RS-ResourceSetList.csi-IM-ResourceSetList", "", &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList, sizeof(csiImResourceSetList_s), 0, 2, 0, 0, fields_csiImResourceSetList_s, nullptr, nullptr, checks_csiImResourceSetList_s.data(), 42};
 
 constexpr RrcRecordField fields_csiRsResourceSetList_u[] = {
     {"nzpCsiRsResourceSetList", {"nzp-CSI-RS-SSB", way_0, 1, &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList_nzp_CSI_RS_SSB}, &type_nzpCsiRsResourceSetList_s, nullptr, "", 0, 0, offsetof(csiRsResourceSetList_u, nzpCsiRsResourceSetList), sizeof(csiRsResourceSetList_u::nzpCsiRsResourceSetList), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"csiImResourceSetList", {"csi-IM-ResourceSetList", way_1, 1, &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList_csi_IM_ResourceSetList}, &type_csiImResourceSetList_s, nullptr, "", 0, 0, offsetof(csiRsResourceSetList_u, csiImResourceSetList), sizeof(csiRsResourceSetList_u::csiImResourceSetList), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_csiRsResourceSetList_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_csiRsResourceSetList_u = records::opsOf<records::opCount(sizeof(csiRsResourceSetList_u), fields_csiRsResourceSetList_u, sources_csiRsResourceSetList_u, nullptr, 0)>(sizeof(csiRsResourceSetList_u), fields_csiRsResourceSetList_u, sources_csiRsResourceSetList_u, nullptr, 0);
 constexpr auto checks_csiRsResourceSetList_u = records::checkOpsOf(fields_csiRsResourceSetList_u, nullptr, 0);
-constexpr RrcRecordType type_csiRsResourceSetList_u = {"csiRsResourceSetList_u", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig.csi-RS-ResourceSetList", "", &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList, sizeof(csiRsResourceSetList_u), 1, 2, 0, 0, fields_csiRsResourceSetList_u, nullptr, nullptr, ops_csiRsResourceSetList_u.data(), static_cast<UINT16>(ops_csiRsResourceSetList_u.size()), checks_csiRsResourceSetList_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_csiRsResourceSetList_u = {"csiRsResourceSetList_u", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig.csi-RS-ResourceSetList", "", &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList, sizeof(csiRsResourceSetList_u), 1, 2, 0, 0, fields_csiRsResourceSetList_u, nullptr, nullptr, checks_csiRsResourceSetList_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCsiResourceCfg_t[] = {
     {"csiResourceCfgId", {"csi-ResourceConfigId", way_0, 1, &nr_rrc::type_CSI_ResourceConfigId}, nullptr, nullptr, "", 0, 111, offsetof(RrcCsiResourceCfg_t, csiResourceCfgId), sizeof(RrcCsiResourceCfg_t::csiResourceCfgId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -5130,16 +3416,8 @@ constexpr RrcRecordOption options_RrcCsiResourceCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCsiResourceCfg_t[] = {
     {{"csi-RS-ResourceSetList", way_1, 1, &nr_rrc::type_CSI_ResourceConfig_csi_RS_ResourceSetList}, 3, 0, 2, options_RrcCsiResourceCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcCsiResourceCfg_t[] = {
-    {offsetof(CSI_ResourceConfig, csi_ResourceConfigId), -1, 1, 0, 1},
-    {offsetof(CSI_ResourceConfig, bwp_Id), -1, 1, 0, 1},
-    {offsetof(CSI_ResourceConfig, resourceType), -1, 4, 0, 1},
-    {},
-    {offsetof(CSI_ResourceConfig, csi_RS_ResourceSetList), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiResourceCfg_t = records::opsOf<records::opCount(sizeof(RrcCsiResourceCfg_t), fields_RrcCsiResourceCfg_t, sources_RrcCsiResourceCfg_t, bits_RrcCsiResourceCfg_t, 2)>(sizeof(RrcCsiResourceCfg_t), fields_RrcCsiResourceCfg_t, sources_RrcCsiResourceCfg_t, bits_RrcCsiResourceCfg_t, 2);
 constexpr auto checks_RrcCsiResourceCfg_t = records::checkOpsOf(fields_RrcCsiResourceCfg_t, bits_RrcCsiResourceCfg_t, 2);
-constexpr RrcRecordType type_RrcCsiResourceCfg_t = {"RrcCsiResourceCfg_t", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig", "", &nr_rrc::type_CSI_ResourceConfig, sizeof(RrcCsiResourceCfg_t), 0, 5, 2, 1, fields_RrcCsiResourceCfg_t, bits_RrcCsiResourceCfg_t, choices_RrcCsiResourceCfg_t, ops_RrcCsiResourceCfg_t.data(), static_cast<UINT16>(ops_RrcCsiResourceCfg_t.size()), checks_RrcCsiResourceCfg_t.data(), 41};
+constexpr RrcRecordType type_RrcCsiResourceCfg_t = {"RrcCsiResourceCfg_t", "rrcCodec/rrcCsiResource.h", "CSI-ResourceConfig", "", &nr_rrc::type_CSI_ResourceConfig, sizeof(RrcCsiResourceCfg_t), 0, 5, 2, 1, fields_RrcCsiResourceCfg_t, bits_RrcCsiResourceCfg_t, choices_RrcCsiResourceCfg_t, checks_RrcCsiResourceCfg_t.data(), 41};
 
 constexpr RrcRecordField fields_csiReportPeriodAndOffset_t[] = {
     {"periodicity", {"", nullptr, 0, &nr_rrc::type_CSI_ReportPeriodicityAndOffset}, nullptr, nullptr, "", 1, 10, offsetof(csiReportPeriodAndOffset_t, periodicity), sizeof(csiReportPeriodAndOffset_t::periodicity), 0, 0, RRC_FIELD_ALTERNATIVE, 0, 0, 0, -1, -1, -1, -1},
@@ -5160,53 +3438,31 @@ constexpr RrcRecordOption options_csiReportPeriodAndOffset_t_0[] = {
 constexpr RrcRecordChoice choices_csiReportPeriodAndOffset_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CSI_ReportPeriodicityAndOffset}, 0, 1, 10, options_csiReportPeriodAndOffset_t_0},
 };
-constexpr RrcRecordSource sources_csiReportPeriodAndOffset_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_csiReportPeriodAndOffset_t = records::opsOf<records::opCount(sizeof(csiReportPeriodAndOffset_t), fields_csiReportPeriodAndOffset_t, sources_csiReportPeriodAndOffset_t, nullptr, 0)>(sizeof(csiReportPeriodAndOffset_t), fields_csiReportPeriodAndOffset_t, sources_csiReportPeriodAndOffset_t, nullptr, 0);
 constexpr auto checks_csiReportPeriodAndOffset_t = records::checkOpsOf(fields_csiReportPeriodAndOffset_t, nullptr, 0);
-constexpr RrcRecordType type_csiReportPeriodAndOffset_t = {"csiReportPeriodAndOffset_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportPeriodicityAndOffset", "", &nr_rrc::type_CSI_ReportPeriodicityAndOffset, sizeof(csiReportPeriodAndOffset_t), 0, 2, 0, 1, fields_csiReportPeriodAndOffset_t, nullptr, choices_csiReportPeriodAndOffset_t, ops_csiReportPeriodAndOffset_t.data(), static_cast<UINT16>(ops_csiReportPeriodAndOffset_t.size()), checks_csiReportPeriodAndOffset_t.data(), 40};
+constexpr RrcRecordType type_csiReportPeriodAndOffset_t = {"csiReportPeriodAndOffset_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportPeriodicityAndOffset", "", &nr_rrc::type_CSI_ReportPeriodicityAndOffset, sizeof(csiReportPeriodAndOffset_t), 0, 2, 0, 1, fields_csiReportPeriodAndOffset_t, nullptr, choices_csiReportPeriodAndOffset_t, checks_csiReportPeriodAndOffset_t.data(), 40};
 
 constexpr RrcRecordField fields_PucchCsiResource_t[] = {
     {"UlBwpId", {"uplinkBandwidthPartId", way_0, 1, &nr_rrc::type_BWP_Id}, nullptr, nullptr, "", 0, 4, offsetof(PucchCsiResource_t, UlBwpId), sizeof(PucchCsiResource_t::UlBwpId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"PucchResourceId", {"pucch-Resource", way_1, 1, &nr_rrc::type_PUCCH_ResourceId}, nullptr, nullptr, "", 0, 127, offsetof(PucchCsiResource_t, PucchResourceId), sizeof(PucchCsiResource_t::PucchResourceId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_PucchCsiResource_t[] = {
-    {offsetof(PUCCH_CSI_Resource, uplinkBandwidthPartId), -1, 1, 0, 1},
-    {offsetof(PUCCH_CSI_Resource, pucch_Resource), -1, 1, 0, 1},
-};
-constexpr auto ops_PucchCsiResource_t = records::opsOf<records::opCount(sizeof(PucchCsiResource_t), fields_PucchCsiResource_t, sources_PucchCsiResource_t, nullptr, 0)>(sizeof(PucchCsiResource_t), fields_PucchCsiResource_t, sources_PucchCsiResource_t, nullptr, 0);
 constexpr auto checks_PucchCsiResource_t = records::checkOpsOf(fields_PucchCsiResource_t, nullptr, 0);
-constexpr RrcRecordType type_PucchCsiResource_t = {"PucchCsiResource_t", "rrcCodec/rrcCsiReport.h", "PUCCH-CSI-Resource", "", &nr_rrc::type_PUCCH_CSI_Resource, sizeof(PucchCsiResource_t), 0, 2, 0, 0, fields_PucchCsiResource_t, nullptr, nullptr, ops_PucchCsiResource_t.data(), static_cast<UINT16>(ops_PucchCsiResource_t.size()), checks_PucchCsiResource_t.data(), 39};
+constexpr RrcRecordType type_PucchCsiResource_t = {"PucchCsiResource_t", "rrcCodec/rrcCsiReport.h", "PUCCH-CSI-Resource", "", &nr_rrc::type_PUCCH_CSI_Resource, sizeof(PucchCsiResource_t), 0, 2, 0, 0, fields_PucchCsiResource_t, nullptr, nullptr, checks_PucchCsiResource_t.data(), 39};
 
 constexpr RrcRecordField fields_Periodic_t[] = {
     {"reportSlotCfg", {"reportSlotConfig", way_0, 1, &nr_rrc::type_CSI_ReportPeriodicityAndOffset}, &type_csiReportPeriodAndOffset_t, nullptr, "", 0, 0, offsetof(Periodic_t, reportSlotCfg), sizeof(Periodic_t::reportSlotCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"pucchCsiResourceNum", {}, nullptr, nullptr, "", 1, 4, offsetof(Periodic_t, pucchCsiResourceNum), sizeof(Periodic_t::pucchCsiResourceNum), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"pucchCsiResource", {"pucch-CSI-ResourceList", way_17, 2, &nr_rrc::type_PUCCH_CSI_Resource}, &type_PucchCsiResource_t, nullptr, "", 0, 0, offsetof(Periodic_t, pucchCsiResource), sizeof(Periodic_t::pucchCsiResource[0]), sizeof(Periodic_t::pucchCsiResource) / sizeof(Periodic_t::pucchCsiResource[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_Periodic_t[] = {
-    {offsetof(CSI_ReportConfig_reportConfigType_periodic, reportSlotConfig), -1, 0, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig_reportConfigType_periodic, pucch_CSI_ResourceList), -1, 0, 0, 1},
-};
-constexpr auto ops_Periodic_t = records::opsOf<records::opCount(sizeof(Periodic_t), fields_Periodic_t, sources_Periodic_t, nullptr, 0)>(sizeof(Periodic_t), fields_Periodic_t, sources_Periodic_t, nullptr, 0);
 constexpr auto checks_Periodic_t = records::checkOpsOf(fields_Periodic_t, nullptr, 0);
-constexpr RrcRecordType type_Periodic_t = {"Periodic_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.periodic", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_periodic, sizeof(Periodic_t), 0, 3, 0, 0, fields_Periodic_t, nullptr, nullptr, ops_Periodic_t.data(), static_cast<UINT16>(ops_Periodic_t.size()), checks_Periodic_t.data(), 38};
+constexpr RrcRecordType type_Periodic_t = {"Periodic_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.periodic", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_periodic, sizeof(Periodic_t), 0, 3, 0, 0, fields_Periodic_t, nullptr, nullptr, checks_Periodic_t.data(), 38};
 
 constexpr RrcRecordField fields_SemiPersistentOnPucch_t[] = {
     {"reportSlotCfg", {"reportSlotConfig", way_0, 1, &nr_rrc::type_CSI_ReportPeriodicityAndOffset}, &type_csiReportPeriodAndOffset_t, nullptr, "", 0, 0, offsetof(SemiPersistentOnPucch_t, reportSlotCfg), sizeof(SemiPersistentOnPucch_t::reportSlotCfg), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"pucchCsiResourceNum", {}, nullptr, nullptr, "", 1, 4, offsetof(SemiPersistentOnPucch_t, pucchCsiResourceNum), sizeof(SemiPersistentOnPucch_t::pucchCsiResourceNum), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"pucchCsiResource", {"pucch-CSI-ResourceList", way_17, 2, &nr_rrc::type_PUCCH_CSI_Resource}, &type_PucchCsiResource_t, nullptr, "", 0, 0, offsetof(SemiPersistentOnPucch_t, pucchCsiResource), sizeof(SemiPersistentOnPucch_t::pucchCsiResource[0]), sizeof(SemiPersistentOnPucch_t::pucchCsiResource) / sizeof(SemiPersistentOnPucch_t::pucchCsiResource[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_SemiPersistentOnPucch_t[] = {
-    {offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, reportSlotConfig), -1, 0, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, pucch_CSI_ResourceList), -1, 0, 0, 1},
-};
-constexpr auto ops_SemiPersistentOnPucch_t = records::opsOf<records::opCount(sizeof(SemiPersistentOnPucch_t), fields_SemiPersistentOnPucch_t, sources_SemiPersistentOnPucch_t, nullptr, 0)>(sizeof(SemiPersistentOnPucch_t), fields_SemiPersistentOnPucch_t, sources_SemiPersistentOnPucch_t, nullptr, 0);
 constexpr auto checks_SemiPersistentOnPucch_t = records::checkOpsOf(fields_SemiPersistentOnPucch_t, nullptr, 0);
-constexpr RrcRecordType type_SemiPersistentOnPucch_t = {"SemiPersistentOnPucch_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.semiPersistentOnPUCCH", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, sizeof(SemiPersistentOnPucch_t), 0, 3, 0, 0, fields_SemiPersistentOnPucch_t, nullptr, nullptr, ops_SemiPersistentOnPucch_t.data(), static_cast<UINT16>(ops_SemiPersistentOnPucch_t.size()), checks_SemiPersistentOnPucch_t.data(), 37};
+constexpr RrcRecordType type_SemiPersistentOnPucch_t = {"SemiPersistentOnPucch_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.semiPersistentOnPUCCH", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUCCH, sizeof(SemiPersistentOnPucch_t), 0, 3, 0, 0, fields_SemiPersistentOnPucch_t, nullptr, nullptr, checks_SemiPersistentOnPucch_t.data(), 37};
 
 constexpr RrcRecordField fields_SemiPersistentOnPuSch_t[] = {
     {"reportSlotCfg", {"reportSlotConfig", way_0, 1, &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotConfig}, nullptr, nullptr, "", 0, 6, offsetof(SemiPersistentOnPuSch_t, reportSlotCfg), sizeof(SemiPersistentOnPuSch_t::reportSlotCfg), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
@@ -5214,27 +3470,15 @@ constexpr RrcRecordField fields_SemiPersistentOnPuSch_t[] = {
     {"reportSlotOffset", {"reportSlotOffsetList", way_17, 2, &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH_reportSlotOffsetList_element}, nullptr, "slots", "", 0, 32, offsetof(SemiPersistentOnPuSch_t, reportSlotOffset), sizeof(SemiPersistentOnPuSch_t::reportSlotOffset[0]), sizeof(SemiPersistentOnPuSch_t::reportSlotOffset) / sizeof(SemiPersistentOnPuSch_t::reportSlotOffset[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
     {"p0PuschAlphaSetId", {"p0alpha", way_2, 1, &nr_rrc::type_P0_PUSCH_AlphaSetId}, nullptr, nullptr, "", 0, 29, offsetof(SemiPersistentOnPuSch_t, p0PuschAlphaSetId), sizeof(SemiPersistentOnPuSch_t::p0PuschAlphaSetId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_SemiPersistentOnPuSch_t[] = {
-    {offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, reportSlotConfig), -1, 4, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, reportSlotOffsetList), -1, 0, 0, 1},
-    {offsetof(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, p0alpha), -1, 1, 0, 1},
-};
-constexpr auto ops_SemiPersistentOnPuSch_t = records::opsOf<records::opCount(sizeof(SemiPersistentOnPuSch_t), fields_SemiPersistentOnPuSch_t, sources_SemiPersistentOnPuSch_t, nullptr, 0)>(sizeof(SemiPersistentOnPuSch_t), fields_SemiPersistentOnPuSch_t, sources_SemiPersistentOnPuSch_t, nullptr, 0);
 constexpr auto checks_SemiPersistentOnPuSch_t = records::checkOpsOf(fields_SemiPersistentOnPuSch_t, nullptr, 0);
-constexpr RrcRecordType type_SemiPersistentOnPuSch_t = {"SemiPersistentOnPuSch_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.semiPersistentOnPUSCH", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, sizeof(SemiPersistentOnPuSch_t), 0, 4, 0, 0, fields_SemiPersistentOnPuSch_t, nullptr, nullptr, ops_SemiPersistentOnPuSch_t.data(), static_cast<UINT16>(ops_SemiPersistentOnPuSch_t.size()), checks_SemiPersistentOnPuSch_t.data(), 36};
+constexpr RrcRecordType type_SemiPersistentOnPuSch_t = {"SemiPersistentOnPuSch_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.semiPersistentOnPUSCH", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, sizeof(SemiPersistentOnPuSch_t), 0, 4, 0, 0, fields_SemiPersistentOnPuSch_t, nullptr, nullptr, checks_SemiPersistentOnPuSch_t.data(), 36};
 
 constexpr RrcRecordField fields_Aperiodic_t[] = {
     {"reportSlotOffsetNum", {}, nullptr, nullptr, "", 1, 16, offsetof(Aperiodic_t, reportSlotOffsetNum), sizeof(Aperiodic_t::reportSlotOffsetNum), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"reportSlotOffset", {"reportSlotOffsetList", way_16, 2, &nr_rrc::type_CSI_ReportConfig_reportConfigType_aperiodic_reportSlotOffsetList_element}, nullptr, "slots", "", 0, 32, offsetof(Aperiodic_t, reportSlotOffset), sizeof(Aperiodic_t::reportSlotOffset[0]), sizeof(Aperiodic_t::reportSlotOffset) / sizeof(Aperiodic_t::reportSlotOffset[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_Aperiodic_t[] = {
-    {},
-    {offsetof(CSI_ReportConfig_reportConfigType_aperiodic, reportSlotOffsetList), -1, 0, 0, 1},
-};
-constexpr auto ops_Aperiodic_t = records::opsOf<records::opCount(sizeof(Aperiodic_t), fields_Aperiodic_t, sources_Aperiodic_t, nullptr, 0)>(sizeof(Aperiodic_t), fields_Aperiodic_t, sources_Aperiodic_t, nullptr, 0);
 constexpr auto checks_Aperiodic_t = records::checkOpsOf(fields_Aperiodic_t, nullptr, 0);
-constexpr RrcRecordType type_Aperiodic_t = {"Aperiodic_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.aperiodic", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_aperiodic, sizeof(Aperiodic_t), 0, 2, 0, 0, fields_Aperiodic_t, nullptr, nullptr, ops_Aperiodic_t.data(), static_cast<UINT16>(ops_Aperiodic_t.size()), checks_Aperiodic_t.data(), 35};
+constexpr RrcRecordType type_Aperiodic_t = {"Aperiodic_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType.aperiodic", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType_aperiodic, sizeof(Aperiodic_t), 0, 2, 0, 0, fields_Aperiodic_t, nullptr, nullptr, checks_Aperiodic_t.data(), 35};
 
 constexpr RrcRecordField fields_reportCfgType_u[] = {
     {"periodic", {"periodic", way_0, 1, &nr_rrc::type_CSI_ReportConfig_reportConfigType_periodic}, &type_Periodic_t, nullptr, "", 0, 0, offsetof(reportCfgType_u, periodic), sizeof(reportCfgType_u::periodic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -5242,15 +3486,8 @@ constexpr RrcRecordField fields_reportCfgType_u[] = {
     {"semiPersistentOnPusch", {"semiPersistentOnPUSCH", way_2, 1, &nr_rrc::type_CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH}, &type_SemiPersistentOnPuSch_t, nullptr, "", 0, 0, offsetof(reportCfgType_u, semiPersistentOnPusch), sizeof(reportCfgType_u::semiPersistentOnPusch), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"aperiodic", {"aperiodic", way_3, 1, &nr_rrc::type_CSI_ReportConfig_reportConfigType_aperiodic}, &type_Aperiodic_t, nullptr, "", 0, 0, offsetof(reportCfgType_u, aperiodic), sizeof(reportCfgType_u::aperiodic), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_reportCfgType_u[] = {
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_reportCfgType_u = records::opsOf<records::opCount(sizeof(reportCfgType_u), fields_reportCfgType_u, sources_reportCfgType_u, nullptr, 0)>(sizeof(reportCfgType_u), fields_reportCfgType_u, sources_reportCfgType_u, nullptr, 0);
 constexpr auto checks_reportCfgType_u = records::checkOpsOf(fields_reportCfgType_u, nullptr, 0);
-constexpr RrcRecordType type_reportCfgType_u = {"reportCfgType_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType, sizeof(reportCfgType_u), 1, 4, 0, 0, fields_reportCfgType_u, nullptr, nullptr, ops_reportCfgType_u.data(), static_cast<UINT16>(ops_reportCfgType_u.size()), checks_reportCfgType_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_reportCfgType_u = {"reportCfgType_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportConfigType", "", &nr_rrc::type_CSI_ReportConfig_reportConfigType, sizeof(reportCfgType_u), 1, 4, 0, 0, fields_reportCfgType_u, nullptr, nullptr, checks_reportCfgType_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_CriRiI1Cqi_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(CriRiI1Cqi_t, bitMask), sizeof(CriRiI1Cqi_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5259,23 +3496,14 @@ constexpr RrcRecordField fields_CriRiI1Cqi_t[] = {
 constexpr RrcRecordBit bits_CriRiI1Cqi_t[] = {
     {"RRC_CSI_REPORT_PUSCH_BUNDLE_SIZE_FOR_CSI_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_CriRiI1Cqi_t[] = {
-    {},
-    {offsetof(CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, pdsch_BundleSizeForCSI), 0, 4, 0, 1},
-};
-constexpr auto ops_CriRiI1Cqi_t = records::opsOf<records::opCount(sizeof(CriRiI1Cqi_t), fields_CriRiI1Cqi_t, sources_CriRiI1Cqi_t, bits_CriRiI1Cqi_t, 1)>(sizeof(CriRiI1Cqi_t), fields_CriRiI1Cqi_t, sources_CriRiI1Cqi_t, bits_CriRiI1Cqi_t, 1);
 constexpr auto checks_CriRiI1Cqi_t = records::checkOpsOf(fields_CriRiI1Cqi_t, bits_CriRiI1Cqi_t, 1);
-constexpr RrcRecordType type_CriRiI1Cqi_t = {"CriRiI1Cqi_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportQuantity.cri-RI-i1-CQI", "", &nr_rrc::type_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, sizeof(CriRiI1Cqi_t), 0, 2, 1, 0, fields_CriRiI1Cqi_t, bits_CriRiI1Cqi_t, nullptr, ops_CriRiI1Cqi_t.data(), static_cast<UINT16>(ops_CriRiI1Cqi_t.size()), checks_CriRiI1Cqi_t.data(), 34};
+constexpr RrcRecordType type_CriRiI1Cqi_t = {"CriRiI1Cqi_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportQuantity.cri-RI-i1-CQI", "", &nr_rrc::type_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI, sizeof(CriRiI1Cqi_t), 0, 2, 1, 0, fields_CriRiI1Cqi_t, bits_CriRiI1Cqi_t, nullptr, checks_CriRiI1Cqi_t.data(), 34};
 
 constexpr RrcRecordField fields_reportQuantity_u[] = {
     {"criRiI1Cqi", {"cri-RI-i1-CQI", way_3, 1, &nr_rrc::type_CSI_ReportConfig_reportQuantity_cri_RI_i1_CQI}, &type_CriRiI1Cqi_t, nullptr, "", 0, 0, offsetof(reportQuantity_u, criRiI1Cqi), sizeof(reportQuantity_u::criRiI1Cqi), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_reportQuantity_u[] = {
-    {},
-};
-constexpr auto ops_reportQuantity_u = records::opsOf<records::opCount(sizeof(reportQuantity_u), fields_reportQuantity_u, sources_reportQuantity_u, nullptr, 0)>(sizeof(reportQuantity_u), fields_reportQuantity_u, sources_reportQuantity_u, nullptr, 0);
 constexpr auto checks_reportQuantity_u = records::checkOpsOf(fields_reportQuantity_u, nullptr, 0);
-constexpr RrcRecordType type_reportQuantity_u = {"reportQuantity_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportQuantity", "the one alternative that has content", &nr_rrc::type_CSI_ReportConfig_reportQuantity, sizeof(reportQuantity_u), 1, 1, 0, 0, fields_reportQuantity_u, nullptr, nullptr, ops_reportQuantity_u.data(), static_cast<UINT16>(ops_reportQuantity_u.size()), checks_reportQuantity_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_reportQuantity_u = {"reportQuantity_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportQuantity", "the one alternative that has content", &nr_rrc::type_CSI_ReportConfig_reportQuantity, sizeof(reportQuantity_u), 1, 1, 0, 0, fields_reportQuantity_u, nullptr, nullptr, checks_reportQuantity_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_csiReportingBand_u[] = {
     {"subbands3", {"subbands3", way_0, 1, &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands3}, nullptr, nullptr, "", 0, 0, 0, 4, 0, 3, RRC_FIELD_BITS, 0, 0, 3, -1, -1, -1, -1},
@@ -5296,28 +3524,8 @@ constexpr RrcRecordField fields_csiReportingBand_u[] = {
     {"subbands18", {"subbands18", way_51, 1, &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands18}, nullptr, nullptr, "", 0, 0, 0, 4, 0, 18, RRC_FIELD_BITS, 0, 0, 18, -1, -1, -1, -1},
     {"subbands19_v1530", {"subbands19-v1530", way_57, 1, &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand_subbands19_v1530}, nullptr, nullptr, "", 0, 0, 0, 4, 0, 19, RRC_FIELD_BITS, 0, 0, 19, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_csiReportingBand_u[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_csiReportingBand_u = records::opsOf<records::opCount(sizeof(csiReportingBand_u), fields_csiReportingBand_u, sources_csiReportingBand_u, nullptr, 0)>(sizeof(csiReportingBand_u), fields_csiReportingBand_u, sources_csiReportingBand_u, nullptr, 0);
 constexpr auto checks_csiReportingBand_u = records::checkOpsOf(fields_csiReportingBand_u, nullptr, 0);
-constexpr RrcRecordType type_csiReportingBand_u = {"csiReportingBand_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportFreqConfiguration.csi-ReportingBand", "", &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand, sizeof(csiReportingBand_u), 1, 17, 0, 0, fields_csiReportingBand_u, nullptr, nullptr, ops_csiReportingBand_u.data(), static_cast<UINT16>(ops_csiReportingBand_u.size()), checks_csiReportingBand_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_csiReportingBand_u = {"csiReportingBand_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportFreqConfiguration.csi-ReportingBand", "", &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand, sizeof(csiReportingBand_u), 1, 17, 0, 0, fields_csiReportingBand_u, nullptr, nullptr, checks_csiReportingBand_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_ReportFreqCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 7, offsetof(ReportFreqCfg_t, bitMask), sizeof(ReportFreqCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5370,26 +3578,14 @@ constexpr RrcRecordOption options_ReportFreqCfg_t_0[] = {
 constexpr RrcRecordChoice choices_ReportFreqCfg_t[] = {
     {{"csi-ReportingBand", way_2, 1, &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand}, 3, 0, 17, options_ReportFreqCfg_t_0},
 };
-constexpr RrcRecordSource sources_ReportFreqCfg_t[] = {
-    {},
-    {offsetof(CSI_ReportConfig_reportFreqConfiguration, cqi_FormatIndicator), 0, 4, 0, 1},
-    {offsetof(CSI_ReportConfig_reportFreqConfiguration, pmi_FormatIndicator), 1, 4, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig_reportFreqConfiguration, csi_ReportingBand), 2, 0, 0, 1},
-};
-constexpr auto ops_ReportFreqCfg_t = records::opsOf<records::opCount(sizeof(ReportFreqCfg_t), fields_ReportFreqCfg_t, sources_ReportFreqCfg_t, bits_ReportFreqCfg_t, 20)>(sizeof(ReportFreqCfg_t), fields_ReportFreqCfg_t, sources_ReportFreqCfg_t, bits_ReportFreqCfg_t, 20);
 constexpr auto checks_ReportFreqCfg_t = records::checkOpsOf(fields_ReportFreqCfg_t, bits_ReportFreqCfg_t, 20);
-constexpr RrcRecordType type_ReportFreqCfg_t = {"ReportFreqCfg_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportFreqConfiguration", "", &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration, sizeof(ReportFreqCfg_t), 0, 5, 20, 1, fields_ReportFreqCfg_t, bits_ReportFreqCfg_t, choices_ReportFreqCfg_t, ops_ReportFreqCfg_t.data(), static_cast<UINT16>(ops_ReportFreqCfg_t.size()), checks_ReportFreqCfg_t.data(), 33};
+constexpr RrcRecordType type_ReportFreqCfg_t = {"ReportFreqCfg_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.reportFreqConfiguration", "", &nr_rrc::type_CSI_ReportConfig_reportFreqConfiguration, sizeof(ReportFreqCfg_t), 0, 5, 20, 1, fields_ReportFreqCfg_t, bits_ReportFreqCfg_t, choices_ReportFreqCfg_t, checks_ReportFreqCfg_t.data(), 33};
 
 constexpr RrcRecordField fields_nrOfAntennaPorts_two[] = {
     {"twoTX_CodebookSubsetRestrict", {"twoTX-CodebookSubsetRestriction", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two_twoTX_CodebookSubsetRestriction}, nullptr, nullptr, "", 0, 0, 0, 1, 0, 6, RRC_FIELD_BITS, 0, 0, 6, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_nrOfAntennaPorts_two[] = {
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, twoTX_CodebookSubsetRestriction), -1, 0, 0, 1},
-};
-constexpr auto ops_nrOfAntennaPorts_two = records::opsOf<records::opCount(sizeof(nrOfAntennaPorts_two), fields_nrOfAntennaPorts_two, sources_nrOfAntennaPorts_two, nullptr, 0)>(sizeof(nrOfAntennaPorts_two), fields_nrOfAntennaPorts_two, sources_nrOfAntennaPorts_two, nullptr, 0);
 constexpr auto checks_nrOfAntennaPorts_two = records::checkOpsOf(fields_nrOfAntennaPorts_two, nullptr, 0);
-constexpr RrcRecordType type_nrOfAntennaPorts_two = {"nrOfAntennaPorts_two", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.two", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, sizeof(nrOfAntennaPorts_two), 0, 1, 0, 0, fields_nrOfAntennaPorts_two, nullptr, nullptr, ops_nrOfAntennaPorts_two.data(), static_cast<UINT16>(ops_nrOfAntennaPorts_two.size()), checks_nrOfAntennaPorts_two.data(), 32};
+constexpr RrcRecordType type_nrOfAntennaPorts_two = {"nrOfAntennaPorts_two", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.two", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two, sizeof(nrOfAntennaPorts_two), 0, 1, 0, 0, fields_nrOfAntennaPorts_two, nullptr, nullptr, checks_nrOfAntennaPorts_two.data(), 32};
 
 constexpr RrcRecordField fields_moreThanTwo_SinglePanel_n1_n2_u[] = {
     {"two_one", {"two-one-TypeI-SinglePanel-Restriction", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_two_one_TypeI_SinglePanel_Restriction}, nullptr, nullptr, "", 0, 0, offsetof(moreThanTwo_SinglePanel_n1_n2_u, two_one), sizeof(moreThanTwo_SinglePanel_n1_n2_u::two_one), 0, 8, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
@@ -5406,24 +3602,8 @@ constexpr RrcRecordField fields_moreThanTwo_SinglePanel_n1_n2_u[] = {
     {"eight_two", {"eight-two-TypeI-SinglePanel-Restriction", way_15, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_eight_two_TypeI_SinglePanel_Restriction}, nullptr, nullptr, "", 0, 0, offsetof(moreThanTwo_SinglePanel_n1_n2_u, eight_two), sizeof(moreThanTwo_SinglePanel_n1_n2_u::eight_two[0]), sizeof(moreThanTwo_SinglePanel_n1_n2_u::eight_two) / sizeof(moreThanTwo_SinglePanel_n1_n2_u::eight_two[0]), 256, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
     {"sixteen_one", {"sixteen-one-TypeI-SinglePanel-Restriction", way_40, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2_sixteen_one_TypeI_SinglePanel_Restriction}, nullptr, nullptr, "", 0, 0, offsetof(moreThanTwo_SinglePanel_n1_n2_u, sixteen_one), sizeof(moreThanTwo_SinglePanel_n1_n2_u::sixteen_one), 0, 64, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_moreThanTwo_SinglePanel_n1_n2_u[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_moreThanTwo_SinglePanel_n1_n2_u = records::opsOf<records::opCount(sizeof(moreThanTwo_SinglePanel_n1_n2_u), fields_moreThanTwo_SinglePanel_n1_n2_u, sources_moreThanTwo_SinglePanel_n1_n2_u, nullptr, 0)>(sizeof(moreThanTwo_SinglePanel_n1_n2_u), fields_moreThanTwo_SinglePanel_n1_n2_u, sources_moreThanTwo_SinglePanel_n1_n2_u, nullptr, 0);
 constexpr auto checks_moreThanTwo_SinglePanel_n1_n2_u = records::checkOpsOf(fields_moreThanTwo_SinglePanel_n1_n2_u, nullptr, 0);
-constexpr RrcRecordType type_moreThanTwo_SinglePanel_n1_n2_u = {"moreThanTwo_SinglePanel_n1_n2_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo.n1-n2", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2, sizeof(moreThanTwo_SinglePanel_n1_n2_u), 1, 13, 0, 0, fields_moreThanTwo_SinglePanel_n1_n2_u, nullptr, nullptr, ops_moreThanTwo_SinglePanel_n1_n2_u.data(), static_cast<UINT16>(ops_moreThanTwo_SinglePanel_n1_n2_u.size()), checks_moreThanTwo_SinglePanel_n1_n2_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_moreThanTwo_SinglePanel_n1_n2_u = {"moreThanTwo_SinglePanel_n1_n2_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo.n1-n2", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2, sizeof(moreThanTwo_SinglePanel_n1_n2_u), 1, 13, 0, 0, fields_moreThanTwo_SinglePanel_n1_n2_u, nullptr, nullptr, checks_moreThanTwo_SinglePanel_n1_n2_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_nrOfAntennaPorts_moreThanTwo[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(nrOfAntennaPorts_moreThanTwo, bitMask), sizeof(nrOfAntennaPorts_moreThanTwo::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5466,27 +3646,15 @@ constexpr RrcRecordOption options_nrOfAntennaPorts_moreThanTwo_0[] = {
 constexpr RrcRecordChoice choices_nrOfAntennaPorts_moreThanTwo[] = {
     {{"n1-n2", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2}, 1, 0, 13, options_nrOfAntennaPorts_moreThanTwo_0},
 };
-constexpr RrcRecordSource sources_nrOfAntennaPorts_moreThanTwo[] = {
-    {},
-    {},
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo, n1_n2), -1, 0, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo, typeI_SinglePanel_codebookSubsetRestriction_i2), 0, 0, 0, 1},
-};
-constexpr auto ops_nrOfAntennaPorts_moreThanTwo = records::opsOf<records::opCount(sizeof(nrOfAntennaPorts_moreThanTwo), fields_nrOfAntennaPorts_moreThanTwo, sources_nrOfAntennaPorts_moreThanTwo, bits_nrOfAntennaPorts_moreThanTwo, 15)>(sizeof(nrOfAntennaPorts_moreThanTwo), fields_nrOfAntennaPorts_moreThanTwo, sources_nrOfAntennaPorts_moreThanTwo, bits_nrOfAntennaPorts_moreThanTwo, 15);
 constexpr auto checks_nrOfAntennaPorts_moreThanTwo = records::checkOpsOf(fields_nrOfAntennaPorts_moreThanTwo, bits_nrOfAntennaPorts_moreThanTwo, 15);
-constexpr RrcRecordType type_nrOfAntennaPorts_moreThanTwo = {"nrOfAntennaPorts_moreThanTwo", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo, sizeof(nrOfAntennaPorts_moreThanTwo), 0, 4, 15, 1, fields_nrOfAntennaPorts_moreThanTwo, bits_nrOfAntennaPorts_moreThanTwo, choices_nrOfAntennaPorts_moreThanTwo, ops_nrOfAntennaPorts_moreThanTwo.data(), static_cast<UINT16>(ops_nrOfAntennaPorts_moreThanTwo.size()), checks_nrOfAntennaPorts_moreThanTwo.data(), 31};
+constexpr RrcRecordType type_nrOfAntennaPorts_moreThanTwo = {"nrOfAntennaPorts_moreThanTwo", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts.moreThanTwo", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo, sizeof(nrOfAntennaPorts_moreThanTwo), 0, 4, 15, 1, fields_nrOfAntennaPorts_moreThanTwo, bits_nrOfAntennaPorts_moreThanTwo, choices_nrOfAntennaPorts_moreThanTwo, checks_nrOfAntennaPorts_moreThanTwo.data(), 31};
 
 constexpr RrcRecordField fields_nrOfAntennaPorts_u[] = {
     {"two", {"two", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two}, &type_nrOfAntennaPorts_two, nullptr, "", 0, 0, offsetof(nrOfAntennaPorts_u, two), sizeof(nrOfAntennaPorts_u::two), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"moreThanTwo", {"moreThanTwo", way_1, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo}, &type_nrOfAntennaPorts_moreThanTwo, nullptr, "", 0, 0, offsetof(nrOfAntennaPorts_u, moreThanTwo), sizeof(nrOfAntennaPorts_u::moreThanTwo), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_nrOfAntennaPorts_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_nrOfAntennaPorts_u = records::opsOf<records::opCount(sizeof(nrOfAntennaPorts_u), fields_nrOfAntennaPorts_u, sources_nrOfAntennaPorts_u, nullptr, 0)>(sizeof(nrOfAntennaPorts_u), fields_nrOfAntennaPorts_u, sources_nrOfAntennaPorts_u, nullptr, 0);
 constexpr auto checks_nrOfAntennaPorts_u = records::checkOpsOf(fields_nrOfAntennaPorts_u, nullptr, 0);
-constexpr RrcRecordType type_nrOfAntennaPorts_u = {"nrOfAntennaPorts_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts, sizeof(nrOfAntennaPorts_u), 1, 2, 0, 0, fields_nrOfAntennaPorts_u, nullptr, nullptr, ops_nrOfAntennaPorts_u.data(), static_cast<UINT16>(ops_nrOfAntennaPorts_u.size()), checks_nrOfAntennaPorts_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_nrOfAntennaPorts_u = {"nrOfAntennaPorts_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts, sizeof(nrOfAntennaPorts_u), 1, 2, 0, 0, fields_nrOfAntennaPorts_u, nullptr, nullptr, checks_nrOfAntennaPorts_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_SinglePanel_nrOfAntennaPorts_t[] = {
     {"Presence", {}, nullptr, nullptr, "", 0, 3, offsetof(SinglePanel_nrOfAntennaPorts_t, Presence), sizeof(SinglePanel_nrOfAntennaPorts_t::Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5503,25 +3671,15 @@ constexpr RrcRecordOption options_SinglePanel_nrOfAntennaPorts_t_0[] = {
 constexpr RrcRecordChoice choices_SinglePanel_nrOfAntennaPorts_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts}, 0, 0, 2, options_SinglePanel_nrOfAntennaPorts_t_0},
 };
-constexpr RrcRecordSource sources_SinglePanel_nrOfAntennaPorts_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_SinglePanel_nrOfAntennaPorts_t = records::opsOf<records::opCount(sizeof(SinglePanel_nrOfAntennaPorts_t), fields_SinglePanel_nrOfAntennaPorts_t, sources_SinglePanel_nrOfAntennaPorts_t, bits_SinglePanel_nrOfAntennaPorts_t, 2)>(sizeof(SinglePanel_nrOfAntennaPorts_t), fields_SinglePanel_nrOfAntennaPorts_t, sources_SinglePanel_nrOfAntennaPorts_t, bits_SinglePanel_nrOfAntennaPorts_t, 2);
 constexpr auto checks_SinglePanel_nrOfAntennaPorts_t = records::checkOpsOf(fields_SinglePanel_nrOfAntennaPorts_t, bits_SinglePanel_nrOfAntennaPorts_t, 2);
-constexpr RrcRecordType type_SinglePanel_nrOfAntennaPorts_t = {"SinglePanel_nrOfAntennaPorts_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts, sizeof(SinglePanel_nrOfAntennaPorts_t), 0, 2, 2, 1, fields_SinglePanel_nrOfAntennaPorts_t, bits_SinglePanel_nrOfAntennaPorts_t, choices_SinglePanel_nrOfAntennaPorts_t, ops_SinglePanel_nrOfAntennaPorts_t.data(), static_cast<UINT16>(ops_SinglePanel_nrOfAntennaPorts_t.size()), checks_SinglePanel_nrOfAntennaPorts_t.data(), 30};
+constexpr RrcRecordType type_SinglePanel_nrOfAntennaPorts_t = {"SinglePanel_nrOfAntennaPorts_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel.nrOfAntennaPorts", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts, sizeof(SinglePanel_nrOfAntennaPorts_t), 0, 2, 2, 1, fields_SinglePanel_nrOfAntennaPorts_t, bits_SinglePanel_nrOfAntennaPorts_t, choices_SinglePanel_nrOfAntennaPorts_t, checks_SinglePanel_nrOfAntennaPorts_t.data(), 30};
 
 constexpr RrcRecordField fields_CodeBookTypeSinglePanel_t[] = {
     {"SinglePanel_nrOfAntennaPorts", {"nrOfAntennaPorts", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts}, &type_SinglePanel_nrOfAntennaPorts_t, nullptr, "", 0, 0, offsetof(CodeBookTypeSinglePanel_t, SinglePanel_nrOfAntennaPorts), sizeof(CodeBookTypeSinglePanel_t::SinglePanel_nrOfAntennaPorts), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"typeI_SinglePanel_ri_Restriction", {"typeI-SinglePanel-ri-Restriction", way_1, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_typeI_SinglePanel_ri_Restriction}, nullptr, nullptr, "", 0, 0, 56, 1, 0, 8, RRC_FIELD_BITS, 0, 0, 8, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_CodeBookTypeSinglePanel_t[] = {
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel, nrOfAntennaPorts), -1, 0, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_SinglePanel, typeI_SinglePanel_ri_Restriction), -1, 0, 0, 1},
-};
-constexpr auto ops_CodeBookTypeSinglePanel_t = records::opsOf<records::opCount(sizeof(CodeBookTypeSinglePanel_t), fields_CodeBookTypeSinglePanel_t, sources_CodeBookTypeSinglePanel_t, nullptr, 0)>(sizeof(CodeBookTypeSinglePanel_t), fields_CodeBookTypeSinglePanel_t, sources_CodeBookTypeSinglePanel_t, nullptr, 0);
 constexpr auto checks_CodeBookTypeSinglePanel_t = records::checkOpsOf(fields_CodeBookTypeSinglePanel_t, nullptr, 0);
-constexpr RrcRecordType type_CodeBookTypeSinglePanel_t = {"CodeBookTypeSinglePanel_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel, sizeof(CodeBookTypeSinglePanel_t), 0, 2, 0, 0, fields_CodeBookTypeSinglePanel_t, nullptr, nullptr, ops_CodeBookTypeSinglePanel_t.data(), static_cast<UINT16>(ops_CodeBookTypeSinglePanel_t.size()), checks_CodeBookTypeSinglePanel_t.data(), 29};
+constexpr RrcRecordType type_CodeBookTypeSinglePanel_t = {"CodeBookTypeSinglePanel_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-SinglePanel", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel, sizeof(CodeBookTypeSinglePanel_t), 0, 2, 0, 0, fields_CodeBookTypeSinglePanel_t, nullptr, nullptr, checks_CodeBookTypeSinglePanel_t.data(), 29};
 
 constexpr RrcRecordField fields_MultiPanel_ng_n1_n2_u[] = {
     {"two_two_one", {"two-two-one-TypeI-MultiPanel-Restriction", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_two_one_TypeI_MultiPanel_Restriction}, nullptr, nullptr, "", 0, 0, offsetof(MultiPanel_ng_n1_n2_u, two_two_one), sizeof(MultiPanel_ng_n1_n2_u::two_two_one), 0, 8, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
@@ -5533,19 +3691,8 @@ constexpr RrcRecordField fields_MultiPanel_ng_n1_n2_u[] = {
     {"two_four_two", {"two-four-two-TypeI-MultiPanel-Restriction", way_10, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_two_four_two_TypeI_MultiPanel_Restriction}, nullptr, nullptr, "", 0, 0, offsetof(MultiPanel_ng_n1_n2_u, two_four_two), sizeof(MultiPanel_ng_n1_n2_u::two_four_two[0]), sizeof(MultiPanel_ng_n1_n2_u::two_four_two) / sizeof(MultiPanel_ng_n1_n2_u::two_four_two[0]), 128, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
     {"four_two_two", {"four-two-two-TypeI-MultiPanel-Restriction", way_11, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2_four_two_two_TypeI_MultiPanel_Restriction}, nullptr, nullptr, "", 0, 0, offsetof(MultiPanel_ng_n1_n2_u, four_two_two), sizeof(MultiPanel_ng_n1_n2_u::four_two_two), 0, 64, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_MultiPanel_ng_n1_n2_u[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_MultiPanel_ng_n1_n2_u = records::opsOf<records::opCount(sizeof(MultiPanel_ng_n1_n2_u), fields_MultiPanel_ng_n1_n2_u, sources_MultiPanel_ng_n1_n2_u, nullptr, 0)>(sizeof(MultiPanel_ng_n1_n2_u), fields_MultiPanel_ng_n1_n2_u, sources_MultiPanel_ng_n1_n2_u, nullptr, 0);
 constexpr auto checks_MultiPanel_ng_n1_n2_u = records::checkOpsOf(fields_MultiPanel_ng_n1_n2_u, nullptr, 0);
-constexpr RrcRecordType type_MultiPanel_ng_n1_n2_u = {"MultiPanel_ng_n1_n2_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2, sizeof(MultiPanel_ng_n1_n2_u), 1, 8, 0, 0, fields_MultiPanel_ng_n1_n2_u, nullptr, nullptr, ops_MultiPanel_ng_n1_n2_u.data(), static_cast<UINT16>(ops_MultiPanel_ng_n1_n2_u.size()), checks_MultiPanel_ng_n1_n2_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_MultiPanel_ng_n1_n2_u = {"MultiPanel_ng_n1_n2_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-MultiPanel.ng-n1-n2", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2, sizeof(MultiPanel_ng_n1_n2_u), 1, 8, 0, 0, fields_MultiPanel_ng_n1_n2_u, nullptr, nullptr, checks_MultiPanel_ng_n1_n2_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_CodeBookTypeMultiPanel_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 3, offsetof(CodeBookTypeMultiPanel_t, bitMask), sizeof(CodeBookTypeMultiPanel_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5578,27 +3725,15 @@ constexpr RrcRecordOption options_CodeBookTypeMultiPanel_t_0[] = {
 constexpr RrcRecordChoice choices_CodeBookTypeMultiPanel_t[] = {
     {{"ng-n1-n2", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel_ng_n1_n2}, 1, 0, 8, options_CodeBookTypeMultiPanel_t_0},
 };
-constexpr RrcRecordSource sources_CodeBookTypeMultiPanel_t[] = {
-    {},
-    {},
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_MultiPanel, ng_n1_n2), -1, 0, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type1_subType_typeI_MultiPanel, ri_Restriction), -1, 0, 0, 1},
-};
-constexpr auto ops_CodeBookTypeMultiPanel_t = records::opsOf<records::opCount(sizeof(CodeBookTypeMultiPanel_t), fields_CodeBookTypeMultiPanel_t, sources_CodeBookTypeMultiPanel_t, bits_CodeBookTypeMultiPanel_t, 10)>(sizeof(CodeBookTypeMultiPanel_t), fields_CodeBookTypeMultiPanel_t, sources_CodeBookTypeMultiPanel_t, bits_CodeBookTypeMultiPanel_t, 10);
 constexpr auto checks_CodeBookTypeMultiPanel_t = records::checkOpsOf(fields_CodeBookTypeMultiPanel_t, bits_CodeBookTypeMultiPanel_t, 10);
-constexpr RrcRecordType type_CodeBookTypeMultiPanel_t = {"CodeBookTypeMultiPanel_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-MultiPanel", "ri-Restriction leaves the composers 8 bits long, or empty, and has 4 bits on the air: the encoder refuses every message with this codebook.", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel, sizeof(CodeBookTypeMultiPanel_t), 0, 4, 10, 1, fields_CodeBookTypeMultiPanel_t, bits_CodeBookTypeMultiPanel_t, choices_CodeBookTypeMultiPanel_t, ops_CodeBookTypeMultiPanel_t.data(), static_cast<UINT16>(ops_CodeBookTypeMultiPanel_t.size()), checks_CodeBookTypeMultiPanel_t.data(), 28};
+constexpr RrcRecordType type_CodeBookTypeMultiPanel_t = {"CodeBookTypeMultiPanel_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType.typeI-MultiPanel", "ri-Restriction leaves the composers 8 bits long, or empty, and has 4 bits on the air: the encoder refuses every message with this codebook.", &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel, sizeof(CodeBookTypeMultiPanel_t), 0, 4, 10, 1, fields_CodeBookTypeMultiPanel_t, bits_CodeBookTypeMultiPanel_t, choices_CodeBookTypeMultiPanel_t, checks_CodeBookTypeMultiPanel_t.data(), 28};
 
 constexpr RrcRecordField fields_codeBookTypePanel_u[] = {
     {"singlePanel", {"typeI-SinglePanel", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_SinglePanel}, &type_CodeBookTypeSinglePanel_t, nullptr, "", 0, 0, offsetof(codeBookTypePanel_u, singlePanel), sizeof(codeBookTypePanel_u::singlePanel), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"multiPanel", {"typeI-MultiPanel", way_1, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType_typeI_MultiPanel}, &type_CodeBookTypeMultiPanel_t, nullptr, "", 0, 0, offsetof(codeBookTypePanel_u, multiPanel), sizeof(codeBookTypePanel_u::multiPanel), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_codeBookTypePanel_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_codeBookTypePanel_u = records::opsOf<records::opCount(sizeof(codeBookTypePanel_u), fields_codeBookTypePanel_u, sources_codeBookTypePanel_u, nullptr, 0)>(sizeof(codeBookTypePanel_u), fields_codeBookTypePanel_u, sources_codeBookTypePanel_u, nullptr, 0);
 constexpr auto checks_codeBookTypePanel_u = records::checkOpsOf(fields_codeBookTypePanel_u, nullptr, 0);
-constexpr RrcRecordType type_codeBookTypePanel_u = {"codeBookTypePanel_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType, sizeof(codeBookTypePanel_u), 1, 2, 0, 0, fields_codeBookTypePanel_u, nullptr, nullptr, ops_codeBookTypePanel_u.data(), static_cast<UINT16>(ops_codeBookTypePanel_u.size()), checks_codeBookTypePanel_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_codeBookTypePanel_u = {"codeBookTypePanel_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType, sizeof(codeBookTypePanel_u), 1, 2, 0, 0, fields_codeBookTypePanel_u, nullptr, nullptr, checks_codeBookTypePanel_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_CodebookType1_Sub_t[] = {
     {"Presence", {}, nullptr, nullptr, "", 0, 3, offsetof(CodebookType1_Sub_t, Presence), sizeof(CodebookType1_Sub_t::Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5615,25 +3750,15 @@ constexpr RrcRecordOption options_CodebookType1_Sub_t_0[] = {
 constexpr RrcRecordChoice choices_CodebookType1_Sub_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CodebookConfig_codebookType_type1_subType}, 0, 0, 2, options_CodebookType1_Sub_t_0},
 };
-constexpr RrcRecordSource sources_CodebookType1_Sub_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_CodebookType1_Sub_t = records::opsOf<records::opCount(sizeof(CodebookType1_Sub_t), fields_CodebookType1_Sub_t, sources_CodebookType1_Sub_t, bits_CodebookType1_Sub_t, 2)>(sizeof(CodebookType1_Sub_t), fields_CodebookType1_Sub_t, sources_CodebookType1_Sub_t, bits_CodebookType1_Sub_t, 2);
 constexpr auto checks_CodebookType1_Sub_t = records::checkOpsOf(fields_CodebookType1_Sub_t, bits_CodebookType1_Sub_t, 2);
-constexpr RrcRecordType type_CodebookType1_Sub_t = {"CodebookType1_Sub_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType, sizeof(CodebookType1_Sub_t), 0, 2, 2, 1, fields_CodebookType1_Sub_t, bits_CodebookType1_Sub_t, choices_CodebookType1_Sub_t, ops_CodebookType1_Sub_t.data(), static_cast<UINT16>(ops_CodebookType1_Sub_t.size()), checks_CodebookType1_Sub_t.data(), 27};
+constexpr RrcRecordType type_CodebookType1_Sub_t = {"CodebookType1_Sub_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type1_subType, sizeof(CodebookType1_Sub_t), 0, 2, 2, 1, fields_CodebookType1_Sub_t, bits_CodebookType1_Sub_t, choices_CodebookType1_Sub_t, checks_CodebookType1_Sub_t.data(), 27};
 
 constexpr RrcRecordField fields_CodeBookType1_t[] = {
     {"codebookType1_Sub", {"subType", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_subType}, &type_CodebookType1_Sub_t, nullptr, "", 0, 0, offsetof(CodeBookType1_t, codebookType1_Sub), sizeof(CodeBookType1_t::codebookType1_Sub), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"CodebookMode", {"codebookMode", way_1, 1, &nr_rrc::type_CodebookConfig_codebookType_type1_codebookMode}, nullptr, nullptr, "", 1, 2, offsetof(CodeBookType1_t, CodebookMode), sizeof(CodeBookType1_t::CodebookMode), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_CodeBookType1_t[] = {
-    {offsetof(CodebookConfig_codebookType_type1, subType), -1, 0, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type1, codebookMode), -1, 1, 0, 1},
-};
-constexpr auto ops_CodeBookType1_t = records::opsOf<records::opCount(sizeof(CodeBookType1_t), fields_CodeBookType1_t, sources_CodeBookType1_t, nullptr, 0)>(sizeof(CodeBookType1_t), fields_CodeBookType1_t, sources_CodeBookType1_t, nullptr, 0);
 constexpr auto checks_CodeBookType1_t = records::checkOpsOf(fields_CodeBookType1_t, nullptr, 0);
-constexpr RrcRecordType type_CodeBookType1_t = {"CodeBookType1_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1", "", &nr_rrc::type_CodebookConfig_codebookType_type1, sizeof(CodeBookType1_t), 0, 2, 0, 0, fields_CodeBookType1_t, nullptr, nullptr, ops_CodeBookType1_t.data(), static_cast<UINT16>(ops_CodeBookType1_t.size()), checks_CodeBookType1_t.data(), 26};
+constexpr RrcRecordType type_CodeBookType1_t = {"CodeBookType1_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type1", "", &nr_rrc::type_CodebookConfig_codebookType_type1, sizeof(CodeBookType1_t), 0, 2, 0, 0, fields_CodeBookType1_t, nullptr, nullptr, checks_CodeBookType1_t.data(), 26};
 
 constexpr RrcRecordField fields_subsetRestriction_u[] = {
     {"two_one", {"two-one", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_two_one}, nullptr, nullptr, "", 0, 0, offsetof(subsetRestriction_u, two_one), sizeof(subsetRestriction_u::two_one), 0, 16, RRC_FIELD_BITS, 0, 0, 0, -1, -1, -1, -1},
@@ -5650,24 +3775,8 @@ constexpr RrcRecordField fields_subsetRestriction_u[] = {
     {"eight_two", {"eight-two", way_15, 1, &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_eight_two}, nullptr, nullptr, "", 0, 0, offsetof(subsetRestriction_u, eight_two), sizeof(subsetRestriction_u::eight_two[0]), sizeof(subsetRestriction_u::eight_two) / sizeof(subsetRestriction_u::eight_two[0]), 139, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
     {"sixteen_one", {"sixteen-one", way_40, 1, &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction_sixteen_one}, nullptr, nullptr, "", 0, 0, offsetof(subsetRestriction_u, sixteen_one), sizeof(subsetRestriction_u::sixteen_one[0]), sizeof(subsetRestriction_u::sixteen_one) / sizeof(subsetRestriction_u::sixteen_one[0]), 128, RRC_FIELD_OCTETS, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_subsetRestriction_u[] = {
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_subsetRestriction_u = records::opsOf<records::opCount(sizeof(subsetRestriction_u), fields_subsetRestriction_u, sources_subsetRestriction_u, nullptr, 0)>(sizeof(subsetRestriction_u), fields_subsetRestriction_u, sources_subsetRestriction_u, nullptr, 0);
 constexpr auto checks_subsetRestriction_u = records::checkOpsOf(fields_subsetRestriction_u, nullptr, 0);
-constexpr RrcRecordType type_subsetRestriction_u = {"subsetRestriction_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType.typeII.n1-n2-codebookSubsetRestriction", "Strings sent as octets whose length is no multiple of 8 use the most significant bits of the last octet; the others are not sent.", &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction, sizeof(subsetRestriction_u), 1, 13, 0, 0, fields_subsetRestriction_u, nullptr, nullptr, ops_subsetRestriction_u.data(), static_cast<UINT16>(ops_subsetRestriction_u.size()), checks_subsetRestriction_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_subsetRestriction_u = {"subsetRestriction_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType.typeII.n1-n2-codebookSubsetRestriction", "Strings sent as octets whose length is no multiple of 8 use the most significant bits of the last octet; the others are not sent.", &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction, sizeof(subsetRestriction_u), 1, 13, 0, 0, fields_subsetRestriction_u, nullptr, nullptr, checks_subsetRestriction_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_subType_typeII[] = {
     {"Restriction_Presence", {}, nullptr, nullptr, "", 0, 16383, offsetof(subType_typeII, Restriction_Presence), sizeof(subType_typeII::Restriction_Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5708,14 +3817,8 @@ constexpr RrcRecordOption options_subType_typeII_0[] = {
 constexpr RrcRecordChoice choices_subType_typeII[] = {
     {{"n1-n2-codebookSubsetRestriction", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction}, 0, 0, 13, options_subType_typeII_0},
 };
-constexpr RrcRecordSource sources_subType_typeII[] = {
-    {},
-    {offsetof(CodebookConfig_codebookType_type2_subType_typeII, n1_n2_codebookSubsetRestriction), -1, 0, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type2_subType_typeII, typeII_RI_Restriction), -1, 0, 0, 1},
-};
-constexpr auto ops_subType_typeII = records::opsOf<records::opCount(sizeof(subType_typeII), fields_subType_typeII, sources_subType_typeII, bits_subType_typeII, 14)>(sizeof(subType_typeII), fields_subType_typeII, sources_subType_typeII, bits_subType_typeII, 14);
 constexpr auto checks_subType_typeII = records::checkOpsOf(fields_subType_typeII, bits_subType_typeII, 14);
-constexpr RrcRecordType type_subType_typeII = {"subType_typeII", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType.typeII", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII, sizeof(subType_typeII), 0, 3, 14, 1, fields_subType_typeII, bits_subType_typeII, choices_subType_typeII, ops_subType_typeII.data(), static_cast<UINT16>(ops_subType_typeII.size()), checks_subType_typeII.data(), 25};
+constexpr RrcRecordType type_subType_typeII = {"subType_typeII", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType.typeII", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII, sizeof(subType_typeII), 0, 3, 14, 1, fields_subType_typeII, bits_subType_typeII, choices_subType_typeII, checks_subType_typeII.data(), 25};
 
 constexpr RrcRecordField fields_typeII_PortSelection[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(typeII_PortSelection, bitMask), sizeof(typeII_PortSelection::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5725,26 +3828,15 @@ constexpr RrcRecordField fields_typeII_PortSelection[] = {
 constexpr RrcRecordBit bits_typeII_PortSelection[] = {
     {"RRC_PORT_SELEXTION_SAMPLING_SIZE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_typeII_PortSelection[] = {
-    {},
-    {offsetof(CodebookConfig_codebookType_type2_subType_typeII_PortSelection, portSelectionSamplingSize), 0, 4, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type2_subType_typeII_PortSelection, typeII_PortSelectionRI_Restriction), -1, 0, 0, 1},
-};
-constexpr auto ops_typeII_PortSelection = records::opsOf<records::opCount(sizeof(typeII_PortSelection), fields_typeII_PortSelection, sources_typeII_PortSelection, bits_typeII_PortSelection, 1)>(sizeof(typeII_PortSelection), fields_typeII_PortSelection, sources_typeII_PortSelection, bits_typeII_PortSelection, 1);
 constexpr auto checks_typeII_PortSelection = records::checkOpsOf(fields_typeII_PortSelection, bits_typeII_PortSelection, 1);
-constexpr RrcRecordType type_typeII_PortSelection = {"typeII_PortSelection", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType.typeII-PortSelection", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_PortSelection, sizeof(typeII_PortSelection), 0, 3, 1, 0, fields_typeII_PortSelection, bits_typeII_PortSelection, nullptr, ops_typeII_PortSelection.data(), static_cast<UINT16>(ops_typeII_PortSelection.size()), checks_typeII_PortSelection.data(), 24};
+constexpr RrcRecordType type_typeII_PortSelection = {"typeII_PortSelection", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType.typeII-PortSelection", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_PortSelection, sizeof(typeII_PortSelection), 0, 3, 1, 0, fields_typeII_PortSelection, bits_typeII_PortSelection, nullptr, checks_typeII_PortSelection.data(), 24};
 
 constexpr RrcRecordField fields_type2_subType_u[] = {
     {"subType_typeII", {"typeII", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII}, &type_subType_typeII, nullptr, "", 0, 0, offsetof(type2_subType_u, subType_typeII), sizeof(type2_subType_u::subType_typeII), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"typeII_PortSelection", {"typeII-PortSelection", way_1, 1, &nr_rrc::type_CodebookConfig_codebookType_type2_subType_typeII_PortSelection}, &type_typeII_PortSelection, nullptr, "", 0, 0, offsetof(type2_subType_u, typeII_PortSelection), sizeof(type2_subType_u::typeII_PortSelection), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_type2_subType_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_type2_subType_u = records::opsOf<records::opCount(sizeof(type2_subType_u), fields_type2_subType_u, sources_type2_subType_u, nullptr, 0)>(sizeof(type2_subType_u), fields_type2_subType_u, sources_type2_subType_u, nullptr, 0);
 constexpr auto checks_type2_subType_u = records::checkOpsOf(fields_type2_subType_u, nullptr, 0);
-constexpr RrcRecordType type_type2_subType_u = {"type2_subType_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType, sizeof(type2_subType_u), 1, 2, 0, 0, fields_type2_subType_u, nullptr, nullptr, ops_type2_subType_u.data(), static_cast<UINT16>(ops_type2_subType_u.size()), checks_type2_subType_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_type2_subType_u = {"type2_subType_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType, sizeof(type2_subType_u), 1, 2, 0, 0, fields_type2_subType_u, nullptr, nullptr, checks_type2_subType_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_Codebooktype2_Sub_t[] = {
     {"Presence", {}, nullptr, nullptr, "", 0, 3, offsetof(Codebooktype2_Sub_t, Presence), sizeof(Codebooktype2_Sub_t::Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5761,13 +3853,8 @@ constexpr RrcRecordOption options_Codebooktype2_Sub_t_0[] = {
 constexpr RrcRecordChoice choices_Codebooktype2_Sub_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CodebookConfig_codebookType_type2_subType}, 0, 0, 2, options_Codebooktype2_Sub_t_0},
 };
-constexpr RrcRecordSource sources_Codebooktype2_Sub_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_Codebooktype2_Sub_t = records::opsOf<records::opCount(sizeof(Codebooktype2_Sub_t), fields_Codebooktype2_Sub_t, sources_Codebooktype2_Sub_t, bits_Codebooktype2_Sub_t, 2)>(sizeof(Codebooktype2_Sub_t), fields_Codebooktype2_Sub_t, sources_Codebooktype2_Sub_t, bits_Codebooktype2_Sub_t, 2);
 constexpr auto checks_Codebooktype2_Sub_t = records::checkOpsOf(fields_Codebooktype2_Sub_t, bits_Codebooktype2_Sub_t, 2);
-constexpr RrcRecordType type_Codebooktype2_Sub_t = {"Codebooktype2_Sub_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType, sizeof(Codebooktype2_Sub_t), 0, 2, 2, 1, fields_Codebooktype2_Sub_t, bits_Codebooktype2_Sub_t, choices_Codebooktype2_Sub_t, ops_Codebooktype2_Sub_t.data(), static_cast<UINT16>(ops_Codebooktype2_Sub_t.size()), checks_Codebooktype2_Sub_t.data(), 23};
+constexpr RrcRecordType type_Codebooktype2_Sub_t = {"Codebooktype2_Sub_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2.subType", "", &nr_rrc::type_CodebookConfig_codebookType_type2_subType, sizeof(Codebooktype2_Sub_t), 0, 2, 2, 1, fields_Codebooktype2_Sub_t, bits_Codebooktype2_Sub_t, choices_Codebooktype2_Sub_t, checks_Codebooktype2_Sub_t.data(), 23};
 
 constexpr RrcRecordField fields_CodeBookType2_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 15, offsetof(CodeBookType2_t, bitMask), sizeof(CodeBookType2_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5782,28 +3869,15 @@ constexpr RrcRecordBit bits_CodeBookType2_t[] = {
     {"RRC_SUB_BAND_AMPLITUDE", "", "false", {}, 0, 2, RRC_BIT_GUARDS, -1},
     {"RRC_NUM_BER_OFBEAMS", "", "two", {}, 0, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_CodeBookType2_t[] = {
-    {},
-    {offsetof(CodebookConfig_codebookType_type2, subType), -1, 0, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type2, phaseAlphabetSize), -1, 4, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type2, subbandAmplitude), -1, 1, 0, 1},
-    {offsetof(CodebookConfig_codebookType_type2, numberOfBeams), -1, 4, 0, 1},
-};
-constexpr auto ops_CodeBookType2_t = records::opsOf<records::opCount(sizeof(CodeBookType2_t), fields_CodeBookType2_t, sources_CodeBookType2_t, bits_CodeBookType2_t, 4)>(sizeof(CodeBookType2_t), fields_CodeBookType2_t, sources_CodeBookType2_t, bits_CodeBookType2_t, 4);
 constexpr auto checks_CodeBookType2_t = records::checkOpsOf(fields_CodeBookType2_t, bits_CodeBookType2_t, 4);
-constexpr RrcRecordType type_CodeBookType2_t = {"CodeBookType2_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2", "", &nr_rrc::type_CodebookConfig_codebookType_type2, sizeof(CodeBookType2_t), 0, 5, 4, 0, fields_CodeBookType2_t, bits_CodeBookType2_t, nullptr, ops_CodeBookType2_t.data(), static_cast<UINT16>(ops_CodeBookType2_t.size()), checks_CodeBookType2_t.data(), 22};
+constexpr RrcRecordType type_CodeBookType2_t = {"CodeBookType2_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType.type2", "", &nr_rrc::type_CodebookConfig_codebookType_type2, sizeof(CodeBookType2_t), 0, 5, 4, 0, fields_CodeBookType2_t, bits_CodeBookType2_t, nullptr, checks_CodeBookType2_t.data(), 22};
 
 constexpr RrcRecordField fields_codeBookCfgType_u[] = {
     {"codeBookType1", {"type1", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType_type1}, &type_CodeBookType1_t, nullptr, "", 0, 0, offsetof(codeBookCfgType_u, codeBookType1), sizeof(codeBookCfgType_u::codeBookType1), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"codeBookType2", {"type2", way_1, 1, &nr_rrc::type_CodebookConfig_codebookType_type2}, &type_CodeBookType2_t, nullptr, "", 0, 0, offsetof(codeBookCfgType_u, codeBookType2), sizeof(codeBookCfgType_u::codeBookType2), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_codeBookCfgType_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_codeBookCfgType_u = records::opsOf<records::opCount(sizeof(codeBookCfgType_u), fields_codeBookCfgType_u, sources_codeBookCfgType_u, nullptr, 0)>(sizeof(codeBookCfgType_u), fields_codeBookCfgType_u, sources_codeBookCfgType_u, nullptr, 0);
 constexpr auto checks_codeBookCfgType_u = records::checkOpsOf(fields_codeBookCfgType_u, nullptr, 0);
-constexpr RrcRecordType type_codeBookCfgType_u = {"codeBookCfgType_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType", "", &nr_rrc::type_CodebookConfig_codebookType, sizeof(codeBookCfgType_u), 1, 2, 0, 0, fields_codeBookCfgType_u, nullptr, nullptr, ops_codeBookCfgType_u.data(), static_cast<UINT16>(ops_codeBookCfgType_u.size()), checks_codeBookCfgType_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_codeBookCfgType_u = {"codeBookCfgType_u", "rrcCodec/rrcCsiReport.h", "CodebookConfig.codebookType", "", &nr_rrc::type_CodebookConfig_codebookType, sizeof(codeBookCfgType_u), 1, 2, 0, 0, fields_codeBookCfgType_u, nullptr, nullptr, checks_codeBookCfgType_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCodebookCfg_t[] = {
     {"Presence", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcCodebookCfg_t, Presence), sizeof(RrcCodebookCfg_t::Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5820,13 +3894,8 @@ constexpr RrcRecordOption options_RrcCodebookCfg_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCodebookCfg_t[] = {
     {{"codebookType", way_0, 1, &nr_rrc::type_CodebookConfig_codebookType}, 0, 0, 2, options_RrcCodebookCfg_t_0},
 };
-constexpr RrcRecordSource sources_RrcCodebookCfg_t[] = {
-    {},
-    {offsetof(CodebookConfig, codebookType), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcCodebookCfg_t = records::opsOf<records::opCount(sizeof(RrcCodebookCfg_t), fields_RrcCodebookCfg_t, sources_RrcCodebookCfg_t, bits_RrcCodebookCfg_t, 2)>(sizeof(RrcCodebookCfg_t), fields_RrcCodebookCfg_t, sources_RrcCodebookCfg_t, bits_RrcCodebookCfg_t, 2);
 constexpr auto checks_RrcCodebookCfg_t = records::checkOpsOf(fields_RrcCodebookCfg_t, bits_RrcCodebookCfg_t, 2);
-constexpr RrcRecordType type_RrcCodebookCfg_t = {"RrcCodebookCfg_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig", "", &nr_rrc::type_CodebookConfig, sizeof(RrcCodebookCfg_t), 0, 2, 2, 1, fields_RrcCodebookCfg_t, bits_RrcCodebookCfg_t, choices_RrcCodebookCfg_t, ops_RrcCodebookCfg_t.data(), static_cast<UINT16>(ops_RrcCodebookCfg_t.size()), checks_RrcCodebookCfg_t.data(), 21};
+constexpr RrcRecordType type_RrcCodebookCfg_t = {"RrcCodebookCfg_t", "rrcCodec/rrcCsiReport.h", "CodebookConfig", "", &nr_rrc::type_CodebookConfig, sizeof(RrcCodebookCfg_t), 0, 2, 2, 1, fields_RrcCodebookCfg_t, bits_RrcCodebookCfg_t, choices_RrcCodebookCfg_t, checks_RrcCodebookCfg_t.data(), 21};
 
 constexpr RrcRecordField fields_basedBeamReport_Disabled[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(basedBeamReport_Disabled, bitMask), sizeof(basedBeamReport_Disabled::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5835,25 +3904,15 @@ constexpr RrcRecordField fields_basedBeamReport_Disabled[] = {
 constexpr RrcRecordBit bits_basedBeamReport_Disabled[] = {
     {"RRC_BASED_BEAM_REPORT_DISABLED_NROF_REPORTED_RS_PRESENCE", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_basedBeamReport_Disabled[] = {
-    {},
-    {offsetof(CSI_ReportConfig_groupBasedBeamReporting_disabled, nrofReportedRS), 0, 4, 0, 1},
-};
-constexpr auto ops_basedBeamReport_Disabled = records::opsOf<records::opCount(sizeof(basedBeamReport_Disabled), fields_basedBeamReport_Disabled, sources_basedBeamReport_Disabled, bits_basedBeamReport_Disabled, 1)>(sizeof(basedBeamReport_Disabled), fields_basedBeamReport_Disabled, sources_basedBeamReport_Disabled, bits_basedBeamReport_Disabled, 1);
 constexpr auto checks_basedBeamReport_Disabled = records::checkOpsOf(fields_basedBeamReport_Disabled, bits_basedBeamReport_Disabled, 1);
-constexpr RrcRecordType type_basedBeamReport_Disabled = {"basedBeamReport_Disabled", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.groupBasedBeamReporting.disabled", "", &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting_disabled, sizeof(basedBeamReport_Disabled), 0, 2, 1, 0, fields_basedBeamReport_Disabled, bits_basedBeamReport_Disabled, nullptr, ops_basedBeamReport_Disabled.data(), static_cast<UINT16>(ops_basedBeamReport_Disabled.size()), checks_basedBeamReport_Disabled.data(), 20};
+constexpr RrcRecordType type_basedBeamReport_Disabled = {"basedBeamReport_Disabled", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.groupBasedBeamReporting.disabled", "", &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting_disabled, sizeof(basedBeamReport_Disabled), 0, 2, 1, 0, fields_basedBeamReport_Disabled, bits_basedBeamReport_Disabled, nullptr, checks_basedBeamReport_Disabled.data(), 20};
 
 constexpr RrcRecordField fields_beamReporting_u[] = {
     {"enabled", {}, nullptr, nullptr, "enabled has no content", 0, 0, offsetof(beamReporting_u, enabled), sizeof(beamReporting_u::enabled), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
     {"Report_Disabled", {"disabled", way_1, 1, &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting_disabled}, &type_basedBeamReport_Disabled, nullptr, "", 0, 0, offsetof(beamReporting_u, Report_Disabled), sizeof(beamReporting_u::Report_Disabled), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_beamReporting_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_beamReporting_u = records::opsOf<records::opCount(sizeof(beamReporting_u), fields_beamReporting_u, sources_beamReporting_u, nullptr, 0)>(sizeof(beamReporting_u), fields_beamReporting_u, sources_beamReporting_u, nullptr, 0);
 constexpr auto checks_beamReporting_u = records::checkOpsOf(fields_beamReporting_u, nullptr, 0);
-constexpr RrcRecordType type_beamReporting_u = {"beamReporting_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.groupBasedBeamReporting", "", &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting, sizeof(beamReporting_u), 1, 2, 0, 0, fields_beamReporting_u, nullptr, nullptr, ops_beamReporting_u.data(), static_cast<UINT16>(ops_beamReporting_u.size()), checks_beamReporting_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_beamReporting_u = {"beamReporting_u", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.groupBasedBeamReporting", "", &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting, sizeof(beamReporting_u), 1, 2, 0, 0, fields_beamReporting_u, nullptr, nullptr, checks_beamReporting_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcgroupBasedBeamReport_t[] = {
     {"Presence", {}, nullptr, nullptr, "", 0, 3, offsetof(RrcgroupBasedBeamReport_t, Presence), sizeof(RrcgroupBasedBeamReport_t::Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5870,13 +3929,8 @@ constexpr RrcRecordOption options_RrcgroupBasedBeamReport_t_0[] = {
 constexpr RrcRecordChoice choices_RrcgroupBasedBeamReport_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting}, 0, 0, 2, options_RrcgroupBasedBeamReport_t_0},
 };
-constexpr RrcRecordSource sources_RrcgroupBasedBeamReport_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcgroupBasedBeamReport_t = records::opsOf<records::opCount(sizeof(RrcgroupBasedBeamReport_t), fields_RrcgroupBasedBeamReport_t, sources_RrcgroupBasedBeamReport_t, bits_RrcgroupBasedBeamReport_t, 2)>(sizeof(RrcgroupBasedBeamReport_t), fields_RrcgroupBasedBeamReport_t, sources_RrcgroupBasedBeamReport_t, bits_RrcgroupBasedBeamReport_t, 2);
 constexpr auto checks_RrcgroupBasedBeamReport_t = records::checkOpsOf(fields_RrcgroupBasedBeamReport_t, bits_RrcgroupBasedBeamReport_t, 2);
-constexpr RrcRecordType type_RrcgroupBasedBeamReport_t = {"RrcgroupBasedBeamReport_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.groupBasedBeamReporting", "", &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting, sizeof(RrcgroupBasedBeamReport_t), 0, 2, 2, 1, fields_RrcgroupBasedBeamReport_t, bits_RrcgroupBasedBeamReport_t, choices_RrcgroupBasedBeamReport_t, ops_RrcgroupBasedBeamReport_t.data(), static_cast<UINT16>(ops_RrcgroupBasedBeamReport_t.size()), checks_RrcgroupBasedBeamReport_t.data(), 19};
+constexpr RrcRecordType type_RrcgroupBasedBeamReport_t = {"RrcgroupBasedBeamReport_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.groupBasedBeamReporting", "", &nr_rrc::type_CSI_ReportConfig_groupBasedBeamReporting, sizeof(RrcgroupBasedBeamReport_t), 0, 2, 2, 1, fields_RrcgroupBasedBeamReport_t, bits_RrcgroupBasedBeamReport_t, choices_RrcgroupBasedBeamReport_t, checks_RrcgroupBasedBeamReport_t.data(), 19};
 
 constexpr RrcRecordField fields_portIndexFor8Ranks_portIndex8[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(portIndexFor8Ranks_portIndex8, bitMask), sizeof(portIndexFor8Ranks_portIndex8::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5899,27 +3953,8 @@ constexpr RrcRecordField fields_portIndexFor8Ranks_portIndex8[] = {
 constexpr RrcRecordBit bits_portIndexFor8Ranks_portIndex8[] = {
     {"RRC_RANK1_8", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_portIndexFor8Ranks_portIndex8[] = {
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank1_8), 0, 1, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank2_8), 1, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank3_8), 2, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank4_8), 3, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank5_8), 4, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank6_8), 5, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank7_8), 6, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex8, rank8_8), 7, 0, 0, 1},
-};
-constexpr auto ops_portIndexFor8Ranks_portIndex8 = records::opsOf<records::opCount(sizeof(portIndexFor8Ranks_portIndex8), fields_portIndexFor8Ranks_portIndex8, sources_portIndexFor8Ranks_portIndex8, bits_portIndexFor8Ranks_portIndex8, 1)>(sizeof(portIndexFor8Ranks_portIndex8), fields_portIndexFor8Ranks_portIndex8, sources_portIndexFor8Ranks_portIndex8, bits_portIndexFor8Ranks_portIndex8, 1);
 constexpr auto checks_portIndexFor8Ranks_portIndex8 = records::checkOpsOf(fields_portIndexFor8Ranks_portIndex8, bits_portIndexFor8Ranks_portIndex8, 1);
-constexpr RrcRecordType type_portIndexFor8Ranks_portIndex8 = {"portIndexFor8Ranks_portIndex8", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks.portIndex8", "A rank above 1 is sent when its count is not 0; the count is to be the rank: entries that are not counted are sent as 0.", &nr_rrc::type_PortIndexFor8Ranks_portIndex8, sizeof(portIndexFor8Ranks_portIndex8), 0, 16, 1, 0, fields_portIndexFor8Ranks_portIndex8, bits_portIndexFor8Ranks_portIndex8, nullptr, ops_portIndexFor8Ranks_portIndex8.data(), static_cast<UINT16>(ops_portIndexFor8Ranks_portIndex8.size()), checks_portIndexFor8Ranks_portIndex8.data(), 18};
+constexpr RrcRecordType type_portIndexFor8Ranks_portIndex8 = {"portIndexFor8Ranks_portIndex8", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks.portIndex8", "A rank above 1 is sent when its count is not 0; the count is to be the rank: entries that are not counted are sent as 0.", &nr_rrc::type_PortIndexFor8Ranks_portIndex8, sizeof(portIndexFor8Ranks_portIndex8), 0, 16, 1, 0, fields_portIndexFor8Ranks_portIndex8, bits_portIndexFor8Ranks_portIndex8, nullptr, checks_portIndexFor8Ranks_portIndex8.data(), 18};
 
 constexpr RrcRecordField fields_portIndexFor8Ranks_portIndex4[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(portIndexFor8Ranks_portIndex4, bitMask), sizeof(portIndexFor8Ranks_portIndex4::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5934,19 +3969,8 @@ constexpr RrcRecordField fields_portIndexFor8Ranks_portIndex4[] = {
 constexpr RrcRecordBit bits_portIndexFor8Ranks_portIndex4[] = {
     {"RRC_RANK1_4", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_portIndexFor8Ranks_portIndex4[] = {
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex4, rank1_4), 0, 1, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex4, rank2_4), 1, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex4, rank3_4), 2, 0, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex4, rank4_4), 3, 0, 0, 1},
-};
-constexpr auto ops_portIndexFor8Ranks_portIndex4 = records::opsOf<records::opCount(sizeof(portIndexFor8Ranks_portIndex4), fields_portIndexFor8Ranks_portIndex4, sources_portIndexFor8Ranks_portIndex4, bits_portIndexFor8Ranks_portIndex4, 1)>(sizeof(portIndexFor8Ranks_portIndex4), fields_portIndexFor8Ranks_portIndex4, sources_portIndexFor8Ranks_portIndex4, bits_portIndexFor8Ranks_portIndex4, 1);
 constexpr auto checks_portIndexFor8Ranks_portIndex4 = records::checkOpsOf(fields_portIndexFor8Ranks_portIndex4, bits_portIndexFor8Ranks_portIndex4, 1);
-constexpr RrcRecordType type_portIndexFor8Ranks_portIndex4 = {"portIndexFor8Ranks_portIndex4", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks.portIndex4", "A rank above 1 is sent when its count is not 0.", &nr_rrc::type_PortIndexFor8Ranks_portIndex4, sizeof(portIndexFor8Ranks_portIndex4), 0, 8, 1, 0, fields_portIndexFor8Ranks_portIndex4, bits_portIndexFor8Ranks_portIndex4, nullptr, ops_portIndexFor8Ranks_portIndex4.data(), static_cast<UINT16>(ops_portIndexFor8Ranks_portIndex4.size()), checks_portIndexFor8Ranks_portIndex4.data(), 17};
+constexpr RrcRecordType type_portIndexFor8Ranks_portIndex4 = {"portIndexFor8Ranks_portIndex4", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks.portIndex4", "A rank above 1 is sent when its count is not 0.", &nr_rrc::type_PortIndexFor8Ranks_portIndex4, sizeof(portIndexFor8Ranks_portIndex4), 0, 8, 1, 0, fields_portIndexFor8Ranks_portIndex4, bits_portIndexFor8Ranks_portIndex4, nullptr, checks_portIndexFor8Ranks_portIndex4.data(), 17};
 
 constexpr RrcRecordField fields_portIndexFor8Ranks_portIndex2[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 1, offsetof(portIndexFor8Ranks_portIndex2, bitMask), sizeof(portIndexFor8Ranks_portIndex2::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -5957,15 +3981,8 @@ constexpr RrcRecordField fields_portIndexFor8Ranks_portIndex2[] = {
 constexpr RrcRecordBit bits_portIndexFor8Ranks_portIndex2[] = {
     {"RRC_RANK1_2", "", nullptr, {}, 0, 0, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_portIndexFor8Ranks_portIndex2[] = {
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex2, rank1_2), 0, 1, 0, 1},
-    {},
-    {offsetof(PortIndexFor8Ranks_portIndex2, rank2_2), 1, 0, 0, 1},
-};
-constexpr auto ops_portIndexFor8Ranks_portIndex2 = records::opsOf<records::opCount(sizeof(portIndexFor8Ranks_portIndex2), fields_portIndexFor8Ranks_portIndex2, sources_portIndexFor8Ranks_portIndex2, bits_portIndexFor8Ranks_portIndex2, 1)>(sizeof(portIndexFor8Ranks_portIndex2), fields_portIndexFor8Ranks_portIndex2, sources_portIndexFor8Ranks_portIndex2, bits_portIndexFor8Ranks_portIndex2, 1);
 constexpr auto checks_portIndexFor8Ranks_portIndex2 = records::checkOpsOf(fields_portIndexFor8Ranks_portIndex2, bits_portIndexFor8Ranks_portIndex2, 1);
-constexpr RrcRecordType type_portIndexFor8Ranks_portIndex2 = {"portIndexFor8Ranks_portIndex2", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks.portIndex2", "Rank 2 is sent when its count is not 0.", &nr_rrc::type_PortIndexFor8Ranks_portIndex2, sizeof(portIndexFor8Ranks_portIndex2), 0, 4, 1, 0, fields_portIndexFor8Ranks_portIndex2, bits_portIndexFor8Ranks_portIndex2, nullptr, ops_portIndexFor8Ranks_portIndex2.data(), static_cast<UINT16>(ops_portIndexFor8Ranks_portIndex2.size()), checks_portIndexFor8Ranks_portIndex2.data(), 16};
+constexpr RrcRecordType type_portIndexFor8Ranks_portIndex2 = {"portIndexFor8Ranks_portIndex2", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks.portIndex2", "Rank 2 is sent when its count is not 0.", &nr_rrc::type_PortIndexFor8Ranks_portIndex2, sizeof(portIndexFor8Ranks_portIndex2), 0, 4, 1, 0, fields_portIndexFor8Ranks_portIndex2, bits_portIndexFor8Ranks_portIndex2, nullptr, checks_portIndexFor8Ranks_portIndex2.data(), 16};
 
 constexpr RrcRecordField fields_portIndexFor8Ranks_u[] = {
     {"portIndex8", {"portIndex8", way_0, 1, &nr_rrc::type_PortIndexFor8Ranks_portIndex8}, &type_portIndexFor8Ranks_portIndex8, nullptr, "", 0, 0, offsetof(portIndexFor8Ranks_u, portIndex8), sizeof(portIndexFor8Ranks_u::portIndex8), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
@@ -5973,15 +3990,8 @@ constexpr RrcRecordField fields_portIndexFor8Ranks_u[] = {
     {"portIndex2", {"portIndex2", way_2, 1, &nr_rrc::type_PortIndexFor8Ranks_portIndex2}, &type_portIndexFor8Ranks_portIndex2, nullptr, "", 0, 0, offsetof(portIndexFor8Ranks_u, portIndex2), sizeof(portIndexFor8Ranks_u::portIndex2), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"portIndex1", {}, nullptr, nullptr, "portIndex1 has no content", 0, 0, offsetof(portIndexFor8Ranks_u, portIndex1), sizeof(portIndexFor8Ranks_u::portIndex1), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_portIndexFor8Ranks_u[] = {
-    {},
-    {},
-    {},
-    {},
-};
-constexpr auto ops_portIndexFor8Ranks_u = records::opsOf<records::opCount(sizeof(portIndexFor8Ranks_u), fields_portIndexFor8Ranks_u, sources_portIndexFor8Ranks_u, nullptr, 0)>(sizeof(portIndexFor8Ranks_u), fields_portIndexFor8Ranks_u, sources_portIndexFor8Ranks_u, nullptr, 0);
 constexpr auto checks_portIndexFor8Ranks_u = records::checkOpsOf(fields_portIndexFor8Ranks_u, nullptr, 0);
-constexpr RrcRecordType type_portIndexFor8Ranks_u = {"portIndexFor8Ranks_u", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks", "", &nr_rrc::type_PortIndexFor8Ranks, sizeof(portIndexFor8Ranks_u), 1, 4, 0, 0, fields_portIndexFor8Ranks_u, nullptr, nullptr, ops_portIndexFor8Ranks_u.data(), static_cast<UINT16>(ops_portIndexFor8Ranks_u.size()), checks_portIndexFor8Ranks_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_portIndexFor8Ranks_u = {"portIndexFor8Ranks_u", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks", "", &nr_rrc::type_PortIndexFor8Ranks, sizeof(portIndexFor8Ranks_u), 1, 4, 0, 0, fields_portIndexFor8Ranks_u, nullptr, nullptr, checks_portIndexFor8Ranks_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcPortIndexFor8Ranks_t[] = {
     {"Presence", {}, nullptr, nullptr, "", 0, 15, offsetof(RrcPortIndexFor8Ranks_t, Presence), sizeof(RrcPortIndexFor8Ranks_t::Presence), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -6002,35 +4012,21 @@ constexpr RrcRecordOption options_RrcPortIndexFor8Ranks_t_0[] = {
 constexpr RrcRecordChoice choices_RrcPortIndexFor8Ranks_t[] = {
     {{"", nullptr, 0, &nr_rrc::type_PortIndexFor8Ranks}, 0, 0, 4, options_RrcPortIndexFor8Ranks_t_0},
 };
-constexpr RrcRecordSource sources_RrcPortIndexFor8Ranks_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcPortIndexFor8Ranks_t = records::opsOf<records::opCount(sizeof(RrcPortIndexFor8Ranks_t), fields_RrcPortIndexFor8Ranks_t, sources_RrcPortIndexFor8Ranks_t, bits_RrcPortIndexFor8Ranks_t, 4)>(sizeof(RrcPortIndexFor8Ranks_t), fields_RrcPortIndexFor8Ranks_t, sources_RrcPortIndexFor8Ranks_t, bits_RrcPortIndexFor8Ranks_t, 4);
 constexpr auto checks_RrcPortIndexFor8Ranks_t = records::checkOpsOf(fields_RrcPortIndexFor8Ranks_t, bits_RrcPortIndexFor8Ranks_t, 4);
-constexpr RrcRecordType type_RrcPortIndexFor8Ranks_t = {"RrcPortIndexFor8Ranks_t", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks", "", &nr_rrc::type_PortIndexFor8Ranks, sizeof(RrcPortIndexFor8Ranks_t), 0, 2, 4, 1, fields_RrcPortIndexFor8Ranks_t, bits_RrcPortIndexFor8Ranks_t, choices_RrcPortIndexFor8Ranks_t, ops_RrcPortIndexFor8Ranks_t.data(), static_cast<UINT16>(ops_RrcPortIndexFor8Ranks_t.size()), checks_RrcPortIndexFor8Ranks_t.data(), 15};
+constexpr RrcRecordType type_RrcPortIndexFor8Ranks_t = {"RrcPortIndexFor8Ranks_t", "rrcCodec/rrcCsiReport.h", "PortIndexFor8Ranks", "", &nr_rrc::type_PortIndexFor8Ranks, sizeof(RrcPortIndexFor8Ranks_t), 0, 2, 4, 1, fields_RrcPortIndexFor8Ranks_t, bits_RrcPortIndexFor8Ranks_t, choices_RrcPortIndexFor8Ranks_t, checks_RrcPortIndexFor8Ranks_t.data(), 15};
 
 constexpr RrcRecordField fields_RRCPortIndexFor8Ranks_t[] = {
     {"numPortIndexFor8Ranks", {}, nullptr, nullptr, "", 1, 128, offsetof(RRCPortIndexFor8Ranks_t, numPortIndexFor8Ranks), sizeof(RRCPortIndexFor8Ranks_t::numPortIndexFor8Ranks), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"portIndexFor8Ranks", {"", way_47, 1, &nr_rrc::type_PortIndexFor8Ranks}, &type_RrcPortIndexFor8Ranks_t, nullptr, "", 0, 0, offsetof(RRCPortIndexFor8Ranks_t, portIndexFor8Ranks), sizeof(RRCPortIndexFor8Ranks_t::portIndexFor8Ranks[0]), sizeof(RRCPortIndexFor8Ranks_t::portIndexFor8Ranks) / sizeof(RRCPortIndexFor8Ranks_t::portIndexFor8Ranks[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RRCPortIndexFor8Ranks_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RRCPortIndexFor8Ranks_t = records::opsOf<records::opCount(sizeof(RRCPortIndexFor8Ranks_t), fields_RRCPortIndexFor8Ranks_t, sources_RRCPortIndexFor8Ranks_t, nullptr, 0)>(sizeof(RRCPortIndexFor8Ranks_t), fields_RRCPortIndexFor8Ranks_t, sources_RRCPortIndexFor8Ranks_t, nullptr, 0);
 constexpr auto checks_RRCPortIndexFor8Ranks_t = records::checkOpsOf(fields_RRCPortIndexFor8Ranks_t, nullptr, 0);
-constexpr RrcRecordType type_RRCPortIndexFor8Ranks_t = {"RRCPortIndexFor8Ranks_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.non-PMI-PortIndication", "", &nr_rrc::type_CSI_ReportConfig_non_PMI_PortIndication, sizeof(RRCPortIndexFor8Ranks_t), 0, 2, 0, 0, fields_RRCPortIndexFor8Ranks_t, nullptr, nullptr, ops_RRCPortIndexFor8Ranks_t.data(), static_cast<UINT16>(ops_RRCPortIndexFor8Ranks_t.size()), checks_RRCPortIndexFor8Ranks_t.data(), 14};
+constexpr RrcRecordType type_RRCPortIndexFor8Ranks_t = {"RRCPortIndexFor8Ranks_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.non-PMI-PortIndication", "", &nr_rrc::type_CSI_ReportConfig_non_PMI_PortIndication, sizeof(RRCPortIndexFor8Ranks_t), 0, 2, 0, 0, fields_RRCPortIndexFor8Ranks_t, nullptr, nullptr, checks_RRCPortIndexFor8Ranks_t.data(), 14};
 
 constexpr RrcRecordField fields_semimPersistentOnPuschv1530[] = {
     {"ReportSlotConfig_v1530", {"reportSlotConfig-v1530", way_0, 1, &nr_rrc::type_CSI_ReportConfig_semiPersistentOnPUSCH_v1530_reportSlotConfig_v1530}, nullptr, nullptr, "", 0, 2, offsetof(semimPersistentOnPuschv1530, ReportSlotConfig_v1530), sizeof(semimPersistentOnPuschv1530::ReportSlotConfig_v1530), 0, 0, RRC_FIELD_ENUMERATED, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_semimPersistentOnPuschv1530[] = {
-    {offsetof(CSI_ReportConfig_semiPersistentOnPUSCH_v1530, reportSlotConfig_v1530), -1, 4, 0, 1},
-};
-constexpr auto ops_semimPersistentOnPuschv1530 = records::opsOf<records::opCount(sizeof(semimPersistentOnPuschv1530), fields_semimPersistentOnPuschv1530, sources_semimPersistentOnPuschv1530, nullptr, 0)>(sizeof(semimPersistentOnPuschv1530), fields_semimPersistentOnPuschv1530, sources_semimPersistentOnPuschv1530, nullptr, 0);
 constexpr auto checks_semimPersistentOnPuschv1530 = records::checkOpsOf(fields_semimPersistentOnPuschv1530, nullptr, 0);
-constexpr RrcRecordType type_semimPersistentOnPuschv1530 = {"semimPersistentOnPuschv1530", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.semiPersistentOnPUSCH-v1530", "", &nr_rrc::type_CSI_ReportConfig_semiPersistentOnPUSCH_v1530, sizeof(semimPersistentOnPuschv1530), 0, 1, 0, 0, fields_semimPersistentOnPuschv1530, nullptr, nullptr, ops_semimPersistentOnPuschv1530.data(), static_cast<UINT16>(ops_semimPersistentOnPuschv1530.size()), checks_semimPersistentOnPuschv1530.data(), 13};
+constexpr RrcRecordType type_semimPersistentOnPuschv1530 = {"semimPersistentOnPuschv1530", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig.semiPersistentOnPUSCH-v1530", "", &nr_rrc::type_CSI_ReportConfig_semiPersistentOnPUSCH_v1530, sizeof(semimPersistentOnPuschv1530), 0, 1, 0, 0, fields_semimPersistentOnPuschv1530, nullptr, nullptr, checks_semimPersistentOnPuschv1530.data(), 13};
 
 constexpr RrcRecordField fields_RrcCsiReportCfg_t[] = {
     {"csiReportCfgId", {"reportConfigId", way_0, 1, &nr_rrc::type_CSI_ReportConfigId}, nullptr, nullptr, "", 0, 47, offsetof(RrcCsiReportCfg_t, csiReportCfgId), sizeof(RrcCsiReportCfg_t::csiReportCfgId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -6099,68 +4095,29 @@ constexpr RrcRecordChoice choices_RrcCsiReportCfg_t[] = {
     {{"reportConfigType", way_9, 1, &nr_rrc::type_CSI_ReportConfig_reportConfigType}, 6, 0, 4, options_RrcCsiReportCfg_t_0},
     {{"reportQuantity", way_10, 1, &nr_rrc::type_CSI_ReportConfig_reportQuantity}, 8, 0, 8, options_RrcCsiReportCfg_t_1},
 };
-constexpr RrcRecordSource sources_RrcCsiReportCfg_t[] = {
-    {offsetof(CSI_ReportConfig, reportConfigId), -1, 1, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig, carrier), 0, 1, 0, 1},
-    {offsetof(CSI_ReportConfig, resourcesForChannelMeasurement), -1, 1, 0, 1},
-    {offsetof(CSI_ReportConfig, csi_IM_ResourcesForInterference), 1, 1, 0, 1},
-    {offsetof(CSI_ReportConfig, nzp_CSI_RS_ResourcesForInterference), 2, 1, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig, reportConfigType), -1, 0, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig, reportQuantity), -1, 0, 0, 1},
-    {offsetof(CSI_ReportConfig, subbandSize), -1, 4, 0, 1},
-    {offsetof(CSI_ReportConfig, reportFreqConfiguration), 3, 0, 0, 1},
-    {offsetof(CSI_ReportConfig, timeRestrictionForChannelMeasurements), -1, 4, 0, 1},
-    {offsetof(CSI_ReportConfig, timeRestrictionForInterferenceMeasurements), -1, 4, 0, 1},
-    {},
-    {offsetof(CSI_ReportConfig, codebookConfig), 4, 0, 0, 1},
-    {offsetof(CSI_ReportConfig, dummy), 5, 4, 0, 1},
-    {offsetof(CSI_ReportConfig, groupBasedBeamReporting), -1, 0, 0, 1},
-    {offsetof(CSI_ReportConfig, cqi_Table), 6, 4, 0, 1},
-    {offsetof(CSI_ReportConfig, non_PMI_PortIndication), 7, 0, 0, 1},
-    {},
-};
-constexpr auto ops_RrcCsiReportCfg_t = records::opsOf<records::opCount(sizeof(RrcCsiReportCfg_t), fields_RrcCsiReportCfg_t, sources_RrcCsiReportCfg_t, bits_RrcCsiReportCfg_t, 22)>(sizeof(RrcCsiReportCfg_t), fields_RrcCsiReportCfg_t, sources_RrcCsiReportCfg_t, bits_RrcCsiReportCfg_t, 22);
 constexpr auto checks_RrcCsiReportCfg_t = records::checkOpsOf(fields_RrcCsiReportCfg_t, bits_RrcCsiReportCfg_t, 22);
-constexpr RrcRecordType type_RrcCsiReportCfg_t = {"RrcCsiReportCfg_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig", "", &nr_rrc::type_CSI_ReportConfig, sizeof(RrcCsiReportCfg_t), 0, 21, 22, 2, fields_RrcCsiReportCfg_t, bits_RrcCsiReportCfg_t, choices_RrcCsiReportCfg_t, ops_RrcCsiReportCfg_t.data(), static_cast<UINT16>(ops_RrcCsiReportCfg_t.size()), checks_RrcCsiReportCfg_t.data(), 12};
+constexpr RrcRecordType type_RrcCsiReportCfg_t = {"RrcCsiReportCfg_t", "rrcCodec/rrcCsiReport.h", "CSI-ReportConfig", "", &nr_rrc::type_CSI_ReportConfig, sizeof(RrcCsiReportCfg_t), 0, 21, 22, 2, fields_RrcCsiReportCfg_t, bits_RrcCsiReportCfg_t, choices_RrcCsiReportCfg_t, checks_RrcCsiReportCfg_t.data(), 12};
 
 constexpr RrcRecordField fields_nzpCsiRs_s[] = {
     {"resourceSet", {"resourceSet", way_0, 1, &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS_resourceSet}, nullptr, nullptr, "", 1, 16, offsetof(nzpCsiRs_s, resourceSet), sizeof(nzpCsiRs_s::resourceSet), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
     {"numQciInfo", {}, nullptr, nullptr, "0: no qcl-info", 0, 16, offsetof(nzpCsiRs_s, numQciInfo), sizeof(nzpCsiRs_s::numQciInfo), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"qciInfo", {"qcl-info", way_17, 2, &nr_rrc::type_TCI_StateId}, nullptr, nullptr, "TCI states", 0, 127, offsetof(nzpCsiRs_s, qciInfo), sizeof(nzpCsiRs_s::qciInfo[0]), sizeof(nzpCsiRs_s::qciInfo) / sizeof(nzpCsiRs_s::qciInfo[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_nzpCsiRs_s[] = {
-    {offsetof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, resourceSet), -1, 1, 0, 1},
-    {},
-    {offsetof(CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, qcl_info), 0, 0, 0, 1},
-};
-constexpr auto ops_nzpCsiRs_s = records::opsOf<records::opCount(sizeof(nzpCsiRs_s), fields_nzpCsiRs_s, sources_nzpCsiRs_s, nullptr, 0)>(sizeof(nzpCsiRs_s), fields_nzpCsiRs_s, sources_nzpCsiRs_s, nullptr, 0);
 constexpr auto checks_nzpCsiRs_s = records::checkOpsOf(fields_nzpCsiRs_s, nullptr, 0);
-constexpr RrcRecordType type_nzpCsiRs_s = {"nzpCsiRs_s", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo.resourcesForChannel.nzp-CSI-RS", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, sizeof(nzpCsiRs_s), 0, 3, 0, 0, fields_nzpCsiRs_s, nullptr, nullptr, ops_nzpCsiRs_s.data(), static_cast<UINT16>(ops_nzpCsiRs_s.size()), checks_nzpCsiRs_s.data(), 11};
+constexpr RrcRecordType type_nzpCsiRs_s = {"nzpCsiRs_s", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo.resourcesForChannel.nzp-CSI-RS", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS, sizeof(nzpCsiRs_s), 0, 3, 0, 0, fields_nzpCsiRs_s, nullptr, nullptr, checks_nzpCsiRs_s.data(), 11};
 
 constexpr RrcRecordField fields_csiSsbResourceSet_s[] = {
     {"csiImResourceSet", {"", nullptr, 0, &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet}, nullptr, nullptr, "not CSI-IM, despite the name", 1, 1, offsetof(csiSsbResourceSet_s, csiImResourceSet), sizeof(csiSsbResourceSet_s::csiImResourceSet), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_csiSsbResourceSet_s[] = {
-    {},
-};
-constexpr auto ops_csiSsbResourceSet_s = records::opsOf<records::opCount(sizeof(csiSsbResourceSet_s), fields_csiSsbResourceSet_s, sources_csiSsbResourceSet_s, nullptr, 0)>(sizeof(csiSsbResourceSet_s), fields_csiSsbResourceSet_s, sources_csiSsbResourceSet_s, nullptr, 0);
 constexpr auto checks_csiSsbResourceSet_s = records::checkOpsOf(fields_csiSsbResourceSet_s, nullptr, 0);
-constexpr RrcRecordType type_csiSsbResourceSet_s = {"csiSsbResourceSet_s", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo.resourcesForChannel.csi-SSB-ResourceSet", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet, sizeof(csiSsbResourceSet_s), 0, 1, 0, 0, fields_csiSsbResourceSet_s, nullptr, nullptr, ops_csiSsbResourceSet_s.data(), static_cast<UINT16>(ops_csiSsbResourceSet_s.size()), checks_csiSsbResourceSet_s.data(), 10};
+constexpr RrcRecordType type_csiSsbResourceSet_s = {"csiSsbResourceSet_s", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo.resourcesForChannel.csi-SSB-ResourceSet", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet, sizeof(csiSsbResourceSet_s), 0, 1, 0, 0, fields_csiSsbResourceSet_s, nullptr, nullptr, checks_csiSsbResourceSet_s.data(), 10};
 
 constexpr RrcRecordField fields_resourceForChannel_u[] = {
     {"nzpCsiRs", {"nzp-CSI-RS", way_0, 1, &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_nzp_CSI_RS}, &type_nzpCsiRs_s, nullptr, "", 0, 0, offsetof(resourceForChannel_u, nzpCsiRs), sizeof(resourceForChannel_u::nzpCsiRs), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
     {"csiSsbResourceSet", {"csi-SSB-ResourceSet", way_1, 1, &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel_csi_SSB_ResourceSet}, &type_csiSsbResourceSet_s, nullptr, "", 0, 0, offsetof(resourceForChannel_u, csiSsbResourceSet), sizeof(resourceForChannel_u::csiSsbResourceSet), 0, 0, RRC_FIELD_RECORD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_resourceForChannel_u[] = {
-    {},
-    {},
-};
-constexpr auto ops_resourceForChannel_u = records::opsOf<records::opCount(sizeof(resourceForChannel_u), fields_resourceForChannel_u, sources_resourceForChannel_u, nullptr, 0)>(sizeof(resourceForChannel_u), fields_resourceForChannel_u, sources_resourceForChannel_u, nullptr, 0);
 constexpr auto checks_resourceForChannel_u = records::checkOpsOf(fields_resourceForChannel_u, nullptr, 0);
-constexpr RrcRecordType type_resourceForChannel_u = {"resourceForChannel_u", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo.resourcesForChannel", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel, sizeof(resourceForChannel_u), 1, 2, 0, 0, fields_resourceForChannel_u, nullptr, nullptr, ops_resourceForChannel_u.data(), static_cast<UINT16>(ops_resourceForChannel_u.size()), checks_resourceForChannel_u.data(), RRC_NO_RECORD_NUMBER};
+constexpr RrcRecordType type_resourceForChannel_u = {"resourceForChannel_u", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo.resourcesForChannel", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel, sizeof(resourceForChannel_u), 1, 2, 0, 0, fields_resourceForChannel_u, nullptr, nullptr, checks_resourceForChannel_u.data(), RRC_NO_RECORD_NUMBER};
 
 constexpr RrcRecordField fields_RrcCsiAssociatedReportCfgInfo_t[] = {
     {"reportCfgId", {"reportConfigId", way_0, 1, &nr_rrc::type_CSI_ReportConfigId}, nullptr, nullptr, "", 0, 47, offsetof(RrcCsiAssociatedReportCfgInfo_t, reportCfgId), sizeof(RrcCsiAssociatedReportCfgInfo_t::reportCfgId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -6178,50 +4135,29 @@ constexpr RrcRecordOption options_RrcCsiAssociatedReportCfgInfo_t_0[] = {
 constexpr RrcRecordChoice choices_RrcCsiAssociatedReportCfgInfo_t[] = {
     {{"resourcesForChannel", way_1, 1, &nr_rrc::type_CSI_AssociatedReportConfigInfo_resourcesForChannel}, 1, 0, 2, options_RrcCsiAssociatedReportCfgInfo_t_0},
 };
-constexpr RrcRecordSource sources_RrcCsiAssociatedReportCfgInfo_t[] = {
-    {offsetof(CSI_AssociatedReportConfigInfo, reportConfigId), -1, 1, 0, 1},
-    {},
-    {offsetof(CSI_AssociatedReportConfigInfo, resourcesForChannel), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiAssociatedReportCfgInfo_t = records::opsOf<records::opCount(sizeof(RrcCsiAssociatedReportCfgInfo_t), fields_RrcCsiAssociatedReportCfgInfo_t, sources_RrcCsiAssociatedReportCfgInfo_t, bits_RrcCsiAssociatedReportCfgInfo_t, 2)>(sizeof(RrcCsiAssociatedReportCfgInfo_t), fields_RrcCsiAssociatedReportCfgInfo_t, sources_RrcCsiAssociatedReportCfgInfo_t, bits_RrcCsiAssociatedReportCfgInfo_t, 2);
 constexpr auto checks_RrcCsiAssociatedReportCfgInfo_t = records::checkOpsOf(fields_RrcCsiAssociatedReportCfgInfo_t, bits_RrcCsiAssociatedReportCfgInfo_t, 2);
-constexpr RrcRecordType type_RrcCsiAssociatedReportCfgInfo_t = {"RrcCsiAssociatedReportCfgInfo_t", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo, sizeof(RrcCsiAssociatedReportCfgInfo_t), 0, 3, 2, 1, fields_RrcCsiAssociatedReportCfgInfo_t, bits_RrcCsiAssociatedReportCfgInfo_t, choices_RrcCsiAssociatedReportCfgInfo_t, ops_RrcCsiAssociatedReportCfgInfo_t.data(), static_cast<UINT16>(ops_RrcCsiAssociatedReportCfgInfo_t.size()), checks_RrcCsiAssociatedReportCfgInfo_t.data(), 9};
+constexpr RrcRecordType type_RrcCsiAssociatedReportCfgInfo_t = {"RrcCsiAssociatedReportCfgInfo_t", "rrcCodec/rrcCsiMeas.h", "CSI-AssociatedReportConfigInfo", "", &nr_rrc::type_CSI_AssociatedReportConfigInfo, sizeof(RrcCsiAssociatedReportCfgInfo_t), 0, 3, 2, 1, fields_RrcCsiAssociatedReportCfgInfo_t, bits_RrcCsiAssociatedReportCfgInfo_t, choices_RrcCsiAssociatedReportCfgInfo_t, checks_RrcCsiAssociatedReportCfgInfo_t.data(), 9};
 
 constexpr RrcRecordField fields_RrcCsiAperiodicTriggerState_t[] = {
     {"numCfgInfo", {}, nullptr, nullptr, "", 1, 16, offsetof(RrcCsiAperiodicTriggerState_t, numCfgInfo), sizeof(RrcCsiAperiodicTriggerState_t::numCfgInfo), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"info", {"associatedReportConfigInfoList", way_16, 2, &nr_rrc::type_CSI_AssociatedReportConfigInfo}, &type_RrcCsiAssociatedReportCfgInfo_t, nullptr, "", 0, 0, offsetof(RrcCsiAperiodicTriggerState_t, info), sizeof(RrcCsiAperiodicTriggerState_t::info[0]), sizeof(RrcCsiAperiodicTriggerState_t::info) / sizeof(RrcCsiAperiodicTriggerState_t::info[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiAperiodicTriggerState_t[] = {
-    {},
-    {offsetof(CSI_AperiodicTriggerState, associatedReportConfigInfoList), -1, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiAperiodicTriggerState_t = records::opsOf<records::opCount(sizeof(RrcCsiAperiodicTriggerState_t), fields_RrcCsiAperiodicTriggerState_t, sources_RrcCsiAperiodicTriggerState_t, nullptr, 0)>(sizeof(RrcCsiAperiodicTriggerState_t), fields_RrcCsiAperiodicTriggerState_t, sources_RrcCsiAperiodicTriggerState_t, nullptr, 0);
 constexpr auto checks_RrcCsiAperiodicTriggerState_t = records::checkOpsOf(fields_RrcCsiAperiodicTriggerState_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiAperiodicTriggerState_t = {"RrcCsiAperiodicTriggerState_t", "rrcCodec/rrcCsiMeas.h", "CSI-AperiodicTriggerState", "", &nr_rrc::type_CSI_AperiodicTriggerState, sizeof(RrcCsiAperiodicTriggerState_t), 0, 2, 0, 0, fields_RrcCsiAperiodicTriggerState_t, nullptr, nullptr, ops_RrcCsiAperiodicTriggerState_t.data(), static_cast<UINT16>(ops_RrcCsiAperiodicTriggerState_t.size()), checks_RrcCsiAperiodicTriggerState_t.data(), 8};
+constexpr RrcRecordType type_RrcCsiAperiodicTriggerState_t = {"RrcCsiAperiodicTriggerState_t", "rrcCodec/rrcCsiMeas.h", "CSI-AperiodicTriggerState", "", &nr_rrc::type_CSI_AperiodicTriggerState, sizeof(RrcCsiAperiodicTriggerState_t), 0, 2, 0, 0, fields_RrcCsiAperiodicTriggerState_t, nullptr, nullptr, checks_RrcCsiAperiodicTriggerState_t.data(), 8};
 
 constexpr RrcRecordField fields_RrcCsiAperiodicTriggerStateList_t[] = {
     {"numState", {}, nullptr, nullptr, "with 0 the encoder refuses the list", 1, 128, offsetof(RrcCsiAperiodicTriggerStateList_t, numState), sizeof(RrcCsiAperiodicTriggerStateList_t::numState), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"state", {"", way_47, 1, &nr_rrc::type_CSI_AperiodicTriggerState}, &type_RrcCsiAperiodicTriggerState_t, nullptr, "", 0, 0, offsetof(RrcCsiAperiodicTriggerStateList_t, state), sizeof(RrcCsiAperiodicTriggerStateList_t::state[0]), sizeof(RrcCsiAperiodicTriggerStateList_t::state) / sizeof(RrcCsiAperiodicTriggerStateList_t::state[0]), 0, RRC_FIELD_RECORD, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiAperiodicTriggerStateList_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcCsiAperiodicTriggerStateList_t = records::opsOf<records::opCount(sizeof(RrcCsiAperiodicTriggerStateList_t), fields_RrcCsiAperiodicTriggerStateList_t, sources_RrcCsiAperiodicTriggerStateList_t, nullptr, 0)>(sizeof(RrcCsiAperiodicTriggerStateList_t), fields_RrcCsiAperiodicTriggerStateList_t, sources_RrcCsiAperiodicTriggerStateList_t, nullptr, 0);
 constexpr auto checks_RrcCsiAperiodicTriggerStateList_t = records::checkOpsOf(fields_RrcCsiAperiodicTriggerStateList_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiAperiodicTriggerStateList_t = {"RrcCsiAperiodicTriggerStateList_t", "rrcCodec/rrcCsiMeas.h", "CSI-AperiodicTriggerStateList", "", &nr_rrc::type_CSI_AperiodicTriggerStateList, sizeof(RrcCsiAperiodicTriggerStateList_t), 0, 2, 0, 0, fields_RrcCsiAperiodicTriggerStateList_t, nullptr, nullptr, ops_RrcCsiAperiodicTriggerStateList_t.data(), static_cast<UINT16>(ops_RrcCsiAperiodicTriggerStateList_t.size()), checks_RrcCsiAperiodicTriggerStateList_t.data(), 7};
+constexpr RrcRecordType type_RrcCsiAperiodicTriggerStateList_t = {"RrcCsiAperiodicTriggerStateList_t", "rrcCodec/rrcCsiMeas.h", "CSI-AperiodicTriggerStateList", "", &nr_rrc::type_CSI_AperiodicTriggerStateList, sizeof(RrcCsiAperiodicTriggerStateList_t), 0, 2, 0, 0, fields_RrcCsiAperiodicTriggerStateList_t, nullptr, nullptr, checks_RrcCsiAperiodicTriggerStateList_t.data(), 7};
 
 constexpr RrcRecordField fields_RrcCsiSemiPersistentOnPuschTriggerStateList_t[] = {
     {"numTriggeState", {}, nullptr, nullptr, "with 0 the encoder refuses the list", 1, 64, offsetof(RrcCsiSemiPersistentOnPuschTriggerStateList_t, numTriggeState), sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t::numTriggeState), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
     {"csiReportCfgId", {"[].associatedReportConfigInfo", way_64, 2, &nr_rrc::type_CSI_ReportConfigId}, nullptr, nullptr, "", 0, 47, offsetof(RrcCsiSemiPersistentOnPuschTriggerStateList_t, csiReportCfgId), sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t::csiReportCfgId[0]), sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t::csiReportCfgId) / sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t::csiReportCfgId[0]), 0, RRC_FIELD_NUMBER, 0, 0, 0, 0, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiSemiPersistentOnPuschTriggerStateList_t[] = {
-    {},
-    {},
-};
-constexpr auto ops_RrcCsiSemiPersistentOnPuschTriggerStateList_t = records::opsOf<records::opCount(sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t), fields_RrcCsiSemiPersistentOnPuschTriggerStateList_t, sources_RrcCsiSemiPersistentOnPuschTriggerStateList_t, nullptr, 0)>(sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t), fields_RrcCsiSemiPersistentOnPuschTriggerStateList_t, sources_RrcCsiSemiPersistentOnPuschTriggerStateList_t, nullptr, 0);
 constexpr auto checks_RrcCsiSemiPersistentOnPuschTriggerStateList_t = records::checkOpsOf(fields_RrcCsiSemiPersistentOnPuschTriggerStateList_t, nullptr, 0);
-constexpr RrcRecordType type_RrcCsiSemiPersistentOnPuschTriggerStateList_t = {"RrcCsiSemiPersistentOnPuschTriggerStateList_t", "rrcCodec/rrcCsiMeas.h", "CSI-SemiPersistentOnPUSCH-TriggerStateList", "", &nr_rrc::type_CSI_SemiPersistentOnPUSCH_TriggerStateList, sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t), 0, 2, 0, 0, fields_RrcCsiSemiPersistentOnPuschTriggerStateList_t, nullptr, nullptr, ops_RrcCsiSemiPersistentOnPuschTriggerStateList_t.data(), static_cast<UINT16>(ops_RrcCsiSemiPersistentOnPuschTriggerStateList_t.size()), checks_RrcCsiSemiPersistentOnPuschTriggerStateList_t.data(), 6};
+constexpr RrcRecordType type_RrcCsiSemiPersistentOnPuschTriggerStateList_t = {"RrcCsiSemiPersistentOnPuschTriggerStateList_t", "rrcCodec/rrcCsiMeas.h", "CSI-SemiPersistentOnPUSCH-TriggerStateList", "", &nr_rrc::type_CSI_SemiPersistentOnPUSCH_TriggerStateList, sizeof(RrcCsiSemiPersistentOnPuschTriggerStateList_t), 0, 2, 0, 0, fields_RrcCsiSemiPersistentOnPuschTriggerStateList_t, nullptr, nullptr, checks_RrcCsiSemiPersistentOnPuschTriggerStateList_t.data(), 6};
 
 constexpr RrcRecordField fields_RrcCsiMeasCfg_t[] = {
     {"numNzpCsiRsResourceAddMod", {}, nullptr, nullptr, "", 0, 192, offsetof(RrcCsiMeasCfg_t, numNzpCsiRsResourceAddMod), sizeof(RrcCsiMeasCfg_t::numNzpCsiRsResourceAddMod), 0, 0, RRC_FIELD_COUNT, 0, 0, 0, -1, -1, -1, -1},
@@ -6262,43 +4198,8 @@ constexpr RrcRecordBit bits_RrcCsiMeasCfg_t[] = {
     {"RRC_CSI_MEAS_CFG_APERIODIC_TRIGGER_STATE_LIST_PRESENCE", "", nullptr, {}, 28, 1, RRC_BIT_GUARDS, -1},
     {"RRC_CSI_MEAS_CFG_SEMI_PEISISTENT_ON_PUSCH_PRESENCE", "", nullptr, {}, 28, 2, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcCsiMeasCfg_t[] = {
-    {},
-    {offsetof(CSI_MeasConfig, nzp_CSI_RS_ResourceToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, nzp_CSI_RS_ResourceToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, nzp_CSI_RS_ResourceSetToAddModList), 2, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, nzp_CSI_RS_ResourceSetToReleaseList), 3, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_IM_ResourceToAddModList), 4, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_IM_ResourceToReleaseList), 5, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_IM_ResourceSetToAddModList), 6, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_IM_ResourceSetToReleaseList), 7, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_SSB_ResourceSetToAddModList), 8, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_SSB_ResourceSetToReleaseList), 9, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_ResourceConfigToAddModList), 10, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_ResourceConfigToReleaseList), 11, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_ReportConfigToAddModList), 12, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, csi_ReportConfigToReleaseList), 13, 0, 0, 1},
-    {},
-    {offsetof(CSI_MeasConfig, reportTriggerSize), 14, 1, 0, 1},
-    {offsetof(CSI_MeasConfig, aperiodicTriggerStateList), 15, 0, 0, 1},
-    {offsetof(CSI_MeasConfig, semiPersistentOnPUSCH_TriggerStateList), 16, 0, 0, 1},
-};
-constexpr auto ops_RrcCsiMeasCfg_t = records::opsOf<records::opCount(sizeof(RrcCsiMeasCfg_t), fields_RrcCsiMeasCfg_t, sources_RrcCsiMeasCfg_t, bits_RrcCsiMeasCfg_t, 3)>(sizeof(RrcCsiMeasCfg_t), fields_RrcCsiMeasCfg_t, sources_RrcCsiMeasCfg_t, bits_RrcCsiMeasCfg_t, 3);
 constexpr auto checks_RrcCsiMeasCfg_t = records::checkOpsOf(fields_RrcCsiMeasCfg_t, bits_RrcCsiMeasCfg_t, 3);
-constexpr RrcRecordType type_RrcCsiMeasCfg_t = {"RrcCsiMeasCfg_t", "rrcCodec/rrcCsiMeas.h", "CSI-MeasConfig", "", &nr_rrc::type_CSI_MeasConfig, sizeof(RrcCsiMeasCfg_t), 0, 32, 3, 0, fields_RrcCsiMeasCfg_t, bits_RrcCsiMeasCfg_t, nullptr, ops_RrcCsiMeasCfg_t.data(), static_cast<UINT16>(ops_RrcCsiMeasCfg_t.size()), checks_RrcCsiMeasCfg_t.data(), 5};
+constexpr RrcRecordType type_RrcCsiMeasCfg_t = {"RrcCsiMeasCfg_t", "rrcCodec/rrcCsiMeas.h", "CSI-MeasConfig", "", &nr_rrc::type_CSI_MeasConfig, sizeof(RrcCsiMeasCfg_t), 0, 32, 3, 0, fields_RrcCsiMeasCfg_t, bits_RrcCsiMeasCfg_t, nullptr, checks_RrcCsiMeasCfg_t.data(), 5};
 
 constexpr RrcRecordField fields_RrcServingCellCfg_t[] = {
     {"tagId", {"tag-Id", way_50, 1, &nr_rrc::type_TAG_Id}, nullptr, nullptr, "", 0, 3, offsetof(RrcServingCellCfg_t, tagId), sizeof(RrcServingCellCfg_t::tagId), 0, 0, RRC_FIELD_NUMBER, RRC_FIELD_ALWAYS_SENT, 0, 0, -1, -1, -1, -1},
@@ -6339,31 +4240,8 @@ constexpr RrcRecordBit bits_RrcServingCellCfg_t[] = {
     {"RRC_SERVING_CELL_PATH_LOSS_REF_LINK_PRESENCE", "", nullptr, {}, 1, 13, RRC_BIT_GUARDS, -1},
     {"RRC_SERVING_CELL_SERVING_CELL_MO_PRESENCE", "", nullptr, {}, 1, 14, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcServingCellCfg_t[] = {
-    {offsetof(ServingCellConfig, tag_Id), -1, 1, 0, 1},
-    {},
-    {offsetof(ServingCellConfig, tdd_UL_DL_ConfigurationDedicated), 0, 0, 0, 1},
-    {offsetof(ServingCellConfig, initialDownlinkBWP), 1, 0, 0, 1},
-    {},
-    {offsetof(ServingCellConfig, downlinkBWP_ToReleaseList), 2, 0, 0, 1},
-    {},
-    {offsetof(ServingCellConfig, downlinkBWP_ToAddModList), 3, 0, 0, 1},
-    {offsetof(ServingCellConfig, firstActiveDownlinkBWP_Id), 4, 1, 0, 1},
-    {offsetof(ServingCellConfig, bwp_InactivityTimer), 5, 4, 0, 1},
-    {offsetof(ServingCellConfig, defaultDownlinkBWP_Id), 6, 1, 0, 1},
-    {offsetof(ServingCellConfig, uplinkConfig), 7, 0, 0, 1},
-    {offsetof(ServingCellConfig, supplementaryUplink), 8, 0, 0, 1},
-    {offsetof(ServingCellConfig, pdcch_ServingCellConfig), 9, 0, 0, 1},
-    {offsetof(ServingCellConfig, pdsch_ServingCellConfig), 10, 0, 0, 1},
-    {offsetof(ServingCellConfig, csi_MeasConfig), 11, 0, 0, 1},
-    {offsetof(ServingCellConfig, sCellDeactivationTimer), 12, 4, 0, 1},
-    {offsetof(ServingCellConfig, dummy), 14, 4, 0, 1},
-    {offsetof(ServingCellConfig, pathlossReferenceLinking), 15, 4, 0, 1},
-    {offsetof(ServingCellConfig, servingCellMO), 16, 1, 0, 1},
-};
-constexpr auto ops_RrcServingCellCfg_t = records::opsOf<records::opCount(sizeof(RrcServingCellCfg_t), fields_RrcServingCellCfg_t, sources_RrcServingCellCfg_t, bits_RrcServingCellCfg_t, 15)>(sizeof(RrcServingCellCfg_t), fields_RrcServingCellCfg_t, sources_RrcServingCellCfg_t, bits_RrcServingCellCfg_t, 15);
 constexpr auto checks_RrcServingCellCfg_t = records::checkOpsOf(fields_RrcServingCellCfg_t, bits_RrcServingCellCfg_t, 15);
-constexpr RrcRecordType type_RrcServingCellCfg_t = {"RrcServingCellCfg_t", "rrcCodec/rrcServingCell.h", "ServingCellConfig", "The lists of downlink bandwidth parts are sent when their counts are not 0.", &nr_rrc::type_ServingCellConfig, sizeof(RrcServingCellCfg_t), 0, 20, 15, 0, fields_RrcServingCellCfg_t, bits_RrcServingCellCfg_t, nullptr, ops_RrcServingCellCfg_t.data(), static_cast<UINT16>(ops_RrcServingCellCfg_t.size()), checks_RrcServingCellCfg_t.data(), 4};
+constexpr RrcRecordType type_RrcServingCellCfg_t = {"RrcServingCellCfg_t", "rrcCodec/rrcServingCell.h", "ServingCellConfig", "The lists of downlink bandwidth parts are sent when their counts are not 0.", &nr_rrc::type_ServingCellConfig, sizeof(RrcServingCellCfg_t), 0, 20, 15, 0, fields_RrcServingCellCfg_t, bits_RrcServingCellCfg_t, nullptr, checks_RrcServingCellCfg_t.data(), 4};
 
 constexpr RrcRecordField fields_RrcSpCellCfg_t[] = {
     {"bitMask", {}, nullptr, nullptr, "", 0, 31, offsetof(RrcSpCellCfg_t, bitMask), sizeof(RrcSpCellCfg_t::bitMask), 0, 0, RRC_FIELD_MASK, 0, 0, 0, -1, -1, -1, -1},
@@ -6380,27 +4258,14 @@ constexpr RrcRecordBit bits_RrcSpCellCfg_t[] = {
     {"RRC_SPCELLCFG_THRESHOLD_PRESENCE", "", nullptr, {}, 0, 3, RRC_BIT_GUARDS, -1},
     {"RRC_SPCELLCFG_DEDICFG_PRESENCE", "", nullptr, {}, 0, 4, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcSpCellCfg_t[] = {
-    {},
-    {offsetof(SpCellConfig, servCellIndex), 0, 1, 0, 1},
-    {offsetof(SpCellConfig, reconfigurationWithSync), 1, 0, 0, 1},
-    {offsetof(SpCellConfig, rlf_TimersAndConstants), 2, 0, 0, 1},
-    {offsetof(SpCellConfig, rlmInSyncOutOfSyncThreshold), 3, 4, 0, 1},
-    {offsetof(SpCellConfig, spCellConfigDedicated), 4, 0, 0, 1},
-};
-constexpr auto ops_RrcSpCellCfg_t = records::opsOf<records::opCount(sizeof(RrcSpCellCfg_t), fields_RrcSpCellCfg_t, sources_RrcSpCellCfg_t, bits_RrcSpCellCfg_t, 5)>(sizeof(RrcSpCellCfg_t), fields_RrcSpCellCfg_t, sources_RrcSpCellCfg_t, bits_RrcSpCellCfg_t, 5);
 constexpr auto checks_RrcSpCellCfg_t = records::checkOpsOf(fields_RrcSpCellCfg_t, bits_RrcSpCellCfg_t, 5);
-constexpr RrcRecordType type_RrcSpCellCfg_t = {"RrcSpCellCfg_t", "rrcCodec/rrcSpCell.h", "SpCellConfig", "", &nr_rrc::type_SpCellConfig, sizeof(RrcSpCellCfg_t), 0, 6, 5, 0, fields_RrcSpCellCfg_t, bits_RrcSpCellCfg_t, nullptr, ops_RrcSpCellCfg_t.data(), static_cast<UINT16>(ops_RrcSpCellCfg_t.size()), checks_RrcSpCellCfg_t.data(), 3};
+constexpr RrcRecordType type_RrcSpCellCfg_t = {"RrcSpCellCfg_t", "rrcCodec/rrcSpCell.h", "SpCellConfig", "", &nr_rrc::type_SpCellConfig, sizeof(RrcSpCellCfg_t), 0, 6, 5, 0, fields_RrcSpCellCfg_t, bits_RrcSpCellCfg_t, nullptr, checks_RrcSpCellCfg_t.data(), 3};
 
 constexpr RrcRecordField fields_RrcSsbMtc_t[] = {
     {"padding", {}, nullptr, nullptr, "", 0, 0, offsetof(RrcSsbMtc_t, padding), sizeof(RrcSsbMtc_t::padding), 0, 0, RRC_FIELD_UNREAD, 0, 0, 0, -1, -1, -1, -1},
 };
-constexpr RrcRecordSource sources_RrcSsbMtc_t[] = {
-    {},
-};
-constexpr auto ops_RrcSsbMtc_t = records::opsOf<records::opCount(sizeof(RrcSsbMtc_t), fields_RrcSsbMtc_t, sources_RrcSsbMtc_t, nullptr, 0)>(sizeof(RrcSsbMtc_t), fields_RrcSsbMtc_t, sources_RrcSsbMtc_t, nullptr, 0);
 constexpr auto checks_RrcSsbMtc_t = records::checkOpsOf(fields_RrcSsbMtc_t, nullptr, 0);
-constexpr RrcRecordType type_RrcSsbMtc_t = {"RrcSsbMtc_t", "rrcCodec/rrcScell.h", "SCellConfig.smtc", "never sent", &nr_rrc::type_SSB_MTC, sizeof(RrcSsbMtc_t), 0, 1, 0, 0, fields_RrcSsbMtc_t, nullptr, nullptr, ops_RrcSsbMtc_t.data(), static_cast<UINT16>(ops_RrcSsbMtc_t.size()), checks_RrcSsbMtc_t.data(), 2};
+constexpr RrcRecordType type_RrcSsbMtc_t = {"RrcSsbMtc_t", "rrcCodec/rrcScell.h", "SCellConfig.smtc", "never sent", &nr_rrc::type_SSB_MTC, sizeof(RrcSsbMtc_t), 0, 1, 0, 0, fields_RrcSsbMtc_t, nullptr, nullptr, checks_RrcSsbMtc_t.data(), 2};
 
 constexpr RrcRecordField fields_RrcScellCfg_t[] = {
     {"scellIdx", {"sCellIndex", way_0, 1, &nr_rrc::type_SCellIndex}, nullptr, nullptr, "", 1, 31, offsetof(RrcScellCfg_t, scellIdx), sizeof(RrcScellCfg_t::scellIdx), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -6414,16 +4279,8 @@ constexpr RrcRecordBit bits_RrcScellCfg_t[] = {
     {"RRC_SCELLADDMOD_CELLDEDI_PRESENCE", "", nullptr, {}, 1, 1, RRC_BIT_GUARDS, -1},
     {"RRC_SCELLADDMOD_SMTC_PRESENCE", "", nullptr, {}, 1, 2, RRC_BIT_UNREAD, -1},
 };
-constexpr RrcRecordSource sources_RrcScellCfg_t[] = {
-    {offsetof(SCellConfig, sCellIndex), -1, 1, 0, 1},
-    {},
-    {offsetof(SCellConfig, sCellConfigCommon), 0, 0, 0, 1},
-    {offsetof(SCellConfig, sCellConfigDedicated), 1, 0, 0, 1},
-    {},
-};
-constexpr auto ops_RrcScellCfg_t = records::opsOf<records::opCount(sizeof(RrcScellCfg_t), fields_RrcScellCfg_t, sources_RrcScellCfg_t, bits_RrcScellCfg_t, 3)>(sizeof(RrcScellCfg_t), fields_RrcScellCfg_t, sources_RrcScellCfg_t, bits_RrcScellCfg_t, 3);
 constexpr auto checks_RrcScellCfg_t = records::checkOpsOf(fields_RrcScellCfg_t, bits_RrcScellCfg_t, 3);
-constexpr RrcRecordType type_RrcScellCfg_t = {"RrcScellCfg_t", "rrcCodec/rrcScell.h", "SCellConfig", "", &nr_rrc::type_SCellConfig, sizeof(RrcScellCfg_t), 0, 5, 3, 0, fields_RrcScellCfg_t, bits_RrcScellCfg_t, nullptr, ops_RrcScellCfg_t.data(), static_cast<UINT16>(ops_RrcScellCfg_t.size()), checks_RrcScellCfg_t.data(), 1};
+constexpr RrcRecordType type_RrcScellCfg_t = {"RrcScellCfg_t", "rrcCodec/rrcScell.h", "SCellConfig", "", &nr_rrc::type_SCellConfig, sizeof(RrcScellCfg_t), 0, 5, 3, 0, fields_RrcScellCfg_t, bits_RrcScellCfg_t, nullptr, checks_RrcScellCfg_t.data(), 1};
 
 constexpr RrcRecordField fields_RrcCellGroupCfg_t[] = {
     {"cellGroupId", {"cellGroupId", way_0, 1, &nr_rrc::type_CellGroupId}, nullptr, nullptr, "", 0, 3, offsetof(RrcCellGroupCfg_t, cellGroupId), sizeof(RrcCellGroupCfg_t::cellGroupId), 0, 0, RRC_FIELD_NUMBER, 0, 0, 0, -1, -1, -1, -1},
@@ -6447,25 +4304,8 @@ constexpr RrcRecordBit bits_RrcCellGroupCfg_t[] = {
     {"RRC_CELLGROUPCFG_SPCELL_PRESENCE", "", nullptr, {}, 5, 2, RRC_BIT_GUARDS, -1},
     {"RRC_CELLGROUPCFG_REPORT_PRESENCE", "", nullptr, {}, 5, 3, RRC_BIT_GUARDS, -1},
 };
-constexpr RrcRecordSource sources_RrcCellGroupCfg_t[] = {
-    {offsetof(CellGroupConfig, cellGroupId), -1, 1, 0, 1},
-    {},
-    {offsetof(CellGroupConfig, rlc_BearerToAddModList), 0, 0, 0, 1},
-    {},
-    {offsetof(CellGroupConfig, rlc_BearerToReleaseList), 1, 0, 0, 1},
-    {},
-    {offsetof(CellGroupConfig, mac_CellGroupConfig), 2, 0, 0, 1},
-    {offsetof(CellGroupConfig, physicalCellGroupConfig), 3, 0, 0, 1},
-    {offsetof(CellGroupConfig, spCellConfig), 4, 0, 0, 1},
-    {},
-    {offsetof(CellGroupConfig, sCellToAddModList), 5, 0, 0, 1},
-    {},
-    {offsetof(CellGroupConfig, sCellToReleaseList), 6, 0, 0, 1},
-    {},
-};
-constexpr auto ops_RrcCellGroupCfg_t = records::opsOf<records::opCount(sizeof(RrcCellGroupCfg_t), fields_RrcCellGroupCfg_t, sources_RrcCellGroupCfg_t, bits_RrcCellGroupCfg_t, 4)>(sizeof(RrcCellGroupCfg_t), fields_RrcCellGroupCfg_t, sources_RrcCellGroupCfg_t, bits_RrcCellGroupCfg_t, 4);
 constexpr auto checks_RrcCellGroupCfg_t = records::checkOpsOf(fields_RrcCellGroupCfg_t, bits_RrcCellGroupCfg_t, 4);
-constexpr RrcRecordType type_RrcCellGroupCfg_t = {"RrcCellGroupCfg_t", "rrcCodec/rrcCodec.h", "CellGroupConfig", "A list is sent when its count is not 0; a count beyond its array makes the call fail, except sCellAddModNum, which is cut. The record takes some 10 MB: keep it off the stack, and initialise it with rrcInit (rrcInit.h) before filling in what the UE gets.", &nr_rrc::type_CellGroupConfig, sizeof(RrcCellGroupCfg_t), 0, 14, 4, 0, fields_RrcCellGroupCfg_t, bits_RrcCellGroupCfg_t, nullptr, ops_RrcCellGroupCfg_t.data(), static_cast<UINT16>(ops_RrcCellGroupCfg_t.size()), checks_RrcCellGroupCfg_t.data(), 0};
+constexpr RrcRecordType type_RrcCellGroupCfg_t = {"RrcCellGroupCfg_t", "rrcCodec/rrcCodec.h", "CellGroupConfig", "A list is sent when its count is not 0; a count beyond its array makes the call fail, except sCellAddModNum, which is cut. The record takes some 10 MB: keep it off the stack, and initialise it with rrcInit (rrcInit.h) before filling in what the UE gets.", &nr_rrc::type_CellGroupConfig, sizeof(RrcCellGroupCfg_t), 0, 14, 4, 0, fields_RrcCellGroupCfg_t, bits_RrcCellGroupCfg_t, nullptr, checks_RrcCellGroupCfg_t.data(), 0};
 
 } // namespace
 

@@ -62,6 +62,12 @@ class Grammar(unittest.TestCase):
         self.assertEqual(result.returncode, 1)
         self.assertIn("Records/Src/recordTypes.cpp is not what the headers say: run scripts/records.py", result.stderr)
 
+    def test_other_code_is_stale(self):
+        self.changed("Records/Src/recordFill.cpp", "void fillCellGroup(", "static void fillCellGroup(")
+        result = self.run_script()
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("Records/Src/recordFill.cpp is not what the headers say: run scripts/records.py", result.stderr)
+
     def test_free_text_is_free(self):
         self.changed(MAC, "/**< shortDRX */", "/**< shortDRX; whatever. There is to say, 1..2: 3 */")
         self.assertNotIn("Common/Inc", self.run_script().stderr)
