@@ -1,7 +1,5 @@
 #include "check.h"
 
-#include "rtxLine.h"
-
 namespace rules
 {
 
@@ -62,20 +60,7 @@ void Check::writeIds(char* text, size_t size, OSUINT32* numbers, OSUINT32 count)
 {
     std::sort(numbers, numbers + count);
     rtx::Line line(text, size);
-    for (OSUINT32 i = 0; i < count;)
-    {
-        OSUINT32 last = i;
-        while (last + 1 < count && numbers[last + 1] <= numbers[last] + 1)
-        {
-            ++last;
-        }
-        rtx::append(line, "%s%u", i == 0 ? "" : ", ", numbers[i]);
-        if (numbers[last] != numbers[i])
-        {
-            rtx::append(line, "%s%u", numbers[last] == numbers[i] + 1 ? ", " : "..", numbers[last]);
-        }
-        i = last + 1;
-    }
+    appendRuns(line, {numbers, count});
 }
 
 } // namespace rules

@@ -2,8 +2,6 @@
 
 #include "counterparts.h"
 
-#include "rtxLine.h"
-
 #include <algorithm>
 
 namespace rules
@@ -72,27 +70,10 @@ void describe(rtx::Line& line, const RtxType& type, const void* value)
     }
 }
 
-RrcRuleStep named(const char* name)
-{
-    return {name, 0, nullptr, 0};
-}
-
 // A structure that is nothing but its first member is at the same place.
 bool isWrapper(const RtxType& type)
 {
     return type.kind == rtx::Kind::Sequence && type.memberCount == 1 && type.members[0].type->size == type.size;
-}
-
-RrcRuleStep elementStep(const RtxType& listType, OSUINT32 index, const void* element)
-{
-    RrcRuleStep step = {nullptr, index, nullptr, 0};
-    if (listType.identity >= 0)
-    {
-        const rtx::Member& member = listType.element().members[listType.identity];
-        step.identity = listType.element().names[listType.identity];
-        step.id = rtx::loadNumber(*member.type, static_cast<const OSOCTET*>(element) + member.offset);
-    }
-    return step;
 }
 
 } // namespace
@@ -254,17 +235,7 @@ void Places::array(const RtxType& type, const void* array, bool inMessage, const
 void Places::tellOne(const Finding& finding, const RtxType& type, bool present, bool inMessage, const Place* place)
 {
     ++told_;
-    RrcRuleStep path[RTX_MAX_DEPTH];
-    OSUINT32 depth = 0;
-    for (const Place* p = place; p != nullptr; p = p->outer)
-    {
-        depth += depth < RTX_MAX_DEPTH ? 1 : 0;
-    }
-    OSUINT32 i = depth;
-    for (const Place* p = place; p != nullptr && i != 0; p = p->outer)
-    {
-        path[--i] = p->step;
-    }
+    const Path path(place);
     char text[320];
     rtx::Line line(text, sizeof text);
     present ? describe(line, type, finding.at) : rtx::append(line, "absent");
@@ -278,8 +249,8 @@ void Places::tellOne(const Finding& finding, const RtxType& type, bool present, 
     told.clause = finding.rule->clause;
     told.value = finding.at;
     told.configuredBefore = inMessage ? 0 : 1;
-    told.depth = depth;
-    told.path = path;
+    told.depth = path.depth;
+    told.path = path.steps;
     ended_ = sink_(arg_, &told) != 0;
 }
 

@@ -3,7 +3,7 @@
 #define RULES_FINDING_H
 
 #include "memory.h"
-#include "rrcRules.h"
+#include "path.h"
 #include "tree.h"
 
 namespace rules
@@ -38,13 +38,6 @@ public:
     void tellUndecided(const RrcRule& rule, OSUINT32 inputs);
 
 private:
-    // Where the walk stands: a step and the one around it.
-    struct Place
-    {
-        const Place* outer;
-        RrcRuleStep step;
-    };
-
     void look(const RtxType& type, const void* value, bool present, bool inMessage, const Place* place);
     void walk(const RtxType& type, const void* value, const void* sent, const Place* place);
     void member(const RtxType& type, unsigned number, const void* structure, const void* sent, const Place* place);

@@ -1,5 +1,7 @@
 #include "model.h"
 
+#include "rtxDelta.h"
+
 namespace rules
 {
 namespace
@@ -23,6 +25,21 @@ const FreqBandIndicatorNR* firstBand(const MultiFrequencyBandListNR* list)
 }
 
 } // namespace
+
+const CellGroupConfig* stateAfter(OSCTXT& ctxt, const CellGroupConfig& message, const RrcRuleContext& known,
+                                  int& status)
+{
+    if (known.previous == nullptr || known.fullConfig != 0)
+    {
+        return &message;
+    }
+    void* const state = rtx::allocateFor(ctxt, sizeof message);
+    // What an entry lacks is for the rules to say.
+    status = state == nullptr
+                 ? int{RTX_E_HEAP}
+                 : rtx::apply(ctxt, *asn1Type_CellGroupConfig(), known.previous, &message, state, {.incomplete = true});
+    return status == RTX_OK ? static_cast<const CellGroupConfig*>(state) : nullptr;
+}
 
 Known<OSUINT32> Bwp::mu() const
 {

@@ -235,6 +235,10 @@ struct Channel
     const LogicalChannelConfig_ul_SpecificParameters* uplink; // null where absent
 };
 
+// What the message leads to, in the context's heap; null where it cannot be applied, with `status`.
+const CellGroupConfig* stateAfter(OSCTXT& ctxt, const CellGroupConfig& message, const RrcRuleContext& known,
+                                  int& status);
+
 class Model
 {
 public:

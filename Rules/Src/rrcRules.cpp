@@ -1,6 +1,5 @@
 #include "rrcRules.h"
 
-#include "rtxDelta.h"
 #include "rules.h"
 
 #include <string_view>
@@ -142,22 +141,6 @@ private:
     OSUINT32 kinds_ = 0;
 };
 
-// What the message leads to; null where it cannot be applied, with `status`.
-const CellGroupConfig* stateAfter(OSCTXT& ctxt, const CellGroupConfig& message, const RrcRuleContext& known,
-                                  int& status)
-{
-    if (known.previous == nullptr || known.fullConfig != 0)
-    {
-        return &message;
-    }
-    void* const state = rtx::allocateFor(ctxt, sizeof message);
-    // What an entry lacks is for the rules to say.
-    status = state == nullptr
-                 ? int{RTX_E_HEAP}
-                 : rtx::apply(ctxt, *asn1Type_CellGroupConfig(), known.previous, &message, state, {.incomplete = true});
-    return status == RTX_OK ? static_cast<const CellGroupConfig*>(state) : nullptr;
-}
-
 int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext& known,
               int (*wanted)(void* arg, const RrcRule* rule), RrcRuleSink sink, void* arg)
 {
@@ -217,26 +200,6 @@ int64_t check(OSCTXT& ctxt, const CellGroupConfig& element, const RrcRuleContext
     return told;
 }
 
-void appendPath(rtx::Line& line, const RrcRuleFinding& finding)
-{
-    rtx::append(line, "CellGroupConfig");
-    for (const RrcRuleStep& step : std::span(finding.path, finding.depth))
-    {
-        if (step.name != nullptr)
-        {
-            rtx::append(line, ".%s", step.name);
-        }
-        else if (step.identity == nullptr)
-        {
-            rtx::append(line, "[%u]", step.index);
-        }
-        else
-        {
-            rtx::append(line, "[%u: %s %" PRId64 "]", step.index, step.identity, step.id);
-        }
-    }
-}
-
 } // namespace
 } // namespace rules
 
@@ -261,7 +224,7 @@ int64_t rrcCheckRules(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRul
 size_t rrcRulePathFormat(const RrcRuleFinding* finding, char* text, size_t size)
 {
     rtx::Line line(text, size);
-    rules::appendPath(line, *finding);
+    rules::appendPath(line, {finding->path, finding->depth});
     return line.length;
 }
 
@@ -269,7 +232,7 @@ size_t rrcRuleFindingFormat(const RrcRuleFinding* finding, char* text, size_t si
 {
     rtx::Line line(text, size);
     rtx::append(line, "%s: ", rrcRuleSeverityName(finding->severity));
-    rules::appendPath(line, *finding);
+    rules::appendPath(line, {finding->path, finding->depth});
     rtx::append(line, ": %s%s%s [%s]", finding->found, finding->allowed[0] == '\0' ? "" : ", but ", finding->allowed,
                 finding->rule);
     return line.length;
