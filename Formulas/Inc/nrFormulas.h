@@ -186,6 +186,14 @@ int nrPuschDefaultRow(uint32_t mu, int extendedPrefix, uint32_t row, uint32_t* k
 // numbers of symbols than 4..14.
 uint32_t nrPucchF1Sequences(uint32_t symbols, int hopping);
 
+// PUCCH formats 3 and 4: symbols of DM-RS (TS 38.211 table 6.4.1.3.3.2-1); 0 for other numbers of symbols than 4..14.
+uint32_t nrPucchDmrsSymbols(uint32_t symbols, int hopping, int additional);
+// Resource elements that UCI takes in PUCCH formats 2, 3 and 4 (TS 38.213 9.2.5.2), `dmrs` symbols of DM-RS apart;
+// `occ` is the length of the orthogonal sequence of format 4. 0 for other formats.
+uint32_t nrPucchElements(uint32_t format, uint32_t rbs, uint32_t symbols, uint32_t dmrs, uint32_t occ);
+// Bits of UCI with their CRC that so many resource elements carry: `qm` bits each, code rate in hundredths.
+uint32_t nrPucchBits(uint32_t elements, uint32_t qm, uint32_t rate);
+
 // Whether PUCCH formats 3 and 4 can have so many resource blocks (TS 38.213 9.2.3): 2^a 3^b 5^c.
 int nrIsDftSize(uint32_t rbs);
 
@@ -233,6 +241,8 @@ typedef struct NrBand
 
 // Null where Release 15 has no band of the number.
 const NrBand* nrBand(uint32_t number);
+// All of them in the order of their numbers: null behind the last.
+const NrBand* nrBandAt(uint32_t index);
 
 // ARFCN-ValueNR (TS 38.104 5.4.2.1): kHz; 0 above 3279165. The global raster counts steps of 5, 15 and 60 kHz.
 uint32_t nrArfcnKhz(uint32_t arfcn);

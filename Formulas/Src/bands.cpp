@@ -129,6 +129,11 @@ const NrBand* nrBand(uint32_t number)
     return nullptr;
 }
 
+const NrBand* nrBandAt(uint32_t index)
+{
+    return index < sizeof bands / sizeof bands[0] ? &bands[index] : nullptr;
+}
+
 uint32_t nrArfcnKhz(uint32_t arfcn)
 {
     constexpr uint32_t last = 3279165;

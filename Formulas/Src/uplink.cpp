@@ -57,6 +57,31 @@ uint32_t nrPucchF1Sequences(uint32_t symbols, int hopping)
     return hopping != 0 ? symbols / 2 / 2 : symbols / 2;
 }
 
+uint32_t nrPucchDmrsSymbols(uint32_t symbols, int hopping, int additional)
+{
+    if (symbols < 4 || symbols > NR_SYMBOLS)
+    {
+        return 0;
+    }
+    return symbols == 4 && hopping == 0 ? 1 : symbols >= 10 && additional != 0 ? 4 : 2;
+}
+
+uint32_t nrPucchElements(uint32_t format, uint32_t rbs, uint32_t symbols, uint32_t dmrs, uint32_t occ)
+{
+    constexpr uint32_t subcarriers = 12;
+    constexpr uint32_t ofDmrs = 4; // each third one in format 2
+    const uint32_t left = symbols > dmrs ? symbols - dmrs : 0;
+    return format == 2                                         ? rbs * (subcarriers - ofDmrs) * symbols
+           : format == 3                                       ? rbs * subcarriers * left
+           : format == 4 && occ != 0 && subcarriers % occ == 0 ? subcarriers / occ * left
+                                                               : 0;
+}
+
+uint32_t nrPucchBits(uint32_t elements, uint32_t qm, uint32_t rate)
+{
+    return elements * qm * rate / 100;
+}
+
 int nrIsDftSize(uint32_t rbs)
 {
     if (rbs == 0)
