@@ -1,0 +1,134 @@
+// Periods and offsets.
+#include "teller.h"
+
+namespace rules::explain
+{
+namespace
+{
+
+// A choice whose alternatives are named by their period and hold the offset, or nothing: sl10, slots4, sf20, ms320.
+struct Recurring
+{
+    OSUINT32 period;
+    OSUINT32 offset;
+    bool hasOffset;
+};
+
+Recurring recurring(const Teller& t)
+{
+    const bool hasOffset = t.type.kind == rtx::Kind::Integer;
+    return {namedNumber(t.name).number, hasOffset ? t.natural() : 0, hasOffset};
+}
+
+void slots(Teller& t)
+{
+    const Recurring r = recurring(t);
+    rtx::append(t.text(), r.period == 1 ? "every slot" : "every %u slots", r.period);
+    appendSlotsInMs(t, r.period);
+    if (r.hasOffset)
+    {
+        rtx::append(t.text(), ", from slot %u on", r.offset);
+        if (const Known<OSUINT32> mu = t.scope.mu())
+        {
+            rtx::append(t.text(), " (");
+            appendDecimal(t.text(), (int64_t{r.offset} * 10000) >> *mu, 4);
+            rtx::append(t.text(), " ms)");
+        }
+    }
+}
+
+void schedulingRequest(Teller& t)
+{
+    if (std::strcmp(t.name, "sym2") == 0)
+    {
+        rtx::append(t.text(), "every 2 symbols");
+        return;
+    }
+    if (std::strcmp(t.name, "sym6or7") == 0)
+    {
+        rtx::append(t.text(), "every %u symbols", t.scope.symbols() / 2);
+        rtx::append(t.formula(), "half a slot: 7 symbols with normal cyclic prefix, 6 with extended");
+        return;
+    }
+    slots(t);
+}
+
+void subframes(Teller& t)
+{
+    const Recurring r = recurring(t);
+    rtx::append(t.text(), "every %u ms, from subframe %u on", r.period, r.offset);
+    rtx::append(t.formula(), "a subframe takes 1 ms");
+}
+
+void longCycle(Teller& t)
+{
+    const Recurring r = recurring(t);
+    rtx::append(t.text(), "a cycle of %u ms, from subframe %u on", r.period, r.offset);
+    rtx::append(t.formula(), "(10 * SFN + subframe) modulo %u = %u", r.period, r.offset);
+}
+
+void semiPersistentReport(Teller& t)
+{
+    const OSUINT32 period = namedNumber(t.type.names[t.natural()]).number;
+    rtx::append(t.text(), "every %u slots", period);
+    appendSlotsInMs(t, period);
+}
+
+void timeDomainOffset(Teller& t)
+{
+    rtx::append(t.text(), "slot %u from SFN 0 on", t.natural());
+    appendSlotsInMs(t, t.natural());
+}
+
+// sym2, sym7, sym5x14: symbols, or slots of so many.
+void grantPeriod(Teller& t)
+{
+    const char* const name = t.type.names[t.natural()];
+    OSUINT32 count = 0;
+    OSUINT32 each = 0;
+    const int read = std::sscanf(name, "sym%ux%u", &count, &each);
+    if (read == 1)
+    {
+        rtx::append(t.text(), "every %u symbols", count);
+    }
+    if (read == 2)
+    {
+        rtx::append(t.text(), "every %u slot%s of %u symbols", count, rtx::plural(count), each);
+        appendSlotsInMs(t, count);
+    }
+}
+
+void grantTimer(Teller& t, const ConfiguredGrantConfig& grant)
+{
+    rtx::append(t.text(), "%u period%s", t.natural(), rtx::plural(t.number()));
+    OSUINT32 count = 0;
+    OSUINT32 each = 0;
+    const RtxType& type = nr_rrc::type_ConfiguredGrantConfig_periodicity;
+    if (rtx::outside(type, grant.periodicity).status == RTX_OK &&
+        std::sscanf(type.names[grant.periodicity], "sym%ux%u", &count, &each) == 2)
+    {
+        rtx::append(t.text(), ", %u slots", count * t.natural());
+        appendSlotsInMs(t, count * t.natural());
+    }
+}
+
+constexpr Meaning periodRows[] = {
+    MEANING_EACH(SearchSpace_monitoringSlotPeriodicityAndOffset, "TS 38.213 10.1", slots),
+    MEANING_EACH(SchedulingRequestResourceConfig_periodicityAndOffset, "TS 38.213 9.2.4", schedulingRequest),
+    MEANING_EACH(SRS_PeriodicityAndOffset, "TS 38.211 6.4.1.4.4", slots),
+    MEANING_EACH(CSI_ResourcePeriodicityAndOffset, "TS 38.211 7.4.1.5.3", slots),
+    MEANING_EACH(CSI_ReportPeriodicityAndOffset, "TS 38.214 5.2.1.4", slots),
+    MEANING_AT(CSI_ReportConfig_reportConfigType_semiPersistentOnPUSCH, reportSlotConfig, "TS 38.214 5.2.1.4",
+               semiPersistentReport),
+    MEANING_EACH(SSB_MTC_periodicityAndOffset, "TS 38.331 5.5.2.10", subframes),
+    MEANING_EACH(DRX_Config_drx_LongCycleStartOffset, "TS 38.321 5.7", longCycle),
+    MEANING_AT(ConfiguredGrantConfig, periodicity, "TS 38.321 5.8.2", grantPeriod),
+    MEANING_OF(ConfiguredGrantConfig, configuredGrantTimer, "TS 38.331 ConfiguredGrantConfig", grantTimer),
+    MEANING_AT(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, timeDomainOffset, "TS 38.321 5.8.2", timeDomainOffset),
+};
+
+} // namespace
+
+const Meanings periodMeanings = meaningsOf(periodRows);
+
+} // namespace rules::explain
