@@ -23,8 +23,7 @@ void locationAndBandwidth(Teller& t, const BWP& bwp)
         rtx::append(t.text(), "no resource blocks: the value of no S and L");
         return;
     }
-    rtx::append(t.text(), "PRBs ");
-    appendSpan(t.text(), span);
+    appendSpan(t.text(), "PRB", span);
     rtx::append(t.text(), " from the carrier's first");
     if (const OSUINT32 khz = khzOf(muOf(bwp.subcarrierSpacing)); khz != 0)
     {
@@ -39,8 +38,8 @@ void locationAndBandwidth(Teller& t, const BWP& bwp)
     }
     if (const auto carrier = t.model.carrier(*t.scope.bwp); t.has(carrier, "the carrier") && *carrier != nullptr)
     {
-        rtx::append(t.text(), ", common resource blocks ");
-        appendSpan(t.text(), {(*carrier)->offsetToCarrier + span.start, span.size});
+        rtx::append(t.text(), ", ");
+        appendSpan(t.text(), "common resource block", {(*carrier)->offsetToCarrier + span.start, span.size});
         rtx::append(t.formula(), "; offsetToCarrier %u", OSUINT32{(*carrier)->offsetToCarrier});
     }
 }
@@ -53,8 +52,7 @@ void startSymbolAndLength(Teller& t)
         rtx::append(t.text(), "no symbols: the value of no S and L of a slot");
         return;
     }
-    rtx::append(t.text(), "symbols ");
-    appendSpan(t.text(), span);
+    appendSpan(t.text(), "symbol", span);
     appendIndicator(t.formula(), "SLIV", t.natural(), span, NR_SYMBOLS);
 }
 

@@ -53,21 +53,20 @@ void csiRsAllocation(Teller& t)
         rtx::append(t.text(), "no row of the table has these bits, ports, CDM type and density");
         return;
     }
-    rtx::append(t.text(), "row %u: %u port%s, density %s, %s, symbols ", row->row, row->ports, rtx::plural(row->ports),
+    rtx::append(t.text(), "row %u: %u port%s, density %s, %s, ", row->row, row->ports, rtx::plural(row->ports),
                 densityName(mapping), cdmName(row->cdm));
-    appendSpan(t.text(), {mapping.firstOFDMSymbolInTimeDomain, row->symbols});
+    appendSpan(t.text(), "symbol", {mapping.firstOFDMSymbolInTimeDomain, row->symbols});
     if (row->secondSymbols != 0 && mapping.m.firstOFDMSymbolInTimeDomain2Present != 0)
     {
         rtx::append(t.text(), " and ");
-        appendSpan(t.text(), {mapping.firstOFDMSymbolInTimeDomain2, row->secondSymbols});
+        appendSpan(t.text(), "symbol", {mapping.firstOFDMSymbolInTimeDomain2, row->secondSymbols});
     }
     appendSubcarriers(t, row->branch);
 }
 
 void occupation(Teller& t, const CSI_FrequencyOccupation& band)
 {
-    rtx::append(t.text(), "common resource blocks ");
-    appendSpan(t.text(), {t.natural(), band.nrofRBs});
+    appendSpan(t.text(), "common resource block", {t.natural(), band.nrofRBs});
     if (t.scope.bwp == nullptr)
     {
         return;
@@ -75,9 +74,8 @@ void occupation(Teller& t, const CSI_FrequencyOccupation& band)
     if (const Known<NrSpan> left = csiBand(t.model, *t.scope.bwp, band);
         t.has(left, "the bandwidth part's first common resource block"))
     {
-        left->size == 0 ? rtx::append(t.text(), ", none of the bandwidth part")
-                        : rtx::append(t.text(), ", of the bandwidth part ");
-        left->size == 0 ? void() : appendSpan(t.text(), *left);
+        rtx::append(t.text(), left->size == 0 ? ", none of them in the bandwidth part" : ", in the bandwidth part ");
+        left->size == 0 ? void() : appendSpan(t.text(), "common resource block", *left);
     }
 }
 
@@ -93,8 +91,7 @@ void symbols1(Teller& t)
 
 void subcarriersFrom(Teller& t, OSUINT32 count)
 {
-    rtx::append(t.text(), "subcarriers ");
-    appendSpan(t.text(), {namedNumber(t.type.names[t.natural()]).number, count});
+    appendSpan(t.text(), "subcarrier", {namedNumber(t.type.names[t.natural()]).number, count});
 }
 
 void subcarriers0(Teller& t)

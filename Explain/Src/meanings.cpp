@@ -39,14 +39,14 @@ const Meaning* meaningOf(const RtxType& holder, int64_t offset, const RtxType& t
     return held != nullptr ? held : find(type, -1);
 }
 
-void appendSpan(rtx::Line& line, NrSpan span)
+void appendSpan(rtx::Line& line, const char* what, NrSpan span)
 {
     if (span.size == 1)
     {
-        rtx::append(line, "%u", span.start);
+        rtx::append(line, "%s %u", what, span.start);
         return;
     }
-    rtx::append(line, "%u..%u (%u)", span.start, span.start + span.size - 1, span.size);
+    rtx::append(line, "%ss %u..%u (%u)", what, span.start, span.start + span.size - 1, span.size);
 }
 
 void appendBits(Teller& t, OSUINT32 count)

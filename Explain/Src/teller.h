@@ -213,8 +213,8 @@ const Meaning* unitMeaningOf(const RtxType& type, OSUINT32 value);
 // PUCCH-MaxCodeRate in hundredths; 0 of what is none.
 OSUINT32 pucchRate(OSUINT32 value);
 
-// "0..3 (4)"; "5" of one.
-void appendSpan(rtx::Line& line, NrSpan span);
+// "PRBs 0..3 (4)"; "PRB 5" of one.
+void appendSpan(rtx::Line& line, const char* what, NrSpan span);
 // "0..3, 7" of the bits that are set.
 void appendBits(Teller& t, OSUINT32 count);
 // "0.5": `value` units of 10^-digits, without zeros at its end.

@@ -17,8 +17,7 @@ OSUINT32 rbsOf(const Tree& tree, const PUCCH_Resource& resource)
 
 void startingPrb(Teller& t, const PUCCH_Resource& resource)
 {
-    rtx::append(t.text(), "PRBs ");
-    appendSpan(t.text(), {t.natural(), rbsOf(t.tree, resource)});
+    appendSpan(t.text(), "PRB", {t.natural(), rbsOf(t.tree, resource)});
     rtx::append(t.text(), " of the bandwidth part%s",
                 resource.m.intraSlotFrequencyHoppingPresent != 0 ? ", before the hop" : "");
 }
@@ -30,16 +29,14 @@ void secondHopPrb(Teller& t, const PUCCH_Resource& resource)
         rtx::append(t.text(), "not used without intraSlotFrequencyHopping");
         return;
     }
-    rtx::append(t.text(), "PRBs ");
-    appendSpan(t.text(), {t.natural(), rbsOf(t.tree, resource)});
+    appendSpan(t.text(), "PRB", {t.natural(), rbsOf(t.tree, resource)});
     rtx::append(t.text(), " of the bandwidth part, behind the hop");
 }
 
 template <typename Format>
 void pucchSymbols(Teller& t, const Format& format)
 {
-    rtx::append(t.text(), "symbols ");
-    appendSpan(t.text(), {t.natural(), format.nrofSymbols});
+    appendSpan(t.text(), "symbol", {t.natural(), format.nrofSymbols});
     if (t.natural() + format.nrofSymbols > t.scope.symbols())
     {
         rtx::append(t.text(), ", beyond the slot's last");
@@ -159,8 +156,7 @@ void srsPosition(Teller& t, const SRS_Resource& resource)
     const NrSpan span = nrSrsSpan(hopping.c_SRS, hopping.b_SRS, hopping.b_hop, t.natural());
     if (span.size != 0)
     {
-        rtx::append(t.text(), "PRBs ");
-        appendSpan(t.text(), {resource.freqDomainShift + span.start, span.size});
+        appendSpan(t.text(), "PRB", {resource.freqDomainShift + span.start, span.size});
         rtx::append(t.formula(), "%u from freqDomainShift on, by n_RRC = %u; freqDomainShift %u", span.start,
                     t.natural(), OSUINT32{resource.freqDomainShift});
     }
@@ -175,8 +171,7 @@ void srsSymbols(Teller& t, const SRS_Resource_resourceMapping& mapping)
     {
         return;
     }
-    rtx::append(t.text(), "symbols ");
-    appendSpan(t.text(), {slot - 1 - t.natural(), size});
+    appendSpan(t.text(), "symbol", {slot - 1 - t.natural(), size});
     rtx::append(t.formula(), "l_0 = %u - 1 - %u", slot, t.natural());
 }
 
