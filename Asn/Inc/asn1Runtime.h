@@ -477,6 +477,14 @@ int rtxToValueNotation(const OSCTXT* pctxt, const RtxType* type, const void* val
 // Flat lines: `path = value`, one for each value without members or elements.
 int rtxToFlat(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxPrintSink sink, void* arg);
 
+// What is remarked on a value without members or elements, at its place in the tree: one line of text, which lives
+// until the next call; null or empty: nothing.
+typedef const char* (*RtxRemark)(void* arg, const RtxType* type, const void* value);
+
+// Flat lines with what is remarked behind their values, as a comment: `path = value  # remark`.
+int rtxToFlatWithRemarks(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxRemark remark, void* remarkArg,
+                         RtxPrintSink sink, void* arg);
+
 // Names the context whose trees asn1Print_<Type> prints on this thread: the printer follows no pointer that is not in
 // this context's heap. Null ends it; so does rtFreeContext of that context on this thread.
 void rtxPrintSetContext(const OSCTXT* pctxt);

@@ -9,7 +9,12 @@ namespace
 class Flat
 {
 public:
-    Flat(RtxPrintSink sink, void* arg) : out_(sink, arg) {}
+    Flat(const Remarks& remarks, RtxPrintSink sink, void* arg) : out_(sink, arg), remarks_(remarks) {}
+
+    void at(const Type& type, const void* value)
+    {
+        remarks_.at(type, value);
+    }
 
     void stopped(const OSCTXT& ctxt, const Type& type)
     {
@@ -192,7 +197,7 @@ private:
 
     void closeLine()
     {
-        out_.put('\n');
+        remarks_.endLine(out_);
         empty_ = false;
     }
 
@@ -220,6 +225,7 @@ private:
     }
 
     Output out_;
+    Remarks remarks_;
     RtxPathStep path_[RTX_MAX_DEPTH + 4]; // an element that is too deep, unknown additions and the index of one
     unsigned depth_ = 0;
     uint32_t unknown_ = 0; // unknown additions of the sequence so far
@@ -231,5 +237,11 @@ private:
 
 int rtxToFlat(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxPrintSink sink, void* arg)
 {
-    return rtx::write<rtx::Flat>(pctxt, type, value, sink, arg);
+    return rtxToFlatWithRemarks(pctxt, type, value, nullptr, nullptr, sink, arg);
+}
+
+int rtxToFlatWithRemarks(const OSCTXT* pctxt, const RtxType* type, const void* value, RtxRemark remark, void* remarkArg,
+                         RtxPrintSink sink, void* arg)
+{
+    return rtx::write<rtx::Flat>(pctxt, type, value, sink, arg, rtx::Remarks(remark, remarkArg));
 }

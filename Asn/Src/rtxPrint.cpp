@@ -10,7 +10,12 @@ namespace
 class Printer
 {
 public:
-    Printer(RtxPrintSink sink, void* arg) : out_(sink, arg) {}
+    Printer(const Remarks& remarks, RtxPrintSink sink, void* arg) : out_(sink, arg), remarks_(remarks) {}
+
+    void at(const Type& type, const void* value)
+    {
+        remarks_.at(type, value);
+    }
 
     void stopped(const OSCTXT&, const Type&) {}
 
@@ -29,12 +34,12 @@ public:
         {
             out_.format(" (%u)", unsigned{value});
         }
-        out_.put('\n');
+        remarks_.endLine(out_);
     }
 
     void null()
     {
-        out_.put('\n');
+        remarks_.endLine(out_);
     }
 
     void integer(const Type&, int64_t value, const Reason& wrong)
@@ -53,7 +58,8 @@ public:
         }
         out_.put(' ');
         out_.put(type.names[value]);
-        out_.format(" (%" PRIu32 ")\n", value);
+        out_.format(" (%" PRIu32 ")", value);
+        remarks_.endLine(out_);
     }
 
     void bits(const OSOCTET* data, uint32_t count, const Reason& wrong)
@@ -63,12 +69,13 @@ public:
         out_.put("'B");
         if (wrong.status == RTX_OK)
         {
-            out_.format(" (%" PRIu32 " bits)\n", count);
+            out_.format(" (%" PRIu32 " bits)", count);
         }
         else
         {
-            out_.format(" (%" PRId64 " bits, not %" PRId64 ")\n", wrong.value, wrong.lower);
+            out_.format(" (%" PRId64 " bits, not %" PRId64 ")", wrong.value, wrong.lower);
         }
+        remarks_.endLine(out_);
     }
 
     void open(const Type&)
@@ -188,7 +195,7 @@ private:
         {
             out_.format(" (not in %" PRId64 "..%" PRId64 ")", wrong.lower, wrong.upper);
         }
-        out_.put('\n');
+        remarks_.endLine(out_);
     }
 
     void octets(const ASN1OpenType& open)
@@ -199,6 +206,7 @@ private:
     }
 
     Output out_;
+    Remarks remarks_;
     unsigned depth_ = 0;
 };
 
@@ -209,9 +217,10 @@ void toConsole(void*, const char* text)
 
 } // namespace
 
-void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg)
+void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg,
+           RtxRemark remark, void* remarkArg)
 {
-    Printer printer(sink, arg);
+    Printer printer(Remarks(remark, remarkArg), sink, arg);
     (void)Walk(ctxt, printer).run(type, title != nullptr ? title : type.name, value);
 }
 

@@ -460,6 +460,38 @@ private:
     size_t length_ = 0;
 };
 
+// What a writer of lines puts behind a value.
+class Remarks
+{
+public:
+    Remarks(RtxRemark remark, void* arg) : remark_(remark), arg_(arg) {}
+
+    // The value whose line comes.
+    void at(const Type& type, const void* value)
+    {
+        type_ = &type;
+        value_ = value;
+    }
+
+    void endLine(Output& out)
+    {
+        const char* const text = remark_ == nullptr || type_ == nullptr ? nullptr : remark_(arg_, type_, value_);
+        if (text != nullptr && *text != '\0')
+        {
+            out.put("  # ");
+            out.put(text);
+        }
+        out.put('\n');
+        type_ = nullptr;
+    }
+
+private:
+    RtxRemark remark_;
+    void* arg_;
+    const Type* type_ = nullptr;
+    const void* value_ = nullptr;
+};
+
 } // namespace rtx
 
 #endif

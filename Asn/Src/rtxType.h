@@ -236,7 +236,8 @@ void pushName(OSCTXT& ctxt, const char* name);
 void pushIndex(OSCTXT& ctxt, uint32_t index);
 void pushGroup(OSCTXT& ctxt, uint32_t number); // of an extension group, the first is 1; 0: which additions there are
 
-void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg);
+void print(const OSCTXT* ctxt, const Type& type, const char* title, const void* value, RtxPrintSink sink, void* arg,
+           RtxRemark remark = nullptr, void* remarkArg = nullptr);
 // To standard output, following the pointers of the context that rtxPrintSetContext named.
 void print(const Type& type, const char* title, const void* value);
 

@@ -2,7 +2,8 @@
 // granted and knows what was never read; a writer says how things look. The walk calls of it:
 //
 // stopped(ctxt, type)    first, when a decoder gave up in this tree
-// begin(step) ... end()  around each value with its name or index; between them one of
+// begin(step) ... end()  around each value with its name or index; between them, where a writer has it, at(type, value)
+// with its place, and one of
 //   boolean(value), null(), integer(type, value, wrong), enumerated(type, value, wrong)
 //   bits(data, count, wrong)
 //   open(type) ... close(type)                       a sequence's members, a choice's only alternative
@@ -144,6 +145,10 @@ private:
 
     void content(const Type& type, const void* value)
     {
+        if constexpr (requires { writer_.at(type, value); })
+        {
+            writer_.at(type, value);
+        }
         switch (type.kind)
         {
         case Kind::Boolean:
