@@ -26,9 +26,9 @@ _cellgroupcfg()
                 words='decode encode diff delta apply compose record example check find pcap rules explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
-                    decode) words="$input $messages $texts" ;;
+                    decode) words="$input $messages $texts --explain $known" ;;
                     encode) words="$input $messages $octets" ;;
-                    diff) words="$input --type --json --state" ;;
+                    diff) words="$input --type --json --state --explain $known" ;;
                     delta) words="$input --type --explain --recreate --two-steps --sync --switch $octets" ;;
                     apply) words="$input $messages --state $texts $octets" ;;
                     compose) words="--color --help $texts $octets" ;;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "findings.h"
+#include "meanings.h"
 #include "messageForms.h"
 #include "rrcNesting.h"
 #include "ruleInputs.h"
@@ -14,7 +15,7 @@ namespace tool
 
 using Operands = std::vector<std::string>;
 
-void decode(Session& session, const Operands& operands, DecodeForm form);
+void decode(Session& session, const Operands& operands, DecodeForm form, const ExplainOptions& explain);
 
 void encode(Session& session, const Operands& operands, OctetsForm form);
 
@@ -22,6 +23,7 @@ struct DiffOptions
 {
     bool json;
     bool state; // what the messages leave behind
+    ExplainOptions explain;
 };
 void diff(Session& session, const std::string& a, const std::string& b, const DiffOptions& options);
 

@@ -33,8 +33,13 @@ std::string verdict(const Message& message)
 
 } // namespace
 
-void decode(Session& session, const Operands& operands, DecodeForm form)
+void decode(Session& session, const Operands& operands, DecodeForm form, const ExplainOptions& explain)
 {
+    const auto inputs = explainInputs(session, explain);
+    if (inputs != nullptr && form != DecodeForm::Tree && form != DecodeForm::Flat)
+    {
+        throw Failure(Exit::Usage, "--explain goes with --tree and --flat");
+    }
     const bool isVerdict = form == DecodeForm::Verdict;
     if (isVerdict)
     {
@@ -43,14 +48,16 @@ void decode(Session& session, const Operands& operands, DecodeForm form)
     const bool isHeaded = session.isSeveral(operands) && form != DecodeForm::CompactJson && !isVerdict;
     const auto show = [&](const Given& given)
     {
-        const Message message(*session.common().type, given);
+        Message message(*session.common().type, given);
         if (isHeaded)
         {
             session.put("# " + given.place() + "\n");
         }
         if (message.mistakes().empty() && !isVerdict)
         {
-            session.put(textIn(form, message, given));
+            const bool isWhole = message.error() == nullptr && message.refusal().empty();
+            Meanings meanings = inputs != nullptr && isWhole ? Meanings(message, message.value(), *inputs) : Meanings();
+            session.put(textIn(form, message, given, Meanings::remark, &meanings));
         }
         message.expectGood();
         if (!message.isText())

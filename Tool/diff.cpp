@@ -1,5 +1,6 @@
 // diff: in what two messages differ.
 #include "commands.h"
+#include "meanings.h"
 #include "message.h"
 #include "octets.h"
 #include "states.h"
@@ -20,14 +21,21 @@ struct Difference
     std::string path;
     std::string a; // value notation, empty where there is none
     std::string b;
+    std::string meaningA; // empty where there is none
+    std::string meaningB;
 };
 
 class Comparison
 {
 public:
     // Takes memory of the heap of `a` while it compares the values, which are those of the messages or their states.
-    Comparison(Message& a, const void* valueA, const Message& b, const void* valueB) : a_(a), b_(b)
+    Comparison(Message& a, const void* valueA, Message& b, const void* valueB, const RuleInputs* explain) : a_(a), b_(b)
     {
+        if (explain != nullptr)
+        {
+            meaningsA_ = Meanings(a, valueA, *explain);
+            meaningsB_ = Meanings(b, valueB, *explain);
+        }
         const auto sink = [](void* to, const RtxDifference* difference)
         {
             static_cast<Comparison*>(to)->add(*difference);
@@ -50,7 +58,9 @@ private:
         const bool isOrder = difference.kind == RTX_D_ORDER;
         differences_.push_back({difference.kind, pathOf(difference),
                                 isOrder ? "" : text(a_, difference.type, difference.a),
-                                isOrder ? "" : text(b_, difference.type, difference.b)});
+                                isOrder ? "" : text(b_, difference.type, difference.b),
+                                isOrder ? "" : meaningsA_.of(difference.type, difference.a),
+                                isOrder ? "" : meaningsB_.of(difference.type, difference.b)});
     }
 
     static std::string pathOf(const RtxDifference& difference)
@@ -76,6 +86,8 @@ private:
 
     const Message& a_;
     const Message& b_;
+    Meanings meaningsA_;
+    Meanings meaningsB_;
     std::vector<Difference> differences_;
 };
 
@@ -119,6 +131,14 @@ std::string line(const Difference& difference, bool color)
     }
 }
 
+// What the values mean, behind the line.
+std::string remarkOf(const Difference& difference)
+{
+    const std::string& a = difference.meaningA;
+    const std::string& b = difference.meaningB;
+    return a.empty() && b.empty() ? "" : "  # " + a + (a.empty() || b.empty() ? "" : " -> ") + b;
+}
+
 std::string jsonOf(const std::vector<Difference>& differences)
 {
     Json all = Json::array();
@@ -133,6 +153,14 @@ std::string jsonOf(const std::vector<Difference>& differences)
         {
             one["b"] = difference.b;
         }
+        if (!difference.meaningA.empty())
+        {
+            one["meaningOfA"] = difference.meaningA;
+        }
+        if (!difference.meaningB.empty())
+        {
+            one["meaningOfB"] = difference.meaningB;
+        }
         all.push_back(std::move(one));
     }
     return Json{{"version", 1}, {"differences", std::move(all)}}.dump(2) + "\n";
@@ -142,6 +170,7 @@ std::string jsonOf(const std::vector<Difference>& differences)
 
 void diff(Session& session, const std::string& a, const std::string& b, const DiffOptions& options)
 {
+    const auto inputs = explainInputs(session, options.explain);
     const Given givenA = session.only(a);
     const Given givenB = session.only(b);
     Message messageA(*session.common().type, givenA);
@@ -149,7 +178,7 @@ void diff(Session& session, const std::string& a, const std::string& b, const Di
     messageA.expectGood();
     messageB.expectGood();
     const Comparison comparison(messageA, options.state ? stateOf(messageA) : messageA.value(), messageB,
-                                options.state ? stateOf(messageB) : messageB.value());
+                                options.state ? stateOf(messageB) : messageB.value(), inputs.get());
     if (options.json)
     {
         session.put(jsonOf(comparison.differences()));
@@ -158,7 +187,7 @@ void diff(Session& session, const std::string& a, const std::string& b, const Di
     {
         for (const Difference& difference : comparison.differences())
         {
-            session.put(line(difference, session.color()) + "\n");
+            session.put(line(difference, session.color()) + remarkOf(difference) + "\n");
         }
     }
     if (!comparison.differences().empty())

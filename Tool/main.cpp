@@ -252,13 +252,32 @@ private:
                                 "  cellgroupcfg decode message.hex\n"
                                 "  cellgroupcfg decode --json - < message.bin\n"
                                 "  cellgroupcfg decode --flat trace.log | grep t-PollRetransmit\n"
+                                "  cellgroupcfg decode --explain message.hex   with what the values mean\n"
                                 "  cellgroupcfg decode --trace 5c00b1\n"
                                 "  cellgroupcfg decode --lines log.txt\n"
                                 "  cellgroupcfg decode --type RLC-Config 0a\n",
-                                [this](Session& session) { tool::decode(session, operands_, decodeForm()); });
+                                [this](Session& session) {
+                                    tool::decode(session, operands_, decodeForm(), {explain_, settings_});
+                                });
         messages(app);
         type(app);
         decodeForms(app);
+        explained(app);
+    }
+
+    // What values mean, and what that is read by.
+    void explained(CLI::App& app)
+    {
+        app.add_flag("--explain", explain_, "Say behind the values what they mean");
+        allKnown(app);
+    }
+
+    void allKnown(CLI::App& app)
+    {
+        for (const tool::InputOption& option : tool::inputOptions())
+        {
+            known(app, option);
+        }
     }
 
     void decodeForms(CLI::App& app)
@@ -319,14 +338,15 @@ private:
 
     void diff()
     {
-        CLI::App& app = command("diff", "Show in what two messages differ.",
-                                "  cellgroupcfg diff before.hex after.hex\n"
-                                "  cellgroupcfg diff expected.json 5c00b1\n"
-                                "  cellgroupcfg diff --json a.bin b.bin\n"
-                                "  cellgroupcfg diff --state a.hex b.hex       of what they leave behind\n",
-                                [this](Session& session) {
-                                    tool::diff(session, operands_[0], operands_[1], {json_, state_});
-                                });
+        CLI::App& app =
+            command("diff", "Show in what two messages differ.",
+                    "  cellgroupcfg diff before.hex after.hex\n"
+                    "  cellgroupcfg diff expected.json 5c00b1\n"
+                    "  cellgroupcfg diff --json a.bin b.bin\n"
+                    "  cellgroupcfg diff --state a.hex b.hex       of what they leave behind\n",
+                    [this](Session& session) {
+                        tool::diff(session, operands_[0], operands_[1], {json_, state_, {explain_, settings_}});
+                    });
         app.add_option("A B", operands_, "The messages: files, '-' for standard input, or octets")
             ->option_text(" ")
             ->expected(2)
@@ -335,6 +355,7 @@ private:
         type(app);
         app.add_flag("--json", json_, "The differences as JSON");
         app.add_flag("--state", state_, "Compare what a UE holds after each of them");
+        explained(app);
     }
 
     void delta()
@@ -517,10 +538,7 @@ private:
             ->option_text("FILE");
         app.add_flag("--no-config", noProject_, "Read no project file");
         app.add_flag("--chain", chain_, "Each message comes on top of those before it, the first one of --previous");
-        for (const tool::InputOption& option : tool::inputOptions())
-        {
-            known(app, option);
-        }
+        allKnown(app);
     }
 
     static void words(CLI::App& app, const std::string& name, std::vector<std::string>& to,

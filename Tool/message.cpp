@@ -134,10 +134,12 @@ std::vector<std::uint8_t> Message::encode()
     return octets;
 }
 
-std::string treeText(const Message& message)
+std::string treeText(const Message& message, RtxRemark remark, void* remarkArg)
 {
-    return written([&](RtxPrintSink sink, void* arg)
-                   { rtx::print(&message.context(), *message.pdu().type, nullptr, message.value(), sink, arg); });
+    return written(
+        [&](RtxPrintSink sink, void* arg) {
+            rtx::print(&message.context(), *message.pdu().type, nullptr, message.value(), sink, arg, remark, remarkArg);
+        });
 }
 
 std::string valueText(const OSCTXT* context, const RtxType& type, const void* value)

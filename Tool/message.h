@@ -113,7 +113,8 @@ std::string written(const Write& write)
     return text;
 }
 
-std::string treeText(const Message& message);
+// With what is remarked on its values.
+std::string treeText(const Message& message, RtxRemark remark = nullptr, void* arg = nullptr);
 
 // A value in X.680's notation, on one line and without its type. Its pointers lead into the context's heap.
 std::string valueText(const OSCTXT* context, const RtxType& type, const void* value);

@@ -7,7 +7,7 @@
 namespace tool
 {
 
-std::string textIn(DecodeForm form, const Message& message, const Given& given)
+std::string textIn(DecodeForm form, const Message& message, const Given& given, RtxRemark remark, void* remarkArg)
 {
     const OSCTXT* const context = &message.context();
     const RtxType* const type = message.pdu().type;
@@ -26,13 +26,13 @@ std::string textIn(DecodeForm form, const Message& message, const Given& given)
             (void)rtxToValueNotation(context, type, message.value(), RTX_INDENTED, sink, arg);
             break;
         case DecodeForm::Flat:
-            (void)rtxToFlat(context, type, message.value(), sink, arg);
+            (void)rtxToFlatWithRemarks(context, type, message.value(), remark, remarkArg, sink, arg);
             break;
         default:
             break;
         }
     };
-    return form == DecodeForm::Tree    ? treeText(message)
+    return form == DecodeForm::Tree    ? treeText(message, remark, remarkArg)
            : form == DecodeForm::Trace ? traceText(message.pdu(), octetsOf(message.pdu(), given))
                                        : written(write);
 }

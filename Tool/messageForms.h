@@ -21,8 +21,9 @@ enum class DecodeForm
     Trace,
     Verdict, // one line a message
 };
-// What a message says, in any form but a verdict.
-std::string textIn(DecodeForm form, const Message& message, const Given& given);
+// What a message says, in any form but a verdict; trees and flat lines with what is remarked on their values.
+std::string textIn(DecodeForm form, const Message& message, const Given& given, RtxRemark remark = nullptr,
+                   void* arg = nullptr);
 
 enum class OctetsForm
 {
