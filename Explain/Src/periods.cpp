@@ -81,34 +81,54 @@ void timeDomainOffset(Teller& t)
 }
 
 // sym2, sym7, sym5x14: symbols, or slots of so many.
+struct GrantPeriod
+{
+    OSUINT32 count;
+    OSUINT32 slot; // symbols of one; 0: `count` is of symbols
+};
+
+GrantPeriod grantPeriodOf(const char* name)
+{
+    OSUINT32 numbers[2] = {0, 0};
+    OSUINT32 i = 0;
+    for (name += sizeof "sym" - 1; *name != '\0' && i < std::size(numbers); ++name)
+    {
+        if (*name == 'x')
+        {
+            ++i;
+            continue;
+        }
+        numbers[i] = numbers[i] * 10 + static_cast<OSUINT32>(*name - '0');
+    }
+    return {numbers[0], numbers[1]};
+}
+
 void grantPeriod(Teller& t)
 {
-    const char* const name = t.type.names[t.natural()];
-    OSUINT32 count = 0;
-    OSUINT32 each = 0;
-    const int read = std::sscanf(name, "sym%ux%u", &count, &each);
-    if (read == 1)
+    const GrantPeriod period = grantPeriodOf(t.type.names[t.natural()]);
+    if (period.slot == 0)
     {
-        rtx::append(t.text(), "every %u symbols", count);
+        rtx::append(t.text(), "every %u symbols", period.count);
+        return;
     }
-    if (read == 2)
-    {
-        rtx::append(t.text(), "every %u slot%s of %u symbols", count, rtx::plural(count), each);
-        appendSlotsInMs(t, count);
-    }
+    rtx::append(t.text(), "every %u slot%s of %u symbols", period.count, rtx::plural(period.count), period.slot);
+    appendSlotsInMs(t, period.count);
 }
 
 void grantTimer(Teller& t, const ConfiguredGrantConfig& grant)
 {
     rtx::append(t.text(), "%u period%s", t.natural(), rtx::plural(t.number()));
-    OSUINT32 count = 0;
-    OSUINT32 each = 0;
     const RtxType& type = nr_rrc::type_ConfiguredGrantConfig_periodicity;
-    if (rtx::outside(type, grant.periodicity).status == RTX_OK &&
-        std::sscanf(type.names[grant.periodicity], "sym%ux%u", &count, &each) == 2)
+    if (rtx::outside(type, grant.periodicity).status != RTX_OK)
     {
-        rtx::append(t.text(), ", %u slots", count * t.natural());
-        appendSlotsInMs(t, count * t.natural());
+        return;
+    }
+    const GrantPeriod period = grantPeriodOf(type.names[grant.periodicity]);
+    const OSUINT32 all = period.count * t.natural();
+    rtx::append(t.text(), ", %u %ss", all, period.slot == 0 ? "symbol" : "slot");
+    if (period.slot != 0)
+    {
+        appendSlotsInMs(t, all);
     }
 }
 
