@@ -22,7 +22,7 @@ using Lines = std::vector<std::string>;
 #define PUCCH UL "bwp-Dedicated.pucch-Config.setup."
 #define SRS UL "bwp-Dedicated.srs-Config.setup."
 
-const Lines cell = {CELL "tag-Id = 0"};
+const Lines cell = {"cellGroupId = 0", CELL "tag-Id = 0"};
 const Lines downlink = {DL "bwp-Id = 1", DL "bwp-Common.genericParameters.locationAndBandwidth = 1099",
                         DL "bwp-Common.genericParameters.subcarrierSpacing = kHz30"};
 const Lines uplink = {UL "bwp-Id = 1", UL "bwp-Common.genericParameters.locationAndBandwidth = 1099",
@@ -116,11 +116,13 @@ protected:
     }
 };
 
-std::string span(unsigned first, unsigned size)
+// "PRBs 0..3 (4)", "PRB 5".
+std::string span(const std::string& what, unsigned first, unsigned size)
 {
+    const std::string start = std::to_string(first);
     return size == 1
-               ? std::to_string(first)
-               : std::to_string(first) + ".." + std::to_string(first + size - 1) + " (" + std::to_string(size) + ")";
+               ? what + " " + start
+               : what + "s " + start + ".." + std::to_string(first + size - 1) + " (" + std::to_string(size) + ")";
 }
 
 // TS 38.214 5.1.2.2.2 from the side of the spans: which values there are, and what each stands for.
@@ -297,7 +299,7 @@ TEST_F(Meanings, Frequencies)
     {
         EXPECT_EQ(
             text,
-            textOf({COMMON "downlinkConfigCommon.frequencyInfoDL.frequencyBandList[0] = 78",
+            textOf({"cellGroupId = 0", COMMON "downlinkConfigCommon.frequencyInfoDL.frequencyBandList[0] = 78",
                     COMMON "downlinkConfigCommon.frequencyInfoDL.absoluteFrequencyPointA = " + number,
                     COMMON "downlinkConfigCommon.frequencyInfoDL.scs-SpecificCarrierList[0].offsetToCarrier = 0",
                     COMMON "downlinkConfigCommon.frequencyInfoDL.scs-SpecificCarrierList[0].subcarrierSpacing = kHz30",
@@ -420,7 +422,7 @@ TEST_F(Meanings, EveryTddPattern)
                 }
                 const std::string at = COMMON "tdd-UL-DL-ConfigurationCommon.";
                 const std::string text =
-                    textOf({at + "referenceSubcarrierSpacing = kHz30",
+                    textOf({"cellGroupId = 0", at + "referenceSubcarrierSpacing = kHz30",
                             at + "pattern1.dl-UL-TransmissionPeriodicity = " + one.period,
                             at + "pattern1.nrofDownlinkSlots = " + std::to_string(downlinkSymbols / 14),
                             at + "pattern1.nrofDownlinkSymbols = " + std::to_string(downlinkSymbols % 14),
@@ -576,7 +578,7 @@ Lines csiResource(const std::string& allocation, const std::string& ports, const
 TEST_F(Meanings, CsiReferenceSignals)
 {
     const std::string at = CSI "nzp-CSI-RS-ResourceToAddModList[0].";
-    auto told = tell(cell + downlink + csiResource("row1 = 1", "p1", "noCDM", "three = null"));
+    auto told = tell(cell + downlink + csiResource("row1 = 80", "p1", "noCDM", "three = null"));
     const std::string mapping = at + "resourceMapping.frequencyDomainAllocation.";
     EXPECT_EQ("row 1: 1 port, density 3, no CDM, symbol 5", told.at(mapping + "row1").text);
     EXPECT_TRUE(told.at(mapping + "row1").formula.starts_with("k = 3:")) << told.at(mapping + "row1").formula;
@@ -586,7 +588,7 @@ TEST_F(Meanings, CsiReferenceSignals)
     EXPECT_EQ("every 40 slots, from slot 12 on; needs the bandwidth part's spacing",
               told.at(at + "periodicityAndOffset.slots40").text);
 
-    told = tell(cell + downlink + csiResource("row4 = 8", "p4", "fd-CDM2", "one = null"));
+    told = tell(cell + downlink + csiResource("row4 = 80", "p4", "fd-CDM2", "one = null"));
     EXPECT_EQ("row 4: 4 ports, density 1, FD-CDM2, symbol 5", told.at(mapping + "row4").text);
     told = tell(cell + downlink + csiResource("other = F0", "p32", "cdm4-FD2-TD2", "dot5 = oddPRBs"));
     EXPECT_EQ("row 17: 32 ports, density 0.5 (odd PRBs), CDM4 (FD2, TD2), symbols 5..6 (2) and symbols 9..10 (2)",
@@ -601,7 +603,7 @@ TEST_F(Meanings, CsiReferenceSignals)
                            "nzp-CSI-RS-ResourceSetList[0] = 0",
                        CSI "csi-ResourceConfigToAddModList[0].bwp-Id = 1",
                        CSI "csi-ResourceConfigToAddModList[0].resourceType = periodic"};
-    told = tell(cell + downlink + csiResource("row4 = 8", "p4", "fd-CDM2", "one = null") + use);
+    told = tell(cell + downlink + csiResource("row4 = 80", "p4", "fd-CDM2", "one = null") + use);
     EXPECT_EQ("every 40 slots (20 ms), from slot 12 on (6 ms)", told.at(at + "periodicityAndOffset.slots40").text);
 }
 
