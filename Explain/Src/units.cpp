@@ -94,33 +94,34 @@ void shortCycles(Teller& t, const DRX_Config_shortDRX& drx)
 }
 
 // What an enumeration's name counts, where its unit is not of the table below.
-void counted(Teller& t, const char* what)
+void counted(Teller& t, const char* what, bool hasPlural)
 {
     if (const NamedNumber found = namedNumber(t.type.names[t.natural()]); found.is)
     {
         appendDecimal(t.text(), found.number, found.digits);
-        rtx::append(t.text(), " %s", what);
+        rtx::append(t.text(), " %s%s", what, hasPlural ? rtx::plural(found.number) : "");
     }
 }
 
 void seconds(Teller& t)
 {
-    counted(t, "s");
+    counted(t, "s", false);
 }
 
 void pdus(Teller& t)
 {
-    counted(t, "PDUs");
+    counted(t, "PDU", true);
 }
 
 void bitsOf(Teller& t)
 {
-    counted(t, "bits");
+    counted(t, "bit", true);
 }
 
 void indications(Teller& t)
 {
-    counted(t, "reporting periods of beam failure detection");
+    counted(t, "reporting period", true);
+    rtx::append(t.text(), " of beam failure detection");
 }
 
 struct Unit
@@ -130,11 +131,8 @@ struct Unit
 };
 
 constexpr Unit units[] = {
-    {"ms", "ms"},    {"sf", "subframes, each 1 ms"},
-    {"sl", "slots"}, {"dB", "dB"},
-    {"db", "dB"},    {"kBps", "kB/s"},
-    {"kB", "kB"},    {"mB", "MB"},
-    {"kHz", "kHz"},
+    {"ms", "ms"},     {"sf", "ms"}, {"sl", "slot"}, {"dB", "dB"},   {"db", "dB"},
+    {"kBps", "kB/s"}, {"kB", "kB"}, {"mB", "MB"},   {"kHz", "kHz"},
 };
 
 const char* unitOf(const RtxType& type, OSUINT32 value)
@@ -155,7 +153,8 @@ void numberAndUnit(Teller& t)
     const NamedNumber found = namedNumber(t.type.names[t.natural()]);
     const int64_t number = found.number;
     appendDecimal(t.text(), found.isNegative ? -number : number, found.digits);
-    rtx::append(t.text(), " %s", unitOf(t.type, t.natural()));
+    const char* const unit = unitOf(t.type, t.natural());
+    rtx::append(t.text(), " %s%s", unit, std::string_view(unit) == "slot" ? rtx::plural(number) : "");
 }
 
 constexpr Meaning unitMeaning = {nullptr, -1, "TS 38.331 6.3.2", tellValue<numberAndUnit>};

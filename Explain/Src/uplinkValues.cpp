@@ -139,7 +139,12 @@ void cSrs(Teller& t)
 void bSrs(Teller& t, const SRS_Resource_freqHopping& hopping)
 {
     const OSUINT32 rbs = nrSrsBandwidth(hopping.c_SRS, t.natural());
-    rtx::append(t.text(), "%u PRBs at a time, one of %u parts", rbs, nrSrsParts(hopping.c_SRS, t.natural()));
+    const OSUINT32 parts = nrSrsParts(hopping.c_SRS, t.natural());
+    rtx::append(t.text(), "%u PRBs at a time", rbs);
+    if (parts > 1)
+    {
+        rtx::append(t.text(), ", one of %u parts", parts);
+    }
     rtx::append(t.formula(), "row C_SRS = %u, column B_SRS = %u", OSUINT32{hopping.c_SRS}, t.natural());
 }
 

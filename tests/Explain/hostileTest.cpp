@@ -194,7 +194,7 @@ TEST_F(Hostile, Arguments)
 
 TEST_F(Hostile, EndsWhenAskedTo)
 {
-    const CellGroupConfig& tree = random(7, 3000, 0);
+    const CellGroupConfig& tree = random(12, 3000, 3);
     const auto end = [](void* arg, const RrcMeaning*)
     {
         ++*static_cast<int*>(arg);

@@ -374,7 +374,7 @@ TEST_F(Meanings, AWholeCell)
          "a cycle of 320 ms, from subframe 9 on"},
         {"mac-CellGroupConfig.drx-Config.setup.shortDRX.drx-ShortCycleTimer", "2 short cycles, 160 ms"},
         {"mac-CellGroupConfig.phr-Config.setup.phr-Tx-PowerFactorChange", "3 dB"},
-        {"mac-CellGroupConfig.bsr-Config.retxBSR-Timer", "80 subframes, each 1 ms"},
+        {"mac-CellGroupConfig.bsr-Config.retxBSR-Timer", "80 ms"},
     };
     for (const auto& [path, text] : texts)
     {
@@ -605,6 +605,64 @@ TEST_F(Meanings, CsiReferenceSignals)
                        CSI "csi-ResourceConfigToAddModList[0].resourceType = periodic"};
     told = tell(cell + downlink + csiResource("row4 = 80", "p4", "fd-CDM2", "one = null") + use);
     EXPECT_EQ("every 40 slots (20 ms), from slot 12 on (6 ms)", told.at(at + "periodicityAndOffset.slots40").text);
+}
+
+// Flat lines with their meanings are read as without.
+TEST_F(Meanings, AreRemarksBehindFlatLines)
+{
+    const CellGroupConfig* const tree = read(cell + downlink);
+    using Remarks = std::map<std::pair<const void*, const RtxType*>, std::string>;
+    Remarks meanings;
+    const auto keep = [](void* to, const RrcMeaning* meaning)
+    {
+        (*static_cast<Remarks*>(to))[{meaning->value, meaning->type}] = meaning->text;
+        return 0;
+    };
+    ASSERT_EQ(2, rrcExplain(&context_, tree, nullptr, keep, &meanings));
+    const auto remark = [](void* arg, const RtxType* type, const void* value) -> const char*
+    {
+        const auto& all = *static_cast<const Remarks*>(arg);
+        const auto found = all.find({value, type});
+        return found == all.end() ? nullptr : found->second.c_str();
+    };
+    std::string text;
+    const auto print = [](void* to, const char* piece)
+    {
+        *static_cast<std::string*>(to) += piece;
+    };
+    EXPECT_EQ(0, rtxToFlatWithRemarks(&context_, asn1Type_CellGroupConfig(), tree, remark, &meanings, print, &text));
+    const std::string at = "CellGroupConfig." DL;
+    EXPECT_EQ("CellGroupConfig.cellGroupId = 0\n" + at + "bwp-Id = 1\n" + at +
+                  "bwp-Common.genericParameters.locationAndBandwidth = 1099  # PRBs 0..272 (273) from the carrier's "
+                  "first, 98.28 MHz\n" +
+                  at +
+                  "bwp-Common.genericParameters.subcarrierSpacing = kHz30  # 30 kHz\nCellGroupConfig." CELL
+                  "tag-Id = 0\n",
+              text);
+    CellGroupConfig* const again = this->tree();
+    EXPECT_EQ(0,
+              asn1FromFlat(&context_, asn1Type_CellGroupConfig(), again, text.data(), text.size(), nullptr, nullptr));
+    EXPECT_EQ(1, rtxEqual(&context_, asn1Type_CellGroupConfig(), tree, again));
+}
+
+#define GRANT UL "bwp-Dedicated.configuredGrantConfig.setup."
+
+TEST_F(Meanings, ConfiguredGrants)
+{
+    const auto ofPeriod = [&](const std::string& period)
+    {
+        return tell(cell + uplink +
+                    Lines{GRANT "cg-DMRS-Configuration = {}", GRANT "resourceAllocation = resourceAllocationType1",
+                          GRANT "powerControlLoopToUse = n0", GRANT "p0-PUSCH-Alpha = 0",
+                          GRANT "nrofHARQ-Processes = 1", GRANT "repK = n1", GRANT "periodicity = " + period,
+                          GRANT "configuredGrantTimer = 3"});
+    };
+    auto told = ofPeriod("sym10x14");
+    EXPECT_EQ("every 10 slots of 14 symbols (2.5 ms)", told.at(GRANT "periodicity").text);
+    EXPECT_EQ("3 periods, 30 slots (7.5 ms)", told.at(GRANT "configuredGrantTimer").text);
+    told = ofPeriod("sym7");
+    EXPECT_EQ("every 7 symbols", told.at(GRANT "periodicity").text);
+    EXPECT_EQ("3 periods, 21 symbols", told.at(GRANT "configuredGrantTimer").text);
 }
 
 // What stands in another cell's message is read with that cell's spacing.

@@ -228,6 +228,37 @@ def test_diff(folder):
     expect(["diff", a], USAGE, err=re.compile("cellgroupcfg diff --help"))
 
 
+CALL = str(PROJECT / "docs/guide/call.hex")
+
+
+def test_explained(folder):
+    expect(["decode", "--explain", CALL], DONE,
+           re.compile("\n +t-PollRetransmit ms45 \\(8\\)  # 45 ms\n(.*\n)*.* newUE-Identity 17921  # 0x4601\n"))
+    flat = run("decode", "--explain", "--flat", CALL)[1]
+    true(b".startSymbolAndLength = 53  # symbols 2..13 (12)\n" in flat, "decode --explain --flat tells of symbols")
+    true(run("encode", "-", stdin=flat)[1] == run("encode", CALL)[1], "encode passes over meanings")
+    lines = "CellGroupConfig.cellGroupId = 0\n" + "".join(
+        f"CellGroupConfig.spCellConfig.spCellConfigDedicated.{line}\n" for line in [
+            "initialDownlinkBWP.pdcch-Config.setup.searchSpacesToAddModList[0].searchSpaceId = 2",
+            "initialDownlinkBWP.pdcch-Config.setup.searchSpacesToAddModList[0].monitoringSlotPeriodicityAndOffset.sl10"
+            " = 3", "tag-Id = 0"])
+    expect(["decode", "--explain", "--flat", "-"], DONE, stdin=lines,
+           out=re.compile("sl10 = 3  # every 10 slots, from slot 3 on; needs the bandwidth part's spacing "
+                          "\\(--bwp0-dl\\)\n"))
+    expect(["decode", "--explain", "--flat", "--bwp0-dl", "30:0:273", "-"], DONE, stdin=lines,
+           out=re.compile("sl10 = 3  # every 10 slots \\(5 ms\\), from slot 3 on \\(1.5 ms\\)\n"))
+    expect(["decode", "--explain", "--json", "00"], USAGE, err=re.compile("--explain goes with --tree and --flat"))
+    expect(["decode", "--explain", "--type", "RLC-Config", "00"], USAGE, err=re.compile("is for CellGroupConfig"))
+    expect(["decode", "--band", "n78", "00"], USAGE, err=re.compile("--band is for --explain"))
+    expect(["diff", "--band", "n78", "00", "00"], USAGE, err=re.compile("--band is for --explain"))
+    before, after = with_phy({"p-NR-FR1": 23, "tpc-SRS-RNTI": 7}), with_phy({"p-NR-FR1": 10, "tpc-SRS-RNTI": 10})
+    expect(["diff", "--explain", before, after], FINDINGS,
+           "~ CellGroupConfig.physicalCellGroupConfig.p-NR-FR1: 23 -> 10  # 23 dBm -> 10 dBm\n"
+           "~ CellGroupConfig.physicalCellGroupConfig.tpc-SRS-RNTI: 7 -> 10  # 0x0007 -> 0x000A\n")
+    found = json.loads(run("diff", "--explain", "--json", before, after)[1])["differences"][0]
+    true((found["meaningOfA"], found["meaningOfB"]) == ("23 dBm", "10 dBm"), f"diff --explain --json: {found}")
+
+
 # MAC-CellGroupConfig: not extended, five optional members, tag-Config the fourth, skipUplinkTxDynamic; TAG-Config: two
 # lists of 1..4, counted in 2 bits; TAG: not extended, tag-Id of 2 bits, timeAlignmentTimer of 3 bits.
 TAGS = {number: octets(f"0 0010000 00  0 00010 01 {number - 1:02b}" +
@@ -885,6 +916,6 @@ def test_help(folder):
                                            r"(, commit [0-9a-f]{10}\+?)?\n$"))
 
 
-main(test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_delta, test_apply,
+main(test_forms, test_trace, test_inputs, test_malformed, test_several, test_encode, test_diff, test_explained, test_delta, test_apply,
      test_diff_state, test_compose, test_record, test_example, test_find, test_pcap, test_wireshark, test_explain, test_rules,
      test_streams, test_help)
