@@ -245,7 +245,7 @@ def test_explained(folder):
     expect(["decode", "--explain", "--flat", "-"], DONE, stdin=lines,
            out=re.compile("sl10 = 3  # every 10 slots, from slot 3 on; needs the bandwidth part's spacing "
                           "\\(--bwp0-dl\\)\n"))
-    expect(["decode", "--explain", "--flat", "--bwp0-dl", "30:0:273", "-"], DONE, stdin=lines,
+    expect(["decode", "--explain", "--flat", "--bwp0-dl", "1099:30", "-"], DONE, stdin=lines,
            out=re.compile("sl10 = 3  # every 10 slots \\(5 ms\\), from slot 3 on \\(1.5 ms\\)\n"))
     expect(["decode", "--explain", "--json", "00"], USAGE, err=re.compile("--explain goes with --tree and --flat"))
     expect(["decode", "--explain", "--type", "RLC-Config", "00"], USAGE, err=re.compile("is for CellGroupConfig"))
