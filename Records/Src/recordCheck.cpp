@@ -19,6 +19,8 @@ namespace recordCheck
 namespace
 {
 
+static_assert(sizeof(RrcCellGroupCfg_t) <= 1U << 24, "an offset has 24 bits");
+
 using rtx::append;
 using rtx::Kind;
 using rtx::Line;
@@ -447,53 +449,53 @@ private:
         for (UINT32 i = 0; i < fields; ++i)
         {
             const RrcRecordCheckOp& op = ops[i];
-            const bool guarded = op.guardMask != 0 && (record[op.guard] & op.guardMask) == 0;
+            if (op.isGuarded != 0 && (record[op.guard] >> op.guardBit & 1) == 0)
+            {
+                continue;
+            }
             switch (op.code)
             {
             case RrcRecordCheckOp::Octet:
-                if (!guarded && record[op.offset] - static_cast<UINT64>(op.lower) > op.span)
+                if (record[op.offset] - static_cast<UINT64>(op.lower) > op.span)
                 {
                     number(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Two:
-                if (!guarded && bitsAt(2, record + op.offset) - static_cast<UINT64>(op.lower) > op.span)
+                if (bitsAt(2, record + op.offset) - static_cast<UINT64>(op.lower) > op.span)
                 {
                     number(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Number:
-                if (!guarded && !isInRange(op, record + op.offset))
+                if (!isInRange(op, record + op.offset))
                 {
                     number(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Mask:
-                if (!guarded && (bitsAt(op.size, record + op.offset) & op.span) != 0)
+                if ((bitsAt(op.size, record + op.offset) & op.span) != 0)
                 {
                     mask(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Count:
-                if (!guarded && !isInRange(op, record + op.offset))
+                if (!isInRange(op, record + op.offset))
                 {
                     count(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Record:
-                if (!guarded)
-                {
-                    inner(at(frame, i), record + op.offset, nullptr);
-                }
+                inner(at(frame, i), record + op.offset, nullptr);
                 break;
             case RrcRecordCheckOp::Records:
-                if (!guarded && !isEmpty(type, op, record))
+                if (!isEmpty(type, op, record))
                 {
                     entries(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Field:
-                if (!guarded && !isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
+                if (!isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
                 {
                     field(at(frame, i));
                 }
@@ -510,7 +512,8 @@ private:
     // Whether an array has no entries, as most have.
     static bool isEmpty(const RrcRecordType& type, const RrcRecordCheckOp& op, const unsigned char* record)
     {
-        return op.count >= 0 && bitsAt(type.checks[op.count].size, record + type.checks[op.count].offset) == 0;
+        return op.lower != RrcRecordCheckOp::noCount &&
+               bitsAt(type.checks[op.lower].size, record + type.checks[op.lower].offset) == 0;
     }
 
     // Whether the record's choices leave a field.
@@ -576,15 +579,25 @@ private:
         }
     }
 
+    static UINT64 bitsAt(unsigned size, bool isSigned, const unsigned char* place)
+    {
+        const UINT64 bits = bitsAt(size, place);
+        const unsigned above = 64 - 8U * size;
+        return isSigned ? static_cast<UINT64>(static_cast<INT64>(bits << above) >> above) : bits;
+    }
+
     static bool isInRange(const RrcRecordCheckOp& op, const unsigned char* place)
     {
-        UINT64 bits = bitsAt(op.size, place);
-        if (op.isSigned != 0)
-        {
-            const unsigned above = 64 - 8U * op.size;
-            bits = static_cast<UINT64>(static_cast<INT64>(bits << above) >> above);
-        }
-        return bits - static_cast<UINT64>(op.lower) <= op.span;
+        return bitsAt(op.size, op.isSigned != 0, place) - static_cast<UINT64>(op.lower) <= op.span;
+    }
+
+    // The same by the description.
+    static bool isInRange(const Frame& frame)
+    {
+        const RrcRecordField& field = frame.at();
+        const auto* const place = static_cast<const unsigned char*>(frame.place());
+        const UINT64 bits = bitsAt(field.size, records::isSignedNumber(field), place);
+        return bits - static_cast<UINT64>(field.lower) <= records::spanOf(field);
     }
 
     void inner(Frame& frame, const void* record, const Type* content)
@@ -623,7 +636,7 @@ private:
             mask(frame);
             break;
         case RRC_FIELD_COUNT:
-            if (!isInRange(type.checks[frame.field], static_cast<const unsigned char*>(frame.place())))
+            if (!isInRange(frame))
             {
                 count(frame);
             }
@@ -665,11 +678,10 @@ private:
         const UINT32 count = entriesOf(frame);
         identities(frame, count);
         const bool isValue = frame.at().kind == RRC_FIELD_VALUE;
-        const RrcRecordCheckOp& op = frame.type.checks[frame.field];
         for (UINT32 i = 0; i < count && !ended_; ++i)
         {
             frame.entry = i;
-            if (isValue || frame.at().bitWidth != 0 || !isInRange(op, static_cast<const unsigned char*>(frame.place())))
+            if (isValue || frame.at().bitWidth != 0 || !isInRange(frame))
             {
                 number(frame);
             }

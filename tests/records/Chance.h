@@ -21,7 +21,7 @@ namespace records
 {
 
 // So many random records, or three tenths of them where a sanitizer takes its time: of 10,000 enough for all cases.
-constexpr std::uint32_t many(std::uint32_t number)
+constexpr std::uint32_t shareOf(std::uint32_t number)
 {
 #ifdef FEWER_RECORDS
     return number * 3 / 10;
