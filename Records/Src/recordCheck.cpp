@@ -1003,22 +1003,35 @@ private:
 
     // --- choices
 
+    // The same as rrcRecordChosen where no bit guards the selector. Alternatives are mostly numbered in their order.
+    static const RrcRecordOption* optionBy(const RrcRecordChoice& choice, const RrcRecordField& selector,
+                                           const void* record)
+    {
+        const UINT64 selected = bitsAt(selector.size, static_cast<const unsigned char*>(record) + selector.offset);
+        const UINT64 likely = selected - static_cast<UINT64>(choice.options[0].number);
+        if (choice.byNumber != 0 && likely < choice.optionCount &&
+            choice.options[likely].number == static_cast<INT64>(selected))
+        {
+            return choice.options + likely;
+        }
+        for (const RrcRecordOption* option = choice.options + choice.optionCount; option-- != choice.options;)
+        {
+            if (choice.byNumber != 0 ? static_cast<UINT64>(option->number) == selected
+                                     : option->number < 0 || (selected >> option->number & 1) != 0)
+            {
+                return option;
+            }
+        }
+        return nullptr;
+    }
+
     void choose(Frame& frame, UINT32 index)
     {
         const RrcRecordChoice& choice = frame.type.choices[index];
         const RrcRecordField& selector = frame.type.fields[choice.selector];
         const RrcRecordOption*& option = frame.chosen[index];
-        option = nullptr;
-        if (choice.byNumber != 0 && selector.guard < 0) // mostly they are numbered in their order
-        {
-            const auto* const place = static_cast<const unsigned char*>(frame.record) + selector.offset;
-            const UINT64 number = bitsAt(selector.size, place);
-            const UINT64 likely = number - static_cast<UINT64>(choice.options[0].number);
-            const bool known =
-                likely < choice.optionCount && choice.options[likely].number == static_cast<INT64>(number);
-            option = known ? choice.options + likely : nullptr;
-        }
-        option = option != nullptr ? option : rrcRecordChosen(&frame.type, frame.record, index);
+        option = selector.guard < 0 ? optionBy(choice, selector, frame.record)
+                                    : rrcRecordChosen(&frame.type, frame.record, index);
         if (option == nullptr && isSent(at(frame, choice.selector), choice))
         {
             notChosen(frame, choice);
