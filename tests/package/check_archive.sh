@@ -9,7 +9,7 @@ c="__stack_chk_fail memcmp memcpy memmove memset snprintf strcmp strlen strncmp 
 
 defined=$("$nm" --defined-only "$archive" "$@" 2>/dev/null | awk 'NF == 3 { print $3 }')
 foreign=$("$nm" --undefined-only "$archive" 2>/dev/null | awk '$1 == "U" { print $2 }' | sort -u |
-    grep -vxF -e _GLOBAL_OFFSET_TABLE_ -e "$defined" | grep -vxF "${c// /$'\n'}" || true)
+    grep -vxF -e _GLOBAL_OFFSET_TABLE_ -f <(printf '%s\n' "$defined") | grep -vxF "${c// /$'\n'}" || true)
 if [ -n "$foreign" ]; then
     echo "$archive needs:"
     echo "$foreign"
