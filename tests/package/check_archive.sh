@@ -5,7 +5,7 @@ set -euo pipefail
 nm=$1 archive=$2
 shift 2
 
-c="__stack_chk_fail memcmp memcpy memmove memset snprintf strcmp strlen strncmp vsnprintf"
+c="__popcountdi2 __stack_chk_fail memchr memcmp memcpy memmove memset snprintf strcmp strcspn strlen strncmp vsnprintf"
 
 defined=$("$nm" --defined-only "$archive" "$@" 2>/dev/null | awk 'NF == 3 { print $3 }')
 foreign=$("$nm" --undefined-only "$archive" 2>/dev/null | awk '$1 == "U" { print $2 }' | sort -u |
