@@ -1003,7 +1003,7 @@ private:
 
     // --- choices
 
-    // The same as rrcRecordChosen where no bit guards the selector. Alternatives are mostly numbered in their order.
+    // The same as rrcRecordChosen of a selector that is read. Alternatives are mostly numbered in their order.
     static const RrcRecordOption* optionBy(const RrcRecordChoice& choice, const RrcRecordField& selector,
                                            const void* record)
     {
@@ -1030,8 +1030,17 @@ private:
         const RrcRecordChoice& choice = frame.type.choices[index];
         const RrcRecordField& selector = frame.type.fields[choice.selector];
         const RrcRecordOption*& option = frame.chosen[index];
-        option = selector.guard < 0 ? optionBy(choice, selector, frame.record)
-                                    : rrcRecordChosen(&frame.type, frame.record, index);
+        const RrcRecordCheckOp& op = frame.type.checks[choice.selector];
+        const bool isOff =
+            op.isGuarded != 0 && (static_cast<const unsigned char*>(frame.record)[op.guard] >> op.guardBit & 1) == 0;
+        if (!records::isPlainlyGuarded(selector, frame.type.fields, frame.type.bits))
+        {
+            option = rrcRecordChosen(&frame.type, frame.record, index);
+        }
+        else
+        {
+            option = isOff ? nullptr : optionBy(choice, selector, frame.record);
+        }
         if (option == nullptr && isSent(at(frame, choice.selector), choice))
         {
             notChosen(frame, choice);
