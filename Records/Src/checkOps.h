@@ -3,7 +3,7 @@
 #ifndef CHECKOPS_H
 #define CHECKOPS_H
 
-#include "rrcRecordType.h"
+#include "recordNumbers.h"
 
 #include <array>
 #include <cstddef>
@@ -43,12 +43,6 @@ static_assert(sizeof(RrcRecordCheckOp) == 16);
 namespace records
 {
 
-// All that so many bits can hold.
-constexpr UINT64 lowBits(unsigned count)
-{
-    return count >= 64 ? ~UINT64{0} : (UINT64{1} << count) - 1;
-}
-
 constexpr UINT64 spanOf(const RrcRecordField& field)
 {
     return field.kind == RRC_FIELD_BITS      ? lowBits(field.bits)
@@ -74,11 +68,6 @@ constexpr UINT64 doubtfulBits(std::size_t mask, const RrcRecordField& field, con
 constexpr bool isPlainlyGuarded(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
 {
     return field.guard < 0 || (bits[field.guard].with < 0 && fields[bits[field.guard].mask].guard < 0);
-}
-
-constexpr bool isSignedNumber(const RrcRecordField& field)
-{
-    return field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0;
 }
 
 constexpr bool isNarrow(const RrcRecordField& field)
