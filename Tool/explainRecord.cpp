@@ -7,6 +7,8 @@
 #include "schemaPath.h"
 #include "style.h"
 
+#include <algorithm>
+
 namespace tool
 {
 namespace
@@ -96,56 +98,72 @@ void explainStructure(Session& session, const RrcRecordType& type)
     fields(session, type, type.name);
 }
 
-// A bit of a mask, of all masks that have it.
-bool explainBit(Session& session, std::string_view name)
+// What a bit that chooses takes; empty: nothing.
+std::string alternativeOf(const RrcRecordType& type, int bit)
+{
+    for (unsigned i = 0; i < type.choiceCount; ++i)
+    {
+        const RrcRecordChoice& choice = type.choices[i];
+        const auto* const end = choice.options + choice.optionCount;
+        const auto* const option =
+            std::find_if(choice.options, end, [&](const RrcRecordOption& one) { return one.bit == bit; });
+        if (option != end)
+        {
+            return std::string(choice.way.target->names[option->alternative]) + " of " + elementOf(type, choice.way);
+        }
+    }
+    return "";
+}
+
+// The element that a bit sends and the fields that it guards.
+std::string governedBy(const RrcRecordType& type, int bit)
+{
+    std::string all = type.bits[bit].way.path != nullptr ? type.bits[bit].way.path : "";
+    for (unsigned i = 0; i < type.fieldCount; ++i)
+    {
+        if (type.fields[i].guard == bit)
+        {
+            all += (all.empty() ? "" : ", ") + std::string(type.fields[i].name);
+        }
+    }
+    return all;
+}
+
+void explainBit(Session& session, const RrcRecordType& type, int index)
 {
     static constexpr const char* roles[] = {"guards", "chooses", "sends", "is not sent", "is not read"};
+    const RrcRecordBit& bit = type.bits[index];
+    heading(session, bit.name);
+    session.put(row("bit", std::to_string(bit.number) + " of " + type.name + "." + type.fields[bit.mask].name + ", " +
+                               type.header));
+    const std::string alternative = alternativeOf(type, index);
+    session.put(row(roles[bit.role], alternative.empty() ? governedBy(type, index) : alternative));
+    if (bit.otherwise != nullptr)
+    {
+        session.put(row("else", bit.otherwise));
+    }
+    if (bit.with >= 0)
+    {
+        session.put(row("looked at", std::string("with ") + type.bits[bit.with].name));
+    }
+    note(session, bit.note);
+    behaviour(session, bit.name);
+}
+
+// Of all masks that have a bit of this name.
+bool explainBits(Session& session, std::string_view name)
+{
     bool found = false;
     for (unsigned i = 0; i < rrcRecordTypeCount; ++i)
     {
         const RrcRecordType& type = *rrcRecordTypes[i];
-        for (unsigned j = 0; j < type.bitCount; ++j)
+        for (int j = 0; j < int{type.bitCount}; ++j)
         {
-            const RrcRecordBit& bit = type.bits[j];
-            if (name != bit.name)
+            if (name == type.bits[j].name)
             {
-                continue;
+                explainBit(session, type, j);
+                found = true;
             }
-            heading(session, bit.name);
-            session.put(row("bit", std::to_string(bit.number) + " of " + type.name + "." + type.fields[bit.mask].name +
-                                       ", " + type.header));
-            std::string what = bit.way.path != nullptr ? bit.way.path : "";
-            for (unsigned k = 0; k < type.fieldCount; ++k)
-            {
-                if (type.fields[k].guard == static_cast<INT32>(j))
-                {
-                    what += (what.empty() ? "" : ", ") + std::string(type.fields[k].name);
-                }
-            }
-            for (unsigned k = 0; k < type.choiceCount; ++k)
-            {
-                const RrcRecordChoice& choice = type.choices[k];
-                for (unsigned l = 0; l < choice.optionCount; ++l)
-                {
-                    if (choice.options[l].bit == static_cast<INT32>(j))
-                    {
-                        what = std::string(choice.way.target->names[choice.options[l].alternative]) + " of " +
-                               elementOf(type, choice.way);
-                    }
-                }
-            }
-            session.put(row(roles[bit.role], what));
-            if (bit.otherwise != nullptr)
-            {
-                session.put(row("else", bit.otherwise));
-            }
-            if (bit.with >= 0)
-            {
-                session.put(row("looked at", std::string("with ") + type.bits[bit.with].name));
-            }
-            note(session, bit.note);
-            behaviour(session, bit.name);
-            found = true;
         }
     }
     return found;
@@ -179,7 +197,7 @@ public:
         }
         if (const std::string values = valuesOf(place_, true); !values.empty())
         {
-            wrapped("values", values);
+            session_.put(rows("values", values, ", "));
         }
         if (field_.guard >= 0)
         {
@@ -200,19 +218,6 @@ private:
     void row(std::string_view label, const std::string& text)
     {
         session_.put(tool::row(label, text));
-    }
-
-    void wrapped(std::string_view label, std::string_view text)
-    {
-        constexpr std::size_t width = 100;
-        while (text.size() > width && text.rfind(", ", width) != std::string_view::npos)
-        {
-            const std::size_t end = text.rfind(", ", width) + 1;
-            row(label, std::string(text.substr(0, end)));
-            text.remove_prefix(end + 1);
-            label = "";
-        }
-        row(label, std::string(text));
     }
 
     void flags()
@@ -267,7 +272,7 @@ bool explainField(Session& session, const std::string& path)
         explainStructure(session, *type);
         return true;
     }
-    if (!isPath && explainBit(session, path))
+    if (!isPath && explainBits(session, path))
     {
         return true;
     }

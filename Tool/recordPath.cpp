@@ -57,15 +57,6 @@ void add(std::string& text, std::int64_t number, const char* name, bool numbered
     text += (text.empty() ? "" : ", ") + (numbered ? std::to_string(number) + ' ' : "") + name;
 }
 
-const RrcRecordChoice* choiceBy(const RecordPlace& place)
-{
-    const auto* const end = place.owner->choices + place.owner->choiceCount;
-    const auto* const found = std::find_if(place.owner->choices, end,
-                                           [&](const RrcRecordChoice& choice)
-                                           { return place.owner->fields + choice.selector == place.field; });
-    return found == end ? nullptr : found;
-}
-
 } // namespace
 
 const RrcRecordType* recordNamed(std::string_view name)
@@ -151,12 +142,14 @@ std::string valuesOf(const RecordPlace& place, bool numbered)
         text = std::to_string(field.bits) + " bits";
         break;
     case RRC_FIELD_ALTERNATIVE:
-        if (const RrcRecordChoice* const choice = choiceBy(place))
+        if (const INT32 by = rrcRecordChoiceBy(place.owner, static_cast<UINT32>(place.field - place.owner->fields));
+            by >= 0)
         {
-            for (unsigned i = 0; i < choice->optionCount; ++i)
+            const RrcRecordChoice& choice = place.owner->choices[by];
+            for (unsigned i = 0; i < choice.optionCount; ++i)
             {
-                const RrcRecordOption& option = choice->options[i];
-                add(text, option.number, choice->way.target->names[option.alternative], numbered);
+                const RrcRecordOption& option = choice.options[i];
+                add(text, option.number, choice.way.target->names[option.alternative], numbered);
             }
         }
         break;

@@ -25,11 +25,12 @@ void expectRules(const std::string& prefix)
     {
         return;
     }
-    for (std::size_t i = known.size(); i-- != 0;)
+    std::vector<std::string_view> near = known;
+    for (const std::string_view id : known)
     {
-        known.push_back(known[i].substr(0, known[i].find('-')));
+        near.push_back(id.substr(0, id.find('-')));
     }
-    const auto close = text::nearest(prefix, known);
+    const auto close = text::nearest(prefix, near);
     throw Failure(Exit::Usage, "no rule's id begins with '" + prefix + "'" +
                                    (close ? "; did you mean " + std::string(*close) + "?" : ""));
 }

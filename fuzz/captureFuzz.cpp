@@ -4,21 +4,14 @@
 #include "pcapngWriter.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
+
+#include "require.h"
+
+using fuzz::require;
 
 namespace
 {
-
-void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
 
 using Octets = std::vector<std::uint8_t>;
 

@@ -3,19 +3,13 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
+
+#include "require.h"
+
+using fuzz::require;
 
 namespace
 {
-
-void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
 
 // "s:<line>:<column>: <reason>"
 bool namesPlace(const std::string& message, std::size_t size)

@@ -5,25 +5,15 @@
 #include "NR-RRC-Definitions.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "require.h"
 #include "support/JsonText.h"
 
 namespace fuzz
 {
-
-inline void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
 
 inline void countText(void* arg, const char* text)
 {

@@ -4,20 +4,13 @@
 #include "octets.h"
 
 #include <array>
-#include <cstdio>
-#include <cstdlib>
+
+#include "require.h"
+
+using fuzz::require;
 
 namespace
 {
-
-void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
 
 void requireSame(const std::string& text, tool::Form form, const std::vector<uint8_t>& octets)
 {

@@ -2,32 +2,20 @@
 // same octets; what is not has mistakes, each with its place.
 #include "NR-RRC-Definitions.h"
 #include "NR-RRC-Tables.h"
-#include "asn1FromText.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <string>
 #include <vector>
+
+#include "mistakes.h"
+
+using fuzz::require;
 
 namespace
 {
 
-void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
-
 struct Input
 {
-    const char* text;
-    size_t length;
-    size_t last = 0; // offset of the last mistake
+    fuzz::Mistakes places;
     int mistakes = 0;
 };
 
@@ -35,15 +23,8 @@ void checkMistake(void* arg, const Asn1Mistake* mistake)
 {
     auto& input = *static_cast<Input*>(arg);
     ++input.mistakes;
-    require(mistake->offset >= input.last && mistake->offset <= input.length, "a mistake out of its place");
-    input.last = mistake->offset;
-    const auto lines = std::count(input.text, input.text + mistake->offset, '\n');
-    require(mistake->line == static_cast<OSUINT32>(lines) + 1 && mistake->column >= 1 &&
-                mistake->column <= mistake->offset + 1,
-            "a mistake's line or column");
+    input.places.expectInPlace(*mistake);
     require(std::strncmp(mistake->path, "CellGroupConfig", 15) == 0, "a path that does not begin at the root");
-    const size_t length = std::strlen(mistake->words);
-    require(length != 0 && length < 2000 && std::strchr(mistake->words, '\n') == nullptr, "the words of a mistake");
 }
 
 std::vector<OSOCTET> encode(OSCTXT& ctxt, const CellGroupConfig& value)
@@ -67,7 +48,7 @@ public:
     {
         rtxInitContext(&ctxt);
         rtxMemHeapSetLimit(&ctxt, size_t{64} << 20);
-        Input input{text, length};
+        Input input{{text, length}};
         mistakes = read(&ctxt, &nr_rrc::type_CellGroupConfig, &value, text, length, checkMistake, &input);
         require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES, "mistakes are counted otherwise");
     }

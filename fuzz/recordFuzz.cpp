@@ -5,12 +5,10 @@
 #include "rrcRecordJson.h"
 #include "vos_lib.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <string>
 #include <vector>
+
+#include "mistakes.h"
 
 // Stands in place of the platform's: a record may bring notices by the thousand.
 INT32 VOS_Printf(const char* /*format*/, ...)
@@ -18,23 +16,14 @@ INT32 VOS_Printf(const char* /*format*/, ...)
     return 0;
 }
 
+using fuzz::require;
+
 namespace
 {
 
-void require(bool condition, const char* what)
-{
-    if (!condition)
-    {
-        (void)std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
-
 struct Input
 {
-    const char* text;
-    size_t length;
-    size_t last = 0; // offset of the last mistake
+    fuzz::Mistakes places;
     int mistakes = 0;
     int unread = 0;
 };
@@ -42,22 +31,14 @@ struct Input
 void checkMistake(void* arg, const RrcRecordMistake* found)
 {
     auto& input = *static_cast<Input*>(arg);
-    const Asn1Mistake& mistake = found->mistake;
     ++(found->isUnread != 0 ? input.unread : input.mistakes);
     require(*found->file == '\0', "a mistake in a file");
-    require(mistake.offset >= input.last && mistake.offset <= input.length, "a mistake out of its place");
-    input.last = mistake.offset;
-    const auto lines = std::count(input.text, input.text + mistake.offset, '\n');
-    require(mistake.line == static_cast<OSUINT32>(lines) + 1 && mistake.column >= 1 &&
-                mistake.column <= mistake.offset + 1,
-            "a mistake's line or column");
-    const size_t length = std::strlen(mistake.words);
-    require(length != 0 && length < 2000 && std::strchr(mistake.words, '\n') == nullptr, "the words of a mistake");
+    input.places.expectInPlace(found->mistake);
 }
 
 int read(RrcCellGroupCfg_t& record, const char* text, size_t length)
 {
-    Input input{text, length};
+    Input input{{text, length}};
     const int mistakes = rrcRecordFromJson(&record, text, length, nullptr, checkMistake, &input);
     require(mistakes == input.mistakes && mistakes <= ASN1_MAX_MISTAKES && input.unread <= ASN1_MAX_MISTAKES,
             "mistakes are counted otherwise");

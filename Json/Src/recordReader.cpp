@@ -333,22 +333,10 @@ private:
         }
     }
 
-    static INT16 choiceOf(const RrcRecordType& type, std::uint32_t selector)
-    {
-        for (INT16 i = 0; i < static_cast<INT16>(type.choiceCount); ++i)
-        {
-            if (type.choices[i].selector == selector)
-            {
-                return i;
-            }
-        }
-        return -1;
-    }
-
     void alternative(const Structure& all, std::uint32_t index)
     {
         const RrcRecordField& field = all.type.fields[index];
-        const INT16 number = choiceOf(all.type, index);
+        const INT32 number = rrcRecordChoiceBy(&all.type, index);
         if (number < 0)
         {
             return;
@@ -381,7 +369,7 @@ private:
     }
 
     // Content of a choice that nothing chooses.
-    void openChoice(const Structure& all, INT16 choice, const char* selector)
+    void openChoice(const Structure& all, INT32 choice, const char* selector)
     {
         for (std::uint32_t i = 0; i < all.type.fieldCount; ++i)
         {
@@ -538,7 +526,8 @@ private:
             isRead = numberOrName(node, field, {{booleans[0], booleans[1]}, {0, 1}}, "value", bits);
             break;
         case RRC_FIELD_VALUE:
-            isRead = numberOrName(node, field, valuesOf(valueType(all, field)), "value", bits);
+            isRead =
+                numberOrName(node, field, valuesOf(rrcRecordValueType(&all.type, all.record, index)), "value", bits);
             break;
         case RRC_FIELD_BITS:
             isRead = bitString(node, field, bits);
@@ -551,18 +540,6 @@ private:
         {
             rrcRecordStore(&field, all.record, entry, bits);
         }
-    }
-
-    // The type of the alternative that is chosen by now.
-    static const RtxType* valueType(const Structure& all, const RrcRecordField& field)
-    {
-        if (field.choice < 0)
-        {
-            return nullptr;
-        }
-        const auto choice = static_cast<std::uint32_t>(field.choice);
-        const RrcRecordOption* const option = rrcRecordChosen(&all.type, all.record, choice);
-        return option == nullptr ? nullptr : all.type.choices[choice].way.target->members[option->alternative].type;
     }
 
     bool bitString(const Node& node, const RrcRecordField& field, std::uint64_t& bits)

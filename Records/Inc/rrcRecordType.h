@@ -180,6 +180,12 @@ UINT32 rrcRecordEntries(const RrcRecordType* type, const void* record, UINT32 fi
 /** The option that a choice takes; null: none, and the encoder refuses it if it is sent at all. */
 const RrcRecordOption* rrcRecordChosen(const RrcRecordType* type, const void* record, UINT32 choice);
 
+/** The choice whose alternative a field selects, by a number or as a mask; -1: none. */
+INT32 rrcRecordChoiceBy(const RrcRecordType* type, UINT32 selector);
+
+/** The type of an RRC_FIELD_VALUE's alternative; null: none is chosen, or the structure around this one chooses it. */
+const RtxType* rrcRecordValueType(const RrcRecordType* type, const void* record, UINT32 field);
+
 /** Whether a composition reads this field of a structure: 1 or 0. Of a union it reads the option's member alone. */
 INT32 rrcRecordIsRead(const RrcRecordType* type, const void* record, UINT32 field);
 

@@ -1,9 +1,9 @@
-// The fields of a record as its check takes them: what it needs of each in 32 octets, where the description has 128.
+// The fields of a record as its check takes them: what it needs of each in 16 octets, where the description has 128.
 // Made from that when it is compiled.
 #ifndef CHECKOPS_H
 #define CHECKOPS_H
 
-#include "rrcRecordType.h"
+#include "recordNumbers.h"
 
 #include <array>
 #include <cstddef>
@@ -25,44 +25,23 @@ struct RrcRecordCheckOp
         Doubtful // the same, and the guard's bit does not tell alone that it is read
     };
 
-    INT64 lower; // of numbers and counts
-    UINT64
-    span; // of numbers and counts: how many follow the lower one; Mask: bits of which something may have to be said
-    UINT32 offset;   // of the field
-    UINT32 guard;    // of the octet that holds the guard
-    UINT8 guardMask; // the bit in that octet; 0: none
-    UINT8 code;
-    UINT8 size; // of the field
-    UINT8 isSigned;
-    INT16 count; // of an array: the field that says how many entries are used; -1: none
+    static constexpr INT32 noCount = -1;
+
+    INT32 lower; // of a number or a count; of all others the field that says how many entries are used, or noCount
+    UINT32 span; // of a number or a count: how many follow the lower one; Mask: bits of which there may be something to
+                 // say
+    UINT32 offset : 24; // of the field
+    UINT32 code : 4;
+    UINT32 size : 4;   // of the field
+    UINT32 guard : 24; // of the octet that holds the guard
+    UINT32 guardBit : 3;
+    UINT32 isGuarded : 1;
+    UINT32 isSigned : 1;
 };
-static_assert(sizeof(RrcRecordCheckOp) <= 32);
+static_assert(sizeof(RrcRecordCheckOp) == 16);
 
 namespace records
 {
-
-// The octet of a record that holds a bit, and the bit in it; none: no bit.
-struct Guard
-{
-    UINT32 octet = 0;
-    UINT8 mask = 0;
-};
-
-constexpr Guard guardOf(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
-{
-    if (field.guard < 0)
-    {
-        return {};
-    }
-    const RrcRecordBit& bit = bits[field.guard];
-    return {fields[bit.mask].offset + bit.number / 8U, static_cast<UINT8>(1U << bit.number % 8)};
-}
-
-// All that so many bits can hold.
-constexpr UINT64 lowBits(unsigned count)
-{
-    return count >= 64 ? ~UINT64{0} : (UINT64{1} << count) - 1;
-}
 
 constexpr UINT64 spanOf(const RrcRecordField& field)
 {
@@ -91,6 +70,11 @@ constexpr bool isPlainlyGuarded(const RrcRecordField& field, const RrcRecordFiel
     return field.guard < 0 || (bits[field.guard].with < 0 && fields[bits[field.guard].mask].guard < 0);
 }
 
+constexpr bool isNarrow(const RrcRecordField& field)
+{
+    return field.lower >= INT32_MIN && field.lower <= INT32_MAX && spanOf(field) <= UINT32_MAX;
+}
+
 constexpr UINT8 checkCodeOf(const RrcRecordField& field, const RrcRecordField* fields, const RrcRecordBit* bits)
 {
     if (field.kind == RRC_FIELD_UNREAD || field.kind == RRC_FIELD_ALTERNATIVE ||
@@ -106,17 +90,16 @@ constexpr UINT8 checkCodeOf(const RrcRecordField& field, const RrcRecordField* f
     {
         return RrcRecordCheckOp::Field;
     }
-    if (field.kind <= RRC_FIELD_BITS && field.bound == 0)
+    if (field.kind <= RRC_FIELD_BITS && field.bound == 0 && isNarrow(field))
     {
-        const bool isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0;
-        return isSigned || field.size > 2 ? RrcRecordCheckOp::Number
-               : field.size == 1          ? RrcRecordCheckOp::Octet
-                                          : RrcRecordCheckOp::Two;
+        return isSignedNumber(field) || field.size > 2 ? RrcRecordCheckOp::Number
+               : field.size == 1                       ? RrcRecordCheckOp::Octet
+                                                       : RrcRecordCheckOp::Two;
     }
     switch (field.kind)
     {
     case RRC_FIELD_MASK:
-        return RrcRecordCheckOp::Mask;
+        return field.size <= 4 ? RrcRecordCheckOp::Mask : RrcRecordCheckOp::Field;
     case RRC_FIELD_COUNT:
         return RrcRecordCheckOp::Count;
     case RRC_FIELD_RECORD:
@@ -134,17 +117,24 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
     for (std::size_t i = 0; i < Fields; ++i)
     {
         const RrcRecordField& field = fields[i];
-        const Guard guard = guardOf(field, fields, bits);
         RrcRecordCheckOp& op = ops[i];
-        op.code = checkCodeOf(field, fields, bits);
-        op.lower = field.lower;
-        op.span = op.code == RrcRecordCheckOp::Mask ? doubtfulBits(i, field, bits, bitCount) : spanOf(field);
-        op.offset = field.offset;
-        op.guard = guard.octet;
-        op.guardMask = guard.mask;
-        op.count = field.count;
-        op.size = static_cast<UINT8>(field.size);
-        op.isSigned = field.isSigned != 0 || (field.flags & RRC_FIELD_TWOS_COMPLEMENT) != 0 ? 1 : 0;
+        op.code = checkCodeOf(field, fields, bits) & 0xFU;
+        const bool hasRange = op.code == RrcRecordCheckOp::Octet || op.code == RrcRecordCheckOp::Two ||
+                              op.code == RrcRecordCheckOp::Number || op.code == RrcRecordCheckOp::Count;
+        op.lower = hasRange ? static_cast<INT32>(field.lower) : field.count;
+        op.span = static_cast<UINT32>(op.code == RrcRecordCheckOp::Mask ? doubtfulBits(i, field, bits, bitCount)
+                                      : hasRange                        ? spanOf(field)
+                                                                        : 0);
+        op.offset = field.offset & 0xFFFFFFU;
+        op.size = field.size & 0xFU;
+        op.isSigned = isSignedNumber(field) ? 1 : 0;
+        if (field.guard >= 0)
+        {
+            const RrcRecordBit& bit = bits[field.guard];
+            op.isGuarded = 1;
+            op.guard = (fields[bit.mask].offset + bit.number / 8U) & 0xFFFFFFU;
+            op.guardBit = bit.number % 8U;
+        }
     }
     return ops;
 }

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "checkOps.h"
+#include "checkText.h"
 #include "generalRules.h"
 #include "recordChecks.h"
 #include "rrcRecordType.h"
@@ -18,6 +19,8 @@ namespace recordCheck
 {
 namespace
 {
+
+static_assert(sizeof(RrcCellGroupCfg_t) <= 1U << 24, "an offset has 24 bits");
 
 using rtx::append;
 using rtx::Kind;
@@ -93,257 +96,6 @@ private:
     UINT16 first_[sizeof records];
     unsigned used_ = 0;
 };
-
-// A record on the way from the cell group to what is looked at.
-struct Frame
-{
-    Frame(const RrcRecordType& itsType, const void* itsRecord, const Frame* around, const Type* itsContent = nullptr)
-        : type(itsType), record(itsRecord), outer(around), content(itsContent)
-    {
-    }
-
-    const RrcRecordType& type;
-    const void* record;
-    const Frame* outer;
-    const Type* content; // of the alternative that it holds, where the record around it chooses
-    UINT32 field = 0;    // that is looked at, and which entry
-    UINT32 entry = 0;
-    const RrcRecordOption* chosen[RRC_RECORD_MAX_CHOICES] = {};
-
-    const RrcRecordField& at() const
-    {
-        return type.fields[field];
-    }
-
-    const void* place() const
-    {
-        return rrcRecordPlace(&at(), record, entry);
-    }
-};
-
-const Type* alternativeOf(const RrcRecordChoice& choice, const RrcRecordOption* option)
-{
-    return option == nullptr ? nullptr : choice.way.target->members[option->sentAs].type;
-}
-
-// The type of a value whose alternative is chosen elsewhere; null: it has none.
-const Type* contentOf(const Frame& frame)
-{
-    const INT16 choice = frame.at().choice;
-    const Type* content = choice < 0 ? frame.content : alternativeOf(frame.type.choices[choice], frame.chosen[choice]);
-    if (content != nullptr && (content->kind == Kind::Array || content->kind == Kind::List))
-    {
-        content = &content->element();
-    }
-    return content;
-}
-
-// What holds a list: the type with it as a member, and which.
-struct Listed
-{
-    const Type* container;
-    UINT16 member;
-    const Type* list;
-};
-
-Listed listOf(const Type* element, const RrcRecordWay& way)
-{
-    Listed found = {nullptr, 0, element};
-    for (UINT32 i = 0; i < way.stepCount && way.steps[i] != RRC_STEP_ENTRY; ++i)
-    {
-        found = {found.list, way.steps[i], found.list->members[way.steps[i]].type};
-    }
-    return found;
-}
-
-// The greatest value of an enumeration that is no spare one.
-INT64 lastValue(const Type& type)
-{
-    INT64 last = type.upper;
-    for (; last > 0 && std::strncmp(type.names[last], "spare", 5) == 0; --last)
-    {
-    }
-    return last;
-}
-
-bool isNamed(const Type* type)
-{
-    return type != nullptr && type->kind == Kind::Enumerated;
-}
-
-INT64 nearest(INT64 value, INT64 lower, INT64 upper)
-{
-    return std::clamp(value, lower, upper);
-}
-
-// A number and its value's name.
-void appendValue(Line& line, const Type* type, INT64 value)
-{
-    append(line, "%" PRId64, INT64{value});
-    if (isNamed(type) && value >= 0 && value <= type->upper)
-    {
-        append(line, " %s", type->names[value]);
-    }
-}
-
-void appendRange(Line& line, const Type* type, INT64 lower, INT64 upper)
-{
-    appendValue(line, type, lower);
-    if (lower != upper)
-    {
-        append(line, isNamed(type) ? " .. " : "..");
-        appendValue(line, type, upper);
-    }
-}
-
-// The value of an enumeration whose name has a number in it, as "ms40" has 40; -1: none.
-INT64 valueNamed(const Type& type, INT64 number)
-{
-    for (INT32 i = 0; i <= type.upper; ++i)
-    {
-        const char* digits = type.names[i];
-        digits += std::strcspn(digits, "0123456789");
-        INT64 found = 0;
-        const char* end = digits;
-        for (; *end >= '0' && *end <= '9'; ++end)
-        {
-            found = found * 10 + (*end - '0');
-        }
-        if (end != digits && *end == '\0' && found == number)
-        {
-            return i;
-        }
-    }
-    return -1;
-}
-
-// Bits of a mask by their numbers: "bit 5", "bits 0..3, 9".
-void appendBits(Line& line, UINT64 bits)
-{
-    append(line, std::has_single_bit(bits) ? "bit " : "bits ");
-    const char* separator = "";
-    while (bits != 0)
-    {
-        const int first = std::countr_zero(bits);
-        const int count = std::countr_one(bits >> first);
-        append(line, count == 1 ? "%s%d" : "%s%d..%d", separator, first, first + count - 1);
-        separator = ", ";
-        bits &= ~(records::lowBits(static_cast<unsigned>(count)) << first);
-    }
-}
-
-// Those that choose.
-void appendBitNames(Line& line, const RrcRecordType& type, const RrcRecordChoice& choice)
-{
-    const char* separator = "";
-    for (UINT32 i = 0; i < choice.optionCount; ++i)
-    {
-        if (choice.options[i].bit >= 0)
-        {
-            append(line, "%s%s", separator, type.bits[choice.options[i].bit].name);
-            separator = ", ";
-        }
-    }
-}
-
-// Paths.
-
-void appendPath(Line& line, const Frame& frame)
-{
-    if (frame.outer != nullptr)
-    {
-        appendPath(line, *frame.outer);
-        append(line, ".");
-    }
-    append(line, "%s", frame.at().name);
-    if (frame.at().bound != 0 && frame.at().kind != RRC_FIELD_OCTETS)
-    {
-        append(line, "[%" PRIu32 "]", uint32_t{frame.entry});
-    }
-}
-
-void appendStep(Line& line, const Type& type, UINT16 step)
-{
-    append(line, ".%s", type.names[step]);
-}
-
-void appendWay(Line& line, const Type* element, const RrcRecordWay& way, UINT32 entry, bool withEntry)
-{
-    for (UINT32 i = 0; i < way.stepCount; ++i)
-    {
-        if (way.steps[i] == RRC_STEP_ENTRY)
-        {
-            if (!withEntry)
-            {
-                return;
-            }
-            append(line, "[%" PRIu32 "]", uint32_t{entry});
-            element = &element->element();
-        }
-        else
-        {
-            appendStep(line, *element, way.steps[i]);
-            element = element->members[way.steps[i]].type;
-        }
-    }
-}
-
-// The element that a record holds.
-void appendElement(Line& line, const Frame& frame)
-{
-    if (frame.outer == nullptr)
-    {
-        append(line, "CellGroupConfig");
-        return;
-    }
-    appendElement(line, *frame.outer);
-    appendWay(line, frame.outer->type.element, frame.outer->at().way, frame.outer->entry, true);
-}
-
-// The element that the field feeds; false: none.
-bool appendFieldElement(Line& line, const Frame& frame)
-{
-    const RrcRecordField& field = frame.at();
-    const RrcRecordType& type = frame.type;
-    if (field.kind == RRC_FIELD_VALUE)
-    {
-        appendElement(line, frame);
-        if (field.choice >= 0)
-        {
-            const RrcRecordChoice& choice = type.choices[field.choice];
-            appendWay(line, type.element, choice.way, 0, true);
-            if (frame.chosen[field.choice] != nullptr)
-            {
-                appendStep(line, *choice.way.target, frame.chosen[field.choice]->sentAs);
-            }
-        }
-        if (field.bound != 0)
-        {
-            append(line, "[%" PRIu32 "]", uint32_t{frame.entry});
-        }
-        return true;
-    }
-    if (field.kind == RRC_FIELD_COUNT)
-    {
-        for (UINT32 i = 0; i < type.fieldCount; ++i)
-        {
-            if (type.fields[i].count == static_cast<INT32>(frame.field) && type.fields[i].way.path != nullptr)
-            {
-                appendElement(line, frame);
-                appendWay(line, type.element, type.fields[i].way, 0, false);
-                return true;
-            }
-        }
-        return false;
-    }
-    if (field.way.path == nullptr)
-    {
-        return false;
-    }
-    appendElement(line, frame);
-    appendWay(line, type.element, field.way, frame.entry, true);
-    return true;
-}
 
 // A finding's texts.
 struct Texts
@@ -447,53 +199,53 @@ private:
         for (UINT32 i = 0; i < fields; ++i)
         {
             const RrcRecordCheckOp& op = ops[i];
-            const bool guarded = op.guardMask != 0 && (record[op.guard] & op.guardMask) == 0;
+            if (op.isGuarded != 0 && (record[op.guard] >> op.guardBit & 1) == 0)
+            {
+                continue;
+            }
             switch (op.code)
             {
             case RrcRecordCheckOp::Octet:
-                if (!guarded && record[op.offset] - static_cast<UINT64>(op.lower) > op.span)
+                if (record[op.offset] - static_cast<UINT64>(op.lower) > op.span)
                 {
                     number(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Two:
-                if (!guarded && bitsAt(2, record + op.offset) - static_cast<UINT64>(op.lower) > op.span)
+                if (records::bitsAt(2, record + op.offset) - static_cast<UINT64>(op.lower) > op.span)
                 {
                     number(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Number:
-                if (!guarded && !isInRange(op, record + op.offset))
+                if (!isInRange(op, record + op.offset))
                 {
                     number(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Mask:
-                if (!guarded && (bitsAt(op.size, record + op.offset) & op.span) != 0)
+                if ((records::bitsAt(op.size, record + op.offset) & op.span) != 0)
                 {
                     mask(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Count:
-                if (!guarded && !isInRange(op, record + op.offset))
+                if (!isInRange(op, record + op.offset))
                 {
                     count(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Record:
-                if (!guarded)
-                {
-                    inner(at(frame, i), record + op.offset, nullptr);
-                }
+                inner(at(frame, i), record + op.offset, nullptr);
                 break;
             case RrcRecordCheckOp::Records:
-                if (!guarded && !isEmpty(type, op, record))
+                if (!isEmpty(type, op, record))
                 {
                     entries(at(frame, i));
                 }
                 break;
             case RrcRecordCheckOp::Field:
-                if (!guarded && !isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
+                if (!isEmpty(type, op, record) && isChosen(frame, type.fields[i], i))
                 {
                     field(at(frame, i));
                 }
@@ -510,7 +262,8 @@ private:
     // Whether an array has no entries, as most have.
     static bool isEmpty(const RrcRecordType& type, const RrcRecordCheckOp& op, const unsigned char* record)
     {
-        return op.count >= 0 && bitsAt(type.checks[op.count].size, record + type.checks[op.count].offset) == 0;
+        return op.lower != RrcRecordCheckOp::noCount &&
+               records::bitsAt(type.checks[op.lower].size, record + type.checks[op.lower].offset) == 0;
     }
 
     // Whether the record's choices leave a field.
@@ -538,7 +291,7 @@ private:
             return rrcRecordEntries(&frame.type, frame.record, frame.field);
         }
         const RrcRecordCheckOp& count = frame.type.checks[field.count];
-        const UINT64 used = bitsAt(count.size, static_cast<const unsigned char*>(frame.record) + count.offset);
+        const UINT64 used = records::bitsAt(count.size, static_cast<const unsigned char*>(frame.record) + count.offset);
         return static_cast<UINT32>(std::min<UINT64>(used, field.bound));
     }
 
@@ -557,34 +310,24 @@ private:
         return frame;
     }
 
-    static UINT64 bitsAt(unsigned size, const unsigned char* place)
+    static UINT64 bitsAt(unsigned size, bool isSigned, const unsigned char* place)
     {
-        UINT64 bits = 0;
-        switch (size)
-        {
-        case 1:
-            return *place;
-        case 2:
-            std::memcpy(&bits, place, 2);
-            return bits;
-        case 4:
-            std::memcpy(&bits, place, 4);
-            return bits;
-        default:
-            std::memcpy(&bits, place, 8);
-            return bits;
-        }
+        const UINT64 bits = records::bitsAt(size, place);
+        return isSigned ? records::signExtended(bits, size) : bits;
     }
 
     static bool isInRange(const RrcRecordCheckOp& op, const unsigned char* place)
     {
-        UINT64 bits = bitsAt(op.size, place);
-        if (op.isSigned != 0)
-        {
-            const unsigned above = 64 - 8U * op.size;
-            bits = static_cast<UINT64>(static_cast<INT64>(bits << above) >> above);
-        }
-        return bits - static_cast<UINT64>(op.lower) <= op.span;
+        return bitsAt(op.size, op.isSigned != 0, place) - static_cast<UINT64>(op.lower) <= op.span;
+    }
+
+    // The same by the description.
+    static bool isInRange(const Frame& frame)
+    {
+        const RrcRecordField& field = frame.at();
+        const auto* const place = static_cast<const unsigned char*>(frame.place());
+        const UINT64 bits = bitsAt(field.size, records::isSignedNumber(field), place);
+        return bits - static_cast<UINT64>(field.lower) <= records::spanOf(field);
     }
 
     void inner(Frame& frame, const void* record, const Type* content)
@@ -623,7 +366,7 @@ private:
             mask(frame);
             break;
         case RRC_FIELD_COUNT:
-            if (!isInRange(type.checks[frame.field], static_cast<const unsigned char*>(frame.place())))
+            if (!isInRange(frame))
             {
                 count(frame);
             }
@@ -665,11 +408,10 @@ private:
         const UINT32 count = entriesOf(frame);
         identities(frame, count);
         const bool isValue = frame.at().kind == RRC_FIELD_VALUE;
-        const RrcRecordCheckOp& op = frame.type.checks[frame.field];
         for (UINT32 i = 0; i < count && !ended_; ++i)
         {
             frame.entry = i;
-            if (isValue || frame.at().bitWidth != 0 || !isInRange(op, static_cast<const unsigned char*>(frame.place())))
+            if (isValue || frame.at().bitWidth != 0 || !isInRange(frame))
             {
                 number(frame);
             }
@@ -996,17 +738,17 @@ private:
         const RrcRecordChoice& choice = frame.type.choices[index];
         const RrcRecordField& selector = frame.type.fields[choice.selector];
         const RrcRecordOption*& option = frame.chosen[index];
-        option = nullptr;
-        if (choice.byNumber != 0 && selector.guard < 0) // mostly they are numbered in their order
+        const RrcRecordCheckOp& op = frame.type.checks[choice.selector];
+        const bool isOff =
+            op.isGuarded != 0 && (static_cast<const unsigned char*>(frame.record)[op.guard] >> op.guardBit & 1) == 0;
+        if (!records::isPlainlyGuarded(selector, frame.type.fields, frame.type.bits))
         {
-            const auto* const place = static_cast<const unsigned char*>(frame.record) + selector.offset;
-            const UINT64 number = bitsAt(selector.size, place);
-            const UINT64 likely = number - static_cast<UINT64>(choice.options[0].number);
-            const bool known =
-                likely < choice.optionCount && choice.options[likely].number == static_cast<INT64>(number);
-            option = known ? choice.options + likely : nullptr;
+            option = rrcRecordChosen(&frame.type, frame.record, index);
         }
-        option = option != nullptr ? option : rrcRecordChosen(&frame.type, frame.record, index);
+        else
+        {
+            option = isOff ? nullptr : records::optionBy(choice, rrcRecordBits(&selector, frame.record, 0));
+        }
         if (option == nullptr && isSent(at(frame, choice.selector), choice))
         {
             notChosen(frame, choice);

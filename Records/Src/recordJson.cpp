@@ -135,8 +135,8 @@ private:
         {
             return value != shownEntries(place, index, given);
         }
-        const INT16 choice = choiceOf(type, index);
-        const INT16 option = choice < 0 ? choice : following.options[choice];
+        const INT32 choice = rrcRecordChoiceBy(&type, index);
+        const INT32 option = choice < 0 ? choice : following.options[choice];
         return option < 0 || value != static_cast<UINT64>(type.choices[choice].options[option].number);
     }
 
@@ -150,18 +150,6 @@ private:
             }
         }
         return 0;
-    }
-
-    static INT16 choiceOf(const RrcRecordType& type, UINT32 selector)
-    {
-        for (UINT32 i = 0; i < type.choiceCount; ++i)
-        {
-            if (type.choices[i].selector == selector)
-            {
-                return static_cast<INT16>(i);
-            }
-        }
-        return -1;
     }
 
     void member(const char* name)
@@ -267,7 +255,7 @@ private:
             bitString(field, bits);
             break;
         case RRC_FIELD_VALUE:
-            nameOrNumber(nameOf(valueType(place, field), bits), bits);
+            nameOrNumber(nameOf(rrcRecordValueType(&place.type, place.record, index), bits), bits);
             break;
         case RRC_FIELD_ALTERNATIVE:
             nameOrNumber(alternativeName(place, index), bits);
@@ -288,21 +276,9 @@ private:
         name != nullptr ? string(name) : number(value);
     }
 
-    // The type of the chosen alternative; null where the structure around this one chooses.
-    static const RtxType* valueType(const Place& place, const RrcRecordField& field)
-    {
-        if (field.choice < 0)
-        {
-            return nullptr;
-        }
-        const auto choice = static_cast<UINT32>(field.choice);
-        const RrcRecordOption* const option = rrcRecordChosen(&place.type, place.record, choice);
-        return option == nullptr ? nullptr : place.type.choices[choice].way.target->members[option->alternative].type;
-    }
-
     static const char* alternativeName(const Place& place, UINT32 selector)
     {
-        const INT16 choice = choiceOf(place.type, selector);
+        const INT32 choice = rrcRecordChoiceBy(&place.type, selector);
         const RrcRecordOption* const option =
             choice < 0 ? nullptr : rrcRecordChosen(&place.type, place.record, static_cast<UINT32>(choice));
         return option == nullptr ? nullptr : place.type.choices[choice].way.target->names[option->alternative];

@@ -2,6 +2,9 @@
 
 #include <cstring>
 
+#include "recordNumbers.h"
+#include "rtxType.h"
+
 namespace
 {
 
@@ -125,20 +128,14 @@ const void* rrcRecordPlace(const RrcRecordField* field, const void* record, UINT
 
 UINT64 rrcRecordBits(const RrcRecordField* field, const void* record, UINT32 index)
 {
-    UINT64 bits = 0;
-    std::memcpy(&bits, rrcRecordPlace(field, record, index), field->size);
-    return field->bitWidth == 0 ? bits : bits & ((UINT64{1} << field->bitWidth) - 1);
+    const UINT64 bits = records::bitsAt(field->size, rrcRecordPlace(field, record, index));
+    return field->bitWidth == 0 ? bits : bits & records::lowBits(field->bitWidth);
 }
 
 INT64 rrcRecordNumber(const RrcRecordField* field, const void* record, UINT32 index)
 {
     const UINT64 bits = rrcRecordBits(field, record, index);
-    if (field->isSigned == 0 && (field->flags & RRC_FIELD_TWOS_COMPLEMENT) == 0)
-    {
-        return static_cast<INT64>(bits);
-    }
-    const unsigned above = 64 - 8 * field->size;
-    return static_cast<INT64>(bits << above) >> above;
+    return static_cast<INT64>(records::isSignedNumber(*field) ? records::signExtended(bits, field->size) : bits);
 }
 
 void rrcRecordStore(const RrcRecordField* field, void* record, UINT32 index, UINT64 bits)
@@ -177,22 +174,29 @@ UINT32 rrcRecordEntries(const RrcRecordType* type, const void* record, UINT32 fi
 const RrcRecordOption* rrcRecordChosen(const RrcRecordType* type, const void* record, UINT32 choice)
 {
     const RrcRecordChoice& found = type->choices[choice];
-    if (rrcRecordIsRead(type, record, found.selector) == 0)
+    return rrcRecordIsRead(type, record, found.selector) == 0
+               ? nullptr
+               : records::optionBy(found, rrcRecordBits(&type->fields[found.selector], record, 0));
+}
+
+INT32 rrcRecordChoiceBy(const RrcRecordType* type, UINT32 selector)
+{
+    for (INT32 i = 0; i < INT32{type->choiceCount}; ++i)
     {
-        return nullptr;
-    }
-    const UINT64 selector = rrcRecordBits(&type->fields[found.selector], record, 0);
-    for (unsigned i = found.optionCount; i-- != 0;)
-    {
-        const RrcRecordOption& option = found.options[i];
-        const bool taken = found.byNumber != 0 ? selector == static_cast<UINT64>(option.number)
-                                               : option.number < 0 || (selector >> option.number & 1) != 0;
-        if (taken)
+        if (type->choices[i].selector == selector)
         {
-            return &option;
+            return i;
         }
     }
-    return nullptr;
+    return -1;
+}
+
+const RtxType* rrcRecordValueType(const RrcRecordType* type, const void* record, UINT32 field)
+{
+    const INT16 choice = type->fields[field].choice;
+    const RrcRecordOption* const option =
+        choice < 0 ? nullptr : rrcRecordChosen(type, record, static_cast<UINT32>(choice));
+    return option == nullptr ? nullptr : type->choices[choice].way.target->members[option->alternative].type;
 }
 
 INT32 rrcRecordIsRead(const RrcRecordType* type, const void* record, UINT32 field)

@@ -143,7 +143,7 @@ TEST_F(Decompose, whatRecordsComposeToComesBack)
 {
     const auto drawn = std::make_unique<RrcCellGroupCfg_t>();
     records::Chance chance(records::Chance::Ranges::kept);
-    for (std::uint32_t seed = 1; seed <= 10000; ++seed)
+    for (std::uint32_t seed = 1; seed <= records::shareOf(10000); ++seed)
     {
         chance.start(seed);
         records::draw(chance, *drawn);
@@ -360,7 +360,7 @@ protected:
         Counts counts;
         const auto drawn = std::make_unique<RrcCellGroupCfg_t>();
         records::Chance chance(records::Chance::Ranges::kept);
-        for (std::uint32_t seed = 1; seed <= 2000 && !HasFailure(); ++seed)
+        for (std::uint32_t seed = 1; seed <= records::shareOf(2000) && !HasFailure(); ++seed)
         {
             SCOPED_TRACE(seed);
             chance.start(seed);
@@ -377,7 +377,7 @@ protected:
 TEST_F(AnyTree, nothingIsLeftOutInSilence)
 {
     Counts counts;
-    for (std::uint64_t seed = 1; seed <= 20000 && !HasFailure(); ++seed)
+    for (std::uint64_t seed = 1; seed <= records::shareOf(20000) && !HasFailure(); ++seed)
     {
         SCOPED_TRACE(seed);
         test::RandomTree::Options options;
@@ -387,8 +387,8 @@ TEST_F(AnyTree, nothingIsLeftOutInSilence)
         test::RandomTree(context_, seed, options).fill(nr_rrc::type_CellGroupConfig, &tree_);
         check(counts);
     }
-    EXPECT_GT(counts.silent, 5000U);
-    EXPECT_GT(counts.told, 5000U);
+    EXPECT_GT(counts.silent, records::shareOf(5000));
+    EXPECT_GT(counts.told, records::shareOf(5000));
 }
 
 TEST_F(AnyTree, changedTreesOfRecords)
@@ -396,8 +396,8 @@ TEST_F(AnyTree, changedTreesOfRecords)
     const Counts counts = checkTreesOfRecords(
         true, [this](test::RandomTree& random)
         { random.change(nr_rrc::type_CellGroupConfig, &tree_, 1 + static_cast<unsigned>(random.below(3))); });
-    EXPECT_GT(counts.silent, 200U);
-    EXPECT_GT(counts.told, 200U);
+    EXPECT_GT(counts.silent, records::shareOf(200));
+    EXPECT_GT(counts.told, records::shareOf(200));
 }
 
 // The sanitizers look on.
@@ -406,8 +406,8 @@ TEST_F(AnyTree, spoiltTreesOfRecords)
     const Counts counts = checkTreesOfRecords(
         false, [this](test::RandomTree& random)
         { random.spoil(nr_rrc::type_CellGroupConfig, &tree_, 1 + static_cast<unsigned>(random.below(3))); });
-    EXPECT_GT(counts.silent, 200U);
-    EXPECT_GT(counts.told, 200U);
+    EXPECT_GT(counts.silent, records::shareOf(200));
+    EXPECT_GT(counts.told, records::shareOf(200));
 }
 
 } // namespace

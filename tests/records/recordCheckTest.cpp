@@ -60,7 +60,7 @@ TEST_P(laws, errorsAreRefusals)
     std::vector<UINT8> octets(8192);
     records::Chance chance(GetParam());
     unsigned refused = 0;
-    for (std::uint32_t seed = 1; seed <= 10000; ++seed)
+    for (std::uint32_t seed = 1; seed <= records::shareOf(10000); ++seed)
     {
         chance.start(seed);
         records::draw(chance, *record);
@@ -80,8 +80,8 @@ TEST_P(laws, errorsAreRefusals)
         }
         EXPECT_EQ(status == RRC_COMPOSE_OK, found.errors == 0) << "cell group " << seed << ": " << error << "\n" << all;
     }
-    EXPECT_EQ(refused > 3000, GetParam() == Ranges::dropped) << refused;
-    EXPECT_LT(refused, 7000U);
+    EXPECT_EQ(refused > records::shareOf(3000), GetParam() == Ranges::dropped) << refused;
+    EXPECT_LT(refused, records::shareOf(7000));
 }
 
 // Without the one bit that says what is so without it.
@@ -114,7 +114,7 @@ TEST_P(laws, silenceIsSent)
     const auto back = records::junk(9);
     records::Chance chance(GetParam());
     unsigned silent = 0;
-    for (std::uint32_t seed = 1; seed <= 10000; ++seed)
+    for (std::uint32_t seed = 1; seed <= records::shareOf(10000); ++seed)
     {
         chance.start(seed);
         records::draw(chance, *record);
@@ -135,7 +135,7 @@ TEST_P(laws, silenceIsSent)
         rtFreeContext(&context);
         ASSERT_EQ(json(*back), json(*record)) << "cell group " << seed;
     }
-    EXPECT_GT(silent, 1000U);
+    EXPECT_GT(silent, records::shareOf(1000));
 }
 
 // Fills what lies behind clear bits and counts; a count itself stands beside its bit and is always somebody's.

@@ -46,7 +46,7 @@ TEST_P(recordTypes, nothingElseIsRead)
     const auto record = junk(1);
     const auto copy = junk(2);
     records::Chance chance(GetParam());
-    for (std::uint32_t seed = 1; seed <= 5000; ++seed)
+    for (std::uint32_t seed = 1; seed <= records::shareOf(5000); ++seed)
     {
         chance.start(seed);
         records::draw(chance, *record);
@@ -195,7 +195,7 @@ TEST(recordTypes, rangesAreThoseDrawn)
     const auto record = junk(3);
     records::Chance chance(Ranges::kept);
     std::map<const RrcRecordField*, Seen> seen;
-    for (std::uint32_t seed = 1; seed <= 10000; ++seed)
+    for (std::uint32_t seed = 1; seed <= records::shareOf(10000); ++seed)
     {
         chance.start(seed);
         records::draw(chance, *record);
