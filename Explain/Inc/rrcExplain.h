@@ -6,7 +6,7 @@
 #ifndef RRCEXPLAIN_H
 #define RRCEXPLAIN_H
 
-#include "rrcRules.h"
+#include "rrcContext.h"
 
 #ifdef __cplusplus
 extern "C"

@@ -1,13 +1,13 @@
 // The configuration as rules speak of it: cells, bandwidth parts, what is listed by ids. Made of the element, of what
 // was configured before it, and of what is known besides; each part when the first rule asks for it, once.
-#ifndef RULES_MODEL_H
-#define RULES_MODEL_H
+#ifndef MODEL_MODEL_H
+#define MODEL_MODEL_H
 
 #include "counterparts.h"
 #include "ids.h"
 #include "memory.h"
 #include "nrFormulas.h"
-#include "rrcRules.h"
+#include "rrcContext.h"
 #include "tree.h"
 
 namespace rules

@@ -1,6 +1,6 @@
 // What a list that is added to, modified and released one by one holds after the message.
-#ifndef RULES_IDS_H
-#define RULES_IDS_H
+#ifndef MODEL_IDS_H
+#define MODEL_IDS_H
 
 #include "memory.h"
 

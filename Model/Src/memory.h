@@ -1,6 +1,6 @@
 // What a check needs besides the stack: taken from the context's heap, never given back one by one.
-#ifndef RULES_MEMORY_H
-#define RULES_MEMORY_H
+#ifndef MODEL_MEMORY_H
+#define MODEL_MEMORY_H
 
 #include "rtxHeap.h"
 

@@ -1,6 +1,6 @@
 // When and where search spaces are monitored.
-#ifndef RULES_SEARCHSPACES_H
-#define RULES_SEARCHSPACES_H
+#ifndef MODEL_SEARCHSPACES_H
+#define MODEL_SEARCHSPACES_H
 
 #include "modelLists.h"
 

@@ -1,7 +1,7 @@
 // Reading an element tree that may be anything: pointers are followed only into the heap that the tree lies in, and
 // every count is bounded.
-#ifndef RULES_TREE_H
-#define RULES_TREE_H
+#ifndef MODEL_TREE_H
+#define MODEL_TREE_H
 
 #include "NR-RRC-Definitions.h"
 #include "rtxTree.h"

@@ -1,6 +1,6 @@
 // What an element of the state after a message was before it, and what the message itself says of it.
-#ifndef RULES_COUNTERPARTS_H
-#define RULES_COUNTERPARTS_H
+#ifndef MODEL_COUNTERPARTS_H
+#define MODEL_COUNTERPARTS_H
 
 #include "memory.h"
 #include "rtxType.h"

@@ -1,6 +1,6 @@
 // Every value of a tree, for rules that hold wherever a type occurs.
-#ifndef RULES_WALK_H
-#define RULES_WALK_H
+#ifndef MODEL_WALK_H
+#define MODEL_WALK_H
 
 #include "rtxTree.h"
 #include "rtxType.h"

@@ -1,8 +1,8 @@
 // Where a walk over a tree stands, and the path that it tells of it.
-#ifndef RULES_PATH_H
-#define RULES_PATH_H
+#ifndef MODEL_PATH_H
+#define MODEL_PATH_H
 
-#include "rrcRules.h"
+#include "rrcContext.h"
 
 #include "rtxLine.h"
 #include "rtxTree.h"

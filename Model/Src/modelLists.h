@@ -1,6 +1,6 @@
 // What the members of a bandwidth part and of a cell list by ids.
-#ifndef RULES_MODELLISTS_H
-#define RULES_MODELLISTS_H
+#ifndef MODEL_MODELLISTS_H
+#define MODEL_MODELLISTS_H
 
 #include "model.h"
 
