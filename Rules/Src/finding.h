@@ -4,6 +4,7 @@
 
 #include "memory.h"
 #include "path.h"
+#include "rrcRules.h"
 #include "tree.h"
 
 namespace rules
