@@ -1,4 +1,5 @@
-// What excludes each other: uplink on downlink symbols, PUCCH in the same symbols, what reaches beyond its bandwidth part.
+// What excludes each other: uplink on downlink symbols, PUCCH in the same symbols, what reaches beyond its bandwidth
+// part.
 #include "gather.h"
 
 #include "rtxLine.h"
@@ -65,8 +66,7 @@ void beyondBwp(Gather& gather, Resource& resource)
                     occasion.clashes = true;
                 }
                 gather.clash(words("%s: %s, but its bandwidth part is %s", resource.title.c_str(),
-                                   spanWords("resource block", rect.rbs).c_str(),
-                                   spanWords("", resource.own).c_str()),
+                                   spanWords("resource block", rect.rbs).c_str(), spanWords("", resource.own).c_str()),
                              resource.path);
                 return;
             }

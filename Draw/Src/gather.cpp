@@ -75,9 +75,9 @@ std::string words(const char* format, ...)
 std::string spanWords(const char* what, NrSpan span)
 {
     const char* const gap = *what == '\0' ? "" : " ";
-    return span.size == 1 ? words("%s%s%u", what, gap, span.start)
-                          : words("%s%s%s%u..%u", what, *what == '\0' ? "" : "s", gap, span.start,
-                                  span.start + span.size - 1);
+    return span.size == 1
+               ? words("%s%s%u", what, gap, span.start)
+               : words("%s%s%s%u..%u", what, *what == '\0' ? "" : "s", gap, span.start, span.start + span.size - 1);
 }
 
 std::string recurrenceWords(OSUINT32 period, OSUINT32 offset, OSUINT32 duration)
@@ -218,9 +218,10 @@ void Gather::fillSlots(Grid& grid, Resource& resource)
         }
         if (++occasions_ > mostOccasions)
         {
-            cannot(resource.path, resource.title,
-                   words("from slot %u on: the picture has no room for more than %u occasions of a cell; draw fewer slots",
-                         slot, mostOccasions));
+            cannot(
+                resource.path, resource.title,
+                words("from slot %u on: the picture has no room for more than %u occasions of a cell; draw fewer slots",
+                      slot, mostOccasions));
             return;
         }
         const OSUINT32 number = slot >= offset ? (slot - offset) / resource.period : 0;

@@ -30,7 +30,7 @@ struct Place
     Bwp* bwp;
     size_t grid;
     size_t panel;
-    Known<NrSpan> rbs; // on the panel's axis
+    Known<NrSpan> rbs;           // on the panel's axis
     Known<OSUINT32> commonStart; // its first common resource block
 };
 

@@ -26,9 +26,9 @@ struct Shown
 };
 
 // An HTML fragment with all there is to say about one message, or about two and their differences, and with the data
-// that the page's script shows it by. Empty of no message; of more than two the first ones are shown. `known` is what is
-// known besides the messages, null: nothing; its `previous` is not read. Instead `held` is what the UE has before them: a
-// CellGroupConfig in unaligned PER, empty: as `known` says otherwise.
+// that the page's script shows it by. Empty of no message; of more than two the first ones are shown. `known` is what
+// is known besides the messages, null: nothing; its `previous` is not read. Instead `held` is what the UE has before
+// them: a CellGroupConfig in unaligned PER, empty: as `known` says otherwise.
 std::string content(std::span<const Shown> messages, const RrcRuleContext* known,
                     std::span<const std::uint8_t> held = {});
 

@@ -66,8 +66,8 @@ constexpr std::size_t mostFindings = 120000; // texts of findings
 constexpr std::size_t mostOctets = 940000;   // of all of it, besides style and script
 
 // The elements as nested lists. An item is `name literal`, or `name` and the list of what it has; end tags that HTML
-// does not ask for are left out, as a large message has tens of thousands of items. Lists for which there is no room are
-// left to the script: it makes them of numbers, as the same items come again and again.
+// does not ask for are left out, as a large message has tens of thousands of items. Lists for which there is no room
+// are left to the script: it makes them of numbers, as the same items come again and again.
 class TreeWriter
 {
 public:
@@ -155,8 +155,8 @@ private:
         }
     }
 
-    // A leaf as the number of its item; of what has a list, that number less all there are, behind it 0 or 1 of an array
-    // and how many items the list has.
+    // A leaf as the number of its item; of what has a list, that number less all there are, behind it 0 or 1 of an
+    // array and how many items the list has.
     void defer(std::uint32_t number)
     {
         const Node& node = nodes_[number];
@@ -238,15 +238,15 @@ private:
     std::vector<bool> isShown_; // of each finding
     std::size_t next_ = 0;      // finding
     std::string rest_;
-    bool isFirst_ = false;   // number of a list in it
-    std::size_t lists_ = 0;  // that the script makes
+    bool isFirst_ = false;  // number of a list in it
+    std::size_t lists_ = 0; // that the script makes
     std::size_t deferred_ = 0;
     std::vector<std::string> heads_;
     std::map<std::string, std::size_t> headNumbers_;
 };
 
-// Of each node in their order the number of its bits where they begin behind the first bit of the list before, or behind
-// the last bit of the leaf; else that distance as well: [distance, number]. null of a node without a place.
+// Of each node in their order the number of its bits where they begin behind the first bit of the list before, or
+// behind the last bit of the leaf; else that distance as well: [distance, number]. null of a node without a place.
 std::string bitsJson(const Tree& tree)
 {
     std::string text;
@@ -297,13 +297,12 @@ std::string countsOf(const Remarks& remarks)
     std::string text;
     for (const OSUINT8 severity : {RRC_RULE_ERROR, RRC_RULE_WARNING, RRC_RULE_NOTICE})
     {
-        const auto count =
-            std::count_if(remarks.findings.begin(), remarks.findings.end(),
-                          [&](const Remarks::Finding& one) { return one.finding.severity == severity; });
+        const auto count = std::count_if(remarks.findings.begin(), remarks.findings.end(),
+                                         [&](const Remarks::Finding& one) { return one.finding.severity == severity; });
         if (count != 0)
         {
-            text += (text.empty() ? "" : ", ") +
-                    counted(static_cast<std::uint64_t>(count), rrcRuleSeverityName(severity));
+            text +=
+                (text.empty() ? "" : ", ") + counted(static_cast<std::uint64_t>(count), rrcRuleSeverityName(severity));
         }
     }
     return text.empty() ? "no finding" : text;
@@ -317,14 +316,17 @@ std::string messageSection(const Told& told, const TreeWriter& tree, const char*
     text += escaped(told.shown.name.empty() ? "message" : told.shown.name) + "</h2><p class=about>";
     const std::string size = counted(told.tree.octets().size(), "octet");
     const std::string& note = told.shown.note;
-    text += escaped(note) + (note.empty() ? size : note.find(size) == std::string::npos ? "; " + size : "") + "; " +
-            countsOf(told.remarks);
+    text += escaped(note) +
+            (note.empty()                           ? size
+             : note.find(size) == std::string::npos ? "; " + size
+                                                    : "") +
+            "; " + countsOf(told.remarks);
     text += told.tree.error() == nullptr ? "" : "; what stands behind the error was not read";
     text += told.remarks.refusal.empty() ? "" : "; rules and meanings: " + escaped(told.remarks.refusal);
     text += told.heldError.empty() ? "" : "; what the UE has before cannot be read: " + escaped(told.heldError);
-    text += tree.leftOut() == 0 ? ""
-                                : "; there is no room for " + counted(tree.leftOut(), "finding") +
-                                      ", which cellgroupcfg check tells";
+    text += tree.leftOut() == 0
+                ? ""
+                : "; there is no room for " + counted(tree.leftOut(), "finding") + ", which cellgroupcfg check tells";
     text += tree.deferred() == 0 ? "" : "; " + counted(tree.deferred(), "element") + " can be seen with script only";
     return text + "</p>" + tree.text() + "</section>";
 }
