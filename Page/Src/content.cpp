@@ -2,6 +2,7 @@
 #include "differences.h"
 #include "html.h"
 #include "remarks.h"
+#include "rrcDraw.h"
 #include "rrcPage.h"
 
 #include <algorithm>
@@ -203,12 +204,28 @@ std::string messageSection(const Told& told, const char* letter)
     std::string text = "<section class=m aria-labelledby=" + id + "><h2 id=" + id + ">";
     text += *letter == '\0' ? "" : "<b class=ab>" + std::string(letter) + "</b> ";
     text += escaped(told.shown.name.empty() ? "message" : told.shown.name) + "</h2><p class=about>";
-    text += told.shown.note.empty() ? "" : escaped(told.shown.note) + "; ";
-    text += counted(told.tree.octets().size(), "octet") + "; " + countsOf(told.remarks);
+    const std::string size = counted(told.tree.octets().size(), "octet");
+    const std::string& note = told.shown.note;
+    text += escaped(note) + (note.empty() ? size : note.find(size) == std::string::npos ? "; " + size : "") + "; " +
+            countsOf(told.remarks);
     text += told.tree.error() == nullptr ? "" : "; what stands behind the error was not read";
     text += told.remarks.refusal.empty() ? "" : "; rules and meanings: " + escaped(told.remarks.refusal);
     text += told.heldError.empty() ? "" : "; what the UE has before cannot be read: " + escaped(told.heldError);
     return text + "</p>" + TreeWriter(told).take() + "</section>";
+}
+
+std::string pictureSection(const Told& told, const char* letter)
+{
+    const std::string picture =
+        told.tree.error() != nullptr ? "" : draw::svg(told.tree.context(), told.tree.value(), &told.known, {});
+    rtxErrReset(&told.tree.context());
+    if (picture.empty())
+    {
+        return "";
+    }
+    const std::string id = std::string("p") + letter;
+    return "<section class=p aria-labelledby=" + id + "><h2 id=" + id + ">Radio resources" +
+           (*letter == '\0' ? "" : std::string(" of ") + letter) + "</h2><div class=pic>" + picture + "</div></section>";
 }
 
 std::string undecidedSection(const Told& told, const char* letter)
@@ -256,7 +273,8 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
     std::string data = "{\"messages\":[" + messageJson(first);
     if (messages.size() == 1)
     {
-        return "<div class=g>" + messageSection(first, "") + "</div>" + undecidedSection(first, "") +
+        return "<div class=g>" + messageSection(first, "") + "</div>" + pictureSection(first, "") +
+               undecidedSection(first, "") +
                "<script type=\"application/json\">" + data + "],\"differences\":null}</script>";
     }
     const Told second(messages[1], known, held);
@@ -279,7 +297,7 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
         }
         data += "[" + list + "]";
     }
-    return text + undecidedSection(first, "A") + undecidedSection(second, "B") +
+    return text + pictureSection(first, "A") + pictureSection(second, "B") + undecidedSection(first, "A") + undecidedSection(second, "B") +
            "<script type=\"application/json\">" + data + "}</script>";
 }
 
