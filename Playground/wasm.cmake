@@ -47,6 +47,7 @@ set(wasm_libraries
     cellgroupcfg_nearest
     cellgroupcfg_json
     cellgroupcfg_input
+    cellgroupcfg_draw
     cellgroupcfg_page
 )
 foreach(library IN LISTS wasm_libraries)
