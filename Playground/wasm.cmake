@@ -66,12 +66,14 @@ set(module_sources Module/platform.cpp Module/playground.cpp)
 list(TRANSFORM module_sources PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
 wasm_compile(module SOURCES ${module_sources} INCLUDES "${module_includes}")
 
-set(playground_program "${CMAKE_CURRENT_BINARY_DIR}/playground.wasm")
+set(module "${CMAKE_CURRENT_BINARY_DIR}/playground.wasm")
+set(playground_program "${module}.gz")
 add_custom_command(
     OUTPUT "${playground_program}"
     COMMAND
         "${CELLGROUPCFG_WASM_COMPILER}" --target=wasm32-wasi -mexec-model=reactor -Os ${wasm_objects}
-        -Wl,--gc-sections,--strip-all,-z,stack-size=4194304,--max-memory=1073741824 -o "${playground_program}"
+        -Wl,--gc-sections,--strip-all,-z,stack-size=4194304,--max-memory=1073741824 -o "${module}"
+    COMMAND sh -c "gzip -9n <\"$1\" >\"$2\"" sh "${module}" "${playground_program}"
     DEPENDS ${wasm_objects}
     VERBATIM
 )

@@ -36,7 +36,8 @@ public:
         line({field.width < 2 ? first : first + ".." + std::to_string(field.offset + field.width - 1),
               octetPlace(field.offset), std::to_string(field.width), content(field)},
              page::fieldPath(pdu_.name, field) + meaning(field) +
-                 (field.note == RTX_NOTE_NONE ? "" : " (not canonical: " + std::string(page::noteWords(field.note)) + ")"));
+                 (field.note == RTX_NOTE_NONE ? ""
+                                              : " (not canonical: " + std::string(page::noteWords(field.note)) + ")"));
         isExtended_ = field.kind == RTX_FIELD_EXTENSION && field.bits != 0;
     }
 

@@ -26,15 +26,19 @@ struct Shown
 };
 
 // An HTML fragment with all there is to say about one message, or about two and their differences, and with the data
-// that the page's script shows it by. Empty of no message; of more than two the first ones are shown. `known` is what is
-// known besides the messages, null: nothing; its `previous` is not read. Instead `held` is what the UE has before them: a
-// CellGroupConfig in unaligned PER, empty: as `known` says otherwise.
+// that the page's script shows it by. Empty of no message; of more than two the first ones are shown. `known` is what
+// is known besides the messages, null: nothing; its `previous` is not read. Instead `held` is what the UE has before
+// them: a CellGroupConfig in unaligned PER, empty: as `known` says otherwise.
 std::string content(std::span<const Shown> messages, const RrcRuleContext* known,
                     std::span<const std::uint8_t> held = {});
 
 // A whole page with that content, in UTF-8.
 std::string document(std::span<const Shown> messages, const RrcRuleContext* known,
                      std::span<const std::uint8_t> held = {});
+
+// A whole page around a body of HTML that is the caller's. `scripts` run behind it and behind the page's own script,
+// whose function show(element) makes an element with a content inside alive.
+std::string shell(std::string_view title, std::string_view body, std::string_view scripts);
 
 } // namespace page
 

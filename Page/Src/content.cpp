@@ -149,8 +149,8 @@ std::string bitsJson(const Tree& tree)
             text += "null";
             continue;
         }
-        text += std::to_string(static_cast<std::int64_t>(node.bits.first - last)) + "," +
-                std::to_string(node.bits.count);
+        text +=
+            std::to_string(static_cast<std::int64_t>(node.bits.first - last)) + "," + std::to_string(node.bits.count);
         last = node.bits.first;
     }
     return "[" + text + "]";
@@ -186,13 +186,12 @@ std::string countsOf(const Remarks& remarks)
     std::string text;
     for (const OSUINT8 severity : {RRC_RULE_ERROR, RRC_RULE_WARNING, RRC_RULE_NOTICE})
     {
-        const auto count =
-            std::count_if(remarks.findings.begin(), remarks.findings.end(),
-                          [&](const Remarks::Finding& one) { return one.finding.severity == severity; });
+        const auto count = std::count_if(remarks.findings.begin(), remarks.findings.end(),
+                                         [&](const Remarks::Finding& one) { return one.finding.severity == severity; });
         if (count != 0)
         {
-            text += (text.empty() ? "" : ", ") +
-                    counted(static_cast<std::uint64_t>(count), rrcRuleSeverityName(severity));
+            text +=
+                (text.empty() ? "" : ", ") + counted(static_cast<std::uint64_t>(count), rrcRuleSeverityName(severity));
         }
     }
     return text.empty() ? "no finding" : text;
@@ -206,8 +205,11 @@ std::string messageSection(const Told& told, const char* letter)
     text += escaped(told.shown.name.empty() ? "message" : told.shown.name) + "</h2><p class=about>";
     const std::string size = counted(told.tree.octets().size(), "octet");
     const std::string& note = told.shown.note;
-    text += escaped(note) + (note.empty() ? size : note.find(size) == std::string::npos ? "; " + size : "") + "; " +
-            countsOf(told.remarks);
+    text += escaped(note) +
+            (note.empty()                           ? size
+             : note.find(size) == std::string::npos ? "; " + size
+                                                    : "") +
+            "; " + countsOf(told.remarks);
     text += told.tree.error() == nullptr ? "" : "; what stands behind the error was not read";
     text += told.remarks.refusal.empty() ? "" : "; rules and meanings: " + escaped(told.remarks.refusal);
     text += told.heldError.empty() ? "" : "; what the UE has before cannot be read: " + escaped(told.heldError);
@@ -225,7 +227,8 @@ std::string pictureSection(const Told& told, const char* letter)
     }
     const std::string id = std::string("p") + letter;
     return "<section class=p aria-labelledby=" + id + "><h2 id=" + id + ">Radio resources" +
-           (*letter == '\0' ? "" : std::string(" of ") + letter) + "</h2><div class=pic>" + picture + "</div></section>";
+           (*letter == '\0' ? "" : std::string(" of ") + letter) + "</h2><div class=pic>" + picture +
+           "</div></section>";
 }
 
 std::string undecidedSection(const Told& told, const char* letter)
@@ -274,8 +277,8 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
     if (messages.size() == 1)
     {
         return "<div class=g>" + messageSection(first, "") + "</div>" + pictureSection(first, "") +
-               undecidedSection(first, "") +
-               "<script type=\"application/json\">" + data + "],\"differences\":null}</script>";
+               undecidedSection(first, "") + "<script type=\"application/json\">" + data +
+               "],\"differences\":null}</script>";
     }
     const Told second(messages[1], known, held);
     std::string text = "<div class=g>" + messageSection(first, "A") + messageSection(second, "B") + "</div>";
@@ -292,13 +295,13 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
         std::string list;
         for (const Difference& one : differences)
         {
-            list += (list.empty() ? "[" : ",[") + std::to_string(one.a.node) + "," +
-                    std::to_string(one.b.node) + "," + (one.a.isThere ? one.b.isThere ? "3" : "1" : "2") + "]";
+            list += (list.empty() ? "[" : ",[") + std::to_string(one.a.node) + "," + std::to_string(one.b.node) + "," +
+                    (one.a.isThere ? one.b.isThere ? "3" : "1" : "2") + "]";
         }
         data += "[" + list + "]";
     }
-    return text + pictureSection(first, "A") + pictureSection(second, "B") + undecidedSection(first, "A") + undecidedSection(second, "B") +
-           "<script type=\"application/json\">" + data + "}</script>";
+    return text + pictureSection(first, "A") + pictureSection(second, "B") + undecidedSection(first, "A") +
+           undecidedSection(second, "B") + "<script type=\"application/json\">" + data + "}</script>";
 }
 
 } // namespace page

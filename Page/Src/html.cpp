@@ -67,11 +67,11 @@ std::string escaped(std::string_view text)
     {
         const char c = character.front();
         const bool isSpace = c == '\t' || c == '\n';
-        all += c == '&'                              ? "&amp;"
-               : c == '<'                            ? "&lt;"
-               : c == '>'                            ? "&gt;"
+        all += c == '&'                           ? "&amp;"
+               : c == '<'                         ? "&lt;"
+               : c == '>'                         ? "&gt;"
                : isControl(character) && !isSpace ? replacement
-                                                     : character;
+                                                  : character;
     };
     forCharacters(text, put);
     return all;

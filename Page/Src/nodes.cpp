@@ -278,12 +278,7 @@ private:
 } // namespace
 
 Tree::Tree(std::span<const std::uint8_t> octets)
-    : octets_(octets.begin(), octets.end()),
-      size_(octets.size()),
-      context_(),
-      value_(),
-      error_(),
-      decoded_()
+    : octets_(octets.begin(), octets.end()), size_(octets.size()), context_(), value_(), error_(), decoded_()
 {
     octets_.reserve(1); // an empty message has an address, too
     rtxInitContext(&context_);
@@ -446,7 +441,7 @@ std::uint32_t Tree::find(const RtxType* type, const void* value) const
 std::vector<Step> stepsOf(const RtxError& error)
 {
     std::vector<Step> steps;
-    const bool isWhole = error.depth <= RTX_MAX_DEPTH; // else the outer steps are left out
+    const bool isWhole = error.depth <= RTX_MAX_DEPTH;                              // else the outer steps are left out
     for (OSUINT32 i = isWhole && error.depth != 0 ? error.depth - 1 : 0; i-- != 0;) // the first one is the whole
     {
         const RtxPathStep& step = error.path[i];
