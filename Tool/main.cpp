@@ -545,19 +545,21 @@ private:
 
     void view()
     {
-        CLI::App& app = command("view", "Make a page that shows messages in a browser.",
-                                "  cellgroupcfg view -o message.html message.hex\n"
-                                "  cellgroupcfg view -o changes.html before.hex after.hex\n"
-                                "  cellgroupcfg view --band n78 --carrier 30:0:273 -o message.html message.hex\n",
-                                [this](Session& session)
-                                {
-                                    session.outputTo(output_);
-                                    tool::view(session, operands_, settings_);
-                                });
-        app.add_option("A B", operands_, "One message, or two and their differences: files, '-', or octets")
+        CLI::App& app =
+            command("view", "Make a page that shows messages in a browser; of none, one to paste them into.",
+                    "  cellgroupcfg view -o message.html message.hex\n"
+                    "  cellgroupcfg view -o changes.html before.hex after.hex\n"
+                    "  cellgroupcfg view --band n78 --carrier 30:0:273 -o message.html message.hex\n"
+                    "  cellgroupcfg view -o playground.html\n",
+                    [this](Session& session)
+                    {
+                        session.outputTo(output_);
+                        tool::view(session, operands_, settings_);
+                    });
+        app.add_option("A B", operands_,
+                       "One message, or two and their differences: files, '-', or octets; none: a playground")
             ->option_text(" ")
-            ->expected(1, 2)
-            ->required();
+            ->expected(0, 2);
         input(app);
         output(app);
         allKnown(app);

@@ -36,6 +36,10 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
 std::string document(std::span<const Shown> messages, const RrcRuleContext* known,
                      std::span<const std::uint8_t> held = {});
 
+// A whole page around a body of HTML that is the caller's. `scripts` run behind it and behind the page's own script,
+// whose function show(element) makes an element with a content inside alive.
+std::string shell(std::string_view title, std::string_view body, std::string_view scripts);
+
 } // namespace page
 
 #endif

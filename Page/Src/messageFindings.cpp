@@ -22,7 +22,7 @@ void nameAs(MessageFinding& finding, const char* id)
 }
 
 // Of a line "path: message".
-MessageFinding findingOf(const char* id, OSUINT8 severity, const std::string& line)
+MessageFinding findingOn(const char* id, OSUINT8 severity, const std::string& line)
 {
     const std::size_t colon = line.find(": ");
     MessageFinding finding;
@@ -49,7 +49,7 @@ std::string errorText(const RtxError& error)
 
 MessageFinding findingOf(const RtxError& error)
 {
-    MessageFinding finding = findingOf(idOf(error.status), RRC_RULE_ERROR, errorText(error));
+    MessageFinding finding = findingOn(idOf(error.status), RRC_RULE_ERROR, errorText(error));
     if (error.status == RTX_E_RANGE || error.status == RTX_E_SIZE || error.status == RTX_E_CHOICE ||
         error.status == RTX_E_BITS)
     {
@@ -80,13 +80,13 @@ MessageFinding findingOf(const RrcRuleFinding& told)
 
 MessageFinding unknownFinding(const std::string& root, OSUINT32 count)
 {
-    return findingOf("unknown-addition", RRC_RULE_NOTICE,
+    return findingOn("unknown-addition", RRC_RULE_NOTICE,
                      root + ": " + counted(count, "addition") + " of a later release, kept as octets");
 }
 
 MessageFinding noteFinding(const std::string& note)
 {
-    return findingOf("per-not-canonical", RRC_RULE_NOTICE, note + "; encoding the message again gives other octets");
+    return findingOn("per-not-canonical", RRC_RULE_NOTICE, note + "; encoding the message again gives other octets");
 }
 
 MessageFinding refusalFinding(const RtxError& error)

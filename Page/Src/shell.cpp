@@ -7,10 +7,8 @@
 
 namespace page
 {
-namespace
-{
 
-std::string shell(const std::string& title, std::string_view body, std::string_view scripts)
+std::string shell(std::string_view title, std::string_view body, std::string_view scripts)
 {
     std::string text = "<!DOCTYPE html>\n<html lang=en><head><meta charset=utf-8>"
                        "<meta http-equiv=Content-Security-Policy content=\"default-src 'none'; "
@@ -27,8 +25,6 @@ std::string shell(const std::string& title, std::string_view body, std::string_v
     text += scripts;
     return text + "</script></body></html>\n";
 }
-
-} // namespace
 
 std::string document(std::span<const Shown> messages, const RrcRuleContext* known, std::span<const std::uint8_t> held)
 {

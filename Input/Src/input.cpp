@@ -96,7 +96,7 @@ Input textOf(Form form, Text&& text, std::string_view what)
     return {form, {}, std::move(text.utf8), std::string(what) + ", " + counted(lines, "line")};
 }
 
-using Reader = std::optional<Input> (*)(const Piece& text, bool said);
+using Reader = Reading (*)(const Piece& text, bool said);
 
 Reader readerOf(Form form)
 {
@@ -144,31 +144,42 @@ bool isUnmarkedUtf16(std::string_view raw)
 }
 
 // What is not all text: binary, unless there is a doubt.
-Input binaryOrRefused(std::string_view raw, const Text& text)
+Recognition binaryOrRefused(std::string_view raw, const Text& text)
 {
     constexpr std::size_t leastText = 32;
     if (isUnmarkedUtf16(raw))
     {
-        throw Refusal{"UTF-16 text without byte order mark, to be converted to UTF-8, or binary", {}, {Form::Binary}};
+        return Refusal{"UTF-16 text without byte order mark, to be converted to UTF-8, or binary", {}, {Form::Binary}};
     }
     if (raw.size() >= leastText && text.bad <= raw.size() / 16)
     {
-        refuse({text.plain, 0, text.plain.size()}, text.firstBad,
-               "a control character or an octet that is not UTF-8 in what is text otherwise",
-               {Form::LogLine, Form::Binary});
+        return refuse({text.plain, 0, text.plain.size()}, text.firstBad,
+                      "a control character or an octet that is not UTF-8 in what is text otherwise",
+                      {Form::LogLine, Form::Binary});
     }
     return binary(raw);
 }
 
-Input read(std::string_view raw, std::optional<Form> as)
+Recognition resultOf(Reading&& reading)
+{
+    if (auto* refusal = std::get_if<Refusal>(&reading))
+    {
+        return std::move(*refusal);
+    }
+    return std::get<Input>(std::move(reading));
+}
+
+} // namespace
+
+Recognition recognise(std::string_view raw, std::optional<Form> as)
 {
     if (raw.empty())
     {
-        throw Refusal{"the input is empty", {}, {}};
+        return Refusal{"the input is empty", {}, {}};
     }
     if (raw.size() > maxInputOctets)
     {
-        throw Refusal{"the input has more than " + counted(maxInputOctets, "octet"), {}, {}};
+        return Refusal{"the input has more than " + counted(maxInputOctets, "octet"), {}, {}};
     }
     if (as == Form::Binary)
     {
@@ -197,7 +208,7 @@ Input read(std::string_view raw, std::optional<Form> as)
     const Piece content = whole.trimmed();
     if (content.begin == content.end)
     {
-        throw Refusal{"the input has only blanks and comments", {}, {}};
+        return Refusal{"the input has only blanks and comments", {}, {}};
     }
     if (as == Form::Flat || (!as && isFlat(content)))
     {
@@ -205,23 +216,23 @@ Input read(std::string_view raw, std::optional<Form> as)
     }
     if (as)
     {
-        return std::move(*readerOf(*as)(whole, true));
+        return resultOf(readerOf(*as)(whole, true));
     }
     for (const Form form : {Form::HexDump, Form::CArray, Form::Escaped, Form::Hex, Form::Base64, Form::LogLine})
     {
-        if (auto input = readerOf(form)(whole, false))
+        Reading reading = readerOf(form)(whole, false);
+        if (!std::holds_alternative<OtherForm>(reading))
         {
-            return std::move(*input);
+            return resultOf(std::move(reading));
         }
     }
-    refuse(whole, content.begin,
-           "neither hex, a dump, an array, base64, JER, a record, flat lines nor text with hex, unless it is a binary "
-           "message "
-           "that looks like text",
-           {Form::Binary});
+    return refuse(
+        whole, content.begin,
+        "neither hex, a dump, an array, base64, JER, a record, flat lines nor text with hex, unless it is a binary "
+        "message "
+        "that looks like text",
+        {Form::Binary});
 }
-
-} // namespace
 
 std::string Refusal::message() const
 {
@@ -236,18 +247,6 @@ std::string Refusal::message() const
         text += (i == 0 ? "; say --as " : " or --as ") + std::string(formName(candidates[i]));
     }
     return text;
-}
-
-Recognition recognise(std::string_view raw, std::optional<Form> as)
-{
-    try
-    {
-        return read(raw, as);
-    }
-    catch (const Refusal& refusal)
-    {
-        return refusal;
-    }
 }
 
 std::variant<MessageLines, Refusal> MessageLines::of(std::string_view raw)

@@ -1,5 +1,4 @@
-// One reader per form of text. Each gives the content, or nothing when the text is of another form, or throws a
-// Refusal when it is of this form and broken. When the form was said (`said`) a reader never gives nothing.
+// One reader per form of text. When the form was said (`said`) a reader never finds another one.
 #pragma once
 
 #include "text.h"
@@ -7,12 +6,19 @@
 namespace tool
 {
 
-std::optional<Input> readHexDump(const Piece& text, bool said);
-std::optional<Input> readCArray(const Piece& text, bool said);
-std::optional<Input> readEscaped(const Piece& text, bool said);
-std::optional<Input> readHex(const Piece& text, bool said);
-std::optional<Input> readBase64(const Piece& text, bool said);
-std::optional<Input> readLogLine(const Piece& text, bool said);
+struct OtherForm
+{
+};
+
+// The content; that the text is of another form; or why it is broken, of this form.
+using Reading = std::variant<OtherForm, Input, Refusal>;
+
+Reading readHexDump(const Piece& text, bool said);
+Reading readCArray(const Piece& text, bool said);
+Reading readEscaped(const Piece& text, bool said);
+Reading readHex(const Piece& text, bool said);
+Reading readBase64(const Piece& text, bool said);
+Reading readLogLine(const Piece& text, bool said);
 
 // Without the quotes around it and one ',' or ';' behind it; of '...'H and '...'O too (X.680 clause 12.12).
 Piece unwrapped(const Piece& text);

@@ -10,17 +10,19 @@ namespace
 {
 
 // An array or a string among other hex that is about as long may not be the message.
-void questionRest(const Piece& text, std::size_t begin, std::size_t end, const Input& input)
+Refused questionRest(const Piece& text, std::size_t begin, std::size_t end, const Input& input)
 {
     const std::size_t rest =
         std::max(longestRun({text.all, text.begin, begin}), longestRun({text.all, std::min(end, text.end), text.end}));
     constexpr std::size_t least = 4; // numbers are shorter
     if (rest >= least && 2 * rest >= input.octets.size())
     {
-        refuse(text, begin,
-               counted(input.octets.size(), "octet") + " here, but also a run of hex of " + counted(rest, "octet"),
-               {input.form, Form::LogLine});
+        return refuse(text, begin,
+                      counted(input.octets.size(), "octet") + " here, but also a run of hex of " +
+                          counted(rest, "octet"),
+                      {input.form, Form::LogLine});
     }
+    return std::nullopt;
 }
 
 bool hasHexPrefix(const Piece& text, std::size_t i)
@@ -37,8 +39,8 @@ std::size_t skipDigits(const Piece& text, std::size_t i)
     return i;
 }
 
-// The number at i, at most an octet, and i behind it and its 'u'.
-std::uint8_t element(const Piece& text, std::size_t& i)
+// Adds the number at i, at most an octet; i goes behind it and its 'u'.
+Refused addElement(const Piece& text, std::size_t& i, std::vector<std::uint8_t>& octets)
 {
     const std::size_t begin = i;
     const bool hex = hasHexPrefix(text, i);
@@ -47,11 +49,11 @@ std::uint8_t element(const Piece& text, std::size_t& i)
     const auto name = "'" + std::string(number.substr(0, 20)) + "'";
     if (i == begin)
     {
-        refuse(text, i, shown(text, i) + " in an array: a number up to 255 was expected");
+        return refuse(text, i, shown(text, i) + " in an array: a number up to 255 was expected");
     }
     if (!hex && number.size() > 1 && number[0] == '0')
     {
-        refuse(text, begin, name + " has a leading zero: octal in C, decimal elsewhere");
+        return refuse(text, begin, name + " has a leading zero: octal in C, decimal elsewhere");
     }
     unsigned value = 0;
     for (const char c : number.substr(hex ? 2 : 0))
@@ -59,7 +61,7 @@ std::uint8_t element(const Piece& text, std::size_t& i)
         value = value * (hex ? 16 : 10) + static_cast<unsigned>(hexValue(c));
         if (value > 255)
         {
-            refuse(text, begin, name + " is more than one octet");
+            return refuse(text, begin, name + " is more than one octet");
         }
     }
     if (text.at(i) == 'u' || text.at(i) == 'U')
@@ -68,9 +70,10 @@ std::uint8_t element(const Piece& text, std::size_t& i)
     }
     if (isWord(text.at(i)) || text.at(i) == '.')
     {
-        refuse(text, i, shown(text, i) + " behind the number " + name);
+        return refuse(text, i, shown(text, i) + " behind the number " + name);
     }
-    return static_cast<std::uint8_t>(value);
+    octets.push_back(static_cast<std::uint8_t>(value));
+    return std::nullopt;
 }
 
 // A type in parentheses: Java and C# need one.
@@ -144,12 +147,12 @@ std::optional<List> findList(const Piece& text, std::size_t i)
 }
 
 // "m_bin_len = 440" behind an array, as xxd -i writes it.
-void checkLength(const Piece& text, std::size_t i, std::size_t count)
+Refused checkLength(const Piece& text, std::size_t i, std::size_t count)
 {
     const std::size_t found = text.all.substr(0, text.end).find("_len", i);
     if (found == std::string_view::npos)
     {
-        return;
+        return std::nullopt;
     }
     const std::size_t sign = skipBlanks(text, found + 4);
     const std::size_t begin = skipBlanks(text, sign + 1);
@@ -158,14 +161,15 @@ void checkLength(const Piece& text, std::size_t i, std::size_t count)
     if (text.at(sign) == '=' && end != begin && end - begin <= most &&
         std::stoul(std::string(text.all.substr(begin, end - begin))) != count)
     {
-        refuse(text, begin,
-               "the array has " + counted(count, "octet") + ", but its length is said to be " +
-                   std::string(text.all.substr(begin, end - begin)));
+        return refuse(text, begin,
+                      "the array has " + counted(count, "octet") + ", but its length is said to be " +
+                          std::string(text.all.substr(begin, end - begin)));
     }
+    return std::nullopt;
 }
 
 // "[74]" before an array: C allows fewer elements, but not more.
-void checkDeclared(const Piece& text, std::size_t open, std::size_t count)
+Refused checkDeclared(const Piece& text, std::size_t open, std::size_t count)
 {
     std::size_t i = open;
     const auto back = [&text, &i](auto wanted)
@@ -178,7 +182,7 @@ void checkDeclared(const Piece& text, std::size_t open, std::size_t count)
     back([](char c) { return isBlank(c) || c == '\n' || c == '='; });
     if (i == text.begin || text.all[i - 1] != ']')
     {
-        return;
+        return std::nullopt;
     }
     const std::size_t end = --i;
     back(isDigit);
@@ -186,14 +190,15 @@ void checkDeclared(const Piece& text, std::size_t open, std::size_t count)
     if (i != end && end - i <= most && i > text.begin && text.all[i - 1] == '[' &&
         std::stoul(std::string(text.all.substr(i, end - i))) < count)
     {
-        refuse(text, i,
-               "an array of " + std::string(text.all.substr(i, end - i)) + " with " + counted(count, "element"));
+        return refuse(text, i,
+                      "an array of " + std::string(text.all.substr(i, end - i)) + " with " + counted(count, "element"));
     }
+    return std::nullopt;
 }
 
 } // namespace
 
-std::optional<Input> readCArray(const Piece& whole, bool said)
+Reading readCArray(const Piece& whole, bool said)
 {
     const Piece text = whole.trimmed();
     auto list = findList(text, text.begin);
@@ -206,9 +211,9 @@ std::optional<Input> readCArray(const Piece& whole, bool said)
         {
             if (said)
             {
-                refuse(whole, text.begin, "no list of numbers such as { 0x5c, 0xa0 }");
+                return refuse(whole, text.begin, "no list of numbers such as { 0x5c, 0xa0 }");
             }
-            return std::nullopt;
+            return OtherForm{};
         }
         list = List{i, '\0'};
     }
@@ -223,11 +228,14 @@ std::optional<Input> readCArray(const Piece& whole, bool said)
     {
         if (i >= text.end)
         {
-            refuse(whole, list->open,
-                   std::string("nothing closes the '") + text.all[list->open] + "': the end is missing");
+            return refuse(whole, list->open,
+                          std::string("nothing closes the '") + text.all[list->open] + "': the end is missing");
         }
         i = skipCast(text, i);
-        input.octets.push_back(element(text, i));
+        if (auto refused = addElement(text, i, input.octets))
+        {
+            return std::move(*refused);
+        }
         i = skipComments(text, i);
         if (text.at(i) == ',' || (list->close == '\0' && text.at(i) == ';'))
         {
@@ -235,20 +243,29 @@ std::optional<Input> readCArray(const Piece& whole, bool said)
         }
         else if (!atEnd() && i < text.end)
         {
-            refuse(whole, i, shown(text, i) + " in an array: ',' was expected");
+            return refuse(whole, i, shown(text, i) + " in an array: ',' was expected");
         }
     }
     if (list->close != '\0')
     {
         if (const auto second = findList(text, i + 1))
         {
-            refuse(whole, second->open, "a second array: give one at a time");
+            return refuse(whole, second->open, "a second array: give one at a time");
         }
-        checkDeclared(text, list->open, input.octets.size());
-        checkLength(text, i, input.octets.size());
+        if (auto refused = checkDeclared(text, list->open, input.octets.size()))
+        {
+            return std::move(*refused);
+        }
+        if (auto refused = checkLength(text, i, input.octets.size()))
+        {
+            return std::move(*refused);
+        }
         if (!said)
         {
-            questionRest(text, list->open, i, input);
+            if (auto refused = questionRest(text, list->open, i, input))
+            {
+                return std::move(*refused);
+            }
         }
     }
     input.note += counted(input.octets.size(), "octet");
@@ -283,15 +300,16 @@ std::size_t findHexEscape(const Piece& text, std::size_t i)
     return std::string_view::npos;
 }
 
-// What a backslash and the character at i stand for, and i behind it.
-std::uint8_t escape(const Piece& text, std::size_t& i)
+// Adds what a backslash and the character at i stand for; i goes behind it.
+Refused addEscape(const Piece& text, std::size_t& i, std::vector<std::uint8_t>& octets)
 {
     const std::size_t begin = i;
     const char c = text.at(++i);
     if (isHexEscape(text, begin))
     {
         i = begin + 4;
-        return hexEscape(text, begin);
+        octets.push_back(hexEscape(text, begin));
+        return std::nullopt;
     }
     if (c >= '0' && c <= '7')
     {
@@ -302,27 +320,29 @@ std::uint8_t escape(const Piece& text, std::size_t& i)
         }
         if (value > 255)
         {
-            refuse(text, begin, "the octal escape is more than one octet");
+            return refuse(text, begin, "the octal escape is more than one octet");
         }
-        return static_cast<std::uint8_t>(value);
+        octets.push_back(static_cast<std::uint8_t>(value));
+        return std::nullopt;
     }
     if (c == '\\' && text.at(i + 1) == 'x')
     {
-        refuse(text, begin, "the string is escaped twice: write \\x for \\\\x");
+        return refuse(text, begin, "the string is escaped twice: write \\x for \\\\x");
     }
     constexpr std::string_view letters = "abtnvfr\"'\\?";
-    constexpr std::string_view octets = "\a\b\t\n\v\f\r\"'\\?";
+    constexpr std::string_view meant = "\a\b\t\n\v\f\r\"'\\?";
     const auto known = letters.find(c);
     if (known == std::string_view::npos)
     {
-        refuse(text, begin, "a backslash and " + shown(text, i) + " is no escape of one octet");
+        return refuse(text, begin, "a backslash and " + shown(text, i) + " is no escape of one octet");
     }
     ++i;
-    return static_cast<std::uint8_t>(octets[known]);
+    octets.push_back(static_cast<std::uint8_t>(meant[known]));
+    return std::nullopt;
 }
 
-// The string in quotes at i, and i behind it.
-void addString(const Piece& text, std::size_t& i, std::vector<std::uint8_t>& octets)
+// Adds the string in quotes at i, which goes behind it.
+Refused addString(const Piece& text, std::size_t& i, std::vector<std::uint8_t>& octets)
 {
     const std::size_t open = i;
     const char quote = text.all[i++];
@@ -330,15 +350,18 @@ void addString(const Piece& text, std::size_t& i, std::vector<std::uint8_t>& oct
     {
         if (text.at(i) == '\n')
         {
-            refuse(text, open, "nothing closes the quotes: the end is missing");
+            return refuse(text, open, "nothing closes the quotes: the end is missing");
         }
         if (text.at(i) == '\\')
         {
-            octets.push_back(escape(text, i));
+            if (auto refused = addEscape(text, i, octets))
+            {
+                return refused;
+            }
         }
         else if (text.at(i) == foreign || text.at(i) == '\t')
         {
-            refuse(text, i, shown(text, i) + " in a string of octets");
+            return refuse(text, i, shown(text, i) + " in a string of octets");
         }
         else
         {
@@ -346,6 +369,7 @@ void addString(const Piece& text, std::size_t& i, std::vector<std::uint8_t>& oct
         }
     }
     ++i;
+    return std::nullopt;
 }
 
 // Past what may stand between two parts of a string: blanks, line ends, a line's continuation, '+' and a second b.
@@ -411,7 +435,7 @@ std::optional<std::size_t> stringBefore(const Piece& text, std::size_t i)
 
 } // namespace
 
-std::optional<Input> readEscaped(const Piece& whole, bool said)
+Reading readEscaped(const Piece& whole, bool said)
 {
     const Piece text = whole.trimmed();
     const std::size_t first = findHexEscape(text, text.begin);
@@ -419,9 +443,9 @@ std::optional<Input> readEscaped(const Piece& whole, bool said)
     {
         if (said)
         {
-            refuse(whole, text.begin, "no \\x.. is in the text");
+            return refuse(whole, text.begin, "no \\x.. is in the text");
         }
-        return std::nullopt;
+        return OtherForm{};
     }
 
     Input input{Form::Escaped, {}, {}, "escaped string, "};
@@ -433,17 +457,20 @@ std::optional<Input> readEscaped(const Piece& whole, bool said)
         const std::size_t digits = skipHexDigits(text, first + 2);
         if (!said && !python && first == *open + 1 && digits - first > 4 && text.at(digits) == text.all[*open])
         {
-            return std::nullopt; // "\x5ca0...", one mark before all digits, as databases write octets
+            return OtherForm{}; // "\x5ca0...", one mark before all digits, as databases write octets
         }
         if (const auto before = stringBefore(text, python ? *open - 1 : *open))
         {
-            refuse(whole, *before, "a string without \\x stands before the string: join them if it is a part");
+            return refuse(whole, *before, "a string without \\x stands before the string: join them if it is a part");
         }
         i = *open;
         begin = i;
         while (i < text.end && (text.at(i) == '"' || text.at(i) == '\''))
         {
-            addString(text, i, input.octets);
+            if (auto refused = addString(text, i, input.octets))
+            {
+                return std::move(*refused);
+            }
             i = skipJoint(text, i);
         }
     }
@@ -451,7 +478,7 @@ std::optional<Input> readEscaped(const Piece& whole, bool said)
     {
         if (!said && skipHexDigits(text, first + 2) - first > 4)
         {
-            return std::nullopt;
+            return OtherForm{};
         }
         std::size_t last = i;
         while (isHexEscape(text, i))
@@ -463,17 +490,21 @@ std::optional<Input> readEscaped(const Piece& whole, bool said)
         const bool joined = (first > text.begin && isWord(text.all[first - 1])) || isWord(text.at(last));
         if (joined || text.at(last) == '\\')
         {
-            refuse(whole, last, "other characters among the \\x..: put the string in quotes if they belong to it");
+            return refuse(whole, last,
+                          "other characters among the \\x..: put the string in quotes if they belong to it");
         }
     }
     const std::size_t second = findHexEscape(text, i);
     if (second != std::string_view::npos)
     {
-        refuse(whole, second, "a second string: give one at a time, in quotes if other characters belong to it");
+        return refuse(whole, second, "a second string: give one at a time, in quotes if other characters belong to it");
     }
     if (!said)
     {
-        questionRest(text, begin, i, input);
+        if (auto refused = questionRest(text, begin, i, input))
+        {
+            return std::move(*refused);
+        }
     }
     input.note += counted(input.octets.size(), "octet");
     return input;

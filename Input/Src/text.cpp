@@ -343,9 +343,9 @@ std::string shown(const Piece& text, std::size_t i)
     return c == '\n' ? "the end" : c == '\t' ? "a tab" : std::string("'") + c + "'";
 }
 
-void refuse(const Piece& text, std::size_t at, std::string reason, std::vector<Form> candidates)
+Refusal refuse(const Piece& text, std::size_t at, std::string reason, std::vector<Form> candidates)
 {
-    throw Refusal{std::move(reason), placeOf(text.all, at), std::move(candidates)};
+    return {std::move(reason), placeOf(text.all, at), std::move(candidates)};
 }
 
 } // namespace tool

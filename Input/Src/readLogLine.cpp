@@ -376,7 +376,7 @@ std::size_t longestRun(const Piece& text)
     return runs.longest.octets();
 }
 
-std::optional<Input> readLogLine(const Piece& text, bool said)
+Reading readLogLine(const Piece& text, bool said)
 {
     RunFinder runs(text);
     runs.find();
@@ -385,22 +385,22 @@ std::optional<Input> readLogLine(const Piece& text, bool said)
     {
         if (said || run.octets() >= leastSaid)
         {
-            refuse(text, run.octets() != 0 ? run.begin : text.begin,
-                   run.octets() == 0 ? "no run of hex is in the text"
-                                     : "the longest run of hex has only " + counted(run.octets(), "octet"),
-                   said ? std::vector<Form>{} : std::vector{Form::LogLine});
+            return refuse(text, run.octets() != 0 ? run.begin : text.begin,
+                          run.octets() == 0 ? "no run of hex is in the text"
+                                            : "the longest run of hex has only " + counted(run.octets(), "octet"),
+                          said ? std::vector<Form>{} : std::vector{Form::LogLine});
         }
-        return std::nullopt;
+        return OtherForm{};
     }
     if (2 * runs.second.octets() >= run.octets())
     {
-        refuse(text, run.begin,
-               "two runs of hex may be the message: " + nameOf(text, run) + " and " + nameOf(text, runs.second) +
-                   "; cut off the other, or give one message per line with --lines");
+        return refuse(text, run.begin,
+                      "two runs of hex may be the message: " + nameOf(text, run) + " and " + nameOf(text, runs.second) +
+                          "; cut off the other, or give one message per line with --lines");
     }
     if (isCut(text, run.end))
     {
-        refuse(text, run.end, "the hex is cut short here");
+        return refuse(text, run.end, "the hex is cut short here");
     }
     Input input{Form::LogLine, {}, {}, {}};
     std::string digits;

@@ -106,7 +106,7 @@ bool isBase64(std::string_view digits)
            fault(digits).empty();
 }
 
-std::optional<Input> readBase64(const Piece& whole, bool said)
+Reading readBase64(const Piece& whole, bool said)
 {
     const Piece text = unwrapped(whole);
     const Digits digits = digitsOf(text);
@@ -116,18 +116,19 @@ std::optional<Input> readBase64(const Piece& whole, bool said)
     {
         if (!said)
         {
-            return std::nullopt;
+            return OtherForm{};
         }
-        refuse(whole, digits.strange.value_or(text.begin), why);
+        return refuse(whole, digits.strange.value_or(text.begin), why);
     }
     if (!said && digits.length)
     {
-        refuse(text, *digits.length, "lines of different lengths: several messages (--lines) or one in base64",
-               {Form::Base64});
+        return refuse(text, *digits.length, "lines of different lengths: several messages (--lines) or one in base64",
+                      {Form::Base64});
     }
     if (!said && !isPlain(digits.text))
     {
-        refuse(text, text.begin, "a word, or " + counted(digits.text.size(), "base64 character"), {Form::Base64});
+        return refuse(text, text.begin, "a word, or " + counted(digits.text.size(), "base64 character"),
+                      {Form::Base64});
     }
 
     Input input{Form::Base64, {}, {}, "base64, "};

@@ -223,40 +223,42 @@ std::string quoted(const Piece& text, std::size_t at)
 }
 
 // What is hex by its characters, but leaves a question.
-void questionHex(const Piece& text, const Shape& shape)
+Refused questionHex(const Piece& text, const Shape& shape)
 {
     if (shape.several && shape.single && shape.longest == 2)
     {
-        refuse(text, *shape.single,
-               quoted(text, *shape.single) + " is a single digit among pairs: an octet, or a digit is missing",
-               {Form::Hex});
+        return refuse(text, *shape.single,
+                      quoted(text, *shape.single) + " is a single digit among pairs: an octet, or a digit is missing",
+                      {Form::Hex});
     }
     if (shape.several && shape.odd)
     {
-        refuse(text, *shape.odd,
-               quoted(text, *shape.odd) + " has " + counted(skipHexDigits(text, *shape.odd) - *shape.odd, "hex digit") +
-                   ", an odd number: one is missing, or it is no part of the message",
-               {Form::LogLine});
+        return refuse(text, *shape.odd,
+                      quoted(text, *shape.odd) + " has " +
+                          counted(skipHexDigits(text, *shape.odd) - *shape.odd, "hex digit") +
+                          ", an odd number: one is missing, or it is no part of the message",
+                      {Form::LogLine});
     }
     if (shape.several && (shape.uneven || !isGroupSize(shape.first)))
     {
         const std::size_t at = shape.uneven.value_or(skipPrefix(text, text.begin));
-        refuse(text, at,
-               quoted(text, at) +
-                   " is not as long as the other groups: all groups are the message, or the longest run is",
-               {Form::Hex, Form::LogLine});
+        return refuse(text, at,
+                      quoted(text, at) +
+                          " is not as long as the other groups: all groups are the message, or the longest run is",
+                      {Form::Hex, Form::LogLine});
     }
     if (shape.asciiLike)
     {
-        refuse(text, *shape.asciiLike, "an ASCII column, to be cut off, or more octets", {Form::Hex});
+        return refuse(text, *shape.asciiLike, "an ASCII column, to be cut off, or more octets", {Form::Hex});
     }
     if (shape.length)
     {
-        refuse(text, *shape.length,
-               "lines of different lengths (" + std::to_string(shape.lengths[0]) + " and " +
-                   std::to_string(shape.lengths[1]) + " hex digits): several messages (--lines) or one",
-               {Form::Hex});
+        return refuse(text, *shape.length,
+                      "lines of different lengths (" + std::to_string(shape.lengths[0]) + " and " +
+                          std::to_string(shape.lengths[1]) + " hex digits): several messages (--lines) or one",
+                      {Form::Hex});
     }
+    return std::nullopt;
 }
 
 } // namespace
@@ -298,7 +300,7 @@ Piece unwrapped(const Piece& text)
     return piece.trimmed();
 }
 
-std::optional<Input> readHex(const Piece& whole, bool said)
+Reading readHex(const Piece& whole, bool said)
 {
     const Piece text = unwrapped(whole);
     const Shape shape = Scan(text).run();
@@ -306,38 +308,41 @@ std::optional<Input> readHex(const Piece& whole, bool said)
     {
         if (!said)
         {
-            return std::nullopt;
+            return OtherForm{};
         }
         const std::size_t at = shape.strange.value_or(text.begin);
-        refuse(whole, at,
-               isSeparator(whole.at(at)) && at < text.end ? "another separator than before"
-                                                          : shown(whole, at) + " is not a hex digit");
+        return refuse(whole, at,
+                      isSeparator(whole.at(at)) && at < text.end ? "another separator than before"
+                                                                 : shown(whole, at) + " is not a hex digit");
     }
 
     // In a list each group stands for itself; else the digits of all lines follow each other.
     const bool list = shape.several || (shape.longest <= 2 && shape.groups > 1);
     if (!said)
     {
-        questionHex(text, shape);
+        if (auto refused = questionHex(text, shape))
+        {
+            return std::move(*refused);
+        }
         constexpr std::size_t doubtful = 32;
         if (!shape.several && shape.prefixes == 0 && shape.lower && shape.upper && shape.digits <= doubtful &&
             isBase64(text.view()))
         {
-            refuse(text, text.begin,
-                   counted(shape.digits, "hex digit") + " of both cases or " +
-                       counted(shape.digits, "base64 character"),
-                   {Form::Hex, Form::Base64});
+            return refuse(text, text.begin,
+                          counted(shape.digits, "hex digit") + " of both cases or " +
+                              counted(shape.digits, "base64 character"),
+                          {Form::Hex, Form::Base64});
         }
     }
     else if (list && shape.odd && shape.longest > 2)
     {
-        refuse(text, *shape.odd, quoted(text, *shape.odd) + " has an odd number of hex digits");
+        return refuse(text, *shape.odd, quoted(text, *shape.odd) + " has an odd number of hex digits");
     }
     if (!list && shape.digits % 2 != 0)
     {
-        refuse(text, skipPrefix(text, text.begin),
-               counted(shape.digits, "hex digit") + ", an odd number: one is missing or too many",
-               !said && isBase64(text.view()) ? std::vector{Form::Base64} : std::vector<Form>{});
+        return refuse(text, skipPrefix(text, text.begin),
+                      counted(shape.digits, "hex digit") + ", an odd number: one is missing or too many",
+                      !said && isBase64(text.view()) ? std::vector{Form::Base64} : std::vector<Form>{});
     }
 
     std::string digits;

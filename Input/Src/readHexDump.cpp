@@ -161,7 +161,7 @@ public:
     void run(std::size_t first)
     {
         std::size_t i = first;
-        while (i < text_.end)
+        while (i < text_.end && !refused)
         {
             const std::size_t end = lineEnd(text_, i);
             const Piece line = Piece{text_.all, i, end}.trimmed();
@@ -171,22 +171,33 @@ public:
             }
             i = end + 1;
         }
-        if (previous_ && !previous_->last())
+        if (!refused && previous_ && !previous_->last())
         {
             addLastLine();
         }
         if (star_)
         {
-            refuse(text_, starAt_, "'*' repeats a line up to the next offset, but none follows");
+            fail(starAt_, "'*' repeats a line up to the next offset, but none follows");
         }
     }
 
     std::vector<std::uint8_t> octets;
     std::size_t lines = 0;
     std::size_t unlike = 0; // lines whose ASCII column shows other octets
+    Refused refused;        // then the rest is of no use
 
 private:
-    std::uint64_t valueOf(const DumpLine& line) const
+    // The first reason stays.
+    void fail(std::size_t at, std::string reason)
+    {
+        if (!refused)
+        {
+            refused = refuse(text_, at, std::move(reason));
+        }
+    }
+
+    // 0 of what is no number.
+    std::uint64_t valueOf(const DumpLine& line)
     {
         std::uint64_t value = 0;
         for (const char c : text_.all.substr(line.digits, line.offsetDigits()))
@@ -194,7 +205,8 @@ private:
             const auto digit = static_cast<unsigned>(hexValue(c));
             if (digit >= base_ || value > (std::numeric_limits<std::uint64_t>::max() - digit) / base_)
             {
-                refuse(text_, line.offset, "the offset is no number of base " + std::to_string(base_));
+                fail(line.offset, "the offset is no number of base " + std::to_string(base_));
+                return 0;
             }
             value = value * base_ + digit;
         }
@@ -225,11 +237,15 @@ private:
             return;
         }
         auto cut = inside_ ? findLine(line) : cutLine({text_.all, text_.begin, line.end}, line.begin);
+        if (refused)
+        {
+            return;
+        }
         if (!cut)
         {
             if (!inside_ || (previous_ && holdsHex(line)))
             {
-                refuse(text_, line.begin, "no line of the dump: an offset and octets in hex were expected");
+                fail(line.begin, "no line of the dump: an offset and octets in hex were expected");
             }
             return;
         }
@@ -243,7 +259,7 @@ private:
     }
 
     // Inside other text the offset is one of the first words: that which goes on, or 0 at the start.
-    std::optional<DumpLine> findLine(const Piece& line) const
+    std::optional<DumpLine> findLine(const Piece& line)
     {
         constexpr int mostWords = 16;
         std::size_t i = line.begin;
@@ -263,7 +279,7 @@ private:
         return std::nullopt;
     }
 
-    bool goesOn(const DumpLine& line) const
+    bool goesOn(const DumpLine& line)
     {
         if (previous_->last() || line.offsetDigits() != previous_->offsetDigits())
         {
@@ -323,7 +339,8 @@ private:
     {
         if (count > maxInputOctets - octets.size())
         {
-            refuse(text_, previous_->offset, "the dump has more than " + counted(maxInputOctets, "octet"));
+            fail(previous_->offset, "the dump has more than " + counted(maxInputOctets, "octet"));
+            return;
         }
         for (std::size_t i = 0; i < count; i += line.size())
         {
@@ -353,9 +370,9 @@ private:
         const std::uint64_t offset = valueOf(next);
         if (previous_->last() || offset <= offset_)
         {
-            refuse(text_, next.offset,
-                   "offset " + nameOf(next) + " behind " + nameOf(*previous_) +
-                       (offset == 0 ? ": a second dump; give one at a time" : ": a step back"));
+            fail(next.offset, "offset " + nameOf(next) + " behind " + nameOf(*previous_) +
+                                  (offset == 0 ? ": a second dump; give one at a time" : ": a step back"));
+            return;
         }
         const std::uint64_t step = offset - offset_;
         auto all = octetsOf(*previous_);
@@ -367,10 +384,11 @@ private:
             const Split line = split != splits.end() ? *split : likelySplit(all);
             if (step % line.octets != 0 || step > maxInputOctets)
             {
-                refuse(text_, next.offset,
-                       "offset " + nameOf(next) + " is no whole number of repeated lines behind " + nameOf(*previous_));
+                fail(next.offset,
+                     "offset " + nameOf(next) + " is no whole number of repeated lines behind " + nameOf(*previous_));
+                return;
             }
-            take(all, line, step);
+            take(all, line, static_cast<std::size_t>(step));
             star_ = false;
             return;
         }
@@ -378,9 +396,9 @@ private:
         {
             // More hex behind the octets is data that the offsets do not count, unless it shows them.
             if (split.octets == step && (split.octets == splits.back().octets ||
-                                         isAsciiColumn(columnOf(*previous_, split), Octets(all).first(step))))
+                                         isAsciiColumn(columnOf(*previous_, split), Octets(all).first(split.octets))))
             {
-                take(all, split, step);
+                take(all, split, split.octets);
                 return;
             }
         }
@@ -389,15 +407,14 @@ private:
             std::all_of(all.begin() + static_cast<std::ptrdiff_t>(step), all.end(),
                         [](auto octet) { return octet == 0; }))
         {
-            add(all, step);
+            add(all, static_cast<std::size_t>(step));
             return;
         }
         const std::size_t likely = width_ != 0 ? width_ : splits.back().octets;
         const bool longer = step > splits.back().octets;
-        refuse(text_, next.offset,
-               "offset " + nameOf(next) + " behind " + counted(splits.back().octets, "octet") + " at " +
-                   nameOf(*previous_) + ": " + nameOf(offset_ + likely, next.offsetDigits()) + " was expected" +
-                   (longer ? ", lines are missing or cut short" : ""));
+        fail(next.offset, "offset " + nameOf(next) + " behind " + counted(splits.back().octets, "octet") + " at " +
+                              nameOf(*previous_) + ": " + nameOf(offset_ + likely, next.offsetDigits()) +
+                              " was expected" + (longer ? ", lines are missing or cut short" : ""));
     }
 
     // Nothing says how long the last line is but its layout.
@@ -407,8 +424,9 @@ private:
         const bool column = column_ || !columnOf(*previous_, splitsOf(text_, *previous_).back()).empty();
         if (lowFirst_ && !column && previous_->groups.back().octets() > 1 && all.back() == 0)
         {
-            refuse(text_, previous_->offset,
-                   "the offset behind the last line is missing: its last word may be one octet or more");
+            fail(previous_->offset,
+                 "the offset behind the last line is missing: its last word may be one octet or more");
+            return;
         }
         const Split split = likelySplit(all);
         take(all, split, split.octets);
@@ -449,9 +467,9 @@ private:
         {
             return whole; // an ASCII column of blanks that were cut off
         }
-        refuse(text_, previous_->offset,
-               shown.empty() ? "the line's end is neither octets nor the ASCII column of its octets"
-                             : "the line's end may be octets or an ASCII column: cut it off");
+        fail(previous_->offset, shown.empty() ? "the line's end is neither octets nor the ASCII column of its octets"
+                                              : "the line's end may be octets or an ASCII column: cut it off");
+        return whole;
     }
 
     const Piece text_;
@@ -510,21 +528,13 @@ std::optional<Start> findStart(const Piece& text)
     return std::nullopt;
 }
 
-// Hex in groups may look like one line of a dump. What starts at 0 is meant as one, else two lines or a colon tell.
-bool isDoubtful(const Piece& text, const Start& start, std::size_t lines)
+// Hex in groups may look like a line of a dump that starts at 0.
+bool mayBeGroups(const Piece& text, const Start& start)
 {
     const DumpLine& line = start.line;
-    if (line.colon || lines > 1)
-    {
-        return false;
-    }
     const std::size_t rest = skipSpace(text, line.groups.back().end);
-    if (!start.inside && isZero(text, line) && line.groups.size() == 1 && rest >= text.end &&
-        line.offsetDigits() % 2 == 0 && line.groups[0].begin - line.digitsEnd == 1)
-    {
-        refuse(text, line.offset, "an offset and octets, or hex in groups", {Form::HexDump, Form::Hex});
-    }
-    return start.inside || !isZero(text, line);
+    return !start.inside && isZero(text, line) && line.groups.size() == 1 && rest >= text.end &&
+           line.offsetDigits() % 2 == 0 && line.groups[0].begin - line.digitsEnd == 1;
 }
 
 // Character by character; blanks at the end may have been cut off.
@@ -605,33 +615,33 @@ bool isAsciiColumn(std::string_view column, Octets octets)
     return showsOctets(column, octets);
 }
 
-std::optional<Input> readHexDump(const Piece& text, bool said)
+Reading readHexDump(const Piece& text, bool said)
 {
     const auto start = findStart(text);
     if (!start)
     {
         if (said)
         {
-            refuse(text, text.begin, "no line begins with an offset and octets in hex");
+            return refuse(text, text.begin, "no line begins with an offset and octets in hex");
         }
-        return std::nullopt;
+        return OtherForm{};
     }
     const DumpLine& first = start->line;
     const auto digits = text.all.substr(first.digits, first.offsetDigits());
     const std::size_t size = first.groups[0].end - first.groups[0].begin;
     if (size == 6 && first.offsetDigits() == 7 && !first.colon)
     {
-        refuse(text, first.groups[0].begin, "words in octal: dump the octets with 'od -tx1'");
+        return refuse(text, first.groups[0].begin, "words in octal: dump the octets with 'od -tx1'");
     }
     if (size > 2 && first.groups[0].begin > text.begin && text.all[first.groups[0].begin - 1] == 'x')
     {
-        refuse(text, first.groups[0].begin,
-               "words of a debugger, whose octets may be in any order: print octets (x/xb)");
+        return refuse(text, first.groups[0].begin,
+                      "words of a debugger, whose octets may be in any order: print octets (x/xb)");
     }
     const bool words = size > 2 && !first.prefixed;
     const bool lowFirst = words && !first.colon && first.offsetDigits() == 7;
 
-    std::optional<Refusal> refusal; // of the reading that got furthest
+    Refused refusal; // of the reading that got furthest
     for (const unsigned base : {16U, 8U, 10U})
     {
         std::optional<DumpReader> best;
@@ -645,15 +655,12 @@ std::optional<Input> readHexDump(const Piece& text, bool said)
                 continue;
             }
             DumpReader dump(text, base, low, start->inside);
-            try
+            dump.run(start->at);
+            if (dump.refused)
             {
-                dump.run(start->at);
-            }
-            catch (const Refusal& why)
-            {
-                if (!refusal || refusal->place.line < why.place.line)
+                if (!refusal || refusal->place.line < dump.refused->place.line)
                 {
-                    refusal = why;
+                    refusal = std::move(dump.refused);
                 }
                 continue;
             }
@@ -668,14 +675,22 @@ std::optional<Input> readHexDump(const Piece& text, bool said)
         {
             continue;
         }
-        if (!said && isDoubtful(text, *start, best->lines))
+        // Two lines or a colon tell that it is a dump, else that it starts at 0.
+        if (!said && !first.colon && best->lines <= 1)
         {
-            return std::nullopt;
+            if (mayBeGroups(text, *start))
+            {
+                return refuse(text, first.offset, "an offset and octets, or hex in groups", {Form::HexDump, Form::Hex});
+            }
+            if (start->inside || !isZero(text, first))
+            {
+                return OtherForm{};
+            }
         }
         constexpr std::size_t mostSure = 4; // digits: words of two octets without a sign of the order are xxd's
         if (!said && other && size > mostSure)
         {
-            refuse(
+            return refuse(
                 text, first.groups[0].begin,
                 "the octets of a word may be in either order (xxd -g 4 or xxd -e): dump single octets (xxd -g 1), or "
                 "if the first comes first",
@@ -686,9 +701,9 @@ std::optional<Input> readHexDump(const Piece& text, bool said)
     }
     if (!said && !isZero(text, first))
     {
-        return std::nullopt;
+        return OtherForm{};
     }
-    throw std::move(*refusal);
+    return std::move(*refusal);
 }
 
 } // namespace tool

@@ -79,6 +79,9 @@ std::string counted(std::size_t count, std::string_view thing);
 // The character at i in quotes, as an error names it.
 std::string shown(const Piece& text, std::size_t i);
 
-[[noreturn]] void refuse(const Piece& text, std::size_t at, std::string reason, std::vector<Form> candidates = {});
+[[nodiscard]] Refusal refuse(const Piece& text, std::size_t at, std::string reason, std::vector<Form> candidates = {});
+
+// What a step of a reader gives that can fail: nothing when all is well.
+using Refused = std::optional<Refusal>;
 
 } // namespace tool
