@@ -19,17 +19,6 @@ bool isWithin(NrSpan inner, NrSpan outer)
     return inner.start >= outer.start && inner.start + inner.size <= outer.start + outer.size;
 }
 
-OSUINT32 symbolBits(const Shape& shape)
-{
-    OSUINT32 bits = 0;
-    for (const Rect& rect : shape)
-    {
-        bits |= ((1U << std::min<OSUINT32>(rect.symbols.size, NR_SYMBOLS)) - 1U)
-                << std::min<OSUINT32>(rect.symbols.start, NR_SYMBOLS);
-    }
-    return bits;
-}
-
 void againstDirection(Gather& gather, const Grid& grid, Resource& resource)
 {
     OSUINT32 lost = 0;

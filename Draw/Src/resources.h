@@ -59,6 +59,18 @@ struct Rect
 };
 using Shape = std::vector<Rect>;
 
+// Bit i: symbol i.
+inline OSUINT32 symbolBits(const Shape& shape)
+{
+    OSUINT32 bits = 0;
+    for (const Rect& rect : shape)
+    {
+        bits |= ((1U << std::min<OSUINT32>(rect.symbols.size, NR_SYMBOLS)) - 1U)
+                << std::min<OSUINT32>(rect.symbols.start, NR_SYMBOLS);
+    }
+    return bits;
+}
+
 // By what the shapes of a resource follow each other.
 enum class Turn : OSUINT8
 {

@@ -17,7 +17,7 @@ constexpr const char* style =
     "--ink:#1b1f24;--soft:#59636e;--paper:#fff;--even:#f3f5f8;--line:#c3cad2;--dl:#cfe3f5;--ul:#f9dcc4;--flex:#eceff2}"
     "@media(prefers-color-scheme:dark){.radio{--ink:#e6edf3;--soft:#9aa5b1;--paper:#0f1419;--even:#1a212a;"
     "--line:#46515e;--dl:#1f4466;--ul:#6b3a1c;--flex:#2a323c}}"
-    ".radio text{fill:#1b1f24;fill:var(--ink)}"
+    ".radio text{fill:#1b1f24;fill:var(--ink);fill-opacity:1;stroke:none}"
     ".radio .soft{fill:#59636e;fill:var(--soft)}"
     ".radio .head{font-size:15px;font-weight:bold}.radio .sub{font-weight:bold}"
     ".radio .small{font-size:9px}.radio .mid{text-anchor:middle}.radio .end{text-anchor:end}"
@@ -610,8 +610,8 @@ private:
                 }
             }
             const std::string at = num(x + laneWidth / 2 + 3.5) + " " + num(frame.y + frame.height() - 4);
-            put("<text stroke=\"none\" class=\"small\" transform=\"translate(" + at + ") rotate(-90)\">" +
-                escaped(part.name) + "</text></g>\n");
+            put("<text class=\"small\" transform=\"translate(" + at + ") rotate(-90)\">" + escaped(part.name) +
+                "</text></g>\n");
             x += laneWidth;
         }
     }
@@ -752,8 +752,8 @@ private:
                 isFirst = false;
             }
             put(open(nameOf(resource.kind).id, resource.path, resource.title));
-            put("<text stroke=\"none\" fill-opacity=\"1\" class=\"small\" x=\"" + num(left) + "\" y=\"" + num(y_ + 8) +
-                "\">" + escaped(resource.name) + "</text>");
+            put("<text class=\"small\" x=\"" + num(left) + "\" y=\"" + num(y_ + 8) + "\">" + escaped(resource.name) +
+                "</text>");
             const auto mark = [&](double x, const Shape& shape, double symbol, bool clashes)
             {
                 for (const Rect& one : shape)
