@@ -92,9 +92,25 @@ function show(container)
             numbers.set(item, number);
             const text = item.firstChild;
             const [, name, literal] = /^(\S*) ?([^]*)$/.exec(text.data.trim());
-            const list = [...item.children].find((child) => child.tagName === "UL" || child.tagName === "OL");
+            let list = null;
+            let meaning = null;
+            const notes = []; // findings
+            for (let child = item.firstElementChild; child; child = child.nextElementSibling)
+            {
+                switch (child.tagName)
+                {
+                case "I":
+                    meaning = child;
+                    break;
+                case "P":
+                    notes.push(child);
+                    break;
+                default:
+                    list = child;
+                }
+            }
             const up = item.parentNode.parentNode;
-            const node = {item, name, literal, list, parent: numbers.has(up) ? numbers.get(up) : -1, first: 0, count: -1,
+            const node = {item, name, literal, list, meaning, notes, parent: numbers.has(up) ? numbers.get(up) : -1, first: 0, count: -1,
                           end: number + 1, level: 1, below: 0, at: 0};
             const bits = message.bits[number];
             if (bits !== null)
@@ -120,7 +136,6 @@ function show(container)
             {
                 row.dataset.b = range(node.first, node.count);
             }
-            const meaning = [...item.children].find((child) => child.tagName === "I");
             if (meaning)
             {
                 row.append(meaning);
@@ -154,11 +169,11 @@ function show(container)
     };
 
     const label = (node) =>
-        [node.literal ? `${node.name} ${node.literal}` : node.name, ...[...node.item.children]
-            .filter((child) => child.tagName === "P").map((child) => child.firstChild.textContent + " " +
-                                                                     child.dataset.id),
-         node.row.querySelector("i") ? node.row.querySelector("i").textContent : "",
-         node.count >= 0 ? range(node.first, node.count) : ""].filter(Boolean).join(", ");
+        [node.literal ? `${node.name} ${node.literal}` : node.name,
+         ...node.notes.map((note) => `${note.firstChild.textContent} ${note.dataset.id}`),
+         node.meaning ? node.meaning.textContent : "", node.count >= 0 ? range(node.first, node.count) : ""]
+            .filter(Boolean)
+            .join(", ");
 
     // The subtrees that have a colour, in both messages the same one: a large subtree is left to those below it.
     const hues = new Map();
@@ -381,7 +396,7 @@ function show(container)
         view.stop = 0; // the node that has the tree's tab stop
         view.current = -1;
         view.dark = () => {}; // puts out what is lit
-        view.hot = null;
+        view.hot = null; // the row that is marked, or was
     });
 
     // Pictures: what is drawn of an element has its path.
@@ -434,7 +449,6 @@ function show(container)
         if (view.hot)
         {
             view.hot.classList.remove("hot");
-            view.hot = null;
         }
         showDrawn(view, number);
         if (number < 0)
@@ -901,19 +915,16 @@ function show(container)
     }));
     const differenceSteps = stepper("difference", differences, ["n", "p"], (difference, at) =>
     {
-        const lit = views.map((view, which) =>
-        {
-            select(view, difference[which], which === 0);
-            return view.hot;
-        });
+        const isThere = (which) => (difference[2] & (1 << which)) !== 0;
+        views.forEach((view, which) => select(view, difference[which], which === 0));
+        views.forEach((view) => view.dark());
         views.forEach((view, which) =>
         {
             const node = view.nodes[difference[which]];
-            view.dark();
-            view.dark = light(view, node.first, node.count);
-            view.hot = lit[which];
-            view.hot.classList.add("hot");
+            view.hot.classList.toggle("hot", isThere(which));
+            view.dark = isThere(which) ? light(view, node.first, node.count) : () => {};
         });
+        told.textContent = words[at] ? words[at].textContent : describe(views[1], difference[1]);
         return words[at] ? words[at].textContent : path(views[0], difference[0]);
     });
     if (differences.length !== 0)
