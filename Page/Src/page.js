@@ -606,16 +606,15 @@ function show(container)
     const zoomTo = (picture, grid0, slot) =>
     {
         const whole = picture.whole;
-        const texts = picture.querySelectorAll("text");
+        picture.classList.toggle("near", slot >= 0);
         if (slot < 0)
         {
             picture.setAttribute("viewBox", whole.join(" "));
             picture.removeAttribute("preserveAspectRatio");
-            picture.classList.remove("near");
-            texts.forEach((text) =>
+            picture.texts.forEach(({text, transform}) =>
             {
-                text.removeAttribute("transform");
-                text.style.textAnchor = "";
+                transform ? text.setAttribute("transform", transform) : text.removeAttribute("transform");
+                text.style.textAnchor = text.style.display = "";
             });
             return;
         }
@@ -623,16 +622,26 @@ function show(container)
         const width = Number(grid0.dataset.slotWidth);
         const x = left + (slot - 0.15) * width;
         const seenWidth = 1.2 * width;
-        const stretch = whole[2] / seenWidth;
+        const squeezed = `scale(${seenWidth / whole[2]} 1)`;
         picture.setAttribute("viewBox", [x, whole[1], seenWidth, whole[3]].join(" "));
         picture.setAttribute("preserveAspectRatio", "none");
-        picture.classList.add("near");
-        texts.forEach((text) =>
+        const labels = new Map(); // of each line the last one is left
+        picture.texts.forEach(({text, transform}) =>
         {
             const at = Number(text.getAttribute("x"));
             const isLabel = at < left;
+            if (isLabel)
+            {
+                const line = text.getAttribute("y");
+                if (labels.has(line))
+                {
+                    labels.get(line).style.display = "none";
+                }
+                labels.set(line, text);
+            }
+            text.style.display = transform ? "none" : "";
             text.style.textAnchor = isLabel ? "start" : "";
-            text.setAttribute("transform", `translate(${isLabel ? x : at} 0) scale(${1 / stretch} 1) translate(${-at} 0)`);
+            text.setAttribute("transform", `translate(${isLabel ? x : at} 0) ${squeezed} translate(${-at} 0)`);
         });
     };
     views.forEach((view) =>
@@ -667,6 +676,8 @@ function show(container)
         {
             return;
         }
+        picture.texts = [...picture.querySelectorAll("text")].map(
+            (text) => ({text, transform: text.getAttribute("transform")}));
         picture.whole = picture.getAttribute("viewBox").split(" ").map(Number);
         const tools = make("div", "zoom");
         tools.setAttribute("role", "toolbar");
