@@ -130,7 +130,7 @@ void addGrant(Gather& gather, const Place& place, const ConfiguredGrantConfig& g
     resource.offset = one->timeDomainOffset;
     resource.duration = meaning(repetitions, grant.repK);
     resource.duration = std::max<OSUINT32>(resource.duration, 1);
-    append(resource.title, " of type 1%s%s, %s, %s%s", rbs.size == 0 ? "" : ", ",
+    append(resource.detail, " of type 1%s%s, %s, %s%s", rbs.size == 0 ? "" : ", ",
            rbs.size == 0 ? "" : spanWords(gather.panelOf(place).rbWord(), rbs).c_str(),
            spanWords("symbol", *symbols).c_str(),
            recurrenceWords(resource.period, resource.offset, resource.duration).c_str(),

@@ -41,6 +41,16 @@ void againstDirection(Gather& gather, const Grid& grid, Resource& resource)
     }
 }
 
+// A UE receives nothing in symbols of the uplink: shown, but no clash, as search spaces recur whatever the pattern is.
+void withinUplink(const Grid& grid, Resource& resource)
+{
+    for (Occasion& occasion : resource.occasions)
+    {
+        const NrTddSlot& directions = grid.tdd[occasion.slot - grid.slots.start];
+        occasion.isIdle = (directions.uplink & symbolBits(resource.shapes[occasion.shape])) != 0;
+    }
+}
+
 void beyondBwp(Gather& gather, Resource& resource)
 {
     const bool isTold = resource.kind == Kind::SearchSpace; // of its CORESET
@@ -68,9 +78,25 @@ bool isUci(const Resource& resource)
     return resource.kind == Kind::SchedulingRequest || resource.kind == Kind::CsiReport;
 }
 
-// Of two PUCCHs of a bandwidth part that have symbols in common, not both are sent.
+// What becomes of two PUCCHs that have symbols in common (TS 38.213 9.2.5); null where both are sent.
+const char* outcomeOf(const Resource& a, const Resource& b)
+{
+    if (a.kind == Kind::CsiReport && b.kind == Kind::CsiReport)
+    {
+        // Reports of one slot are joined on the resources that are listed for it.
+        const bool areJoined = a.bwp->pucch != nullptr && a.bwp->pucch->m.multi_CSI_PUCCH_ResourceListPresent != 0;
+        return areJoined ? nullptr : "without multi-CSI-PUCCH-ResourceList one of them is sent";
+    }
+    return a.kind == b.kind ? "one of them is sent" : "the request goes along in the report's PUCCH";
+}
+
 void samePucch(Gather& gather, Resource& a, Resource& b)
 {
+    const char* const outcome = outcomeOf(a, b);
+    if (outcome == nullptr)
+    {
+        return;
+    }
     OSUINT32 met = 0;
     OSUINT32 first = 0;
     bool isSameBlock = false;
@@ -105,9 +131,9 @@ void samePucch(Gather& gather, Resource& a, Resource& b)
     }
     if (met != 0)
     {
-        gather.clash(words("%s and %s overlap in symbols%s of %u slot%s, the first slot %u: one PUCCH is sent for both",
-                           a.title.c_str(), b.title.c_str(), isSameBlock ? " and resource blocks" : "", met,
-                           rtx::plural(met), first),
+        gather.clash(words("%s and %s overlap in symbols%s of %u slot%s, the first slot %u: %s", a.title.c_str(),
+                           b.title.c_str(), isSameBlock ? " and resource blocks" : "", met, rtx::plural(met), first,
+                           outcome),
                      a.path, b.path);
     }
 }
@@ -125,6 +151,10 @@ void findClashes(Gather& gather, Grid& grid)
             if (panel.direction != Direction::Downlink && grid.hasTdd)
             {
                 againstDirection(gather, grid, resource);
+            }
+            if (panel.direction == Direction::Downlink && grid.hasTdd)
+            {
+                withinUplink(grid, resource);
             }
             for (size_t j = 0; j < i && isUci(resource); ++j)
             {

@@ -50,9 +50,9 @@ void finish(Gather& gather, const Place& place, Resource&& resource, NrSpan rbs,
     }
     if (rbs.size != 0)
     {
-        append(resource.title, ", %s", spanWords("common resource block", rbs).c_str());
+        append(resource.detail, ", %s", spanWords("common resource block", rbs).c_str());
     }
-    append(resource.title, ", %s",
+    append(resource.detail, ", %s",
            resource.period == 0 ? "when triggered"
                                 : recurrenceWords(resource.period, resource.offset, resource.duration).c_str());
     gather.add(place, std::move(resource));
@@ -91,11 +91,11 @@ void addMapping(Gather& gather, const Place& place, Resource&& resource, const C
     {
         shape.push_back({rbs, {mapping.firstOFDMSymbolInTimeDomain2, row->secondSymbols}, mask, every});
     }
-    append(resource.title, ", row %u, %u port%s, %s", row->row, row->ports, row->ports == 1 ? "" : "s",
+    append(resource.detail, ", row %u, %u port%s, %s", row->row, row->ports, row->ports == 1 ? "" : "s",
            spanWords("symbol", shape[0].symbols).c_str());
     if (shape.size() > 1)
     {
-        append(resource.title, " and %s", spanWords("", shape[1].symbols).c_str());
+        append(resource.detail, " and %s", spanWords("", shape[1].symbols).c_str());
     }
     resource.shapes.push_back(std::move(shape));
     finish(gather, place, std::move(resource), rbs, recurring);
@@ -127,7 +127,7 @@ void addIm(Gather& gather, const Place& place, const CSI_IM_Resource& im)
         gather.cannot(resource.path, resource.title, "its freqBand does not meet the bandwidth part");
         return;
     }
-    append(resource.title, ", subcarriers %u..%u, %s", first, first + (two != nullptr ? 1 : 3),
+    append(resource.detail, ", subcarriers %u..%u, %s", first, first + (two != nullptr ? 1 : 3),
            spanWords("symbol", symbols).c_str());
     resource.shapes.push_back({{rbs, symbols, mask, 1}});
     finish(gather, place, std::move(resource), rbs, MEMBER(im, periodicityAndOffset));

@@ -229,7 +229,7 @@ void Gather::fillWaiting(const Grid& grid, Resource& resource)
             {
                 if (at >= grid.slots.start)
                 {
-                    resource.occasions.push_back({at, sent % static_cast<OSUINT32>(resource.shapes.size()), false});
+                    resource.occasions.push_back({at, sent % static_cast<OSUINT32>(resource.shapes.size())});
                 }
                 ++sent;
             }
@@ -269,7 +269,7 @@ void Gather::fillSlots(Grid& grid, Resource& resource)
         const OSUINT32 turn = resource.turn == Turn::Occasion     ? number
                               : resource.turn == Turn::Repetition ? within
                                                                   : slot;
-        resource.occasions.push_back({slot, turn % static_cast<OSUINT32>(resource.shapes.size()), false});
+        resource.occasions.push_back({slot, turn % static_cast<OSUINT32>(resource.shapes.size())});
     }
     if (resource.occasions.empty())
     {
@@ -328,6 +328,7 @@ CellPicture Gather::picture(Cell& cell)
         addPucch(*this, place);
         addAllocations(*this, place);
     }
+    addBlocks(*this, cell);
     addCsi(*this, cell);
     if (pucchCellOf(model, cell) == nullptr)
     {

@@ -95,6 +95,8 @@ std::string nameOf(const Bwp& bwp);
 
 void addPart(Gather& gather, const Place& place);
 void addPdcch(Gather& gather, const Place& place);
+// The SS/PBCH blocks of a cell.
+void addBlocks(Gather& gather, Cell& cell);
 void addCsi(Gather& gather, Cell& cell);
 void addZeroPower(Gather& gather, const Place& place);
 void addSrs(Gather& gather, const Place& place);

@@ -153,7 +153,7 @@ void addSearchSpace(Gather& gather, const Place& place, const SearchSpace& space
         }
     }
     resource.shapes.push_back(std::move(shape));
-    append(resource.title, ", CORESET %u%s%s, from symbol %s on for %u, %s", found.id, found.rbs.empty() ? "" : ", ",
+    append(resource.detail, ", CORESET %u%s%s, from symbol %s on for %u, %s", found.id, found.rbs.empty() ? "" : ", ",
            spansWords(gather.panelOf(place).rbWord(), found.rbs).c_str(), symbolList(first).c_str(), found.symbols,
            recurrenceWords(resource.period, resource.offset, resource.duration).c_str());
     if (found.rbs.empty())

@@ -93,7 +93,7 @@ void addOccasions(Gather& gather, const Place& place, Resource&& resource, OSUIN
     resource.duration = format.slots;
     resource.waits = format.slots > 1;
     resource.turn = Turn::Repetition;
-    append(resource.title, " on PUCCH resource %u: %s, %s", id, formatWords(gather.panelOf(place), format).c_str(),
+    append(resource.detail, " on PUCCH resource %u: %s, %s", id, formatWords(gather.panelOf(place), format).c_str(),
            recurrenceWords(when.period, when.offset, format.slots).c_str());
     if (resource.shapes.empty())
     {
@@ -141,7 +141,7 @@ void addRequest(Gather& gather, const Place& place, const SchedulingRequestResou
         if (pucch != nullptr && formatOf(gather, place, *pucch, resource.path, resource.title, format))
         {
             resource.shapes = severalInSlot(format, period.symbols, place.bwp->symbolsPerSlot());
-            append(resource.title, " every %u symbols", period.symbols);
+            append(resource.detail, " every %u symbols", period.symbols);
         }
         else if (pucch != nullptr)
         {
@@ -171,7 +171,7 @@ void addPucch(Gather& gather, const Place& place)
         Format format{};
         if (formatOf(gather, place, *entry.element, resource.path, resource.title, format))
         {
-            append(resource.title, ": %s", formatWords(gather.panelOf(place), format).c_str());
+            append(resource.detail, ": %s", formatWords(gather.panelOf(place), format).c_str());
             resource.shapes = std::move(format.shapes);
             gather.add(place, std::move(resource));
         }
@@ -207,7 +207,7 @@ void addReports(Gather& gather, Cell& cell, Cell& of)
         }
         if (persistent != nullptr)
         {
-            resource.title += ", while activated,";
+            resource.detail += ", while activated,";
         }
         for (const PUCCH_CSI_Resource& used : csiResourcesOf(gather.tree, report))
         {

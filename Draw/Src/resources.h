@@ -83,7 +83,8 @@ struct Occasion
 {
     OSUINT32 slot;
     OSUINT32 shape;
-    bool clashes;
+    bool clashes = false;
+    bool isIdle = false; // of the downlink, in symbols of the uplink
 };
 
 struct Resource
@@ -91,6 +92,7 @@ struct Resource
     Kind kind;
     std::string path;
     std::string title;
+    std::string detail; // what is behind the title
     std::string name; // short, unique in its panel as far as ids are
     const Bwp* bwp;
     NrSpan own;                // resource blocks of the bandwidth part on the axis; size 0: not known

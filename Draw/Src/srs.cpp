@@ -82,13 +82,13 @@ void addSrs(Gather& gather, const Place& place)
             }
             resource.shapes.push_back(std::move(shape));
         }
-        append(resource.title, ", %u resource blocks%s, comb %u offset %u, %s, %s", nrSrsBandwidth(c, b),
+        append(resource.detail, ", %u resource blocks%s, comb %u offset %u, %s, %s", nrSrsBandwidth(c, b),
                bHop < b ? words(" hopping over %u", nrSrsBandwidth(c, bHop)).c_str() : "", comb.size, comb.offset,
                spanWords("symbol", symbols).c_str(),
                when.period == 0 ? "when triggered" : recurrenceWords(when.period, when.offset, 1).c_str());
         if (srs.resourceType.t == T_SRS_Resource_resourceType_semi_persistent)
         {
-            resource.title += ", while activated";
+            resource.detail += ", while activated";
         }
         if (!isPlaced)
         {

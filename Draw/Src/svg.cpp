@@ -40,7 +40,7 @@ constexpr const char* style =
     ".radio .csi-report{fill:#e69f00;stroke:#8a5f00;stroke-width:.5}"
     ".radio .sr{fill:#d55e00;stroke:#8f3f00;stroke-width:.5}"
     ".radio .row{fill:#59636e;fill:var(--soft)}.radio .empty{fill:#eceff2;fill:var(--flex)}"
-    ".radio .tint{fill-opacity:.18}"
+    ".radio .idle{opacity:.25}.radio .tint{fill-opacity:.18}"
     ".radio .hatch{stroke:#c00000;stroke-width:1.6}.radio .clash{stroke:#c00000;stroke-width:1}"
     ".radio .alarm{fill:#c00000;font-weight:bold}"
     "@media(prefers-color-scheme:dark){.radio .alarm{fill:#ff8080}.radio .clash,.radio .hatch{stroke:#ff6b6b}}"
@@ -156,7 +156,7 @@ private:
                     for (const Resource& resource : panel.resources)
                     {
                         add(resource.path);
-                        add(resource.title);
+                        add(resource.title + resource.detail);
                     }
                 }
             }
@@ -520,7 +520,7 @@ private:
                     (panel.isCommon ? "" : " from the carrier's first one, whose offset from point A is not known");
         }
         text(left, y_ - 4, "", axis);
-        const double room = grid.slots.size == 1 ? 820 : 400;
+        const double room = grid.slots.size == 1 ? 620 : 400;
         const Frame frame{y_, panel.axis.size == 0 ? 1 : quarters(room / panel.axis.size, .75, 12), panel.axis};
         put(std::string("<g class=\"panel\" data-direction=\"") +
             (panel.direction == Direction::Supplementary ? "supplementary" : rules::nameOf(panel.direction)) +
@@ -687,7 +687,7 @@ private:
             {
                 continue;
             }
-            put(open(nameOf(resource.kind).id, resource.path, resource.title));
+            put(open(nameOf(resource.kind).id, resource.path, resource.title + resource.detail));
             if (resource.period == 0)
             {
                 put(shapeOf(resource, resource.shapes[0], frame, scale.any, anySymbol) + "</g>\n");
@@ -705,7 +705,8 @@ private:
                         shapeOf(resource, resource.shapes[occasion.shape], frame, 0, scale.symbol) + "</g></defs>");
                 }
                 uses += "<use href=\"#" + id + "\" x=\"" +
-                        num(scale.x + scale.slot * (occasion.slot - grid.slots.start)) + "\"/>";
+                        num(scale.x + scale.slot * (occasion.slot - grid.slots.start)) +
+                        (occasion.isIdle ? "\" class=\"idle\"/>" : "\"/>");
             }
             put(uses + "</g>\n");
         }
@@ -751,7 +752,7 @@ private:
                 text(left, y_ - 3, "soft small", "in time alone");
                 isFirst = false;
             }
-            put(open(nameOf(resource.kind).id, resource.path, resource.title));
+            put(open(nameOf(resource.kind).id, resource.path, resource.title + resource.detail));
             put("<text class=\"small\" x=\"" + num(left) + "\" y=\"" + num(y_ + 8) + "\">" + escaped(resource.name) +
                 "</text>");
             const auto mark = [&](double x, const Shape& shape, double symbol, bool clashes)
