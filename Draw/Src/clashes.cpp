@@ -1,4 +1,5 @@
-// What excludes each other: uplink on downlink symbols, PUCCH in the same symbols, what reaches beyond its bandwidth part.
+// What excludes each other: uplink on downlink symbols, PUCCH in the same symbols, what reaches beyond its bandwidth
+// part.
 #include "gather.h"
 
 #include "rtxLine.h"
@@ -16,17 +17,6 @@ bool meets(NrSpan a, NrSpan b)
 bool isWithin(NrSpan inner, NrSpan outer)
 {
     return inner.start >= outer.start && inner.start + inner.size <= outer.start + outer.size;
-}
-
-OSUINT32 symbolBits(const Shape& shape)
-{
-    OSUINT32 bits = 0;
-    for (const Rect& rect : shape)
-    {
-        bits |= ((1U << std::min<OSUINT32>(rect.symbols.size, NR_SYMBOLS)) - 1U)
-                << std::min<OSUINT32>(rect.symbols.start, NR_SYMBOLS);
-    }
-    return bits;
 }
 
 void againstDirection(Gather& gather, const Grid& grid, Resource& resource)
@@ -65,8 +55,7 @@ void beyondBwp(Gather& gather, Resource& resource)
                     occasion.clashes = true;
                 }
                 gather.clash(words("%s: %s, but its bandwidth part is %s", resource.title.c_str(),
-                                   spanWords("resource block", rect.rbs).c_str(),
-                                   spanWords("", resource.own).c_str()),
+                                   spanWords("resource block", rect.rbs).c_str(), spanWords("", resource.own).c_str()),
                              resource.path);
                 return;
             }

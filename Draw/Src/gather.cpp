@@ -1,5 +1,7 @@
 #include "gather.h"
 
+#include "uplinkParts.h"
+
 #include "rrcRules.h"
 
 #include <cstdarg>
@@ -11,6 +13,7 @@ namespace
 {
 
 constexpr OSUINT32 mostOccasions = 20000; // of a cell, so that a picture stays one that can be shown
+constexpr OSUINT32 mostWait = 320;        // slots that repetitions are looked for in: of a period at the widest spacing
 constexpr OSUINT32 mostRbs = 550;         // of an axis: a carrier, and as much beyond it
 
 void extend(NrSpan& axis, NrSpan rbs)
@@ -75,9 +78,9 @@ std::string words(const char* format, ...)
 std::string spanWords(const char* what, NrSpan span)
 {
     const char* const gap = *what == '\0' ? "" : " ";
-    return span.size == 1 ? words("%s%s%u", what, gap, span.start)
-                          : words("%s%s%s%u..%u", what, *what == '\0' ? "" : "s", gap, span.start,
-                                  span.start + span.size - 1);
+    return span.size == 1
+               ? words("%s%s%u", what, gap, span.start)
+               : words("%s%s%s%u..%u", what, *what == '\0' ? "" : "s", gap, span.start, span.start + span.size - 1);
 }
 
 std::string recurrenceWords(OSUINT32 period, OSUINT32 offset, OSUINT32 duration)
@@ -204,8 +207,46 @@ void Gather::chooseSlots(Grid& grid)
     grid.slots = {options_.firstSlot, std::min(count, OSUINT32{::draw::mostSlots})};
 }
 
+bool Gather::isFree(const Grid& grid, const Resource& resource, OSUINT32 slot)
+{
+    return !grid.hasTdd || (tddSlotAt(*this, *cell_, grid, slot).downlink & symbolBits(resource.shapes[0])) == 0;
+}
+
+// Repetitions in the slots that have its symbols, from each occasion's first slot on (TS 38.213 9.2.6).
+void Gather::fillWaiting(const Grid& grid, Resource& resource)
+{
+    const OSUINT32 end = grid.slots.start + grid.slots.size;
+    const OSUINT32 offset = resource.offset % resource.period;
+    const OSUINT32 before = std::max(mostWait, resource.period);
+    OSUINT32 slot = grid.slots.start > before ? grid.slots.start - before : 0;
+    slot += (offset + resource.period - slot % resource.period) % resource.period;
+    for (; slot < end; slot += resource.period)
+    {
+        OSUINT32 sent = 0;
+        for (OSUINT32 at = slot; at < end && at < slot + mostWait && sent < resource.duration; ++at)
+        {
+            if (isFree(grid, resource, at))
+            {
+                if (at >= grid.slots.start)
+                {
+                    resource.occasions.push_back({at, sent % static_cast<OSUINT32>(resource.shapes.size()), false});
+                }
+                ++sent;
+            }
+        }
+    }
+    std::stable_sort(resource.occasions.begin(), resource.occasions.end(),
+                     [](const Occasion& a, const Occasion& b) { return a.slot < b.slot; });
+    occasions_ += static_cast<OSUINT32>(resource.occasions.size());
+}
+
 void Gather::fillSlots(Grid& grid, Resource& resource)
 {
+    if (resource.waits)
+    {
+        fillWaiting(grid, resource);
+        return;
+    }
     const OSUINT32 first = grid.slots.start;
     const OSUINT32 end = first + grid.slots.size;
     const OSUINT32 offset = resource.offset % resource.period;
@@ -218,9 +259,10 @@ void Gather::fillSlots(Grid& grid, Resource& resource)
         }
         if (++occasions_ > mostOccasions)
         {
-            cannot(resource.path, resource.title,
-                   words("from slot %u on: the picture has no room for more than %u occasions of a cell; draw fewer slots",
-                         slot, mostOccasions));
+            cannot(
+                resource.path, resource.title,
+                words("from slot %u on: the picture has no room for more than %u occasions of a cell; draw fewer slots",
+                      slot, mostOccasions));
             return;
         }
         const OSUINT32 number = slot >= offset ? (slot - offset) / resource.period : 0;
@@ -281,6 +323,26 @@ CellPicture Gather::picture(Cell& cell)
     for (const Place& place : places_)
     {
         addPdcch(*this, place);
+        addZeroPower(*this, place);
+        addSrs(*this, place);
+        addPucch(*this, place);
+        addAllocations(*this, place);
+    }
+    addCsi(*this, cell);
+    if (pucchCellOf(model, cell) == nullptr)
+    {
+        for (const IdEntry<CSI_ReportConfig>& entry : model.csi(cell).reports)
+        {
+            cannot(pathOf(nr_rrc::type_CSI_ReportConfig, *entry.element), words("CSI report %u", entry.id),
+                   "the cell of its PUCCH; " + needWords(RRC_RULE_INPUT_PREVIOUS));
+        }
+    }
+    for (Cell& other : model.cells())
+    {
+        if (pucchCellOf(model, other) == &cell)
+        {
+            addReports(*this, cell, other);
+        }
     }
     for (Grid& grid : made_.grids)
     {

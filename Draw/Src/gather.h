@@ -30,7 +30,7 @@ struct Place
     Bwp* bwp;
     size_t grid;
     size_t panel;
-    Known<NrSpan> rbs; // on the panel's axis
+    Known<NrSpan> rbs;           // on the panel's axis
     Known<OSUINT32> commonStart; // its first common resource block
 };
 
@@ -79,6 +79,9 @@ private:
     static void fitAxis(Panel& panel);
     void chooseSlots(Grid& grid);
     void fillSlots(Grid& grid, Resource& resource);
+    void fillWaiting(const Grid& grid, Resource& resource);
+    // Whether none of a resource's symbols is of the downlink.
+    bool isFree(const Grid& grid, const Resource& resource, OSUINT32 slot);
 
     const ::draw::Options& options_;
     CellPicture made_;
@@ -92,6 +95,13 @@ std::string nameOf(const Bwp& bwp);
 
 void addPart(Gather& gather, const Place& place);
 void addPdcch(Gather& gather, const Place& place);
+void addCsi(Gather& gather, Cell& cell);
+void addZeroPower(Gather& gather, const Place& place);
+void addSrs(Gather& gather, const Place& place);
+void addPucch(Gather& gather, const Place& place);
+// The CSI reports of a cell, itself or another one, on the PUCCH of this one.
+void addReports(Gather& gather, Cell& cell, Cell& of);
+void addAllocations(Gather& gather, const Place& place);
 
 // The directions of symbols at a spacing, the dedicated pattern over the common one; nothing where the cell has no
 // patterns, or they are not known, which is said.

@@ -27,7 +27,7 @@ struct Control
     std::vector<NrSpan> rbs; // on the axis; none: not known
     OSUINT32 inputs;         // what would tell it
     std::string path;
-    bool isBeyond;           // its bandwidth part
+    bool isBeyond; // its bandwidth part
 };
 
 Control controlOf(Gather& gather, const Place& place, const ControlResourceSet& coreset)
@@ -180,8 +180,9 @@ void addPdcch(Gather& gather, const Place& place)
         if (control.rbs.empty())
         {
             gather.cannot(control.path, title,
-                          control.inputs != 0 || !place.commonStart ? "its resource blocks: " + needWords(control.inputs)
-                                                                    : std::string("frequencyDomainResources has no bit set"));
+                          control.inputs != 0 || !place.commonStart
+                              ? "its resource blocks: " + needWords(control.inputs)
+                              : std::string("frequencyDomainResources has no bit set"));
         }
         else
         {
@@ -194,9 +195,9 @@ void addPdcch(Gather& gather, const Place& place)
         }
         if (control.isBeyond)
         {
-            gather.clash(words("%s reaches beyond its bandwidth part of %u resource blocks", title.c_str(),
-                               place.rbs->size),
-                         control.path);
+            gather.clash(
+                words("%s reaches beyond its bandwidth part of %u resource blocks", title.c_str(), place.rbs->size),
+                control.path);
         }
         controls.push_back(std::move(control));
     }

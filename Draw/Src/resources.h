@@ -31,15 +31,9 @@ struct KindName
     const char* words;
 };
 constexpr KindName kindNames[kindCount] = {
-    {"search-space", "search space"},
-    {"ssb", "SS/PBCH block"},
-    {"csi-rs", "CSI-RS"},
-    {"zp-csi-rs", "zero-power CSI-RS"},
-    {"csi-im", "CSI-IM"},
-    {"srs", "SRS"},
-    {"grant", "configured grant"},
-    {"pucch", "PUCCH resource"},
-    {"csi-report", "CSI report"},
+    {"search-space", "search space"},   {"ssb", "SS/PBCH block"},    {"csi-rs", "CSI-RS"},
+    {"zp-csi-rs", "zero-power CSI-RS"}, {"csi-im", "CSI-IM"},        {"srs", "SRS"},
+    {"grant", "configured grant"},      {"pucch", "PUCCH resource"}, {"csi-report", "CSI report"},
     {"sr", "scheduling request"},
 };
 inline const KindName& nameOf(Kind kind)
@@ -52,8 +46,8 @@ constexpr OSUINT16 allSubcarriers = 0xFFF;
 // Resource elements of a slot.
 struct Rect
 {
-    NrSpan rbs;     // on the panel's axis; size 0: where in frequency is not known
-    NrSpan symbols; // of the slot
+    NrSpan rbs;                            // on the panel's axis; size 0: where in frequency is not known
+    NrSpan symbols;                        // of the slot
     OSUINT16 subcarriers = allSubcarriers; // bit k: subcarrier k of a resource block
     OSUINT8 every = 1;                     // 2: of every second resource block from the first one on
 
@@ -64,6 +58,18 @@ struct Rect
     }
 };
 using Shape = std::vector<Rect>;
+
+// Bit i: symbol i.
+inline OSUINT32 symbolBits(const Shape& shape)
+{
+    OSUINT32 bits = 0;
+    for (const Rect& rect : shape)
+    {
+        bits |= ((1U << std::min<OSUINT32>(rect.symbols.size, NR_SYMBOLS)) - 1U)
+                << std::min<OSUINT32>(rect.symbols.start, NR_SYMBOLS);
+    }
+    return bits;
+}
 
 // By what the shapes of a resource follow each other.
 enum class Turn : OSUINT8
@@ -85,9 +91,9 @@ struct Resource
     Kind kind;
     std::string path;
     std::string title;
-    std::string name;      // short, unique in its panel as far as ids are
+    std::string name; // short, unique in its panel as far as ids are
     const Bwp* bwp;
-    NrSpan own; // resource blocks of the bandwidth part on the axis; size 0: not known
+    NrSpan own;                // resource blocks of the bandwidth part on the axis; size 0: not known
     std::vector<Shape> shapes; // at least one
     OSUINT32 period = 0;       // slots; 0: whenever it is asked for
     OSUINT32 offset = 0;

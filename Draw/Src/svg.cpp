@@ -17,7 +17,7 @@ constexpr const char* style =
     "--ink:#1b1f24;--soft:#59636e;--paper:#fff;--even:#f3f5f8;--line:#c3cad2;--dl:#cfe3f5;--ul:#f9dcc4;--flex:#eceff2}"
     "@media(prefers-color-scheme:dark){.radio{--ink:#e6edf3;--soft:#9aa5b1;--paper:#0f1419;--even:#1a212a;"
     "--line:#46515e;--dl:#1f4466;--ul:#6b3a1c;--flex:#2a323c}}"
-    ".radio text{fill:#1b1f24;fill:var(--ink)}"
+    ".radio text{fill:#1b1f24;fill:var(--ink);fill-opacity:1;stroke:none}"
     ".radio .soft{fill:#59636e;fill:var(--soft)}"
     ".radio .head{font-size:15px;font-weight:bold}.radio .sub{font-weight:bold}"
     ".radio .small{font-size:9px}.radio .mid{text-anchor:middle}.radio .end{text-anchor:end}"
@@ -400,8 +400,8 @@ private:
         put("<g class=\"grid\" data-cell=\"" + std::to_string(cellNumber) + "\" data-first-slot=\"" +
             std::to_string(grid.slots.start) + "\" data-slots=\"" + std::to_string(grid.slots.size) +
             "\" data-symbols=\"" + std::to_string(grid.symbols()) + "\" data-spacing=\"" +
-            std::to_string(khzOf(grid.mu)) + "\" data-x=\"" + num(scale.x) + "\" data-slot-width=\"" +
-            num(scale.slot) + "\" data-symbol-width=\"" + num(scale.symbol) + "\"" +
+            std::to_string(khzOf(grid.mu)) + "\" data-x=\"" + num(scale.x) + "\" data-slot-width=\"" + num(scale.slot) +
+            "\" data-symbol-width=\"" + num(scale.symbol) + "\"" +
             (hasAny ? " data-any-x=\"" + num(scale.any) + "\" data-any-symbol-width=\"" + num(anySymbol) + "\"" : "") +
             ">\n");
         line("sub", words("%u kHz%s, %s (%s ms)", khzOf(grid.mu), grid.isExtended ? ", extended cyclic prefix" : "",
@@ -610,8 +610,8 @@ private:
                 }
             }
             const std::string at = num(x + laneWidth / 2 + 3.5) + " " + num(frame.y + frame.height() - 4);
-            put("<text stroke=\"none\" class=\"small\" transform=\"translate(" + at + ") rotate(-90)\">" +
-                escaped(part.name) + "</text></g>\n");
+            put("<text class=\"small\" transform=\"translate(" + at + ") rotate(-90)\">" + escaped(part.name) +
+                "</text></g>\n");
             x += laneWidth;
         }
     }
@@ -624,7 +624,8 @@ private:
         {
             return "";
         }
-        const OSUINT32 phase = shape.every <= 1 ? 0 : (frame.axis.start + frame.axis.size - shape.rbs.start) % shape.every;
+        const OSUINT32 phase =
+            shape.every <= 1 ? 0 : (frame.axis.start + frame.axis.size - shape.rbs.start) % shape.every;
         const std::string key = words("%s-%x-%u-%u-%s-%s", nameOf(resource.kind).id, unsigned{shape.subcarriers},
                                       unsigned{shape.every}, phase, num(frame.rb).c_str(), num(frame.y).c_str());
         for (const auto& known : fills_)
@@ -656,8 +657,8 @@ private:
             k = end + 1;
         }
         patterns_ += tile + "</g></pattern>\n";
-        const std::string use = words(" style=\"fill:url(#%s)\" data-subcarriers=\"%03x\" data-every=\"%u\"", id.c_str(),
-                                      unsigned{shape.subcarriers}, every);
+        const std::string use = words(" style=\"fill:url(#%s)\" data-subcarriers=\"%03x\" data-every=\"%u\"",
+                                      id.c_str(), unsigned{shape.subcarriers}, every);
         fills_.emplace_back(key, use);
         return use;
     }
@@ -725,7 +726,8 @@ private:
                 {
                     const NrSpan rbs = clipped(one.rbs, frame.axis);
                     const double height = std::max(frame.rb * rbs.size, 3.0);
-                    put(rect(scale.x + scale.slot * (occasion.slot - grid.slots.start) + scale.symbol * one.symbols.start,
+                    put(rect(scale.x + scale.slot * (occasion.slot - grid.slots.start) +
+                                 scale.symbol * one.symbols.start,
                              frame.top(rbs), std::max(scale.symbol * one.symbols.size, 3.0), height, hatched()));
                 }
                 put("\n");
@@ -750,8 +752,8 @@ private:
                 isFirst = false;
             }
             put(open(nameOf(resource.kind).id, resource.path, resource.title));
-            put("<text stroke=\"none\" fill-opacity=\"1\" class=\"small\" x=\"" + num(left) + "\" y=\"" + num(y_ + 8) + "\">" +
-                escaped(resource.name) + "</text>");
+            put("<text class=\"small\" x=\"" + num(left) + "\" y=\"" + num(y_ + 8) + "\">" + escaped(resource.name) +
+                "</text>");
             const auto mark = [&](double x, const Shape& shape, double symbol, bool clashes)
             {
                 for (const Rect& one : shape)
@@ -785,15 +787,15 @@ private:
         constexpr double column = 268;
         constexpr unsigned columns = 4;
         y_ += 14;
-        text(left, y_ - 4, "soft", panel.direction == Direction::Downlink ? "PDSCH time domain allocations"
-                                                                          : "PUSCH time domain allocations");
+        text(left, y_ - 4, "soft",
+             panel.direction == Direction::Downlink ? "PDSCH time domain allocations"
+                                                    : "PUSCH time domain allocations");
         for (size_t i = 0; i < panel.rows.size(); ++i)
         {
             const Row& row = panel.rows[i];
             const double x = left + column * static_cast<double>(i % columns);
             const double y = y_ + 14 * static_cast<double>(i / columns);
-            put(open("row", row.path, row.title) +
-                rect(x, y, symbol * grid.symbols(), 10, " class=\"empty\"") +
+            put(open("row", row.path, row.title) + rect(x, y, symbol * grid.symbols(), 10, " class=\"empty\"") +
                 rect(x + symbol * row.symbols.start, y, symbol * row.symbols.size, 10, "") +
                 "<text class=\"small\" x=\"" + num(x + symbol * grid.symbols() + 5) + "\" y=\"" + num(y + 8) + "\">" +
                 escaped(row.name) + "</text></g>\n");

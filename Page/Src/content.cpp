@@ -6,7 +6,8 @@
 #include "rrcPage.h"
 
 #include <algorithm>
-#include <memory>
+#include <initializer_list>
+#include <map>
 
 namespace page
 {
@@ -59,68 +60,168 @@ constexpr const char* severityClass(OSUINT8 severity)
     return severity == RRC_RULE_ERROR ? "e" : severity == RRC_RULE_WARNING ? "w" : "n";
 }
 
-// The elements as nested lists. An item is `name literal` or `name` and the list of what it has; end tags that HTML
-// does not ask for are left out, as a large message has tens of thousands of items.
+// What a page of the largest message may take, in octets; with what cannot be shortened it stays below a megabyte.
+constexpr std::size_t mostPlain = 350000;    // elements in plain HTML
+constexpr std::size_t mostFindings = 120000; // texts of findings
+constexpr std::size_t mostOctets = 940000;   // of all of it, besides style and script
+
+// The elements as nested lists. An item is `name literal`, or `name` and the list of what it has; end tags that HTML
+// does not ask for are left out, as a large message has tens of thousands of items. Lists for which there is no room
+// are left to the script: it makes them of numbers, as the same items come again and again.
 class TreeWriter
 {
 public:
-    explicit TreeWriter(const Told& told) : told_(told), nodes_(told.tree.nodes()) {}
-
-    std::string take()
+    explicit TreeWriter(const Told& told) : told_(told), nodes_(told.tree.nodes())
     {
+        choose();
         text_ = "<ul class=t>";
         item(0);
         text_ += "</ul>";
-        return std::move(text_);
+    }
+
+    const std::string& text() const
+    {
+        return text_;
+    }
+    // The lists that the script makes, and the items that they are made of.
+    std::string restJson() const
+    {
+        std::string heads;
+        for (const std::string& head : heads_)
+        {
+            heads += (heads.empty() ? "" : ",") + jsonString(head);
+        }
+        return "\"heads\":[" + heads + "],\"rest\":[" + rest_ + "]";
+    }
+    std::size_t deferred() const
+    {
+        return deferred_;
+    }
+    std::size_t leftOut() const
+    {
+        return static_cast<std::size_t>(std::count(isShown_.begin(), isShown_.end(), false));
     }
 
 private:
+    // The findings that there is room for, the heaviest first.
+    void choose()
+    {
+        const auto& all = told_.remarks.findings;
+        isShown_.resize(all.size(), false);
+        std::size_t room = mostFindings;
+        for (const OSUINT8 severity : {RRC_RULE_ERROR, RRC_RULE_WARNING, RRC_RULE_NOTICE})
+        {
+            for (std::size_t i = 0; i < all.size(); ++i)
+            {
+                if (all[i].finding.severity == severity)
+                {
+                    const std::size_t size = findingText(all[i]).size();
+                    isShown_[i] = size <= room;
+                    room = isShown_[i] ? room - size : 0;
+                }
+            }
+        }
+    }
+
     void item(std::uint32_t number)
     {
         const Node& node = nodes_[number];
-        text_ += "<li>" + node.name;
-        if (node.kind == NodeKind::Leaf)
-        {
-            text_ += " " + escaped(node.literal);
-        }
-        const std::string& meaning = told_.remarks.meanings[number];
-        if (!meaning.empty())
-        {
-            text_ += "<i>" + escaped(meaning) + "</i>";
-        }
-        findings(number);
+        text_ += "<li>" + head(number);
         if (node.kind == NodeKind::Leaf)
         {
             return;
         }
         const std::string list = node.kind == NodeKind::Array ? "ol" : "ul";
-        text_ += "<" + list + ">";
-        for (std::uint32_t below = number + 1; below < node.end; below = nodes_[below].end)
+        if (text_.size() > mostPlain)
         {
-            item(below);
+            text_ += "<" + list + " data-rest=" + std::to_string(lists_++) + "></" + list + ">";
+            rest_ += rest_.empty() ? "[" : ",[";
+            isFirst_ = true;
+            forChildren(number, [this](std::uint32_t below) { defer(below); });
+            rest_ += "]";
+            return;
         }
+        text_ += "<" + list + ">";
+        forChildren(number, [this](std::uint32_t below) { item(below); });
         text_ += "</" + list + ">";
     }
 
-    void findings(std::uint32_t number)
+    template <typename Each>
+    void forChildren(std::uint32_t number, const Each& each)
     {
+        for (std::uint32_t below = number + 1; below < nodes_[number].end; below = nodes_[below].end)
+        {
+            each(below);
+        }
+    }
+
+    // A leaf as the number of its item; of what has a list, that number less all there are, behind it 0 or 1 of an
+    // array and how many items the list has.
+    void defer(std::uint32_t number)
+    {
+        const Node& node = nodes_[number];
+        ++deferred_;
+        const auto [known, isNew] = headNumbers_.emplace(head(number), headNumbers_.size());
+        if (isNew)
+        {
+            heads_.push_back(known->first);
+        }
+        const auto item = static_cast<std::int64_t>(known->second);
+        if (node.kind == NodeKind::Leaf)
+        {
+            put(item);
+            return;
+        }
+        put(-1 - item);
+        put(node.kind == NodeKind::Array ? 1 : 0);
+        std::int64_t count = 0;
+        forChildren(number, [&](std::uint32_t) { ++count; });
+        put(count);
+        forChildren(number, [this](std::uint32_t below) { defer(below); });
+    }
+
+    void put(std::int64_t number)
+    {
+        rest_ += (isFirst_ ? "" : ",") + std::to_string(number);
+        isFirst_ = false;
+    }
+
+    // What stands in an item before its list.
+    std::string head(std::uint32_t number)
+    {
+        const Node& node = nodes_[number];
+        std::string text = node.name;
+        if (node.kind == NodeKind::Leaf)
+        {
+            text += " " + escaped(node.literal);
+        }
+        const std::string& meaning = told_.remarks.meanings[number];
+        if (!meaning.empty())
+        {
+            text += "<i>" + escaped(meaning) + "</i>";
+        }
         const auto& all = told_.remarks.findings;
         for (; next_ < all.size() && all[next_].node == number; ++next_)
         {
-            const MessageFinding& finding = all[next_].finding;
-            text_ += "<p class=" + std::string(severityClass(finding.severity)) + " data-id=" + quoted(finding.id) +
-                     " data-path=" + quoted(finding.path) + "><b>" + rrcRuleSeverityName(finding.severity) + "</b> " +
-                     escaped(placed(finding, number)) + escaped(finding.message) + " <code>" + escaped(finding.id) +
-                     "</code>";
-            std::string more = finding.advice;
-            const auto add = [&](const std::string& words)
-            {
-                more += (more.empty() || words.empty() ? "" : " ") + words;
-            };
-            add(finding.decidedBy != 0 ? "This could change with " + inputWords(finding.decidedBy) + "." : "");
-            add(finding.clause);
-            text_ += more.empty() ? "" : " <small>" + escaped(more) + "</small>";
+            text += isShown_[next_] ? findingText(all[next_]) : "";
         }
+        return text;
+    }
+
+    std::string findingText(const Remarks::Finding& told) const
+    {
+        const MessageFinding& finding = told.finding;
+        std::string more = finding.advice;
+        const auto add = [&](const std::string& words)
+        {
+            more += (more.empty() || words.empty() ? "" : " ") + words;
+        };
+        add(finding.decidedBy != 0 ? "This could change with " + inputWords(finding.decidedBy) + "." : "");
+        add(finding.clause);
+        return "<p class=" + std::string(severityClass(finding.severity)) + " data-id=" + quoted(finding.id) +
+               " data-path=" + quoted(finding.path) + "><b>" + rrcRuleSeverityName(finding.severity) + "</b> " +
+               escaped(placed(finding, told.node)) + escaped(finding.message) + " <code>" + escaped(finding.id) +
+               "</code>" + (more.empty() ? "" : " <small>" + escaped(more) + "</small>");
     }
 
     // Where a finding is meant, when that place is not the node: its path, shortened where the node leads to it.
@@ -134,13 +235,22 @@ private:
     const Told& told_;
     const std::vector<Node>& nodes_;
     std::string text_;
-    std::size_t next_ = 0; // finding
+    std::vector<bool> isShown_; // of each finding
+    std::size_t next_ = 0;      // finding
+    std::string rest_;
+    bool isFirst_ = false;  // number of a list in it
+    std::size_t lists_ = 0; // that the script makes
+    std::size_t deferred_ = 0;
+    std::vector<std::string> heads_;
+    std::map<std::string, std::size_t> headNumbers_;
 };
 
+// Of each node in their order the number of its bits where they begin behind the first bit of the list before, or
+// behind the last bit of the leaf; else that distance as well: [distance, number]. null of a node without a place.
 std::string bitsJson(const Tree& tree)
 {
     std::string text;
-    std::uint64_t last = 0;
+    std::uint64_t next = 0;
     for (const Node& node : tree.nodes())
     {
         text += text.empty() ? "" : ",";
@@ -149,9 +259,10 @@ std::string bitsJson(const Tree& tree)
             text += "null";
             continue;
         }
-        text +=
-            std::to_string(static_cast<std::int64_t>(node.bits.first - last)) + "," + std::to_string(node.bits.count);
-        last = node.bits.first;
+        const auto distance = static_cast<std::int64_t>(node.bits.first - next);
+        const std::string count = std::to_string(node.bits.count);
+        text += distance == 0 ? count : "[" + std::to_string(distance) + "," + count + "]";
+        next = node.bits.first + (node.kind == NodeKind::Leaf ? node.bits.count : 0);
     }
     return "[" + text + "]";
 }
@@ -169,7 +280,7 @@ std::string hexOf(std::span<const std::uint8_t> octets)
     return text;
 }
 
-std::string messageJson(const Told& told)
+std::string messageJson(const Told& told, const TreeWriter& tree)
 {
     std::string stretches;
     for (const Stretch& stretch : told.tree.stretches())
@@ -178,7 +289,7 @@ std::string messageJson(const Told& told)
                      std::to_string(stretch.bits.count) + "," + jsonString(stretch.words) + "]";
     }
     return "{\"octets\":\"" + hexOf(told.tree.octets()) + "\",\"bits\":" + bitsJson(told.tree) + ",\"stretches\":[" +
-           stretches + "]}";
+           stretches + "]," + tree.restJson() + "}";
 }
 
 std::string countsOf(const Remarks& remarks)
@@ -197,7 +308,7 @@ std::string countsOf(const Remarks& remarks)
     return text.empty() ? "no finding" : text;
 }
 
-std::string messageSection(const Told& told, const char* letter)
+std::string messageSection(const Told& told, const TreeWriter& tree, const char* letter)
 {
     const std::string id = std::string("m") + letter;
     std::string text = "<section class=m aria-labelledby=" + id + "><h2 id=" + id + ">";
@@ -213,10 +324,15 @@ std::string messageSection(const Told& told, const char* letter)
     text += told.tree.error() == nullptr ? "" : "; what stands behind the error was not read";
     text += told.remarks.refusal.empty() ? "" : "; rules and meanings: " + escaped(told.remarks.refusal);
     text += told.heldError.empty() ? "" : "; what the UE has before cannot be read: " + escaped(told.heldError);
-    return text + "</p>" + TreeWriter(told).take() + "</section>";
+    text += tree.leftOut() == 0
+                ? ""
+                : "; there is no room for " + counted(tree.leftOut(), "finding") + ", which cellgroupcfg check tells";
+    text += tree.deferred() == 0 ? "" : "; " + counted(tree.deferred(), "element") + " can be seen with script only";
+    return text + "</p>" + tree.text() + "</section>";
 }
 
-std::string pictureSection(const Told& told, const char* letter)
+// `room`: for it, in octets.
+std::string pictureSection(const Told& told, const char* letter, std::size_t room)
 {
     const std::string picture =
         told.tree.error() != nullptr ? "" : draw::svg(told.tree.context(), told.tree.value(), &told.known, {});
@@ -226,9 +342,12 @@ std::string pictureSection(const Told& told, const char* letter)
         return "";
     }
     const std::string id = std::string("p") + letter;
+    const std::string shown = picture.size() <= room
+                                  ? picture
+                                  : "<p>The picture takes " + std::to_string(picture.size() / 1000) +
+                                        " kB, for which there is no room: cellgroupcfg draw makes it.</p>";
     return "<section class=p aria-labelledby=" + id + "><h2 id=" + id + ">Radio resources" +
-           (*letter == '\0' ? "" : std::string(" of ") + letter) + "</h2><div class=pic>" + picture +
-           "</div></section>";
+           (*letter == '\0' ? "" : std::string(" of ") + letter) + "</h2><div class=pic>" + shown + "</div></section>";
 }
 
 std::string undecidedSection(const Told& told, const char* letter)
@@ -264,6 +383,35 @@ std::string differencesSection(const std::vector<Difference>& all)
     return text + "</details>";
 }
 
+std::string differencesJson(const std::vector<Difference>& all)
+{
+    std::string list;
+    for (const Difference& one : all)
+    {
+        list += (list.empty() ? "[" : ",[") + std::to_string(one.a.node) + "," + std::to_string(one.b.node) + "," +
+                (one.a.isThere ? one.b.isThere ? "3" : "1" : "2") + "]";
+    }
+    return "[" + list + "]";
+}
+
+// With what comes behind the trees.
+std::string finished(std::string text, const std::string& data,
+                     std::initializer_list<std::pair<const Told*, const char*>> all)
+{
+    std::string undecided;
+    for (const auto& [told, letter] : all)
+    {
+        undecided += undecidedSection(*told, letter);
+    }
+    const std::size_t most = all.size() * mostOctets;
+    for (const auto& [told, letter] : all)
+    {
+        const std::size_t size = text.size() + undecided.size() + data.size();
+        text += pictureSection(*told, letter, most - std::min(most, size));
+    }
+    return text + undecided + "<script type=\"application/json\">" + data + "</script>";
+}
+
 } // namespace
 
 std::string content(std::span<const Shown> messages, const RrcRuleContext* known, std::span<const std::uint8_t> held)
@@ -272,17 +420,19 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
     {
         return "";
     }
+    const bool isTwo = messages.size() > 1;
     const Told first(messages[0], known, held);
-    std::string data = "{\"messages\":[" + messageJson(first);
-    if (messages.size() == 1)
+    const TreeWriter firstTree(first);
+    std::string text = "<div class=g>" + messageSection(first, firstTree, isTwo ? "A" : "");
+    std::string data = "{\"messages\":[" + messageJson(first, firstTree);
+    if (!isTwo)
     {
-        return "<div class=g>" + messageSection(first, "") + "</div>" + pictureSection(first, "") +
-               undecidedSection(first, "") + "<script type=\"application/json\">" + data +
-               "],\"differences\":null}</script>";
+        return finished(text + "</div>", data + "],\"differences\":null}", {{&first, ""}});
     }
     const Told second(messages[1], known, held);
-    std::string text = "<div class=g>" + messageSection(first, "A") + messageSection(second, "B") + "</div>";
-    data += "," + messageJson(second) + "],\"differences\":";
+    const TreeWriter secondTree(second);
+    text += messageSection(second, secondTree, "B") + "</div>";
+    data += "," + messageJson(second, secondTree) + "],\"differences\":";
     if (first.tree.error() != nullptr || second.tree.error() != nullptr)
     {
         text += "<p class=d>The messages are not compared, as one of them was not read to its end.</p>";
@@ -292,16 +442,9 @@ std::string content(std::span<const Shown> messages, const RrcRuleContext* known
     {
         const std::vector<Difference> differences = differencesOf(first.tree, second.tree);
         text += differencesSection(differences);
-        std::string list;
-        for (const Difference& one : differences)
-        {
-            list += (list.empty() ? "[" : ",[") + std::to_string(one.a.node) + "," + std::to_string(one.b.node) + "," +
-                    (one.a.isThere ? one.b.isThere ? "3" : "1" : "2") + "]";
-        }
-        data += "[" + list + "]";
+        data += differencesJson(differences);
     }
-    return text + pictureSection(first, "A") + pictureSection(second, "B") + undecidedSection(first, "A") +
-           undecidedSection(second, "B") + "<script type=\"application/json\">" + data + "}</script>";
+    return finished(text, data + "}", {{&first, "A"}, {&second, "B"}});
 }
 
 } // namespace page

@@ -1,4 +1,5 @@
-// What is wrong with a message: what breaks a constraint of the ASN.1, a rule of its encoding or a rule between members.
+// What is wrong with a message: what breaks a constraint of the ASN.1, a rule of its encoding or a rule between
+// members.
 #pragma once
 
 #include "rrcRules.h"

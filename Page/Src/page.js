@@ -44,6 +44,39 @@ function show(container)
     const range = (first, count) => count === 0 ? "no bits" : count === 1 ? `bit ${first}`
                                                                           : `bits ${first}..${first + count - 1}`;
 
+    // Lists for which the page had no room, of the items that they are made of (content.cpp, TreeWriter::defer).
+    const unfold = (numbers, heads) =>
+    {
+        let next = 0;
+        const item = () =>
+        {
+            const number = numbers[next++];
+            if (number >= 0)
+            {
+                return "<li>" + heads[number];
+            }
+            const tag = numbers[next++] === 1 ? "ol" : "ul";
+            let text = `<li>${heads[-1 - number]}<${tag}>`;
+            for (let count = numbers[next++]; count > 0; --count)
+            {
+                text += item();
+            }
+            return `${text}</${tag}>`;
+        };
+        let all = "";
+        while (next < numbers.length)
+        {
+            all += item();
+        }
+        return all;
+    };
+    sections.forEach((section, which) => section.querySelectorAll("[data-rest]").forEach((list) =>
+    {
+        const {heads, rest} = data.messages[which];
+        list.innerHTML = unfold(rest[Number(list.dataset.rest)], heads);
+        list.removeAttribute("data-rest");
+    }));
+
     // A message: its nodes in the order of the list items, its octets.
     const views = sections.map((section, which) =>
     {
@@ -52,8 +85,7 @@ function show(container)
         const size = message.octets.length / 2;
         const nodes = [];
         const numbers = new Map();
-        let next = 0;
-        let last = 0;
+        let next = 0; // bit
         for (const item of items)
         {
             const number = nodes.length;
@@ -64,16 +96,13 @@ function show(container)
             const up = item.parentNode.parentNode;
             const node = {item, name, literal, list, parent: numbers.has(up) ? numbers.get(up) : -1, first: 0, count: -1,
                           end: number + 1, level: 1, below: 0, at: 0};
-            if (message.bits[next] === null)
+            const bits = message.bits[number];
+            if (bits !== null)
             {
-                ++next;
-            }
-            else
-            {
-                last += message.bits[next];
-                node.first = last;
-                node.count = message.bits[next + 1];
-                next += 2;
+                const [distance, count] = typeof bits === "number" ? [0, bits] : bits;
+                node.first = next + distance;
+                node.count = count;
+                next = node.first + (list ? 0 : count);
             }
             if (node.parent >= 0)
             {
@@ -131,7 +160,16 @@ function show(container)
          node.row.querySelector("i") ? node.row.querySelector("i").textContent : "",
          node.count >= 0 ? range(node.first, node.count) : ""].filter(Boolean).join(", ");
 
-    // The subtrees that have a colour: a large one is left to those below it.
+    // The subtrees that have a colour, in both messages the same one: a large subtree is left to those below it.
+    const hues = new Map();
+    const hueOf = (name) =>
+    {
+        if (!hues.has(name))
+        {
+            hues.set(name, Math.round(hues.size * 137.5) % 360);
+        }
+        return hues.get(name);
+    };
     const colour = (view) =>
     {
         const {nodes} = view;
@@ -155,9 +193,9 @@ function show(container)
             }
             heads = heads.flatMap((i) => i === large ? below(i) : [i]);
         }
-        heads.forEach((head, i) =>
+        heads.forEach((head) =>
         {
-            const hue = Math.round(i * 360 / Math.max(heads.length, 1));
+            const hue = hueOf(path(view, head));
             nodes[head].item.classList.add("head");
             nodes[head].item.style.setProperty("--hue", hue);
             for (let k = head; k < nodes[head].end; ++k)
@@ -189,6 +227,10 @@ function show(container)
         const pane = make("section", "h");
         pane.tabIndex = 0;
         pane.setAttribute("aria-label", `Octets of ${view.section.querySelector("h2").textContent}`);
+        if (isTwo)
+        {
+            pane.append(make("b", "ab", "AB"[view.which]));
+        }
         const table = make("div");
         const cells = [];
         const rows = [];
@@ -342,6 +384,35 @@ function show(container)
         view.hot = null;
     });
 
+    // Pictures: what is drawn of an element has its path.
+    const drawings = [...container.querySelectorAll(".p")];
+    views.forEach((view, which) =>
+    {
+        view.drawn = drawings[which] ? [...drawings[which].querySelectorAll("[data-path]")] : [];
+        view.shown = []; // of it what is highlighted
+    });
+    const showDrawn = (view, number) =>
+    {
+        view.shown.forEach((shape) => shape.classList.remove("on"));
+        view.shown = [];
+        if (number < 0 || view.drawn.length === 0)
+        {
+            return;
+        }
+        const wanted = path(view, number);
+        const isWithin = (inner, outer) => inner.startsWith(outer) && /^($|[.[])/.test(inner.slice(outer.length));
+        let shapes = view.drawn.filter((shape) => isWithin(shape.dataset.path, wanted));
+        if (shapes.length === 0)
+        {
+            // What the element is a part of, the innermost such thing.
+            const around = view.drawn.filter((shape) => isWithin(wanted, shape.dataset.path));
+            const longest = Math.max(0, ...around.map((shape) => shape.dataset.path.length));
+            shapes = around.filter((shape) => shape.dataset.path.length === longest);
+        }
+        shapes.forEach((shape) => shape.classList.add("on"));
+        view.shown = shapes;
+    };
+
     const describe = (view, number) =>
     {
         const node = view.nodes[number];
@@ -365,6 +436,7 @@ function show(container)
             view.hot.classList.remove("hot");
             view.hot = null;
         }
+        showDrawn(view, number);
         if (number < 0)
         {
             return;
@@ -494,6 +566,140 @@ function show(container)
                 select(view, view.owner[bit]);
             }
         });
+    });
+
+    // The node at a path, or the last one on the way.
+    const nodeAt = (view, wanted) =>
+    {
+        let at = 0;
+        for (const step of wanted.match(/\[\d+\]|[^.[\]]+/g).slice(1))
+        {
+            let below = at + 1;
+            while (below < view.nodes[at].end && view.nodes[below].name !== step)
+            {
+                below = view.nodes[below].end;
+            }
+            if (below >= view.nodes[at].end)
+            {
+                break;
+            }
+            at = below;
+        }
+        return at;
+    };
+
+    // Zooms to one slot: the time axis is stretched, texts are not, and those on the left stay in sight.
+    const zoomTo = (picture, grid0, slot) =>
+    {
+        const whole = picture.whole;
+        const texts = picture.querySelectorAll("text");
+        if (slot < 0)
+        {
+            picture.setAttribute("viewBox", whole.join(" "));
+            picture.removeAttribute("preserveAspectRatio");
+            picture.classList.remove("near");
+            texts.forEach((text) =>
+            {
+                text.removeAttribute("transform");
+                text.style.textAnchor = "";
+            });
+            return;
+        }
+        const left = Number(grid0.dataset.x);
+        const width = Number(grid0.dataset.slotWidth);
+        const x = left + (slot - 0.15) * width;
+        const seenWidth = 1.2 * width;
+        const stretch = whole[2] / seenWidth;
+        picture.setAttribute("viewBox", [x, whole[1], seenWidth, whole[3]].join(" "));
+        picture.setAttribute("preserveAspectRatio", "none");
+        picture.classList.add("near");
+        texts.forEach((text) =>
+        {
+            const at = Number(text.getAttribute("x"));
+            const isLabel = at < left;
+            text.style.textAnchor = isLabel ? "start" : "";
+            text.setAttribute("transform", `translate(${isLabel ? x : at} 0) scale(${1 / stretch} 1) translate(${-at} 0)`);
+        });
+    };
+    views.forEach((view) =>
+    {
+        const section = drawings[view.which];
+        const picture = section ? section.querySelector("svg") : null;
+        if (!picture)
+        {
+            return;
+        }
+        picture.addEventListener("mouseover", (event) =>
+        {
+            const shape = event.target.closest("[data-path]");
+            if (shape)
+            {
+                const title = shape.querySelector("title");
+                point(view, nodeAt(view, shape.dataset.path));
+                told.textContent += title ? `: ${title.textContent}` : "";
+            }
+        });
+        picture.addEventListener("mouseleave", () => back(view));
+        picture.addEventListener("click", (event) =>
+        {
+            const shape = event.target.closest("[data-path]");
+            if (shape)
+            {
+                select(view, nodeAt(view, shape.dataset.path));
+            }
+        });
+        const grids = [...picture.querySelectorAll("g.grid")];
+        if (grids.length === 0)
+        {
+            return;
+        }
+        picture.whole = picture.getAttribute("viewBox").split(" ").map(Number);
+        const tools = make("div", "zoom");
+        tools.setAttribute("role", "toolbar");
+        tools.setAttribute("aria-label", "Zoom of the picture");
+        const choice = make("select");
+        choice.setAttribute("aria-label", "Cell and spacing");
+        grids.forEach((one) =>
+        {
+            const option = make("option", "", `Cell ${one.dataset.cell}, ${one.dataset.spacing} kHz`);
+            choice.append(option);
+        });
+        const slot = make("input");
+        slot.type = "number";
+        slot.setAttribute("aria-label", "Slot");
+        const out = make("output");
+        out.setAttribute("aria-live", "polite");
+        const grid0 = () => grids[choice.selectedIndex];
+        const limit = () =>
+        {
+            slot.min = grid0().dataset.firstSlot;
+            slot.max = Number(slot.min) + Number(grid0().dataset.slots) - 1;
+            slot.value = Math.min(Math.max(Number(slot.value), Number(slot.min)), Number(slot.max));
+        };
+        const zoom = (by) =>
+        {
+            slot.value = Number(slot.value) + by;
+            limit();
+            zoomTo(picture, grid0(), Number(slot.value) - Number(slot.min));
+            out.textContent = `slot ${slot.value} of ${slot.min}..${slot.max}`;
+        };
+        const act = (text, run) =>
+        {
+            const made = make("button", "", text);
+            made.type = "button";
+            made.addEventListener("click", run);
+            return made;
+        };
+        tools.append(...(grids.length > 1 ? [choice] : []), make("span", "", "Slot "), slot, act("Zoom to slot", () => zoom(0)),
+                     act("Previous slot", () => zoom(-1)), act("Next slot", () => zoom(1)), act("Whole picture", () =>
+                     {
+                         zoomTo(picture, grid0(), -1);
+                         out.textContent = "";
+                     }), out);
+        limit();
+        choice.addEventListener("change", limit);
+        slot.addEventListener("change", () => zoom(0));
+        section.querySelector(".pic").before(tools);
     });
 
     // The keys of a tree (WAI-ARIA Authoring Practices, tree view).
@@ -770,6 +976,7 @@ function show(container)
         }
     });
 
+    container.querySelectorAll("details.d").forEach((list) => { list.open = false; });
     grid.before(bar);
     container.append(foot, spoken);
     point(views[0], -1);

@@ -1,18 +1,21 @@
-"""check_page.py <program> <project> <cellGroups> COUNT: what a page shows is what the other commands say, as a browser
+"""check_page.py <program> <project> <cellGroups> <densest> COUNT: what a page shows is what the other commands say, as a browser
 without script has it; nothing is loaded, nothing of a name or a message becomes markup, pages stay small."""
 
+import collections
 import json
 import pathlib
 import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "Tool"))
 from harness import DONE, MALFORMED, PROJECT, USAGE, expect, main, run, true  # noqa: E402
-from pageReader import Page, traced  # noqa: E402
+from pageReader import Page, traced, unfolded  # noqa: E402
 
-CELL_GROUPS, COUNT = sys.argv[3:]
+FOLDER = pathlib.Path(tempfile.mkdtemp())
+CELL_GROUPS, DENSEST, COUNT = sys.argv[3:]
 ROOT = "CellGroupConfig"
 
 
@@ -26,6 +29,12 @@ def view(*operands):
     return text.decode()
 
 
+def write(hex_digits):
+    file = FOLDER / "message.hex"
+    file.write_text(hex_digits)
+    return str(file)
+
+
 def flat(path):
     return re.sub(r"\[(\d+): [^\]]*\]", r"[\1]", path)
 
@@ -36,7 +45,7 @@ def same(what, found, expected):
 
 def compare(hex_digits, *context):
     """One message: its tree, bits, findings and meanings against the other commands."""
-    page = Page(view(hex_digits, *context))
+    page = Page(unfolded(view("--as", "hex", write(hex_digits), *context)))
     tree = page.trees[0]
     what = hex_digits[:60]
     same(f"{what}: JSON", tree.value(), json.loads(out("decode", "--json", "--as", "hex", "-", stdin=hex_digits)))
@@ -50,6 +59,11 @@ def compare(hex_digits, *context):
                            "-", stdin=hex_digits))
     told = [(one["id"], one["severity"], one["path"]) for one in check["messages"][0]["findings"]]
     shown = [(one["id"], one["severity"], one["path"], node.path()) for node in tree.all() for one in node.findings]
+    left_out = re.search(r"there is no room for (\d+) finding", "".join(page.texts))
+    if left_out:
+        same(f"{what}: findings left out", len(told) - len(shown), int(left_out[1]))
+        true(not collections.Counter(one[:3] for one in shown) - collections.Counter(told), f"{what}: findings")
+        return page
     same(f"{what}: findings", sorted(one[:3] for one in shown), sorted(told))
     for message in check["messages"][0]["findings"]:
         true(any(message["message"] in finding["text"] for node in tree.all() for finding in node.findings),
@@ -196,6 +210,27 @@ def test_command(folder):
     compare(delta, "--previous", held)
 
 
+def test_size(_):
+    """The largest messages that make the largest pages."""
+    for price in ("20.7", "20.5", "13"):
+        message = json.loads(subprocess.run([DENSEST, price], capture_output=True, check=True).stdout)
+        cells = message.pop("sCellToAddModList", [])
+        largest = ""
+        for number in range(len(cells) + 1):
+            if number != 0:
+                message["sCellToAddModList"] = cells[:number]
+            digits = out("encode", "--as", "jer", "-", stdin=json.dumps(message)).strip()
+            if not 0 < len(digits) <= 2 * 8192:
+                break
+            largest = digits
+        if not largest:
+            continue
+        page = compare(largest)
+        size = len(view(write(largest)))
+        print(f"{len(largest) // 2} octets, {len(list(page.trees[0].all()))} elements: a page of {size} octets")
+        true(size < 1000000, f"a page of {size} octets")
+
+
 def test_script(_):
     """The script is one that a browser takes."""
     if shutil.which("node") is None:
@@ -205,4 +240,4 @@ def test_script(_):
     true(done.returncode == 0, done.stderr.decode())
 
 
-main(test_examples, test_random, test_findings, test_malformed, test_two, test_safe, test_command, test_script)
+main(test_examples, test_random, test_findings, test_malformed, test_two, test_safe, test_command, test_size, test_script)

@@ -1,5 +1,6 @@
 """Reads a page as a browser without script does: the trees of its messages, their findings and its data."""
 
+import functools
 import html.parser
 import json
 import re
@@ -38,6 +39,7 @@ class Node:
         for child in self.children:
             yield from child.all()
 
+    @functools.cache
     def path(self):
         if self.parent is None:
             return self.name
@@ -144,15 +146,39 @@ class Page(html.parser.HTMLParser):
 
 
 def place(tree, bits):
-    """Gives the nodes their (first, count), as the data says: relative to the last first bit."""
-    numbers = iter(bits)
-    first = 0
-    for node in tree.all():
-        step = next(numbers)
-        if step is not None:
-            first += step
-            node.bits = (first, next(numbers))
-    assert next(numbers, "end") == "end"
+    """Gives the nodes their (first, count), as the data says: counted from where the last list began or leaf ended."""
+    following = 0
+    nodes = list(tree.all())
+    assert len(nodes) == len(bits)
+    for node, entry in zip(nodes, bits):
+        if entry is not None:
+            distance, count = entry if isinstance(entry, list) else (0, entry)
+            node.bits = (following + distance, count)
+            following += distance + (count if node.kind == "leaf" else 0)
+
+
+def unfold(numbers, heads):
+    """The items of a list that the page leaves to its script."""
+    numbers = iter(numbers)
+
+    def item(number):
+        if number >= 0:
+            return "<li>" + heads[number]
+        tag = "ol" if next(numbers) == 1 else "ul"
+        inner = "".join(item(next(numbers)) for _ in range(next(numbers)))
+        return f"<li>{heads[-1 - number]}<{tag}>{inner}</{tag}>"
+
+    return "".join(item(number) for number in numbers)
+
+
+def unfolded(text):
+    """The page after its script has made the lists that are left to it."""
+    data = json.loads(re.search(r'<script type="application/json">(.*?)</script>', text, re.S)[1])
+    sections = re.split(r"(?=<section class=m)", text)
+    for at, message in enumerate(data["messages"], 1):
+        sections[at] = re.sub(r" data-rest=(\d+)>",
+                              lambda found, m=message: ">" + unfold(m["rest"][int(found[1])], m["heads"]), sections[at])
+    return "".join(sections)
 
 
 def traced(lines, root):
