@@ -151,11 +151,17 @@ void TextPlaces::readJson(const std::string& root, std::string_view text)
             comments_[waiting].path = path;
         }
     };
+    // In place: a text may be nothing but brackets, and its paths as long as it is.
+    const auto step = [&](const std::string& name)
+    {
+        path.resize(frames.back().path);
+        path += name;
+    };
     const auto begin = [&](const Place& place)
     {
         if (!frames.empty() && frames.back().isArray)
         {
-            path = path.substr(0, frames.back().path) + "[" + std::to_string(frames.back().count++) + "]";
+            step("[" + std::to_string(frames.back().count++) + "]");
         }
         note(path, place);
         last = place;
@@ -181,7 +187,7 @@ void TextPlaces::readJson(const std::string& root, std::string_view text)
         else if (c == '"' && isName)
         {
             const std::string_view name = cursor.take(stringLength(cursor.rest()));
-            path = path.substr(0, frames.back().path) + "." + std::string(name.substr(1, name.size() - 2));
+            step("." + std::string(name.substr(1, name.size() - 2)));
             isName = false;
             last = place;
             attach();
