@@ -195,7 +195,8 @@ private:
         {
             text += " " + escaped(node.literal);
         }
-        const std::string& meaning = told_.remarks.meanings[number];
+        const bool isUnknown = node.name == "$unknownAdditions" || node.name == "$unknownAlternative";
+        const std::string& meaning = isUnknown ? ofLaterRelease : told_.remarks.meanings[number];
         if (!meaning.empty())
         {
             text += "<i>" + escaped(meaning) + "</i>";
@@ -232,6 +233,7 @@ private:
         return isHere ? "" : finding.path + ": ";
     }
 
+    const std::string ofLaterRelease = "of a later release, not known to this one";
     const Told& told_;
     const std::vector<Node>& nodes_;
     std::string text_;

@@ -980,6 +980,12 @@ function show(container)
     copyButton.setAttribute("aria-keyshortcuts", "c");
     copyButton.addEventListener("click", copy);
 
+    // A container may get another content: its keys are then that one's.
+    if (container.keys)
+    {
+        container.keys.abort();
+    }
+    container.keys = new AbortController();
     container.addEventListener("keydown", (event) =>
     {
         const isTyped = event.target.matches("input[type=search], textarea");
@@ -996,11 +1002,14 @@ function show(container)
             event.preventDefault();
             acts[event.key]();
         }
-    });
+    }, {signal: container.keys.signal});
 
     container.querySelectorAll("details.d").forEach((list) => { list.open = false; });
     grid.before(bar);
     container.append(foot, spoken);
     point(views[0], -1);
-    views[0].nodes[0].item.focus({preventScroll: true});
+    if (document.activeElement === document.body)
+    {
+        views[0].nodes[0].item.focus({preventScroll: true});
+    }
 }

@@ -138,6 +138,7 @@ def test_malformed(_):
     # The additions of a later release (tests/Tool/check_tool.py has the bits).
     unknown = Page(view(bits_hex("1 0000000 00  0 000001 01  00000001 10101011")))
     same("unknown additions", unknown.trees[0].value()["$unknownAdditions"], [{"index": 1, "octets": "AB"}])
+    true("later release" in next(node for node in unknown.trees[0].all() if "Add" in node.name).meaning, "said so")
     octets = next(node for node in unknown.trees[0].all() if node.name == "octets")
     same("bits of the unknown addition", octets.bits, (27, 8))
 
