@@ -93,7 +93,7 @@ struct Resource
     std::string path;
     std::string title;
     std::string detail; // what is behind the title
-    std::string name; // short, unique in its panel as far as ids are
+    std::string name;   // short, unique in its panel as far as ids are
     const Bwp* bwp;
     NrSpan own;                // resource blocks of the bandwidth part on the axis; size 0: not known
     std::vector<Shape> shapes; // at least one

@@ -1,5 +1,5 @@
-// Trees that may be anything: no crash, no endless walk, the same picture each time, well-formed as far as brackets tell,
-// and nothing but the context's heap.
+// Trees that may be anything: no crash, no endless walk, the same picture each time, well-formed as far as brackets
+// tell, and nothing but the context's heap.
 #include "../Asn/randomTree.h"
 
 #include "rrcDraw.h"
