@@ -201,6 +201,21 @@ void addPdcch(Gather& gather, const Place& place)
         }
         controls.push_back(std::move(control));
     }
+    const bool hasZero = pdcch.common != nullptr && pdcch.common->m.searchSpaceZeroPresent != 0;
+    if (hasZero)
+    {
+        gather.cannot(gather.cellPath(), "search space 0 of " + nameOf(*place.bwp),
+                      "its occasions follow the SS/PBCH block that the UE has found (TS 38.213 13)");
+    }
+    const Control zero = place.bwp->isInitial() ? control0(gather, place) : Control{};
+    if (!zero.rbs.empty())
+    {
+        gather.panelOf(place).parts.push_back(
+            {"coreset", zero.path,
+             words("CORESET 0: %s, %u symbol%s", spansWords("common resource block", zero.rbs).c_str(), zero.symbols,
+                   rtx::plural(zero.symbols)),
+             "C 0", zero.rbs, false});
+    }
     for (const SearchSpaceEntry& space : pdcch.allSearchSpaces)
     {
         addSearchSpace(gather, place, *space.element, controls);

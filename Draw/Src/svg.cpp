@@ -121,7 +121,7 @@ public:
             line("sub", "No cell is configured.");
         }
         y_ += 4;
-        std::string all = "<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"radio\" role=\"img\" width=\"" +
+        std::string all = "<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"radio\" role=\"group\" width=\"" +
                           num(width_) + "\" height=\"" + num(y_) + "\" viewBox=\"0 0 " + num(width_) + " " + num(y_) +
                           "\" data-cells=\"" + std::to_string(cells_.size()) + "\">\n";
         all += "<title>Radio resources of a cell group</title>\n<style>" + std::string(style) + "</style>\n<defs>\n";

@@ -12,7 +12,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "Tool"))
 
 # pylint: disable=wrong-import-position
 from harness import DONE, MALFORMED, PROJECT, USAGE, WHOLE, expect, flat, main, run, true
-from occupied import MU, ROWS, Occupied, cells
+from occupied import ROWS, Occupied
 from picture import Picture
 
 CELL_GROUPS, COUNT, XMLLINT = sys.argv[3:6]
@@ -136,6 +136,12 @@ def variants():
                                 f"{slots}[0].slotIndex = 2", f"{slots}[0].symbols.allUplink = null",
                                 f"{slots}[1].slotIndex = 1", f"{slots}[1].symbols.explicit.nrofDownlinkSymbols = 11",
                                 f"{slots}[1].symbols.explicit.nrofUplinkSymbols = 1"]
+    at_60 = [f"{at}.scs-SpecificCarrierList[1].{one}" for at in (DOWN + ".frequencyInfoDL", UP + ".frequencyInfoUL")
+             for one in ("offsetToCarrier = 3", "subcarrierSpacing = kHz60", "carrierBandwidth = 135")]
+    extended = [f"{at}.bwp-Common.genericParameters.{one}" for at in (DOWN1, UP1)
+                for one in (f"locationAndBandwidth = {riv(5, 120)}", "subcarrierSpacing = kHz60", "cyclicPrefix = extended")]
+    yield "two spacings", at_60 + extended + chosen(SR + ".periodicityAndOffset", "sym6or7 = null") + \
+        [f"{SR}.resource = 8", *formats(0, 3, 1), f"{TDD} = absent"]
     yield "search space", [*chosen(SPACE + ".monitoringSlotPeriodicityAndOffset", "sl10 = 7"), f"{SPACE}.duration = 4",
                            f"{SPACE}.monitoringSymbolsWithinSlot = 8020",
                            f"{CORESET}.frequencyDomainResources = 0F0180000000"] + parts(31, 120, 0)
@@ -175,21 +181,17 @@ def compare(name, text, *arguments):
     true(status == DONE, f"{name}: {words.decode()}")
     message = json.loads(jer)
     picture = Picture(drawn(*arguments, stdin=text))
-    for span in set(picture.spans.values()):
-        occupied = Occupied(message, *span)
-        for key in sorted(set(picture.all) | set(occupied.all)):
-            found, own = picture.all.get(key), occupied.all.get(key)
-            slot = next((at for at in {**(found or {}), **(own or {})}
-                         if (found or {}).get(at) != (own or {}).get(at)), None)
-            true(found == own, f"{name}: {key} differs in slot and symbol {slot}: "
-                 f"{str((found or {}).get(slot))[:200]} instead of {str((own or {}).get(slot))[:200]}")
-        for i, cell in enumerate(cells(message)):
-            for mu in MU.values():
-                if (cell.path, mu) in occupied.tdd:
-                    true(picture.tdd.get((i, 15 << mu)) == occupied.tdd[cell.path, mu], f"{name}: directions of cell {i}")
-        if not arguments:
-            periods = {min(math.lcm(*lengths), 80) for lengths in occupied.periods.values()}
-            true(span == (0, next(iter(periods))), f"{name}: slots {span} of the periods {occupied.periods}")
+    occupied = Occupied(message, picture.spans)
+    for key in sorted(set(picture.all) | set(occupied.all)):
+        found, own = picture.all.get(key), occupied.all.get(key)
+        slot = next((at for at in {**(found or {}), **(own or {})}
+                     if (found or {}).get(at) != (own or {}).get(at)), None)
+        true(found == own, f"{name}: {key} differs in slot and symbol {slot}: "
+             f"{str((found or {}).get(slot))[:200]} instead of {str((own or {}).get(slot))[:200]}")
+    true(picture.tdd == occupied.tdd, f"{name}: the directions of symbols")
+    for grid, span in picture.spans.items() if not arguments else ():
+        count = min(math.lcm(*occupied.periods.get(grid, {1})), 80)
+        true(span == (0, count), f"{name}: slots {span} of the periods {occupied.periods}")
     return picture
 
 
