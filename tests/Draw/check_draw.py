@@ -4,6 +4,7 @@ the occupied resource elements, their slots, clashes and what is not placed, and
 import json
 import math
 import pathlib
+import random
 import re
 import subprocess
 import sys
@@ -206,6 +207,31 @@ def test_variants(folder):
          f"each kind occurs: {kinds}")
 
 
+def test_joined(folder):
+    """Random bandwidth parts, sounding and PUCCH, together with a variant."""
+    chance = random.Random(16)
+    every = [changes for _, changes in variants()]
+    for i in range(int(COUNT) // 20):
+        changes = list(chance.choice(every))
+        start = chance.randrange(60)
+        changes += parts(start, chance.randrange(24, 214), chance.randrange(50))
+        b_srs = chance.randrange(4)
+        comb = chance.choice((2, 4))
+        symbols = chance.choice((1, 2, 4))
+        period = chance.choice((2, 4, 5, 10, 20, 32, 40))
+        changes += sounding(chance.randrange(64), b_srs, chance.randrange(4), chance.randrange(68),
+                            chance.randrange(269), comb, chance.randrange(comb), chance.randrange(8),
+                            chance.choice(("port1", "ports2", "ports4")), chance.randrange(symbols - 1, 6), symbols,
+                            chance.choice([one for one in (1, 2, 4) if one <= symbols]),
+                            f"periodic.periodicityAndOffset-p.sl{period} = {chance.randrange(period)}")
+        resource = f"{PUCCH}.resourceToAddModList[{chance.randrange(4)}]"
+        length = chance.randrange(4, 15)
+        changes += [f"{resource}.startingPRB = {chance.randrange(275)}", f"{resource}.secondHopPRB = {chance.randrange(275)}",
+                    f"{resource}.format.format1.nrofSymbols = {length}",
+                    f"{resource}.format.format1.startingSymbolIndex = {chance.randrange(min(11, 15 - length))}"]
+        compare(f"joined {i}", flat(*changes))
+
+
 def test_slots(folder):
     for first, count in ((0, 1), (9, 1), (3, 2), (10239, 1), (37, 160)):
         picture = compare(f"--from {first}", flat(), "--from", str(first), "--slots", str(count))
@@ -324,4 +350,4 @@ def test_random(folder):
 
 
 true(bool(WHOLE), "there is a whole cell")
-main(test_variants, test_slots, test_blocks, test_clashes, test_context, test_messages, test_sample, test_random)
+main(test_variants, test_joined, test_slots, test_blocks, test_clashes, test_context, test_messages, test_sample, test_random)

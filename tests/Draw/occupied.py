@@ -447,7 +447,10 @@ class Occupied:
                 "frequencyHopping" in grant:
             return
         start, length = sliv(rows[one["timeDomainAllocation"]]["startSymbolAndLength"])
-        first, count = riv(int("".join(map(str, bits(one["frequencyDomainAllocation"], 18))), 2), bwp.size)
+        blocks = riv(int("".join(map(str, bits(one["frequencyDomainAllocation"], 18))), 2), bwp.size)
+        if blocks is None:
+            return
+        first, count = blocks
         parts = grant["periodicity"][3:].split("x")
         symbols = int(parts[0]) * (int(parts[1]) if len(parts) > 1 else 1)
         path = bwp.path + ".configuredGrantConfig.setup"
