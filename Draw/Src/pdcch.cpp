@@ -187,7 +187,7 @@ void addPdcch(Gather& gather, const Place& place)
         else
         {
             gather.panelOf(place).parts.push_back(
-                {"coreset", control.path,
+                {coresetPart, control.path,
                  words("%s: %s, %u symbol%s", title.c_str(),
                        spansWords(gather.panelOf(place).rbWord(), control.rbs).c_str(), control.symbols,
                        rtx::plural(control.symbols)),
@@ -211,7 +211,7 @@ void addPdcch(Gather& gather, const Place& place)
     if (!zero.rbs.empty())
     {
         gather.panelOf(place).parts.push_back(
-            {"coreset", zero.path,
+            {coresetPart, zero.path,
              words("CORESET 0: %s, %u symbol%s", spansWords("common resource block", zero.rbs).c_str(), zero.symbols,
                    rtx::plural(zero.symbols)),
              "C 0", zero.rbs, false});

@@ -301,6 +301,22 @@ def test_context(folder):
     true(status == DONE, f"{known}: {words.decode()}")
 
 
+def test_previous(folder):
+    """A message on top of what the UE has: the whole, with the paths of the message where it has the element."""
+    before, after = folder / "before.hex", flat(*chosen(SR + ".periodicityAndOffset", "sl40 = 14"))
+    before.write_bytes(run("encode", stdin=flat())[1])
+    message = run("delta", str(before), "-", stdin=after)[1]
+    picture, whole = Picture(drawn("--previous", str(before), stdin=message)), Picture(drawn(stdin=after))
+    shown, wanted = ([(kind, sorted(map(str, value.items()))) for (kind, _), value in one.all.items()]
+                     for one in (picture, whole))
+    true(sorted(shown) == sorted(wanted), f"--previous draws the whole: {set(picture.all) ^ set(whole.all)}")
+    lines = run("decode", "--flat", stdin=message)[1].decode()
+    (path,) = [path for kind, path in picture.all if kind == "sr"]
+    true(path + ".periodicityAndOffset.sl40 = 14" in lines, f"{path} leads into the message")
+    expect(["draw", "--previous", str(before), "-"], USAGE, err=re.compile("cellgroupcfg: "),
+           stdin="CellGroupConfig.cellGroupId = 3\n")
+
+
 def test_messages(folder):
     for name in EXAMPLES:
         record = run("example", name)[1]
@@ -350,4 +366,4 @@ def test_random(folder):
 
 
 true(bool(WHOLE), "there is a whole cell")
-main(test_variants, test_joined, test_slots, test_blocks, test_clashes, test_context, test_messages, test_sample, test_random)
+main(test_variants, test_joined, test_slots, test_blocks, test_clashes, test_context, test_previous, test_messages, test_sample, test_random)
