@@ -237,6 +237,7 @@ private:
         {
             resources = &onPucch->pucch_CSI_ResourceList;
         }
+        scope.measured = measuredBy(*scope.cell, report);
         scope.direction = Direction::Uplink;
         if (!scope.cell->isSpCell())
         {
@@ -252,6 +253,14 @@ private:
         {
             enterBwp(scope, (*list.begin()).uplinkBandwidthPartId);
         }
+    }
+
+    Bwp* measuredBy(Cell& own, const CSI_ReportConfig& report)
+    {
+        Cell* const cell = report.m.carrierPresent != 0 ? model_.cell(report.carrier) : &own;
+        const auto* const channel =
+            cell == nullptr ? nullptr : model_.csi(*cell).resourceConfigs.find(report.resourcesForChannelMeasurement);
+        return channel == nullptr ? nullptr : cell->bwp(Direction::Downlink, channel->element->bwp_Id);
     }
 
     static bool isValue(const RtxType& type, const void* value)
