@@ -64,6 +64,9 @@ struct CheckOptions
 };
 void check(Session& session, const Operands& operands, const CheckOptions& options);
 
+// One message or two, as a page.
+void view(Session& session, const Operands& operands, const Settings& context);
+
 struct FindOptions
 {
     std::uint32_t minOctets; // of a message
@@ -76,6 +79,15 @@ void pcap(Session& session, const Operands& operands, Nesting nesting);
 
 // The table of rules, of which an id begins with one of the prefixes; without prefixes all.
 void rules(Session& session, const Operands& prefixes, bool json);
+
+struct DrawOptions
+{
+    unsigned firstSlot;
+    unsigned slots; // 0: by the periods
+    Settings context;
+};
+// The radio resources of a message as SVG.
+void draw(Session& session, const std::string& operand, const DrawOptions& options);
 
 // A rule's id, a type, a path, a member's name or a field of the record. An empty name lists the named types.
 void explain(Session& session, const std::string& name, bool tree);

@@ -81,6 +81,8 @@ public:
         record();
         example();
         check();
+        view();
+        draw();
         find();
         pcap();
         rules();
@@ -541,6 +543,28 @@ private:
         allKnown(app);
     }
 
+    void view()
+    {
+        CLI::App& app =
+            command("view", "Make a page that shows messages in a browser; of none, one to paste them into.",
+                    "  cellgroupcfg view -o message.html message.hex\n"
+                    "  cellgroupcfg view -o changes.html before.hex after.hex\n"
+                    "  cellgroupcfg view --band n78 --carrier 30:0:273 -o message.html message.hex\n"
+                    "  cellgroupcfg view -o playground.html\n",
+                    [this](Session& session)
+                    {
+                        session.outputTo(output_);
+                        tool::view(session, operands_, settings_);
+                    });
+        app.add_option("A B", operands_,
+                       "One message, or two and their differences: files, '-', or octets; none: a playground")
+            ->option_text(" ")
+            ->expected(0, 2);
+        input(app);
+        output(app);
+        allKnown(app);
+    }
+
     static void words(CLI::App& app, const std::string& name, std::vector<std::string>& to,
                       const std::string& description)
     {
@@ -591,6 +615,33 @@ private:
                 !noProject_,
                 project_,
                 chain_};
+    }
+
+    void draw()
+    {
+        CLI::App& app = command("draw", "Draw the radio resources that a message configures, as SVG.",
+                                "  cellgroupcfg draw -o call.svg message.hex\n"
+                                "  cellgroupcfg draw --band n78 --carrier 30:0:273 -o call.svg message.hex\n"
+                                "  cellgroupcfg draw --previous has.hex -o after.svg delta.hex\n"
+                                "  cellgroupcfg draw --from 8 --slots 1 -o slot8.svg message.hex   one slot, large\n",
+                                [this](Session& session)
+                                {
+                                    session.outputTo(output_);
+                                    tool::draw(session, name_.empty() ? "-" : name_, {from_, slots_, settings_});
+                                });
+        app.add_option("FILE", name_, "A message: a file, '-' or nothing for standard input, or octets")
+            ->option_text(" ");
+        input(app);
+        output(app);
+        app.add_option("--slots", slots_,
+                       "Slots that are drawn, 1 to 160; the least common multiple of the periods, at most 80, if not "
+                       "said")
+            ->option_text("N")
+            ->check(CLI::Range(1, 160));
+        app.add_option("--from", from_, "The first of them, 0 to 10239, counted from system frame 0; 0 if not said")
+            ->option_text("N")
+            ->check(CLI::Range(0, 10239));
+        allKnown(app);
     }
 
     void find()
@@ -700,6 +751,8 @@ private:
     std::string nesting_ = "bare";
     std::string name_;
     std::uint32_t minOctets_ = 16;
+    unsigned from_ = 0;
+    unsigned slots_ = 0;
     std::string form_;
     bool tree_ = false;
     bool json_ = false;

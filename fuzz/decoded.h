@@ -55,6 +55,16 @@ public:
         return status_;
     }
 
+    OSCTXT& context()
+    {
+        return ctxt_;
+    }
+
+    const CellGroupConfig& value() const
+    {
+        return value_;
+    }
+
     size_t errorLength() const
     {
         return rtxErrFormat(&ctxt_, nullptr, 0);

@@ -9,7 +9,7 @@ test_packages=(
     binutils clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
     libgtest-dev libgmock-dev libbenchmark-dev
     libcli11-dev nlohmann-json3-dev libtomlplusplus-dev libpcap-dev scdoc
-    tshark erlang-base erlang-asn1 python3 python3-clang-14
+    tshark erlang-base erlang-asn1 libxml2-utils python3 python3-clang-14
 )
 
 case "${1:-}" in

@@ -2,6 +2,7 @@
 
 #include "rtxDelta.h"
 #include "teller.h"
+#include "uplinkParts.h"
 #include "walk.h"
 
 namespace rules::explain
@@ -226,29 +227,13 @@ private:
     // A report's slots are those of the uplink that its PUCCH lies in.
     void enterReport(Scope& scope, const CSI_ReportConfig& report)
     {
-        const auto* const type = &report.reportConfigType;
-        const OSRTDList* resources = nullptr;
-        if (const auto* const periodic = CHOSEN(model_.tree, type, CSI_ReportConfig_reportConfigType, periodic))
-        {
-            resources = &periodic->pucch_CSI_ResourceList;
-        }
-        if (const auto* const onPucch =
-                CHOSEN(model_.tree, type, CSI_ReportConfig_reportConfigType, semiPersistentOnPUCCH))
-        {
-            resources = &onPucch->pucch_CSI_ResourceList;
-        }
         scope.measured = measuredBy(*scope.cell, report);
         scope.direction = Direction::Uplink;
         if (!scope.cell->isSpCell())
         {
-            const PDSCH_ServingCellConfig* const pdsch =
-                scope.cell->dedicated == nullptr
-                    ? nullptr
-                    : model_.tree.setup(MEMBER(*scope.cell->dedicated, pdsch_ServingCellConfig));
-            const ServCellIndex* const other = pdsch == nullptr ? nullptr : MEMBER(*pdsch, pucch_Cell);
-            scope.cell = other == nullptr ? model_.spCell() : model_.cell(*other);
+            scope.cell = pucchCellOf(model_, *scope.cell);
         }
-        const List<PUCCH_CSI_Resource> list = model_.tree.list<PUCCH_CSI_Resource>(resources);
+        const List<PUCCH_CSI_Resource> list = csiResourcesOf(model_.tree, report);
         if (list.size() == 1)
         {
             enterBwp(scope, (*list.begin()).uplinkBandwidthPartId);

@@ -152,6 +152,11 @@ const NrCsiRsRow* nrCsiRsRow(uint32_t row);
 // The row of a mapping: NrCsiRsBranch, NrCdm and NrCsiRsDensity, or any other number; null where there is none.
 const NrCsiRsRow* nrCsiRsRowOf(uint32_t branch, uint32_t bits, uint32_t ports, uint32_t cdm, uint32_t density);
 
+// Subcarriers of a resource block that a CSI-RS takes, bit k for subcarrier k, in each of its symbols (TS 38.211
+// 7.4.1.5.3): `bits` is frequencyDomainAllocation as a number, its last bit the least significant. 0 for a branch that
+// is none.
+uint32_t nrCsiRsSubcarriers(uint32_t branch, uint32_t bits);
+
 // The common resource blocks that a CSI-RS takes in a bandwidth part (TS 38.214 5.2.2.3.1): of startingRB and nrofRBs
 // what lies within the bandwidth part; size 0 where nothing does.
 NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp);
@@ -163,6 +168,15 @@ uint32_t nrSrsParts(uint32_t cSrs, uint32_t bSrs);
 // Resource blocks from freqDomainShift on that a sounding resource comes to use (6.4.1.4.3), `position` its
 // freqDomainPosition: without hopping (bHop >= bSrs) those of its one place. Size 0 for indices that the table has not.
 NrSpan nrSrsSpan(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position);
+// The place that it takes the n-th time, counted from that block, too (6.4.1.4.3: n is n_SRS); how many times it takes
+// until it begins again. Size, and times, 0 for indices that the table has not.
+NrSpan nrSrsPlace(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position, uint32_t n);
+uint32_t nrSrsHops(uint32_t cSrs, uint32_t bSrs, uint32_t bHop);
+// The common resource block from which freqDomainShift is counted, for a bandwidth part that begins at `bwpStart`.
+uint32_t nrSrsReference(uint32_t bwpStart, uint32_t shift);
+// Subcarriers of a resource block that all ports of a sounding resource take, bit k for subcarrier k: comb 2 or 4, its
+// offset, the cyclic shift, 1, 2 or 4 ports. 0 for other combs.
+uint32_t nrSrsSubcarriers(uint32_t comb, uint32_t offset, uint32_t cyclicShift, uint32_t ports);
 // Symbols without transmission between the resources of a set for antenna switching (TS 38.214 table 6.2.1.2-1); 0 for
 // spacings that have no sounding.
 uint32_t nrSrsGuardSymbols(uint32_t mu);

@@ -15,6 +15,7 @@ constexpr NrCsiRsRow rows[] = {
     {15, 24, NR_CSI_RS_OTHER, 3, NR_CDM8, 1, 4, 0},    {16, 32, NR_CSI_RS_OTHER, 4, NR_FD_CDM2, 1, 2, 2},
     {17, 32, NR_CSI_RS_OTHER, 4, NR_CDM4, 1, 2, 2},    {18, 32, NR_CSI_RS_OTHER, 4, NR_CDM8, 1, 4, 0},
 };
+constexpr uint32_t rbSubcarriers = 12;
 constexpr uint32_t rowCount = sizeof rows / sizeof rows[0];
 
 bool allows(const NrCsiRsRow& row, uint32_t density)
@@ -68,6 +69,26 @@ const NrCsiRsRow* nrCsiRsRowOf(uint32_t branch, uint32_t bits, uint32_t ports, u
     return nullptr;
 }
 
+uint32_t nrCsiRsSubcarriers(uint32_t branch, uint32_t bits)
+{
+    if (branch < NR_CSI_RS_ROW1 || branch > NR_CSI_RS_OTHER)
+    {
+        return 0;
+    }
+    // What one bit stands for, and how far apart the subcarriers are that bits stand for.
+    const uint32_t taken = branch == NR_CSI_RS_ROW1   ? 0x111
+                           : branch == NR_CSI_RS_ROW2 ? 0x1
+                           : branch == NR_CSI_RS_ROW4 ? 0xF
+                                                      : 0x3;
+    const uint32_t apart = branch == NR_CSI_RS_ROW4 ? 4 : branch == NR_CSI_RS_OTHER ? 2 : 1;
+    uint32_t subcarriers = 0;
+    for (uint32_t i = 0; i * apart < rbSubcarriers; ++i)
+    {
+        subcarriers |= (bits >> i & 1) != 0 ? taken << i * apart : 0;
+    }
+    return subcarriers & ((1U << rbSubcarriers) - 1);
+}
+
 NrSpan nrCsiRsBand(NrSpan configured, NrSpan bwp)
 {
     const uint32_t first = configured.start < bwp.start ? bwp.start : configured.start;
@@ -92,6 +113,60 @@ NrSpan nrSrsSpan(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position)
         span.start += part * (4 * position / part % nrSrsParts(cSrs, b));
     }
     return span;
+}
+
+NrSpan nrSrsPlace(uint32_t cSrs, uint32_t bSrs, uint32_t bHop, uint32_t position, uint32_t n)
+{
+    NrSpan place = nrSrsSpan(cSrs, bSrs, bHop, position);
+    uint32_t before = 1; // product of the parts from bHop on, without those of bHop and of b
+    for (uint32_t b = bHop + 1; bHop < bSrs && b <= bSrs && place.size != 0; ++b)
+    {
+        const uint32_t part = nrSrsBandwidth(cSrs, b);
+        const uint32_t parts = nrSrsParts(cSrs, b);
+        if (parts == 0)
+        {
+            return {0, 0};
+        }
+        const uint32_t within = n % (before * parts);
+        const uint32_t hop =
+            parts % 2 == 0 ? parts / 2 * (within / before) + within / (2 * before) : parts / 2 * (n / before);
+        place.start += part * ((hop + 4 * position / part) % parts);
+        place.size = part;
+        before *= parts;
+    }
+    return place;
+}
+
+uint32_t nrSrsHops(uint32_t cSrs, uint32_t bSrs, uint32_t bHop)
+{
+    uint32_t hops = nrSrsBandwidth(cSrs, bSrs) == 0 ? 0 : 1;
+    for (uint32_t b = bHop + 1; bHop < bSrs && b <= bSrs; ++b)
+    {
+        hops *= nrSrsParts(cSrs, b);
+    }
+    return hops;
+}
+
+uint32_t nrSrsReference(uint32_t bwpStart, uint32_t shift)
+{
+    return bwpStart <= shift ? 0 : bwpStart;
+}
+
+uint32_t nrSrsSubcarriers(uint32_t comb, uint32_t offset, uint32_t cyclicShift, uint32_t ports)
+{
+    if (comb != 2 && comb != 4)
+    {
+        return 0;
+    }
+    const uint32_t half = comb == 2 ? 4 : 6; // of the cyclic shifts that there are
+    const bool isOnTwo = ports == 4 && cyclicShift >= half;
+    uint32_t subcarriers = 0;
+    for (uint32_t k = 0; k < rbSubcarriers; ++k)
+    {
+        const bool isTaken = k % comb == offset % comb || (isOnTwo && k % comb == (offset + comb / 2) % comb);
+        subcarriers |= isTaken ? 1U << k : 0;
+    }
+    return subcarriers;
 }
 
 uint32_t nrSrsGuardSymbols(uint32_t mu)

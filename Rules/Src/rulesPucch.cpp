@@ -30,47 +30,6 @@ void forPucchs(Check& check, const Each& each)
     }
 }
 
-// The first and the number of symbols of a resource, and what else all formats have.
-struct Shape
-{
-    OSUINT32 format; // 0..4
-    const OSUINT8* start;
-    const OSUINT8* symbols;
-    OSUINT32 rbs;
-};
-
-// False where the format cannot be read.
-bool shapeOf(const Tree& tree, const PUCCH_Resource& resource, Shape& shape)
-{
-    const PUCCH_Resource_format* const format = &resource.format;
-    const auto take = [&](OSUINT32 number, const auto* of, OSUINT32 rbs)
-    {
-        shape = {number, &of->startingSymbolIndex, &of->nrofSymbols, rbs};
-        return true;
-    };
-    if (const PUCCH_format0* const f0 = CHOSEN(tree, format, PUCCH_Resource_format, format0))
-    {
-        return take(0, f0, 1);
-    }
-    if (const PUCCH_format1* const f1 = CHOSEN(tree, format, PUCCH_Resource_format, format1))
-    {
-        return take(1, f1, 1);
-    }
-    if (const PUCCH_format2* const f2 = CHOSEN(tree, format, PUCCH_Resource_format, format2))
-    {
-        return take(2, f2, f2->nrofPRBs);
-    }
-    if (const PUCCH_format3* const f3 = CHOSEN(tree, format, PUCCH_Resource_format, format3))
-    {
-        return take(3, f3, f3->nrofPRBs);
-    }
-    if (const PUCCH_format4* const f4 = CHOSEN(tree, format, PUCCH_Resource_format, format4))
-    {
-        return take(4, f4, 1);
-    }
-    return false;
-}
-
 // Each resource of each PUCCH-Config whose format can be read.
 template <typename Each>
 void forShapes(Check& check, const Each& each)
@@ -80,8 +39,8 @@ void forShapes(Check& check, const Each& each)
               {
                   for (const IdEntry<PUCCH_Resource>& entry : lists.resources)
                   {
-                      Shape shape{};
-                      if (shapeOf(check.tree, *entry.element, shape))
+                      PucchShape shape{};
+                      if (pucchShapeOf(check.tree, *entry.element, shape))
                       {
                           each(bwp, *entry.element, shape);
                       }
@@ -95,19 +54,6 @@ bool isSmall(const PUCCH_Resource& resource)
     return resource.format.t == T_PUCCH_Resource_format_format0 || resource.format.t == T_PUCCH_Resource_format_format1;
 }
 
-constexpr OSUINT32 formatCount = 5;
-
-struct Formats
-{
-    const PUCCH_FormatConfig* of[formatCount]; // null where not set up; none of format 0
-};
-
-Formats formatsOf(const Tree& tree, const PUCCH_Config& pucch)
-{
-    return {{nullptr, tree.setup(MEMBER(pucch, format1)), tree.setup(MEMBER(pucch, format2)),
-             tree.setup(MEMBER(pucch, format3)), tree.setup(MEMBER(pucch, format4))}};
-}
-
 // Bit f: there is a resource of format f.
 OSUINT32 usedFormats(const Pucch& lists)
 {
@@ -115,7 +61,7 @@ OSUINT32 usedFormats(const Pucch& lists)
     for (const IdEntry<PUCCH_Resource>& entry : lists.resources)
     {
         const OSUINT32 tag = entry.element->format.t;
-        used |= tag >= 1 && tag <= formatCount ? 1U << (tag - 1) : 0;
+        used |= tag >= 1 && tag <= pucchFormats ? 1U << (tag - 1) : 0;
     }
     return used;
 }
@@ -270,7 +216,7 @@ void pucchFormatSetup(Check& check)
         [&](Cell&, Bwp&, const PUCCH_Config& pucch, const Pucch& lists)
         {
             const OSUINT32 used = usedFormats(lists);
-            const Formats formats = formatsOf(check.tree, pucch);
+            const PucchFormats formats = pucchFormatsOf(check.tree, pucch);
             const auto judge = [&](OSUINT32 format, const auto* at)
             {
                 if ((used >> format & 1) != 0 && formats.of[format] == nullptr)
@@ -291,8 +237,8 @@ void pucchMaxcoderate(Check& check)
               [&](Cell&, Bwp&, const PUCCH_Config& pucch, const Pucch& lists)
               {
                   const OSUINT32 used = usedFormats(lists);
-                  const Formats formats = formatsOf(check.tree, pucch);
-                  for (OSUINT32 format = 2; format < formatCount; ++format)
+                  const PucchFormats formats = pucchFormatsOf(check.tree, pucch);
+                  for (OSUINT32 format = 2; format < pucchFormats; ++format)
                   {
                       const PUCCH_FormatConfig* const config = formats.of[format];
                       if (config != nullptr && (used >> format & 1) != 0 && config->m.maxCodeRatePresent == 0)
@@ -327,7 +273,7 @@ void pucchMaxcoderate(Check& check)
 void pucchSymbols(Check& check)
 {
     forShapes(check,
-              [&](const Bwp& bwp, const PUCCH_Resource&, const Shape& shape)
+              [&](const Bwp& bwp, const PUCCH_Resource&, const PucchShape& shape)
               {
                   if (OSUINT32{*shape.start} + *shape.symbols > bwp.symbolsPerSlot())
                   {
@@ -347,7 +293,7 @@ bool hops(const PUCCH_Resource& resource)
 void pucchF1Occ(Check& check)
 {
     forShapes(check,
-              [&](const Bwp&, const PUCCH_Resource& resource, const Shape&)
+              [&](const Bwp&, const PUCCH_Resource& resource, const PucchShape&)
               {
                   const PUCCH_format1* const f1 = CHOSEN(check.tree, &resource.format, PUCCH_Resource_format, format1);
                   const OSUINT32 sequences =
@@ -365,7 +311,7 @@ void pucchF1Occ(Check& check)
 void pucchF3Prbs(Check& check)
 {
     forShapes(check,
-              [&](const Bwp&, const PUCCH_Resource& resource, const Shape&)
+              [&](const Bwp&, const PUCCH_Resource& resource, const PucchShape&)
               {
                   const PUCCH_format3* const f3 = CHOSEN(check.tree, &resource.format, PUCCH_Resource_format, format3);
                   if (f3 != nullptr && nrIsDftSize(f3->nrofPRBs) == 0)
@@ -379,7 +325,7 @@ void pucchF3Prbs(Check& check)
 void pucchF4Occ(Check& check)
 {
     forShapes(check,
-              [&](const Bwp&, const PUCCH_Resource& resource, const Shape&)
+              [&](const Bwp&, const PUCCH_Resource& resource, const PucchShape&)
               {
                   const PUCCH_format4* const f4 = CHOSEN(check.tree, &resource.format, PUCCH_Resource_format, format4);
                   if (f4 != nullptr && f4->occ_Length == PUCCH_format4_occ_Length_n2 &&
@@ -391,22 +337,11 @@ void pucchF4Occ(Check& check)
 }
 
 // What formatN says of hopping from slot to slot; null where the format has none of it.
-const PUCCH_FormatConfig* repeatingFormat(const Tree& tree, const Bwp& bwp, OSUINT32 format)
-{
-    return format == 2 || format >= formatCount ? nullptr : formatsOf(tree, *bwp.pucch).of[format];
-}
-
-bool hopsBetweenSlots(const Tree& tree, const Bwp& bwp, OSUINT32 format)
-{
-    const PUCCH_FormatConfig* const config = repeatingFormat(tree, bwp, format);
-    return config != nullptr && config->m.interslotFrequencyHoppingPresent != 0 && config->m.nrofSlotsPresent != 0;
-}
-
 // Each hop lies in the bandwidth part.
 void pucchPrbInBwp(Check& check)
 {
     forShapes(check,
-              [&](const Bwp& bwp, const PUCCH_Resource& resource, const Shape& shape)
+              [&](const Bwp& bwp, const PUCCH_Resource& resource, const PucchShape& shape)
               {
                   const Known<NrSpan> rbs = bwp.rbs();
                   if (!check.decided(rbs))
@@ -435,7 +370,7 @@ void pucchPrbInBwp(Check& check)
 void pucchHopPrb(Check& check)
 {
     forShapes(check,
-              [&](Bwp& bwp, const PUCCH_Resource& resource, const Shape& shape)
+              [&](Bwp& bwp, const PUCCH_Resource& resource, const PucchShape& shape)
               {
                   const bool isHopping = hops(resource) || hopsBetweenSlots(check.tree, bwp, shape.format);
                   const PRB_Id* const second = MEMBER(resource, secondHopPRB);
@@ -470,10 +405,10 @@ void pucchHopBoth(Check& check)
                   for (const IdEntry<PUCCH_Resource>& entry : lists.resources)
                   {
                       const OSUINT32 tag = entry.element->format.t;
-                      hopping |= hops(*entry.element) && tag >= 1 && tag <= formatCount ? 1U << (tag - 1) : 0;
+                      hopping |= hops(*entry.element) && tag >= 1 && tag <= pucchFormats ? 1U << (tag - 1) : 0;
                   }
-                  const Formats formats = formatsOf(check.tree, pucch);
-                  for (OSUINT32 format = 1; format < formatCount; ++format)
+                  const PucchFormats formats = pucchFormatsOf(check.tree, pucch);
+                  for (OSUINT32 format = 1; format < pucchFormats; ++format)
                   {
                       const PUCCH_FormatConfig* const config = formats.of[format];
                       const auto* const between =
@@ -501,9 +436,9 @@ void pucchSimultaneous(Check& check)
     forPucchs(check,
               [&](Cell&, Bwp&, const PUCCH_Config& pucch, const Pucch&)
               {
-                  const Formats formats = formatsOf(check.tree, pucch);
+                  const PucchFormats formats = pucchFormatsOf(check.tree, pucch);
                   OSUINT32 first = 0;
-                  for (OSUINT32 format = 2; format < formatCount; ++format)
+                  for (OSUINT32 format = 2; format < pucchFormats; ++format)
                   {
                       const PUCCH_FormatConfig* const config = formats.of[format];
                       if (config == nullptr)
@@ -549,29 +484,6 @@ void pucchSrResource(Check& check)
               });
 }
 
-// The alternatives of periodicityAndOffset: symbols below a slot, else slots.
-struct SrPeriod
-{
-    OSUINT32 symbols;
-    OSUINT32 slots;
-};
-
-SrPeriod srPeriodOf(const SchedulingRequestResourceConfig_periodicityAndOffset& choice, const Bwp& bwp)
-{
-    static constexpr OSUINT32 slots[] = {1, 2, 4, 5, 8, 10, 16, 20, 40, 80, 160, 320, 640};
-    constexpr OSUINT32 firstOfSlots = T_SchedulingRequestResourceConfig_periodicityAndOffset_sl1;
-    if (choice.t == T_SchedulingRequestResourceConfig_periodicityAndOffset_sym2)
-    {
-        return {2, 0};
-    }
-    if (choice.t == T_SchedulingRequestResourceConfig_periodicityAndOffset_sym6or7)
-    {
-        return {bwp.symbolsPerSlot() / 2, 0};
-    }
-    return {0, choice.t >= firstOfSlots && choice.t - firstOfSlots < std::size(slots) ? slots[choice.t - firstOfSlots]
-                                                                                      : 0};
-}
-
 // The period of a scheduling request is one of the spacing.
 void pucchSrPeriod(Check& check)
 {
@@ -589,8 +501,8 @@ void pucchSrPeriod(Check& check)
                       const SrPeriod period = srPeriodOf(*choice, bwp);
                       const PUCCH_Resource* const resource =
                           request.m.resourcePresent != 0 ? lists.resources.element(request.resource) : nullptr;
-                      Shape shape{};
-                      if (period.symbols != 0 && resource != nullptr && shapeOf(check.tree, *resource, shape) &&
+                      PucchShape shape{};
+                      if (period.symbols != 0 && resource != nullptr && pucchShapeOf(check.tree, *resource, shape) &&
                           *shape.symbols > period.symbols)
                       {
                           check.warning(choice).allowed("the resource has %u symbols", *shape.symbols);
@@ -718,32 +630,6 @@ void pucchK1(Check& check)
                   }
                   judgeReach(check, cell, bwp, *delays);
               });
-}
-
-// The PUCCH-CSI-Resources of a report; none where it is not on PUCCH.
-List<PUCCH_CSI_Resource> csiResourcesOf(const Tree& tree, const CSI_ReportConfig& report)
-{
-    const CSI_ReportConfig_reportConfigType* const type = &report.reportConfigType;
-    if (const auto* const periodic = CHOSEN(tree, type, CSI_ReportConfig_reportConfigType, periodic))
-    {
-        return tree.list<PUCCH_CSI_Resource>(&periodic->pucch_CSI_ResourceList);
-    }
-    const auto* const persistent = CHOSEN(tree, type, CSI_ReportConfig_reportConfigType, semiPersistentOnPUCCH);
-    return tree.list<PUCCH_CSI_Resource>(persistent == nullptr ? nullptr : &persistent->pucch_CSI_ResourceList);
-}
-
-// The bandwidth part of an id that has a PUCCH, on either uplink.
-Bwp* pucchBwp(const Cell& cell, OSUINT32 id)
-{
-    for (const Direction direction : {Direction::Uplink, Direction::Supplementary})
-    {
-        Bwp* const bwp = cell.bwp(direction, id);
-        if (bwp != nullptr && bwp->pucch != nullptr)
-        {
-            return bwp;
-        }
-    }
-    return nullptr;
 }
 
 // False where there is no PUCCH.

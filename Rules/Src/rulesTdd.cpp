@@ -299,35 +299,6 @@ void tddDedicated(Check& check)
     }
 }
 
-// What comes back every `period` slots.
-struct Slots
-{
-    OSUINT32 period; // 0: none
-    OSUINT32 offset;
-};
-
-// A choice of periods: its alternatives hold the offset, from 320 slots on in two octets.
-template <typename Choice, size_t N>
-Slots slotsOf(const Choice* choice, const OSUINT16 (&periods)[N])
-{
-    if (choice == nullptr || choice->t - 1 >= N || periods[choice->t - 1] == 0)
-    {
-        return {};
-    }
-    constexpr OSUINT32 firstWide = 320;
-    const OSUINT32 period = periods[choice->t - 1];
-    OSUINT8 narrow = 0;
-    OSUINT16 wide = 0;
-    std::memcpy(&narrow, &choice->u, sizeof narrow);
-    std::memcpy(&wide, &choice->u, sizeof wide);
-    return {period, period == 1 ? 0U : period >= firstWide ? OSUINT32{wide} : OSUINT32{narrow}};
-}
-
-constexpr OSUINT16 srPeriods[] = {0, 0, 1, 2, 4, 5, 8, 10, 16, 20, 40, 80, 160, 320, 640};
-constexpr OSUINT16 reportPeriods[] = {4, 5, 8, 10, 16, 20, 40, 80, 160, 320};
-constexpr OSUINT16 rsPeriods[] = {4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640};
-constexpr OSUINT16 srsPeriods[] = {1, 2, 4, 5, 8, 10, 16, 20, 32, 40, 64, 80, 160, 320, 640, 1280, 2560};
-
 // A cell's slots, with a spacing that its patterns can tell.
 struct Timing
 {
@@ -360,7 +331,8 @@ Known<Timing> timingOf(Model& model, const Bwp& bwp)
 
 // How a periodic resource fares.
 template <typename T>
-void periodic(Check& check, const T* at, const Timing& timing, const Slots& slots, NrSpan symbols, NrSymbolKind against)
+void periodic(Check& check, const T* at, const Timing& timing, const Recurrence& slots, NrSpan symbols,
+              NrSymbolKind against)
 {
     if (slots.period == 0)
     {
@@ -383,34 +355,6 @@ void periodic(Check& check, const T* at, const Timing& timing, const Slots& slot
                  against == NR_SYMBOL_DOWNLINK ? "downlink" : "uplink");
 }
 
-// The symbols of a PUCCH resource; none where it is broken.
-NrSpan symbolsOf(const Tree& tree, const PUCCH_Resource* resource)
-{
-    const PUCCH_Resource_format* const format = resource == nullptr ? nullptr : &resource->format;
-    const auto span = [](const auto* of)
-    {
-        return NrSpan{of->startingSymbolIndex, of->nrofSymbols};
-    };
-    if (const auto* const of = CHOSEN(tree, format, PUCCH_Resource_format, format0))
-    {
-        return span(of);
-    }
-    if (const auto* const of = CHOSEN(tree, format, PUCCH_Resource_format, format1))
-    {
-        return span(of);
-    }
-    if (const auto* const of = CHOSEN(tree, format, PUCCH_Resource_format, format2))
-    {
-        return span(of);
-    }
-    if (const auto* const of = CHOSEN(tree, format, PUCCH_Resource_format, format3))
-    {
-        return span(of);
-    }
-    const auto* const of = CHOSEN(tree, format, PUCCH_Resource_format, format4);
-    return of == nullptr ? NrSpan{} : span(of);
-}
-
 void directionOfPucch(Check& check, Bwp& bwp, const Timing& timing)
 {
     const Pucch& pucch = check.model.pucch(bwp);
@@ -418,10 +362,10 @@ void directionOfPucch(Check& check, Bwp& bwp, const Timing& timing)
     {
         const auto* const id = MEMBER(*entry.element, resource);
         const auto* const choice = MEMBER(*entry.element, periodicityAndOffset);
-        const NrSpan symbols = symbolsOf(check.tree, id == nullptr ? nullptr : pucch.resources.element(*id));
+        const NrSpan symbols = pucchSymbolsOf(check.tree, id == nullptr ? nullptr : pucch.resources.element(*id));
         if (choice != nullptr && symbols.size != 0)
         {
-            periodic(check, choice, timing, slotsOf(choice, srPeriods), symbols, NR_SYMBOL_DOWNLINK);
+            periodic(check, choice, timing, recurrenceOf(*choice), symbols, NR_SYMBOL_DOWNLINK);
         }
     }
 }
@@ -436,8 +380,8 @@ void directionOfSrs(Check& check, Bwp& bwp, const Timing& timing)
         if (type != nullptr && mapping.nrofSymbols < std::size(counts) && mapping.startPosition < NR_SYMBOLS)
         {
             const NrSpan symbols = {NR_SYMBOLS - 1U - mapping.startPosition, counts[mapping.nrofSymbols]};
-            periodic(check, &type->periodicityAndOffset_p, timing, slotsOf(&type->periodicityAndOffset_p, srsPeriods),
-                     symbols, NR_SYMBOL_DOWNLINK);
+            periodic(check, &type->periodicityAndOffset_p, timing, recurrenceOf(check.tree, *entry.element), symbols,
+                     NR_SYMBOL_DOWNLINK);
         }
     }
 }
@@ -489,32 +433,6 @@ void directionOfPusch(Check& check, const Timing& timing, const Bwp& bwp)
         check.warning(&bwp.pusch->pusch_TimeDomainAllocationList)
             .allowed("no row of the default table leads from a downlink slot to uplink symbols");
     }
-}
-
-// The symbols of the row that a configured grant names, in the table in force.
-Known<NrSpan> grantSymbols(const Model& model, const Bwp& bwp, OSUINT32 number)
-{
-    const Known<PuschRows> rows = puschRows(model, bwp);
-    NrSpan symbols{};
-    OSUINT32 k2 = 0;
-    if (rows && rows->isDefault)
-    {
-        const int isThere =
-            bwp.mu() ? nrPuschDefaultRow(*bwp.mu(), bwp.isExtended() ? 1 : 0, number, &k2, &symbols) : 0;
-        return isThere != 0 ? Known<NrSpan>(symbols) : Known<NrSpan>::unless(0);
-    }
-    if (rows)
-    {
-        for (const PUSCH_TimeDomainResourceAllocation& row : rows->rows)
-        {
-            if (number-- == 0)
-            {
-                return nrSlivDecode(row.startSymbolAndLength, &symbols) != 0 ? Known<NrSpan>(symbols)
-                                                                             : Known<NrSpan>::unless(0);
-            }
-        }
-    }
-    return Known<NrSpan>::unless(rows.inputs());
 }
 
 // A configured grant of type 1 with a period of whole slots.
@@ -604,7 +522,7 @@ void directionOfCsi(Check& check, Cell& cell)
     {
         if (const auto* const choice = MEMBER(*entry.element, periodicityAndOffset))
         {
-            periodic(check, choice, *timing, slotsOf(choice, rsPeriods),
+            periodic(check, choice, *timing, recurrenceOf(*choice),
                      {entry.element->resourceMapping.firstOFDMSymbolInTimeDomain, 1}, NR_SYMBOL_UPLINK);
         }
     }
@@ -618,7 +536,7 @@ void directionOfCsi(Check& check, Cell& cell)
         {
             const NrSpan symbols =
                 one != nullptr ? NrSpan{one->symbolLocation_p1, 1} : NrSpan{zero->symbolLocation_p0, 2};
-            periodic(check, choice, *timing, slotsOf(choice, rsPeriods), symbols, NR_SYMBOL_UPLINK);
+            periodic(check, choice, *timing, recurrenceOf(*choice), symbols, NR_SYMBOL_UPLINK);
         }
     }
 }
@@ -645,11 +563,11 @@ void directionOfReports(Check& check, Cell& cell)
             const Known<Timing> timing = bwp == nullptr ? Known<Timing>::unless(0) : timingOf(check.model, *bwp);
             const PUCCH_Resource* const resource =
                 bwp == nullptr ? nullptr : check.model.pucch(*bwp).resources.element(named.pucch_Resource);
-            const NrSpan symbols = symbolsOf(check.tree, resource);
+            const NrSpan symbols = pucchSymbolsOf(check.tree, resource);
             if (timing && symbols.size != 0)
             {
-                periodic(check, &type->reportSlotConfig, *timing, slotsOf(&type->reportSlotConfig, reportPeriods),
-                         symbols, NR_SYMBOL_DOWNLINK);
+                periodic(check, &type->reportSlotConfig, *timing, recurrenceOf(type->reportSlotConfig), symbols,
+                         NR_SYMBOL_DOWNLINK);
             }
         }
     }

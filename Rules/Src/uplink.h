@@ -3,7 +3,7 @@
 #define RULES_UPLINK_H
 
 #include "check.h"
-#include "modelLists.h"
+#include "uplinkParts.h"
 
 namespace rules
 {
@@ -46,15 +46,6 @@ SrsSet srsSet(Model& model, const Srs& srs, const SRS_ResourceSet& set);
 // The first set of a usage; null where the element has none.
 const SRS_ResourceSet* srsSetFor(const Srs& srs, SRS_ResourceSet_usage usage);
 
-// Antenna ports; 0 where the tree is broken.
-OSUINT32 portsOf(const SRS_Resource& resource);
-
-// Its time behaviour in slots; period 0 where it is aperiodic, or the tree broken.
-Recurrence recurrenceOf(const Tree& tree, const SRS_Resource& resource);
-
-// Of ConfiguredGrantConfig.periodicity, in symbols; 0 for a value that is none.
-OSUINT32 grantPeriod(const ConfiguredGrantConfig& grant);
-
 // The most ports of the resources for codebook based transmission.
 Known<OSUINT32> codebookPorts(Model& model, Bwp& bwp);
 
@@ -64,11 +55,6 @@ Known<bool> hasTwoLoops(Model& model, Bwp& bwp);
 // The cell that a pathloss reference of this one lies in (pathlossReferenceLinking); null where it is not in the
 // element.
 Cell* pathlossCell(Model& model, Cell& cell);
-
-const PDSCH_ServingCellConfig* servingConfig(const Tree& tree, const Cell& cell);
-
-// The cell that carries the PUCCH of this one (pucch-Cell); null where it is not in the element.
-Cell* pucchCellOf(Model& model, const Cell& cell);
 
 // Whether the CSI-RS is sent only when triggered.
 Known<bool> isAperiodic(const Model& model, const Cell& cell, const NZP_CSI_RS_Resource& resource);

@@ -504,6 +504,47 @@ TEST(CsiRs, RowsHaveTheirPorts)
     EXPECT_EQ(nullptr, nrCsiRsRow(19));
 }
 
+// TS 38.211 7.4.1.5.3 and the columns of its table: k_i by the bits, and what a row adds to them.
+TEST(CsiRs, SubcarriersOfTheBits)
+{
+    for (uint32_t bits = 0; bits < 1U << 12; ++bits)
+    {
+        uint32_t row1 = 0;
+        uint32_t row2 = 0;
+        uint32_t row4 = 0;
+        uint32_t other = 0;
+        for (uint32_t i = 0; i < 12; ++i)
+        {
+            if ((bits >> i & 1) == 0)
+            {
+                continue;
+            }
+            row2 |= 1U << i;
+            row1 |= i < 4 ? 1U << i | 1U << (i + 4) | 1U << (i + 8) : 0;
+            for (const uint32_t k : {0U, 1U, 2U, 3U}) // groups at k_0 and k_0 + 2, of two subcarriers
+            {
+                row4 |= i < 3 ? 1U << (4 * i + k) : 0;
+            }
+            other |= i < 6 ? 3U << 2 * i : 0;
+        }
+        EXPECT_EQ(row2, nrCsiRsSubcarriers(NR_CSI_RS_ROW2, bits));
+        if (bits < 1U << 4)
+        {
+            EXPECT_EQ(row1, nrCsiRsSubcarriers(NR_CSI_RS_ROW1, bits));
+        }
+        if (bits < 1U << 3)
+        {
+            EXPECT_EQ(row4, nrCsiRsSubcarriers(NR_CSI_RS_ROW4, bits));
+        }
+        if (bits < 1U << 6)
+        {
+            EXPECT_EQ(other, nrCsiRsSubcarriers(NR_CSI_RS_OTHER, bits));
+        }
+        EXPECT_EQ(0U, nrCsiRsSubcarriers(0, bits));
+        EXPECT_EQ(0U, nrCsiRsSubcarriers(5, bits));
+    }
+}
+
 TEST(CsiRs, RowsAreToldApart)
 {
     std::map<uint32_t, uint32_t> found;

@@ -125,9 +125,14 @@ TEST(Sounding, SpanIsWhatAllHopsTake)
                         {
                             start += nrSrsBandwidth(c, b) * hoppingPlace(c, b, bHop, position, n);
                         }
+                        const NrSpan place = nrSrsPlace(c, bSrs, bHop, position, n);
+                        ASSERT_EQ(start, place.start) << c << " " << bSrs << " " << bHop << " " << position << " " << n;
+                        ASSERT_EQ(nrSrsBandwidth(c, bSrs), place.size);
+                        ASSERT_EQ(start, nrSrsPlace(c, bSrs, bHop, position, n + hops).start);
                         lowest = std::min(lowest, start);
                         end = std::max(end, start + nrSrsBandwidth(c, bSrs));
                     }
+                    ASSERT_EQ(hops, nrSrsHops(c, bSrs, bHop));
                     const NrSpan span = nrSrsSpan(c, bSrs, bHop, position);
                     ASSERT_EQ(lowest, span.start) << c << " " << bSrs << " " << bHop << " " << position;
                     ASSERT_EQ(end, span.start + span.size) << c << " " << bSrs << " " << bHop << " " << position;
@@ -137,6 +142,49 @@ TEST(Sounding, SpanIsWhatAllHopsTake)
     }
     EXPECT_EQ(0U, nrSrsSpan(64, 0, 0, 0).size);
     EXPECT_EQ(0U, nrSrsSpan(0, 4, 4, 0).size);
+    EXPECT_EQ(0U, nrSrsPlace(64, 0, 0, 0, 0).size);
+    EXPECT_EQ(0U, nrSrsPlace(0, 4, 0, 0, 7).size);
+    EXPECT_EQ(0U, nrSrsHops(64, 0, 0));
+    EXPECT_EQ(0U, nrSrsHops(0, 4, 0));
+}
+
+// TS 38.211 6.4.1.4.3: k_TC of each port, and a subcarrier each comb's size.
+TEST(Sounding, SubcarriersOfTheCombs)
+{
+    for (const uint32_t comb : {2U, 4U})
+    {
+        const uint32_t shifts = comb == 2 ? 8 : 12;
+        for (uint32_t offset = 0; offset < comb; ++offset)
+        {
+            for (uint32_t shift = 0; shift < shifts; ++shift)
+            {
+                for (const uint32_t ports : {1U, 2U, 4U})
+                {
+                    uint32_t taken = 0;
+                    for (uint32_t port = 0; port < ports; ++port)
+                    {
+                        const bool isOther = shift >= shifts / 2 && ports == 4 && (port == 1 || port == 3);
+                        for (uint32_t k = isOther ? (offset + comb / 2) % comb : offset; k < 12; k += comb)
+                        {
+                            taken |= 1U << k;
+                        }
+                    }
+                    EXPECT_EQ(taken, nrSrsSubcarriers(comb, offset, shift, ports)) << comb << " " << offset;
+                }
+            }
+        }
+    }
+    EXPECT_EQ(0U, nrSrsSubcarriers(3, 0, 0, 1));
+    EXPECT_EQ(0U, nrSrsSubcarriers(0, 0, 0, 1));
+}
+
+// Where freqDomainShift reaches the bandwidth part, it counts from common resource block 0.
+TEST(Sounding, Reference)
+{
+    EXPECT_EQ(0U, nrSrsReference(0, 0));
+    EXPECT_EQ(0U, nrSrsReference(24, 24));
+    EXPECT_EQ(0U, nrSrsReference(24, 100));
+    EXPECT_EQ(24U, nrSrsReference(24, 23));
 }
 
 // What stands of m_SRS,b in TS 38.211 table 6.4.1.4.3-1 fits into the level above, whole times.

@@ -8,31 +8,13 @@ import random
 import re
 import subprocess
 
-from harness import DONE, FINDINGS, MALFORMED, PROGRAM, PROJECT, USAGE, expect, main, octets, run, true
+from harness import DONE, FINDINGS, MALFORMED, PROGRAM, PROJECT, USAGE, WHOLE, expect, flat, main, octets, run, true
 
-WHOLE = [line.strip() for line in (PROJECT / "tests/Rules/wholeCell.flat").read_text(encoding="utf-8").splitlines()
-         if line.strip() and not line.startswith("#")]
 SRB_SN = "rlc-BearerToAddModList[0].rlc-Config.am.ul-AM-RLC.sn-FieldLength"
 SRB_PATH = "CellGroupConfig.rlc-BearerToAddModList[0: logicalChannelIdentity 1].rlc-Config.am.ul-AM-RLC.sn-FieldLength"
 BAD_SRB = f"{SRB_SN} = size18"
 COMMON = "spCellConfig.reconfigurationWithSync.spCellConfigCommon"
 RELEASE = "20023f00"  # cellGroupId 0, RLC bearers 4 and 31 released
-
-
-def flat(*changes, only=""):
-    """The whole cell with changes, "path = value" or "path = absent", as flat lines; `only` what begins so."""
-    lines = [line for line in WHOLE if line.startswith(("cellGroupId", only))]
-    for change in changes:
-        path, value = change.split(" = ")
-        inside = tuple(path + sign for sign in (" ", ".", "["))
-        at = next((i for i, line in enumerate(lines) if line.startswith(inside)), len(lines))
-        kept = [line for line in lines if not line.startswith(inside)]
-        if value == "absent":
-            true(len(kept) < len(lines), f"{path} is there to be taken away")
-        else:
-            kept.insert(at, change)
-        lines = kept
-    return "".join(f"CellGroupConfig.{line}\n" for line in lines)
 
 
 def jer(*changes, only=""):

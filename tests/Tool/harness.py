@@ -11,6 +11,10 @@ import tempfile
 PROGRAM, PROJECT = str(pathlib.Path(sys.argv[1]).resolve()), pathlib.Path(sys.argv[2])
 DONE, FINDINGS, USAGE, MALFORMED, NOTHING = 0, 1, 2, 3, 4
 
+# A cell group that all rules are silent of.
+WHOLE = [line.strip() for line in (PROJECT / "tests/Rules/wholeCell.flat").read_text(encoding="utf-8").splitlines()
+         if line.strip() and not line.startswith("#")]
+
 failures = []
 count = 0
 
@@ -65,6 +69,22 @@ def octets(bits):
 
 def bits_of(data):
     return "".join(f"{octet:08b}" for octet in data)
+
+
+def flat(*changes, only=""):
+    """The whole cell with changes, "path = value" or "path = absent", as flat lines; `only` what begins so."""
+    lines = [line for line in WHOLE if line.startswith(("cellGroupId", only))]
+    for change in changes:
+        path, value = change.split(" = ")
+        inside = tuple(path + sign for sign in (" ", ".", "["))
+        at = next((i for i, line in enumerate(lines) if line.startswith(inside)), len(lines))
+        kept = [line for line in lines if not line.startswith(inside)]
+        if value == "absent":
+            true(len(kept) < len(lines), f"{path} is there to be taken away")
+        else:
+            kept.insert(at, change)
+        lines = kept
+    return "".join(f"CellGroupConfig.{line}\n" for line in lines)
 
 
 def main(*tests):
