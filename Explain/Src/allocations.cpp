@@ -76,7 +76,7 @@ void grantBlocks(Teller& t, const ConfiguredGrantConfig_rrc_ConfiguredUplinkGran
     {
         return;
     }
-    const OSUINT32 value = numberOf(typeOne.frequencyDomainAllocation);
+    const OSUINT32 value = bitsAsNumber(typeOne.frequencyDomainAllocation);
     const bool isTypeOne =
         grant->resourceAllocation == ConfiguredGrantConfig_resourceAllocation_resourceAllocationType1;
     NrSpan span{};

@@ -235,7 +235,7 @@ inline bool hasBit(const OSOCTET* octets, OSUINT32 index)
 }
 
 // A bit string as a number: its last bit is the least significant one.
-inline OSUINT32 numberOf(const ASN1BitStr32& bits)
+inline OSUINT32 bitsAsNumber(const ASN1BitStr32& bits)
 {
     OSUINT32 number = 0;
     for (OSUINT32 i = 0; i < rtx::bitCount(bits); ++i)

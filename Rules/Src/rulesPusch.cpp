@@ -784,7 +784,7 @@ void checkFrequency(Check& check, const Bwp& bwp, const ConfiguredGrantConfig& g
 {
     const auto& bits = typeOne.frequencyDomainAllocation;
     const OSUINT32 count = rtx::bitCount(bits);
-    const OSUINT32 value = numberOf(bits);
+    const OSUINT32 value = bitsAsNumber(bits);
     const Known<NrSpan> rbs = bwp.rbs();
     const bool isTypeOne = grant.resourceAllocation == ConfiguredGrantConfig_resourceAllocation_resourceAllocationType1;
     const bool isTypeZero =
