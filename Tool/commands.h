@@ -64,6 +64,9 @@ struct CheckOptions
 };
 void check(Session& session, const Operands& operands, const CheckOptions& options);
 
+// One message or two, as a page.
+void view(Session& session, const Operands& operands, const Settings& context);
+
 struct FindOptions
 {
     std::uint32_t minOctets; // of a message

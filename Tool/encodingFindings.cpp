@@ -1,33 +1,12 @@
 #include "encodingFindings.h"
 
-#include "findingIds.h"
-#include "text.h"
+#include "ruleInputs.h"
 #include "trace.h"
 
 namespace tool
 {
 namespace
 {
-
-std::string rangeText(std::int64_t lower, std::int64_t upper)
-{
-    return lower == upper ? std::to_string(lower) : std::to_string(lower) + ".." + std::to_string(upper);
-}
-
-// Of a line "path: message".
-Finding finding(const char* id, Severity severity, const std::string& line)
-{
-    const IdWords words = wordsOf(id);
-    const std::size_t colon = line.find(": ");
-    Finding finding;
-    finding.id = id;
-    finding.severity = severity;
-    finding.path = line.substr(0, colon);
-    finding.message = line.substr(colon + 2);
-    finding.advice = words.advice;
-    finding.clause = words.clause;
-    return finding;
-}
 
 Finding findingOf(const Message::Mistake& mistake, const Given& given, const RtxPdu& pdu)
 {
@@ -48,16 +27,22 @@ Finding findingOf(const Message::Mistake& mistake, const Given& given, const Rtx
 
 } // namespace
 
-Finding findingOf(const RtxError& error)
+Finding asFinding(page::MessageFinding&& found)
 {
-    Finding result = finding(idOf(error.status), Severity::Error, errorText(error));
-    if (error.status == RTX_E_RANGE || error.status == RTX_E_SIZE || error.status == RTX_E_CHOICE ||
-        error.status == RTX_E_BITS)
-    {
-        result.value = std::to_string(error.value);
-        result.allowed = rangeText(error.lower, error.upper);
-    }
-    return result;
+    Finding finding;
+    finding.id = std::move(found.id);
+    finding.severity = found.severity == RRC_RULE_ERROR     ? Severity::Error
+                       : found.severity == RRC_RULE_WARNING ? Severity::Warning
+                                                            : Severity::Notice;
+    finding.path = std::move(found.path);
+    finding.message = std::move(found.message);
+    finding.value = std::move(found.value);
+    finding.allowed = std::move(found.allowed);
+    finding.advice = std::move(found.advice);
+    finding.clause = std::move(found.clause);
+    finding.decidedBy = optionsOf(found.decidedBy);
+    finding.configuredBefore = found.configuredBefore;
+    return finding;
 }
 
 std::vector<Finding> encodingFindings(const Message& message, const Given& given)
@@ -69,7 +54,7 @@ std::vector<Finding> encodingFindings(const Message& message, const Given& given
     }
     if (const RtxError* const error = message.error())
     {
-        all.push_back(findingOf(*error));
+        all.push_back(asFinding(page::findingOf(*error)));
     }
     if (!all.empty() || !message.refusal().empty())
     {
@@ -77,7 +62,7 @@ std::vector<Finding> encodingFindings(const Message& message, const Given& given
     }
     const auto sink = [](void* to, const RtxError* error)
     {
-        static_cast<std::vector<Finding>*>(to)->push_back(findingOf(*error));
+        static_cast<std::vector<Finding>*>(to)->push_back(asFinding(page::findingOf(*error)));
         return 0;
     };
     (void)rtxCheck(&message.context(), message.pdu().type, message.value(), sink, &all);
@@ -88,15 +73,11 @@ std::vector<Finding> encodingFindings(const Message& message, const Given& given
     const RtxDecoded& decoded = message.context().decoded;
     if (decoded.unknown != 0)
     {
-        all.push_back(finding("unknown-addition", Severity::Notice,
-                              std::string(message.pdu().name) + ": " + counted(decoded.unknown, "addition") +
-                                  " of a later release, kept as octets"));
+        all.push_back(asFinding(page::unknownFinding(message.pdu().name, decoded.unknown)));
     }
     if (decoded.note != RTX_NOTE_NONE)
     {
-        all.push_back(
-            finding("per-not-canonical", Severity::Notice,
-                    noteText(message.pdu(), given.input.octets) + "; encoding the message again gives other octets"));
+        all.push_back(asFinding(page::noteFinding(noteText(message.pdu(), given.input.octets))));
     }
     return all;
 }

@@ -3,6 +3,7 @@
 
 #include "findings.h"
 #include "message.h"
+#include "messageFindings.h"
 
 namespace tool
 {
@@ -10,6 +11,6 @@ namespace tool
 // Of a message that could not be read only why; `given` is what it was read from.
 std::vector<Finding> encodingFindings(const Message& message, const Given& given);
 
-Finding findingOf(const RtxError& error);
+Finding asFinding(page::MessageFinding&& found);
 
 } // namespace tool

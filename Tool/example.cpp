@@ -1,10 +1,14 @@
 // example: records to begin with, as JSON.
+#include "example.h"
+
 #include "commands.h"
 #include "nearest.h"
+#include "octets.h"
 #include "oneBearer.h"
 #include "reconfigurationWithSync.h"
 #include "recordPath.h"
 #include "releases.h"
+#include "rrcCodec/rrcCompose.h"
 #include "rrcRecordJson.h"
 #include "rtxType.h"
 #include "schemaPath.h"
@@ -49,6 +53,19 @@ const Example& exampleNamed(const std::string& name)
     throw Failure(Exit::Usage,
                   "there is no example '" + name + "'" +
                       (close ? "; did you mean " + std::string(*close) + "?" : "; 'cellgroupcfg example' lists them"));
+}
+
+std::string hexOf(const Example& one)
+{
+    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    one.fill(*record);
+    std::vector<std::uint8_t> octets(maxMessageOctets);
+    std::size_t length = 0;
+    if (rrcEncodeCellGroupCfg(record.get(), octets.data(), octets.size(), &length, nullptr, 0) != RRC_COMPOSE_OK)
+    {
+        throw Failure(Exit::Malformed, "the example '" + std::string(one.name) + "' cannot be composed");
+    }
+    return toHex(Octets(octets).first(length)) + "\n";
 }
 
 // A record with every member of a place, each with what may stand there. Around the place stands what a composition
@@ -506,6 +523,18 @@ void example(Session& session, const std::string& name)
     const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
     exampleNamed(name).fill(*record);
     session.put(written([&](RtxPrintSink sink, void* arg) { rrcRecordToJson(record.get(), sink, arg); }));
+}
+
+std::vector<playground::Example> pastedExamples()
+{
+    std::vector<playground::Example> all;
+    for (const Example& one : examples)
+    {
+        all.push_back({std::string(one.words), hexOf(one), {}});
+    }
+    all.push_back({"two to compare: a typical call without and with secondary cells",
+                   hexOf(exampleNamed("typical-call")), hexOf(exampleNamed("secondary-cells"))});
+    return all;
 }
 
 void scaffold(Session& session, const std::string& path)

@@ -1,17 +1,12 @@
 // The ids of findings: those of the rules (rrcRules.h) and those of reading and encoding a message.
 #pragma once
 
-#include "asn1Runtime.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tool
 {
-
-// The id of a finding that an RtxStatus stands for.
-const char* idOf(OSINT32 status);
 
 struct IdWords
 {

@@ -81,6 +81,7 @@ public:
         record();
         example();
         check();
+        view();
         draw();
         find();
         pcap();
@@ -539,6 +540,28 @@ private:
             ->option_text("FILE");
         app.add_flag("--no-config", noProject_, "Read no project file");
         app.add_flag("--chain", chain_, "Each message comes on top of those before it, the first one of --previous");
+        allKnown(app);
+    }
+
+    void view()
+    {
+        CLI::App& app =
+            command("view", "Make a page that shows messages in a browser; of none, one to paste them into.",
+                    "  cellgroupcfg view -o message.html message.hex\n"
+                    "  cellgroupcfg view -o changes.html before.hex after.hex\n"
+                    "  cellgroupcfg view --band n78 --carrier 30:0:273 -o message.html message.hex\n"
+                    "  cellgroupcfg view -o playground.html\n",
+                    [this](Session& session)
+                    {
+                        session.outputTo(output_);
+                        tool::view(session, operands_, settings_);
+                    });
+        app.add_option("A B", operands_,
+                       "One message, or two and their differences: files, '-', or octets; none: a playground")
+            ->option_text(" ")
+            ->expected(0, 2);
+        input(app);
+        output(app);
         allKnown(app);
     }
 

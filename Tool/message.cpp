@@ -152,13 +152,6 @@ std::string valueText(const OSCTXT* context, const RtxType& type, const void* va
     return text;
 }
 
-std::string errorText(const RtxError& error)
-{
-    std::string text(longestLine, '\0');
-    text.resize(std::min(rtxErrorFormat(&error, text.data(), text.size()), text.size() - 1));
-    return text;
-}
-
 std::vector<std::uint8_t> encoding(const RtxPdu& pdu, OSCTXT& context, const void* value, std::size_t most)
 {
     for (std::size_t size = maxMessageOctets;; size = std::min(2 * size, most))

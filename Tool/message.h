@@ -1,6 +1,7 @@
 // A message that has been read: its element tree, and what is wrong with it.
 #pragma once
 
+#include "messageFindings.h"
 #include "messageTypes.h"
 #include "rrcCodec/rrcCodec.h"
 #include "session.h"
@@ -119,8 +120,7 @@ std::string treeText(const Message& message, RtxRemark remark = nullptr, void* a
 // A value in X.680's notation, on one line and without its type. Its pointers lead into the context's heap.
 std::string valueText(const OSCTXT* context, const RtxType& type, const void* value);
 
-// "path: what is wrong", with octet and bit where they are known.
-std::string errorText(const RtxError& error);
+using page::errorText;
 
 // The encoding of a tree, which is valid; empty, with the reason as the context's error, when it is longer than `most`.
 std::vector<std::uint8_t> encoding(const RtxPdu& pdu, OSCTXT& context, const void* value, std::size_t most);

@@ -37,14 +37,6 @@ std::string shownValue(const OSCTXT& context, const RtxType& type, const void* v
     return text;
 }
 
-std::string pathOf(const RrcRuleFinding& told)
-{
-    std::string path(rrcRulePathFormat(&told, nullptr, 0) + 1, '\0');
-    (void)rrcRulePathFormat(&told, path.data(), path.size());
-    path.pop_back(); // the terminator
-    return path;
-}
-
 // "path = value" of the place; of an absent member that of the structure around it, which is always there.
 std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told)
 {
@@ -81,28 +73,10 @@ std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told)
     return path + " = " + shownValue(context, *type, told.value);
 }
 
-Severity severityOf(OSUINT8 severity)
-{
-    return severity == RRC_RULE_ERROR     ? Severity::Error
-           : severity == RRC_RULE_WARNING ? Severity::Warning
-                                          : Severity::Notice;
-}
-
 Finding findingOf(const OSCTXT& context, const RrcRuleFinding& told)
 {
-    Finding finding;
-    finding.id = told.rule;
-    finding.severity = severityOf(told.severity);
-    finding.path = pathOf(told);
-    finding.value = told.found;
-    finding.allowed = told.allowed;
-    finding.message = finding.value + (finding.allowed.empty() ? "" : ", but " + finding.allowed) +
-                      (told.configuredBefore != 0 ? " (configured before)" : "");
-    finding.advice = told.advice;
-    finding.clause = told.clause;
+    Finding finding = asFinding(page::findingOf(told));
     finding.context = contextOf(context, told);
-    finding.decidedBy = optionsOf(told.decidedBy);
-    finding.configuredBefore = told.configuredBefore != 0;
     return finding;
 }
 
@@ -150,11 +124,7 @@ RuleVerdict ruleFindings(Message& message, const RrcRuleContext& known, const st
     std::int64_t status = rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
     if (status < 0 && status != RTX_E_HEAP && all.previous != nullptr)
     {
-        Finding finding = findingOf(context.error);
-        const IdWords words = wordsOf("delta-apply");
-        finding.id = "delta-apply";
-        finding.advice = words.advice;
-        finding.clause = words.clause;
+        Finding finding = asFinding(page::refusalFinding(context.error));
         if (choice.has(finding.id))
         {
             refused.push_back(std::move(finding));

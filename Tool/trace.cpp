@@ -1,5 +1,6 @@
 #include "trace.h"
 
+#include "fields.h"
 #include "message.h"
 #include "rtxType.h"
 #include "text.h"
@@ -18,37 +19,6 @@ constexpr std::uint64_t mostBits = 64;
 // That many of a field's bits are given as a number.
 constexpr std::uint64_t mostGiven = 57;
 
-std::string pathOf(const RtxPdu& pdu, const RtxField& field)
-{
-    std::string text = pdu.name;
-    for (unsigned i = 0; i < field.depth; ++i)
-    {
-        const RtxPathStep& step = field.path[i];
-        const std::string index = std::to_string(step.index);
-        text += step.group != 0        ? ".[[" + index + "]]"
-                : step.name == nullptr ? "[" + index + "]"
-                                       : "." + std::string(step.name);
-    }
-    return text;
-}
-
-std::string wordsOf(unsigned note)
-{
-    switch (note)
-    {
-    case RTX_NOTE_NONE:
-        return "";
-    case RTX_NOTE_EMPTY_EXTENSION:
-        return "an extension is announced and has no addition";
-    case RTX_NOTE_BITMAP:
-        return "the bitmap of the additions has another length than this release's";
-    case RTX_NOTE_EMPTY_GROUP:
-        return "an extension group without members";
-    default:
-        return "octets behind the content of an open type";
-    }
-}
-
 class Table
 {
 public:
@@ -65,8 +35,9 @@ public:
         const std::string first = std::to_string(field.offset);
         line({field.width < 2 ? first : first + ".." + std::to_string(field.offset + field.width - 1),
               octetPlace(field.offset), std::to_string(field.width), content(field)},
-             pathOf(pdu_, field) + meaning(field) +
-                 (field.note == RTX_NOTE_NONE ? "" : " (not canonical: " + wordsOf(field.note) + ")"));
+             page::fieldPath(pdu_.name, field) + meaning(field) +
+                 (field.note == RTX_NOTE_NONE ? ""
+                                              : " (not canonical: " + std::string(page::noteWords(field.note)) + ")"));
         isExtended_ = field.kind == RTX_FIELD_EXTENSION && field.bits != 0;
     }
 
@@ -223,10 +194,9 @@ public:
 
     void add(const RtxField& field)
     {
-        if (field.note != RTX_NOTE_NONE && text_.empty())
+        if (text_.empty())
         {
-            text_ = pathOf(pdu_, field) + ": " + wordsOf(field.note) + " (at bit " + std::to_string(field.offset) +
-                    ": octet " + std::to_string(field.offset / 8) + ", bit " + std::to_string(field.offset % 8) + ")";
+            text_ = page::noteText(pdu_.name, field);
         }
     }
 

@@ -42,7 +42,7 @@ void makeNewest(OSCTXT& ctxt, RtxHeapBlock* block)
 bool addBlock(OSCTXT& ctxt, size_t octets, size_t left)
 {
     const RtxHeapBlock* const older = ctxt.heap.blocks;
-    const size_t twice = older == nullptr ? 0 : std::min(older->size, SIZE_MAX / 4) * 2;
+    const size_t twice = older == nullptr ? 0 : std::min<size_t>(older->size, SIZE_MAX / 4) * 2;
     const size_t size = std::max({firstBlock, octets, std::min(twice, left)});
     if (size > SIZE_MAX - sizeof(RtxHeapBlock))
     {

@@ -1,9 +1,9 @@
 #include "document.h"
+
+#include "files.h"
 #include "jsonEvents.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <utility>
 
@@ -310,18 +310,13 @@ Node* Document::include(const Node& at, const std::string& path, unsigned depth)
         return refuse(depth == mostIncludes ? "files in files deeper than " + std::to_string(mostIncludes)
                                             : "more than " + std::to_string(mostFiles) + " files");
     }
-    const std::filesystem::path beside = std::filesystem::path(sources_[at.source].file).parent_path();
-    const std::string name = (beside / std::string(at.text)).string();
-    std::error_code error;
-    const auto size = std::filesystem::file_size(name, error);
-    std::ifstream stream(name, std::ios::binary);
-    if (error || !stream || size > ASN1_MAX_TEXT)
+    const std::string name = besideFile(sources_[at.source].file, at.text);
+    std::string owned;
+    std::string why;
+    if (!readFile(name, owned, why))
     {
-        return refuse("cannot read " + text::quoted(name) + (error ? ": " + error.message() : ""));
+        return refuse("cannot read " + text::quoted(name) + why);
     }
-    std::string owned(static_cast<std::size_t>(size), '\0');
-    stream.read(owned.data(), static_cast<std::streamsize>(size));
-    owned.resize(static_cast<std::size_t>(stream.gcount()));
     Node* const base = load({}, name, std::move(owned), depth + 1);
     if (base != nullptr && base->kind != Node::Kind::object)
     {

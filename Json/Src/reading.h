@@ -2,9 +2,9 @@
 #pragma once
 
 #include "treeBuilder.h"
+#include "whileMemory.h"
 
 #include <cstring>
-#include <new>
 
 namespace text
 {
@@ -14,7 +14,7 @@ template <typename Read>
 int readTree(OSCTXT* ctxt, const RtxType* type, void* value, std::string_view text, Asn1MistakeSink sink, void* arg,
              const Read& read)
 {
-    try
+    const auto readAll = [&]
     {
         std::memset(value, 0, type->size);
         Mistakes mistakes;
@@ -30,8 +30,8 @@ int readTree(OSCTXT* ctxt, const RtxType* type, void* value, std::string_view te
             read(builder, mistakes);
         }
         return mistakes.report(text, sink, arg);
-    }
-    catch (const std::bad_alloc&)
+    };
+    const auto withoutMemory = [&]
     {
         const Asn1Mistake mistake = {0, 1, 1, type->name, "there is no memory to read the text"};
         if (sink != nullptr)
@@ -39,7 +39,8 @@ int readTree(OSCTXT* ctxt, const RtxType* type, void* value, std::string_view te
             sink(arg, &mistake);
         }
         return 1;
-    }
+    };
+    return whileMemory(readAll, withoutMemory);
 }
 
 } // namespace text

@@ -3,11 +3,11 @@
 #include "rrcRecordFromJson.h"
 #include "rrcRecordType.h"
 #include "rtxType.h"
+#include "whileMemory.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstring>
-#include <exception>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -689,7 +689,7 @@ int report(std::deque<Source>& sources, Mistakes Source::*kind, OSBOOL isUnread,
 int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length, const char* file,
                       RrcRecordMistakeSink sink, void* arg)
 {
-    try
+    const auto readAll = [&]
     {
         std::memset(record, 0, sizeof *record);
         text::Document document(RRC_RECORD_MAX_VALUES, file != nullptr);
@@ -704,8 +704,8 @@ int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length
             (void)text::report(document.sources(), &text::Source::unread, 1, sink, arg);
         }
         return mistakes;
-    }
-    catch (const std::exception&)
+    };
+    const auto withoutMemory = [&]
     {
         const RrcRecordMistake mistake = {
             file != nullptr ? file : "", {0, 1, 1, "", "there is no memory to read the text"}, 0};
@@ -714,5 +714,6 @@ int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length
             sink(arg, &mistake);
         }
         return 1;
-    }
+    };
+    return text::whileMemory(readAll, withoutMemory);
 }

@@ -1,5 +1,5 @@
-// What is known of a UE's configuration besides a CellGroupConfig (TS 38.331 V15.6.0), for rules, meanings and pictures,
-// and how they name a place. Valid C11 and C++20.
+// What is known of a UE's configuration besides a CellGroupConfig (TS 38.331 V15.6.0), for rules, meanings and
+// pictures, and how they name a place. Valid C11 and C++20.
 #ifndef RRCCONTEXT_H
 #define RRCCONTEXT_H
 

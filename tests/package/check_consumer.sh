@@ -26,4 +26,10 @@ for language in c cxx; do
         echo "== $language $program"
         "$scratch/$language/$program"
     done
+    # Of C++ alone.
+    if [ "$language" = cxx ]; then
+        echo "== $language page"
+        "$scratch/$language/page" >"$scratch/page.html"
+        grep -q '<li>cellGroupId 0' "$scratch/page.html"
+    fi
 done

@@ -1,0 +1,44 @@
+// What is wrong with a message: what breaks a constraint of the ASN.1, a rule of its encoding or a rule between
+// members.
+#pragma once
+
+#include "rrcRules.h"
+
+#include <string>
+
+namespace page
+{
+
+struct MessageFinding
+{
+    std::string id;
+    OSUINT8 severity = RRC_RULE_ERROR; // RrcRuleSeverity
+    std::string path;
+    std::string message; // what is wrong, one sentence without the path
+    std::string value;   // what is there; empty where there is nothing to show
+    std::string allowed; // what could be there
+    std::string advice;
+    std::string clause;
+    OSUINT32 decidedBy = 0; // RrcRuleInput bits
+    bool configuredBefore = false;
+};
+
+// "path: what is wrong", with octet and bit where they are known.
+std::string errorText(const RtxError& error);
+
+// Of a decoder's or a check's error.
+MessageFinding findingOf(const RtxError& error);
+
+// Of a rule.
+MessageFinding findingOf(const RrcRuleFinding& told);
+
+// Of additions that this release does not know; `root` is the message's type.
+MessageFinding unknownFinding(const std::string& root, OSUINT32 count);
+
+// Of a message that is encoded in another way; `note` is the noteText of the first field that has one.
+MessageFinding noteFinding(const std::string& note);
+
+// Of a message that cannot be applied to what the UE has.
+MessageFinding refusalFinding(const RtxError& error);
+
+} // namespace page

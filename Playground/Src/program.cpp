@@ -1,0 +1,8 @@
+#include "assets.h"
+
+namespace playground
+{
+
+EMBED(program, PROGRAM)
+
+} // namespace playground
