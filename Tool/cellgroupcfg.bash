@@ -23,7 +23,7 @@ _cellgroupcfg()
         -o | --output | --previous | --rach | --capability | --config) compopt -o default && COMPREPLY=() && return ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='decode encode diff delta apply compose record example check view find pcap rules explain --help --version'
+                words='decode encode diff delta apply compose record example check draw view find pcap rules explain --help --version'
             else
                 case ${COMP_WORDS[1]} in
                     decode) words="$input $messages $texts --explain $known" ;;
@@ -37,6 +37,7 @@ _cellgroupcfg()
                         [[ $current == -* ]] || words=$(cellgroupcfg example 2>/dev/null | cut -d' ' -f1) ;;
                     check) words="$input $messages --format --severity --fail-on --only --disable --config --no-config --chain
                         $known" ;;
+                    draw) words="$input --output --slots --from $known" ;;
                     view) words="$input --output $known" ;;
                     find) words="$input $messages --min-octets --decode --json" ;;
                     pcap) words="$input --lines --in --output" ;;

@@ -15,6 +15,9 @@ namespace
 
 using Json = nlohmann::ordered_json;
 
+// Values inside a value that mean something: "path = value" and what that is.
+using Remarked = std::vector<std::pair<std::string, std::string>>;
+
 struct Difference
 {
     OSINT32 kind; // RtxDifferenceKind
@@ -23,6 +26,8 @@ struct Difference
     std::string b;
     std::string meaningA; // empty where there is none
     std::string meaningB;
+    Remarked insideA; // of what is only in one of both
+    Remarked insideB;
 };
 
 class Comparison
@@ -60,7 +65,33 @@ private:
                                 isOrder ? "" : text(a_, difference.type, difference.a),
                                 isOrder ? "" : text(b_, difference.type, difference.b),
                                 isOrder ? "" : meaningsA_.of(difference.type, difference.a),
-                                isOrder ? "" : meaningsB_.of(difference.type, difference.b)});
+                                isOrder ? "" : meaningsB_.of(difference.type, difference.b),
+                                isOrder ? Remarked() : inside(a_, meaningsA_, difference.type, difference.a),
+                                isOrder ? Remarked() : inside(b_, meaningsB_, difference.type, difference.b)});
+    }
+
+    static Remarked inside(const Message& message, Meanings& meanings, const RtxType* type, const void* value)
+    {
+        if (value == nullptr || type == nullptr || !meanings.of(type, value).empty())
+        {
+            return {};
+        }
+        const std::string lines = written(
+            [&](RtxPrintSink sink, void* arg)
+            { (void)rtxToFlatWithRemarks(&message.context(), type, value, Meanings::remark, &meanings, sink, arg); });
+        Remarked all;
+        constexpr std::string_view mark = "  # ";
+        for (std::size_t begin = 0; begin < lines.size(); begin = lines.find('\n', begin) + 1)
+        {
+            const std::string_view line = std::string_view(lines).substr(begin, lines.find('\n', begin) - begin);
+            const std::size_t remark = line.find(mark);
+            if (remark != std::string_view::npos)
+            {
+                const std::size_t path = line.find_first_of(".["); // behind the type's name
+                all.emplace_back(line.substr(path, remark - path), line.substr(remark + mark.size()));
+            }
+        }
+        return all;
     }
 
     static std::string pathOf(const RtxDifference& difference)
@@ -139,6 +170,28 @@ std::string remarkOf(const Difference& difference)
     return a.empty() && b.empty() ? "" : "  # " + a + (a.empty() || b.empty() ? "" : " -> ") + b;
 }
 
+// And what the values inside a line's value mean.
+std::string remarksInside(const Remarked& inside)
+{
+    std::string lines;
+    for (const auto& [value, meaning] : inside)
+    {
+        lines += "    " + value + "  # " + meaning + "\n";
+    }
+    return lines;
+}
+
+Json jsonOf(const Remarked& inside)
+{
+    Json all = Json::array();
+    for (const auto& [value, meaning] : inside)
+    {
+        const std::size_t equals = value.find(" = ");
+        all.push_back({{"path", value.substr(0, equals)}, {"value", value.substr(equals + 3)}, {"meaning", meaning}});
+    }
+    return all;
+}
+
 std::string jsonOf(const std::vector<Difference>& differences)
 {
     Json all = Json::array();
@@ -160,6 +213,14 @@ std::string jsonOf(const std::vector<Difference>& differences)
         if (!difference.meaningB.empty())
         {
             one["meaningOfB"] = difference.meaningB;
+        }
+        if (!difference.insideA.empty())
+        {
+            one["meaningsInA"] = jsonOf(difference.insideA);
+        }
+        if (!difference.insideB.empty())
+        {
+            one["meaningsInB"] = jsonOf(difference.insideB);
         }
         all.push_back(std::move(one));
     }
@@ -187,7 +248,8 @@ void diff(Session& session, const std::string& a, const std::string& b, const Di
     {
         for (const Difference& difference : comparison.differences())
         {
-            session.put(line(difference, session.color()) + remarkOf(difference) + "\n");
+            session.put(line(difference, session.color()) + remarkOf(difference) + "\n" +
+                        remarksInside(difference.insideA) + remarksInside(difference.insideB));
         }
     }
     if (!comparison.differences().empty())

@@ -24,7 +24,7 @@ void addPart(Gather& gather, const Place& place)
     }
     Panel& panel = gather.panelOf(place);
     const NrSpan own = *place.rbs;
-    Part part{"bwp", path, "", words("BWP %u", unsigned{bwp.id}), {own}, bwp.isOutside};
+    Part part{bwpPart, path, "", words("BWP %u", unsigned{bwp.id}), {own}, bwp.isOutside};
     part.title = words("%s: %s, %u kHz%s", nameOf(bwp).c_str(), spanWords(panel.rbWord(), own).c_str(),
                        khzOf(*bwp.mu()), bwp.isExtended() ? ", extended cyclic prefix" : "");
     if (bwp.isOutside)

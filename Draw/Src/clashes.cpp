@@ -53,17 +53,26 @@ void withinUplink(const Grid& grid, Resource& resource)
 
 void beyondBwp(Gather& gather, Resource& resource)
 {
-    const bool isTold = resource.kind == Kind::SearchSpace; // of its CORESET
+    // Of search spaces the CORESET is told of; SS/PBCH blocks belong to no bandwidth part.
+    if (resource.kind == Kind::SearchSpace || resource.kind == Kind::Ssb || resource.own.size == 0)
+    {
+        return;
+    }
+    const auto isBeyond = [&](const Rect& rect)
+    {
+        return rect.rbs.size != 0 && !isWithin(rect.rbs, resource.own);
+    };
+    for (Occasion& occasion : resource.occasions)
+    {
+        const Shape& shape = resource.shapes[occasion.shape];
+        occasion.clashes = occasion.clashes || std::any_of(shape.begin(), shape.end(), isBeyond);
+    }
     for (const Shape& shape : resource.shapes)
     {
         for (const Rect& rect : shape)
         {
-            if (!isTold && resource.own.size != 0 && rect.rbs.size != 0 && !isWithin(rect.rbs, resource.own))
+            if (isBeyond(rect))
             {
-                for (Occasion& occasion : resource.occasions)
-                {
-                    occasion.clashes = true;
-                }
                 gather.clash(words("%s: %s, but its bandwidth part is %s", resource.title.c_str(),
                                    spanWords("resource block", rect.rbs).c_str(), spanWords("", resource.own).c_str()),
                              resource.path);

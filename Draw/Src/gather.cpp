@@ -178,6 +178,25 @@ void Gather::add(const Place& place, Resource&& resource)
 {
     resource.bwp = place.bwp;
     resource.own = place.rbs ? *place.rbs : NrSpan{};
+    const OSUINT32 slot = place.bwp->symbolsPerSlot();
+    bool isWithin = true;
+    bool isAny = false;
+    for (Shape& shape : resource.shapes)
+    {
+        const size_t left =
+            std::erase_if(shape, [&](const Rect& rect) { return rect.symbols.start + rect.symbols.size > slot; });
+        isWithin = isWithin && left == 0;
+        isAny = isAny || !shape.empty();
+    }
+    if (!isWithin)
+    {
+        cannot(resource.path, resource.title,
+               words("%s, which do not stay within a slot of %u", isAny ? "some of its symbols" : "its symbols", slot));
+    }
+    if (!isAny)
+    {
+        return;
+    }
     panelOf(place).resources.push_back(std::move(resource));
 }
 

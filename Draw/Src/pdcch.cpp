@@ -187,7 +187,7 @@ void addPdcch(Gather& gather, const Place& place)
         else
         {
             gather.panelOf(place).parts.push_back(
-                {"coreset", control.path,
+                {coresetPart, control.path,
                  words("%s: %s, %u symbol%s", title.c_str(),
                        spansWords(gather.panelOf(place).rbWord(), control.rbs).c_str(), control.symbols,
                        rtx::plural(control.symbols)),
@@ -200,6 +200,21 @@ void addPdcch(Gather& gather, const Place& place)
                 control.path);
         }
         controls.push_back(std::move(control));
+    }
+    const bool hasZero = pdcch.common != nullptr && pdcch.common->m.searchSpaceZeroPresent != 0;
+    if (hasZero)
+    {
+        gather.cannot(gather.cellPath(), "search space 0 of " + nameOf(*place.bwp),
+                      "its occasions follow the SS/PBCH block that the UE has found (TS 38.213 13)");
+    }
+    const Control zero = place.bwp->isInitial() ? control0(gather, place) : Control{};
+    if (!zero.rbs.empty())
+    {
+        gather.panelOf(place).parts.push_back(
+            {coresetPart, zero.path,
+             words("CORESET 0: %s, %u symbol%s", spansWords("common resource block", zero.rbs).c_str(), zero.symbols,
+                   rtx::plural(zero.symbols)),
+             "C 0", zero.rbs, false});
     }
     for (const SearchSpaceEntry& space : pdcch.allSearchSpaces)
     {

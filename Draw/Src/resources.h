@@ -110,6 +110,9 @@ struct Resource
     }
 };
 
+constexpr const char* bwpPart = "bwp";
+constexpr const char* coresetPart = "coreset";
+
 // What lies in frequency alone: a bandwidth part, a CORESET.
 struct Part
 {

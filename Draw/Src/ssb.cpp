@@ -66,7 +66,7 @@ void addBlocks(Gather& gather, Cell& cell)
         return;
     }
     gather.panelOf(*place).parts.push_back(
-        {"ssb", path, title + ": " + spanWords("common resource block", rbs), "SSB", {rbs}, false});
+        {nameOf(Kind::Ssb).id, path, title + ": " + spanWords("common resource block", rbs), "SSB", {rbs}, false});
     const auto* const period = MEMBER(*cell.common, ssb_periodicityServingCell);
     const Known<SsbPositions> positions = ssbPositions(gather.model, cell);
     const NrBand* const band = cell.band ? nrBand(*cell.band) : nullptr;

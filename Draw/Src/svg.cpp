@@ -4,6 +4,7 @@
 #include "rtxHeap.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace rules::draw
 {
@@ -121,7 +122,7 @@ public:
             line("sub", "No cell is configured.");
         }
         y_ += 4;
-        std::string all = "<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"radio\" role=\"img\" width=\"" +
+        std::string all = "<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"radio\" role=\"group\" width=\"" +
                           num(width_) + "\" height=\"" + num(y_) + "\" viewBox=\"0 0 " + num(width_) + " " + num(y_) +
                           "\" data-cells=\"" + std::to_string(cells_.size()) + "\">\n";
         all += "<title>Radio resources of a cell group</title>\n<style>" + std::string(style) + "</style>\n<defs>\n";
@@ -195,6 +196,7 @@ private:
     void legend()
     {
         bool used[kindCount] = {};
+        bool hasCoreset = false;
         bool hasTdd = false;
         bool hasClash = false;
         for (const CellPicture& cell : cells_)
@@ -205,6 +207,12 @@ private:
                 hasTdd = hasTdd || grid.hasTdd;
                 for (const Panel& panel : grid.panels)
                 {
+                    for (const Part& part : panel.parts)
+                    {
+                        hasCoreset = hasCoreset || std::strcmp(part.kind, coresetPart) == 0;
+                        used[static_cast<size_t>(Kind::Ssb)] =
+                            used[static_cast<size_t>(Kind::Ssb)] || std::strcmp(part.kind, nameOf(Kind::Ssb).id) == 0;
+                    }
                     for (const Resource& resource : panel.resources)
                     {
                         used[static_cast<size_t>(resource.kind)] = true;
@@ -220,7 +228,11 @@ private:
             text(x + 18, y_ + 9, "", name);
             x += 32 + 6.6 * static_cast<double>(name.size());
         };
-        entry("bwp", "", "bandwidth part");
+        entry(bwpPart, "", "bandwidth part");
+        if (hasCoreset)
+        {
+            entry(coresetPart, "", "CORESET");
+        }
         for (size_t i = 0; i < kindCount; ++i)
         {
             if (used[i])

@@ -66,6 +66,52 @@ void k2(Teller& t)
     rtx::append(t.text(), "PUSCH %u slot%s behind its PDCCH's", t.natural(), rtx::plural(t.number()));
 }
 
+// A DCI's frequency domain resource assignment, in the least significant bits.
+void grantBlocks(Teller& t, const ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant& typeOne)
+{
+    const ConfiguredGrantConfig* const grant = t.scope.bwp == nullptr ? nullptr : t.scope.bwp->grant;
+    const Known<NrSpan> rbs =
+        t.scope.bwp == nullptr ? Known<NrSpan>::unless(RRC_RULE_INPUT_PREVIOUS) : commonRbs(t.model, *t.scope.bwp);
+    if (!t.has(rbs, "the bandwidth part's resource blocks") || grant == nullptr)
+    {
+        return;
+    }
+    const OSUINT32 value = bitsAsNumber(typeOne.frequencyDomainAllocation);
+    const bool isTypeOne =
+        grant->resourceAllocation == ConfiguredGrantConfig_resourceAllocation_resourceAllocationType1;
+    NrSpan span{};
+    if (isTypeOne && grant->m.frequencyHoppingPresent == 0 && nrRivDecode(value, rbs->size, &span) != 0)
+    {
+        appendSpan(t.text(), "PRB", span);
+        rtx::append(t.text(), " of the bandwidth part");
+        appendIndicator(t.formula(), "RIV", value, span, rbs->size);
+    }
+    if (grant->resourceAllocation == ConfiguredGrantConfig_resourceAllocation_resourceAllocationType0)
+    {
+        const OSUINT32 size = nrRbgSize(rbs->size, grant->m.rbg_SizePresent != 0 ? 1 : 0);
+        const OSUINT32 groups = std::min(nrRbgs(rbs->start, rbs->size, size), t.bits());
+        OSUINT32 numbers[32];
+        OSUINT32 count = 0;
+        for (OSUINT32 i = 0; i < groups && count < std::size(numbers); ++i)
+        {
+            if ((value >> (groups - 1 - i) & 1) != 0)
+            {
+                numbers[count++] = i;
+            }
+        }
+        rtx::append(t.text(), "resource block groups ");
+        count == 0 ? rtx::append(t.text(), "none") : appendRuns(t.text(), {numbers, count});
+        rtx::append(t.text(), " of %u, %u PRBs each", groups, size);
+        rtx::append(t.formula(), "the last %u bits, the first of them is group 0", groups);
+    }
+}
+
+void grantRow(Teller& t)
+{
+    rtx::append(t.text(), "row %u of the PUSCH time-domain allocations", t.natural() + 1);
+    rtx::append(t.formula(), "row m + 1");
+}
+
 constexpr OSUINT32 groupRbs = 6; // of a bit of frequencyDomainResources
 constexpr OSUINT32 groupBits = 45;
 
@@ -209,6 +255,9 @@ constexpr Meaning allocationRows[] = {
     MEANING_AT(RateMatchPattern_patternType_bitmaps, resourceBlocks, "TS 38.214 5.1.4.1", patternBlocks),
     MEANING_EACH(RateMatchPattern_patternType_bitmaps_symbolsInResourceBlock, "TS 38.214 5.1.4.1", patternSymbols),
     MEANING_EACH(RateMatchPattern_patternType_bitmaps_periodicityAndPattern, "TS 38.214 5.1.4.1", patternPeriod),
+    MEANING_OF(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, frequencyDomainAllocation, "TS 38.214 6.1.2.3, 6.1.2.2",
+               grantBlocks),
+    MEANING_AT(ConfiguredGrantConfig_rrc_ConfiguredUplinkGrant, timeDomainAllocation, "TS 38.214 6.1.2.3", grantRow),
     MEANING_AT(PDSCH_Config, rbg_Size, "TS 38.214 5.1.2.2.1", rbgSizeOf),
     MEANING_AT(PUSCH_Config, rbg_Size, "TS 38.214 6.1.2.2.1", rbgSizeOf),
     MEANING_AT(ConfiguredGrantConfig, rbg_Size, "TS 38.214 6.1.2.2.1", rbgSizeOf),

@@ -121,6 +121,24 @@ void reportingBand(Teller& t)
     rtx::append(t.formula(), "the last bit is the subband of the lowest frequency");
 }
 
+void subbandSize(Teller& t)
+{
+    const Known<NrSpan> rbs =
+        t.scope.measured == nullptr ? Known<NrSpan>::unless(RRC_RULE_INPUT_PREVIOUS) : t.scope.measured->rbs();
+    if (!t.has(rbs, "the bandwidth part that is measured"))
+    {
+        return;
+    }
+    const OSUINT32 size = nrSubbandSize(rbs->size, t.natural() == CSI_ReportConfig_subbandSize_value2);
+    if (size == 0)
+    {
+        rtx::append(t.text(), "no subbands in a bandwidth part of %u PRBs", rbs->size);
+        return;
+    }
+    rtx::append(t.text(), "%u PRBs a subband", size);
+    rtx::append(t.formula(), "the row of a bandwidth part of %u PRBs", rbs->size);
+}
+
 void triggeringOffset(Teller& t)
 {
     static constexpr OSUINT32 offsets[] = {0, 1, 2, 3, 4, 16, 24};
@@ -138,6 +156,7 @@ constexpr Meaning csiRows[] = {
     MEANING_AT(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern0, subcarrierLocation_p0, csiIm, subcarriers0),
     MEANING_AT(CSI_IM_Resource_csi_IM_ResourceElementPattern_pattern1, subcarrierLocation_p1, csiIm, subcarriers1),
     MEANING_EACH(CSI_ReportConfig_reportFreqConfiguration_csi_ReportingBand, "TS 38.214 5.2.1.4", reportingBand),
+    MEANING_EACH(CSI_ReportConfig_subbandSize, "TS 38.214 table 5.2.1.4-2", subbandSize),
     MEANING_AT(NZP_CSI_RS_ResourceSet, aperiodicTriggeringOffset, "TS 38.214 5.2.1.5.1", triggeringOffset),
 };
 

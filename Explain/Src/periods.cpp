@@ -132,7 +132,54 @@ void grantTimer(Teller& t, const ConfiguredGrantConfig& grant)
     }
 }
 
+void mbsfnFrames(Teller& t, const EUTRA_MBSFN_SubframeConfig& config)
+{
+    const RtxType& type = nr_rrc::type_EUTRA_MBSFN_SubframeConfig_radioframeAllocationPeriod;
+    if (rtx::outside(type, config.radioframeAllocationPeriod).status == RTX_OK)
+    {
+        const OSUINT32 period = namedNumber(type.names[config.radioframeAllocationPeriod]).number;
+        rtx::append(t.text(), "every %u radio frame%s, from frame %u on", period, rtx::plural(period),
+                    OSUINT32{config.radioframeAllocationOffset});
+        rtx::append(t.formula(), "SFN modulo %u = %u", period, OSUINT32{config.radioframeAllocationOffset});
+    }
+}
+
+// Six bits a frame.
+void mbsfnSubframes(Teller& t)
+{
+    static constexpr struct
+    {
+        const char* duplex;
+        OSUINT32 subframes[6];
+    } kinds[] = {{"FDD", {1, 2, 3, 6, 7, 8}}, {"TDD", {3, 4, 7, 8, 9, 9}}};
+    constexpr OSUINT32 perFrame = 6;
+    for (const auto& kind : kinds)
+    {
+        // TDD leaves the last bit unused.
+        const OSUINT32 used = &kind == kinds ? perFrame : perFrame - 1;
+        rtx::append(t.text(), "%s%s: ", &kind == kinds ? "" : "; ", kind.duplex);
+        for (OSUINT32 frame = 0; frame < t.bits() / perFrame; ++frame)
+        {
+            OSUINT32 numbers[perFrame];
+            OSUINT32 count = 0;
+            for (OSUINT32 i = 0; i < used; ++i)
+            {
+                if (t.isSet(frame * perFrame + i))
+                {
+                    numbers[count++] = kind.subframes[i];
+                }
+            }
+            rtx::append(t.text(), frame == 0 ? "subframes " : " | ");
+            count == 0 ? rtx::append(t.text(), "none") : appendRuns(t.text(), {numbers, count});
+        }
+    }
+}
+
+constexpr const char* mbsfn = "TS 36.331 MBSFN-SubframeConfig";
+
 constexpr Meaning periodRows[] = {
+    MEANING_OF(EUTRA_MBSFN_SubframeConfig, radioframeAllocationPeriod, mbsfn, mbsfnFrames),
+    MEANING_EACH(EUTRA_MBSFN_SubframeConfig_subframeAllocation1, mbsfn, mbsfnSubframes),
     MEANING_EACH(SearchSpace_monitoringSlotPeriodicityAndOffset, "TS 38.213 10.1", slots),
     MEANING_EACH(SchedulingRequestResourceConfig_periodicityAndOffset, "TS 38.213 9.2.4", schedulingRequest),
     MEANING_EACH(SRS_PeriodicityAndOffset, "TS 38.211 6.4.1.4.4", slots),

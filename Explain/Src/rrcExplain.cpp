@@ -227,6 +227,7 @@ private:
     // A report's slots are those of the uplink that its PUCCH lies in.
     void enterReport(Scope& scope, const CSI_ReportConfig& report)
     {
+        scope.measured = measuredBy(*scope.cell, report);
         scope.direction = Direction::Uplink;
         if (!scope.cell->isSpCell())
         {
@@ -237,6 +238,14 @@ private:
         {
             enterBwp(scope, (*list.begin()).uplinkBandwidthPartId);
         }
+    }
+
+    Bwp* measuredBy(Cell& own, const CSI_ReportConfig& report)
+    {
+        Cell* const cell = report.m.carrierPresent != 0 ? model_.cell(report.carrier) : &own;
+        const auto* const channel =
+            cell == nullptr ? nullptr : model_.csi(*cell).resourceConfigs.find(report.resourcesForChannelMeasurement);
+        return channel == nullptr ? nullptr : cell->bwp(Direction::Downlink, channel->element->bwp_Id);
     }
 
     static bool isValue(const RtxType& type, const void* value)

@@ -18,6 +18,7 @@ struct Scope
     Cell* cell = nullptr; // null outside of one, and where the configuration does not have it
     Direction direction = Direction::Downlink;
     Bwp* bwp = nullptr;
+    Bwp* measured = nullptr;                         // of the report around the value
     const PUCCH_Resource* pucch = nullptr;           // around the value
     const CSI_RS_ResourceMapping* mapping = nullptr; // around the value
 

@@ -234,6 +234,17 @@ inline bool hasBit(const OSOCTET* octets, OSUINT32 index)
     return (octets[index / 8] >> (7 - index % 8) & 1) != 0;
 }
 
+// A bit string as a number: its last bit is the least significant one.
+inline OSUINT32 bitsAsNumber(const ASN1BitStr32& bits)
+{
+    OSUINT32 number = 0;
+    for (OSUINT32 i = 0; i < rtx::bitCount(bits); ++i)
+    {
+        number = 2 * number + (hasBit(bits, i) ? 1 : 0);
+    }
+    return number;
+}
+
 // How many of the first `count` bits are set.
 template <typename Bits>
 OSUINT32 bitsSet(const Bits& bits, OSUINT32 count)

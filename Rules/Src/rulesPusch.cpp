@@ -784,11 +784,7 @@ void checkFrequency(Check& check, const Bwp& bwp, const ConfiguredGrantConfig& g
 {
     const auto& bits = typeOne.frequencyDomainAllocation;
     const OSUINT32 count = rtx::bitCount(bits);
-    OSUINT32 value = 0;
-    for (OSUINT32 i = 0; i < count; ++i)
-    {
-        value = 2 * value + (hasBit(bits, i) ? 1 : 0);
-    }
+    const OSUINT32 value = bitsAsNumber(bits);
     const Known<NrSpan> rbs = bwp.rbs();
     const bool isTypeOne = grant.resourceAllocation == ConfiguredGrantConfig_resourceAllocation_resourceAllocationType1;
     const bool isTypeZero =

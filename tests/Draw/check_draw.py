@@ -4,6 +4,7 @@ the occupied resource elements, their slots, clashes and what is not placed, and
 import json
 import math
 import pathlib
+import random
 import re
 import subprocess
 import sys
@@ -12,7 +13,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "Tool"))
 
 # pylint: disable=wrong-import-position
 from harness import DONE, MALFORMED, PROJECT, USAGE, WHOLE, expect, flat, main, run, true
-from occupied import MU, ROWS, Occupied, cells
+from occupied import ROWS, Occupied
 from picture import Picture
 
 CELL_GROUPS, COUNT, XMLLINT = sys.argv[3:6]
@@ -42,7 +43,8 @@ def riv(start, count):
 
 def chosen(path, value):
     """Another alternative of a choice, and what it holds."""
-    return [f"{path} = absent", f"{path}.{value}"]
+    is_there = any(line.startswith(path + ".") for line in WHOLE)
+    return [f"{path} = absent"] * is_there + [f"{path}.{value}"]
 
 
 def parts(start, count, offset):
@@ -135,6 +137,12 @@ def variants():
                                 f"{slots}[0].slotIndex = 2", f"{slots}[0].symbols.allUplink = null",
                                 f"{slots}[1].slotIndex = 1", f"{slots}[1].symbols.explicit.nrofDownlinkSymbols = 11",
                                 f"{slots}[1].symbols.explicit.nrofUplinkSymbols = 1"]
+    at_60 = [f"{at}.scs-SpecificCarrierList[1].{one}" for at in (DOWN + ".frequencyInfoDL", UP + ".frequencyInfoUL")
+             for one in ("offsetToCarrier = 3", "subcarrierSpacing = kHz60", "carrierBandwidth = 135")]
+    extended = [f"{at}.bwp-Common.genericParameters.{one}" for at in (DOWN1, UP1)
+                for one in (f"locationAndBandwidth = {riv(5, 120)}", "subcarrierSpacing = kHz60", "cyclicPrefix = extended")]
+    yield "two spacings", at_60 + extended + chosen(SR + ".periodicityAndOffset", "sym6or7 = null") + \
+        [f"{SR}.resource = 8", *formats(0, 3, 1), f"{TDD} = absent"]
     yield "search space", [*chosen(SPACE + ".monitoringSlotPeriodicityAndOffset", "sl10 = 7"), f"{SPACE}.duration = 4",
                            f"{SPACE}.monitoringSymbolsWithinSlot = 8020",
                            f"{CORESET}.frequencyDomainResources = 0F0180000000"] + parts(31, 120, 0)
@@ -174,21 +182,17 @@ def compare(name, text, *arguments):
     true(status == DONE, f"{name}: {words.decode()}")
     message = json.loads(jer)
     picture = Picture(drawn(*arguments, stdin=text))
-    for span in set(picture.spans.values()):
-        occupied = Occupied(message, *span)
-        for key in sorted(set(picture.all) | set(occupied.all)):
-            found, own = picture.all.get(key), occupied.all.get(key)
-            slot = next((at for at in {**(found or {}), **(own or {})}
-                         if (found or {}).get(at) != (own or {}).get(at)), None)
-            true(found == own, f"{name}: {key} differs in slot and symbol {slot}: "
-                 f"{str((found or {}).get(slot))[:200]} instead of {str((own or {}).get(slot))[:200]}")
-        for i, cell in enumerate(cells(message)):
-            for mu in MU.values():
-                if (cell.path, mu) in occupied.tdd:
-                    true(picture.tdd.get((i, 15 << mu)) == occupied.tdd[cell.path, mu], f"{name}: directions of cell {i}")
-        if not arguments:
-            periods = {min(math.lcm(*lengths), 80) for lengths in occupied.periods.values()}
-            true(span == (0, next(iter(periods))), f"{name}: slots {span} of the periods {occupied.periods}")
+    occupied = Occupied(message, picture.spans)
+    for key in sorted(set(picture.all) | set(occupied.all)):
+        found, own = picture.all.get(key), occupied.all.get(key)
+        slot = next((at for at in {**(found or {}), **(own or {})}
+                     if (found or {}).get(at) != (own or {}).get(at)), None)
+        true(found == own, f"{name}: {key} differs in slot and symbol {slot}: "
+             f"{str((found or {}).get(slot))[:200]} instead of {str((own or {}).get(slot))[:200]}")
+    true(picture.tdd == occupied.tdd, f"{name}: the directions of symbols")
+    for grid, span in picture.spans.items() if not arguments else ():
+        count = min(math.lcm(*occupied.periods.get(grid, {1})), 80)
+        true(span == (0, count), f"{name}: slots {span} of the periods {occupied.periods}")
     return picture
 
 
@@ -197,10 +201,35 @@ def test_variants(folder):
     for name, changes in variants():
         picture = compare(name, flat(*changes))
         kinds |= {kind for kind, _ in picture.all}
-        true(not picture.clashes or name.startswith(("SR", "configured", "two", "dedicated", "SRS", "not")),
-             f"{name}: {picture.clashes}")
+        if name in ("as it is", "zero power", "CSI-IM", "PUCCH formats", "repeated PUCCH", "aperiodic SRS"):
+            true(not picture.clashes, f"{name}: {picture.clashes}")
     true(kinds == {"search-space", "csi-rs", "zp-csi-rs", "csi-im", "srs", "grant", "pucch", "csi-report", "sr"},
          f"each kind occurs: {kinds}")
+
+
+def test_joined(folder):
+    """Random bandwidth parts, sounding and PUCCH, together with a variant."""
+    chance = random.Random(16)
+    every = [changes for _, changes in variants()]
+    for i in range(int(COUNT) // 20):
+        changes = list(chance.choice(every))
+        start = chance.randrange(60)
+        changes += parts(start, chance.randrange(24, 214), chance.randrange(50))
+        b_srs = chance.randrange(4)
+        comb = chance.choice((2, 4))
+        symbols = chance.choice((1, 2, 4))
+        period = chance.choice((2, 4, 5, 10, 20, 32, 40))
+        changes += sounding(chance.randrange(64), b_srs, chance.randrange(4), chance.randrange(68),
+                            chance.randrange(269), comb, chance.randrange(comb), chance.randrange(8),
+                            chance.choice(("port1", "ports2", "ports4")), chance.randrange(symbols - 1, 6), symbols,
+                            chance.choice([one for one in (1, 2, 4) if one <= symbols]),
+                            f"periodic.periodicityAndOffset-p.sl{period} = {chance.randrange(period)}")
+        resource = f"{PUCCH}.resourceToAddModList[{chance.randrange(4)}]"
+        length = chance.randrange(4, 15)
+        changes += [f"{resource}.startingPRB = {chance.randrange(275)}", f"{resource}.secondHopPRB = {chance.randrange(275)}",
+                    f"{resource}.format.format1.nrofSymbols = {length}",
+                    f"{resource}.format.format1.startingSymbolIndex = {chance.randrange(min(11, 15 - length))}"]
+        compare(f"joined {i}", flat(*changes))
 
 
 def test_slots(folder):
@@ -263,13 +292,29 @@ def test_context(folder):
         true(words in reasons, f"{words!r} in {reasons}")
     true(("sr", f"CellGroupConfig.{SR}") in picture.all, "PUCCH stands in its bandwidth part without a carrier")
     true(not any(kind in ("search-space", "srs", "csi-rs") for kind, _ in picture.all), "nothing is guessed")
-    known = ["--band", "n78", "--carrier", "30:0:273", "--tdd", "30:ms2p5:3:10:1:2"]
+    known = ["--band", "n78", "--carrier", "30:0:273", "--tdd-pattern", "30:ms2p5:3:10:1:2"]
     status, _, words = run("draw", *known, stdin=bare)
     if status == DONE:
         told, whole = Picture(drawn(*known, stdin=bare)), Picture(drawn(stdin=flat()))
         true({key: value for key, value in whole.all.items() if f".{COMMON}" not in key[1]} == told.all,
              "with the options the picture is that of the whole cell")
     true(status == DONE, f"{known}: {words.decode()}")
+
+
+def test_previous(folder):
+    """A message on top of what the UE has: the whole, with the paths of the message where it has the element."""
+    before, after = folder / "before.hex", flat(*chosen(SR + ".periodicityAndOffset", "sl40 = 14"))
+    before.write_bytes(run("encode", stdin=flat())[1])
+    message = run("delta", str(before), "-", stdin=after)[1]
+    picture, whole = Picture(drawn("--previous", str(before), stdin=message)), Picture(drawn(stdin=after))
+    shown, wanted = ([(kind, sorted(map(str, value.items()))) for (kind, _), value in one.all.items()]
+                     for one in (picture, whole))
+    true(sorted(shown) == sorted(wanted), f"--previous draws the whole: {set(picture.all) ^ set(whole.all)}")
+    lines = run("decode", "--flat", stdin=message)[1].decode()
+    (path,) = [path for kind, path in picture.all if kind == "sr"]
+    true(path + ".periodicityAndOffset.sl40 = 14" in lines, f"{path} leads into the message")
+    expect(["draw", "--previous", str(before), "-"], USAGE, err=re.compile("cellgroupcfg: "),
+           stdin="CellGroupConfig.cellGroupId = 3\n")
 
 
 def test_messages(folder):
@@ -321,4 +366,4 @@ def test_random(folder):
 
 
 true(bool(WHOLE), "there is a whole cell")
-main(test_variants, test_slots, test_blocks, test_clashes, test_context, test_messages, test_sample, test_random)
+main(test_variants, test_joined, test_slots, test_blocks, test_clashes, test_context, test_previous, test_messages, test_sample, test_random)

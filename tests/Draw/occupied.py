@@ -81,6 +81,7 @@ class Bwp:
         located = riv(generic["locationAndBandwidth"], 275)
         carrier = [one for one in carriers if one["subcarrierSpacing"] == generic["subcarrierSpacing"]]
         self.is_common = bool(carrier)
+        self.grid = None  # number of the cell, spacing
         self.start = (carrier[0]["offsetToCarrier"] if carrier else 0) + located[0]
         self.size = located[1]
 
@@ -142,10 +143,13 @@ def setup(of, name):
 class Occupied:
     """kind, path -> slot (None: any) -> symbol -> resource block -> mask of subcarriers; the periods by the spacing."""
 
-    def __init__(self, message, first, count):
-        self.all, self.periods, self.slots = {}, {}, range(first, first + count)
-        self.tdd = {}
+    def __init__(self, message, spans):
+        """With the first slot and the number of slots that are drawn of a cell's number and a spacing."""
+        self.all, self.periods, self.spans, self.tdd = {}, {}, spans, {}
         found = cells(message)
+        for i, cell in enumerate(found):
+            for bwp in cell.down + cell.up:
+                bwp.grid = i, 15 << bwp.mu
         for cell in found:
             for bwp in cell.down:
                 self.pdcch(bwp)
@@ -161,12 +165,13 @@ class Occupied:
         at = self.all.setdefault((kind, path), {}).setdefault((slot, symbol), {})
         at[block] = at.get(block, 0) | mask
 
-    def period(self, mu, slots):
-        self.periods.setdefault(mu, set()).add(slots)
+    def slots(self, grid):
+        first, count = self.spans[grid]
+        return range(first, first + count)
 
-    def occasions(self, mu, period, offset, duration=1):
-        self.period(mu, period)
-        return [slot for slot in self.slots if (slot - offset) % period < duration]
+    def occasions(self, bwp, period, offset, duration=1):
+        self.periods.setdefault(bwp.grid, set()).add(period)
+        return [slot for slot in self.slots(bwp.grid) if (slot - offset) % period < duration]
 
     def pattern(self, cell):
         common = cell.common.get("tdd-UL-DL-ConfigurationCommon")
@@ -196,11 +201,11 @@ class Occupied:
             for i, kind in enumerate(text):
                 at = 14 * config["slotIndex"] + i
                 kinds[at] = kind if kinds[at] == "F" else kinds[at]
-        for mu in {bwp.mu for bwp in cell.down + cell.up}:
-            finer = 2 ** (mu - reference)
-            self.tdd[cell.path, mu] = "".join(kinds[symbol // finer % len(kinds)] for slot in self.slots
-                                              for symbol in range(14 * slot, 14 * slot + 14))
-            self.period(mu, len(kinds) // 14 * finer)
+        for grid in {bwp.grid for bwp in cell.down + cell.up}:
+            finer = grid[1] // (15 << reference)
+            self.tdd[grid] = "".join(kinds[symbol // finer % len(kinds)] for slot in self.slots(grid)
+                                     for symbol in range(14 * slot, 14 * slot + 14))
+            self.periods.setdefault(grid, set()).add(len(kinds) // 14 * finer)
 
     def pdcch(self, bwp):
         common, own = setup(bwp.common, "pdcch-ConfigCommon") or {}, setup(bwp.dedicated, "pdcch-Config") or {}
@@ -220,9 +225,10 @@ class Occupied:
             first = math.ceil(bwp.start / 6) * 6
             groups = [i for i, bit in enumerate(bits(coreset["frequencyDomainResources"], 45)) if bit]
             period, offset = recurring(space["monitoringSlotPeriodicityAndOffset"])
-            for slot in self.occasions(bwp.mu, period, offset, space.get("duration", 1)):
+            for slot in self.occasions(bwp, period, offset, space.get("duration", 1)):
                 for symbol, bit in enumerate(bits(space["monitoringSymbolsWithinSlot"], 14)):
-                    for i in range(coreset["duration"] if bit else 0):
+                    stays = bit and symbol + coreset["duration"] <= bwp.symbols
+                    for i in range(coreset["duration"] if stays else 0):
                         for group in groups:
                             for block in range(6):
                                 self.put("search-space", path, slot, symbol + i, first + 6 * group + block, ALL)
@@ -250,10 +256,14 @@ class Occupied:
             blocks = [rb for rb in blocks if rb % 2 == (0 if which == "evenPRBs" else 1)]
         slots = [None]
         if recurrence:
-            slots = self.occasions(bwp.mu, *recurring(recurrence))
+            slots = self.occasions(bwp, *recurring(recurrence))
         wide, long = CDM[mapping["cdm-Type"]]
+        ends = [starts[which] + max(later for *_, one, later in GROUPS[row] if one == which) + long
+                for which in {one for *_, one, _ in GROUPS[row]}]
         for slot in slots:
             for i, more, which_start, later in GROUPS[row]:
+                if ends[which_start] > bwp.symbols:
+                    continue
                 for k in range(wide):
                     for symbol in range(long):
                         for rb in blocks:
@@ -309,9 +319,9 @@ class Occupied:
         start = pattern["symbolLocation-p" + name[-1]]
         width, symbols = (2, 2) if name == "pattern0" else (4, 1)
         band = one["freqBand"]
-        slots = self.occasions(bwp.mu, *recurring(one["periodicityAndOffset"])) \
+        slots = self.occasions(bwp, *recurring(one["periodicityAndOffset"])) \
             if "periodicityAndOffset" in one else [None]
-        for slot in slots:
+        for slot in slots if start + symbols <= bwp.symbols else ():
             for symbol in range(start, start + symbols):
                 for rb in range(max(bwp.start, band["startingRB"]),
                                 min(bwp.start + bwp.size, max(bwp.start, band["startingRB"]) + band["nrofRBs"])):
@@ -345,7 +355,7 @@ class Occupied:
             if kind != "aperiodic":
                 (_, choice), = when.items()
                 period, offset = recurring(choice)
-                slots = self.occasions(bwp.mu, period, offset)
+                slots = self.occasions(bwp, period, offset)
             path = f"{bwp.path}.srs-Config.setup.srs-ResourceToAddModList[{i}]"
             for slot in slots:
                 for symbol in range(symbols):
@@ -379,6 +389,8 @@ class Occupied:
         at = bwp.path + ".pucch-Config.setup"
         for i, resource in enumerate(config.get("resourceToAddModList", [])):
             _, start, firsts, blocks = self.format_of(bwp, resource)
+            if start + len(firsts) > bwp.symbols:
+                continue
             for j, first in enumerate(firsts):
                 for rb in range(first, first + blocks):
                     self.put("pucch", f"{at}.resourceToAddModList[{i}]", None, start + j, rb, ALL)
@@ -399,7 +411,7 @@ class Occupied:
 
     def often(self, path, bwp, ident, period):
         _, start, firsts, blocks = self.format_of(bwp, self.resource(bwp, ident))
-        for slot in self.occasions(bwp.mu, 1, 0):
+        for slot in self.occasions(bwp, 1, 0):
             for symbol in range(bwp.symbols):
                 if (symbol - start % period) % period == 0 and symbol + len(firsts) <= bwp.symbols:
                     for j, first in enumerate(firsts):
@@ -411,17 +423,19 @@ class Occupied:
         if resource is None:
             return
         number, start, firsts, blocks = self.format_of(bwp, resource)
+        if start + len(firsts) > bwp.symbols:
+            return
         config = setup(bwp.dedicated, "pucch-Config")
         of_format = (setup(config, f"format{number}") or {}) if number in (1, 3, 4) else {}
         repeats = enumerated(of_format.get("nrofSlots", "n1"))
         between = "interslotFrequencyHopping" in of_format and repeats > 1
-        for slot in self.occasions(bwp.mu, period, offset):
+        for slot in self.occasions(bwp, period, offset):
             for i in range(repeats):  # without a TDD pattern each slot has the symbols
                 for j, first in enumerate(firsts):
                     if between and i % 2 == 1:
                         first = bwp.start + resource["secondHopPRB"]
                     for rb in range(first, first + blocks):
-                        if slot + i in self.slots:
+                        if slot + i in self.slots(bwp.grid):
                             self.put(kind, path, slot + i, start + j, rb, ALL)
 
     def grant(self, bwp):
@@ -433,13 +447,16 @@ class Occupied:
                 "frequencyHopping" in grant:
             return
         start, length = sliv(rows[one["timeDomainAllocation"]]["startSymbolAndLength"])
-        first, count = riv(int("".join(map(str, bits(one["frequencyDomainAllocation"], 18))), 2), bwp.size)
+        blocks = riv(int("".join(map(str, bits(one["frequencyDomainAllocation"], 18))), 2), bwp.size)
+        if blocks is None:
+            return
+        first, count = blocks
         parts = grant["periodicity"][3:].split("x")
         symbols = int(parts[0]) * (int(parts[1]) if len(parts) > 1 else 1)
         path = bwp.path + ".configuredGrantConfig.setup"
         period = max(symbols // bwp.symbols, 1)
         repeats = enumerated(grant["repK"])
-        for slot in self.occasions(bwp.mu, period, one["timeDomainOffset"], repeats):
+        for slot in self.occasions(bwp, period, one["timeDomainOffset"], repeats):
             for begin in range(bwp.symbols):
                 here = begin == start if symbols >= bwp.symbols else (begin - start) % symbols == 0
                 if here and begin + length <= bwp.symbols:

@@ -665,6 +665,100 @@ TEST_F(Meanings, ConfiguredGrants)
     EXPECT_EQ("3 periods, 21 symbols", told.at(GRANT "configuredGrantTimer").text);
 }
 
+// TS 38.214 6.1.2.3: what a DCI would say, in the last bits of 18.
+TEST_F(Meanings, BlocksOfAGrant)
+{
+    // 106 PRBs from common resource block 0 on: 275 * 105 + 0.
+    SCS_SpecificCarrier carrier{};
+    carrier.subcarrierSpacing = SubcarrierSpacing_kHz30;
+    carrier.carrierBandwidth = 106;
+    RrcRuleContext known{};
+    known.carriersUl = &carrier;
+    known.numCarriersUl = 1;
+    const auto ofGrant = [&](const std::string& kind, const std::string& bits, const std::string& riv)
+    {
+        return tell(cell + Lines{UL "bwp-Id = 1", UL "bwp-Common.genericParameters.locationAndBandwidth = " + riv,
+                                 UL "bwp-Common.genericParameters.subcarrierSpacing = kHz30",
+                                 GRANT "cg-DMRS-Configuration = {}", GRANT "resourceAllocation = " + kind,
+                                 GRANT "powerControlLoopToUse = n0", GRANT "p0-PUSCH-Alpha = 0",
+                                 GRANT "nrofHARQ-Processes = 1", GRANT "repK = n1", GRANT "periodicity = sym10x14",
+                                 GRANT "rrc-ConfiguredUplinkGrant.timeDomainOffset = 0",
+                                 GRANT "rrc-ConfiguredUplinkGrant.antennaPort = 0",
+                                 GRANT "rrc-ConfiguredUplinkGrant.precodingAndNumberOfLayers = 0",
+                                 GRANT "rrc-ConfiguredUplinkGrant.mcsAndTBS = 0",
+                                 GRANT "rrc-ConfiguredUplinkGrant.pathlossReferenceIndex = 0",
+                                 GRANT "rrc-ConfiguredUplinkGrant.timeDomainAllocation = 3",
+                                 GRANT "rrc-ConfiguredUplinkGrant.frequencyDomainAllocation = " + bits},
+                    known);
+    };
+    const std::string at = GRANT "rrc-ConfiguredUplinkGrant.";
+    // 3 PRBs from 5 on: 106 * 2 + 5 = 217 = 0xD9, behind ten bits of 18 that are clear.
+    auto told = ofGrant("resourceAllocationType1", "003640", "28875");
+    EXPECT_EQ("PRBs 5..7 (3) of the bandwidth part", told.at(at + "frequencyDomainAllocation").text);
+    EXPECT_EQ("row 4 of the PUSCH time-domain allocations", told.at(at + "timeDomainAllocation").text);
+    // Configuration 1 of 106 PRBs: groups of 8, 14 of them; the first and the last two.
+    told = ofGrant("resourceAllocationType0", "0800C0", "28875");
+    EXPECT_EQ("resource block groups 0, 12, 13 of 14, 8 PRBs each", told.at(at + "frequencyDomainAllocation").text);
+}
+
+// TS 38.214 table 5.2.1.4-2, of the bandwidth part that is measured.
+TEST_F(Meanings, Subbands)
+{
+    const std::string report = CSI "csi-ReportConfigToAddModList[0].";
+    const auto ofSize = [&](const std::string& riv, const std::string& value)
+    {
+        return textOf(cell + Lines{DL "bwp-Id = 1", DL "bwp-Common.genericParameters.locationAndBandwidth = " + riv,
+                                   DL "bwp-Common.genericParameters.subcarrierSpacing = kHz30",
+                                   CSI "csi-ResourceConfigToAddModList[0].csi-ResourceConfigId = 0",
+                                   CSI "csi-ResourceConfigToAddModList[0].csi-RS-ResourceSetList.csi-IM-ResourceSetList"
+                                       "[0] = 0",
+                                   CSI "csi-ResourceConfigToAddModList[0].bwp-Id = 1",
+                                   CSI "csi-ResourceConfigToAddModList[0].resourceType = periodic",
+                                   report + "reportConfigId = 0", report + "resourcesForChannelMeasurement = 0",
+                                   report + "reportConfigType.aperiodic.reportSlotOffsetList[0] = 0",
+                                   report + "reportQuantity.none = null",
+                                   report + "timeRestrictionForChannelMeasurements = notConfigured",
+                                   report + "timeRestrictionForInterferenceMeasurements = notConfigured",
+                                   report + "groupBasedBeamReporting.disabled = {}", report + "subbandSize = " + value},
+                      report + "subbandSize");
+    };
+    const auto riv = [](unsigned size)
+    {
+        return std::to_string(size - 1 <= 137 ? 275 * (size - 1) : 275 * (276 - size) + 274);
+    };
+    const struct
+    {
+        unsigned from, to, sizes[2];
+    } rows[] = {{24, 72, {4, 8}}, {73, 144, {8, 16}}, {145, 275, {16, 32}}};
+    for (const auto& row : rows)
+    {
+        for (const unsigned size : {row.from, row.to})
+        {
+            EXPECT_EQ(std::to_string(row.sizes[0]) + " PRBs a subband", ofSize(riv(size), "value1"));
+            EXPECT_EQ(std::to_string(row.sizes[1]) + " PRBs a subband", ofSize(riv(size), "value2"));
+        }
+    }
+    EXPECT_EQ("no subbands in a bandwidth part of 23 PRBs", ofSize(riv(23), "value1"));
+}
+
+// TS 36.331: bits for subframes 1, 2, 3, 6, 7, 8 in FDD, for 3, 4, 7, 8, 9 in TDD.
+TEST_F(Meanings, MbsfnSubframes)
+{
+    const std::string at = CELL "lte-CRS-ToMatchAround.setup.mbsfn-SubframeConfigList[0].";
+    const Lines crs = {CELL "lte-CRS-ToMatchAround.setup.carrierFreqDL = 100",
+                       CELL "lte-CRS-ToMatchAround.setup.carrierBandwidthDL = n50",
+                       CELL "lte-CRS-ToMatchAround.setup.nrofCRS-Ports = n2",
+                       CELL "lte-CRS-ToMatchAround.setup.v-Shift = n0",
+                       at + "radioframeAllocationPeriod = n8",
+                       at + "radioframeAllocationOffset = 3"};
+    auto told = tell(cell + crs + Lines{at + "subframeAllocation1.oneFrame = E4"});
+    EXPECT_EQ("every 8 radio frames, from frame 3 on", told.at(at + "radioframeAllocationPeriod").text);
+    EXPECT_EQ("FDD: subframes 1..3, 8; TDD: subframes 3, 4, 7", told.at(at + "subframeAllocation1.oneFrame").text);
+    told = tell(cell + crs + Lines{at + "subframeAllocation1.fourFrames = 800001"});
+    EXPECT_EQ("FDD: subframes 1 | none | none | 8; TDD: subframes 3 | none | none | none",
+              told.at(at + "subframeAllocation1.fourFrames").text);
+}
+
 // What stands in another cell's message is read with that cell's spacing.
 TEST_F(Meanings, SecondaryCells)
 {

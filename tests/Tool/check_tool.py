@@ -257,6 +257,32 @@ def test_explained(folder):
            "~ CellGroupConfig.physicalCellGroupConfig.tpc-SRS-RNTI: 7 -> 10  # 0x0007 -> 0x000A\n")
     found = json.loads(run("diff", "--explain", "--json", before, after)[1])["differences"][0]
     true((found["meaningOfA"], found["meaningOfB"]) == ("23 dBm", "10 dBm"), f"diff --explain --json: {found}")
+    # Of what is only in one of both, each value that means something.
+    bearer = ["CellGroupConfig.cellGroupId = 0", "CellGroupConfig.spCellConfig.spCellConfigDedicated.tag-Id = 0"]
+    part = "CellGroupConfig.spCellConfig.spCellConfigDedicated.downlinkBWP-ToAddModList[0]."
+    added = [f"{part}bwp-Id = 1", f"{part}bwp-Common.genericParameters.locationAndBandwidth = 550",
+             f"{part}bwp-Common.genericParameters.subcarrierSpacing = kHz30"]
+    paths = []
+    for name, lines in [("without.flat", bearer), ("with.flat", bearer[:1] + added + bearer[1:])]:
+        paths.append(folder / name)
+        paths[-1].write_text("\n".join(lines) + "\n")
+    expect(["diff", "--explain", *map(str, paths)], FINDINGS, re.compile(
+        r"^\+ \S+downlinkBWP-ToAddModList = .*\n"
+        r"    \[0\]\.bwp-Common\.genericParameters\.locationAndBandwidth = 550  # PRBs 0\.\.2 \(3\) from .*\n"
+        r"    \[0\]\.bwp-Common\.genericParameters\.subcarrierSpacing = kHz30  # 30 kHz\n$"))
+    found = json.loads(run("diff", "--explain", "--json", *map(str, reversed(paths)))[1])["differences"][0]
+    true(found["kind"] == "removed" and found["meaningsInA"][1] == {
+        "path": "[0].bwp-Common.genericParameters.subcarrierSpacing", "value": "kHz30", "meaning": "30 kHz"},
+         f"diff --explain --json of what is removed: {found}")
+    # What an earlier message has told is known.
+    later = folder / "later.flat"
+    at = f"{part}bwp-Dedicated.pdcch-Config.setup.searchSpacesToAddModList[0]."
+    later.write_text("\n".join([bearer[0], added[0], f"{at}searchSpaceId = 2",
+                                f"{at}monitoringSlotPeriodicityAndOffset.sl10 = 3", bearer[1]]) + "\n")
+    expect(["decode", "--explain", "--flat", str(later)], DONE,
+           re.compile("sl10 = 3  # every 10 slots, from slot 3 on; needs the bandwidth part's spacing \\(--previous"))
+    expect(["decode", "--explain", "--flat", "--previous", str(paths[1]), str(later)], DONE,
+           re.compile("sl10 = 3  # every 10 slots \\(5 ms\\), from slot 3 on \\(1.5 ms\\)\n"))
 
 
 # MAC-CellGroupConfig: not extended, five optional members, tag-Config the fourth, skipUplinkTxDynamic; TAG-Config: two

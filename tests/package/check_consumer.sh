@@ -20,7 +20,9 @@ for language in c cxx; do
     "$cmake" -S "$here/consumer" -B "$scratch/$language" "-DCONSUMER_LANGUAGE=${language^^}" \
         "-DCMAKE_PREFIX_PATH=$scratch/installed" "$@"
     "$cmake" --build "$scratch/$language"
-    for program in static shared own_platform rules; do
+    programs="static shared own_platform rules"
+    [ "$language" = c ] || programs+=" drawn"
+    for program in $programs; do
         echo "== $language $program"
         "$scratch/$language/$program"
     done
