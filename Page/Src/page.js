@@ -544,6 +544,15 @@ function show(container)
             }
         });
         tree.addEventListener("keydown", (event) => treeKey(view, event));
+        // Who reads the page aloud gives items the focus by itself.
+        tree.addEventListener("focusin", (event) =>
+        {
+            const number = numberAt(event.target);
+            if (number !== view.stop)
+            {
+                select(view, number, false);
+            }
+        });
         const bitAt = (event) => event.target.bit;
         view.pane.addEventListener("mouseover", (event) =>
         {
