@@ -610,11 +610,10 @@ private:
         for (const Part& part : panel.parts)
         {
             put(open(part.kind, part.path, part.title));
-            double y = frame.y;
             for (const NrSpan& given : part.rbs)
             {
                 const NrSpan rbs = clipped(given, frame.axis);
-                y = frame.top(rbs);
+                const double y = frame.top(rbs);
                 put(rect(x + 1, y, laneWidth - 2, frame.rb * rbs.size, ""));
                 if (part.clashes)
                 {
@@ -669,8 +668,8 @@ private:
             k = end + 1;
         }
         patterns_ += tile + "</g></pattern>\n";
-        const std::string use = words(" style=\"fill:url(#%s)\" data-subcarriers=\"%03x\" data-every=\"%u\"",
-                                      id.c_str(), unsigned{shape.subcarriers}, every);
+        std::string use = words(" style=\"fill:url(#%s)\" data-subcarriers=\"%03x\" data-every=\"%u\"", id.c_str(),
+                                unsigned{shape.subcarriers}, every);
         fills_.emplace_back(key, use);
         return use;
     }
@@ -807,14 +806,16 @@ private:
         {
             const Row& row = panel.rows[i];
             const double x = left + column * static_cast<double>(i % columns);
-            const double y = y_ + 14 * static_cast<double>(i / columns);
+            const size_t line = i / columns;
+            const double y = y_ + 14 * static_cast<double>(line);
             put(open("row", row.path, row.title) + rect(x, y, symbol * grid.symbols(), 10, " class=\"empty\"") +
                 rect(x + symbol * row.symbols.start, y, symbol * row.symbols.size, 10, "") +
                 "<text class=\"small\" x=\"" + num(x + symbol * grid.symbols() + 5) + "\" y=\"" + num(y + 8) + "\">" +
                 escaped(row.name) + "</text></g>\n");
         }
         width_ = std::max(width_, left + column * std::min<double>(columns, static_cast<double>(panel.rows.size())));
-        y_ += 14 * static_cast<double>((panel.rows.size() + columns - 1) / columns) + 2;
+        const size_t lines = (panel.rows.size() + columns - 1) / columns;
+        y_ += 14 * static_cast<double>(lines) + 2;
     }
 
     const std::vector<CellPicture>& cells_;
