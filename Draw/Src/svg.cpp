@@ -651,9 +651,9 @@ private:
         const double height = frame.rb * every;
         // The tile ends where a resource block with the subcarriers does; of each tile that is the last one.
         const double shift = frame.y + (phase == 0 ? 0 : frame.rb * phase);
-        std::string tile = "<pattern id=\"" + id + "\" width=\"9999\" height=\"" + num(height) + "\" y=\"" +
+        std::string tile = "<pattern id=\"" + id + "\" width=\"1024\" height=\"" + num(height) + "\" y=\"" +
                            num(shift) + "\" patternUnits=\"userSpaceOnUse\"><g class=\"" + nameOf(resource.kind).id +
-                           "\">" + rect(0, 0, 9999, height, " class=\"tint\" stroke=\"none\"");
+                           "\">" + rect(0, 0, 1024, height, " class=\"tint\" stroke=\"none\"");
         for (OSUINT32 k = 0; k < 12;)
         {
             OSUINT32 end = k;
@@ -663,7 +663,7 @@ private:
             }
             if (end > k)
             {
-                tile += rect(0, height - frame.rb * end / 12, 9999, frame.rb * (end - k) / 12, " stroke=\"none\"");
+                tile += rect(0, height - frame.rb * end / 12, 1024, frame.rb * (end - k) / 12, " stroke=\"none\"");
             }
             k = end + 1;
         }
