@@ -66,17 +66,6 @@ void addPuschRows(Gather& gather, const Place& place)
     }
 }
 
-// The bits of frequencyDomainAllocation as a number, the last one the least significant.
-OSUINT32 numberOf(const ASN1BitStr32& bits)
-{
-    OSUINT32 value = 0;
-    for (OSUINT32 i = 0; i < rtx::bitCount(bits); ++i)
-    {
-        value = 2 * value + (hasBit(bits, i) ? 1 : 0);
-    }
-    return value;
-}
-
 void addGrant(Gather& gather, const Place& place, const ConfiguredGrantConfig& grant)
 {
     static constexpr OSUINT32 repetitions[] = {1, 2, 4, 8};
@@ -104,8 +93,8 @@ void addGrant(Gather& gather, const Place& place, const ConfiguredGrantConfig& g
     const bool isTypeOne = grant.resourceAllocation == ConfiguredGrantConfig_resourceAllocation_resourceAllocationType1;
     const bool hops = grant.m.frequencyHoppingPresent != 0;
     NrSpan span{};
-    const bool isRiv =
-        place.rbs && isTypeOne && nrRivDecode(numberOf(one->frequencyDomainAllocation), place.rbs->size, &span) != 0;
+    const bool isRiv = place.rbs && isTypeOne &&
+                       nrRivDecode(bitsAsNumber(one->frequencyDomainAllocation), place.rbs->size, &span) != 0;
     NrSpan rbs{};
     if (isRiv && !hops)
     {

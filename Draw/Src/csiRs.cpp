@@ -6,26 +6,6 @@ namespace rules::draw
 namespace
 {
 
-OSUINT32 allocationOf(const Tree& tree, const CSI_RS_ResourceMapping& mapping)
-{
-    const auto* const choice = &mapping.frequencyDomainAllocation;
-    const ASN1BitStr32* const alternatives[] = {
-        CHOSEN(tree, choice, CSI_RS_ResourceMapping_frequencyDomainAllocation, row1),
-        CHOSEN(tree, choice, CSI_RS_ResourceMapping_frequencyDomainAllocation, row2),
-        CHOSEN(tree, choice, CSI_RS_ResourceMapping_frequencyDomainAllocation, row4),
-        CHOSEN(tree, choice, CSI_RS_ResourceMapping_frequencyDomainAllocation, other),
-    };
-    OSUINT32 value = 0;
-    for (const ASN1BitStr32* const bits : alternatives)
-    {
-        for (OSUINT32 i = 0; bits != nullptr && i < rtx::bitCount(*bits); ++i)
-        {
-            value = 2 * value + (hasBit(*bits, i) ? 1 : 0);
-        }
-    }
-    return value;
-}
-
 // Common resource blocks of a bandwidth part's axis; size 0 where they are not known, which is said.
 NrSpan bandOf(Gather& gather, const Place& place, const Resource& resource, const CSI_FrequencyOccupation& band)
 {
@@ -84,7 +64,8 @@ void addMapping(Gather& gather, const Place& place, Resource&& resource, const C
         const OSUINT32 skipped = rbs.start % 2 == odd ? 0 : 1;
         rbs = {rbs.start + skipped, rbs.size - skipped};
     }
-    const auto mask = static_cast<OSUINT16>(nrCsiRsSubcarriers(row->branch, allocationOf(gather.tree, mapping)));
+    const auto mask =
+        static_cast<OSUINT16>(nrCsiRsSubcarriers(row->branch, bitsAsNumber(*csiRsAllocation(gather.tree, mapping))));
     const auto every = static_cast<OSUINT8>(isHalf ? 2 : 1);
     Shape shape = {{rbs, {mapping.firstOFDMSymbolInTimeDomain, row->symbols}, mask, every}};
     if (row->secondSymbols != 0)

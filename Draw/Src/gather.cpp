@@ -2,8 +2,6 @@
 
 #include "uplinkParts.h"
 
-#include "rrcRules.h"
-
 #include <cstdarg>
 #include <numeric>
 

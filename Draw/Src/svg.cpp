@@ -610,11 +610,10 @@ private:
         for (const Part& part : panel.parts)
         {
             put(open(part.kind, part.path, part.title));
-            double y = frame.y;
             for (const NrSpan& given : part.rbs)
             {
                 const NrSpan rbs = clipped(given, frame.axis);
-                y = frame.top(rbs);
+                const double y = frame.top(rbs);
                 put(rect(x + 1, y, laneWidth - 2, frame.rb * rbs.size, ""));
                 if (part.clashes)
                 {
@@ -652,9 +651,9 @@ private:
         const double height = frame.rb * every;
         // The tile ends where a resource block with the subcarriers does; of each tile that is the last one.
         const double shift = frame.y + (phase == 0 ? 0 : frame.rb * phase);
-        std::string tile = "<pattern id=\"" + id + "\" width=\"9999\" height=\"" + num(height) + "\" y=\"" +
+        std::string tile = "<pattern id=\"" + id + "\" width=\"1024\" height=\"" + num(height) + "\" y=\"" +
                            num(shift) + "\" patternUnits=\"userSpaceOnUse\"><g class=\"" + nameOf(resource.kind).id +
-                           "\">" + rect(0, 0, 9999, height, " class=\"tint\" stroke=\"none\"");
+                           "\">" + rect(0, 0, 1024, height, " class=\"tint\" stroke=\"none\"");
         for (OSUINT32 k = 0; k < 12;)
         {
             OSUINT32 end = k;
@@ -664,13 +663,13 @@ private:
             }
             if (end > k)
             {
-                tile += rect(0, height - frame.rb * end / 12, 9999, frame.rb * (end - k) / 12, " stroke=\"none\"");
+                tile += rect(0, height - frame.rb * end / 12, 1024, frame.rb * (end - k) / 12, " stroke=\"none\"");
             }
             k = end + 1;
         }
         patterns_ += tile + "</g></pattern>\n";
-        const std::string use = words(" style=\"fill:url(#%s)\" data-subcarriers=\"%03x\" data-every=\"%u\"",
-                                      id.c_str(), unsigned{shape.subcarriers}, every);
+        std::string use = words(" style=\"fill:url(#%s)\" data-subcarriers=\"%03x\" data-every=\"%u\"", id.c_str(),
+                                unsigned{shape.subcarriers}, every);
         fills_.emplace_back(key, use);
         return use;
     }
@@ -807,14 +806,16 @@ private:
         {
             const Row& row = panel.rows[i];
             const double x = left + column * static_cast<double>(i % columns);
-            const double y = y_ + 14 * static_cast<double>(i / columns);
+            const size_t line = i / columns;
+            const double y = y_ + 14 * static_cast<double>(line);
             put(open("row", row.path, row.title) + rect(x, y, symbol * grid.symbols(), 10, " class=\"empty\"") +
                 rect(x + symbol * row.symbols.start, y, symbol * row.symbols.size, 10, "") +
                 "<text class=\"small\" x=\"" + num(x + symbol * grid.symbols() + 5) + "\" y=\"" + num(y + 8) + "\">" +
                 escaped(row.name) + "</text></g>\n");
         }
         width_ = std::max(width_, left + column * std::min<double>(columns, static_cast<double>(panel.rows.size())));
-        y_ += 14 * static_cast<double>((panel.rows.size() + columns - 1) / columns) + 2;
+        const size_t lines = (panel.rows.size() + columns - 1) / columns;
+        y_ += 14 * static_cast<double>(lines) + 2;
     }
 
     const std::vector<CellPicture>& cells_;

@@ -174,6 +174,9 @@ typedef struct RrcRuleStep
     int64_t id;           // its value
 } RrcRuleStep;
 
+// In words, what an input is: "the carriers of the downlink and uplink"; null for what is none or more than one.
+const char* rrcRuleInputName(OSUINT32 input);
+
 #ifdef __cplusplus
 }
 #endif

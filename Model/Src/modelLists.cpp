@@ -363,7 +363,7 @@ Vector<const CSI_IM_Resource*> imResources(Model& model, const Csi& csi, const C
     return resources;
 }
 
-const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping)
+const ASN1BitStr32* csiRsAllocation(const Tree& tree, const CSI_RS_ResourceMapping& mapping)
 {
     const auto* const allocation = &mapping.frequencyDomainAllocation;
     const ASN1BitStr32* const alternatives[] = {
@@ -376,11 +376,18 @@ const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mappi
     {
         if (bits != nullptr)
         {
-            return nrCsiRsRowOf(allocation->t, bitsSet(*bits, rtx::bitCount(*bits)), portsOf(mapping), mapping.cdm_Type,
-                                mapping.density.t);
+            return bits;
         }
     }
     return nullptr;
+}
+
+const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping)
+{
+    const ASN1BitStr32* const bits = csiRsAllocation(tree, mapping);
+    return bits == nullptr ? nullptr
+                           : nrCsiRsRowOf(mapping.frequencyDomainAllocation.t, bitsSet(*bits, rtx::bitCount(*bits)),
+                                          portsOf(mapping), mapping.cdm_Type, mapping.density.t);
 }
 
 OSUINT32 portsOf(const CSI_RS_ResourceMapping& mapping)

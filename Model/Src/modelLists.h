@@ -129,6 +129,8 @@ Vector<const CSI_IM_Resource*> imResources(Model& model, const Csi& csi, const C
 // CSI-RS-ResourceMapping: the row of the standard's table, null where it is none of them; nrofPorts as a number, 0
 // where it has no value.
 const NrCsiRsRow* csiRsRow(const Tree& tree, const CSI_RS_ResourceMapping& mapping);
+// frequencyDomainAllocation, null where it is none.
+const ASN1BitStr32* csiRsAllocation(const Tree& tree, const CSI_RS_ResourceMapping& mapping);
 OSUINT32 portsOf(const CSI_RS_ResourceMapping& mapping);
 
 // CSI-ResourcePeriodicityAndOffset, in slots.

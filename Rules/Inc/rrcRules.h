@@ -89,8 +89,6 @@ const char* rrcRuleGroupTitle(const char* id);
 
 // "error", "warning", "notice", "undecided".
 const char* rrcRuleSeverityName(OSUINT8 severity);
-// In words, what an input is: "the carriers of the downlink and uplink"; null for what is none or more than one.
-const char* rrcRuleInputName(OSUINT32 input);
 
 #ifdef __cplusplus
 }

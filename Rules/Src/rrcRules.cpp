@@ -75,28 +75,6 @@ void forRules(const Each& each)
     }
 }
 
-constexpr const char* inputNames[RRC_RULE_INPUTS] = {
-    "the previous configuration, or that this one is complete",
-    "the kind of the message",
-    "which cell group it is",
-    "the band",
-    "the frequency range or the band",
-    "the duplex mode or the band",
-    "the carriers",
-    "the initial downlink bandwidth part",
-    "the initial uplink bandwidth part",
-    "ssb-PositionsInBurst",
-    "dmrs-TypeA-Position",
-    "controlResourceSetZero",
-    "tdd-UL-DL-ConfigurationCommon",
-    "the cell-common configuration",
-    "the radio bearers",
-    "the measurement configuration",
-    "the other cell group",
-    "the UE's capabilities",
-    "rach-ConfigCommon of the initial uplink bandwidth part",
-};
-
 // The rules that are called for values.
 class Visitors
 {
@@ -292,16 +270,4 @@ const char* rrcRuleSeverityName(OSUINT8 severity)
 {
     static constexpr const char* names[] = {"undecided", "notice", "warning", "error"};
     return severity < std::size(names) ? names[severity] : "unknown";
-}
-
-const char* rrcRuleInputName(OSUINT32 input)
-{
-    for (OSUINT32 i = 0; i < RRC_RULE_INPUTS; ++i)
-    {
-        if (input == OSUINT32{1} << i)
-        {
-            return rules::inputNames[i];
-        }
-    }
-    return nullptr;
 }
