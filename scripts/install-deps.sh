@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# install-deps.sh run|test: installs the Debian packages that ./run or ./test needs and that are missing.
+# install-deps.sh run|test|browser: installs the Debian packages that ./run, ./test or its step browser needs and that
+# are missing.
 # With nothing missing it does nothing and needs no network.
 set -euo pipefail
 
@@ -9,14 +10,21 @@ test_packages=(
     binutils clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
     libgtest-dev libgmock-dev libbenchmark-dev
     libcli11-dev nlohmann-json3-dev libtomlplusplus-dev libpcap-dev scdoc
+    lld-14 wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32
     tshark erlang-base erlang-asn1 libxml2-utils python3 python3-clang-14
 )
+browser_packages=(chromium fonts-dejavu-core)
+# Another Node.js than Debian's is as good.
+if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
+    browser_packages+=(nodejs npm)
+fi
 
 case "${1:-}" in
     run) packages=("${run_packages[@]}") ;;
     test) packages=("${test_packages[@]}") ;;
+    browser) packages=("${browser_packages[@]}") ;;
     *)
-        echo "usage: $0 run|test" >&2
+        echo "usage: $0 run|test|browser" >&2
         exit 2
         ;;
 esac

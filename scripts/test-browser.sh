@@ -15,9 +15,7 @@ skip()
     exit 0
 }
 
-for command in chromium node npm; do
-    command -v "$command" >/dev/null || scripts/install-deps.sh browser || skip "there is no $command"
-done
+scripts/install-deps.sh browser || skip "there is no chromium, or no Node.js with npm"
 
 test=tests/Page/browser
 if [ "$test/node_modules/.package-lock.json" -ot "$test/package-lock.json" ]; then
