@@ -1,4 +1,4 @@
-// test.js <program> <folder for pages and screenshots> <chromium>: pages in a browser, as people use them.
+// test.js <program> <folder for pages and screenshots> <chromium> [test...]: pages in a browser, as people use them.
 import assert from "node:assert/strict";
 import {execFileSync, spawnSync} from "node:child_process";
 import {mkdirSync, statSync, writeFileSync} from "node:fs";
@@ -7,7 +7,7 @@ import {pathToFileURL} from "node:url";
 
 import {chromium} from "playwright-core";
 
-const [program, folder, executablePath] = process.argv.slice(2);
+const [program, folder, executablePath, ...chosen] = process.argv.slice(2);
 mkdirSync(folder, {recursive: true});
 
 const cli = (args, input = "") =>
@@ -65,6 +65,7 @@ const open = async (name, options = {}) =>
     const context = await browser.newContext({viewport: {width: 1400, height: 950}, offline: true, ...options});
     await context.addInitScript({path: partsFile});
     const page = await context.newPage();
+    page.setDefaultTimeout(10000);
     const url = pathToFileURL(path.join(folder, name)).href;
     page.complaints = [];
     page.on("console", (message) => page.complaints.push(`console: ${message.text()}`));
@@ -124,13 +125,13 @@ const tests = {
     {
         const page = await open("typical-call.html");
         const ranges = rangesOf(typical.hex);
-        // Each element by an event, some of them by the mouse.
-        const lit = await page.evaluate(() => window.parts.items().map((entry) =>
+        // Many by an event, some of them by the mouse.
+        const lit = await page.evaluate(() => window.parts.items().filter((_, i) => i % 5 === 0).map((entry) =>
         {
             entry.row.dispatchEvent(new MouseEvent("mouseover", {bubbles: true}));
             return [entry.path, window.parts.lit()];
         }));
-        assert.ok(lit.length > 300);
+        assert.ok(lit.length > 80);
         for (const [at, bits] of lit)
         {
             assert.deepEqual(bits, ranges.has(at) ? numbers(ranges.get(at)) : [], at);
@@ -138,7 +139,7 @@ const tests = {
         const rows = page.locator(".t .r");
         for (let i = 0; i < lit.length; i += Math.floor(lit.length / 8))
         {
-            await rows.nth(i).hover({position: {x: 3, y: 3}});
+            await rows.nth(5 * i).hover();
             assert.deepEqual(await page.evaluate(() => window.parts.lit()), lit[i][1], lit[i][0]);
         }
         // A bit belongs to the smallest element around it.
@@ -474,7 +475,7 @@ const tests = {
 make("playground.html");
 const begin = Date.now();
 let failed = 0;
-for (const [name, test] of Object.entries(tests))
+for (const [name, test] of Object.entries(tests).filter(([one]) => chosen.length === 0 || chosen.includes(one)))
 {
     const start = Date.now();
     try
@@ -489,5 +490,5 @@ for (const [name, test] of Object.entries(tests))
     }
 }
 await browser.close();
-console.log(`${Object.keys(tests).length} tests, ${failed} failed, ${Date.now() - begin} ms; screenshots in ${folder}`);
+console.log(`${failed} failed, ${Date.now() - begin} ms; screenshots in ${folder}`);
 process.exit(failed === 0 ? 0 : 1);
