@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# install-deps.sh run|test: installs the Debian packages that ./run or ./test needs and that are missing.
+# install-deps.sh run|test|browser: installs the Debian packages that ./run, ./test or its step browser needs and that are
+# missing.
 # With nothing missing it does nothing and needs no network.
 set -euo pipefail
 
@@ -10,13 +11,16 @@ test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     libcli11-dev nlohmann-json3-dev libtomlplusplus-dev libpcap-dev scdoc
     tshark erlang-base erlang-asn1 python3 python3-clang-14
+    lld-14 wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32
 )
+browser_packages=(chromium nodejs npm)
 
 case "${1:-}" in
     run) packages=("${run_packages[@]}") ;;
     test) packages=("${test_packages[@]}") ;;
+    browser) packages=("${browser_packages[@]}") ;;
     *)
-        echo "usage: $0 run|test" >&2
+        echo "usage: $0 run|test|browser" >&2
         exit 2
         ;;
 esac
