@@ -1,6 +1,6 @@
-// Decodes an input and draws it, the slots taken from its first two octets: no crash, the same picture each time, a
-// picture that ends, and the heap as it was.
-#include "decoded.h"
+// Decodes an input and draws it, with what is known besides taken from its first octets and the slots from its length: no
+// crash, the same picture each time, a picture that ends, and the heap as it was.
+#include "context.h"
 
 #include "rrcDraw.h"
 
@@ -8,22 +8,16 @@ using fuzz::require;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    if (size < 2)
+    const auto length = static_cast<unsigned>(size);
+    const draw::Options options = {length * 40U % 10240U, length % 161U};
+    const auto check = [&](OSCTXT& ctxt, const CellGroupConfig& tree, const RrcRuleContext& known)
     {
-        return 0;
-    }
-    const draw::Options options = {data[0] * 40U, data[1]};
-    fuzz::Decoded decoded(data + 2, size - 2);
-    if (decoded.status() != RTX_OK)
-    {
-        return 0;
-    }
-    OSCTXT& ctxt = decoded.context();
-    const OSOCTET* const next = ctxt.heap.next;
-    const RtxHeapBlock* const block = ctxt.heap.blocks;
-    const std::string svg = draw::svg(ctxt, decoded.value(), nullptr, options);
-    require(ctxt.heap.blocks != block || ctxt.heap.next == next, "the heap is not given back");
-    require(svg.ends_with("</svg>\n"), "no picture");
-    require(draw::svg(ctxt, decoded.value(), nullptr, options) == svg, "another picture the second time");
+        const fuzz::HeapMark mark(ctxt);
+        const std::string svg = draw::svg(ctxt, tree, &known, options);
+        mark.expectGivenBack();
+        require(svg.ends_with("</svg>\n"), "no picture");
+        require(draw::svg(ctxt, tree, &known, options) == svg, "another picture the second time");
+    };
+    fuzz::withContext(data, size, check);
     return 0;
 }

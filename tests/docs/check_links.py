@@ -12,7 +12,7 @@ FENCED = re.compile(r"^( *)```.*?^\1```$", re.M | re.S)  # code, whose lambdas l
 def main():
     project = pathlib.Path(sys.argv[1])
     documents = [path for path in sorted(project.rglob("*.md"))
-                 if not {"build", ".git"} & set(path.relative_to(project).parts)]
+                 if not {"build", ".git", "node_modules"} & set(path.relative_to(project).parts)]
     folders = {path.name for path in project.iterdir() if path.is_dir()} - {"build"}
     checked = 0
     lost = []

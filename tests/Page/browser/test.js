@@ -1,4 +1,4 @@
-// test.js <program> <folder for pages and screenshots> <chromium>: pages in a browser, as people use them.
+// test.js <program> <folder for pages and screenshots> <chromium> [test...]: pages in a browser, as people use them.
 import assert from "node:assert/strict";
 import {execFileSync, spawnSync} from "node:child_process";
 import {mkdirSync, statSync, writeFileSync} from "node:fs";
@@ -7,7 +7,7 @@ import {pathToFileURL} from "node:url";
 
 import {chromium} from "playwright-core";
 
-const [program, folder, executablePath] = process.argv.slice(2);
+const [program, folder, executablePath, ...chosen] = process.argv.slice(2);
 mkdirSync(folder, {recursive: true});
 
 const cli = (args, input = "") =>
@@ -69,6 +69,7 @@ const open = async (name, options = {}) =>
     const context = await browser.newContext({viewport: {width: 1400, height: 950}, offline: true, ...options});
     await context.addInitScript({path: partsFile});
     const page = await context.newPage();
+    page.setDefaultTimeout(10000);
     const url = pathToFileURL(path.join(folder, name)).href;
     page.complaints = [];
     page.on("console", (message) => page.complaints.push(`console: ${message.text()}`));
@@ -478,7 +479,7 @@ const tests = {
 make("playground.html");
 const begin = Date.now();
 let failed = 0;
-for (const [name, test] of Object.entries(tests))
+for (const [name, test] of Object.entries(tests).filter(([one]) => chosen.length === 0 || chosen.includes(one)))
 {
     const start = Date.now();
     try
