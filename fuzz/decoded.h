@@ -55,16 +55,6 @@ public:
         return status_;
     }
 
-    OSCTXT& context()
-    {
-        return ctxt_;
-    }
-
-    const CellGroupConfig& value() const
-    {
-        return value_;
-    }
-
     size_t errorLength() const
     {
         return rtxErrFormat(&ctxt_, nullptr, 0);
