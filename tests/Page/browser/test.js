@@ -40,12 +40,12 @@ const rangesOf = (hex) =>
     const ranges = new Map();
     for (const line of cli(["decode", "--trace", "--as", "hex", "-"], hex).split("\n").slice(1))
     {
-        const [, first, last, at] = /^(\d+)(?:\.\.(\d+))? +\S+ +\d+ +\S+ +(CellGroupConfig[^:= ]*)/.exec(line) || [];
+        const [, first, width, at] = /^(\d+)(?:\.\.\d+)? +\S+ +(\d+) +(?:[01.]+ +)?(CellGroupConfig[^:= ]*)/.exec(line) || [];
         if (at === undefined || line.endsWith("padding"))
         {
             continue;
         }
-        const [begin, end] = [Number(first), Number(last ?? first) + 1];
+        const [begin, end] = [Number(first), Number(first) + Number(width)];
         for (let name = at; name; name = name.slice(0, Math.max(name.lastIndexOf("."), name.lastIndexOf("["), 0)))
         {
             const [low, high] = ranges.get(name) || [begin, end];
