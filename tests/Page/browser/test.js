@@ -40,7 +40,7 @@ const rangesOf = (hex) =>
     const ranges = new Map();
     for (const line of cli(["decode", "--trace", "--as", "hex", "-"], hex).split("\n").slice(1))
     {
-        const [, first, width, at] = /^(\d+)(?:\.\.\d+)? +\S+ +(\d+) +(?:[01.]+ +)?(CellGroupConfig[^:= ]*)/.exec(line) || [];
+        const [, first, width, at] = /^(\d+)(?:\.\.\d+)? +\S+ +(\d+) .*?(CellGroupConfig[^:= ]*)/.exec(line) || [];
         if (at === undefined || line.endsWith("padding"))
         {
             continue;
