@@ -41,12 +41,12 @@ const rangesOf = (hex) =>
     for (const line of cli(["decode", "--trace", "--as", "hex", "-"], hex).split("\n").slice(1))
     {
         const [, first, width, at] = /^(\d+)(?:\.\.\d+)? +\S+ +(\d+) .*?(CellGroupConfig[^:= ]*)/.exec(line) || [];
-        if (at === undefined || line.endsWith("padding"))
+        if (at === undefined || line.endsWith(" CellGroupConfig: padding"))
         {
             continue;
         }
         const [begin, end] = [Number(first), Number(first) + Number(width)];
-        for (let name = at; name; name = name.slice(0, Math.max(name.lastIndexOf("."), name.lastIndexOf("["), 0)))
+        for (let name = at.replace(/\.\[\[[^\]]*\]\]/g, ""); name; name = name.slice(0, Math.max(name.lastIndexOf("."), name.lastIndexOf("["), 0)))
         {
             const [low, high] = ranges.get(name) || [begin, end];
             ranges.set(name, [Math.min(low, begin), Math.max(high, end)]);
