@@ -1,5 +1,5 @@
-// Decodes an input and draws it, with what is known besides taken from its first octets and the slots from its length: no
-// crash, the same picture each time, a picture that ends, and the heap as it was.
+// Decodes an input and draws it, with what is known besides taken from its first octets and the slots from its length:
+// no crash, the same picture each time, a picture that ends, and the heap as it was.
 #include "context.h"
 
 #include "rrcDraw.h"

@@ -358,7 +358,8 @@ std::string undecidedSection(const Told& told, const char* letter)
     {
         return "";
     }
-    std::string text = "<details class=u aria-label=\"Undecided rules\"><summary>" + (*letter == '\0' ? "" : std::string(letter) + ": ") +
+    std::string text = "<details class=u aria-label=\"Undecided rules\"><summary>" +
+                       (*letter == '\0' ? "" : std::string(letter) + ": ") +
                        counted(told.remarks.undecided.size(), "rule") + " undecided</summary><ul>";
     for (const Remarks::Undecided& one : told.remarks.undecided)
     {
@@ -372,7 +373,8 @@ constexpr std::size_t mostDifferences = 1000;
 
 std::string differencesSection(const std::vector<Difference>& all)
 {
-    std::string text = "<details class=d aria-label=Differences open><summary>" + counted(all.size(), "difference") + "</summary><ol>";
+    std::string text =
+        "<details class=d aria-label=Differences open><summary>" + counted(all.size(), "difference") + "</summary><ol>";
     for (const Difference& one : std::span(all).first(std::min(all.size(), mostDifferences)))
     {
         text += "<li><code>" + escaped(one.path) + "</code> " + escaped(one.words);
