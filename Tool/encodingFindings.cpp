@@ -8,7 +8,7 @@ namespace tool
 namespace
 {
 
-Finding findingOf(const Message::Mistake& mistake, const Given& given, const RtxPdu& pdu)
+Finding findingOf(const Mistake& mistake, const Given& given, const RtxPdu& pdu)
 {
     Finding finding;
     finding.id = formName(given.input.form);
@@ -48,7 +48,7 @@ Finding asFinding(page::MessageFinding&& found)
 std::vector<Finding> encodingFindings(const Message& message, const Given& given)
 {
     std::vector<Finding> all;
-    for (const Message::Mistake& mistake : message.mistakes())
+    for (const Mistake& mistake : message.mistakes())
     {
         all.push_back(findingOf(mistake, given, message.pdu()));
     }

@@ -65,7 +65,7 @@ std::vector<Finding> recordFindings(const Message& message)
         return 0;
     };
     (void)rrcCheckCellGroupCfg(message.record(), sink, &all);
-    for (const Message::Mistake& unread : message.unread())
+    for (const Mistake& unread : message.unread())
     {
         all.push_back(findingOf("record-unread", pathOf(unread.path), unread.words));
         all.back().severity = Severity::Warning;

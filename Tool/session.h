@@ -1,7 +1,7 @@
 // What all commands share: where messages come from, where data and words go, and how a command ends.
 #pragma once
 
-#include "input.h"
+#include "readMessage.h"
 
 #include <chrono>
 #include <cstdint>
@@ -63,10 +63,6 @@ struct Common
     bool verbose = false;
     When color = When::Auto;
 };
-
-// The longest message that is read, in octets: several times what a cell group in an RRC message can have, and a bound
-// of the memory that a hostile one can take.
-inline constexpr std::size_t maxMessageOctets = 65536;
 
 // A message as it was given.
 struct Given

@@ -91,7 +91,7 @@ const void* Trees::decoded(const std::optional<Encoding>& octets)
 
 Encoding Trees::encoded(const void* tree)
 {
-    Encoding octets = encoding(pdu_, context_, tree, maxInputOctets);
+    Encoding octets = encoding(pdu_.encode, context_, tree, maxInputOctets);
     if (octets.empty())
     {
         fail();

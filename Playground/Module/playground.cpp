@@ -1,14 +1,11 @@
 // The program inside the playground's page: texts in, the content of a page or a refusal out. playground.js calls it,
 // each time in a new instance, so that nothing is freed and nothing is kept.
-#include "asn1FromText.h"
-#include "input.h"
-#include "rrcCodec/rrcCompose.h"
+#include "messageFindings.h"
+#include "readMessage.h"
 #include "rrcPage.h"
-#include "rrcRecordFromJson.h"
 #include "text.h"
 
 #include <cstdlib>
-#include <memory>
 #include <new>
 
 namespace
@@ -56,79 +53,41 @@ Answer answer;
 std::string answerText;
 std::string answerForms;
 
-constexpr std::size_t longestEncoding = 65536;
-constexpr std::size_t longestLine = 8192;
-
-tool::Refusal refusalOf(const RtxError& error)
+// A line each.
+tool::Refusal refusalOf(const std::vector<tool::Mistake>& mistakes)
 {
-    std::string words(longestLine, '\0');
-    words.resize(std::min(rtxErrorFormat(&error, words.data(), words.size()), words.size() - 1));
-    return {std::move(words), {}, {}};
-}
-
-void addMistake(tool::Refused& refused, const Asn1Mistake& mistake)
-{
-    if (!refused)
+    tool::Refusal refusal{{}, {mistakes.front().line, mistakes.front().column}, {}};
+    for (const tool::Mistake& mistake : mistakes)
     {
-        refused = tool::Refusal{{}, {mistake.line, mistake.column}, {}};
-    }
-    else
-    {
-        refused->reason += "\n" + std::to_string(mistake.line) + ":" + std::to_string(mistake.column) + ": ";
-    }
-    refused->reason += (*mistake.path != '\0' ? std::string(mistake.path) + ": " : "") + mistake.words;
-}
-
-// The message of a tree in text.
-tool::Refused encodeText(const tool::Input& input, std::vector<std::uint8_t>& octets)
-{
-    OSCTXT context;
-    rtxInitContext(&context);
-    CellGroupConfig value;
-    tool::Refused refused;
-    const auto sink = [](void* to, const Asn1Mistake* mistake)
-    {
-        addMistake(*static_cast<tool::Refused*>(to), *mistake);
-    };
-    const auto read = input.form == tool::Form::Jer ? asn1FromJson : asn1FromFlat;
-    if (read(&context, asn1Type_CellGroupConfig(), &value, input.text.data(), input.text.size(), sink, &refused) == 0)
-    {
-        octets.resize(longestEncoding);
-        (void)pu_setBuffer(&context, octets.data(), octets.size(), 0);
-        const int status = asn1PE_CellGroupConfig(&context, &value);
-        octets.resize(status == RTX_OK ? pu_getMsgLen(&context) : 0);
-        refused = status == RTX_OK ? std::nullopt : std::optional(refusalOf(context.error));
-    }
-    rtFreeContext(&context);
-    return refused;
-}
-
-// The message that a record composes to.
-tool::Refused encodeRecord(const tool::Input& input, std::vector<std::uint8_t>& octets)
-{
-    const std::unique_ptr<RrcCellGroupCfg_t> record(new RrcCellGroupCfg_t);
-    tool::Refused refused;
-    const auto sink = [](void* to, const RrcRecordMistake* found)
-    {
-        if (found->isUnread == 0)
+        if (!refusal.reason.empty())
         {
-            addMistake(*static_cast<tool::Refused*>(to), found->mistake);
+            refusal.reason += "\n" + std::to_string(mistake.line) + ":" + std::to_string(mistake.column) + ": ";
         }
-    };
-    if (rrcRecordFromJson(record.get(), input.text.data(), input.text.size(), nullptr, sink, &refused) != 0)
-    {
-        return refused;
+        refusal.reason += (mistake.path.empty() ? "" : mistake.path + ": ") + mistake.words;
     }
-    octets.resize(longestEncoding);
-    std::size_t length = 0;
-    std::string error(longestLine, '\0');
-    if (rrcEncodeCellGroupCfg(record.get(), octets.data(), octets.size(), &length, error.data(), error.size()) !=
-        RRC_COMPOSE_OK)
+    return refusal;
+}
+
+int encodeCellGroup(OSCTXT* context, const void* value)
+{
+    return asn1PE_CellGroupConfig(context, static_cast<const CellGroupConfig*>(value));
+}
+
+// The message that a text says.
+tool::Refused encode(const tool::Input& input, std::vector<std::uint8_t>& octets)
+{
+    tool::ReadMessage reading(*asn1Type_CellGroupConfig(), input, nullptr);
+    if (!reading.mistakes().empty())
     {
-        return tool::Refusal{error.substr(0, error.find('\0')), {}, {}};
+        return refusalOf(reading.mistakes());
     }
-    octets.resize(length);
-    return std::nullopt;
+    if (!reading.refusal().empty())
+    {
+        return tool::Refusal{reading.refusal(), {}, {}};
+    }
+    octets = tool::encoding(encodeCellGroup, reading.context(), reading.value(), tool::maxMessageOctets);
+    return octets.empty() ? tool::Refused(tool::Refusal{page::errorText(reading.context().error), {}, {}})
+                          : std::nullopt;
 }
 
 tool::Refused read(const Given& given, page::Shown& shown)
@@ -141,21 +100,15 @@ tool::Refused read(const Given& given, page::Shown& shown)
     tool::Input& input = std::get<tool::Input>(recognition);
     shown.name = given.name.view();
     shown.note = input.note;
-    switch (input.form)
+    if (tool::isText(input.form))
     {
-    case tool::Form::Jer:
-    case tool::Form::Flat:
-        return encodeText(input, shown.octets);
-    case tool::Form::Record:
-        return encodeRecord(input, shown.octets);
-    default:
-        break;
+        return encode(input, shown.octets);
     }
     // No message is as long, and what shows one octet takes hundreds.
-    if (input.octets.size() > longestEncoding)
+    if (input.octets.size() > tool::maxMessageOctets)
     {
         return tool::Refusal{tool::counted(input.octets.size(), "octet") + "; a message of at most " +
-                                 std::to_string(longestEncoding) + " is shown",
+                                 std::to_string(tool::maxMessageOctets) + " is shown",
                              {},
                              {}};
     }
