@@ -58,7 +58,7 @@ std::string textOf(const Findings& findings, const FindingsLook& look)
         {
             text += words.empty() ? "" : std::string("  ") + before + words + behind + "\n";
         };
-        line("| ", finding.context, "");
+        line("| ", finding.context, finding.meaning.empty() ? "" : ("  # " + finding.meaning).c_str());
         line("sent as ", finding.element, "");
         line("", finding.advice, "");
         line("This could change with ", joined(finding.decidedBy), ".");

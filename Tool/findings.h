@@ -32,6 +32,7 @@ struct Finding
     std::string advice;                 // what to do
     std::string clause;                 // the standard's: "X.680 51.4"
     std::string context;                // "path = value" of the place, or of what is around it when it is absent
+    std::string meaning;                // what the context's value means; empty where that is nothing more
     std::vector<std::string> decidedBy; // options that could change the verdict: "--fr or --band"
     bool configuredBefore = false;      // an earlier message has brought the place
     std::size_t line = 0;               // of the place in a text, both from 1; 0 when there is none

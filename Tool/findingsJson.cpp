@@ -41,6 +41,7 @@ Json jsonOf(const Finding& finding)
     };
     set("element", finding.element);
     set("context", finding.context);
+    set("meaning", finding.meaning);
     set("value", finding.value);
     set("allowed", finding.allowed);
     set("advice", finding.advice);

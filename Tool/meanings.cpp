@@ -22,6 +22,21 @@ std::string lineOf(const RrcMeaning& meaning)
 
 } // namespace
 
+Meanings::Meanings(OSCTXT& context, const CellGroupConfig& value, const RrcRuleContext& known)
+{
+    (void)tell(context, value, known);
+}
+
+std::int64_t Meanings::tell(OSCTXT& context, const CellGroupConfig& value, const RrcRuleContext& known)
+{
+    const auto sink = [](void* to, const RrcMeaning* meaning)
+    {
+        static_cast<Meanings*>(to)->all_[{meaning->value, meaning->type}] = lineOf(*meaning);
+        return 0;
+    };
+    return rrcExplain(&context, &value, &known, sink, this);
+}
+
 Meanings::Meanings(Message& message, const void* value, const RuleInputs& inputs)
 {
     RrcRuleContext known = inputs.context();
@@ -30,12 +45,7 @@ Meanings::Meanings(Message& message, const void* value, const RuleInputs& inputs
         known.previous =
             static_cast<const CellGroupConfig*>(decodedIn(message.context(), message.pdu(), *inputs.held()));
     }
-    const auto sink = [](void* to, const RrcMeaning* meaning)
-    {
-        static_cast<Meanings*>(to)->all_[{meaning->value, meaning->type}] = lineOf(*meaning);
-        return 0;
-    };
-    if (rrcExplain(&message.context(), static_cast<const CellGroupConfig*>(value), &known, sink, this) < 0)
+    if (tell(message.context(), *static_cast<const CellGroupConfig*>(value), known) < 0)
     {
         throw Failure(Exit::Usage, "--explain: " + errorText(message.context().error));
     }

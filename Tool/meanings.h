@@ -25,6 +25,8 @@ public:
     Meanings() = default;
     // Of a tree in the heap of the message's context, or of a state that follows from it. Throws Failure.
     Meanings(Message& message, const void* value, const RuleInputs& inputs);
+    // With all that is known, `previous` too. None where they cannot be told.
+    Meanings(OSCTXT& context, const CellGroupConfig& value, const RrcRuleContext& known);
 
     // Empty where a value has none.
     const std::string& of(const RtxType* type, const void* value) const;
@@ -32,6 +34,8 @@ public:
     static const char* remark(void* arg, const RtxType* type, const void* value);
 
 private:
+    std::int64_t tell(OSCTXT& context, const CellGroupConfig& value, const RrcRuleContext& known);
+
     std::map<std::pair<const void*, const RtxType*>, std::string> all_;
 };
 

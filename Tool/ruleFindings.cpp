@@ -2,6 +2,7 @@
 
 #include "encodingFindings.h"
 #include "findingPath.h"
+#include "meanings.h"
 #include "rtxTree.h"
 
 namespace tool
@@ -37,8 +38,9 @@ std::string shownValue(const OSCTXT& context, const RtxType& type, const void* v
     return text;
 }
 
-// "path = value" of the place; of an absent member that of the structure around it, which is always there.
-std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told)
+// "path = value" of the place, whose type is given back; of an absent member that of the structure around it, which is
+// always there.
+std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told, const RtxType*& shown)
 {
     if (told.depth == 0)
     {
@@ -70,14 +72,8 @@ std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told)
             return around + " = " + shownValue(context, *owner, structure);
         }
     }
+    shown = type;
     return path + " = " + shownValue(context, *type, told.value);
-}
-
-Finding findingOf(const OSCTXT& context, const RrcRuleFinding& told)
-{
-    Finding finding = asFinding(page::findingOf(told));
-    finding.context = contextOf(context, told);
-    return finding;
 }
 
 // What the callbacks of a check need.
@@ -86,6 +82,8 @@ struct Asked
     const OSCTXT& context;
     const RuleChoice& choice;
     RuleVerdict verdict;
+    std::vector<std::pair<const RtxType*, const void*>>
+        values; // of the findings; no type: the context is not the value
 };
 
 int wanted(void* arg, const RrcRule* rule)
@@ -102,7 +100,11 @@ int take(void* arg, const RrcRuleFinding* told)
     }
     else
     {
-        asked.verdict.findings.push_back(findingOf(asked.context, *told));
+        Finding finding = asFinding(page::findingOf(*told));
+        const RtxType* shown = nullptr;
+        finding.context = contextOf(asked.context, *told, shown);
+        asked.verdict.findings.push_back(std::move(finding));
+        asked.values.emplace_back(shown, told->value);
     }
     return 0;
 }
@@ -119,7 +121,7 @@ RuleVerdict ruleFindings(Message& message, const RrcRuleContext& known, const st
         all.previous = static_cast<const CellGroupConfig*>(decodedIn(context, message.pdu(), *held));
     }
     const auto* const element = static_cast<const CellGroupConfig*>(message.value());
-    Asked asked{context, choice, {}};
+    Asked asked{context, choice, {}, {}};
     std::vector<Finding> refused;
     std::int64_t status = rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
     if (status < 0 && status != RTX_E_HEAP && all.previous != nullptr)
@@ -137,6 +139,14 @@ RuleVerdict ruleFindings(Message& message, const RrcRuleContext& known, const st
     if (status < 0)
     {
         throw Failure(Exit::Usage, "out of memory");
+    }
+    if (!asked.values.empty())
+    {
+        const Meanings meanings(context, *element, all);
+        for (std::size_t i = 0; i < asked.values.size(); ++i)
+        {
+            asked.verdict.findings[i].meaning = meanings.of(asked.values[i].first, asked.values[i].second);
+        }
     }
     asked.verdict.findings.insert(asked.verdict.findings.begin(), refused.begin(), refused.end());
     return std::move(asked.verdict);

@@ -112,6 +112,20 @@ def test_order(folder):
     true(ids("--full", "--only", "rlc-", stdin=text) == ["rlc-srb-am-sn12", "rlc-sn-missing"], "the rules of one group")
 
 
+def test_meaning(folder):
+    """A finding says what the value means that it complains of, in the words of `decode --explain`."""
+    place = f"{COMMON}.downlinkConfigCommon.initialDownlinkBWP.genericParameters.locationAndBandwidth"
+    text = flat(f"{place} = 824")
+    explained = next(line for line in run("decode", "--as", "flat", "--flat", "--explain", stdin=text)[1].decode()
+                     .splitlines() if place in line)
+    meaning = explained.split("# ")[1]
+    true("PRB" in meaning, f"meaning of a RIV: {explained}")
+    told = [finding for finding in message_of("--full", stdin=text)["findings"] if place in finding["path"]]
+    true(told != [] and all(finding["meaning"] == meaning for finding in told), f"{told}: {meaning}")
+    expect(["check", "--full"], FINDINGS,
+           re.compile(rf"(.*\n)*  \| CellGroupConfig\.{re.escape(place)} = 824  # {re.escape(meaning)}\n"), stdin=text)
+
+
 def test_previous(folder):
     has, delta = folder / "has.flat", folder / "delta.flat"
     has.write_text(flat())
@@ -661,5 +675,5 @@ def test_hostile(folder):
         true(process.stderr.read() == b"" and process.wait(timeout=60) in (-13, 0), "a closed pipe is no failure")
 
 
-main(test_whole, test_finding, test_order, test_previous, test_chain, test_known, test_wrong_values, test_files, test_severity,
-     test_silences, test_comments, test_random_comments, test_sarif, test_encoding, test_hostile)
+main(test_whole, test_finding, test_meaning, test_order, test_previous, test_chain, test_known, test_wrong_values, test_files,
+     test_severity, test_silences, test_comments, test_random_comments, test_sarif, test_encoding, test_hostile)
