@@ -33,7 +33,7 @@ function(wasm_compile name)
     set(wasm_objects ${wasm_objects} "${object}" PARENT_SCOPE)
 endfunction()
 
-# The platform layer has another implementation here, and so has what reads files.
+# The platform layer is another one but for its memory, and so is what reads files.
 set(wasm_libraries
     cellgroupcfg_asn1rt
     cellgroupcfg_nrrrc
@@ -62,8 +62,8 @@ set(module_includes "${PROJECT_SOURCE_DIR}/Json/Src")
 foreach(library IN LISTS module_libraries)
     list(APPEND module_includes "$<TARGET_PROPERTY:cellgroupcfg_${library},INCLUDE_DIRECTORIES>")
 endforeach()
-set(module_sources Module/platform.cpp Module/playground.cpp)
-list(TRANSFORM module_sources PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+set(module_sources Playground/Module/platform.cpp Playground/Module/playground.cpp Platform/src/vos_mem.cpp Platform/src/vos_module.cpp)
+list(TRANSFORM module_sources PREPEND "${PROJECT_SOURCE_DIR}/")
 wasm_compile(module SOURCES ${module_sources} INCLUDES "${module_includes}")
 
 set(module "${CMAKE_CURRENT_BINARY_DIR}/playground.wasm")

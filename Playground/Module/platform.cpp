@@ -3,10 +3,6 @@
 #include "plat_syslog.h"
 #include "vos_lib.h"
 
-#include <cstring>
-
-VosModulePrintFilter_t module_print_filter = {0};
-
 INT32 VOS_Printf(const char* format, ...)
 {
     (void)format;
@@ -16,22 +12,6 @@ INT32 VOS_Printf(const char* format, ...)
 void VOS_SysLog(UINT32 moduleID, INT32 level, const char* file, INT32 line, const char* func, const char* text)
 {
     (void)moduleID, (void)level, (void)file, (void)line, (void)func, (void)text;
-}
-
-void VOS_MemZero(void* pMem, size_t size)
-{
-    if (pMem != nullptr)
-    {
-        std::memset(pMem, 0, size);
-    }
-}
-
-void VOS_MemCpy(void* pDst, const void* pSrc, size_t size)
-{
-    if (size != 0)
-    {
-        std::memcpy(pDst, pSrc, size);
-    }
 }
 
 // Everything: what would be printed goes nowhere.

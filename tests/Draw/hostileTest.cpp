@@ -1,6 +1,6 @@
 // Trees that may be anything: no crash, no endless walk, the same picture each time, well-formed as far as brackets
 // tell, and nothing but the context's heap.
-#include "../Asn/randomTree.h"
+#include "../support/hostileTrees.h"
 
 #include "rrcDraw.h"
 
@@ -9,33 +9,9 @@
 namespace
 {
 
-class Hostile : public testing::Test
+class Hostile : public test::HostileTrees
 {
 protected:
-    Hostile()
-    {
-        rtxInitContext(&context_);
-    }
-    ~Hostile() override
-    {
-        rtFreeContext(&context_);
-    }
-
-    CellGroupConfig& random(uint64_t seed, unsigned budget, unsigned faults)
-    {
-        test::RandomTree::Options options;
-        options.budget = budget;
-        options.sameIdentity = seed % 2 == 0;
-        test::RandomTree random(context_, seed, options);
-        const RtxType& type = *asn1Type_CellGroupConfig();
-        auto& tree = *static_cast<CellGroupConfig*>(random.make(type));
-        if (faults != 0)
-        {
-            (void)random.spoil(type, &tree, faults);
-        }
-        return tree;
-    }
-
     static void expectSvg(const std::string& svg)
     {
         EXPECT_TRUE(svg.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\""));
@@ -44,8 +20,6 @@ protected:
         EXPECT_EQ(std::string::npos, svg.find("inf\""));
         EXPECT_EQ(std::count(svg.begin(), svg.end(), '<'), std::count(svg.begin(), svg.end(), '>'));
     }
-
-    OSCTXT context_;
 };
 
 TEST_F(Hostile, RandomTrees)
@@ -55,7 +29,7 @@ TEST_F(Hostile, RandomTrees)
         SCOPED_TRACE("seed " + std::to_string(seed));
         RrcRuleContext known{};
         known.band = seed % 3 == 0 ? 78 : 0;
-        const CellGroupConfig& tree = random(seed, 2000, seed % 4 == 0 ? 0 : static_cast<unsigned>(seed % 7));
+        const CellGroupConfig& tree = any(seed);
         const draw::Options options = {seed % 5 == 0 ? static_cast<unsigned>(seed) : 0U,
                                        seed % 3 == 0 ? static_cast<unsigned>(seed % 200) : 0U};
         const auto heap = context_.heap;
@@ -74,11 +48,8 @@ TEST_F(Hostile, RandomTreesWithAnEarlierConfiguration)
     for (uint64_t seed = 0; seed < TREES / 5; ++seed)
     {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        CellGroupConfig& earlier = random(seed, 1000, seed % 3 == 0 ? 2 : 0);
-        CellGroupConfig& tree = random(seed % 2 == 0 ? seed : seed + 2000, 500, seed % 5 == 0 ? 2 : 0);
-        tree.cellGroupId = earlier.cellGroupId;
         RrcRuleContext known{};
-        known.previous = &earlier;
+        const CellGroupConfig& tree = withPrevious(seed, known);
         const std::string svg = draw::svg(context_, tree, &known, {});
         if (svg.empty())
         {

@@ -1,6 +1,6 @@
 // Trees that may be anything: no crash, no endless walk, the same meanings each time, and nothing but the context's
 // heap.
-#include "../Asn/randomTree.h"
+#include "../support/hostileTrees.h"
 
 #include "rrcExplain.h"
 
@@ -11,33 +11,9 @@ extern "C" int meaningInC(void);
 namespace
 {
 
-class Hostile : public testing::Test
+class Hostile : public test::HostileTrees
 {
 protected:
-    Hostile()
-    {
-        rtxInitContext(&context_);
-    }
-    ~Hostile() override
-    {
-        rtFreeContext(&context_);
-    }
-
-    CellGroupConfig& random(uint64_t seed, unsigned budget, unsigned faults)
-    {
-        test::RandomTree::Options options;
-        options.budget = budget;
-        options.sameIdentity = seed % 2 == 0;
-        test::RandomTree random(context_, seed, options);
-        const RtxType& type = *asn1Type_CellGroupConfig();
-        auto& tree = *static_cast<CellGroupConfig*>(random.make(type));
-        if (faults != 0)
-        {
-            (void)random.spoil(type, &tree, faults);
-        }
-        return tree;
-    }
-
     struct Told
     {
         const void* value;
@@ -75,8 +51,6 @@ protected:
         }
         return all;
     }
-
-    OSCTXT context_;
 };
 
 TEST_F(Hostile, RandomTrees)
@@ -87,7 +61,7 @@ TEST_F(Hostile, RandomTrees)
         SCOPED_TRACE("seed " + std::to_string(seed));
         RrcRuleContext known{};
         known.band = seed % 3 == 0 ? 78 : 0;
-        const CellGroupConfig& tree = random(seed, 2000, seed % 4 == 0 ? 0 : static_cast<unsigned>(seed % 7));
+        const CellGroupConfig& tree = any(seed);
         const std::vector<std::string> first = lines(tree, &known);
         ASSERT_THAT(lines(tree, &known), testing::ElementsAreArray(first));
         all += first.size();
@@ -102,11 +76,8 @@ TEST_F(Hostile, RandomTreesWithAnEarlierConfiguration)
     for (uint64_t seed = 0; seed < 200; ++seed)
     {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        CellGroupConfig& earlier = random(seed, 1000, seed % 3 == 0 ? 2 : 0);
-        CellGroupConfig& tree = random(seed % 2 == 0 ? seed : seed + 2000, 500, seed % 5 == 0 ? 2 : 0);
-        tree.cellGroupId = earlier.cellGroupId;
         RrcRuleContext known{};
-        known.previous = &earlier;
+        const CellGroupConfig& tree = withPrevious(seed, known);
         std::vector<Told> told;
         const int64_t result = tell(tree, &known, told);
         applied += result >= 0 ? 1 : 0;

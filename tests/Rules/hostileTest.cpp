@@ -1,6 +1,6 @@
 // Rules on trees that may be anything: no crash, no endless walk, the same findings each time, a path that leads
 // somewhere, and nothing but the context's heap.
-#include "../Asn/randomTree.h"
+#include "../support/hostileTrees.h"
 
 #include "rrcRules.h"
 
@@ -13,33 +13,9 @@ extern "C" int64_t findingsInC(void);
 namespace
 {
 
-class Hostile : public testing::Test
+class Hostile : public test::HostileTrees
 {
 protected:
-    Hostile()
-    {
-        rtxInitContext(&context_);
-    }
-    ~Hostile() override
-    {
-        rtFreeContext(&context_);
-    }
-
-    CellGroupConfig& random(uint64_t seed, unsigned budget, unsigned faults)
-    {
-        test::RandomTree::Options options;
-        options.budget = budget;
-        options.sameIdentity = seed % 2 == 0;
-        test::RandomTree random(context_, seed, options);
-        const RtxType& type = *asn1Type_CellGroupConfig();
-        auto& tree = *static_cast<CellGroupConfig*>(random.make(type));
-        if (faults != 0)
-        {
-            (void)random.spoil(type, &tree, faults);
-        }
-        return tree;
-    }
-
     // What rrcCheckRules returns, and a line for each call of its sink.
     int64_t tryCheck(const CellGroupConfig& tree, const RrcRuleContext& known, std::vector<std::string>& lines)
     {
@@ -68,8 +44,6 @@ protected:
         rtxErrFormat(&context_, line, sizeof line);
         return line;
     }
-
-    OSCTXT context_;
 };
 
 RrcRuleContext some(uint64_t seed)
@@ -88,7 +62,7 @@ TEST_F(Hostile, RandomTrees)
     {
         SCOPED_TRACE("seed " + std::to_string(seed));
         const RrcRuleContext known = some(seed);
-        const CellGroupConfig& tree = random(seed, 2000, seed % 4 == 0 ? 0 : static_cast<unsigned>(seed % 7));
+        const CellGroupConfig& tree = any(seed);
         const std::vector<std::string> first = check(tree, known);
         ASSERT_THAT(check(tree, known), testing::ElementsAreArray(first));
         rtFreeContext(&context_);
@@ -103,10 +77,7 @@ TEST_F(Hostile, RandomTreesWithAnEarlierConfiguration)
     {
         SCOPED_TRACE("seed " + std::to_string(seed));
         RrcRuleContext known = some(seed);
-        CellGroupConfig& earlier = random(seed, 1000, seed % 3 == 0 ? 2 : 0);
-        CellGroupConfig& tree = random(seed % 2 == 0 ? seed : seed + 2000, 500, seed % 5 == 0 ? 2 : 0);
-        tree.cellGroupId = seed % 11 == 0 ? tree.cellGroupId : earlier.cellGroupId;
-        known.previous = &earlier;
+        const CellGroupConfig& tree = withPrevious(seed, known);
         std::vector<std::string> first;
         const int64_t result = tryCheck(tree, known, first);
         std::vector<std::string> second;
