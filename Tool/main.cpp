@@ -276,9 +276,9 @@ private:
 
     void allKnown(CLI::App& app)
     {
-        for (const tool::InputOption& option : tool::inputOptions())
+        for (OSUINT32 i = 0; i < rrcSettingCount(); ++i)
         {
-            known(app, option);
+            known(app, *rrcSettingAt(i));
         }
     }
 
@@ -572,7 +572,7 @@ private:
     }
 
     // What is known besides the message.
-    void known(CLI::App& app, const tool::InputOption& option)
+    void known(CLI::App& app, const RrcSetting& option)
     {
         const std::string name = "--" + std::string(option.name);
         const auto add = [this, &option, name](const std::string& value)

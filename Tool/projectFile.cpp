@@ -77,22 +77,21 @@ private:
     {
         for (const auto& [key, node] : context)
         {
-            const InputOption* found = nullptr;
-            std::vector<std::string_view> names;
-            for (const InputOption& option : inputOptions())
-            {
-                names.emplace_back(option.name);
-                found = key == option.name ? &option : found;
-            }
+            const RrcSetting* const found = rrcSettingByName(std::string(key.str()).c_str());
             if (found == nullptr)
             {
+                std::vector<std::string_view> names;
+                for (OSUINT32 i = 0; i < rrcSettingCount(); ++i)
+                {
+                    names.emplace_back(rrcSettingAt(i)->name);
+                }
                 fail(key.source(), unknown(key, names));
             }
             readSetting(*found, node);
         }
     }
 
-    void readSetting(const InputOption& option, const toml::node& node)
+    void readSetting(const RrcSetting& option, const toml::node& node)
     {
         const std::string what = option.name;
         if (*option.argument == '\0')
@@ -106,7 +105,7 @@ private:
                 add(option, node, "");
             }
         }
-        else if (const toml::array* const values = node.as_array(); values != nullptr && option.isRepeatable)
+        else if (const toml::array* const values = node.as_array(); values != nullptr && option.isRepeatable != 0)
         {
             for (const toml::node& value : *values)
             {
@@ -119,7 +118,7 @@ private:
         }
     }
 
-    std::string word(const InputOption& option, const toml::node& node) const
+    std::string word(const RrcSetting& option, const toml::node& node) const
     {
         if (const auto number = node.value_exact<std::int64_t>())
         {
@@ -128,14 +127,15 @@ private:
         const auto value = node.value_exact<std::string>();
         if (!value)
         {
-            fail(node.source(), std::string(option.name) + (option.isRepeatable ? " is a string or an array of them"
-                                                                                : " is a string or a number"));
+            fail(node.source(),
+                 std::string(option.name) +
+                     (option.isRepeatable != 0 ? " is a string or an array of them" : " is a string or a number"));
         }
         const bool isFile = std::string_view(option.argument) == "FILE";
         return isFile ? (fs::path(name_).parent_path() / *value).string() : *value;
     }
 
-    void add(const InputOption& option, const toml::node& node, const std::string& value)
+    void add(const RrcSetting& option, const toml::node& node, const std::string& value)
     {
         file_.context.push_back({&option, value, place(node.source()) + ": " + option.name});
     }

@@ -123,19 +123,18 @@ RuleVerdict ruleFindings(Message& message, const RrcRuleContext& known, const st
     const auto* const element = static_cast<const CellGroupConfig*>(message.value());
     Asked asked{context, choice, {}, {}};
     std::vector<Finding> refused;
-    std::int64_t status = rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
-    if (status < 0 && status != RTX_E_HEAP && all.previous != nullptr)
+    const auto check = [&]
     {
-        Finding finding = asFinding(page::refusalFinding(context.error));
-        if (choice.has(finding.id))
+        return rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
+    };
+    const auto refuse = [&](page::MessageFinding&& refusal)
+    {
+        if (choice.has(refusal.id))
         {
-            refused.push_back(std::move(finding));
+            refused.push_back(asFinding(std::move(refusal)));
         }
-        rtxErrReset(&context);
-        all.previous = nullptr;
-        all.extent = RRC_RULE_EXTENT_DELTA;
-        status = rrcCheckSomeRules(&context, element, &all, wanted, take, &asked);
-    }
+    };
+    const std::int64_t status = page::checkOrAsDelta(context, all, check, refuse);
     if (status < 0)
     {
         throw Failure(Exit::Usage, "out of memory");

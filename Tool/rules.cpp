@@ -126,9 +126,9 @@ void rules(Session& session, const Operands& prefixes, bool json)
         session.put(listed(rows, session.color()));
         return;
     }
-    constexpr int indent = 2;
+    constexpr int spaces = 2;
     const Json all = {{"version", 1}, {"rules", std::move(between)}, {"recordRules", std::move(ofRecords)}};
-    session.put(all.dump(indent) + "\n");
+    session.put(all.dump(spaces) + "\n");
 }
 
 } // namespace tool

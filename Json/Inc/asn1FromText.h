@@ -13,6 +13,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 // A text of more octets is refused.
 #define ASN1_MAX_TEXT 0x4000000
 
@@ -41,6 +43,8 @@ int asn1FromJson(OSCTXT* pctxt, const RtxType* type, void* value, const char* te
 // Reads flat lines, `path = value`, in any order: docs/asn1.md. Returns the number of mistakes.
 int asn1FromFlat(OSCTXT* pctxt, const RtxType* type, void* value, const char* text, size_t length, Asn1MistakeSink sink,
                  void* arg);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

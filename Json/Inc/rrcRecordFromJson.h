@@ -10,6 +10,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 // More values than a record's texts may have, those of the files that they include among them.
 #define RRC_RECORD_MAX_VALUES 4000000
 
@@ -33,6 +35,8 @@ typedef void (*RrcRecordMistakeSink)(void* arg, const RrcRecordMistake* mistake)
 // number of mistakes, without fields that are not read.
 int rrcRecordFromJson(RrcCellGroupCfg_t* record, const char* text, size_t length, const char* file,
                       RrcRecordMistakeSink sink, void* arg);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }
