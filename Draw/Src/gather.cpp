@@ -207,7 +207,7 @@ void Gather::chooseSlots(Grid& grid)
         count = 1;
         const auto join = [&](OSUINT32 period)
         {
-            count = period == 0 ? count : std::min(std::lcm(count, period), OSUINT32{::draw::usualMostSlots});
+            count = period == 0 ? count : std::min(std::lcm(count, period), OSUINT32{RRC_DRAW_USUAL_SLOTS});
         };
         for (const Panel& panel : grid.panels)
         {
@@ -221,7 +221,7 @@ void Gather::chooseSlots(Grid& grid)
             join(gridSlots(*tdd, grid.mu));
         }
     }
-    grid.slots = {options_.firstSlot, std::min(count, OSUINT32{::draw::mostSlots})};
+    grid.slots = {options_.firstSlot, std::min(count, OSUINT32{RRC_DRAW_MAX_SLOTS})};
 }
 
 bool Gather::isFree(const Grid& grid, const Resource& resource, OSUINT32 slot)

@@ -37,7 +37,7 @@ struct Place
 class Gather
 {
 public:
-    Gather(Model& modelOf, const Paths& pathsOf, const ::draw::Options& options)
+    Gather(Model& modelOf, const Paths& pathsOf, const RrcDrawOptions& options)
         : model(modelOf), tree(modelOf.tree), paths(pathsOf), options_(options)
     {
     }
@@ -83,7 +83,7 @@ private:
     // Whether none of a resource's symbols is of the downlink.
     bool isFree(const Grid& grid, const Resource& resource, OSUINT32 slot);
 
-    const ::draw::Options& options_;
+    const RrcDrawOptions& options_;
     CellPicture made_;
     std::vector<Place> places_;
     Cell* cell_ = nullptr;

@@ -831,7 +831,8 @@ private:
 } // namespace
 } // namespace rules::draw
 
-std::string draw::svg(OSCTXT& ctxt, const CellGroupConfig& value, const RrcRuleContext* known, const Options& options)
+std::string draw::svg(OSCTXT& ctxt, const CellGroupConfig& value, const RrcRuleContext* known,
+                      const RrcDrawOptions& options)
 {
     using namespace rules;
     static constexpr RrcRuleContext nothing{};
@@ -854,4 +855,21 @@ std::string draw::svg(OSCTXT& ctxt, const CellGroupConfig& value, const RrcRuleC
         cells.push_back(gather.picture(cell));
     }
     return memory.failed() ? std::string() : rules::draw::Svg(cells).write();
+}
+
+int rrcDraw(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRuleContext* known, const RrcDrawOptions* options,
+            RtxPrintSink sink, void* arg)
+{
+    if (pctxt == nullptr || pvalue == nullptr || sink == nullptr)
+    {
+        return RTX_E_NULL;
+    }
+    static constexpr RrcDrawOptions usual{};
+    const std::string text = draw::svg(*pctxt, *pvalue, known, options == nullptr ? usual : *options);
+    if (text.empty())
+    {
+        return pctxt->error.status;
+    }
+    sink(arg, text.c_str());
+    return RTX_OK;
 }

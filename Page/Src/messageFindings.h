@@ -41,4 +41,21 @@ MessageFinding noteFinding(const std::string& note);
 // Of a message that cannot be applied to what the UE has.
 MessageFinding refusalFinding(const RtxError& error);
 
+// What `check` returns with what is known; of a message that cannot be applied to `known.previous` `refused` gets the
+// finding, and it is checked as a delta to what nobody knows.
+template <typename Check, typename Refused>
+std::int64_t checkOrAsDelta(OSCTXT& context, RrcRuleContext& known, const Check& check, const Refused& refused)
+{
+    const std::int64_t status = check();
+    if (status >= 0 || status == RTX_E_HEAP || known.previous == nullptr)
+    {
+        return status;
+    }
+    refused(refusalFinding(context.error));
+    rtxErrReset(&context);
+    known.previous = nullptr;
+    known.extent = RRC_RULE_EXTENT_DELTA;
+    return check();
+}
+
 } // namespace page

@@ -85,15 +85,9 @@ private:
 
     void rules()
     {
-        std::int64_t status = check();
-        if (status < 0 && status != RTX_E_HEAP && known_.previous != nullptr)
-        {
-            add(refusalFinding(tree_.context().error), {});
-            rtxErrReset(&tree_.context());
-            known_.previous = nullptr;
-            known_.extent = RRC_RULE_EXTENT_DELTA;
-            status = check();
-        }
+        const std::int64_t status = checkOrAsDelta(
+            tree_.context(), known_, [&] { return check(); },
+            [&](MessageFinding&& refusal) { add(std::move(refusal), {}); });
         if (status < 0)
         {
             remarks_.refusal = "out of memory";

@@ -38,3 +38,26 @@ std::string document(std::span<const Shown> messages, const RrcRuleContext* know
 }
 
 } // namespace page
+
+int rrcPage(const RrcPageMessage* messages, size_t count, const RrcRuleContext* known, const OSOCTET* held,
+            size_t heldOctets, RtxPrintSink sink, void* arg)
+{
+    if (messages == nullptr || sink == nullptr)
+    {
+        return RTX_E_NULL;
+    }
+    if (count == 0 || count > 2)
+    {
+        return RTX_E_SIZE;
+    }
+    std::vector<page::Shown> shown;
+    for (const RrcPageMessage& message : std::span(messages, count))
+    {
+        shown.push_back({message.name == nullptr ? "" : message.name,
+                         message.note == nullptr ? "" : message.note,
+                         {message.octets, message.octets + message.numocts}});
+    }
+    const std::string text = page::document(shown, known, {held, heldOctets});
+    sink(arg, text.c_str());
+    return RTX_OK;
+}

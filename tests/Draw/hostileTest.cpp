@@ -30,8 +30,8 @@ TEST_F(Hostile, RandomTrees)
         RrcRuleContext known{};
         known.band = seed % 3 == 0 ? 78 : 0;
         const CellGroupConfig& tree = any(seed);
-        const draw::Options options = {seed % 5 == 0 ? static_cast<unsigned>(seed) : 0U,
-                                       seed % 3 == 0 ? static_cast<unsigned>(seed % 200) : 0U};
+        const RrcDrawOptions options = {seed % 5 == 0 ? static_cast<unsigned>(seed) : 0U,
+                                        seed % 3 == 0 ? static_cast<unsigned>(seed % 200) : 0U};
         const auto heap = context_.heap;
         const std::string first = draw::svg(context_, tree, &known, options);
         EXPECT_EQ(heap.blocks, context_.heap.blocks);

@@ -69,7 +69,7 @@ const open = async (name, options = {}) =>
     const context = await browser.newContext({viewport: {width: 1400, height: 950}, offline: true, ...options});
     await context.addInitScript({path: partsFile});
     const page = await context.newPage();
-    page.setDefaultTimeout(10000);
+    page.setDefaultTimeout(60000); // a busy machine is slow, not wrong
     const url = pathToFileURL(path.join(folder, name)).href;
     page.complaints = [];
     page.on("console", (message) => page.complaints.push(`console: ${message.text()}`));
@@ -411,7 +411,7 @@ const tests = {
                 field.value = value;
                 field.dispatchEvent(new Event("input", {bubbles: true}));
             }, text);
-            await page.waitForFunction(() => document.getElementById("status").textContent !== "", null, {timeout: 20000});
+            await page.waitForFunction(() => document.getElementById("status").textContent !== "");
             return page.locator("#status").innerText();
         };
         const said = (text) => spawnSync(program, ["decode", "-"], {input: text, encoding: "utf8"}).stderr;

@@ -1,0 +1,137 @@
+#include "rrcMessageFindings.h"
+
+#include "encodingIds.h"
+#include "fields.h"
+#include "messageFindings.h"
+
+#include <optional>
+
+namespace page
+{
+namespace
+{
+
+constexpr const char* rootName = "CellGroupConfig";
+
+class Search
+{
+public:
+    Search(const RrcRuleContext* known, RrcMessageSink sink, void* arg) : sink_(sink), arg_(arg)
+    {
+        rtxInitContext(&context_);
+        if (known != nullptr)
+        {
+            known_ = *known;
+        }
+        known_.previous = nullptr;
+    }
+    ~Search()
+    {
+        rtFreeContext(&context_);
+    }
+    Search(const Search&) = delete;
+    Search& operator=(const Search&) = delete;
+
+    int hold(const OSOCTET* held, size_t count)
+    {
+        (void)pu_setBuffer(&context_, const_cast<OSOCTET*>(held), count, 0);
+        known_.previous = &held_;
+        return asn1PD_CellGroupConfig(&context_, &held_);
+    }
+
+    int look(const OSOCTET* octets, size_t count)
+    {
+        const auto note = [](void* to, const RtxField* field)
+        {
+            std::string& first = *static_cast<std::string*>(to);
+            first = first.empty() ? noteText(rootName, *field) : first;
+        };
+        std::string first;
+        (void)pu_setBuffer(&context_, const_cast<OSOCTET*>(octets), count, 0);
+        if (asn1Trace_CellGroupConfig(&context_, &value_, note, &first) != RTX_OK)
+        {
+            tell(findingOf(context_.error));
+            return context_.error.status == RTX_E_HEAP ? RTX_E_HEAP : RTX_OK;
+        }
+        const RtxDecoded decoded = context_.decoded;
+        const auto constraint = [](void* to, const RtxError* error)
+        {
+            return static_cast<Search*>(to)->tell(findingOf(*error));
+        };
+        (void)asn1Check_CellGroupConfig(&context_, &value_, constraint, this);
+        if (decoded.unknown != 0)
+        {
+            tell(unknownFinding(rootName, decoded.unknown));
+        }
+        if (decoded.note != RTX_NOTE_NONE)
+        {
+            tell(noteFinding(first));
+        }
+        return isEnded_ ? RTX_OK : rules();
+    }
+
+private:
+    int rules()
+    {
+        const auto rule = [](void* to, const RrcRuleFinding* told)
+        {
+            return static_cast<Search*>(to)->tell(findingOf(*told));
+        };
+        const std::int64_t status = checkOrAsDelta(
+            context_, known_, [&] { return rrcCheckRules(&context_, &value_, &known_, rule, this); },
+            [&](MessageFinding&& refusal) { tell(refusal); });
+        return status < 0 ? static_cast<int>(status) : RTX_OK;
+    }
+
+    int tell(const MessageFinding& found)
+    {
+        if (!isEnded_)
+        {
+            const RrcMessageFinding finding = {found.id.c_str(),      found.severity,       found.path.c_str(),
+                                               found.message.c_str(), found.value.c_str(),  found.allowed.c_str(),
+                                               found.advice.c_str(),  found.clause.c_str(), found.decidedBy};
+            isEnded_ = sink_(arg_, &finding) != 0;
+        }
+        return isEnded_ ? 1 : 0;
+    }
+
+    RrcMessageSink sink_;
+    void* arg_;
+    OSCTXT context_;
+    RrcRuleContext known_{};
+    CellGroupConfig held_{};
+    CellGroupConfig value_{};
+    bool isEnded_ = false;
+};
+
+const EncodingId* wordsNamed(const char* id)
+{
+    return id == nullptr ? nullptr : encodingIdNamed(id);
+}
+
+} // namespace
+} // namespace page
+
+int rrcMessageFindings(const OSOCTET* octets, size_t numocts, const RrcRuleContext* known, const OSOCTET* held,
+                       size_t heldOctets, RrcMessageSink sink, void* arg)
+{
+    if (octets == nullptr || sink == nullptr)
+    {
+        return RTX_E_NULL;
+    }
+    page::Search search(known, sink, arg);
+    const int status = held == nullptr || heldOctets == 0 ? RTX_OK : search.hold(held, heldOctets);
+    return status != RTX_OK ? status : search.look(octets, numocts);
+}
+
+const char* rrcFindingAdvice(const char* id)
+{
+    const page::EncodingId* const words = page::wordsNamed(id);
+    return words == nullptr ? nullptr : words->advice;
+}
+
+const char* rrcFindingClause(const char* id)
+{
+    const page::EncodingId* const words = page::wordsNamed(id);
+    return words == nullptr ? nullptr : words->clause;
+}
