@@ -24,7 +24,8 @@ endfunction()
 # What g++ 12 does by itself is slow for elements of some hundred octets that are cleared one by one, and for the
 # encoder's two registers: it clears with string instructions and joins the registers in a vector that it stores and
 # loads. bench/README.md says how to measure it.
-set(CGC_GNU_OPTIONS -fno-tree-slp-vectorize)
+# What a header declares can be offered by a shared library, and is inlined all the same.
+set(CGC_GNU_OPTIONS -fno-tree-slp-vectorize -fno-semantic-interposition)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
     list(APPEND CGC_GNU_OPTIONS -mmemset-strategy=unrolled_loop:64:noalign,libcall:-1:noalign)
 endif()
@@ -68,11 +69,29 @@ endfunction()
 
 # cgc_install_headers(<folder>): the folder's headers, subfolders kept, go to the package's include folder.
 function(cgc_install_headers folder)
-    install(
-        DIRECTORY ${folder}/
-        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/cellgroupcfg"
-        FILES_MATCHING
-        PATTERN "*.h"
+    if(CELLGROUPCFG_INSTALL)
+        install(
+            DIRECTORY ${folder}/
+            DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/cellgroupcfg"
+            COMPONENT development
+            FILES_MATCHING
+            PATTERN "*.h"
+        )
+    endif()
+endfunction()
+
+# cgc_shared(<target> MAP <file>)
+# A shared library offers what its map names, under the version of its ABI; everything else in it is out of sight.
+function(cgc_shared target)
+    cmake_parse_arguments(arg "" "MAP" "" ${ARGN})
+    set(map "${CMAKE_CURRENT_BINARY_DIR}/${arg_MAP}")
+    configure_file("${arg_MAP}.in" "${map}" @ONLY)
+    set_target_properties(
+        ${target}
+        PROPERTIES VERSION ${CELLGROUPCFG_ABI}.${PROJECT_VERSION_MINOR}.${PROJECT_VERSION_PATCH} SOVERSION ${CELLGROUPCFG_ABI} LINK_DEPENDS "${map}"
+    )
+    target_link_options(
+        ${target} PRIVATE "LINKER:--version-script=${map}" LINKER:--exclude-libs,ALL LINKER:--as-needed
     )
 endfunction()
 
@@ -82,6 +101,7 @@ function(cgc_program target)
     add_executable(${target} ${arg_SOURCES})
     cgc_compile_options(${target})
     target_link_libraries(${target} PRIVATE ${arg_LIBS})
+    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF) # its files may give one name to different things
 endfunction()
 
 # cgc_test(<name> SOURCES <file>... LIBS <library>...)
@@ -105,9 +125,11 @@ function(cgc_use_test_headers name)
     endif()
 endfunction()
 
-# Gives a test that starts threads the label of that name and lets the target of that name build it: those are what the
+# Gives a test that starts threads the label of that name and lets the target cellgroupcfg_threads build it: those are what the
 # thread sanitizer looks at.
-add_custom_target(threads)
+if(CELLGROUPCFG_BUILD_TESTS)
+    add_custom_target(cellgroupcfg_threads)
+endif()
 function(cgc_label_threads name)
     get_target_property(sources ${name} SOURCES)
     foreach(source IN LISTS sources)
@@ -118,7 +140,7 @@ function(cgc_label_threads name)
         file(STRINGS "${source}" starts REGEX "std::j?thread|std::async|pthread_create")
         if(starts)
             set_property(TEST ${name} PROPERTY LABELS threads)
-            add_dependencies(threads ${name})
+            add_dependencies(cellgroupcfg_threads ${name})
         endif()
     endforeach()
 endfunction()
@@ -167,4 +189,19 @@ function(cgc_message_test name)
         ${name}
         PROPERTIES ENVIRONMENT "CELLGROUPCFG_ORACLE_FILE=${messages}" FIXTURES_SETUP oracle_messages FIXTURES_REQUIRED oracle_folder
     )
+endfunction()
+
+# cgc_python(<variable> <module>...): a Python that has these modules, of Debian's packages or of whichever python3 is
+# first in PATH; else NOTFOUND.
+function(cgc_python variable)
+    find_package(Python3 COMPONENTS Interpreter QUIET)
+    list(JOIN ARGN ", " imports)
+    set(${variable} NOTFOUND PARENT_SCOPE)
+    foreach(candidate IN ITEMS /usr/bin/python3 ${Python3_EXECUTABLE})
+        execute_process(COMMAND "${candidate}" -c "import ${imports}" RESULT_VARIABLE missing OUTPUT_QUIET ERROR_QUIET)
+        if(missing EQUAL 0)
+            set(${variable} "${candidate}" PARENT_SCOPE)
+            break()
+        endif()
+    endforeach()
 endfunction()

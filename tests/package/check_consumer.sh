@@ -1,35 +1,35 @@
 #!/usr/bin/env bash
-# check_consumer.sh <cmake> <build> <scratch> <cmake option>...: installs the build, then builds and runs a C and a C++
-# project that find the package.
+# check_consumer.sh <cmake> <build> <scratch> <C compiler> <C++ compiler> <C flags> <linker flags> <cmake option>...:
+# installs the build, looks at what is there, has products use it, and takes it away again.
 set -euo pipefail
-cmake=$1 build=$2 scratch=$3
-shift 3
+cmake=$1 build=$2 scratch=$3 cc=$4 cxx=$5 cflags=$6 ldflags=$7
+shift 7
 here=$(cd "$(dirname "$0")" && pwd)
+installed=$scratch/installed
 
-rm -rf "$scratch/installed" "$scratch/c" "$scratch/cxx"
-"$cmake" --install "$build" --prefix "$scratch/installed" >"$scratch/install.log"
+rm -rf "$installed"
+"$cmake" --install "$build" --prefix "$installed" >"$scratch/install.log"
+"$here/check_headers.sh" "$cc" "$cxx" "$installed/include"
 
 # The tool, where it is built.
 if [ -e "$build/Tool/cellgroupcfg" ]; then
-    "$scratch/installed/bin/cellgroupcfg" --version
-    grep -q '^\.TH "cellgroupcfg" "1"' "$scratch/installed/share/man/man1/cellgroupcfg.1"
-    bash -n "$scratch/installed/share/bash-completion/completions/cellgroupcfg"
+    "$installed/bin/cellgroupcfg" --version
+    grep -q '^\.TH "cellgroupcfg" "1"' "$installed/share/man/man1/cellgroupcfg.1"
+    bash -n "$installed/share/bash-completion/completions/cellgroupcfg"
 fi
 
-for language in c cxx; do
-    "$cmake" -S "$here/consumer" -B "$scratch/$language" "-DCONSUMER_LANGUAGE=${language^^}" \
-        "-DCMAKE_PREFIX_PATH=$scratch/installed" "$@"
-    "$cmake" --build "$scratch/$language"
-    programs="static shared own_platform rules"
-    [ "$language" = c ] || programs+=" drawn"
-    for program in $programs; do
-        echo "== $language $program"
-        "$scratch/$language/$program"
-    done
-    # Of C++ alone.
-    if [ "$language" = cxx ]; then
-        echo "== $language page"
-        "$scratch/$language/page" >"$scratch/page.html"
-        grep -q '<li>cellGroupId 0' "$scratch/page.html"
-    fi
+# What lies in the build's installation of a component, and what does not.
+for component in runtime development tool docs; do
+    "$cmake" --install "$build" --prefix "$scratch/$component" --component "$component" >/dev/null
 done
+[ -z "$(find "$scratch/runtime" -name '*.a' -o -name '*.h' -o -name '*.so')" ]
+[ -n "$(find "$scratch/runtime" -name 'libcellgroupcfg.so.0')" ]
+[ -z "$(find "$scratch/development" -name '*.so.*')" ]
+[ -n "$(find "$scratch/development" -name 'libcellgroupcfg.so')" ]
+rm -rf "$scratch/runtime" "$scratch/development" "$scratch/tool" "$scratch/docs"
+
+"$here/check_products.sh" "$cmake" "$installed" "$scratch" "$cc" "$cflags" "$ldflags" "$@"
+
+"$cmake" "-DBINARY_DIR=$build" -P "$here/../../cmake/uninstall.cmake"
+left=$(find "$installed" -type f -o -type l)
+[ -z "$left" ] || { echo "left behind: $left"; exit 1; }

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# check_symbols.sh <nm> <readelf> <shared library>: what the library offers, what it leaves to the program, and what
+# check_symbols.sh <nm> <readelf> <shared library> <ABI>: what the library offers, what it leaves to the program, and what
 # it loads.
 set -euo pipefail
-nm=$1 readelf=$2 library=$3
+nm=$1 readelf=$2 library=$3 abi=$4
 
 expect()
 {
@@ -13,7 +13,16 @@ expect()
     fi
 }
 
-expect "exported" "rrcComposeCellGroupCfg
+# Each under the version of the ABI, which is a symbol by itself.
+version=CELLGROUPCFG_$abi
+exported=$("$nm" -D --defined-only "$library" | awk '{ print $NF }' | LC_ALL=C sort)
+expect "without the version $version" "" "$(grep -v "@@$version\$" <<<"$exported" | grep -vxF "$version" || true)"
+expect "exported" "$version
+cellgroupcfgAbi
+cellgroupcfgAbiMatches
+cellgroupcfgSizeOf
+cellgroupcfgVersion
+rrcComposeCellGroupCfg
 rrcComposeCellGroupDelta
 rrcComposeCellGroupTree
 rrcEncodeCellGroupCfg
@@ -23,7 +32,7 @@ rrcInitRecordWithPattern
 uint64ToBitString43bit
 uint64ToBitString48bit
 uint64ToBitString59bit
-uint64ToBitString64bit" "$("$nm" -D --defined-only "$library" | awk '{ print $NF }' | LC_ALL=C sort)"
+uint64ToBitString64bit" "${exported//@@$version/}"
 
 # Versioned names are the C library's, names with leading underscores those of the compiler's runtime.
 outside="VOS_MemCpy
@@ -41,5 +50,5 @@ expect "left undefined beside the platform layer and the distributed unit" "" \
     "$(grep -vxF "$outside" <<<"$undefined" || true)"
 expect "taken from the platform layer" "VOS_Printf" "$(grep -xF VOS_Printf <<<"$undefined" || true)"
 
-expect "soname" "[libcellgroupcfg.so.0]" "$("$readelf" -d "$library" | awk '/\(SONAME\)/ { print $NF }')"
+expect "soname" "[libcellgroupcfg.so.$abi]" "$("$readelf" -d "$library" | awk '/\(SONAME\)/ { print $NF }')"
 expect "C++ runtime" "" "$("$readelf" -d "$library" | awk '/\(NEEDED\).*c\+\+/ { print $NF }')"
