@@ -1,6 +1,7 @@
-"""check_console.py <program> <project> [--update]: the console blocks of the documents are run as they stand, in their order within
-a document, in a copy of docs/guide; what is printed, on both streams, has to be what the document shows, or is written into it."""
+"""The console blocks of the documents are run as they stand, in their order within a document, in a copy of docs/guide; what is
+printed, on both streams, has to be what the document shows, or is written into it."""
 
+import argparse
 import difflib
 import os
 import pathlib
@@ -10,8 +11,9 @@ import subprocess
 import sys
 import tempfile
 
+from blocks import documents
+
 BLOCK = re.compile(r"^```console\n(.*?)^```$", re.M | re.S)
-DOCUMENTS = ("README.md", "docs/guide.md", "docs/delta.md", "docs/rules.md")
 
 
 def commands(block):
@@ -27,28 +29,39 @@ def printed(command, place, program):
 
 
 def main():
-    program, project = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
-    count, failed = 0, 0
-    for document in DOCUMENTS:
-        text = (project / document).read_text(encoding="utf-8")
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("program", type=pathlib.Path)
+    parser.add_argument("project", type=pathlib.Path)
+    parser.add_argument("--update", action="store_true")
+    parser.add_argument("--without", metavar="NAME", help="a program that is not here: commands that call it are passed over")
+    options = parser.parse_args()
+    program, project = options.program.resolve(), options.project
+    count, passed_over, failed = 0, 0, 0
+    for document in documents(project):
+        text = document.read_text(encoding="utf-8")
         with tempfile.TemporaryDirectory() as folder:
             place = pathlib.Path(folder) / "guide"
             shutil.copytree(project / "docs/guide", place)
 
             def run(block):
-                lines = [f"$ {command}\n{printed(command, place, program)}" for command, _ in commands(block[1])]
-                nonlocal count
-                count += len(lines)
+                nonlocal count, passed_over
+                lines = []
+                for command, shown in commands(block[1]):
+                    is_here = options.without is None or not re.search(rf"\b{re.escape(options.without)}\b", command)
+                    lines.append(f"$ {command}\n{printed(command, place, program) if is_here else shown}")
+                    count += is_here
+                    passed_over += not is_here
                 return "```console\n" + "".join(lines) + "```"
 
             found = BLOCK.sub(run, text)
-        if "--update" in sys.argv:
-            (project / document).write_text(found, encoding="utf-8")
+        if options.update:
+            document.write_text(found, encoding="utf-8")
         elif found != text:
             failed += 1
-            print("\n".join(difflib.unified_diff(text.splitlines(), found.splitlines(), document, "as printed",
+            print("\n".join(difflib.unified_diff(text.splitlines(), found.splitlines(), str(document), "as printed",
                                                  lineterm="")))
-    print(f"{count} commands, {failed} documents show something else")
+    left = f", {passed_over} passed over" if passed_over else ""
+    print(f"{count} commands{left}, {failed} documents show something else")
     sys.exit(1 if failed or not count else 0)
 
 

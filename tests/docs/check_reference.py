@@ -152,11 +152,7 @@ def described(project):
     sys.path.insert(0, str(project / "scripts"))
     import records
 
-    headers = records.Headers(str(project))
-    schema = records.Schema(*(records.contents(project, name) for name in (records.TABLES, records.CONSTANTS)))
-    reader = records.Reader(headers, schema)
-    reader.describe(headers.order[-1], schema.absolute("CellGroupConfig"), "CellGroupConfig")
-    return reader.order
+    return records.read(str(project)).order
 
 
 def main():
