@@ -1,4 +1,4 @@
-// The cell group of a typical call: from the record to the octets and back to the elements, with --json to JER, too.
+// The cell group of a typical call: from the record to the octets, with --tree back to elements, with --json to JER.
 
 #include <cstring>
 #include <memory>
@@ -10,5 +10,9 @@ int main(int argc, char** argv)
 {
     const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
     typicalCall(*record);
-    return showCellGroup(*record, argc == 2 && std::strcmp(argv[1], "--json") == 0);
+    const auto given = [argc, argv](const char* option)
+    {
+        return argc == 2 && std::strcmp(argv[1], option) == 0;
+    };
+    return showCellGroup(*record, given("--tree") ? Shown::TREE : given("--json") ? Shown::JER : Shown::OCTETS);
 }

@@ -9,5 +9,16 @@ shift
 targets=()
 [ $# -eq 0 ] || targets=(--target "$@")
 
-cmake --preset "$preset" --log-level=NOTICE
-cmake --build --preset "$preset" --parallel "$(nproc)" "${targets[@]}"
+build()
+{
+    cmake --build --preset "$preset" --parallel "$(nproc)" "${targets[@]}"
+}
+
+echo "build: preset $preset, ${*:-all of it}"
+cmake --preset "$preset" --log-level=NOTICE >/dev/null
+# On a terminal ninja keeps to one line.
+if [ -t 1 ]; then
+    build
+else
+    build | scripts/progress.sh
+fi

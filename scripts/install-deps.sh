@@ -1,17 +1,20 @@
 #!/usr/bin/env bash
-# install-deps.sh run|test|browser: installs the Debian packages that ./run, ./test or its step browser needs and that
-# are missing.
-# With nothing missing it does nothing and needs no network.
+# install-deps.sh run|test|browser|package [--list]: installs the Debian packages that ./run, ./test or its steps browser and
+# package need and that are missing, or lists those that are needed.
+# With nothing missing it does nothing and needs no network. Where there is no dpkg, the programs that ./run calls are all
+# that can be looked for.
 set -euo pipefail
 
 run_packages=(g++ cmake ninja-build)
 test_packages=(
     "${run_packages[@]}"
-    binutils clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
+    make pkg-config binutils abigail-tools clang-14 libclang-rt-14-dev clang-format clang-tidy llvm-14
     libgtest-dev libgmock-dev libbenchmark-dev
     libcli11-dev nlohmann-json3-dev libtomlplusplus-dev libpcap-dev scdoc
     lld-14 wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32
     tshark erlang-base erlang-asn1 libxml2-utils python3 python3-clang-14
+    g++-aarch64-linux-gnu g++-i686-linux-gnu qemu-user googletest
+    python3-pytest mypy python3-setuptools python3-wheel python3-pip
 )
 browser_packages=(chromium fonts-dejavu-core)
 # Another Node.js than Debian's is as good.
@@ -19,15 +22,20 @@ if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
     browser_packages+=(nodejs npm)
 fi
 
+# What debian/control asks for beyond those of the tests, and what looks at the packages.
+package_packages=("${test_packages[@]}" debhelper dh-python dpkg-dev git lintian mmdebstrap)
+
 case "${1:-}" in
     run) packages=("${run_packages[@]}") ;;
     test) packages=("${test_packages[@]}") ;;
     browser) packages=("${browser_packages[@]}") ;;
+    package) packages=("${package_packages[@]}") ;;
     *)
-        echo "usage: $0 run|test|browser" >&2
+        echo "usage: $0 run|test|browser|package [--list]" >&2
         exit 2
         ;;
 esac
+[ "${2:-}" != --list ] || { printf '%s\n' "${packages[@]}"; exit 0; }
 
 fail()
 {
@@ -36,7 +44,13 @@ fail()
     exit 1
 }
 
-command -v dpkg-query >/dev/null || fail "this is not a Debian system, nothing can be checked or installed"
+if ! command -v dpkg-query >/dev/null; then
+    [ "$1" = run ] || fail "this is not a Debian system, nothing can be checked or installed"
+    for program in g++ cmake ninja; do
+        command -v "$program" >/dev/null || fail "there is no $program, and this is not a Debian system to install it on"
+    done
+    exit 0
+fi
 
 missing=()
 for package in "${packages[@]}"; do

@@ -1422,6 +1422,15 @@ def contents(top, name):
         return file.read()
 
 
+def read(top):
+    """The headers of the project in `top`, read by its schema; the whole record is the last one in the order."""
+    schema = Schema(contents(top, TABLES), contents(top, CONSTANTS))
+    headers = Headers(top)
+    reader = Reader(headers, schema)
+    reader.describe(headers.order[-1], schema.absolute("CellGroupConfig"), "CellGroupConfig")
+    return reader
+
+
 def written(top, name, text, check):
     """Writes a file, or compares it. Returns what the program returns."""
     path = os.path.join(top, name)
@@ -1441,10 +1450,7 @@ def main():
     parser.add_argument("--top", default=TOP, help="the project's top folder")
     arguments = parser.parse_args()
     top = os.path.abspath(arguments.top)
-    schema = Schema(contents(top, TABLES), contents(top, CONSTANTS))
-    headers = Headers(top)
-    reader = Reader(headers, schema)
-    reader.describe(headers.order[-1], schema.absolute("CellGroupConfig"), "CellGroupConfig")
+    reader = read(top)
     for file, line, text in sorted(reader.problems):
         print(f"{INCLUDES}/{file}:{line}: {text}", file=sys.stderr)
     if reader.problems:

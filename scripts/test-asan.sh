@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# All tests on clang's build with the address and undefined-behaviour sanitizers.
+# Runs all tests on clang's build with the address and undefined-behaviour sanitizers.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The pages in a browser: Debian's chromium, driven by playwright-core from npm. Both are installed for this step alone.
+# Looks at the pages in a browser: Debian's chromium, driven by playwright-core from npm. Both are installed for this step alone.
 # Where they cannot be had the step is skipped and says so; CELLGROUPCFG_REQUIRE_BROWSER=1 makes that a failure.
 # Screenshots for a person's eye go to build/browser.
 set -euo pipefail

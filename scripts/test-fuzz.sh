@@ -1,28 +1,32 @@
 #!/usr/bin/env bash
-# Replays the corpus of every fuzzer, then lets each look for new inputs for FUZZ_SECONDS (10).
-# What it finds is left in build/fuzz/found/<fuzzer>; a mended find belongs into fuzz/corpus/<fuzzer>.
+# Replays the corpus of every fuzzer, then lets each look for new inputs for FUZZ_SECONDS (10), one on each core.
+# What it finds is left in build/asan/found/<fuzzer>; a mended find belongs into fuzz/corpus/<fuzzer>.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/build.sh fuzz
+scripts/build.sh asan
 
-count=0
-for fuzzer in build/fuzz/fuzzers/*; do
-    [ -x "$fuzzer" ] || continue
+fuzz()
+{
+    set -euo pipefail
+    fuzzer=$1
     name=$(basename "$fuzzer")
     corpus=fuzz/corpus/$name
-    found=build/fuzz/found/$name
+    found=build/asan/found/$name
+    grown=build/asan/grown/$name
+    log=build/asan/found/$name.log
     [ -n "$(ls -A "$corpus" 2>/dev/null)" ] || { echo "test-fuzz: $corpus has no input" >&2; exit 1; }
-    rm -rf "build/fuzz/grown/$name"
-    mkdir -p "$found" "build/fuzz/grown/$name"
+    rm -rf "$grown"
+    mkdir -p "$found" "$grown"
 
-    for job in "-runs=0 $corpus" "-max_total_time=${FUZZ_SECONDS:-10} build/fuzz/grown/$name $corpus"; do
-        echo "== $name $job"
+    for job in "-runs=0 $corpus" "-max_total_time=${FUZZ_SECONDS:-10} $grown $corpus"; do
         # shellcheck disable=SC2086 # a job is several words
-        "$fuzzer" -timeout=10 -print_final_stats=1 -artifact_prefix="$found/" $job >build/fuzz/log 2>&1 ||
-            { cat build/fuzz/log >&2; exit 1; }
-        grep 'number_of_executed_units' build/fuzz/log
+        "$fuzzer" -timeout=10 -print_final_stats=1 -artifact_prefix="$found/" $job >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+        echo "== $name $job: $(sed -n 's/.*number_of_executed_units: *//p' "$log") inputs"
     done
-    count=$((count + 1))
-done
-[ "$count" -gt 0 ] || { echo "test-fuzz: no fuzzer was built" >&2; exit 1; }
+}
+export -f fuzz
+
+fuzzers=$(find build/asan/fuzzers -type f -executable | LC_ALL=C sort)
+[ -n "$fuzzers" ] || { echo "test-fuzz: no fuzzer was built" >&2; exit 1; }
+xargs -P "$(nproc)" -I {} bash -c 'fuzz {} || exit 255' <<<"$fuzzers"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# All tests on the release build of g++.
+# Runs all tests on the release build of g++.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# clang-tidy over the hand-written sources of the libraries and programs, those of a library in few files as the build
-# joins them: reading headers again for each source would take most of the time. What passed is passed over until one of
-# its sources, any header or the checks change.
+# Runs clang-tidy over the hand-written sources of the libraries and programs. Those of a library are in few files, as the
+# build joins them: reading headers again for each source would take most of the time. What passed is passed over until
+# one of its sources, any header or the checks change. With an argument, only what has it in its path.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -24,16 +24,18 @@ lint()
         for source in "$unit" "${sources[@]}"; do
             [ "$stamp" -nt "$source" ] || break
         done
-        [ "$stamp" -nt "$source" ] && return 0
+        [ "$stamp" -nt "$source" ] && echo "${unit#"$PWD/"} (has passed before)" && return 0
     fi
-    # The joined files include sources; how many warnings of other headers were passed over is nobody's concern.
+    # The joined files include sources. Findings go to standard error, which leaves the other output to the progress;
+    # how many warnings of system headers were passed over is nobody's concern.
     clang-tidy-14 -p build/lint --quiet --checks=-bugprone-suspicious-include "$unit" \
-        2> >(grep -vE '^[0-9]+ warnings? generated\.$' >&2) && touch "$stamp"
+        >&2 2> >(grep -vE '^[0-9]+ warnings? generated\.$' >&2) && touch "$stamp" && echo "${unit#"$PWD/"}"
 }
 export -f lint
 export stamps newest
 
 units=$(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' build/lint/compile_commands.json |
-    grep -vE '/(NR-RRC-[^/]*|version\.cpp|assets\.cpp|cellgroupcfg_(nrrrc|pdus)\.dir/.*)$')
+    grep -vE '/(NR-RRC-[^/]*|version\.cpp|assets\.cpp|cellgroupcfg_(nrrrc|pdus)\.dir/.*)$' | grep -F -- "${1:-}" || true)
 [ -n "$units" ] || { echo "test-lint: nothing to look at" >&2; exit 1; }
-printf '%s\n' "$units" | xargs -P "$(nproc)" -I '{}' bash -c 'lint "$1"' lint '{}'
+count=$(printf '%s\n' "$units" | wc -l)
+printf '%s\n' "$units" | xargs -P "$(nproc)" -I '{}' bash -c 'lint "$1"' lint '{}' | scripts/progress.sh "$count"

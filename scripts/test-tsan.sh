@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# The tests that start threads, on the build with the thread sanitizer.
+# Runs the tests that start threads, on the build with the thread sanitizer.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/build.sh tsan threads
+scripts/build.sh tsan cellgroupcfg_threads
 
 # The sanitizer's fixed memory layout does not go with the address randomisation of newer kernels.
 fixed_addresses=(setarch "$(uname -m)" --addr-no-randomize)
