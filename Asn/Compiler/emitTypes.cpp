@@ -239,6 +239,10 @@ std::string define(const Type& type)
     return "";
 }
 
+// What a header declares is C's, and is what a shared library of it offers.
+constexpr const char* beginC = "#ifdef __cplusplus\nextern \"C\"\n{\n#endif\n\n#pragma GCC visibility push(default)\n";
+constexpr const char* endC = "\n#pragma GCC visibility pop\n\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n";
+
 std::string tableHeader(const Pdus& pdus)
 {
     if (pdus.table.empty())
@@ -265,7 +269,7 @@ std::string emitTypes(const Model& model, const Origin& origin, const Pdus& pdus
     std::string out = generatedMark(origin);
     const std::string mark = guard(pdus.header);
     out += "#ifndef " + mark + "\n#define " + mark + "\n\n#include \"asn1Runtime.h\"\n\n#include <string.h>\n\n";
-    out += "#ifdef __cplusplus\nextern \"C\"\n{\n#endif\n\n";
+    out += std::string(beginC) + "\n";
     out += "enum\n{\n";
     for (const Constant& constant : model.constants)
     {
@@ -297,15 +301,14 @@ std::string emitTypes(const Model& model, const Origin& origin, const Pdus& pdus
         }
     }
     out += pduPrototypes(pdus);
-    return out + "\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n";
+    return out + endC;
 }
 
 std::string emitPduHeader(const Origin& origin, const Pdus& pdus, const std::string& typesHeader)
 {
     const std::string mark = guard(pdus.header);
     return generatedMark(origin) + "#ifndef " + mark + "\n#define " + mark + "\n\n#include \"" + typesHeader +
-           "\"\n\n#ifdef __cplusplus\nextern \"C\"\n{\n#endif\n" + pduPrototypes(pdus) + tableHeader(pdus) +
-           "\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n";
+           "\"\n\n" + beginC + pduPrototypes(pdus) + tableHeader(pdus) + endC;
 }
 
 } // namespace asncomp

@@ -12,6 +12,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 enum
 {
     maxNARFCN = 3279165,
@@ -8775,6 +8777,8 @@ static inline int asn1Equal_CellGroupConfig(const OSCTXT* pctxt, const CellGroup
 static inline int asn1State_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pvalue, CellGroupConfig* pstate) { return rtxState(pctxt, asn1Type_CellGroupConfig(), pvalue, pstate); }
 static inline int asn1Apply_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pdelta, CellGroupConfig* pnext) { return rtxApply(pctxt, asn1Type_CellGroupConfig(), pprev, pdelta, pnext, NULL, NULL); }
 static inline int asn1Diff_CellGroupConfig(OSCTXT* pctxt, const CellGroupConfig* pprev, const CellGroupConfig* pnext, const RtxDeltaOptions* options, CellGroupConfig* pdelta, RtxDeltaSink sink) { return rtxDiff(pctxt, asn1Type_CellGroupConfig(), pprev, pnext, options, pdelta, sink); }
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

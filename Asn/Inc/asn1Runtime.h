@@ -11,6 +11,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 typedef uint8_t OSUINT8;
 typedef uint16_t OSUINT16;
 typedef uint32_t OSUINT32;
@@ -488,6 +490,8 @@ int rtxToFlatWithRemarks(const OSCTXT* pctxt, const RtxType* type, const void* v
 // Names the context whose trees asn1Print_<Type> prints on this thread: the printer follows no pointer that is not in
 // this context's heap. Null ends it; so does rtFreeContext of that context on this thread.
 void rtxPrintSetContext(const OSCTXT* pctxt);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

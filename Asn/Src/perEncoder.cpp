@@ -286,7 +286,7 @@ int Encoder::finish(Bits b, const char* name)
         return ctxt_.error.status;
     }
     flush(b);
-    ctxt_.buffer.msgLen = (b.bits() + 7) / 8;
+    ctxt_.buffer.msgLen = static_cast<size_t>((b.bits() + 7) / 8);
     return RTX_OK;
 }
 

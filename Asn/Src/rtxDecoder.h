@@ -669,7 +669,7 @@ private:
         uint64_t flags = 0;
         for (unsigned i = 0; i < count; i += 8, window <<= 8)
         {
-            flags |= uint64_t{reversedOctets[window >> 56]} << i;
+            flags |= uint64_t{reversedOctets[static_cast<size_t>(window >> 56)]} << i;
         }
         flags = (flags & ((uint64_t{1} << count) - 1)) << first;
         for (uint64_t left = flags; left != 0; left >>= 32, structure += 4)
@@ -1177,7 +1177,7 @@ int run(OSCTXT& ctxt, const Type& type, void* value, unsigned flags, Observer& o
         uint64_t at = decoder.complete(whole, type, static_cast<OSOCTET*>(value), 0);
         if (at != decoder.failed)
         {
-            ctxt.decoded.octets = at / 8;
+            ctxt.decoded.octets = static_cast<size_t>(at / 8);
             if (at != whole.end && (flags & RTX_DECODE_PREFIX) == 0)
             {
                 decoder.surplus(whole, at);

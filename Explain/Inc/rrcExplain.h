@@ -13,6 +13,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 // What a value means. Everything in it lives until the sink returns.
 typedef struct RrcMeaning
 {
@@ -50,6 +52,8 @@ size_t rrcMeaningFormat(const RrcMeaning* meaning, char* text, size_t size);
 
 // The meaning's path alone, as rrcRulePathFormat gives it. Returns the length of the whole path.
 size_t rrcMeaningPathFormat(const RrcMeaning* meaning, char* text, size_t size);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

@@ -13,6 +13,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 #define NR_LARGEST_CARRIER 275 // resource blocks; what locationAndBandwidth of a bandwidth part is computed with
 #define NR_SYMBOLS 14          // of a slot with normal cyclic prefix
 #define NR_SYMBOLS_EXTENDED 12 // and with extended
@@ -262,6 +264,8 @@ const NrBand* nrBandAt(uint32_t index);
 uint32_t nrArfcnKhz(uint32_t arfcn);
 // Whether a frequency is on the synchronisation raster (TS 38.104 5.4.3.1).
 int nrIsOnSyncRaster(uint32_t khz);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

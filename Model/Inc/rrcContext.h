@@ -11,6 +11,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 // Inputs besides the element, each one bit: what may have to be known.
 typedef enum RrcRuleInput
 {
@@ -176,6 +178,8 @@ typedef struct RrcRuleStep
 
 // In words, what an input is: "the carriers of the downlink and uplink"; null for what is none or more than one.
 const char* rrcRuleInputName(OSUINT32 input);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

@@ -22,6 +22,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 struct CellGroupConfig;
 
 /** Why a record does not say what the tree says */
@@ -74,6 +76,8 @@ INT32 rrcDecomposeCellGroupCfg(OSCTXT* pAsnCxt, const struct CellGroupConfig* pC
  * @return      length of the whole line
  */
 size_t rrcUnsaidFormat(const RrcUnsaid* unsaid, char* text, size_t size);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

@@ -16,6 +16,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 /** How much a finding weighs; the numbers are those of RrcRuleSeverity. */
 typedef enum rrcRecordSeverity_e
 {
@@ -90,6 +92,8 @@ const RrcRecordRule* rrcRecordRuleById(const char* id);
  * @return      length of the whole line
  */
 size_t rrcRecordFindingFormat(const RrcRecordFinding* finding, char* text, size_t size);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

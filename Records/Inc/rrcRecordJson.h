@@ -14,6 +14,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 /**
  * Writes what a composition of the record reads, and nothing else. The record may hold anything: values out of range
  * are written as numbers, a count beyond its array is, beside the entries that there are. Nothing is allocated or kept;
@@ -24,6 +26,8 @@ extern "C"
  * @param arg     for the sink
  */
 void rrcRecordToJson(const RrcCellGroupCfg_t* record, RtxPrintSink sink, void* arg);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

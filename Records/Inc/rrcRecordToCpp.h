@@ -14,6 +14,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 /**
  * Writes a statement for each mask, count and value that a composition reads, in the order of the headers; bits and
  * values of enumerations by their names where they have one. They compile where rrcCodec/rrcInit.h and
@@ -26,6 +28,8 @@ extern "C"
  * @param arg               is handed to the sink
  */
 void rrcRecordToCpp(const RrcCellGroupCfg_t* pRrcCellGroupCfg, const char* name, RtxPrintSink sink, void* arg);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

@@ -18,6 +18,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 typedef struct RrcRecordType RrcRecordType;
 
 /** What a field holds. */
@@ -216,6 +218,8 @@ UINT64 rrcRecordFollowingMask(const RrcRecordType* type, const RrcRecordFollowin
 
 /** The member of a union or structure that the chosen alternative stands in; -1: all of it, or none is chosen. */
 INT32 rrcRecordMember(const RrcRecordType* type, const void* record, UINT32 field);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

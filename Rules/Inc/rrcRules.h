@@ -13,6 +13,8 @@ extern "C"
 {
 #endif
 
+#pragma GCC visibility push(default)
+
 // How much a finding weighs.
 typedef enum RrcRuleSeverity
 {
@@ -89,6 +91,8 @@ const char* rrcRuleGroupTitle(const char* id);
 
 // "error", "warning", "notice", "undecided".
 const char* rrcRuleSeverityName(OSUINT8 severity);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }

@@ -205,7 +205,7 @@ TEST_F(Print, ListWithForeignNodesOrData)
 TEST_F(Print, APointerThatIsNotAlignedIsNotFollowed)
 {
     auto* const octets = reinterpret_cast<OSOCTET*>(make<std::array<OSOCTET, 64>>());
-    OSRTDList list = {1, reinterpret_cast<OSRTDListNode*>(octets + 4), nullptr};
+    OSRTDList list = {1, reinterpret_cast<OSRTDListNode*>(octets + alignof(OSRTDListNode) / 2), nullptr};
     EXPECT_EQ("x: 1 element\n  [0]: a pointer out of the context's heap\n", printed(itemsType, &list));
 
     Pick pick = {};

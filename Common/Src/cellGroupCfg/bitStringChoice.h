@@ -28,7 +28,7 @@ struct BitStringRow
 template <typename Union>
 UINT64 leadingBits(const Union& value, unsigned bits)
 {
-    static_assert(std::endian::native == std::endian::little);
+    static_assert(std::endian::native == std::endian::little); // rtxBits.h says why
     UINT64 number = 0;
     std::memcpy(&number, &value, std::min(std::size_t{bits + 7} / 8, sizeof number));
     return number & (~UINT64{0} >> (64 - bits));

@@ -267,6 +267,14 @@ TEST(csiRecordLayout, MeasurementFieldsLieInOrder)
 
 #undef OFFSET
 
+// 32-bit x86 aligns 64 bits to four octets.
+struct Wide
+{
+    UINT8 first;
+    UINT64 second;
+};
+constexpr bool isNatural = offsetof(Wide, second) == sizeof(UINT64);
+
 // Sizes under natural alignment, the same in both languages and for both compilers.
 TEST(csiRecordLayout, Sizes)
 {
@@ -299,8 +307,11 @@ TEST(csiRecordLayout, Sizes)
     };
     for (const auto& [record, here, size] : cases)
     {
-        EXPECT_EQ(here, size) << record;
-        EXPECT_EQ(csiSizeInC(record), size) << record;
+        EXPECT_EQ(csiSizeInC(record), here) << record;
+        if (isNatural)
+        {
+            EXPECT_EQ(here, size) << record;
+        }
     }
 }
 
@@ -326,12 +337,15 @@ TEST(csiRecordLayout, BitFieldsFilledInCAreReadHere)
     EXPECT_EQ(octet(fields.band, 0), 0xA5);
     EXPECT_EQ(octet(fields.band, 2), 0x05);
     EXPECT_EQ(octet(fields.two, 0), 0x2D);
-    EXPECT_EQ(octet(fields.more, 40), 0x0D);
-    EXPECT_EQ(octet(fields.more, 41), 0xB0);
-    EXPECT_EQ(octet(fields.single, 56), 0xC3);
-    EXPECT_EQ(octet(fields.multi, 24), 0x96);
-    EXPECT_EQ(octet(fields.typeII, 32), 0x02);
     EXPECT_EQ(octet(fields.selection, 2), 0x01);
+    if (isNatural)
+    {
+        EXPECT_EQ(octet(fields.more, 40), 0x0D);
+        EXPECT_EQ(octet(fields.more, 41), 0xB0);
+        EXPECT_EQ(octet(fields.single, 56), 0xC3);
+        EXPECT_EQ(octet(fields.multi, 24), 0x96);
+        EXPECT_EQ(octet(fields.typeII, 32), 0x02);
+    }
 }
 
 } // namespace

@@ -183,8 +183,10 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
         EXPECT_GE(success, 16U * 1024);
         EXPECT_LE(success, 32U * 1024);
         EXPECT_LE(refusal, 32U * 1024);
-        EXPECT_LE(inMemory, 8U * 1024);
-        EXPECT_LE(refusalInMemory, 8U * 1024);
+        // 32-bit x86 hands over all arguments on it.
+        const size_t most = sizeof(void*) == 8 ? 8U * 1024 : 12U * 1024;
+        EXPECT_LE(inMemory, most);
+        EXPECT_LE(refusalInMemory, most);
     }
 }
 

@@ -657,7 +657,8 @@ TEST_F(servingCellCommon, LongSsbBitmapOverwritesThePointerAndIsNotFollowed)
     for (const auto& c : cases)
     {
         SCOPED_TRACE(c.name);
-        for (const UINT64 bitmap : {UINT64{0x0123456789ABCDEF}, UINT64{1}, ~UINT64{0}})
+        // A pointer of 32 bits has the first half of it.
+        for (const UINT64 bitmap : {UINT64{0x0123456789ABCDEF}, UINT64{0x100000001}, ~UINT64{0}})
         {
             ServingCellConfigCommon_ssb_PositionsInBurst element{};
             const auto cfg = ssbPositions(c.bitMask, bitmap);
