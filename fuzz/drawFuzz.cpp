@@ -9,7 +9,7 @@ using fuzz::require;
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const auto length = static_cast<unsigned>(size);
-    const draw::Options options = {length * 40U % 10240U, length % 161U};
+    const RrcDrawOptions options = {length * 40U % 10240U, length % 161U};
     const auto check = [&](OSCTXT& ctxt, const CellGroupConfig& tree, const RrcRuleContext& known)
     {
         const fuzz::HeapMark mark(ctxt);

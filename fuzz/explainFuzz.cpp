@@ -47,7 +47,7 @@ void check(OSCTXT& ctxt, const CellGroupConfig& tree, const RrcRuleContext& know
             "other meanings the second time");
     if (told != 0)
     {
-        const auto& [value, type] = first.values[first.sum % first.values.size()];
+        const auto& [value, type] = first.values[static_cast<std::size_t>(first.sum % first.values.size())];
         Told one;
         require(rrcExplainValue(&ctxt, &tree, &known, value, type, tell, &one) == 1 && one.values.size() == 1 &&
                     one.values.front() == std::pair(value, type),

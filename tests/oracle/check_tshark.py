@@ -16,8 +16,8 @@ import tshark_tree
 
 def example_messages(program):
     """The messages that an example prints: the number of octets, and the octets."""
-    found = re.findall(r"^(\d+) octets:\n((?: +[0-9a-f]{2}(?: [0-9a-f]{2})*\n)+)", "\n".join(oracle_run.run([program])),
-                       re.M)
+    printed = "".join(f"{line}\n" for line in oracle_run.run([program]))
+    found = re.findall(r"^(\d+) octets:\n((?: +[0-9a-f]{2}(?: [0-9a-f]{2})*\n)+)", printed, re.M)
     messages = ["".join(octets.split()) for _, octets in found]
     if not found or any(len(octets) != 2 * int(count) for octets, (count, _) in zip(messages, found)):
         sys.exit(f"{program} does not print its octets: {found}")
