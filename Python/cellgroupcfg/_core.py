@@ -6,15 +6,24 @@ import ctypes
 import json
 from collections.abc import Callable
 from types import TracebackType
-from typing import Any, Generic, NoReturn, TypeVar
+from typing import Any, Final, Generic, NoReturn, TypeVar
 
 from . import _library as c
 from ._errors import CellGroupError, DecodeError, DeltaError, EncodeError, Mistake
+from ._values import Severity
 
 T = TypeVar("T")
 
 Octets = bytes | bytearray | memoryview
 Message = Octets | dict[str, Any] | str
+#: What a UE got before: one message, or several in order.
+Previous = Octets | list[Octets] | tuple[Octets, ...] | None
+
+#: Of RrcRuleSeverity; a rule that could not be decided has none.
+SEVERITIES: Final[dict[int, Severity]] = {1: "notice", 2: "warning", 3: "error"}
+
+#: The library's lines are no longer, with their terminator.
+LONGEST_LINE: Final = 8192
 
 E_RANGE, E_SIZE, E_CHOICE, E_BITS = -1, -2, -3, -4
 E_OVERFLOW, E_HEAP, E_DELTA = -8, -11, -18
@@ -73,22 +82,30 @@ def text_of(octets: bytes | None) -> str:
     return "" if octets is None else octets.decode("utf-8", "replace")
 
 
-text_sink = c.TextSink(silent(lambda _walk, piece: piece))
+_text_sink = c.TextSink(silent(lambda _walk, piece: piece))
 
 
-def _mistake_of(_walk: Walk[Mistake], item: Any) -> Mistake:
-    told = item.contents
+def mistake_of(told: Any) -> Mistake:
+    """What a reader of texts tells."""
     return Mistake(text_of(told.path), text_of(told.words), told.line, told.column)
 
 
-mistake_sink = c.MistakeSink(silent(_mistake_of))
+_mistake_sink = c.MistakeSink(silent(lambda _walk, item: mistake_of(item.contents)))
 
 
-def written(write: Callable[[Any, Walk[bytes]], int], tree: Tree | None = None) -> str:
-    """The text that a writer gives piece by piece."""
-    walk: Walk[bytes] = Walk(tree)
-    write(text_sink, walk)
-    return text_of(b"".join(walk.take()))
+def out_of_memory() -> NoReturn:
+    """What is raised of a call that has no other reason to fail."""
+    raise MemoryError
+
+
+def written(write: Callable[[Any, Walk[bytes]], int], fail: Callable[[], NoReturn] = out_of_memory) -> str:
+    """The text that a writer gives piece by piece; `fail` raises why its status is negative."""
+    walk: Walk[bytes] = Walk()
+    status = write(_text_sink, walk)
+    text = text_of(b"".join(walk.take()))
+    if status < 0:
+        fail()
+    return text
 
 
 def formatted(format_: Callable[[Any, Any, int], int], item: Any) -> str:
@@ -97,6 +114,11 @@ def formatted(format_: Callable[[Any, Any, int], int], item: Any) -> str:
     line = ctypes.create_string_buffer(size)
     format_(item, line, size)
     return text_of(line.value)
+
+
+def path_of(line: str) -> str:
+    """The path before what is wrong there."""
+    return line.split(": ", 1)[0]
 
 
 def octets_of(octets: Octets) -> bytes:
@@ -169,7 +191,7 @@ class Tree:
             raise MemoryError
         line = formatted(c.lib.rtxErrorFormat, error)
         raised = kind(line)
-        raised.path = line.split(": ", 1)[0]
+        raised.path = path_of(line)
         if error.status in (E_RANGE, E_SIZE, E_CHOICE, E_BITS):
             raised.value, raised.lower, raised.upper = error.value, error.lower, error.upper
         if error.hasOffset:
@@ -191,7 +213,7 @@ class Tree:
         text, is_text = text_for(message, EncodeError)
         place = self.room()
         walk: Walk[Mistake] = Walk()
-        count = c.lib.asn1FromJson(self.context, c.TYPE, place, text, len(text), mistake_sink, walk)
+        count = c.lib.asn1FromJson(self.context, c.TYPE, place, text, len(text), _mistake_sink, walk)
         mistakes = walk.take()
         if count != 0:
             refuse(mistakes, is_text, EncodeError)

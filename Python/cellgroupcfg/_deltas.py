@@ -7,7 +7,7 @@ from collections.abc import Iterable
 from typing import Any, Final
 
 from . import _library as c
-from ._core import E_DELTA, Message, Tree, Walk, formatted, silent
+from ._core import E_DELTA, Message, Tree, Walk, formatted, path_of, silent
 from ._errors import DeltaError
 
 _REFUSED: Final = 5
@@ -30,7 +30,7 @@ _sink = c.DeltaSink(silent(_refusal))
 def _expect(status: int, refusals: list[str], tree: Tree) -> None:
     if status == E_DELTA and refusals:
         refused = DeltaError(refusals[0])
-        refused.path = refusals[0].split(": ", 1)[0]
+        refused.path = path_of(refusals[0])
         raise refused
     if status < 0:
         tree.fail(DeltaError)

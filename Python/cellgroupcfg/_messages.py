@@ -4,18 +4,22 @@ from __future__ import annotations
 
 import ctypes
 import json
-from typing import Any, Final
+from functools import partial
+from typing import Any, Final, get_args
 
 from . import _library as c
 from ._core import (
     E_HEAP,
+    SEVERITIES,
     Message,
     Octets,
+    Previous,
     Tree,
     Walk,
     collector,
     formatted,
     octets_of,
+    path_of,
     silent,
     text_of,
     written,
@@ -23,26 +27,11 @@ from ._core import (
 from ._errors import CellGroupError, DecodeError, EncodeError, SettingError
 from ._records import words
 from ._settings import context_in, known_from
-from ._values import Difference, Field, Finding, Found, Meaning, Severity
+from ._values import Difference, Field, FieldKind, Finding, Found, Meaning
 
 ROOT: Final = "CellGroupConfig"
 
-Previous = Octets | list[Octets] | tuple[Octets, ...] | None
-
-_SEVERITIES: Final[dict[int, Severity]] = {1: "notice", 2: "warning", 3: "error"}
-_FIELD_KINDS: Final = (
-    "extension",
-    "presence",
-    "additions",
-    "choice",
-    "count",
-    "length",
-    "value",
-    "padding",
-    "unknown",
-    "surplus",
-    "unread",
-)
+_FIELD_KINDS: Final[tuple[FieldKind, ...]] = get_args(FieldKind)
 _VALUE: Final = _FIELD_KINDS.index("value")
 _COUNT: Final = _FIELD_KINDS.index("count")
 _ANNOUNCING: Final = (_FIELD_KINDS.index("presence"), _FIELD_KINDS.index("additions"))
@@ -60,7 +49,7 @@ _DIFFERENCE_KINDS: Final = {
 
 def _finding_of(_walk: Walk[Finding], item: Any) -> Finding | None:
     told = item.contents
-    severity = _SEVERITIES.get(told.severity)
+    severity = SEVERITIES.get(told.severity)
     if severity is None:  # a rule that could not be decided
         return None
     return Finding(
@@ -96,7 +85,7 @@ def _difference_of(walk: Walk[Difference], item: Any) -> Difference:
     line = formatted(c.lib.rtxDifferenceFormat, item)
     return Difference(
         _DIFFERENCE_KINDS.get(told.kind, "changed"),  # type: ignore[arg-type]
-        line.split(": ", 1)[0],
+        path_of(line),
         None if is_order else _value_text(tree, told.type, told.a),
         None if is_order else _value_text(tree, told.type, told.b),
     )
@@ -257,17 +246,10 @@ def draw(
         place = tree.read(message)
         context = context_in(tree, besides)
         options = ctypes.byref(c.DrawOptions(first_slot, slots))
-        status = 0
-
-        def write(sink: Any, walk: Walk[bytes]) -> int:
-            nonlocal status
-            status = c.lib.rrcDraw(tree.context, place, context, options, sink, walk)
-            return status
-
-        picture = written(write)
-        if status < 0:
-            tree.fail(CellGroupError)
-        return picture
+        return written(
+            lambda sink, walk: int(c.lib.rrcDraw(tree.context, place, context, options, sink, walk)),
+            partial(tree.fail, CellGroupError),
+        )
 
 
 def page(

@@ -7,25 +7,36 @@ import json
 from typing import Any, Final
 
 from . import _library as c
-from ._core import Octets, Tree, Walk, collector, formatted, refuse, silent, text_for, text_of, text_sink
+from ._core import (
+    LONGEST_LINE,
+    SEVERITIES,
+    Octets,
+    Tree,
+    Walk,
+    collector,
+    formatted,
+    mistake_of,
+    path_of,
+    refuse,
+    silent,
+    text_for,
+    text_of,
+    written,
+)
 from ._errors import ComposeError, EncodeError, Mistake, RecordError, UnsaidError
 from ._values import Finding, Severity
 
 ROOT: Final = "RrcCellGroupCfg_t"
 
-_SEVERITIES: Final[dict[int, Severity]] = {1: "notice", 2: "warning", 3: "error"}
 _UNDECIDED: Final = 0
 _COMPOSE_E_MEMORY: Final = -5
 _MOST_OCTETS: Final = 8192
-_LONGEST_LINE: Final = 8192
 
 Record = dict[str, Any] | str
 
 
 def _mistake_of(_walk: Walk[tuple[bool, Mistake]], item: Any) -> tuple[bool, Mistake]:
-    told = item.contents.mistake
-    mistake = Mistake(text_of(told.path), text_of(told.words), told.line, told.column)
-    return bool(item.contents.isUnread), mistake
+    return bool(item.contents.isUnread), mistake_of(item.contents.mistake)
 
 
 _mistake_sink = c.RecordMistakeSink(silent(_mistake_of))
@@ -40,7 +51,7 @@ def _finding_of(_walk: Walk[Finding], item: Any) -> Finding:
     found, path = text_of(told.found), text_of(told.path)
     return Finding(
         id=text_of(told.rule.contents.id),
-        severity=_SEVERITIES[told.severity],
+        severity=SEVERITIES[told.severity],
         path=_path(path),
         value=found,
         allowed=text_of(told.allowed),
@@ -83,7 +94,7 @@ def _read(record: Record) -> tuple[Any, list[Mistake], list[Mistake], bool]:
 
 def _refusal(room: Any) -> str:
     """Why a record makes no message; empty where it does."""
-    line = ctypes.create_string_buffer(_LONGEST_LINE)
+    line = ctypes.create_string_buffer(LONGEST_LINE)
     octets = ctypes.create_string_buffer(_MOST_OCTETS)
     length = ctypes.c_size_t()
     if c.lib.rrcEncodeCellGroupCfg(room, octets, len(octets), ctypes.byref(length), line, len(line)) == 0:
@@ -106,7 +117,7 @@ def compose(record: Record) -> bytes:
             raise MemoryError
         if status != 0 or place.value is None:
             line = _refusal(room)
-            raise ComposeError(line, path=line.split(": ", 1)[0])
+            raise ComposeError(line, path=path_of(line))
         octets = tree.encoded(place.value, ComposeError)
         if len(octets) > _MOST_OCTETS:
             raise ComposeError(f"the message has {len(octets)} octets, more than {_MOST_OCTETS}")
@@ -128,9 +139,7 @@ def record(octets: Octets, *, partial: bool = False) -> dict[str, Any]:
             raise MemoryError
         if lines and not partial:
             raise UnsaidError(lines[0], tuple(lines))
-        walk: Walk[bytes] = Walk()
-        c.lib.rrcRecordToJson(room, text_sink, walk)
-        made = json.loads(b"".join(walk.take()))
+        made = json.loads(written(lambda sink, walk: c.lib.rrcRecordToJson(room, sink, walk) or 0))
         assert isinstance(made, dict)
         return made
 

@@ -12,12 +12,10 @@ from dataclasses import dataclass
 from typing import Any
 
 from . import _library as c
-from ._core import Octets, Tree, octets_of, text_of
+from ._core import LONGEST_LINE, Previous, Tree, octets_of, text_of
 from ._deltas import apply_to
 from ._errors import SettingError
 from ._values import Setting
-
-_LONGEST_LINE = 8192
 
 
 def keyword_of(name: str) -> str:
@@ -89,12 +87,12 @@ def _say(made: int, name: str, keyword: str, value: str, is_said: bool) -> None:
         octets = value.encode("utf-8")
     except UnicodeEncodeError as error:
         raise SettingError(f"{keyword}: {error}") from error
-    line = ctypes.create_string_buffer(_LONGEST_LINE)
+    line = ctypes.create_string_buffer(LONGEST_LINE)
     if c.lib.rrcSettingsSet(made, name.encode(), octets, len(octets), keyword.encode(), line, len(line)) != 0:
         raise SettingError(text_of(line.value))
 
 
-def _held(previous: Octets | list[Octets] | tuple[Octets, ...] | None) -> bytes:
+def _held(previous: Previous) -> bytes:
     """What the UE has after these messages, in order."""
     if previous is None:
         return b""
@@ -107,7 +105,7 @@ def _held(previous: Octets | list[Octets] | tuple[Octets, ...] | None) -> bytes:
 
 @contextmanager
 def known_from(
-    previous: Octets | list[Octets] | tuple[Octets, ...] | None, keywords: Mapping[str, object]
+    previous: Previous, keywords: Mapping[str, object]
 ) -> Iterator[Known]:
     """What the keywords say, for the length of a `with` block."""
     made = c.lib.rrcSettingsNew()
@@ -119,7 +117,7 @@ def known_from(
         for keyword, value in keywords.items():
             if value is not None:
                 _set(made, keyword, value)
-        line = ctypes.create_string_buffer(_LONGEST_LINE)
+        line = ctypes.create_string_buffer(LONGEST_LINE)
         context = c.lib.rrcSettingsContext(made, line, len(line))
         if not context:
             raise SettingError(text_of(line.value))

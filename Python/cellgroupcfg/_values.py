@@ -6,6 +6,20 @@ from dataclasses import dataclass
 from typing import Literal
 
 Severity = Literal["notice", "warning", "error"]
+#: In the order of RtxFieldKind.
+FieldKind = Literal[
+    "extension",
+    "presence",
+    "additions",
+    "choice",
+    "count",
+    "length",
+    "value",
+    "padding",
+    "unknown",
+    "surplus",
+    "unread",
+]
 
 
 @dataclass(frozen=True, slots=True)
@@ -59,19 +73,7 @@ class Difference:
 class Field:
     """A field on the wire."""
 
-    kind: Literal[
-        "extension",
-        "presence",
-        "additions",
-        "choice",
-        "count",
-        "length",
-        "value",
-        "padding",
-        "unknown",
-        "surplus",
-        "unread",
-    ]
+    kind: FieldKind
     #: Its first bit in the message, and how many it has.
     offset: int
     width: int
