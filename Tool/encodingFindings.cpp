@@ -70,15 +70,9 @@ std::vector<Finding> encodingFindings(const Message& message, const Given& given
     {
         return all;
     }
-    const RtxDecoded& decoded = message.context().decoded;
-    if (decoded.unknown != 0)
-    {
-        all.push_back(asFinding(page::unknownFinding(message.pdu().name, decoded.unknown)));
-    }
-    if (decoded.note != RTX_NOTE_NONE)
-    {
-        all.push_back(asFinding(page::noteFinding(noteText(message.pdu(), given.input.octets))));
-    }
+    page::tellNotes(
+        message.context().decoded, message.pdu().name, [&] { return noteText(message.pdu(), given.input.octets); },
+        [&](page::MessageFinding&& found) { all.push_back(asFinding(std::move(found))); });
     return all;
 }
 

@@ -64,7 +64,7 @@ std::string contextOf(const OSCTXT& context, const RrcRuleFinding& told, const R
         around = path;
         path += step.name == nullptr ? "[" + std::to_string(step.index) + "]" : "." + std::string(step.name);
     }
-    if (owner->kind == rtx::Kind::Sequence)
+    if (member != nullptr && owner->kind == rtx::Kind::Sequence)
     {
         const void* const structure = static_cast<const OSOCTET*>(told.value) - member->offset;
         if (!rtx::isPresent(*member, structure))

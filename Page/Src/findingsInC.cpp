@@ -59,14 +59,8 @@ public:
             return static_cast<Search*>(to)->tell(findingOf(*error));
         };
         (void)asn1Check_CellGroupConfig(&context_, &value_, constraint, this);
-        if (decoded.unknown != 0)
-        {
-            tell(unknownFinding(rootName, decoded.unknown));
-        }
-        if (decoded.note != RTX_NOTE_NONE)
-        {
-            tell(noteFinding(first));
-        }
+        tellNotes(
+            decoded, rootName, [&] { return first; }, [&](const MessageFinding& found) { tell(found); });
         return isEnded_ ? RTX_OK : rules();
     }
 

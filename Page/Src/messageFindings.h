@@ -38,6 +38,21 @@ MessageFinding unknownFinding(const std::string& root, OSUINT32 count);
 // Of a message that is encoded in another way; `note` is the noteText of the first field that has one.
 MessageFinding noteFinding(const std::string& note);
 
+// Tells what decoding has left beside a value: additions that are not known, and that it is encoded in another way.
+// `root` is the message's type, `note` gives the noteText of the first field that has one, `take` takes a finding.
+template <typename Note, typename Take>
+void tellNotes(const RtxDecoded& decoded, const std::string& root, const Note& note, const Take& take)
+{
+    if (decoded.unknown != 0)
+    {
+        take(unknownFinding(root, decoded.unknown));
+    }
+    if (decoded.note != RTX_NOTE_NONE)
+    {
+        take(noteFinding(note()));
+    }
+}
+
 // Of a message that cannot be applied to what the UE has.
 MessageFinding refusalFinding(const RtxError& error);
 

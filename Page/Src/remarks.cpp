@@ -47,14 +47,9 @@ private:
             return 0;
         };
         (void)rtxCheck(&tree_.context(), asn1Type_CellGroupConfig(), &tree_.value(), sink, this);
-        if (tree_.decoded().unknown != 0)
-        {
-            add(unknownFinding(tree_.nodes()[0].name, tree_.decoded().unknown), {});
-        }
-        if (tree_.decoded().note != RTX_NOTE_NONE)
-        {
-            add(noteFinding(tree_.note()), {});
-        }
+        tellNotes(
+            tree_.decoded(), tree_.nodes()[0].name, [&] { return tree_.note(); },
+            [&](MessageFinding&& found) { add(std::move(found), {}); });
     }
 
     void take(const RrcRuleFinding& told)
