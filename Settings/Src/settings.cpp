@@ -11,8 +11,8 @@
 #include <array>
 #include <cctype>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -648,8 +648,9 @@ void write(std::string_view line, char* error, std::size_t size)
     if (size != 0)
     {
         const std::size_t length = std::min(line.size(), size - 1);
-        std::memcpy(error, line.data(), length);
-        error[length] = '\0';
+        // A value may hold anything: of what it quotes, too, one line is made.
+        *std::transform(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(length), error,
+                        [](unsigned char c) { return std::iscntrl(c) != 0 ? ' ' : static_cast<char>(c); }) = '\0';
     }
 }
 

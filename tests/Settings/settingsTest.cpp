@@ -279,6 +279,13 @@ TEST(Settings, a_band_has_one_range_and_one_duplex_mode)
     }
 }
 
+TEST(Settings, a_refusal_is_one_line_whatever_the_value_holds)
+{
+    const std::string refused = Settings().set("band", "n\n8\t2\x7f");
+    EXPECT_THAT(refused, ::testing::HasSubstr("n 8 2"));
+    EXPECT_TRUE(std::none_of(refused.begin(), refused.end(), [](unsigned char c) { return c < ' ' || c == 0x7f; }));
+}
+
 TEST(Settings, what_is_missing_is_no_crash)
 {
     EXPECT_EQ(rrcSettingsSet(nullptr, "band", "n78", 3, nullptr, nullptr, 0), -1);
