@@ -30,21 +30,26 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
     list(APPEND CGC_GNU_OPTIONS -mmemset-strategy=unrolled_loop:64:noalign,libcall:-1:noalign)
 endif()
 
-# cgc_library(<target> ALIAS <name> SOURCES <file>... [INCLUDES <folder>...] [TYPE STATIC|SHARED|OBJECT])
-# A library that a product links: no exceptions, no RTTI, installed with the package as cellgroupcfg::<name>.
+# cgc_library(<target> [HOST] ALIAS <name> SOURCES <file>... [INCLUDES <folder>...] [TYPE STATIC|SHARED|OBJECT])
+# A library that a product links: no exceptions, no RTTI, installed with the package as cellgroupcfg::<name>. With HOST one
+# for the computers of its engineers: of the whole standard library.
 # INCLUDES are the folders whose headers its users see.
 function(cgc_library target)
-    cmake_parse_arguments(arg "" "ALIAS;TYPE" "SOURCES;INCLUDES" ${ARGN})
+    cmake_parse_arguments(arg "HOST" "ALIAS;TYPE" "SOURCES;INCLUDES" ${ARGN})
     if(NOT arg_TYPE)
         set(arg_TYPE STATIC)
     endif()
 
     add_library(${target} ${arg_TYPE} ${arg_SOURCES})
     cgc_compile_options(${target})
-    target_compile_options(
-        ${target}
-        PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti> "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:${CGC_GNU_OPTIONS}>"
-    )
+    if(NOT arg_HOST)
+        target_compile_options(
+            ${target}
+            PRIVATE
+                $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti>
+                "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:${CGC_GNU_OPTIONS}>"
+        )
+    endif()
     foreach(folder IN LISTS arg_INCLUDES)
         cmake_path(SET path NORMALIZE "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
         target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${path}>)
@@ -101,7 +106,6 @@ function(cgc_program target)
     add_executable(${target} ${arg_SOURCES})
     cgc_compile_options(${target})
     target_link_libraries(${target} PRIVATE ${arg_LIBS})
-    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF) # its files may give one name to different things
 endfunction()
 
 # cgc_test(<name> SOURCES <file>... LIBS <library>...)
