@@ -1,4 +1,4 @@
-"""The blocks of code in README.md and docs/, for the tests that run them."""
+"""The blocks of code in README.md, SECURITY.md and docs/, for the tests that run them."""
 
 import re
 from collections import namedtuple
@@ -9,7 +9,7 @@ FENCED = re.compile(r"^( *)```([^\n`]*)\n(.*?)^\1```$", re.M | re.S)
 
 
 def documents(project):
-    return [project / "README.md", *sorted((project / "docs").rglob("*.md"))]
+    return [project / "README.md", project / "SECURITY.md", *sorted((project / "docs").rglob("*.md"))]
 
 
 def blocks(project, *languages):

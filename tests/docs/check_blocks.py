@@ -1,4 +1,4 @@
-"""check_blocks.py <program> <project> <build>: no block of code in README.md and docs/ goes unchecked. Each one of a language
+"""check_blocks.py <program> <project> <build>: no block of code in README.md, SECURITY.md and docs/ goes unchecked. Each one of a language
 in CHECKED is run or compiled by a test, which is what is looked at here, or is tried here. The others are for the eye:
 what is listed in SHOWN. Names of tests that the documents call as witnesses are names of tests."""
 
@@ -13,7 +13,7 @@ from blocks import blocks, documents
 
 SHOWN = {"", "text", "asn1", "diff"}
 SNIPPET = re.compile(r'cgc_(?:snippet|doc_program)\(\s*(?:\w+\s+)?([\w./-]+\.md)\s+"((?:[^"\\]|\\.)*)"')
-WITNESSES = ("docs/security.md", "docs/proof.md", "docs/versions.md")
+WITNESSES = ("SECURITY.md", "docs/assurance.md", "docs/versions.md")
 
 
 class Checker:
