@@ -30,11 +30,12 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
     list(APPEND CGC_GNU_OPTIONS -mmemset-strategy=unrolled_loop:64:noalign,libcall:-1:noalign)
 endif()
 
-# cgc_library(<target> ALIAS <name> SOURCES <file>... [INCLUDES <folder>...] [TYPE STATIC|SHARED|OBJECT])
-# A library that a product links: no exceptions, no RTTI, installed with the package as cellgroupcfg::<name>.
+# cgc_library(<target> ALIAS <name> SOURCES <file>... [INCLUDES <folder>...] [TYPE STATIC|SHARED|OBJECT] [HOST])
+# A library that a product links: no exceptions, no RTTI, installed with the package as cellgroupcfg::<name>. HOST: one
+# of the standard library, which no base station links and in which exhausted memory is an exception.
 # INCLUDES are the folders whose headers its users see.
 function(cgc_library target)
-    cmake_parse_arguments(arg "" "ALIAS;TYPE" "SOURCES;INCLUDES" ${ARGN})
+    cmake_parse_arguments(arg "HOST" "ALIAS;TYPE" "SOURCES;INCLUDES" ${ARGN})
     if(NOT arg_TYPE)
         set(arg_TYPE STATIC)
     endif()
@@ -45,6 +46,9 @@ function(cgc_library target)
         ${target}
         PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti> "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:${CGC_GNU_OPTIONS}>"
     )
+    if(arg_HOST)
+        target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fexceptions>)
+    endif()
     foreach(folder IN LISTS arg_INCLUDES)
         cmake_path(SET path NORMALIZE "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
         target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${path}>)

@@ -1,6 +1,7 @@
 #include "remarks.h"
 
 #include "rrcExplain.h"
+#include "whileMemory.h"
 
 #include <algorithm>
 
@@ -33,6 +34,18 @@ public:
     }
 
 private:
+    // What a sink was told of.
+    template <typename Keep>
+    int keep(const Keep& one)
+    {
+        return sinks_.run(
+            [&]
+            {
+                one(*this);
+                return 0;
+            });
+    }
+
     void add(MessageFinding finding, std::span<const Step> steps)
     {
         const std::uint32_t node = tree_.find(steps);
@@ -43,10 +56,11 @@ private:
     {
         const auto sink = [](void* to, const RtxError* error)
         {
-            static_cast<Collector*>(to)->add(findingOf(*error), stepsOf(*error));
-            return 0;
+            return static_cast<Collector*>(to)->keep([=](Collector& all)
+                                                     { all.add(findingOf(*error), stepsOf(*error)); });
         };
         (void)rtxCheck(&tree_.context(), asn1Type_CellGroupConfig(), &tree_.value(), sink, this);
+        sinks_.finish();
         if (tree_.decoded().unknown != 0)
         {
             add(unknownFinding(tree_.nodes()[0].name, tree_.decoded().unknown), {});
@@ -77,10 +91,11 @@ private:
     {
         const auto sink = [](void* to, const RrcRuleFinding* told)
         {
-            static_cast<Collector*>(to)->take(*told);
-            return 0;
+            return static_cast<Collector*>(to)->keep([=](Collector& all) { all.take(*told); });
         };
-        return rrcCheckRules(&tree_.context(), &tree_.value(), &known_, sink, this);
+        const std::int64_t status = rrcCheckRules(&tree_.context(), &tree_.value(), &known_, sink, this);
+        sinks_.finish();
+        return status;
     }
 
     void rules()
@@ -98,13 +113,13 @@ private:
     {
         const auto sink = [](void* to, const RrcMeaning* meaning)
         {
-            static_cast<Collector*>(to)->take(*meaning);
-            return 0;
+            return static_cast<Collector*>(to)->keep([=](Collector& all) { all.take(*meaning); });
         };
         if (rrcExplain(&tree_.context(), &tree_.value(), &known_, sink, this) < 0)
         {
             remarks_.refusal = "out of memory";
         }
+        sinks_.finish();
     }
 
     void take(const RrcMeaning& meaning)
@@ -123,6 +138,7 @@ private:
     Tree& tree_;
     RrcRuleContext known_;
     Remarks remarks_;
+    text::Sinks sinks_;
 };
 
 } // namespace
