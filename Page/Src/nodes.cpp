@@ -297,7 +297,6 @@ Tree::Tree(std::span<const std::uint8_t> octets)
     : octets_(octets.begin(), octets.end()), size_(octets.size()), context_(), value_(), error_(), decoded_()
 {
     octets_.reserve(1); // an empty message has an address, too
-    rtxInitContext(&context_);
     (void)pu_setBuffer(&context_, octets_.data(), size_, 0);
     struct
     {
@@ -315,6 +314,7 @@ Tree::Tree(std::span<const std::uint8_t> octets)
             });
     };
     (void)rtxTrace(&context_, asn1Type_CellGroupConfig(), &value_, 0, sink, &traced);
+    traced.sinks.finish();
     const Fields& fields = traced.fields;
     error_ = context_.error;
     decoded_ = context_.decoded;
@@ -324,11 +324,6 @@ Tree::Tree(std::span<const std::uint8_t> octets)
     rtxErrReset(&context_);
     number();
     place(fields);
-}
-
-Tree::~Tree()
-{
-    rtFreeContext(&context_);
 }
 
 bool Tree::Address::operator<(const Address& other) const
