@@ -108,6 +108,13 @@ void addStatus(Result& result, OSCTXT* context, std::int64_t status)
     rtxErrReset(context);
 }
 
+// The same of a call that leaves its error in the context.
+void addDeltaStatus(Result& result, OSCTXT* context, int status)
+{
+    result.wrong = result.wrong || (status < 0 && context->error.status != status);
+    addStatus(result, context, status);
+}
+
 // What a tree is encoded as, once more.
 void addTree(Result& result, OSCTXT* context, const CellGroupConfig& tree)
 {
@@ -369,7 +376,7 @@ void state(const Input& input, Stage& stage, Result& result)
     CellGroupConfig made;
     int status = 0;
     stage.run(&trees.context, [&] { status = asn1State_CellGroupConfig(&trees.context, &trees.first, &made); });
-    addStatus(result, &trees.context, status);
+    addDeltaStatus(result, &trees.context, status);
     if (status == RTX_OK)
     {
         addTree(result, &trees.context, made);
@@ -387,7 +394,7 @@ void apply(const Input& input, Stage& stage, Result& result)
                   status = rtxApply(&trees.context, asn1Type_CellGroupConfig(), &trees.first, &trees.second, &made,
                                     addItem, &result);
               });
-    addStatus(result, &trees.context, status);
+    addDeltaStatus(result, &trees.context, status);
     if (status == RTX_OK)
     {
         addTree(result, &trees.context, made);
@@ -403,7 +410,7 @@ void diff(const Input& input, Stage& stage, Result& result)
     stage.run(
         &trees.context, [&]
         { status = asn1Diff_CellGroupConfig(&trees.context, &trees.first, &trees.second, &options, &made, addItem); });
-    addStatus(result, &trees.context, status);
+    addDeltaStatus(result, &trees.context, status);
     if (status >= RTX_OK)
     {
         addTree(result, &trees.context, made);
@@ -417,7 +424,7 @@ void deltaHolds(const Input& input, Stage& stage, Result& result)
     stage.run(
         &trees.context, [&]
         { status = rtxDeltaHolds(&trees.context, asn1Type_CellGroupConfig(), &trees.first, nullptr, &trees.second); });
-    addStatus(result, &trees.context, status);
+    addDeltaStatus(result, &trees.context, status);
 }
 
 // A writer of the message's tree.
@@ -829,10 +836,10 @@ void heap(const Input& input, Stage& stage, Result& result)
                       item->room.fill(octet);
                       rtxDListAppendNode(&list, &item->node);
                   }
-                  rtxMemHeapSetLimit(&context, 32);
-                  result.wrong = result.wrong || rtxMemHeapAlloc(&context, 48) != nullptr;
               });
     result.add(std::int64_t{list.count});
+    rtxMemHeapSetLimit(&context, 32);
+    result.wrong = result.wrong || rtxMemHeapAlloc(&context, 48) != nullptr;
 }
 
 void initRecords(const Input&, Stage& stage, Result& result)
@@ -869,7 +876,6 @@ void small(const Input& input, Stage& stage, Result& result)
                   result.add(std::int64_t{cellgroupcfgAbi()});
                   result.add(std::int64_t{CELLGROUPCFG_ABI_MATCHES()});
                   result.add(static_cast<std::int64_t>(cellgroupcfgSizeOf("OSCTXT")));
-                  result.add(std::int64_t{vos_info_print_filter_is_filtered(1, "nothing")});
               });
 }
 
@@ -964,4 +970,15 @@ INT32 VOS_Printf(const char* format, ...)
         ++console->lines;
     }
     return length;
+}
+
+// The same: a red line is asked for here, and left out.
+BOOL vos_info_print_filter_is_filtered(INT32 /*level*/, const char* name)
+{
+    if (console != nullptr)
+    {
+        console->add(name);
+        ++console->lines;
+    }
+    return 1;
 }

@@ -31,7 +31,8 @@ struct Input
     std::string json; // of a record
 };
 
-// The examples; behind them `random` records that compose, and as many with values out of range.
+// The examples; behind them `random` records that compose, as many that are near these, and as many with values out of
+// range.
 std::vector<Input> inputs(unsigned random);
 
 // Runs the one public call of a row; around it the row prepares and cleans up.

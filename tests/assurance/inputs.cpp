@@ -4,6 +4,7 @@
 #include "rrcCodec/rrcCompose.h"
 #include "rrcRecordJson.h"
 
+#include "cellGroupDeltas.h"
 #include "oneBearer.h"
 #include "reconfigurationWithSync.h"
 #include "records.h"
@@ -80,6 +81,16 @@ std::unique_ptr<RrcCellGroupCfg_t> drawn(records::Chance& chance, unsigned seed)
     return record;
 }
 
+// The same with another MAC, physical layer and first bearer.
+std::unique_ptr<RrcCellGroupCfg_t> near(records::Chance& chance, const RrcCellGroupCfg_t& record)
+{
+    auto changed = std::make_unique<RrcCellGroupCfg_t>(record);
+    records::draw(chance, changed->macCellGrpCfg);
+    records::draw(chance, changed->phyCellGrpCfg);
+    records::draw(chance, changed->rlcBearerCfg[0]);
+    return changed;
+}
+
 } // namespace
 
 std::vector<Input> inputs(unsigned random)
@@ -104,12 +115,21 @@ std::vector<Input> inputs(unsigned random)
         example.fill(*record);
         all.push_back(inputOf(example.name, std::move(record), all.empty() ? first : all.back()));
     }
+    auto record = std::make_unique<RrcCellGroupCfg_t>();
+    secondaryCells(*record);
+    all.push_back(inputOf("secondaryCells", std::move(record), all.back()));
+    record = std::make_unique<RrcCellGroupCfg_t>(*all.back().next);
+    addBearer(*record);
+    changeReport(*record);
+    releaseSCell(*record);
+    all.push_back(inputOf("cellGroupDeltas", std::move(record), all.back()));
     records::Chance kept(records::Chance::Ranges::kept);
     records::Chance dropped(records::Chance::Ranges::dropped);
     for (unsigned seed = 1; seed <= random; ++seed)
     {
-        const Input& before = all[all.size() == std::size(examples) ? all.size() - 1 : all.size() - 2];
-        all.push_back(inputOf("record " + std::to_string(seed), drawn(kept, seed), before));
+        const std::size_t before = all.size() - (seed == 1 ? 1 : 2);
+        all.push_back(inputOf("record " + std::to_string(seed), drawn(kept, seed), all[before]));
+        all.push_back(inputOf("near " + std::to_string(seed), near(kept, *all.back().next), all.back()));
         all.push_back(inputOf("refused " + std::to_string(seed), drawn(dropped, seed), all.back()));
     }
     return all;
