@@ -764,6 +764,8 @@ void settings(const Input&, Stage& stage, Result& result)
                 {"tdd-pattern", "30:ms3:3:6:2:4+ms2:1:0:2:0"},
                 {"bearers", "srb1,drb1,drb32:dup"},
                 {"meas-object", "1:633312:30:csirs=0,9"},
+                {"capability", R"({"sr-PeriodsSl5Sl10":"supported","supportedSRS-TxPortSwitch":["t1r2","t1r4-t2r4"]})"},
+                {"rach", "{\"rach-ConfigGeneric\": 5}"},
                 {"no-such", "1"},
                 {"band", "n77"}};
     stage.run(nullptr,
@@ -777,13 +779,13 @@ void settings(const Input&, Stage& stage, Result& result)
                       if (!result.refused && rrcSettingsSet(all, one.name, one.value, std::strlen(one.value), nullptr,
                                                             error, sizeof error) != 0)
                       {
-                          result.refused = std::strcmp(error, "out of memory") == 0;
+                          result.refused = std::strstr(error, "memory") != nullptr;
                           result.add(error);
                       }
                   }
                   const RrcRuleContext* const context =
                       result.refused ? nullptr : rrcSettingsContext(all, error, sizeof error);
-                  result.refused = result.refused || (context == nullptr && std::strcmp(error, "out of memory") == 0);
+                  result.refused = result.refused || (context == nullptr && std::strstr(error, "memory") != nullptr);
                   if (context != nullptr)
                   {
                       result.add(std::int64_t{context->band});
