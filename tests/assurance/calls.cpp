@@ -40,7 +40,7 @@ thread_local Result* console = nullptr; // of the call that runs on this thread
 template <typename Told>
 void addLine(Result& result, size_t (*format)(const Told*, char*, size_t), const Told* told)
 {
-    char text[300];
+    static thread_local char text[300]; // not on the stack that is measured
     result.add(static_cast<std::int64_t>(format(told, text, sizeof text)));
     result.add(text);
 }
@@ -102,8 +102,6 @@ void addStatus(Result& result, OSCTXT* context, std::int64_t status)
     result.refused = status == RTX_E_HEAP;
     result.add(status);
     addLine(result, rtxErrFormat, static_cast<const OSCTXT*>(context));
-    char text[200];
-    (void)rtxErrFormat(context, text, sizeof text);
     rtxErrPrint(context);
     rtxErrReset(context);
 }
@@ -961,7 +959,7 @@ Result resultOf(const Call& call, const Input& input)
 // Stands in place of the platform's: what a call prints is part of its result.
 INT32 VOS_Printf(const char* format, ...)
 {
-    char line[2000];
+    static thread_local char line[2000]; // not on the stack that is measured
     va_list args;
     va_start(args, format);
     const INT32 length = std::vsnprintf(line, sizeof line, format, args);
