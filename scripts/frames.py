@@ -11,19 +11,19 @@ FOLDERS = ("Platform", "Asn", "Common", "Du")
 
 
 def frames(folder):
-    """Octets, kind, file and function of each."""
+    """Octets, kind, file and function of each; of one that the compiler does not name its line."""
     for path in sorted(folder.rglob("*.su")):
         for line in path.read_text(encoding="utf-8").splitlines():
             place, octets, kind = line.rsplit("\t", 2)
-            file, _, _, function = place.split(":", 3)
-            yield int(octets), kind, file, function
+            file, number, _, function = place.split(":", 3)
+            yield int(octets), kind, file, short(function) or f"line {number}"
 
 
 def short(function):
     """Without templates' arguments, parameters and the result."""
     function = re.sub(r" \[with .*", "", function)
     name = re.sub(r"\(anonymous namespace\)::|\{anonymous\}::", "", function).split("(")[0]
-    return name.split()[-1] if name.split() else function
+    return name.split()[-1] if re.search("[a-z]", name) else ""
 
 
 def main():
@@ -35,7 +35,7 @@ def main():
         sys.exit(f"frames.py: {len(all_frames)} frames: these are no libraries")
     print("| Function | file | frame, octets |\n|---|---|--:|")
     for octets, _, file, function in all_frames[:count]:
-        print(f"| `{short(function)}` | `{pathlib.Path(file).name}` | {octets} |")
+        print(f"| `{function}` | `{pathlib.Path(file).name}` | {octets} |")
     unbounded = [frame for frame in all_frames if frame[1] == "dynamic"]
     print(f"\n{len(all_frames)} functions, {len(unbounded)} with a frame of no fixed bound")
     for frame in unbounded:

@@ -845,15 +845,16 @@ void heap(const Input& input, Stage& stage, Result& result)
 void initRecords(const Input&, Stage& stage, Result& result)
 {
     const auto record = std::make_unique<RrcCellGroupCfg_t>();
+    const auto patterned = std::make_unique<RrcCellGroupCfg_t>();
+    std::memset(record.get(), 0x33, sizeof *record);
     stage.run(nullptr,
               [&]
               {
-                  std::memset(record.get(), 0x33, sizeof *record);
                   rrcInitRecord(record.get(), RrcRecordNumber<RrcCellGroupCfg_t>::number);
-                  result.add(record.get(), sizeof *record);
-                  rrcInitRecordWithPattern(record.get(), RrcRecordNumber<RrcCellGroupCfg_t>::number);
-                  result.add(record.get(), sizeof *record);
+                  rrcInitRecordWithPattern(patterned.get(), RrcRecordNumber<RrcCellGroupCfg_t>::number);
               });
+    result.add(record.get(), sizeof *record);
+    result.add(patterned.get(), sizeof *patterned);
 }
 
 void small(const Input& input, Stage& stage, Result& result)

@@ -1,4 +1,5 @@
 // What messages made to be dear take at most: time and heap for each octet, and both grow as the message does.
+#include "calls.h"
 #include "memory.h"
 
 #include "Asn/hostileTree.h"
@@ -9,6 +10,7 @@
 
 #include <malloc.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <vector>
@@ -177,6 +179,42 @@ TEST(Time, of_each_octet_is_bounded_and_grows_as_the_message)
             std::printf("| `%s` | %s | %zu | %.1f | %.2f |\n", work.name, family.name, family.messages[last].size(),
                         times[last] / static_cast<double>(family.messages[last].size()), growth);
         }
+    }
+}
+
+// The longest time and the most heap of a call on any of the inputs.
+class CostStage : public assurance::Stage
+{
+public:
+    void run(OSCTXT* /*context*/, const std::function<void()>& call) override
+    {
+        const size_t before = assurance::memory.used;
+        assurance::memory.peak = before;
+        time = std::max(time, bench::leastTime(1, call));
+        heap = std::max(heap, assurance::memory.peak - before);
+    }
+
+    double time = 0; // ns
+    size_t heap = 0; // octets
+};
+
+TEST(Record, takes_bounded_time_and_heap)
+{
+    constexpr double mostTime = 50e6; // ns
+    constexpr size_t mostHeap = 16 << 20;
+    const std::vector<assurance::Input> inputs = assurance::inputs(RECORDS);
+    std::printf("| Call | longest, us | most heap, octets |\n|---|--:|--:|\n");
+    for (const assurance::Call& call : assurance::calls())
+    {
+        CostStage cost;
+        for (const assurance::Input& input : inputs)
+        {
+            (void)resultOf(call, input); // what is bound at the first call
+            (void)resultOf(call, input, cost);
+        }
+        std::printf("| `%s` | %.1f | %zu |\n", call.name, cost.time / 1000, cost.heap);
+        EXPECT_LT(cost.time, mostTime * TIME_FACTOR) << call.name;
+        EXPECT_LT(cost.heap, mostHeap) << call.name;
     }
 }
 
