@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <new>
 
 namespace tool
 {
@@ -201,6 +202,10 @@ private:
         (void)pu_setBuffer(&context_, octets.data(), octets.size(), 0);
         const int status = rtxDecode(&context_, &type, value.data(), RTX_DECODE_STRICT);
         rtFreeContext(&context_);
+        if (status == RTX_E_HEAP)
+        {
+            throw std::bad_alloc();
+        }
         return status == RTX_OK;
     }
 

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <functional>
 #include <new>
 
@@ -123,10 +125,6 @@ public:
         catch (const Failure& failure)
         {
             return fail(failure.what(), failure.status());
-        }
-        catch (const std::bad_alloc&)
-        {
-            return fail("out of memory", Exit::Usage);
         }
     }
 
@@ -775,11 +773,48 @@ private:
     std::vector<std::string> recreate_;
 };
 
+int withoutMemory()
+{
+    (void)std::fputs("cellgroupcfg: out of memory\n", stderr);
+    return static_cast<int>(Exit::Usage);
+}
+
+[[noreturn]] void end()
+{
+    const std::exception_ptr thrown = std::current_exception();
+    if (thrown == nullptr)
+    {
+        std::abort();
+    }
+    try
+    {
+        std::rethrow_exception(thrown);
+    }
+    catch (const std::bad_alloc&)
+    {
+        std::_Exit(withoutMemory());
+    }
+    catch (...)
+    {
+        std::abort();
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     // The reader of a pipe has gone: so does this.
     (void)std::signal(SIGPIPE, SIG_DFL);
-    return CommandLine().run(argc, argv);
+    // The options alone ask for thousands of strings, and what is said of one that is wrong for more.
+    try
+    {
+        // JSON asks for memory even to give it back, where no exception passes.
+        (void)std::set_terminate(end);
+        return CommandLine().run(argc, argv);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return withoutMemory();
+    }
 }

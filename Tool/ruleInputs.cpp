@@ -1,6 +1,7 @@
 #include "ruleInputs.h"
 
 #include <array>
+#include <new>
 
 namespace tool
 {
@@ -109,10 +110,20 @@ Settings merged(const Settings& first, const Settings& second)
     return all;
 }
 
+RuleInputs::Owner RuleInputs::newSettings()
+{
+    Owner made(rrcSettingsNew());
+    if (made == nullptr)
+    {
+        throw std::bad_alloc();
+    }
+    return made;
+}
+
 RuleInputs::RuleInputs(Session& session, const Settings& settings)
 {
     // Whether they agree is said before any file is read.
-    const Owner agreement(rrcSettingsNew());
+    const Owner agreement = newSettings();
     for (const Setting& said : settings)
     {
         set(agreement.get(), said, std::nullopt, said.origin);

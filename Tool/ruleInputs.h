@@ -56,7 +56,9 @@ private:
     };
     using Owner = std::unique_ptr<RrcSettings, Free>;
 
-    Owner settings_{rrcSettingsNew()};
+    static Owner newSettings();
+
+    Owner settings_ = newSettings();
     const RrcRuleContext* context_ = nullptr;
     std::optional<Encoding> held_; // what the UE has before the message
 };

@@ -32,7 +32,7 @@ endif()
 
 # cgc_library(<target> [HOST] ALIAS <name> SOURCES <file>... [INCLUDES <folder>...] [TYPE STATIC|SHARED|OBJECT])
 # A library that a product links: no exceptions, no RTTI, installed with the package as cellgroupcfg::<name>. With HOST one
-# for the computers of its engineers: of the whole standard library.
+# of the whole standard library, which no base station links and in which exhausted memory is an exception.
 # INCLUDES are the folders whose headers its users see.
 function(cgc_library target)
     cmake_parse_arguments(arg "HOST" "ALIAS;TYPE" "SOURCES;INCLUDES" ${ARGN})

@@ -153,8 +153,8 @@ private:
     {
         if constexpr (skims)
         {
-            static OSOCTET unused;
-            return &unused;
+            static constexpr OSOCTET unused = 0; // is never written
+            return const_cast<OSOCTET*>(&unused);
         }
         return static_cast<OSOCTET*>(rtx::allocate(ctxt_, size));
     }

@@ -784,6 +784,10 @@ private:
     bool create(const Type& type, const ListElement& next, const DeltaPlace& place, const Entry& around,
                 Changes& changes)
     {
+        if (status_ != RTX_OK) // what was to be told of it had no room
+        {
+            return false;
+        }
         if (type.kind != Kind::Sequence)
         {
             changes.sent[changes.sentCount++] = next;

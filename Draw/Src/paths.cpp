@@ -103,9 +103,8 @@ void Paths::walk(const RtxType& type, const void* value, std::string& path)
 
 const std::string& Paths::at(const RtxType& type, const void* value) const
 {
-    static const std::string none = "CellGroupConfig"; // of what a broken list hides
     const auto found = all_.find({value, &type});
-    return found == all_.end() ? none : found->second;
+    return found == all_.end() ? none_ : found->second;
 }
 
 } // namespace rules::draw

@@ -32,6 +32,7 @@ private:
 
     Model& model_;
     std::map<std::pair<const void*, const RtxType*>, std::string> all_;
+    const std::string none_ = "CellGroupConfig"; // of what a broken list hides
 };
 
 } // namespace rules::draw

@@ -2,6 +2,8 @@
 #include "gather.h"
 
 #include "rtxHeap.h"
+#include "rtxType.h"
+#include "whileMemory.h"
 
 #include <cmath>
 #include <cstring>
@@ -854,7 +856,12 @@ std::string draw::svg(OSCTXT& ctxt, const CellGroupConfig& value, const RrcRuleC
     {
         cells.push_back(gather.picture(cell));
     }
-    return memory.failed() ? std::string() : rules::draw::Svg(cells).write();
+    if (memory.failed())
+    {
+        (void)rtx::setError(ctxt, RTX_E_HEAP);
+        return {};
+    }
+    return rules::draw::Svg(cells).write();
 }
 
 int rrcDraw(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRuleContext* known, const RrcDrawOptions* options,
@@ -865,11 +872,20 @@ int rrcDraw(OSCTXT* pctxt, const CellGroupConfig* pvalue, const RrcRuleContext* 
         return RTX_E_NULL;
     }
     static constexpr RrcDrawOptions usual{};
-    const std::string text = draw::svg(*pctxt, *pvalue, known, options == nullptr ? usual : *options);
-    if (text.empty())
+    std::string text;
+    const auto draw = [&]
     {
-        return pctxt->error.status;
+        text = draw::svg(*pctxt, *pvalue, known, options == nullptr ? usual : *options);
+        return text.empty() ? int{pctxt->error.status} : int{RTX_OK};
+    };
+    const auto withoutMemory = [&]
+    {
+        return int{rtx::setError(*pctxt, RTX_E_HEAP)};
+    };
+    const int status = text::whileMemory(draw, withoutMemory);
+    if (status == RTX_OK)
+    {
+        sink(arg, text.c_str());
     }
-    sink(arg, text.c_str());
-    return RTX_OK;
+    return status;
 }

@@ -29,7 +29,7 @@ typedef struct RrcPageMessage
 // what is known besides the messages, null: nothing; its `previous` is not read. Instead `held` is what the UE has
 // before them: a CellGroupConfig in unaligned PER, of no octets: as `known` says otherwise. Returns 0 after one call of
 // the sink with all of the text, or RTX_E_NULL without messages or sink and RTX_E_SIZE for other than one or two,
-// without a call.
+// RTX_E_HEAP without memory, without a call.
 int rrcPage(const RrcPageMessage* messages, size_t count, const RrcRuleContext* known, const OSOCTET* held,
             size_t heldOctets, RtxPrintSink sink, void* arg);
 

@@ -4,6 +4,7 @@
 #include "remarks.h"
 #include "rrcDraw.h"
 #include "rrcPage.h"
+#include "whileMemory.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -412,6 +413,13 @@ std::string finished(std::string text, const std::string& data,
     {
         const std::size_t size = text.size() + undecided.size() + data.size();
         text += pictureSection(*told, letter, most - std::min(most, size));
+    }
+    for (const auto& [told, letter] : all)
+    {
+        if (rtxMemHeapFailed(&told->tree.context()) != 0) // something would be left out in silence
+        {
+            text::endWithoutMemory();
+        }
     }
     return text + undecided + "<script type=\"application/json\">" + data + "</script>";
 }

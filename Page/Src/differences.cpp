@@ -1,5 +1,7 @@
 #include "differences.h"
 
+#include "whileMemory.h"
+
 namespace page
 {
 namespace
@@ -10,6 +12,7 @@ struct Comparison
     const Tree& a;
     const Tree& b;
     std::vector<Difference> all;
+    text::Sinks sinks;
 };
 
 // Where it stands in one tree, as far as that tree has it.
@@ -32,9 +35,8 @@ Difference::Place placeOf(const Tree& tree, const RtxDifference& difference, OSU
     return {node, left.empty()};
 }
 
-int add(void* arg, const RtxDifference* difference)
+void add(Comparison& comparison, const RtxDifference* difference)
 {
-    auto& comparison = *static_cast<Comparison*>(arg);
     std::string text(rtxDifferenceFormat(difference, nullptr, 0) + 1, '\0');
     (void)rtxDifferenceFormat(difference, text.data(), text.size());
     text.pop_back(); // the terminator
@@ -42,15 +44,25 @@ int add(void* arg, const RtxDifference* difference)
     comparison.all.push_back({text.substr(0, colon), text.substr(colon + 2),
                               placeOf(comparison.a, *difference, &RtxDifferenceStep::indexA),
                               placeOf(comparison.b, *difference, &RtxDifferenceStep::indexB)});
-    return 0;
 }
 
 } // namespace
 
 std::vector<Difference> differencesOf(const Tree& a, const Tree& b)
 {
-    Comparison comparison{a, b, {}};
-    (void)rtxCompare(&a.context(), &b.context(), asn1Type_CellGroupConfig(), &a.value(), &b.value(), add, &comparison);
+    Comparison comparison{a, b, {}, {}};
+    const auto sink = [](void* arg, const RtxDifference* difference)
+    {
+        auto& to = *static_cast<Comparison*>(arg);
+        return to.sinks.run(
+            [&]
+            {
+                add(to, difference);
+                return 0;
+            });
+    };
+    (void)rtxCompare(&a.context(), &b.context(), asn1Type_CellGroupConfig(), &a.value(), &b.value(), sink, &comparison);
+    comparison.sinks.finish();
     return std::move(comparison.all);
 }
 

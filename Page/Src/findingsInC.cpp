@@ -3,6 +3,7 @@
 #include "encodingIds.h"
 #include "fields.h"
 #include "messageFindings.h"
+#include "whileMemory.h"
 
 #include <optional>
 
@@ -43,24 +44,40 @@ public:
     {
         const auto note = [](void* to, const RtxField* field)
         {
-            std::string& first = *static_cast<std::string*>(to);
-            first = first.empty() ? noteText(rootName, *field) : first;
+            static_cast<Search*>(to)->keepNote(*field);
         };
-        std::string first;
         (void)pu_setBuffer(&context_, const_cast<OSOCTET*>(octets), count, 0);
-        if (asn1Trace_CellGroupConfig(&context_, &value_, note, &first) != RTX_OK)
+        const int status = asn1Trace_CellGroupConfig(&context_, &value_, note, this);
+        sinks_.finish();
+        if (status == RTX_E_HEAP)
+        {
+            return status;
+        }
+        if (status != RTX_OK)
         {
             tell(findingOf(context_.error));
-            return context_.error.status == RTX_E_HEAP ? RTX_E_HEAP : RTX_OK;
+            return RTX_OK;
         }
         const RtxDecoded decoded = context_.decoded;
         const auto constraint = [](void* to, const RtxError* error)
         {
-            return static_cast<Search*>(to)->tell(findingOf(*error));
+            return static_cast<Search*>(to)->tellInSink(*error);
         };
         (void)asn1Check_CellGroupConfig(&context_, &value_, constraint, this);
+<<<<<<< HEAD
         tellNotes(
             decoded, rootName, [&] { return first; }, [&](const MessageFinding& found) { tell(found); });
+=======
+        sinks_.finish();
+        if (decoded.unknown != 0)
+        {
+            tell(unknownFinding(rootName, decoded.unknown));
+        }
+        if (decoded.note != RTX_NOTE_NONE)
+        {
+            tell(noteFinding(firstNote_));
+        }
+>>>>>>> refs/heads/faults
         return isEnded_ ? RTX_OK : rules();
     }
 
@@ -69,12 +86,29 @@ private:
     {
         const auto rule = [](void* to, const RrcRuleFinding* told)
         {
-            return static_cast<Search*>(to)->tell(findingOf(*told));
+            return static_cast<Search*>(to)->tellInSink(*told);
         };
         const std::int64_t status = checkOrAsDelta(
             context_, known_, [&] { return rrcCheckRules(&context_, &value_, &known_, rule, this); },
             [&](MessageFinding&& refusal) { tell(refusal); });
+        sinks_.finish();
         return status < 0 ? static_cast<int>(status) : RTX_OK;
+    }
+
+    void keepNote(const RtxField& field)
+    {
+        (void)sinks_.run(
+            [&]
+            {
+                firstNote_ = firstNote_.empty() ? noteText(rootName, field) : firstNote_;
+                return 0;
+            });
+    }
+
+    template <typename Told>
+    int tellInSink(const Told& told)
+    {
+        return sinks_.run([&] { return tell(findingOf(told)); });
     }
 
     int tell(const MessageFinding& found)
@@ -96,6 +130,8 @@ private:
     CellGroupConfig held_{};
     CellGroupConfig value_{};
     bool isEnded_ = false;
+    std::string firstNote_;
+    text::Sinks sinks_;
 };
 
 const EncodingId* wordsNamed(const char* id)
@@ -113,9 +149,13 @@ int rrcMessageFindings(const OSOCTET* octets, size_t numocts, const RrcRuleConte
     {
         return RTX_E_NULL;
     }
-    page::Search search(known, sink, arg);
-    const int status = held == nullptr || heldOctets == 0 ? RTX_OK : search.hold(held, heldOctets);
-    return status != RTX_OK ? status : search.look(octets, numocts);
+    const auto search = [&]
+    {
+        page::Search all(known, sink, arg);
+        const int status = held == nullptr || heldOctets == 0 ? RTX_OK : all.hold(held, heldOctets);
+        return status != RTX_OK ? status : all.look(octets, numocts);
+    };
+    return text::whileMemory(search, [] { return int{RTX_E_HEAP}; });
 }
 
 const char* rrcFindingAdvice(const char* id)

@@ -2,6 +2,7 @@
 
 #include "html.h"
 #include "rtxWalk.h"
+#include "whileMemory.h"
 
 #include <algorithm>
 #include <functional>
@@ -20,12 +21,27 @@ std::string indexName(std::uint32_t index)
 template <typename Put>
 std::string textOf(const Put& put)
 {
-    std::string text;
-    rtx::Output out([](void* to, const char* piece) { *static_cast<std::string*>(to) += piece; }, &text);
+    struct
+    {
+        std::string text;
+        text::Sinks sinks;
+    } told;
+    const auto sink = [](void* arg, const char* piece)
+    {
+        auto& to = *static_cast<decltype(told)*>(arg);
+        (void)to.sinks.run(
+            [&]
+            {
+                to.text += piece;
+                return 0;
+            });
+    };
+    rtx::Output out(sink, &told);
     put(out);
     out.put('\n'); // hands over what is left
-    text.pop_back();
-    return text;
+    told.sinks.finish();
+    told.text.pop_back();
+    return std::move(told.text);
 }
 
 // A writer as that of JER, which makes nodes.
@@ -281,14 +297,25 @@ Tree::Tree(std::span<const std::uint8_t> octets)
     : octets_(octets.begin(), octets.end()), size_(octets.size()), context_(), value_(), error_(), decoded_()
 {
     octets_.reserve(1); // an empty message has an address, too
-    rtxInitContext(&context_);
     (void)pu_setBuffer(&context_, octets_.data(), size_, 0);
-    Fields fields;
-    const auto sink = [](void* to, const RtxField* field)
+    struct
     {
-        static_cast<Fields*>(to)->add(*field);
+        Fields fields;
+        text::Sinks sinks;
+    } traced;
+    const auto sink = [](void* arg, const RtxField* field)
+    {
+        auto& to = *static_cast<decltype(traced)*>(arg);
+        (void)to.sinks.run(
+            [&]
+            {
+                to.fields.add(*field);
+                return 0;
+            });
     };
-    (void)rtxTrace(&context_, asn1Type_CellGroupConfig(), &value_, 0, sink, &fields);
+    (void)rtxTrace(&context_, asn1Type_CellGroupConfig(), &value_, 0, sink, &traced);
+    traced.sinks.finish();
+    const Fields& fields = traced.fields;
     error_ = context_.error;
     decoded_ = context_.decoded;
     NodeWriter writer(nodes_);
@@ -297,11 +324,6 @@ Tree::Tree(std::span<const std::uint8_t> octets)
     rtxErrReset(&context_);
     number();
     place(fields);
-}
-
-Tree::~Tree()
-{
-    rtFreeContext(&context_);
 }
 
 bool Tree::Address::operator<(const Address& other) const

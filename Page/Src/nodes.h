@@ -33,6 +33,21 @@ struct Node
     Bits bits;
 };
 
+// Is freed whatever ends its owner, a constructor without memory, too.
+struct OwnContext : OSCTXT
+{
+    OwnContext()
+    {
+        rtxInitContext(this);
+    }
+    ~OwnContext()
+    {
+        rtFreeContext(this);
+    }
+    OwnContext(const OwnContext&) = delete;
+    OwnContext& operator=(const OwnContext&) = delete;
+};
+
 // Bits that are no node's.
 struct Stretch
 {
@@ -52,7 +67,6 @@ class Tree
 public:
     // Decodes the octets; what it points to lives as long as it does.
     explicit Tree(std::span<const std::uint8_t> octets);
-    ~Tree();
     Tree(const Tree&) = delete;
     Tree& operator=(const Tree&) = delete;
 
@@ -107,7 +121,7 @@ private:
 
     std::vector<std::uint8_t> octets_;
     std::size_t size_;
-    mutable OSCTXT context_;
+    mutable OwnContext context_;
     CellGroupConfig value_;
     RtxError error_;
     RtxDecoded decoded_;

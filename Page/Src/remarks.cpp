@@ -1,6 +1,7 @@
 #include "remarks.h"
 
 #include "rrcExplain.h"
+#include "whileMemory.h"
 
 #include <algorithm>
 
@@ -33,6 +34,18 @@ public:
     }
 
 private:
+    // What a sink was told of.
+    template <typename Keep>
+    int keep(const Keep& one)
+    {
+        return sinks_.run(
+            [&]
+            {
+                one(*this);
+                return 0;
+            });
+    }
+
     void add(MessageFinding finding, std::span<const Step> steps)
     {
         const std::uint32_t node = tree_.find(steps);
@@ -43,13 +56,25 @@ private:
     {
         const auto sink = [](void* to, const RtxError* error)
         {
-            static_cast<Collector*>(to)->add(findingOf(*error), stepsOf(*error));
-            return 0;
+            return static_cast<Collector*>(to)->keep([=](Collector& all)
+                                                     { all.add(findingOf(*error), stepsOf(*error)); });
         };
         (void)rtxCheck(&tree_.context(), asn1Type_CellGroupConfig(), &tree_.value(), sink, this);
+<<<<<<< HEAD
         tellNotes(
             tree_.decoded(), tree_.nodes()[0].name, [&] { return tree_.note(); },
             [&](MessageFinding&& found) { add(std::move(found), {}); });
+=======
+        sinks_.finish();
+        if (tree_.decoded().unknown != 0)
+        {
+            add(unknownFinding(tree_.nodes()[0].name, tree_.decoded().unknown), {});
+        }
+        if (tree_.decoded().note != RTX_NOTE_NONE)
+        {
+            add(noteFinding(tree_.note()), {});
+        }
+>>>>>>> refs/heads/faults
     }
 
     void take(const RrcRuleFinding& told)
@@ -72,10 +97,11 @@ private:
     {
         const auto sink = [](void* to, const RrcRuleFinding* told)
         {
-            static_cast<Collector*>(to)->take(*told);
-            return 0;
+            return static_cast<Collector*>(to)->keep([=](Collector& all) { all.take(*told); });
         };
-        return rrcCheckRules(&tree_.context(), &tree_.value(), &known_, sink, this);
+        const std::int64_t status = rrcCheckRules(&tree_.context(), &tree_.value(), &known_, sink, this);
+        sinks_.finish();
+        return status;
     }
 
     void rules()
@@ -93,13 +119,13 @@ private:
     {
         const auto sink = [](void* to, const RrcMeaning* meaning)
         {
-            static_cast<Collector*>(to)->take(*meaning);
-            return 0;
+            return static_cast<Collector*>(to)->keep([=](Collector& all) { all.take(*meaning); });
         };
         if (rrcExplain(&tree_.context(), &tree_.value(), &known_, sink, this) < 0)
         {
             remarks_.refusal = "out of memory";
         }
+        sinks_.finish();
     }
 
     void take(const RrcMeaning& meaning)
@@ -118,6 +144,7 @@ private:
     Tree& tree_;
     RrcRuleContext known_;
     Remarks remarks_;
+    text::Sinks sinks_;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "assets.h"
 #include "html.h"
 #include "rrcPage.h"
+#include "whileMemory.h"
 
 #include <algorithm>
 
@@ -50,14 +51,23 @@ int rrcPage(const RrcPageMessage* messages, size_t count, const RrcRuleContext* 
     {
         return RTX_E_SIZE;
     }
-    std::vector<page::Shown> shown;
-    for (const RrcPageMessage& message : std::span(messages, count))
+    std::string text;
+    const auto write = [&]
     {
-        shown.push_back({message.name == nullptr ? "" : message.name,
-                         message.note == nullptr ? "" : message.note,
-                         {message.octets, message.octets + message.numocts}});
+        std::vector<page::Shown> shown;
+        for (const RrcPageMessage& message : std::span(messages, count))
+        {
+            shown.push_back({message.name == nullptr ? "" : message.name,
+                             message.note == nullptr ? "" : message.note,
+                             {message.octets, message.octets + message.numocts}});
+        }
+        text = page::document(shown, known, {held, heldOctets});
+        return int{RTX_OK};
+    };
+    const int status = text::whileMemory(write, [] { return int{RTX_E_HEAP}; });
+    if (status == RTX_OK)
+    {
+        sink(arg, text.c_str());
     }
-    const std::string text = page::document(shown, known, {held, heldOctets});
-    sink(arg, text.c_str());
-    return RTX_OK;
+    return status;
 }

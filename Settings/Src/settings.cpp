@@ -13,6 +13,11 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
+<<<<<<< HEAD
+=======
+#include <cstring>
+#include <map>
+>>>>>>> refs/heads/faults
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -273,7 +278,7 @@ constexpr auto capabilities = std::to_array<Capability>({
 
 constexpr std::string_view notSupported = "notSupported";
 
-OSUINT32 featuresOf(const Said& said, const std::string& name, const nlohmann::json& value)
+OSUINT32 featuresOf(const Said& said, const std::string& name, const std::optional<std::string>& value)
 {
     Words names;
     Words values;
@@ -306,6 +311,125 @@ OSUINT32 featuresOf(const Said& said, const std::string& name, const nlohmann::j
     }
     refuse(said, name + " is none of " + known + std::string(notSupported));
 }
+
+// The names of a JSON object with their values, each one or a list; what is no string has no value. The parser's own
+// objects need memory to go, and end the program where there is none.
+class CapabilityEvents : public nlohmann::json_sax<nlohmann::json>
+{
+public:
+    const std::map<std::string, std::vector<std::optional<std::string>>>& all() const
+    {
+        return all_;
+    }
+    bool isObject() const
+    {
+        return isObject_;
+    }
+    const std::string& wrong() const
+    {
+        return wrong_;
+    }
+
+    bool null() override
+    {
+        return take(std::nullopt);
+    }
+    bool boolean(bool /*value*/) override
+    {
+        return take(std::nullopt);
+    }
+    bool number_integer(number_integer_t /*value*/) override
+    {
+        return take(std::nullopt);
+    }
+    bool number_unsigned(number_unsigned_t /*value*/) override
+    {
+        return take(std::nullopt);
+    }
+    bool number_float(number_float_t /*value*/, const string_t& /*text*/) override
+    {
+        return take(std::nullopt);
+    }
+    bool string(string_t& value) override
+    {
+        return take(value);
+    }
+    bool binary(binary_t& /*value*/) override // not in JSON
+    {
+        return false;
+    }
+
+    bool start_object(std::size_t /*elements*/) override
+    {
+        isObject_ = isObject_ || depth_ == 0;
+        return open(false);
+    }
+    bool key(string_t& name) override
+    {
+        if (depth_ == 1)
+        {
+            values_ = &all_[name];
+            values_->clear(); // of a name that comes twice the last one counts
+        }
+        return true;
+    }
+    bool end_object() override
+    {
+        return close();
+    }
+    bool start_array(std::size_t /*elements*/) override
+    {
+        return open(depth_ == 1);
+    }
+    bool end_array() override
+    {
+        return close();
+    }
+
+    // "[json.exception.parse_error.101] parse error at line 1, ..."
+    bool parse_error(std::size_t /*position*/, const std::string& /*token*/,
+                     const nlohmann::detail::exception& error) override
+    {
+        const std::string_view words = error.what();
+        wrong_ = words.substr(words.find("] ") + 2);
+        return false;
+    }
+
+private:
+    bool open(bool isList)
+    {
+        if (!isList)
+        {
+            (void)take(std::nullopt);
+        }
+        isList_ = isList || (isList_ && depth_ != 0);
+        ++depth_;
+        return true;
+    }
+
+    bool close()
+    {
+        --depth_;
+        isList_ = isList_ && depth_ > 1;
+        return true;
+    }
+
+    bool take(std::optional<std::string> value)
+    {
+        if (isObject_ && (depth_ == 1 || (depth_ == 2 && isList_)))
+        {
+            values_->push_back(std::move(value));
+        }
+        return true;
+    }
+
+    std::map<std::string, std::vector<std::optional<std::string>>> all_;
+    std::vector<std::optional<std::string>>* values_ = nullptr; // of the last name
+    std::string wrong_;
+    unsigned depth_ = 0;
+    bool isObject_ = false; // the outermost value
+    bool isList_ = false;   // the one at depth 1
+};
 
 constexpr std::string_view nothing = "none";
 
@@ -448,25 +572,21 @@ void takeCapabilities(Known& known, const Said& said)
     {
         refuse(said, "a zero octet is no JSON"); // the parser takes it for the end
     }
-    try
+    CapabilityEvents events;
+    if (!nlohmann::json::sax_parse(said.value, &events, nlohmann::json::input_format_t::json, true, true))
     {
-        const nlohmann::json json = nlohmann::json::parse(said.value, nullptr, true, true);
-        if (!json.is_object())
-        {
-            refuse(said, "an object with the names of capabilities is expected");
-        }
-        for (const auto& [name, value] : json.items())
-        {
-            for (const nlohmann::json& one : value.is_array() ? value : nlohmann::json::array({value}))
-            {
-                all.features |= featuresOf(said, name, one);
-            }
-        }
+        refuse(said, events.wrong());
     }
-    catch (const nlohmann::json::exception& error)
+    if (!events.isObject())
     {
-        const std::string_view words = error.what(); // "[json.exception.parse_error.101] parse error at line 1, ..."
-        refuse(said, std::string(words.substr(words.find("] ") + 2)));
+        refuse(said, "an object with the names of capabilities is expected");
+    }
+    for (const auto& [name, values] : events.all())
+    {
+        for (const std::optional<std::string>& value : values)
+        {
+            all.features |= featuresOf(said, name, value);
+        }
     }
     known.context.capabilities = &all;
 }

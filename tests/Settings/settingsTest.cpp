@@ -235,6 +235,15 @@ TEST(Settings, a_refusal_says_what_would_be_right)
     EXPECT_THAT(refusal("capability", "[]"), StartsWith("capability: an object"));
     EXPECT_THAT(refusal("capability", R"({"sr-PeriodSl5Sl10":"supported"})"),
                 testing::EndsWith("; did you mean sr-PeriodsSl5Sl10?"));
+    EXPECT_THAT(refusal("capability", "[{}]"), StartsWith("capability: an object"));
+    for (const char* const value : {"1", "null", "{\"supported\":1}", "[[\"supported\"]]", "[\"supported\",{}]"})
+    {
+        const std::string text = std::string("{\"sr-PeriodsSl5Sl10\":") + value + "}";
+        EXPECT_EQ(refusal("capability", text), "capability: sr-PeriodsSl5Sl10 is none of supported, notSupported")
+            << text;
+    }
+    EXPECT_EQ(refusal("capability", R"({"sr-PeriodsSl5Sl10":1,"sr-PeriodsSl5Sl10":["supported",]})").substr(0, 22),
+              "capability: parse erro");
     EXPECT_THAT(refusal("capability", "{"), StartsWith("capability: parse error at line 1, column 2"));
     EXPECT_EQ(refusal("capability", std::string_view("{}\0{}", 5)), "capability: a zero octet is no JSON");
     EXPECT_EQ(refusal("rach", "\n{}"),

@@ -8,6 +8,7 @@ namespace
 
 thread_local bool active = false;
 thread_local bool refused = false;
+thread_local bool once = false;
 thread_local unsigned left = 0;
 
 } // namespace
@@ -17,13 +18,13 @@ thread_local unsigned left = 0;
 extern "C" void* __wrap_rtxMemHeapAlloc(OSCTXT* pctxt, size_t size)
 {
     auto& heap = pctxt->heap;
-    if (active && left == 0)
+    if (active && left == 0 && !(once && refused))
     {
         refused = true;
         heap.failed = 1;
         return nullptr;
     }
-    left -= active ? 1U : 0U;
+    left -= active && left != 0 ? 1U : 0U;
     void* const p = __real_rtxMemHeapAlloc(pctxt, size);
     heap.left += static_cast<size_t>(heap.end - heap.next);
     heap.end = heap.next;
@@ -33,8 +34,9 @@ extern "C" void* __wrap_rtxMemHeapAlloc(OSCTXT* pctxt, size_t size)
 namespace test
 {
 
-HeapFault::HeapFault(unsigned successes)
+HeapFault::HeapFault(unsigned successes, Refused which)
 {
+    once = which == Refused::One;
     active = true;
     refused = false;
     left = successes;

@@ -6,12 +6,18 @@
 namespace test
 {
 
-// While it lives, the heap of every context of this thread refuses all requests after the first `successes`.
+// While it lives, the heap of every context of this thread refuses all requests after the first `successes`, or one.
 // The test's executable is linked with --wrap=rtxMemHeapAlloc (cgc_composer_test does that).
 class HeapFault
 {
 public:
-    explicit HeapFault(unsigned successes);
+    enum class Refused
+    {
+        All,
+        One
+    };
+
+    explicit HeapFault(unsigned successes, Refused which = Refused::All);
     ~HeapFault();
     HeapFault(const HeapFault&) = delete;
     HeapFault& operator=(const HeapFault&) = delete;

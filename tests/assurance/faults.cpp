@@ -1,0 +1,225 @@
+// faults RANDOM POINTS [CALL...]: every request for memory fails in turn, of the examples and of RANDOM records with as
+// many that are refused, at most POINTS of a call with an input (0: all). Prints how many there were; exits with 1
+// where a call says something else than that there is no memory, leaks, throws, or changes what a failure leaves alone.
+#include "calls.h"
+#include "memory.h"
+
+#include "support/HeapFault.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace
+{
+
+using assurance::Call;
+using assurance::Input;
+using assurance::Result;
+
+// What fails.
+enum class Kind
+{
+    None,
+    OneBlock,    // a request to malloc or operator new
+    AllBlocks,   // and those behind it
+    OneRequest,  // a request to a context's heap
+    AllRequests, // and those behind it
+    Limit        // whatever goes beyond so many octets of the context's heap
+};
+
+constexpr Kind kinds[] = {Kind::OneBlock, Kind::AllBlocks, Kind::OneRequest, Kind::AllRequests, Kind::Limit};
+constexpr const char* kindNames[] = {"none", "one block", "all blocks", "one request", "all requests", "limit"};
+
+class FaultStage : public assurance::Stage
+{
+public:
+    FaultStage(Kind kind, std::size_t number) : kind_(kind), number_(number) {}
+
+    void run(OSCTXT* context, const std::function<void()>& call) override
+    {
+        hasContext_ = context != nullptr;
+        std::optional<test::HeapFault> fault;
+        if (kind_ == Kind::OneRequest || kind_ == Kind::AllRequests)
+        {
+            fault.emplace(static_cast<unsigned>(number_ - 1),
+                          kind_ == Kind::OneRequest ? test::HeapFault::Refused::One : test::HeapFault::Refused::All);
+        }
+        else if (kind_ == Kind::Limit && context != nullptr)
+        {
+            rtxMemHeapSetLimit(context, number_);
+        }
+        const std::size_t before = assurance::memory.asked;
+        assurance::memory.hasFailed = false;
+        assurance::memory.failingOn = kind_ == Kind::AllBlocks;
+        assurance::memory.failing = kind_ == Kind::OneBlock || kind_ == Kind::AllBlocks ? before + number_ : 0;
+        try
+        {
+            call();
+        }
+        catch (...)
+        {
+            hasThrown_ = true;
+        }
+        assurance::memory.failing = 0;
+        struck_ = fault.has_value()      ? test::HeapFault::struck()
+                  : kind_ == Kind::Limit ? hasContext_ && rtxMemHeapFailed(context) != 0
+                                         : assurance::memory.hasFailed;
+    }
+
+    bool hasContext() const
+    {
+        return hasContext_;
+    }
+    bool struck() const
+    {
+        return struck_;
+    }
+    bool hasThrown() const
+    {
+        return hasThrown_;
+    }
+
+private:
+    Kind kind_;
+    std::size_t number_;
+    bool hasContext_ = false;
+    bool struck_ = false;
+    bool hasThrown_ = false;
+};
+
+// One call with one input.
+class Trial
+{
+public:
+    Trial(const Call& call, const Input& input, std::size_t most) : call_(call), input_(input), most_(most)
+    {
+        FaultStage stage(Kind::None, 0);
+        (void)resultOf(call_, input_, stage); // what the platform makes once
+        alone_ = resultOf(call_, input_, stage);
+        hasContext_ = stage.hasContext();
+    }
+
+    // How many points there were.
+    std::size_t of(Kind kind)
+    {
+        if (kind == Kind::Limit && !hasContext_)
+        {
+            return 0;
+        }
+        constexpr std::size_t granule = 16;
+        const std::size_t step = kind == Kind::Limit ? granule : 1;
+        const std::size_t first = kind == Kind::Limit ? 0 : 1;
+        // The first number of which nothing fails.
+        std::size_t struck = 0;
+        std::size_t end = 1;
+        while (strikes(kind, first + (end - 1) * step))
+        {
+            struck = end;
+            end *= 2;
+        }
+        while (end - struck > 1)
+        {
+            const std::size_t middle = (end + struck) / 2;
+            (strikes(kind, first + (middle - 1) * step) ? struck : end) = middle;
+        }
+        // All of them, or as many as were asked for, the first and the last among them.
+        const std::size_t points = most_ == 0 ? struck : std::min(struck, most_);
+        for (std::size_t i = 0; i < points; ++i)
+        {
+            const std::size_t at = points == struck ? i : i * (struck - 1) / (points - 1);
+            (void)strikes(kind, first + at * step);
+        }
+        return points;
+    }
+
+    unsigned wrong() const
+    {
+        return wrong_;
+    }
+
+private:
+    bool strikes(Kind kind, std::size_t number)
+    {
+        FaultStage stage(kind, number);
+        const std::size_t live = assurance::memory.live;
+        const Result result = resultOf(call_, input_, stage);
+        const bool isShorter = call_.mayShorten && result.lines > alone_.lines;
+        const bool isAsAlone = result == alone_;
+        complain(stage.hasThrown(), "an exception leaves it", kind, number);
+        complain(assurance::memory.live != live, "it leaks", kind, number);
+        complain(!stage.hasThrown() && result.wrong, "it breaks its word", kind, number);
+        complain(!stage.hasThrown() && !stage.struck() && !isAsAlone, "it gives something else without a failure", kind,
+                 number);
+        complain(!stage.hasThrown() && stage.struck() && !result.refused && !isShorter && !isAsAlone,
+                 "it does not say that there is no memory", kind, number);
+        return stage.struck();
+    }
+
+    void complain(bool isWrong, const char* what, Kind kind, std::size_t number)
+    {
+        if (isWrong && ++wrong_ <= 3)
+        {
+            std::printf("%s, %s, %s %zu: %s\n", call_.name, input_.name.c_str(), kindNames[static_cast<int>(kind)],
+                        number, what);
+        }
+    }
+
+    const Call& call_;
+    const Input& input_;
+    std::size_t most_;
+    Result alone_;
+    bool hasContext_ = false;
+    unsigned wrong_ = 0;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 3)
+    {
+        std::fputs("usage: faults RANDOM POINTS [CALL...]\n", stderr);
+        return 2;
+    }
+    const std::vector<Input> inputs = assurance::inputs(static_cast<unsigned>(std::atoi(argv[1])));
+    const auto most = static_cast<std::size_t>(std::atoi(argv[2]));
+    unsigned wrong = 0;
+    std::size_t all[std::size(kinds)] = {};
+    std::printf("| Call | one block | all blocks | one request | all requests | limit |\n|---|--:|--:|--:|--:|--:|\n");
+    for (const Call& call : assurance::calls())
+    {
+        const bool isWanted =
+            argc == 3 ||
+            std::any_of(argv + 3, argv + argc, [&](const char* name) { return std::strcmp(name, call.name) == 0; });
+        if (!isWanted)
+        {
+            continue;
+        }
+        std::size_t points[std::size(kinds)] = {};
+        for (const Input& input : inputs)
+        {
+            Trial trial(call, input, most);
+            for (std::size_t i = 0; i < std::size(kinds); ++i)
+            {
+                points[i] += trial.of(kinds[i]);
+            }
+            wrong += trial.wrong();
+        }
+        std::printf("| `%s` | %zu | %zu | %zu | %zu | %zu |\n", call.name, points[0], points[1], points[2], points[3],
+                    points[4]);
+        for (std::size_t i = 0; i < std::size(kinds); ++i)
+        {
+            all[i] += points[i];
+        }
+        std::fflush(stdout);
+    }
+    std::printf("| all | %zu | %zu | %zu | %zu | %zu |\n", all[0], all[1], all[2], all[3], all[4]);
+    const std::size_t sum = all[0] + all[1] + all[2] + all[3] + all[4];
+    std::printf("%zu points of %zu inputs, %u wrong\n", sum, inputs.size(), wrong);
+    return wrong == 0 && sum > 1000 ? 0 : 1;
+}
