@@ -34,8 +34,9 @@ xargs -P "$(nproc)" -I {} bash -c 'fuzz {} || exit 255' <<<"$fuzzers"
 
 # One of them as others build it, with its corpus and dictionary as they get it.
 out=$PWD/build/oss-fuzz/out
-OUT=$out fuzz/build.sh settings
+OUT=$out fuzz/build.sh compiler
 rm -rf "$out/corpus"
-python3 -m zipfile -e "$out/settings_seed_corpus.zip" "$out/corpus"
-"$out/settings" -dict="$out/settings.dict" -runs=1000 "$out/corpus" >"$out/settings.log" 2>&1 || { cat "$out/settings.log" >&2; exit 1; }
-echo "== fuzz/build.sh settings: $(find "$out/corpus" -type f | wc -l) inputs of its corpus"
+python3 -m zipfile -e "$out/compiler_seed_corpus.zip" "$out/corpus"
+inputs=$(find "$out/corpus" -type f | wc -l)
+"$out/compiler" -dict="$out/compiler.dict" -runs=1000 "$out/corpus" >"$out/compiler.log" 2>&1 || { cat "$out/compiler.log" >&2; exit 1; }
+echo "== fuzz/build.sh compiler: $inputs inputs of its corpus"
