@@ -107,7 +107,7 @@ template <typename Print>
 void compose(records::Chance::Ranges ranges, std::uint32_t count, Fill& fill, const Print& print)
 {
     constexpr std::uint32_t thousand = 1000;
-    const auto record = std::make_unique_for_overwrite<RrcCellGroupCfg_t>();
+    const std::unique_ptr<RrcCellGroupCfg_t> record(new RrcCellGroupCfg_t); // libc++ 14 lacks the call for it
     fill(record.get(), sizeof *record);
     std::vector<UINT8> octets(bufferSize);
     records::Chance chance(ranges);
@@ -169,7 +169,7 @@ int main(int argc, char** argv)
     for (const auto& [name, ranges] : {std::pair("kept", Ranges::kept), std::pair("dropped", Ranges::dropped)})
     {
         unsigned number = 0;
-        const auto print = [&](std::uint64_t sum)
+        const auto print = [&, name = name](std::uint64_t sum)
         {
             std::array<char, 64> line{};
             (void)std::snprintf(line.data(), line.size(), "%s %u000 %016llx", name, ++number,
