@@ -4,10 +4,18 @@
 #include "nearest.h"
 #include "session.h"
 
+// Some of its assertions are wrong of malformed files, such as "[=]", and their conditions are looked at once more
+// behind them: they would end the program or, with NDEBUG and clang, be taken for granted.
+#pragma push_macro("NDEBUG")
+#undef NDEBUG
+#define TOML_ASSERT(condition) static_assert(true)
 #include <toml++/toml.h>
+#pragma pop_macro("NDEBUG")
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 
 namespace tool
 {
@@ -19,16 +27,78 @@ namespace fs = std::filesystem;
 constexpr const char* fileName = ".cellgroupcfg.toml";
 constexpr std::size_t mostOctets = std::size_t{1} << 20;
 
+// Behind a string that begins at `at`, or where it is broken off: TOML's four kinds.
+std::size_t behindString(std::string_view text, std::size_t at)
+{
+    const char quote = text[at];
+    const std::string three(3, quote);
+    const bool isLong = text.substr(at, 3) == three;
+    const bool hasEscapes = quote == '"';
+    for (at += isLong ? 3 : 1; at < text.size(); ++at)
+    {
+        if (hasEscapes && text[at] == '\\')
+        {
+            ++at;
+        }
+        else if (!isLong && (text[at] == quote || text[at] == '\n'))
+        {
+            return at + 1;
+        }
+        else if (isLong && text.substr(at, 3) == three)
+        {
+            // The last quotes of five end it.
+            const std::size_t end = text.find_first_not_of(quote, at);
+            return std::min({end, at + 5, text.size()});
+        }
+    }
+    return text.size();
+}
+
+// Where TOML has nothing but ASCII, outside of strings and comments: the first other octet.
+std::optional<std::size_t> findForeign(std::string_view text)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    std::size_t at = text.starts_with(mark) ? mark.size() : 0;
+    char before = '\n'; // but for blanks
+    while (at < text.size())
+    {
+        const char c = text[at];
+        const bool isString =
+            (c == '"' || c == '\'') && std::string_view("\n=[,{.").find(before) != std::string_view::npos;
+        if (static_cast<unsigned char>(c) > 0x7F)
+        {
+            return at;
+        }
+        before = c == ' ' || c == '\t' ? before : c;
+        at = isString ? behindString(text, at) : c == '#' ? text.find('\n', at) : at + 1;
+    }
+    return std::nullopt;
+}
+
 class Reader
 {
 public:
     explicit Reader(const std::string& name) : name_(name) {}
 
-    ProjectFile read()
+    ProjectFile read(std::string_view text)
     {
+        // The parser calls some of these characters unreachable.
+        if (const auto foreign = findForeign(text))
+        {
+            const std::string_view before = text.substr(0, *foreign);
+            const auto isBegin = [](char c)
+            {
+                return (static_cast<unsigned char>(c) & 0xC0U) != 0x80;
+            };
+            const std::size_t begin = before.rfind('\n') + 1;
+            fail(std::to_string(std::count(before.begin(), before.end(), '\n') + 1) + ":" +
+                     std::to_string(
+                         std::count_if(before.begin() + static_cast<std::ptrdiff_t>(begin), before.end(), isBegin) + 1),
+                 "a character that TOML has in strings and comments only");
+        }
         try
         {
-            const toml::table all = toml::parse(Session::file(name_, mostOctets).raw, name_);
+            const toml::table all = toml::parse(text, name_);
             for (const auto& [key, node] : all)
             {
                 if (key == "context" && node.is_table())
@@ -50,20 +120,30 @@ public:
         }
         catch (const toml::parse_error& error)
         {
-            fail(error.source(), std::string(error.description()));
+            fail(error.source(), onOneLine(std::string(error.description())));
         }
         return std::move(file_);
     }
 
 private:
+    static std::string position(const toml::source_region& region)
+    {
+        return std::to_string(region.begin.line) + ":" + std::to_string(region.begin.column);
+    }
+
     std::string place(const toml::source_region& region) const
     {
-        return name_ + ":" + std::to_string(region.begin.line) + ":" + std::to_string(region.begin.column);
+        return name_ + ":" + position(region);
+    }
+
+    [[noreturn]] void fail(const std::string& position, const std::string& what) const
+    {
+        throw Failure(Exit::Usage, name_ + ":" + position + ": " + what);
     }
 
     [[noreturn]] void fail(const toml::source_region& region, const std::string& what) const
     {
-        throw Failure(Exit::Usage, place(region) + ": " + what);
+        fail(position(region), what);
     }
 
     static std::string unknown(const toml::key& key, const std::vector<std::string_view>& names)
@@ -232,7 +312,12 @@ std::string projectFileName()
 
 ProjectFile readProjectFile(const std::string& name)
 {
-    ProjectFile file = Reader(name).read();
+    return projectFileOf(name, Session::file(name, mostOctets).raw);
+}
+
+ProjectFile projectFileOf(const std::string& name, std::string_view text)
+{
+    ProjectFile file = Reader(name).read(text);
     file.name = name;
     return file;
 }

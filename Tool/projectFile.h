@@ -5,6 +5,7 @@
 #include "silences.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tool
@@ -23,5 +24,8 @@ std::string projectFileName();
 
 // Throws Failure with line and column of what is wrong. Files that it names lie beside it.
 ProjectFile readProjectFile(const std::string& name);
+
+// The same of a text, as the file of that name.
+ProjectFile projectFileOf(const std::string& name, std::string_view text);
 
 } // namespace tool

@@ -52,7 +52,7 @@ struct PathStep
 std::vector<PathStep> splitPath(std::string_view path);
 
 // The places along a path, the type first. An element needs no index and no brackets: "list[3].x", "list[].x" and
-// "list.x" are one. Throws PathError, with the nearest name.
+// "list.x" are one. Throws PathError, with the nearest name; Failure where there is no such type.
 std::vector<SchemaPlace> findPlaces(std::string_view path);
 
 // All places below a type whose member has this name.

@@ -158,10 +158,20 @@ function(cgc_benchmark name)
 endfunction()
 
 # cgc_fuzzer(<name> SOURCES <file>... LIBS <library>...)
-# A libFuzzer executable in <build>/fuzzers; scripts/test-fuzz.sh feeds it fuzz/corpus/<name>.
+# A fuzzer in <build>/fuzzers, of the target `fuzzers`; scripts/test-fuzz.sh feeds it fuzz/corpus/<name>. The engine is
+# libFuzzer, or another one as fuzz/build.sh says: an option or a library.
+if(CELLGROUPCFG_BUILD_FUZZ)
+    set(CELLGROUPCFG_FUZZING_ENGINE "-fsanitize=fuzzer" CACHE STRING "What a fuzzer is linked with")
+    add_custom_target(fuzzers)
+endif()
 function(cgc_fuzzer name)
     cgc_program(${name} ${ARGN})
-    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    add_dependencies(fuzzers ${name})
+    if(CELLGROUPCFG_FUZZING_ENGINE MATCHES "^-f")
+        target_link_options(${name} PRIVATE ${CELLGROUPCFG_FUZZING_ENGINE})
+    else()
+        target_link_libraries(${name} PRIVATE ${CELLGROUPCFG_FUZZING_ENGINE})
+    endif()
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzzers")
 endfunction()
 

@@ -25,6 +25,11 @@ public:
         next_ = octets_.get();
     }
 
+    bool isAtEnd() const
+    {
+        return left_ == 0;
+    }
+
     unsigned number()
     {
         if (left_ == 0)
@@ -187,10 +192,10 @@ inline void addLine(uint64_t& sum, const char* line, size_t length)
     }
 }
 
-// What a call with `previous` may return without telling anything.
+// What a call with `previous` may return without telling anything: what rtxApply says.
 inline bool isRefused(const OSCTXT& ctxt, const RrcRuleContext& known, int64_t status)
 {
-    return known.previous != nullptr && status == ctxt.error.status && (status == RTX_E_DELTA || status == RTX_E_SIZE);
+    return known.previous != nullptr && status < 0 && status == ctxt.error.status && status != RTX_E_HEAP;
 }
 
 // Reads the context and the message behind it, which `check(ctxt, tree, known)` gets where it is one.

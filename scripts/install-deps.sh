@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# install-deps.sh run|test|browser|package [--list]: installs the Debian packages that ./run, ./test or its steps browser and
-# package need and that are missing, or lists those that are needed.
+# install-deps.sh run|test|browser|elsewhere|package [--list]: installs the Debian packages that ./run, ./test, its steps
+# browser and package or scripts/elsewhere.sh need and that are missing, or lists those that are needed.
 # With nothing missing it does nothing and needs no network. Where there is no dpkg, the programs that ./run calls are all
 # that can be looked for.
 set -euo pipefail
@@ -16,6 +16,8 @@ test_packages=(
     g++-aarch64-linux-gnu g++-i686-linux-gnu qemu-user googletest
     python3-pytest mypy python3-setuptools python3-wheel python3-pip
 )
+# Compilers and a library for scripts/elsewhere.sh beyond those of the tests.
+elsewhere_packages=("${test_packages[@]}" g++-arm-linux-gnueabihf libc++-14-dev libc++abi-14-dev)
 browser_packages=(chromium fonts-dejavu-core)
 # Another Node.js than Debian's is as good.
 if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
@@ -28,10 +30,11 @@ package_packages=("${test_packages[@]}" debhelper dh-python dpkg-dev git lintian
 case "${1:-}" in
     run) packages=("${run_packages[@]}") ;;
     test) packages=("${test_packages[@]}") ;;
+    elsewhere) packages=("${elsewhere_packages[@]}") ;;
     browser) packages=("${browser_packages[@]}") ;;
     package) packages=("${package_packages[@]}") ;;
     *)
-        echo "usage: $0 run|test|browser|package [--list]" >&2
+        echo "usage: $0 run|test|browser|elsewhere|package [--list]" >&2
         exit 2
         ;;
 esac

@@ -3,12 +3,9 @@
 #define RTXBITS_H
 
 #include <array>
-#include <bit>
 #include <cstdint>
 
-// Encoder and decoder move several octets of a structure at once, and so do bit strings of the records.
-static_assert(std::endian::native == std::endian::little,
-              "cellgroupcfg is for little-endian systems: on others it would encode other octets (docs/limits.md)");
+#include "asn1Runtime.h"
 
 namespace rtx
 {

@@ -29,9 +29,15 @@ public:
     // What it makes lies in the context's heap.
     RandomTree(OSCTXT& ctxt, uint64_t seed) : RandomTree(ctxt, seed, Options()) {}
     RandomTree(OSCTXT& ctxt, uint64_t seed, const Options& options)
+        : RandomTree(
+              ctxt, [random = std::mt19937_64(seed)]() mutable { return random(); }, options)
+    {
+    }
+    // From numbers of another origin, which must not be the same for ever.
+    RandomTree(OSCTXT& ctxt, std::function<uint64_t()> random, const Options& options)
         : ctxt_(ctxt),
           options_(options),
-          random_(seed),
+          random_(std::move(random)),
           left_(options.budget),
           present_(10 + 20 * static_cast<unsigned>(below(5)))
     {
@@ -714,7 +720,7 @@ private:
 
     OSCTXT& ctxt_;
     Options options_;
-    std::mt19937_64 random_;
+    std::function<uint64_t()> random_;
     unsigned left_;
     unsigned present_; // percent of the optional members
     std::map<std::string, Action> actions_;

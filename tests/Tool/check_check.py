@@ -471,9 +471,15 @@ def test_project_mistakes(file):
         "[[silence]]\nrule = 1": "2:8: rule is a string",
         "[[silence]]\nrul = 'x'": "2:1: there is no 'rul'; did you mean rule?",
         "[[silence]]\nrule = 'bwp-'\nreason = 'x'\npath = 'spCellConfig'": "4:8: a path begins with CellGroupConfig or **",
+        "[=]": "1:2: Error while parsing key: expected bare key starting character or string delimiter, saw '='",
+        "# ü\n[context]\nband =  ü": "3:9: a character that TOML has in strings and comments only",
     }.items():
         file.write_text(text)
         expect(["check", "--config", str(file), RELEASE], USAGE, err=f"cellgroupcfg: {file}:{words}\n")
+    file.write_text("[context]\nfr = n\n")
+    expect(["check", "--config", str(file), RELEASE], USAGE, err=re.compile(r"^cellgroupcfg: [^\n]*:2:\d+: [^\n]*\n$"))
+    file.write_text("# ü\n[[silence]]\nrule = 'bwp-'\nreason = \"\"\"ü\"\"\"\"\" # ü\n")
+    expect(["check", "--config", str(file), RELEASE], DONE)
     file.write_text("[context]\nfull = false\nfr = 1\nbearers = ['srb1', 'drb1,drb2:dup']\ncoreset0 = 10\n")
     expect(["check", "--config", str(file), RELEASE], DONE)
     expect(["check", "--config", str(file.parent / "none.toml"), RELEASE], USAGE, err=re.compile("No such file"))

@@ -225,7 +225,11 @@ public:
     void inAnyOrder(Steps... steps)
     {
         std::array<std::function<void()>, sizeof...(Steps)> all{steps...};
-        std::shuffle(all.begin(), all.end(), engine_);
+        // Not std::shuffle, as standard libraries differ in it.
+        for (std::size_t left = all.size(); left > 1; --left)
+        {
+            std::swap(all[left - 1], all[static_cast<std::size_t>(any() % left)]);
+        }
         for (const auto& step : all)
         {
             step();
@@ -267,7 +271,9 @@ private:
     }
     bool with(double probability)
     {
-        return std::uniform_real_distribution<>()(engine_) < probability;
+        // Not a distribution, as standard libraries differ in them: the product is exact, on every processor.
+        constexpr double range = 4294967296;
+        return any() >> 32 < static_cast<std::uint64_t>(probability * range);
     }
     bool wild()
     {

@@ -3,7 +3,6 @@
 #define BITSTRINGCHOICE_H
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstring>
 #include <new>
@@ -24,11 +23,10 @@ struct BitStringRow
     void (*packOctets)(UINT64, OSOCTET*) = nullptr;       // up to 64 bits, in the choice itself
 };
 
-// The low `bits` bits of the number that the union begins with.
+// The low `bits` bits of the number that the union begins with: it lies there with its low octet first.
 template <typename Union>
 UINT64 leadingBits(const Union& value, unsigned bits)
 {
-    static_assert(std::endian::native == std::endian::little); // rtxBits.h says why
     UINT64 number = 0;
     std::memcpy(&number, &value, std::min(std::size_t{bits + 7} / 8, sizeof number));
     return number & (~UINT64{0} >> (64 - bits));
