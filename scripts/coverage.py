@@ -39,10 +39,11 @@ class Floors:
                 folder, lines, branches = rest.split()
                 self.floors[folder] = (float(lines), float(branches))
                 continue
-            parts = [part.strip() for part in rest.split(" | ")]
-            if kind != "except" or len(parts) != 3 or not all(parts):
+            file, _, rest = rest.partition(" | ")
+            text, _, reason = rest.rpartition(" | ") # the text may have one of its own
+            if kind != "except" or not (file and text and reason):
                 sys.exit(f"{path}:{number}: neither a floor nor an exception with its reason")
-            self.exceptions[parts[0], parts[1]] = parts[2]
+            self.exceptions[file, text.strip()] = reason
 
     def stale(self):
         """Exceptions whose line is not in the file any more."""
