@@ -86,9 +86,22 @@ def add(sources, unit):
         for line in entry["lines"]:
             number = line["line_number"]
             source.lines[number] += line["count"]
-            taken = [branch["count"] for branch in line["branches"] if not branch["throw"]]
+            taken = without_exceptions(line["branches"])
             for which, count in enumerate(taken):
                 source.branches[number, len(taken), which] += count
+
+
+def without_exceptions(branches):
+    """How often each was taken, without the two ways out of a call that may throw."""
+    taken = []
+    at = 0
+    while at < len(branches):
+        if any(branch["throw"] for branch in branches[at:at + 2]):
+            at += 2
+            continue
+        taken.append(branches[at]["count"])
+        at += 1
+    return taken
 
 
 def folder_of(path):
