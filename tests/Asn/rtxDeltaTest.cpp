@@ -25,6 +25,53 @@ protected:
         rtFreeContext(&ctxt);
     }
 
+    template <typename T>
+    T* made()
+    {
+        return static_cast<T*>(rtxMemHeapAlloc(&ctxt, sizeof(T)));
+    }
+
+    ASN1OpenType* open(OSUINT32 index, OSOCTET content)
+    {
+        auto* const made = this->made<ASN1OpenType>();
+        made->data = static_cast<OSOCTET*>(rtxMemHeapAlloc(&ctxt, 1));
+        *made->data = content;
+        made->numocts = 1;
+        made->index = index;
+        return made;
+    }
+
+    void append(OSRTDList& list, void* data)
+    {
+        auto* const node = made<OSRTDListNode>();
+        node->data = data;
+        rtxDListAppendNode(&list, node);
+    }
+
+    // A bearer of a release that is not known yet: another alternative of rlc-Config, and additions.
+    RLC_BearerConfig* bearerOfTomorrow(CellGroupConfig& group, unsigned id, OSOCTET content)
+    {
+        auto* const bearer = made<RLC_BearerConfig>();
+        bearer->logicalChannelIdentity = static_cast<LogicalChannelIdentity>(id);
+        bearer->m.servedRadioBearerPresent = 1;
+        bearer->servedRadioBearer.t = 2;
+        bearer->servedRadioBearer.u.drb_Identity = 1;
+        bearer->m.rlc_ConfigPresent = bearer->m.mac_LogicalChannelConfigPresent = 1;
+        bearer->rlc_Config.t = 5;
+        bearer->rlc_Config.u.extElem1 = open(0, content);
+        group.m.rlc_BearerToAddModListPresent = 1;
+        append(group.rlc_BearerToAddModList, bearer);
+        return bearer;
+    }
+
+    // Whether rtxDiff's delta from a to b leads to b.
+    void expectDelta(int status)
+    {
+        to = {};
+        ASSERT_EQ(status, rtxDiff(&ctxt, type, &a, &b, nullptr, &to, nullptr));
+        EXPECT_EQ(1, rtxDeltaHolds(&ctxt, type, &a, status == RTX_DELTA_NOTHING ? nullptr : &to, &b));
+    }
+
     const RtxType* type = asn1Type_CellGroupConfig();
     CellGroupConfig a{};
     CellGroupConfig b{}; // differs in one member
@@ -100,6 +147,79 @@ TEST_F(Delta, AnExhaustedHeapIsAnError)
     EXPECT_EQ(RTX_E_HEAP, rtxApply(&ctxt, type, &a, &b, &to, nullptr, nullptr));
     EXPECT_EQ(RTX_E_HEAP, rtxDeltaHolds(&ctxt, type, &a, &b, &b));
     EXPECT_EQ(RTX_E_HEAP, rtxDiff(&ctxt, type, &a, &b, nullptr, &to, nullptr));
+}
+
+TEST_F(Delta, AlternativesOfTomorrowAreComparedByTheirOctets)
+{
+    b.physicalCellGroupConfig = a.physicalCellGroupConfig;
+    bearerOfTomorrow(a, 4, 0x11);
+    RLC_BearerConfig* const next = bearerOfTomorrow(b, 4, 0x11);
+    EXPECT_EQ(1, rtxEqual(&ctxt, type, &a, &b));
+    expectDelta(RTX_DELTA_NOTHING);
+    *next->rlc_Config.u.extElem1->data = 0x12;
+    EXPECT_EQ(0, rtxEqual(&ctxt, type, &a, &b));
+    expectDelta(RTX_DELTA_TO_SEND);
+    const auto* const sent = static_cast<const RLC_BearerConfig*>(to.rlc_BearerToAddModList.head->data);
+    ASSERT_EQ(5U, sent->rlc_Config.t);
+    EXPECT_EQ(0x12, *sent->rlc_Config.u.extElem1->data);
+}
+
+TEST_F(Delta, AdditionsOfTomorrowStayUntilTheyAreSentAgain)
+{
+    RLC_BearerConfig* const held = bearerOfTomorrow(a, 4, 0x11);
+    RLC_BearerConfig* const next = bearerOfTomorrow(b, 4, 0x11);
+    append(held->extElem1, open(0, 0xA0));
+    append(held->extElem1, open(2, 0xA2));
+    append(next->extElem1, open(1, 0xB1));
+    append(next->extElem1, open(2, 0xB2));
+    append(next->extElem1, open(5, 0xB5));
+    ASSERT_EQ(RTX_OK, rtxApply(&ctxt, type, &a, &b, &to, nullptr, nullptr));
+    const auto* const after = static_cast<const RLC_BearerConfig*>(to.rlc_BearerToAddModList.head->data);
+    std::string told;
+    for (const OSRTDListNode* node = after->extElem1.head; node != nullptr; node = node->next)
+    {
+        const auto* const one = static_cast<const ASN1OpenType*>(node->data);
+        told += std::to_string(one->index) + ":" + std::to_string(*one->data) + " ";
+    }
+    EXPECT_EQ("0:160 1:177 2:178 5:181 ", told);
+    EXPECT_EQ(4U, after->extElem1.count);
+}
+
+// Each request for memory fails in turn: an error that says so, and neither a crash nor half a delta taken for one.
+TEST_F(Delta, WhereverTheHeapEndsItIsAnError)
+{
+    for (unsigned id = 1; id <= 6; ++id)
+    {
+        CellGroupConfig* const only = id % 3 == 0 ? &a : &b;
+        append(bearerOfTomorrow(*only, id, 0x11)->extElem1, open(1, 0xA0));
+        if (id % 3 == 2)
+        {
+            append(bearerOfTomorrow(a, id, 0x22)->extElem1, open(1, 0xA1));
+        }
+    }
+    const auto failing = [&](const auto& call)
+    {
+        unsigned failures = 0;
+        for (size_t limit = 0;; limit += 16)
+        {
+            rtxMemHeapSetLimit(&ctxt, limit);
+            to = {};
+            const int status = call();
+            rtxMemHeapSetLimit(&ctxt, 1'000'000);
+            if (status != RTX_E_HEAP)
+            {
+                EXPECT_GE(status, 0);
+                return failures;
+            }
+            EXPECT_EQ(RTX_E_HEAP, ctxt.error.status);
+            ++failures;
+        }
+    };
+    EXPECT_GT(failing([&] { return rtxState(&ctxt, type, &a, &to); }), 20U);
+    EXPECT_GT(failing([&] { return rtxApply(&ctxt, type, &a, &b, &to, nullptr, nullptr); }), 50U);
+    EXPECT_GT(failing([&] { return rtxDiff(&ctxt, type, &a, &b, nullptr, &to, nullptr); }), 50U);
+    EXPECT_EQ(1, rtxDeltaHolds(&ctxt, type, &a, &to, &b));
+    EXPECT_GT(failing([&] { return rtxDeltaHolds(&ctxt, type, &a, &to, &b); }), 50U);
 }
 
 TEST_F(Delta, AReasonThatNobodyKnowsIsSaidToBeSo)
