@@ -1,18 +1,11 @@
 #!/usr/bin/env bash
-# Line and branch coverage of the libraries under all tests: a table, and build/coverage/html. No step of ./test.
+# coverage.sh [--missing FOLDER... | --figures]: runs all tests with gcov's counters and fails below the floors of
+# scripts/coverage.floors. --missing lists what nothing has reached, --figures prints the table in Markdown. No step of ./test.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-rm -rf build/coverage/profiles
+# Counters are not atomic, which would take the tests several times as long: threads may lose some counts, never all.
 scripts/build.sh coverage
+find build/coverage -name '*.gcda' -delete
 ctest --preset coverage
-llvm-profdata-14 merge -sparse build/coverage/profiles/*.profraw -o build/coverage/tests.profdata
-
-objects=()
-while IFS= read -r program; do
-    objects+=(-object "$program")
-done < <(find build/coverage/tests -type f -executable ! -name '*.so*' ! -path '*/CMakeFiles/*')
-ignore='(^|/)(tests|build)/|/usr/'
-llvm-cov-14 show "${objects[@]}" -instr-profile=build/coverage/tests.profdata -ignore-filename-regex="$ignore" \
-    -format=html -output-dir=build/coverage/html
-llvm-cov-14 report "${objects[@]}" -instr-profile=build/coverage/tests.profdata -ignore-filename-regex="$ignore"
+exec scripts/coverage.py build/coverage "$@"

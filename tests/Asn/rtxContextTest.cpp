@@ -184,6 +184,72 @@ TEST_F(Context, RequestsThatNoMachineServesAreNull)
     EXPECT_NE(nullptr, alloc(16)) << "a refused request changes nothing";
 }
 
+// What a request is rounded up to, and what its block's head takes besides, must not begin again at 0: behind octets
+// that are handed out a small remainder would look like enough.
+TEST_F(Context, HugeRequestsBesideOthersAreNull)
+{
+    OSOCTET* const p = alloc(1000);
+    ASSERT_NE(nullptr, p);
+    std::memset(p, 0x77, 1000);
+    for (size_t less = 0; less <= 256; ++less)
+    {
+        ASSERT_EQ(nullptr, alloc(SIZE_MAX - less)) << less;
+        ASSERT_EQ(nullptr, alloc(SIZE_MAX / 2 - less)) << less;
+        ASSERT_EQ(nullptr, alloc(SIZE_MAX / 2 + 1 + less)) << less;
+    }
+    EXPECT_EQ(1U, blockCount(ctxt));
+    EXPECT_EQ(p + 1008, alloc(16)) << "a refused request changes nothing";
+    EXPECT_EQ(1000, std::count(p, p + 1000, 0x77));
+}
+
+TEST_F(Context, AScopeGivesBackWhatWasTakenWithinIt)
+{
+    ASSERT_NE(nullptr, alloc(100));
+    rtxMemHeapSetLimit(&ctxt, 300'000);
+    OSOCTET* within = nullptr;
+    {
+        const rtx::HeapScope scope(ctxt);
+        within = alloc(2000);
+        ASSERT_NE(nullptr, within);
+        std::memset(within, 0xEE, 2000);
+        OSOCTET* const large = alloc(200'000);
+        ASSERT_NE(nullptr, large);
+        std::memset(large, 0xEE, 200'000);
+        EXPECT_EQ(2U, blockCount(ctxt));
+    }
+    EXPECT_EQ(1U, blockCount(ctxt)) << "without the block that was added";
+    EXPECT_EQ(0, rtxMemHeapOwns(&ctxt, within, 1));
+    OSOCTET* const again = alloc(2000);
+    EXPECT_EQ(within, again);
+    EXPECT_EQ(2000, std::count(again, again + 2000, 0)) << "cleared once more";
+    EXPECT_NE(nullptr, alloc(298'000)) << "the limit counts what the scope took no more";
+    EXPECT_EQ(nullptr, alloc(1));
+}
+
+TEST_F(Context, AScopeWithinOneBlockAndOneInWhichNothingIsTaken)
+{
+    OSOCTET* const before = alloc(16);
+    {
+        const rtx::HeapScope scope(ctxt);
+    }
+    {
+        const rtx::HeapScope scope(ctxt);
+        OSOCTET* const p = alloc(32);
+        ASSERT_EQ(before + 16, p);
+        std::memset(p, 0xEE, 32);
+    }
+    OSOCTET* const p = alloc(64);
+    ASSERT_EQ(before + 16, p);
+    EXPECT_EQ(64, std::count(p, p + 64, 0));
+    OSCTXT empty;
+    ASSERT_EQ(RTX_OK, rtxInitContext(&empty));
+    {
+        const rtx::HeapScope scope(empty);
+        ASSERT_NE(nullptr, rtxMemHeapAlloc(&empty, 10));
+    }
+    EXPECT_EQ(nullptr, empty.heap.blocks) << "nothing is left to free";
+}
+
 TEST_F(Context, TheLimitCountsRoundedRequests)
 {
     rtxMemHeapSetLimit(&ctxt, 64);

@@ -635,6 +635,8 @@ TEST_F(Decode, NeedsSomewhereToDecodeTo)
 {
     EXPECT_EQ(RTX_E_NULL, decode(flagType, nullptr, {0}));
     EXPECT_EQ("Flag: a null pointer", error());
+    OSBOOL flag = 0;
+    EXPECT_EQ(RTX_E_NULL, rtxDecode(nullptr, &flagType, &flag, 0));
 }
 
 TEST_F(Decode, AnInputOfHalfAGibioctetIsRefusedUnread)

@@ -112,6 +112,39 @@ TEST_F(Find, NeedsNoMoreHeapThanItSays)
                                   nullptr, nullptr));
 }
 
+TEST_F(Find, NamesWhatTheHeapLacksForAFind)
+{
+    const std::vector<OSOCTET> octets = bits(octet(1) + "1 010 01 00");
+    rtxMemHeapSetLimit(&ctxt, 16); // for the two octets searched, and nothing for what is found
+    EXPECT_EQ(RTX_E_HEAP, rtxFind(&ctxt, &itemType, octets.data(), octets.size(), 1, nullptr, nullptr, nullptr));
+    char text[128];
+    (void)rtxErrFormat(&ctxt, text, sizeof text);
+    EXPECT_EQ("the heap is exhausted: " + std::to_string(sizeof(RtxFound)) + " octets were asked for", text);
+}
+
+TEST_F(Find, RefusesWhatIsNoInput)
+{
+    OSOCTET octets[1] = {0};
+    EXPECT_EQ(RTX_E_NULL, rtxFind(nullptr, &flagType, octets, 1, 1, nullptr, nullptr, nullptr));
+    EXPECT_EQ(RTX_E_NULL, rtxFind(&ctxt, &flagType, nullptr, 1, 1, nullptr, nullptr, nullptr));
+    EXPECT_EQ(0, rtxFind(&ctxt, &flagType, nullptr, 0, 1, nullptr, nullptr, nullptr));
+    EXPECT_EQ(RTX_E_RANGE, rtxFind(&ctxt, &flagType, octets, 0x20000000, 1, nullptr, nullptr, nullptr))
+        << "half a gibioctet is refused unread";
+    EXPECT_EQ(0x20000000, ctxt.error.value);
+}
+
+TEST_F(Find, TellsItsProgressOfEach64Kibioctets)
+{
+    const std::vector<OSOCTET> octets(2 * 65536 + 1, 0xFF);
+    std::vector<size_t> told;
+    const auto tell = [](void* arg, size_t done)
+    {
+        static_cast<std::vector<size_t>*>(arg)->push_back(done);
+    };
+    EXPECT_EQ(0, rtxFind(&ctxt, &nr_rrc::type_CellGroupConfig, octets.data(), octets.size(), 1, nullptr, tell, &told));
+    EXPECT_EQ((std::vector<size_t>{65536, 131072}), told);
+}
+
 TEST_F(Find, OctetsFromAnyBit)
 {
     const OSOCTET data[] = {0x12, 0x34, 0x56, 0x78};

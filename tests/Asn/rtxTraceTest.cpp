@@ -151,6 +151,22 @@ TEST_F(Trace, WhatAnErrorLeavesIsUnread)
     EXPECT_EQ(RTX_OK, status);
 }
 
+TEST(TraceOf, NoContextAndNoInput)
+{
+    OSBOOL flag = 0;
+    unsigned fields = 0;
+    const auto count = [](void* arg, const RtxField*)
+    {
+        ++*static_cast<unsigned*>(arg);
+    };
+    EXPECT_EQ(RTX_E_NULL, rtxTrace(nullptr, &flagType, &flag, 0, count, &fields));
+    OSCTXT ctxt;
+    ASSERT_EQ(RTX_OK, rtxInitContext(&ctxt));
+    EXPECT_EQ(RTX_E_NOBUFFER, rtxTrace(&ctxt, &flagType, &flag, 0, count, &fields));
+    EXPECT_EQ(0U, fields);
+    rtFreeContext(&ctxt);
+}
+
 TEST_F(Trace, TheLengthsOfFragments)
 {
     std::string text = "1  0 000000 1" + octet(0xC2); // 32K of the 34,000 octets

@@ -303,6 +303,34 @@ TEST_F(Writers, UnknownAdditions)
             "Box.$unknownAdditions[1].index = 5\nBox.$unknownAdditions[1].octets = 0A\n"});
 }
 
+TEST_F(Writers, EachStructureCountsItsOwnUnknownAdditions)
+{
+    static constexpr Member element = member(boxType, 0);
+    static constexpr Type boxesType = {.name = "Boxes",
+                                       .kind = Kind::List,
+                                       .size = sizeof(OSRTDList),
+                                       .lower = 1,
+                                       .upper = 2,
+                                       .members = &element,
+                                       .memberCount = 1,
+                                       .rootCount = 1,
+                                       .bits = 1};
+    OSRTDList boxes = {};
+    for (const OSOCTET content : {OSOCTET{0xA0}, OSOCTET{0xB0}})
+    {
+        auto* const box = make<Box>();
+        append(box->extElem1, open({content}, 1));
+        append(boxes, box);
+    }
+    expect(
+        boxesType, &boxes,
+        {R"([{"level":0,"$unknownAdditions":[{"index":4,"octets":"A0"}]},)"
+         R"({"level":0,"$unknownAdditions":[{"index":4,"octets":"B0"}]}])",
+         "{ { level 0 -- unknown addition 4: A0 -- }, { level 0 -- unknown addition 4: B0 -- } }",
+         "Boxes[0].level = 0\nBoxes[0].$unknownAdditions[0].index = 4\nBoxes[0].$unknownAdditions[0].octets = A0\n"
+         "Boxes[1].level = 0\nBoxes[1].$unknownAdditions[0].index = 4\nBoxes[1].$unknownAdditions[0].octets = B0\n"});
+}
+
 TEST_F(Writers, UnknownAdditionsOutOfOrder)
 {
     Box box = {};

@@ -165,6 +165,42 @@ TEST_F(codebook, SinglePanelRestrictions)
     }
 }
 
+// No alternative takes more than its bits: neither what lies behind the record's union goes out, nor is anything
+// written behind the element's.
+TEST_F(codebook, RestrictionsStayWithinTheirUnions)
+{
+    constexpr OSOCTET fill = 0x5A;
+    struct
+    {
+        CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_moreThanTwo_n1_n2 element;
+        OSOCTET behind[64];
+    } single;
+    static_assert(offsetof(decltype(single), behind) == sizeof single.element);
+    nrOfAntennaPorts_moreThanTwo ports;
+    for (unsigned i = 0; i < 13; ++i)
+    {
+        std::memset(&ports, 0xFF, sizeof ports);
+        std::memset(&single, fill, sizeof single);
+        ports.N1_N2_Presence = static_cast<UINT16>(1U << i);
+        ASSERT_EQ(rrcComposeMoreThanTwo_n1_n2(&context, &single.element, &ports), VOS_OK);
+        EXPECT_EQ(std::count(std::begin(single.behind), std::end(single.behind), fill), 64) << i;
+    }
+    struct
+    {
+        CodebookConfig_codebookType_type2_subType_typeII_n1_n2_codebookSubsetRestriction element;
+        OSOCTET behind[64];
+    } subset;
+    subType_typeII record;
+    for (unsigned i = 0; i < 13; ++i)
+    {
+        std::memset(&record, 0xFF, sizeof record);
+        std::memset(&subset, fill, sizeof subset);
+        record.Restriction_Presence = static_cast<decltype(record.Restriction_Presence)>(1U << i);
+        ASSERT_EQ(rrcComposeN1_n2_codebookSubsetRestrict(&context, &subset.element, &record), VOS_OK);
+        EXPECT_EQ(std::count(std::begin(subset.behind), std::end(subset.behind), fill), 64) << i;
+    }
+}
+
 TEST_F(codebook, MoreThanTwoOptions)
 {
     RrcCodebookCfg_t record = singlePanel();
