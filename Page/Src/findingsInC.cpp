@@ -64,20 +64,9 @@ public:
             return static_cast<Search*>(to)->tellInSink(*error);
         };
         (void)asn1Check_CellGroupConfig(&context_, &value_, constraint, this);
-<<<<<<< HEAD
-        tellNotes(
-            decoded, rootName, [&] { return first; }, [&](const MessageFinding& found) { tell(found); });
-=======
         sinks_.finish();
-        if (decoded.unknown != 0)
-        {
-            tell(unknownFinding(rootName, decoded.unknown));
-        }
-        if (decoded.note != RTX_NOTE_NONE)
-        {
-            tell(noteFinding(firstNote_));
-        }
->>>>>>> refs/heads/faults
+        tellNotes(
+            decoded, rootName, [&] { return firstNote_; }, [&](const MessageFinding& found) { tell(found); });
         return isEnded_ ? RTX_OK : rules();
     }
 

@@ -60,21 +60,10 @@ private:
                                                      { all.add(findingOf(*error), stepsOf(*error)); });
         };
         (void)rtxCheck(&tree_.context(), asn1Type_CellGroupConfig(), &tree_.value(), sink, this);
-<<<<<<< HEAD
+        sinks_.finish();
         tellNotes(
             tree_.decoded(), tree_.nodes()[0].name, [&] { return tree_.note(); },
             [&](MessageFinding&& found) { add(std::move(found), {}); });
-=======
-        sinks_.finish();
-        if (tree_.decoded().unknown != 0)
-        {
-            add(unknownFinding(tree_.nodes()[0].name, tree_.decoded().unknown), {});
-        }
-        if (tree_.decoded().note != RTX_NOTE_NONE)
-        {
-            add(noteFinding(tree_.note()), {});
-        }
->>>>>>> refs/heads/faults
     }
 
     void take(const RrcRuleFinding& told)

@@ -13,11 +13,7 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
-<<<<<<< HEAD
-=======
-#include <cstring>
 #include <map>
->>>>>>> refs/heads/faults
 #include <optional>
 #include <stdexcept>
 #include <string>
