@@ -16,6 +16,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "records.h"
@@ -74,9 +75,10 @@ public:
             std::memset(octets, octet_, size);
             return;
         }
-        for (std::size_t i = 0; i < size; ++i)
+        for (std::size_t i = 0; i < size; i += sizeof(std::uint64_t))
         {
-            octets[i] = static_cast<unsigned char>(junk_());
+            const std::uint64_t junk = junk_();
+            std::memcpy(octets + i, &junk, std::min(sizeof junk, size - i));
         }
     }
 
@@ -97,7 +99,7 @@ private:
     }
 
     int octet_;
-    std::minstd_rand junk_;
+    std::mt19937_64 junk_;
 };
 
 constexpr std::size_t bufferSize = 8192;
@@ -142,7 +144,15 @@ INT32 VOS_Printf(const char* format, ...)
     va_start(args, format);
     const int length = std::vsnprintf(line.data(), line.size(), format, args);
     va_end(args);
-    console->add(line.data(), std::strlen(line.data()));
+    // A long bitmap of SSB positions that a mask also names lies over a pointer and is refused (docs/behaviour.md). How
+    // much of it the pointer has, and whether that is null, depends on the pointer's width.
+    std::string text = line.data();
+    constexpr std::string_view null = "a null pointer";
+    if (const std::size_t at = text.find(null); at != std::string::npos)
+    {
+        text.replace(at, null.size(), "a pointer out of the context's heap");
+    }
+    console->add(text.data(), text.size());
     return length;
 }
 
