@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdarg>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -104,6 +105,15 @@ private:
 
 constexpr std::size_t bufferSize = 8192;
 
+// Where 64 bits are aligned otherwise, members of a record's unions lie elsewhere. A mask without its range then
+// chooses a member that was filled as another one, and holds other octets: no call could make the same of it.
+struct Aligned
+{
+    char before;
+    std::uint64_t number;
+};
+constexpr bool hasSameUnions = offsetof(Aligned, number) == sizeof(std::uint64_t);
+
 // One thousand of them after the other; `print(digest)` each.
 template <typename Print>
 void compose(records::Chance::Ranges ranges, std::uint32_t count, Fill& fill, const Print& print)
@@ -179,13 +189,14 @@ int main(int argc, char** argv)
     for (const auto& [name, ranges] : {std::pair("kept", Ranges::kept), std::pair("dropped", Ranges::dropped)})
     {
         unsigned number = 0;
-        const auto print = [&, name = name](std::uint64_t sum)
+        const auto print = [&, name = name, ranges = ranges](std::uint64_t sum)
         {
             std::array<char, 64> line{};
             (void)std::snprintf(line.data(), line.size(), "%s %u000 %016llx", name, ++number,
                                 static_cast<unsigned long long>(sum));
+            const bool isCompared = argc == 4 && (hasSameUnions || ranges == Ranges::kept);
             const bool isKnown =
-                argc != 4 || std::find(expected.begin(), expected.end(), line.data()) != expected.end();
+                !isCompared || std::find(expected.begin(), expected.end(), line.data()) != expected.end();
             isSame = isSame && isKnown;
             std::printf("%s%s\n", line.data(), isKnown ? "" : " is another one");
         };
