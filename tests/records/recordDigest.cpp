@@ -198,7 +198,11 @@ int main(int argc, char** argv)
             const bool isKnown =
                 !isCompared || std::find(expected.begin(), expected.end(), line.data()) != expected.end();
             isSame = isSame && isKnown;
-            std::printf("%s%s\n", line.data(), isKnown ? "" : " is another one");
+            const bool isPassedOver = argc == 4 && !isCompared;
+            std::printf("%s%s\n", line.data(),
+                        isPassedOver ? " is not compared here"
+                        : isKnown    ? ""
+                                     : " is another one");
         };
         compose(ranges, count, fill, print);
     }
