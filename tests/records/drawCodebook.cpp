@@ -12,9 +12,11 @@ namespace
 template <typename Union>
 void drawStrings(Chance& chance, Union& strings)
 {
-    unsigned char octets[sizeof strings];
+    // As many on every system: how a union is padded depends on the alignment of 64 bits.
+    constexpr std::size_t word = 8;
+    unsigned char octets[(sizeof strings + word - 1) / word * word];
     chance.octets(octets);
-    std::memcpy(&strings, octets, sizeof octets);
+    std::memcpy(&strings, octets, sizeof strings);
 }
 
 // An enumeration of last + 1 values that is narrowed to the low bits of a field.

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdarg>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -16,6 +17,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "records.h"
@@ -74,9 +76,10 @@ public:
             std::memset(octets, octet_, size);
             return;
         }
-        for (std::size_t i = 0; i < size; ++i)
+        for (std::size_t i = 0; i < size; i += sizeof(std::uint64_t))
         {
-            octets[i] = static_cast<unsigned char>(junk_());
+            const std::uint64_t junk = junk_();
+            std::memcpy(octets + i, &junk, std::min(sizeof junk, size - i));
         }
     }
 
@@ -97,10 +100,19 @@ private:
     }
 
     int octet_;
-    std::minstd_rand junk_;
+    std::mt19937_64 junk_;
 };
 
 constexpr std::size_t bufferSize = 8192;
+
+// Where 64 bits are aligned otherwise, members of a record's unions lie elsewhere. A mask without its range then
+// chooses a member that was filled as another one, and holds other octets: no call could make the same of it.
+struct Aligned
+{
+    char before;
+    std::uint64_t number;
+};
+constexpr bool hasSameUnions = offsetof(Aligned, number) == sizeof(std::uint64_t);
 
 // One thousand of them after the other; `print(digest)` each.
 template <typename Print>
@@ -142,7 +154,15 @@ INT32 VOS_Printf(const char* format, ...)
     va_start(args, format);
     const int length = std::vsnprintf(line.data(), line.size(), format, args);
     va_end(args);
-    console->add(line.data(), std::strlen(line.data()));
+    // A long bitmap of SSB positions that a mask also names lies over a pointer and is refused (docs/behaviour.md). How
+    // much of it the pointer has, and whether that is null, depends on the pointer's width.
+    std::string text = line.data();
+    constexpr std::string_view null = "a null pointer";
+    if (const std::size_t at = text.find(null); at != std::string::npos)
+    {
+        text.replace(at, null.size(), "a pointer out of the context's heap");
+    }
+    console->add(text.data(), text.size());
     return length;
 }
 
@@ -169,15 +189,20 @@ int main(int argc, char** argv)
     for (const auto& [name, ranges] : {std::pair("kept", Ranges::kept), std::pair("dropped", Ranges::dropped)})
     {
         unsigned number = 0;
-        const auto print = [&, name = name](std::uint64_t sum)
+        const auto print = [&, name = name, ranges = ranges](std::uint64_t sum)
         {
             std::array<char, 64> line{};
             (void)std::snprintf(line.data(), line.size(), "%s %u000 %016llx", name, ++number,
                                 static_cast<unsigned long long>(sum));
+            const bool isCompared = argc == 4 && (hasSameUnions || ranges == Ranges::kept);
             const bool isKnown =
-                argc != 4 || std::find(expected.begin(), expected.end(), line.data()) != expected.end();
+                !isCompared || std::find(expected.begin(), expected.end(), line.data()) != expected.end();
             isSame = isSame && isKnown;
-            std::printf("%s%s\n", line.data(), isKnown ? "" : " is another one");
+            const bool isPassedOver = argc == 4 && !isCompared;
+            std::printf("%s%s\n", line.data(),
+                        isPassedOver ? " is not compared here"
+                        : isKnown    ? ""
+                                     : " is another one");
         };
         compose(ranges, count, fill, print);
     }
