@@ -21,6 +21,23 @@ function(cgc_compile_options target)
     )
 endfunction()
 
+# cgc_harden(<target>): what reads strangers' texts on hosts ends where its stack or an array is overrun, and its program or
+# library has nothing in memory that is both written and executed or looked up late. What a base station links has the
+# linker's part alone: a check of each frame would cost decoding 2 in 100 instructions.
+function(cgc_harden target)
+    if(CELLGROUPCFG_HARDENING AND CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT CMAKE_CROSSCOMPILING)
+        target_compile_options(${target} PRIVATE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    endif()
+    cgc_bind(${target})
+endfunction()
+
+# cgc_bind(<target>): of a shared library or a program: all is looked up when it is loaded, and cannot be written then.
+function(cgc_bind target)
+    if(CELLGROUPCFG_HARDENING)
+        target_link_options(${target} PRIVATE LINKER:-z,relro,-z,now)
+    endif()
+endfunction()
+
 # What g++ 12 does by itself is slow for elements of some hundred octets that are cleared one by one, and for the
 # encoder's two registers: it clears with string instructions and joins the registers in a vector that it stores and
 # loads. bench/README.md says how to measure it.
@@ -42,7 +59,9 @@ function(cgc_library target)
 
     add_library(${target} ${arg_TYPE} ${arg_SOURCES})
     cgc_compile_options(${target})
-    if(NOT arg_HOST)
+    if(arg_HOST)
+        cgc_harden(${target})
+    else()
         target_compile_options(
             ${target}
             PRIVATE
@@ -91,6 +110,7 @@ function(cgc_shared target)
     cmake_parse_arguments(arg "" "MAP" "" ${ARGN})
     set(map "${CMAKE_CURRENT_BINARY_DIR}/${arg_MAP}")
     configure_file("${arg_MAP}.in" "${map}" @ONLY)
+    cgc_bind(${target})
     set_target_properties(
         ${target}
         PROPERTIES VERSION ${CELLGROUPCFG_ABI}.${PROJECT_VERSION_MINOR}.${PROJECT_VERSION_PATCH} SOVERSION ${CELLGROUPCFG_ABI} LINK_DEPENDS "${map}"
