@@ -71,8 +71,9 @@ typedef int (*RrcRecordSink)(void* arg, const RrcRecordFinding* finding);
 
 /**
  * Finds all that is wrong with a record. The record may hold anything. Nothing is allocated, kept or printed; any
- * thread may call it. Where no error is found the record composes and is encoded, unless the message is longer than its
- * buffer; where one is found it is refused. A distributed unit's own composers are not known to it.
+ * thread may call it. Where no error is found rrcComposeCellGroupCfg composes and encodes the record, unless the
+ * message is longer than its buffer; where one is found it is refused. A count of SCells beyond three is a warning, as
+ * that entry sends three; the calls of rrcCompose.h refuse it. A distributed unit's own composers are not known to it.
  *
  * @param pRrcCellGroupCfg  the record; null has no findings
  * @param sink              is told each finding; null: they are counted, and no text is made
