@@ -19,6 +19,9 @@ function(cgc_compile_options target)
         ${target}
         PRIVATE -Wall -Wextra -Wconversion -Wshadow "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
     )
+    if(CMAKE_UNITY_BUILD) # g++ takes sources that are joined for headers
+        target_compile_options(${target} PRIVATE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-subobject-linkage>)
+    endif()
 endfunction()
 
 # cgc_harden(<target>): what reads strangers' texts on hosts ends where its stack or an array is overrun, and its program or
