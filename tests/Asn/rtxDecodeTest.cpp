@@ -617,6 +617,12 @@ TEST_F(Decode, DepthIsBounded)
     EXPECT_EQ(RTX_E_DEPTH, decode(Nested(RTX_MAX_DEPTH).type(), &flag, bits("1")));
     EXPECT_NE(std::string::npos, error().find(".in: the element tree is deeper than 48 (at bit 0: octet 0, bit 0)"))
         << error();
+    for (const Type* inner : {&pickType, &itemsType, &numbersType})
+    {
+        EXPECT_NE(std::string::npos,
+                  refused(Nested(RTX_MAX_DEPTH - 1, *inner).type(), bits("0")).find("deeper than 48"))
+            << inner->name;
+    }
 }
 
 TEST_F(Decode, NeedsABuffer)

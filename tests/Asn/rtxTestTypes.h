@@ -327,7 +327,7 @@ inline const char* const nestNames[] = {"in"};
 class Nested
 {
 public:
-    explicit Nested(unsigned depth) : members_(depth), types_(depth)
+    explicit Nested(unsigned depth, const Type& inner = flagType) : members_(depth), types_(depth)
     {
         for (unsigned i = 0; i < depth; ++i)
         {
@@ -341,7 +341,7 @@ public:
         }
         for (unsigned i = 0; i < depth; ++i)
         {
-            members_[i] = member(i + 1 < depth ? types_[i + 1] : flagType, 0);
+            members_[i] = member(i + 1 < depth ? types_[i + 1] : inner, 0);
         }
     }
 

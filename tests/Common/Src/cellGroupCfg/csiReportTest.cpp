@@ -654,6 +654,18 @@ TEST_F(csiReportPorts, PortIndex4HasTwoEntriesPerRank)
     expectPorts(record, R"({"portIndex4":{"rank1-4":3,"rank2-4":[3,2],"rank3-4":[1,2,0],"rank4-4":[2,1,0,0]}})");
 }
 
+// A caller that asks whether any composer has failed must not hear of these.
+TEST_F(csiReportPorts, TheAlternativesSucceedAlone)
+{
+    RrcPortIndexFor8Ranks_t record{};
+    PortIndexFor8Ranks_portIndex8 eight{};
+    PortIndexFor8Ranks_portIndex4 four{};
+    PortIndexFor8Ranks_portIndex2 two{};
+    EXPECT_EQ(rrcComposePortIndex8(&eight, &record.PortIndexFor8Ranks_n.portIndex8), VOS_OK);
+    EXPECT_EQ(rrcComposePortIndex4(&four, &record.PortIndexFor8Ranks_n.portIndex4), VOS_OK);
+    EXPECT_EQ(rrcComposePortIndex2(&two, &record.PortIndexFor8Ranks_n.portIndex2), VOS_OK);
+}
+
 TEST_F(csiReportPorts, PortIndex2AndPortIndex1)
 {
     RrcPortIndexFor8Ranks_t record{};
