@@ -194,7 +194,10 @@ TEST_F(Context, HugeRequestsBesideOthersAreNull)
     for (size_t less = 0; less <= 256; ++less)
     {
         ASSERT_EQ(nullptr, alloc(SIZE_MAX - less)) << less;
-        ASSERT_EQ(nullptr, alloc(SIZE_MAX / 2 - less)) << less;
+        if (sizeof(size_t) > 4) // a system of 32 bits may well have 2 GiB
+        {
+            ASSERT_EQ(nullptr, alloc(SIZE_MAX / 2 - less)) << less;
+        }
         ASSERT_EQ(nullptr, alloc(SIZE_MAX / 2 + 1 + less)) << less;
     }
     EXPECT_EQ(1U, blockCount(ctxt));
