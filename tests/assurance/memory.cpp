@@ -49,6 +49,11 @@ void* operator new(std::size_t size)
     return p;
 }
 
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
+{
+    return __wrap_malloc(size == 0 ? 1 : size);
+}
+
 void operator delete(void* p) noexcept
 {
     __wrap_free(p);
