@@ -294,7 +294,7 @@ private:
 } // namespace
 
 Tree::Tree(std::span<const std::uint8_t> octets)
-    : octets_(octets.begin(), octets.end()), size_(octets.size()), context_(), value_(), error_(), decoded_()
+    : octets_(octets.begin(), octets.end()), size_(octets.size()), value_(), error_(), decoded_()
 {
     octets_.reserve(1); // an empty message has an address, too
     (void)pu_setBuffer(&context_, octets_.data(), size_, 0);
