@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Replays the corpus of every fuzzer, then lets each look for new inputs for FUZZ_SECONDS (5), one on each core.
+# Replays the corpus of every fuzzer, then lets each look for new inputs for FUZZ_SECONDS (5), one on each core, from the same
+# seed each time: what looks further is scripts/fuzz-campaign.sh.
 # What it finds is left in build/asan/found/<fuzzer>; a mended find belongs into fuzz/corpus/<fuzzer>. Then fuzz/build.sh
 # builds a fuzzer as others do, which runs a thousand times.
 set -euo pipefail
@@ -22,7 +23,7 @@ fuzz()
 
     for job in "-runs=0 $corpus" "-max_total_time=${FUZZ_SECONDS:-5} $grown $corpus"; do
         # shellcheck disable=SC2086 # a job is several words
-        "$fuzzer" -dict="fuzz/dictionaries/$name.dict" -timeout=10 -print_final_stats=1 -artifact_prefix="$found/" $job >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+        "$fuzzer" -dict="fuzz/dictionaries/$name.dict" -seed=1 -timeout=10 -print_final_stats=1 -artifact_prefix="$found/" $job >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
         echo "== $name $job: $(sed -n 's/.*number_of_executed_units: *//p' "$log") inputs"
     done
 }

@@ -472,7 +472,8 @@ def test_project_mistakes(file):
         "[[silence]]\nrul = 'x'": "2:1: there is no 'rul'; did you mean rule?",
         "[[silence]]\nrule = 'bwp-'\nreason = 'x'\npath = 'spCellConfig'": "4:8: a path begins with CellGroupConfig or **",
         "[=]": "1:2: Error while parsing key: expected bare key starting character or string delimiter, saw '='",
-        "# ü\n[context]\nband =  ü": "3:9: a character that TOML has in strings and comments only",
+        "# ü\n[context]\nband =  ü": "3:9: Error while parsing value: could not determine value type",
+        "kö = 1": "1:2: Error while parsing key-value pair: expected '=', saw 'ö'",
     }.items():
         file.write_text(text)
         expect(["check", "--config", str(file), RELEASE], USAGE, err=f"cellgroupcfg: {file}:{words}\n")
