@@ -63,7 +63,7 @@ public:
         }
         catch (const toml::parse_error& error)
         {
-            fail(error.source(), onOneLine(std::string(error.description())));
+            fail(error.source(), std::string(error.description()));
         }
         return std::move(file_);
     }
@@ -81,7 +81,7 @@ private:
 
     [[noreturn]] void fail(const std::string& position, const std::string& what) const
     {
-        throw Failure(Exit::Usage, name_ + ":" + position + ": " + what);
+        throw Failure(Exit::Usage, name_ + ":" + position + ": " + onOneLine(what));
     }
 
     [[noreturn]] void fail(const toml::source_region& region, const std::string& what) const

@@ -4,6 +4,7 @@
 #include "findingPath.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace tool
 {
@@ -50,7 +51,7 @@ std::vector<Silenced> silenced(std::vector<Finding>& findings, const std::vector
 std::string onOneLine(std::string text)
 {
     std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
+        text.begin(), text.end(), [](unsigned char c) { return std::iscntrl(c) != 0; }, ' ');
     return text;
 }
 

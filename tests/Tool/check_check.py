@@ -473,6 +473,7 @@ def test_project_mistakes(file):
         "[[silence]]\nrule = 'bwp-'\nreason = 'x'\npath = 'spCellConfig'": "4:8: a path begins with CellGroupConfig or **",
         "[=]": "1:2: Error while parsing key: expected bare key starting character or string delimiter, saw '='",
         "# ü\n[context]\nband =  ü": "3:9: Error while parsing value: could not determine value type",
+        "[[silence]]\nrule = \"bwp\\r\\u001b\"": "2:8: there is no rule 'bwp  '",
         "kö = 1": "1:2: Error while parsing key-value pair: expected '=', saw 'ö'",
     }.items():
         file.write_text(text)
