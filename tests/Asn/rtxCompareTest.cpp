@@ -251,6 +251,23 @@ TEST_F(Compare, UnknownAdditionsAndAlternatives)
     EXPECT_THAT(differences(test::pickType, &pick, &other), ElementsAre("Pick: tag 6 in a, tag 7 in b"));
 }
 
+TEST_F(Compare, TreesThatShareTheirPartsDifferInTheRest)
+{
+    test::Box x{};
+    x.m.pickPresent = 1;
+    x.pick.t = 3;
+    x.pick.u.item = a.make<test::Item>();
+    test::Box y = x;
+    y.level = 1;
+    EXPECT_THAT(differences(test::boxType, &x, &y), ElementsAre("Box.level: 0 in a, 1 in b"));
+
+    x.pick.t = 6;
+    x.pick.u.extElem1 = a.make<ASN1OpenType>();
+    y = x;
+    y.level = 1;
+    EXPECT_THAT(differences(test::boxType, &x, &y), ElementsAre("Box.level: 0 in a, 1 in b"));
+}
+
 TEST_F(Compare, ListsByTheIndex)
 {
     test::Numbers x = {3, {1, 2, 3}};
@@ -392,6 +409,11 @@ TEST_F(CompareBearers, EndsWhenTheSinkSaysSo)
     EXPECT_EQ(asn1Compare_CellGroupConfig(&a.context, &b.context, &x, &y, end, &calls), 1);
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(asn1Compare_CellGroupConfig(&a.context, &b.context, &x, &y, nullptr, nullptr), 2);
+
+    // Members that one tree has, one behind the other.
+    x.m.mac_CellGroupConfigPresent = x.m.physicalCellGroupConfigPresent = 1;
+    EXPECT_EQ(asn1Compare_CellGroupConfig(&a.context, &b.context, &x, &y, end, &calls), 1);
+    EXPECT_EQ(calls, 2);
 }
 
 TEST_F(CompareBearers, WantsTreesATypeAndMemory)
