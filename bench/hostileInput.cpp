@@ -39,12 +39,9 @@ size_t heapOf(Octets& octets)
 
 void unknownAdditions(size_t total, OSUINT32 size)
 {
-    OSCTXT ctxt;
-    rtxInitContext(&ctxt);
-    const test::UnknownAdditions message(ctxt, total, size);
-    Octets octets = test::encoded(ctxt, message.tree, 3 * total + 4096);
-    rtFreeContext(&ctxt);
-
+    auto made = test::unknownAdditions(total, size);
+    Octets& octets = made.first;
+    const size_t content = made.second;
     const double decoding =
         bench::leastTime(calls, [&] { decode(octets, [](const OSCTXT&, const CellGroupConfig&) {}); });
     double encoding = 0;
@@ -60,9 +57,9 @@ void unknownAdditions(size_t total, OSUINT32 size)
         std::abort();
     }
     const size_t heap = heapOf(octets);
-    std::printf("| %u | %zu | %zu | %zu | %.1f | %.1f | %.1f |\n", size, octets.size(), message.content, heap,
-                static_cast<double>(heap) / static_cast<double>(message.content),
-                decoding / static_cast<double>(octets.size()), encoding / static_cast<double>(octets.size()));
+    std::printf("| %u | %zu | %zu | %zu | %.1f | %.1f | %.1f |\n", size, octets.size(), content, heap,
+                static_cast<double>(heap) / static_cast<double>(content), decoding / static_cast<double>(octets.size()),
+                encoding / static_cast<double>(octets.size()));
 }
 
 struct Message

@@ -53,12 +53,8 @@ protected:
 
     static Taken unknown(size_t content, OSUINT32 size)
     {
-        OSCTXT built;
-        EXPECT_EQ(RTX_OK, rtxInitContext(&built));
-        const test::UnknownAdditions message(built, content, size);
-        const Octets octets = test::encoded(built, message.tree, 3 * content + 4096);
-        rtFreeContext(&built);
-        return {octets.size(), message.content, heapOf(octets)};
+        const auto [octets, within] = test::unknownAdditions(content, size);
+        return {octets.size(), within, heapOf(octets)};
     }
 
     OSCTXT ctxt;

@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace test
@@ -111,6 +112,17 @@ private:
 
     OSCTXT& ctxt_;
 };
+
+// Such a message, and how many octets of it are unknown content.
+inline std::pair<Octets, size_t> unknownAdditions(size_t total, OSUINT32 size)
+{
+    OSCTXT ctxt;
+    rtxInitContext(&ctxt);
+    const UnknownAdditions made(ctxt, total, size);
+    Octets octets = encoded(ctxt, made.tree, 4 * total + 8192);
+    rtFreeContext(&ctxt);
+    return {std::move(octets), made.content};
+}
 
 // What an element takes: bits on the wire, and octets of the decoder's heap besides its own storage.
 struct Cost

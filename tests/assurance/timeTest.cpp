@@ -19,16 +19,7 @@ namespace
 {
 
 using test::Octets;
-
-Octets unknownAdditions(size_t total, OSUINT32 size)
-{
-    OSCTXT context;
-    rtxInitContext(&context);
-    const test::UnknownAdditions made(context, total, size);
-    Octets octets = test::encoded(context, made.tree, 4 * total + 8192);
-    rtFreeContext(&context);
-    return octets;
-}
+using test::unknownAdditions;
 
 // Secondary cells with all that takes the most heap for its bits.
 Octets cells(size_t count, double price)
@@ -65,8 +56,8 @@ std::vector<Family> families()
                                {"dear secondary cells", {}}};
     for (const size_t factor : {1U, 2U, 4U, 8U})
     {
-        all[0].messages.push_back(unknownAdditions(factor * 12 * 1024, 1));
-        all[1].messages.push_back(unknownAdditions(factor * 12 * 1024, 17));
+        all[0].messages.push_back(unknownAdditions(factor * 12 * 1024, 1).first);
+        all[1].messages.push_back(unknownAdditions(factor * 12 * 1024, 17).first);
         all[2].messages.push_back(cells(factor, 8.0));
         all[3].messages.push_back(cells(factor * 3, 30.0));
     }
