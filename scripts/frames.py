@@ -11,12 +11,12 @@ FOLDERS = ("Platform", "Asn", "Common", "Du")
 
 
 def frames(folder):
-    """Octets, kind, file and function of each; of one that the compiler does not name its line."""
+    """Octets, kind, file and function of each."""
     for path in sorted(folder.rglob("*.su")):
         for line in path.read_text(encoding="utf-8").splitlines():
             place, octets, kind = line.rsplit("\t", 2)
-            file, number, _, function = place.split(":", 3)
-            yield int(octets), kind, file, short(function) or f"line {number}"
+            file, number, column, function = place.split(":", 3)
+            yield int(octets), kind, file, short(function) or named_at(file, int(number), int(column)) + arguments(function)
 
 
 def short(function):
@@ -24,6 +24,17 @@ def short(function):
     function = re.sub(r" \[with .*", "", function)
     name = re.sub(r"\(anonymous namespace\)::|\{anonymous\}::", "", function).split("(")[0]
     return name.split()[-1] if re.search("[a-z]", name) else ""
+
+
+def named_at(file, number, column):
+    """The compiler leaves the name of some templates out, and says where it stands."""
+    line = pathlib.Path(file).read_text(encoding="utf-8").splitlines()[number - 1]
+    return re.match(r"\w+", line[column - 1:])[0]
+
+
+def arguments(function):
+    found = re.findall(r"= (?:\{anonymous\}::)?(\w+)", function)
+    return f"<{', '.join(found)}>" if found else ""
 
 
 def main():

@@ -857,7 +857,7 @@ void initRecords(const Input&, Stage& stage, Result& result)
     result.add(patterned.get(), sizeof *patterned);
 }
 
-void small(const Input& input, Stage& stage, Result& result)
+void versionAndBits(const Input& input, Stage& stage, Result& result)
 {
     stage.run(nullptr,
               [&]
@@ -922,7 +922,7 @@ constexpr assurance::Call all[] = {{"rrcComposeCellGroupCfg", true, entry},
                                    {"rrcSettingAt", false, settingTable},
                                    {"rtxMemHeapAlloc", false, heap},
                                    {"rrcInitRecord", false, initRecords},
-                                   {"small", false, small}};
+                                   {"cellgroupcfgVersion", false, versionAndBits}};
 
 } // namespace
 
