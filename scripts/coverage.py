@@ -65,9 +65,9 @@ class Source:
 def read(build):
     """{file: Source} of the counts of what a build folder compiles, without what earlier sources have left there."""
     with open(os.path.join(build, "compile_commands.json")) as commands:
-        objects = [re.search(r" -o (\S+)\.o ", entry["command"])[1] for entry in json.load(commands)]
-    notes = [os.path.join(build, name + ".gcno") for name in objects]
-    counted = sorted({note for note in notes if os.path.exists(note)})
+        objects = re.findall(r" -o (\S+)\.o ", commands.read())
+    notes = {os.path.join(build, name + ".gcno") for name in objects}
+    counted = sorted(note for note in notes if os.path.exists(note))
     sources = collections.defaultdict(Source)
     for at in range(0, len(counted), 40):
         run = subprocess.run(["gcov", "--json-format", "--branch-probabilities", "--stdout", *counted[at:at + 40]],
