@@ -258,7 +258,7 @@ typedef void (*RtxFieldSink)(void* arg, const RtxField* field);
 int rtxTrace(OSCTXT* pctxt, const RtxType* type, void* value, unsigned flags, RtxFieldSink sink, void* arg);
 
 // The ASN.1 name of what bit `bit` of a presence or additions field announces, the first is 0: a member's, null for an
-// extension group and for an addition that this release does not know.
+// extension group, for an addition that this release does not know and for a bit that the field does not have.
 const char* rtxFieldBitName(const RtxField* field, OSUINT32 bit);
 
 // A message within other octets: a length determinant (X.691 11.9) and behind it exactly that many octets.

@@ -255,14 +255,9 @@ private:
 
     Outcome any(const Slot& slot, const DeltaPlace& place, const Entry& entry, Entry& cell)
     {
-        switch (slot.need().list)
+        if (slot.need().list == ListRole::AddMod) // a state has no release lists
         {
-        case ListRole::Release:
-            return Outcome::Same;
-        case ListRole::AddMod:
             return entries(slot, place, entry);
-        case ListRole::None:
-            break;
         }
         switch (slot.need().change)
         {
@@ -643,10 +638,6 @@ private:
         const ListElements old = sortedElements(ctxt_, list, slot.prev());
         const ListElements wanted = sortedElements(ctxt_, list, slot.next());
         const size_t most = size_t{old.count} + wanted.count;
-        if (most == 0)
-        {
-            return Outcome::Same;
-        }
         auto* const room = static_cast<ListElement*>(allocateFor(ctxt_, 2 * most * sizeof(ListElement)));
         if (ctxt_.error.status != RTX_OK)
         {
@@ -682,13 +673,13 @@ private:
     Outcome write(const Slot& slot, const Changes& changes)
     {
         const auto partner = static_cast<unsigned>(slot.need().partner);
-        if (changes.releasedCount != 0 &&
-            !writeList(ctxt_, *slot.type.members[partner].type, changes.released, changes.releasedCount,
-                       setSent(slot.type, partner, additionOf(slot.type, partner), slot.delta)))
-        {
-            status_ = RTX_E_HEAP;
-        }
-        if (changes.sentCount != 0 && !writeList(ctxt_, slot.inner(), changes.sent, changes.sentCount, slot.send()))
+        const bool isReleased =
+            changes.releasedCount == 0 ||
+            writeList(ctxt_, *slot.type.members[partner].type, changes.released, changes.releasedCount,
+                      setSent(slot.type, partner, additionOf(slot.type, partner), slot.delta));
+        const bool isWritten = isReleased && (changes.sentCount == 0 || writeList(ctxt_, slot.inner(), changes.sent,
+                                                                                  changes.sentCount, slot.send()));
+        if (!isWritten)
         {
             status_ = RTX_E_HEAP;
         }

@@ -365,6 +365,82 @@ TEST_F(Decode, AGroupWithoutMembersIsTakenAndNotSentAgain)
     EXPECT_EQ(0, box.m.bPresent);
 }
 
+// Nine ::= SEQUENCE { ..., [[ BOOLEAN OPTIONAL, nine times ]] }: its group's presence bits take more than an octet.
+struct Nine
+{
+    struct
+    {
+        unsigned groupPresent : 1;
+        unsigned flagsPresent : 9;
+    } m;
+    OSBOOL flags[9];
+    OSRTDList extElem1;
+};
+constexpr const char* nineNames[] = {"a", "b", "c", "d", "e", "f", "g", "h", "i"};
+constexpr auto nineMembers = []
+{
+    std::array<Member, 9> members{};
+    for (unsigned i = 0; i < members.size(); ++i)
+    {
+        members[i] = member(flagType, offsetof(Nine, flags) + i, static_cast<int>(i) + 1);
+    }
+    return members;
+}();
+constexpr Addition nineAdditions[] = {{0, 0, 9}};
+constexpr Type nineType = {.name = "Nine",
+                           .kind = Kind::Sequence,
+                           .extensible = true,
+                           .align = alignof(Nine),
+                           .size = sizeof(Nine),
+                           .names = nineNames,
+                           .members = nineMembers.data(),
+                           .memberCount = 9,
+                           .additions = nineAdditions,
+                           .additionCount = 1,
+                           .extElem = offsetof(Nine, extElem1)};
+
+TEST_F(Decode, AGroupsPresenceBitsLieInItsOctets)
+{
+    const std::string head = "1 0 000000 1";
+    const auto nine = decoded<Nine>(nineType, head + octet(2) + "100000001 1 1 00000");
+    EXPECT_EQ(1, nine.flags[0] & nine.flags[8]);
+    EXPECT_EQ("Nine.[[1]]: the input ends before 1 more bit (at bit 25: octet 3, bit 1)",
+              refused(nineType, head + octet(1) + "100000001 1 1 00000"));
+}
+
+// INTEGER (5..5), (-300..-300), (70000..70000)
+TEST_F(Decode, ANumberWithOneValueTakesNoBits)
+{
+    static constexpr Type narrow = {
+        .name = "Narrow", .kind = Kind::Integer, .width = 1, .align = 1, .size = 1, .lower = 5, .upper = 5};
+    static constexpr Type middle = {
+        .name = "Middle", .kind = Kind::Integer, .width = 2, .align = 2, .size = 2, .lower = -300, .upper = -300};
+    static constexpr Type large = {
+        .name = "Large", .kind = Kind::Integer, .width = 4, .align = 4, .size = 4, .lower = 70000, .upper = 70000};
+    struct Three
+    {
+        OSUINT32 large;
+        OSINT16 middle;
+        OSUINT8 narrow;
+    };
+    static constexpr const char* names[] = {"narrow", "middle", "large"};
+    static constexpr Member members[] = {member(narrow, offsetof(Three, narrow)),
+                                         member(middle, offsetof(Three, middle)),
+                                         member(large, offsetof(Three, large))};
+    static constexpr Type threeType = {.name = "Three",
+                                       .kind = Kind::Sequence,
+                                       .align = alignof(Three),
+                                       .size = sizeof(Three),
+                                       .names = names,
+                                       .members = members,
+                                       .memberCount = 3,
+                                       .rootCount = 3};
+    const auto three = decoded<Three>(threeType, octet(0));
+    EXPECT_EQ(5, three.narrow);
+    EXPECT_EQ(-300, three.middle);
+    EXPECT_EQ(70000U, three.large);
+}
+
 TEST_F(Decode, AnExtensionWithoutAdditionIsRefusedWhereStrict)
 {
     const auto box = decoded<Box>(boxType, boxRoot + "0 000010  000");
@@ -534,31 +610,47 @@ TEST_F(Decode, FragmentsThatAreSmallerThanNeedBeAreRefused)
               refused(boxType, head + octet(0xC2) + octetBits(octets, 0, 32768)));
 }
 
-// A Trace with 17000 samples of 1, 2, 3 and so on, of which `place` is 65535. Its 34000 octets are sent as 32768 from
-// bit 17 on and as 1232 from bit 262177 on.
-std::vector<OSOCTET> traceOctets(unsigned place)
+// A Trace with 17000 samples of 1, 2, 3 and so on, of which `place` is 65535, and `surplus` zero octets behind them.
+// The samples' 34000 octets are sent as 32768 from bit 17 on and as 1232 from bit 262177 on.
+std::string traceBits(unsigned place, unsigned surplus)
 {
     std::string text = "1 0 000000 1" + octet(0xC2);
     for (unsigned i = 0; i < 17000; ++i)
     {
         if (i == 16384)
         {
-            text += octet(0x84) + octet(0xD0);
+            text += octet(0x84) + octet(0xD0 + surplus);
         }
         text += i == place ? std::string(16, '1') : octet((i + 1) / 256) + octet((i + 1) % 256);
     }
-    return bits(text);
+    return text + std::string(size_t{surplus} * 8, '0');
+}
+constexpr unsigned noSample = 17000;
+
+std::vector<OSOCTET> traceOctets(unsigned place)
+{
+    return bits(traceBits(place, 0));
 }
 
 TEST_F(Decode, AFragmentedKnownAddition)
 {
     const auto trace = std::make_unique<Trace>();
-    ASSERT_EQ(RTX_OK, decode(traceType, trace.get(), traceOctets(17000))) << error();
+    ASSERT_EQ(RTX_OK, decode(traceType, trace.get(), traceOctets(noSample))) << error();
     EXPECT_EQ(1, trace->m.samplesPresent);
     for (unsigned i = 0; i < 17000; ++i)
     {
         ASSERT_EQ(i + 1, trace->samples.elem[i]);
     }
+}
+
+TEST_F(Decode, WhatIsNotedInAFragmentIsFoundInTheInput)
+{
+    // A zero octet more than the samples take, of 1233 behind bit 262177.
+    const auto trace = std::make_unique<Trace>();
+    ASSERT_EQ(RTX_OK, decode(traceType, trace.get(), bits(traceBits(noSample, 1)))) << error();
+    EXPECT_EQ(17000U, trace->samples.elem[16999]);
+    EXPECT_EQ(RTX_NOTE_SURPLUS, ctxt.decoded.note);
+    EXPECT_EQ(262177U + (34000U - 32768U) * 8, ctxt.decoded.noteOffset);
 }
 
 TEST_F(Decode, AnErrorInAFragmentIsFoundInTheInput)
@@ -586,7 +678,7 @@ TEST_F(Decode, AnExhaustedHeapIsSaid)
     EXPECT_EQ("Pick: the heap is exhausted: " + pick + " octets were asked for (at bit 32: octet 4, bit 0)",
               refused(pickType, "1 0 000001" + octet(2) + octet(0) + octet(0)));
     EXPECT_EQ("Trace.samples: the heap is exhausted: 34000 octets were asked for (at bit 272033: octet 34004, bit 1)",
-              refused(traceType, traceOctets(17000)));
+              refused(traceType, traceOctets(noSample)));
     rtxMemHeapSetLimit(&ctxt, 48);
     EXPECT_EQ("Items[1]: the heap is exhausted: " + item + " octets were asked for (at bit 6: octet 0, bit 6)",
               refused(itemsType, "01  0 000  0 000"));

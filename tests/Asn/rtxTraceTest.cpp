@@ -238,4 +238,21 @@ TEST_F(Trace, TheFieldsAreTheMessage)
     EXPECT_GT(refused, 20U);
 }
 
+TEST(FieldBitName, NamesWhatTheFieldHas)
+{
+    RtxField field{};
+    field.kind = RTX_FIELD_PRESENCE;
+    field.type = &boxType;
+    EXPECT_STREQ("pick", rtxFieldBitName(&field, 0));
+    EXPECT_EQ(nullptr, rtxFieldBitName(&field, 1));
+    field.group = 1;
+    EXPECT_STREQ("a", rtxFieldBitName(&field, 0));
+    EXPECT_STREQ("b", rtxFieldBitName(&field, 1));
+    EXPECT_EQ(nullptr, rtxFieldBitName(&field, 2));
+    field.kind = RTX_FIELD_ADDITIONS;
+    EXPECT_EQ(nullptr, rtxFieldBitName(&field, 0)) << "a group";
+    EXPECT_STREQ("lone", rtxFieldBitName(&field, 1));
+    EXPECT_EQ(nullptr, rtxFieldBitName(&field, 3)) << "of tomorrow";
+}
+
 } // namespace
