@@ -18,7 +18,7 @@ done
 
 # Of clang a line with file and options.
 python3 - "$folder" "$PWD" <<'END'
-import json, pathlib, shlex, sys
+import json, pathlib, re, shlex, sys
 
 FOLDERS = ("Platform", "Asn", "Common", "Du", "Formulas", "Model", "Records", "Rules", "Explain", "Draw", "Json", "Input",
            "Settings", "Page", "Tool")
@@ -34,7 +34,7 @@ def entries(preset):
         path = pathlib.Path(entry["file"])
         inside = path.relative_to(build if build in path.parents else top)
         if inside.parts[0] in FOLDERS and path.suffix in (".cpp", ".cxx") and not path.name.startswith(GENERATED):
-            if "cellgroupcfg_nrrrc" not in entry["output"] and "cellgroupcfg_pdus" not in entry["output"]:
+            if not re.search(r" -o \S*/cellgroupcfg_(nrrrc|pdus)\.dir/", entry["command"]):
                 found.setdefault(entry["file"], entry)
     return found
 
