@@ -52,6 +52,7 @@ END
 
 analyze()
 {
+    set -o pipefail
     # shellcheck disable=SC2086 # the options are several words
     (cd build/lint && eval "clang++-14 --analyze --analyzer-output text -Xclang -analyzer-checker=core,cplusplus,deadcode,unix,nullability,optin.cplusplus,security.FloatLoopCounter $2 '$1'") 2>&1 |
         sed -nE "s|^$PWD/([^:]*):([0-9]+):[0-9]+: warning: (.*) \[(.*)\]$|\1:\2: \4: \3|p"
