@@ -76,6 +76,49 @@ TEST_F(Find, AMessageAtAnyBit)
     }
 }
 
+// X.691 11.9.3.6, 11.9.3.7: lengths to 127 take one octet, those from 128 on two, and never a longer form.
+TEST_F(Find, TheShortestAndTheLongestOfEachLengthForm)
+{
+    static constexpr Type smallType = {
+        .name = "Small", .kind = Kind::Integer, .width = 1, .align = 1, .size = 1, .lower = 0, .upper = 200};
+    static constexpr Member element = member(smallType, 0);
+    const auto arrayOf = [](uint32_t octets)
+    {
+        return Type{.name = "Smalls",
+                    .kind = Kind::Array,
+                    .size = octets,
+                    .lower = static_cast<int32_t>(octets),
+                    .upper = static_cast<int32_t>(octets),
+                    .members = &element,
+                    .memberCount = 1,
+                    .rootCount = 1};
+    };
+    const auto content = [](unsigned octets)
+    {
+        std::string text;
+        for (unsigned i = 0; i < octets; ++i)
+        {
+            text += octet(1);
+        }
+        return text;
+    };
+    const Type longestShort = arrayOf(127);
+    const auto found = find(longestShort, bits(octet(0x7F) + content(127)));
+    ASSERT_EQ(1U, found.size());
+    EXPECT_EQ(127U, found[0].octets);
+    EXPECT_EQ(8U, found[0].contentBit);
+    const auto behind = find(longestShort, bits(octet(0x80) + octet(0x7F) + content(127)));
+    ASSERT_EQ(1U, behind.size());
+    EXPECT_EQ(8U, behind[0].bit) << "two octets for 127";
+
+    const Type shortestLong = arrayOf(128);
+    const auto longer = find(shortestLong, bits(octet(0x80) + octet(0x80) + content(128)));
+    ASSERT_EQ(1U, longer.size());
+    EXPECT_EQ(128U, longer[0].octets);
+    EXPECT_EQ(0U, longer[0].bit);
+    EXPECT_EQ(16U, longer[0].contentBit);
+}
+
 TEST_F(Find, OnlyWhatDecodesCompletely)
 {
     const std::string item = "1 010 01 00"; // an Item and its padding
