@@ -13,6 +13,15 @@ bool isInTable(bool typeB, OSUINT32 start, OSUINT32 length)
                  : start <= 2 && length >= 3 && start + length <= 14;
 }
 
+// PT-RS for a mapping type, with these first values of its densities.
+std::string densities(const std::string& type, int frequency, int time)
+{
+    const std::string at = AT_PDSCH "dmrs-DownlinkForPDSCH-" + type + ".setup.phaseTrackingRS.setup.";
+    return at + "frequencyDensity[0] = " + std::to_string(frequency) + "\n" + at + "frequencyDensity[1] = 100\n" + at +
+           "timeDensity[0] = " + std::to_string(time) + "\n" + at + "timeDensity[1] = 25\n" + at +
+           "timeDensity[2] = 28\n";
+}
+
 // Each value of startSymbolAndLength: by 5.1.2.1 for each pair, none for the others.
 void tdraCases(Cases tdra)
 {
@@ -118,6 +127,19 @@ void pdschCases(CaseTable& table)
                AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS.setup.epre-Ratio = 1")
         .silent(AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS.setup.epre-Ratio = 1")
         .with(inDelta)
+        // The same PT-RS: each of its densities.
+        .silent(densities("MappingTypeA", 50, 20) + densities("MappingTypeB", 50, 20))
+        .fires(AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS",
+               densities("MappingTypeA", 50, 20) + densities("MappingTypeB", 51, 20))
+        .fires(AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS",
+               densities("MappingTypeA", 50, 20) + densities("MappingTypeB", 50, 21))
+        .fires(AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS",
+               densities("MappingTypeA", 50, 20) + densities("MappingTypeB", 50, 20) +
+                   AT_PDSCH
+                   "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS.setup.resourceElementOffset = offset01")
+        .fires(AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.phaseTrackingRS",
+               densities("MappingTypeA", 50, 20) + densities("MappingTypeB", 50, 20) +
+                   AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeA.setup.phaseTrackingRS.setup.timeDensity = absent")
         .silent(AT_PDSCH "dmrs-DownlinkForPDSCH-MappingTypeB.setup.dmrs-Type = type2");
 
     table.rule("pdsch-dmrs-pos3")

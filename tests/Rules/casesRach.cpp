@@ -57,6 +57,21 @@ std::string candidate(int csiRs)
            std::to_string(csiRs) + "\n";
 }
 
+// Bandwidth part 2, and a CSI-RS of one port in it.
+const std::string anotherBwp = AT_CELL
+    "downlinkBWP-ToAddModList[1].bwp-Id = 2\n" AT_CELL
+    "downlinkBWP-ToAddModList[1].bwp-Common.genericParameters.locationAndBandwidth = 1099\n" AT_CELL
+    "downlinkBWP-ToAddModList[1].bwp-Common.genericParameters.subcarrierSpacing = kHz30\n" AT_CELL
+    "downlinkBWP-ToAddModList[1].bwp-Common.pdcch-ConfigCommon.setup.searchSpaceSIB1 = 0\n" AT_CELL
+    "downlinkBWP-ToAddModList[1].bwp-Dedicated = {}\n" AT_CSI_RESOURCES
+    "[5].csi-ResourceConfigId = 5\n" AT_CSI_RESOURCES
+    "[5].csi-RS-ResourceSetList.nzp-CSI-RS-SSB.nzp-CSI-RS-ResourceSetList[0] = 3\n" AT_CSI_RESOURCES
+    "[5].bwp-Id = 2\n" AT_CSI_RESOURCES "[5].resourceType = periodic\n" AT_NZP_SET
+    "[3].nzp-CSI-ResourceSetId = 3\n" AT_NZP_SET "[3].nzp-CSI-RS-Resources[0] = 6\n" ONE_MORE_NZP("6", "6") AT_NZP
+    "[6].resourceMapping.frequencyDomainAllocation = absent\n" AT_NZP
+    "[6].resourceMapping.frequencyDomainAllocation.row2 = 8000\n" AT_NZP "[6].resourceMapping.nrofPorts = p1\n" AT_NZP
+    "[6].resourceMapping.cdm-Type = noCDM\n" AT_NZP "[6].resourceMapping.firstOFDMSymbolInTimeDomain = 12\n";
+
 void inFr1(RrcRuleContext& known)
 {
     inDelta(known);
@@ -338,6 +353,10 @@ void ofRecovery(CaseTable& table)
                    "nzp-CSI-RS-ResourceToAddModList[3].resourceMapping.density = absent\n" AT_CSI
                    "nzp-CSI-RS-ResourceToAddModList[3].resourceMapping.density.dot5 = evenPRBs\n")
         .saying("CSI-RS 3 of density dot5")
+        // CSI-RS 6 is alike, in another bandwidth part.
+        .silent(candidate(6) + anotherBwp + AT_CSI_RESOURCES "[5].bwp-Id = 1")
+        .fires(AT_BFR "candidateBeamRSList[0].csi-RS.csi-RS", candidate(6) + anotherBwp)
+        .saying("CSI-RS 6 of another bandwidth part, but candidates are in downlink bandwidth part 1")
         .fires(AT_SUL_BWP "beamFailureRecoveryConfig",
                recovery + EXAMPLE_SUL AT_SUL_BWP "beamFailureRecoveryConfig.setup.rootSequenceIndex-BFR = 4\n" +
                    generic(AT_COMMON_SUL "initialUplinkBWP.rach-ConfigCommon.setup.rach-ConfigGeneric.", 159) +

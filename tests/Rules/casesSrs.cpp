@@ -251,6 +251,9 @@ void ofAntennas(CaseTable& table)
     const std::string triggered = resource(1, "port1", 0, onTrigger) + resource(2, "port1", 2, onTrigger) +
                                   resource(3, "port1", 4, onTrigger) + resource(4, "port1", 0, onTrigger);
     const std::string apart = AT_SET2 "resourceType.aperiodic.slotOffset = 2\n";
+    // Four antennas by turns, in two sets: 3 + 1.
+    const std::string of14 =
+        set(1, "antennaSwitching", byOne, 1, 3) + set(2, "antennaSwitching", byOne, 4, 1) + apart + triggered;
     table.rule("srs-antenna-switching")
         .bad(AT_SET1 "srs-ResourceIdList")
         .saying("2 resources of 4 ports, but there are 1T=1R")
@@ -280,6 +283,20 @@ void ofAntennas(CaseTable& table)
                                                 set(2, "antennaSwitching", byOne, 4, 1) + apart + triggered +
                                                 AT_SET2 "p0 = -92")
         .as(RRC_RULE_WARNING)
+        .silent(of14 + AT_SET1 "pathlossReferenceRS.ssb-Index = 0\n" AT_SET2 "pathlossReferenceRS.ssb-Index = 0")
+        .fires(AT_SET2 "srs-ResourceSetId",
+               of14 + AT_SET1 "pathlossReferenceRS.ssb-Index = 0\n" AT_SET2 "pathlossReferenceRS.ssb-Index = 1")
+        .as(RRC_RULE_WARNING)
+        .silent(of14 + AT_SET1 "pathlossReferenceRS.csi-RS-Index = 1\n" AT_SET2 "pathlossReferenceRS.csi-RS-Index = 1")
+        .fires(AT_SET2 "srs-ResourceSetId",
+               of14 + AT_SET1 "pathlossReferenceRS.csi-RS-Index = 1\n" AT_SET2 "pathlossReferenceRS.csi-RS-Index = 2")
+        .as(RRC_RULE_WARNING)
+        .fires(AT_SET2 "srs-ResourceSetId",
+               of14 + AT_SET1 "pathlossReferenceRS.ssb-Index = 1\n" AT_SET2 "pathlossReferenceRS.csi-RS-Index = 1")
+        .as(RRC_RULE_WARNING)
+        .fires(AT_SET2 "srs-ResourceSetId", of14 + AT_SET2 "pathlossReferenceRS.ssb-Index = 0")
+        .as(RRC_RULE_WARNING)
+        .saying("set 1 of the same antennas has others")
         // A symbol to switch.
         .fires(AT_SRS "srs-ResourceToAddModList[2].resourceMapping",
                set(1, "antennaSwitching", "periodic = {}", 1, 2) + resource(1, "port1", 1) + resource(2, "port1", 0))

@@ -20,6 +20,21 @@ std::string tenSlots(const char* symbols)
            symbols;
 }
 
+// An SCell with this many symbols of downlink in the slot that ends in its only uplink, of 5 symbols, with PUSCH by the
+// default table.
+#define AT_SCELL_TDD AT_SCELL_COMMON "tdd-UL-DL-ConfigurationCommon.pattern1."
+#define AT_SCELL_ROWS                                                                                                  \
+    AT_SCELL_CELL                                                                                                      \
+    "uplinkConfig.uplinkBWP-ToAddModList[0].bwp-Dedicated.pusch-Config.setup.pusch-TimeDomainAllocationList"
+std::string beforeUplink(const char* count)
+{
+    return std::string(ADD_SCELL_WITH_UPLINK AT_SCELL_ROWS
+                       " = absent\n" AT_SCELL_TDD "nrofDownlinkSlots = 4\n" AT_SCELL_TDD
+                       "nrofUplinkSlots = 0\n" AT_SCELL_TDD "nrofUplinkSymbols = 5\n" AT_SCELL_TDD
+                       "nrofDownlinkSymbols = ") +
+           count;
+}
+
 } // namespace
 
 #define AT_TYPE1 AT_GRANT "rrc-ConfiguredUplinkGrant."
@@ -85,6 +100,12 @@ void tddCases(CaseTable& table)
         .fires(AT_TDD_DEDICATED "slotIndex",
                AT_TDD_DEDICATED "slotIndex = 5\n" AT_TDD_DEDICATED "symbols.allDownlink = null")
         .saying("5, but the patterns have 5 slots at 30 kHz")
+        .silent(AT_TDD_DEDICATED "slotIndex = 2\n" AT_TDD_DEDICATED "symbols.allDownlink = null")
+        .fires(AT_TDD_DEDICATED "symbols",
+               AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.allDownlink = null")
+        .saying("the common pattern has uplink in slot 3 where this has downlink")
+        .silent(AT_TDD_DEDICATED "slotIndex = 3\n" AT_TDD_DEDICATED "symbols.allDownlink = null\n" AT_TDD
+                                 "pattern1.nrofUplinkSymbols = 0")
         .silent(AT_TDD_DEDICATED "slotIndex = 4\n" AT_TDD_DEDICATED "symbols.allUplink = null")
         .fires(AT_TDD_DEDICATED "symbols",
                AT_TDD_DEDICATED "slotIndex = 2\n" AT_TDD_DEDICATED "symbols.allUplink = null")
@@ -146,6 +167,10 @@ void tddCases(CaseTable& table)
         .saying("slot 8 of every 10, symbols 4..13")
         .silent(typeOne + AT_GRANT "periodicity = sym2\n" AT_TYPE1 "timeDomainOffset = 8")
         .silent(AT_PUSCH "pusch-TimeDomainAllocationList = absent")
+        // The shortest of its rows has the symbols 8..13, the first of them flexible or not.
+        .silent(beforeUplink("8"))
+        .fires(AT_SCELL_ROWS, beforeUplink("9"))
+        .saying("absent, but no row of the default table leads from a downlink slot to uplink symbols")
         .fires(AT_COMMON "ssb-PositionsInBurst",
                AT_COMMON "ssb-PositionsInBurst = absent\n" AT_COMMON "ssb-PositionsInBurst.mediumBitmap = FF\n" AT_TDD
                          "pattern1.nrofUplinkSlots = 2\n" AT_TDD "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
