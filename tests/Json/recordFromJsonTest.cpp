@@ -1,6 +1,8 @@
 // What is made of records that somebody writes by hand: what follows, what is merged, and every mistake with its place.
 #include "rrcRecordFromJson.h"
 
+#include "document.h"
+
 #include <gmock/gmock.h>
 
 #include <cstring>
@@ -202,6 +204,103 @@ TEST_F(recordFromJson, mistakesHaveTheirPlaces)
     EXPECT_THAT(read("[]"), ElementsAre("1:1: RrcCellGroupCfg_t: expected an object, found an array"));
     EXPECT_THAT(read(""), testing::SizeIs(1));
     EXPECT_THAT(read(std::string(100, '[')), ElementsAre(HasSubstr("deeper than 64")));
+}
+
+TEST_F(recordFromJson, masksAndAlternativesThatAreNone)
+{
+    EXPECT_THAT(read("{\"bitMask\": 4294967296}"), ElementsAre(HasSubstr("1:13: bitMask: 4294967296 is not in 0..")));
+    EXPECT_THAT(read("{\"bitMask\": \"RRC_CELLGROUPCFG_MAC_PRESENCE\"}"),
+                ElementsAre("1:13: bitMask: expected a list of bits or a number, found the string "
+                            "\"RRC_CELLGROUPCFG_MAC_PRESENCE\""));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"rbType\": \"drb\"}]}"),
+                ElementsAre(HasSubstr("1:30: rlcBearerCfg[0].rbType: unknown alternative \"drb\"")));
+    EXPECT_THAT(read("{\"rlcBearerCfg\": [{\"rlcCfg\": {\"choice\": \"amCfg\"}}]}"),
+                ElementsAre("1:41: rlcBearerCfg[0].rlcCfg.choice: expected an object with the alternative, found the "
+                            "string \"amCfg\""));
+    // What is one without content is {}.
+    const std::string before = "{\"spCellCfg\": {\"spCellDedicated\": {\"csiMeasCfg\": {\"csiReportCfg\": [{"
+                               "\"groupBasedBeamReport\": {\"BeamReporting_n\": {\"enabled\": ";
+    const std::string after = "}}}]}}}}";
+    EXPECT_THAT(read(before + "{}" + after), IsEmpty());
+    const char* const path = "spCellCfg.spCellDedicated.csiMeasCfg.csiReportCfg[0].groupBasedBeamReport.BeamReporting_n"
+                             ".enabled: expected {}, as it has no content, found ";
+    EXPECT_THAT(read(before + "true" + after), ElementsAre(HasSubstr(path + std::string("true"))));
+    EXPECT_THAT(read(before + "{\"a\": 1}" + after), ElementsAre(HasSubstr(path + std::string("an object"))));
+}
+
+TEST_F(recordFromJson, arraysThatAreSentAsAWhole)
+{
+    const auto density = [](const std::string& value)
+    {
+        return "{\"spCellCfg\": {\"spCellDedicated\": {\"initDlBwp\": {\"pdschCfg\": {\"dmrsDlPdschMappingTypeA\": {"
+               "\"phaseTrackingRS\": {\"freqDensity\": " +
+               value + "}}}}}}}";
+    };
+    EXPECT_THAT(read(density("[1, 2]")), IsEmpty());
+    EXPECT_THAT(read(density("[1]")), ElementsAre(HasSubstr("freqDensity: expected 2 entries, found 1")));
+    EXPECT_THAT(read(density("[1, 2, 3]")), ElementsAre(HasSubstr("freqDensity: expected 2 entries, found 3")));
+    EXPECT_THAT(read(density("1")),
+                ElementsAre(HasSubstr("freqDensity: expected an array of 2 entries, found the number 1")));
+}
+
+TEST_F(recordFromJson, octetsAsTheyLieInMemory)
+{
+    const auto blocks = [](const std::string& value)
+    {
+        return "{\"spCellCfg\": {\"recfgWithSync\": {\"spCellConfigCommon\": {\"rateMatchPatternToAddMod\": [{"
+               "\"patternType\": {\"bitmaps\": {\"resourceBlocks\": " +
+               value + "}}}]}}}}";
+    };
+    const auto octet = [&](std::size_t i)
+    {
+        const auto& pattern = record_->spCellCfg.recfgWithSync.spCellConfigCommon.rateMatchPatternToAddMod[0];
+        return reinterpret_cast<const unsigned char*>(pattern.patternType.bitmaps.resourceBlocks)[i];
+    };
+    // 275 bits, in whole octets, or the five words of the field.
+    ASSERT_THAT(read(blocks('"' + std::string(68, '0') + "a5\"")), IsEmpty());
+    EXPECT_EQ(octet(34), 0xA5);
+    EXPECT_EQ(octet(35), 0);
+    ASSERT_THAT(read(blocks('"' + std::string(78, '0') + "5A\"")), IsEmpty());
+    EXPECT_EQ(octet(39), 0x5A);
+    EXPECT_THAT(read(blocks("\"ff00\"")),
+                ElementsAre(HasSubstr("resourceBlocks: 275 bits take 70 hexadecimal digits or, with all that the field "
+                                      "holds, 80, not 4")));
+    EXPECT_THAT(read(blocks("\"xy\"")), ElementsAre(HasSubstr("resourceBlocks: expected a string of 70 hexadecimal "
+                                                              "digits, found the string \"xy\"")));
+    EXPECT_THAT(read(blocks("[255]")),
+                ElementsAre(HasSubstr("expected a string of 70 hexadecimal digits, found an array")));
+}
+
+// What no record needs is refused before it takes memory.
+TEST_F(recordFromJson, textsHaveTheirLimits)
+{
+    const auto object = [](int members)
+    {
+        std::string text = "{";
+        for (int i = 0; i < members; ++i)
+        {
+            text += (i == 0 ? "\"a\": null" : ",\n\"a\": null");
+        }
+        return text + "}";
+    };
+    EXPECT_THAT(read(object(250)), testing::Not(testing::Contains(HasSubstr("members"))));
+    EXPECT_THAT(read(object(251)), ElementsAre("251:1: : more than 250 members"));
+
+    EXPECT_THAT(read(std::string(ASN1_MAX_TEXT + 1, ' ')), ElementsAre("1:1: : more than 67108864 octets of text"));
+
+    text::Document four(4, false);
+    EXPECT_NE(nullptr, four.read("[1, {},\n3]", ""));
+    EXPECT_TRUE(four.sources()[0].mistakes.none());
+    text::Document three(3, false);
+    EXPECT_EQ(nullptr, three.read("[1, {},\n3]", ""));
+    std::vector<std::string> told;
+    const auto sink = [](void* to, const Asn1Mistake* found)
+    {
+        static_cast<std::vector<std::string>*>(to)->push_back(std::to_string(found->line) + ":" +
+                                                              std::to_string(found->column) + ": " + found->words);
+    };
+    EXPECT_EQ(1, three.sources()[0].mistakes.report("[1, {},\n3]", sink, &told));
+    EXPECT_THAT(told, ElementsAre("2:1: more than 3 values"));
 }
 
 TEST_F(recordFromJson, placesBehindComments)
