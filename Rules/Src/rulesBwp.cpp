@@ -726,18 +726,19 @@ void bwpUlNeedsCommon(Check& check)
             {
                 check.missing(cell.complete, cell.supplementary).allowed("the cell has no supplementaryUplinkConfig");
             }
-            continue;
         }
         if (cell.uplinkConfig == nullptr && cell.supplementary == nullptr)
         {
             continue;
         }
         const ServingCellConfig* const before = check.model.before(*cell.dedicated);
-        if (before == nullptr || cell.isSpCell())
+        const bool hasUplink = cell.common == nullptr || cell.uplinkCommon() != nullptr;
+        if (cell.common == nullptr && (before == nullptr || cell.isSpCell()))
         {
             check.undecided(cell.isSpCell() ? RRC_RULE_INPUT_COMMON : RRC_RULE_INPUT_PREVIOUS);
         }
-        else if (cell.uplinkConfig != nullptr && before->m.uplinkConfigPresent == 0)
+        else if (cell.novelty == Novelty::Old && !cell.isSpCell() && hasUplink && cell.uplinkConfig != nullptr &&
+                 before != nullptr && before->m.uplinkConfigPresent == 0)
         {
             check.error(cell.uplinkConfig)
                 .allowed("the SCell was added without an uplink: release it and add it again");

@@ -54,6 +54,16 @@ std::string furtherBwp(int index, int id)
            "bwp-Common.pdcch-ConfigCommon.setup.searchSpaceSIB1 = 0\n" + at + "bwp-Dedicated = {}\n";
 }
 
+// An uplink for an SCell that is there.
+const std::string laterUplink = "sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL "tag-Id = 0\n" AT_SCELL_CELL
+                                "uplinkConfig.initialUplinkBWP.srs-Config.release = null";
+
+// The headroom of several cells.
+const std::string wholePhr =
+    AT_MAC "skipUplinkTxDynamic = false\n" AT_PHR "phr-PeriodicTimer = sf100\n" AT_PHR
+           "phr-ProhibitTimer = sf100\n" AT_PHR "phr-Tx-PowerFactorChange = dB3\n" AT_PHR "dummy = false\n" AT_PHR
+           "phr-Type2OtherCell = false\n" AT_PHR "phr-ModeOtherCG = real\n";
+
 } // namespace
 
 void bwpCases(CaseTable& table)
@@ -289,6 +299,20 @@ void bwpCases(CaseTable& table)
         .fires(AT_SCELL_CELL "uplinkConfig",
                "sCellToAddModList[0].sCellIndex = 1\n" AT_SCELL_CELL "tag-Id = 0\n" AT_SCELL_CELL
                "uplinkConfig.initialUplinkBWP.srs-Config.release = null")
+        .after(ADD_SCELL AT_PHR "multiplePHR = true")
+        // With what is common for one, too, it only comes when the SCell is added.
+        .fires(AT_SCELL_CELL "uplinkConfig", laterUplink)
+        .after(ADD_SCELL_WITH_UPLINK AT_SCELL_CELL "uplinkConfig = absent")
+        .saying("the SCell was added without an uplink: release it and add it again")
+        .fires(AT_SCELL_CELL "uplinkConfig", laterUplink)
+        .after(ADD_SCELL AT_PHR "multiplePHR = true\n" AT_SCELL "sCellConfigCommon = absent")
+        .saying("the SCell was added without an uplink: release it and add it again")
+        .silent(laterUplink)
+        .after(ADD_SCELL_WITH_UPLINK)
+        .silent(laterUplink)
+        .after(ADD_SCELL_WITH_UPLINK AT_SCELL "sCellConfigCommon = absent")
+        // Released and added again.
+        .silent("sCellToReleaseList[0] = 1\n" ADD_SCELL_WITH_UPLINK + wholePhr)
         .after(ADD_SCELL AT_PHR "multiplePHR = true")
         .undecided(AT_SYNC_ABSENT);
 
