@@ -226,6 +226,25 @@ OSUINT32 crsSymbols(const RateMatchPatternLTE_CRS& crs)
     return crs.nrofCRS_Ports == RateMatchPatternLTE_CRS_nrofCRS_Ports_n4 ? ofFour : ofTwoPorts;
 }
 
+// Of each six subcarriers of the LTE carrier the first and the last that have them in some of the symbols.
+struct CrsSubcarriers
+{
+    OSUINT32 first;
+    OSUINT32 last;
+};
+
+CrsSubcarriers crsSubcarriers(const RateMatchPatternLTE_CRS& crs, OSUINT32 symbols)
+{
+    const OSUINT32 ofEven = crs.v_Shift % 6U;
+    const OSUINT32 ofOdd = (ofEven + 3) % 6;
+    // Those of one port move by three from symbol to symbol, those of two fill both places.
+    const bool areBoth = crs.nrofCRS_Ports != RateMatchPatternLTE_CRS_nrofCRS_Ports_n1;
+    const bool hasEven = areBoth || (symbols & (1U << 0 | 1U << 7)) != 0;
+    const bool hasOdd = areBoth || (symbols & (1U << 4 | 1U << 11)) != 0;
+    return {std::min(hasEven ? ofEven : ofOdd, hasOdd ? ofOdd : ofEven),
+            std::max(hasEven ? ofEven : ofOdd, hasOdd ? ofOdd : ofEven)};
+}
+
 // A CORESET in a search space, for what it may run into. Frequencies are counted in kHz from point A.
 class Footprint
 {
@@ -289,8 +308,11 @@ public:
         }
         constexpr OSUINT32 spacing = 15;
         const OSUINT32 half = widths[crs.carrierBandwidthDL] * 6;
-        return crs.carrierFreqDL >= half &&
-               isAt({uint64_t{crs.carrierFreqDL - half} * spacing, uint64_t{crs.carrierFreqDL + half} * spacing});
+        const CrsSubcarriers of = crsSubcarriers(crs, symbols_);
+        // The carrier has one more, which is in its middle and not counted among the six.
+        const OSUINT32 first = crs.carrierFreqDL + of.first;
+        const OSUINT32 end = crs.carrierFreqDL + half + 1 - (5 - of.last);
+        return isAt({uint64_t{first > half ? first - half : 0} * spacing, uint64_t{end} * spacing});
     }
 
 private:

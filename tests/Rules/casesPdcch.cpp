@@ -37,6 +37,31 @@ std::string secondBwp(int location)
                      "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace = 0\n" SECOND_DL "bwp-Dedicated = {}\n";
 }
 
+// Bandwidth part 2 of 15 kHz, its CORESET 5 in the resource blocks 0..47 and the first symbol of slots; with an LTE
+// carrier of 6 resource blocks around this subcarrier.
+#define AT_LTE AT_CELL "lte-CRS-ToMatchAround.setup."
+#define SECOND_CORESET SECOND_DL "bwp-Dedicated.pdcch-Config.setup.controlResourceSetToAddModList[0]."
+#define SECOND_SPACE SECOND_DL "bwp-Dedicated.pdcch-Config.setup.searchSpacesToAddModList[0]."
+std::string besideLte(int middle)
+{
+    return AT_SYNC_ABSENT "\n" SECOND_DL "bwp-Id = 2\n" SECOND_DL
+                          "bwp-Common.genericParameters.locationAndBandwidth = 27225\n" SECOND_DL
+                          "bwp-Common.genericParameters.subcarrierSpacing = kHz15\n" A_CORESET(SECOND_CORESET, "5")
+                              SECOND_CORESET
+           "precoderGranularity = allContiguousRBs\n" A_COMMON_SPACE(SECOND_SPACE, "5", "5") AT_LTE
+           "carrierBandwidthDL = n6\n" AT_LTE "nrofCRS-Ports = n2\n" AT_LTE "v-Shift = n0\n" AT_LTE "carrierFreqDL = " +
+           std::to_string(middle) + "\n";
+}
+
+void knowingTwoCarriers(RrcRuleContext& known)
+{
+    static const SCS_SpecificCarrier carriers[] = {{{0, 0}, 0, SubcarrierSpacing_kHz30, 273, 0, {0, nullptr, nullptr}},
+                                                   {{0, 0}, 0, SubcarrierSpacing_kHz15, 270, 0, {0, nullptr, nullptr}}};
+    inDelta(known);
+    known.carriersDl = carriers;
+    known.numCarriersDl = 2;
+}
+
 void coresetCases(CaseTable& table)
 {
 #define AT_INITIAL_CORESETS AT_CELL "initialDownlinkBWP.pdcch-Config.setup.controlResourceSetToAddModList"
@@ -124,6 +149,8 @@ void coresetCases(CaseTable& table)
                 known.typeAPosition = &position;
             });
 
+    // The CORESET from subcarrier 576 on.
+    const std::string above = SECOND_CORESET "frequencyDomainResources = 00FF00000000\n";
     table.rule("pdcch-coreset-contiguous")
         .bad(AT_CORESET "frequencyDomainResources")
         .saying("5 separate runs")
@@ -139,7 +166,57 @@ void coresetCases(CaseTable& table)
         .silent(AT_CORESETS "[0].precoderGranularity = allContiguousRBs\n" SYMBOLS(AT_SPACE, "0200")) // 6, 7
         .silent(AT_CORESETS "[0].precoderGranularity = allContiguousRBs\n" SYMBOLS(AT_SPACE, "2000")
                     PERIOD(AT_SPACE, "sl20 = 1"))
-        .silent(AT_CORESET "precoderGranularity = allContiguousRBs\n" SYMBOLS(AT_FALLBACK_SPACE, "2000"));
+        .silent(AT_CORESET "precoderGranularity = allContiguousRBs\n" SYMBOLS(AT_FALLBACK_SPACE, "2000"))
+        // Six resource blocks of LTE, 36 subcarriers on either side, over the CORESET's end at subcarrier 575.
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(606))
+        .with(knowingTwoCarriers)
+        .saying("CORESET 5 with allContiguousRBs, but the occasions of search space 5 overlap lte-CRS-ToMatchAround")
+        .silent(besideLte(612))
+        .with(knowingTwoCarriers)
+        // To the subcarrier: of each six those of two ports are 0 and 3 behind v-Shift, one lies in the carrier's
+        // middle.
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(611))
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(610) + AT_LTE "v-Shift = n1")
+        .with(knowingTwoCarriers)
+        .silent(besideLte(611) + AT_LTE "v-Shift = n1")
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId",
+               besideLte(608) + AT_LTE "nrofCRS-Ports = n1\n" SYMBOLS(SECOND_SPACE, "0800"))
+        .with(knowingTwoCarriers)
+        .silent(besideLte(609) + AT_LTE "nrofCRS-Ports = n1\n" SYMBOLS(SECOND_SPACE, "0800"))
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(611) + AT_LTE "nrofCRS-Ports = n1")
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(542) + above)
+        .with(knowingTwoCarriers)
+        .silent(besideLte(541) + above)
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(540) + above + AT_LTE "v-Shift = n2")
+        .with(knowingTwoCarriers)
+        .silent(besideLte(539) + above + AT_LTE "v-Shift = n2")
+        .with(knowingTwoCarriers)
+        // A carrier that begins below point A.
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(10))
+        .with(knowingTwoCarriers)
+        // Its reference signals are in the symbols 0, 4, 7 and 11, those of four ports in 1 and 8, too.
+        .silent(besideLte(606) + SYMBOLS(SECOND_SPACE, "4000"))
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId",
+               besideLte(606) + SYMBOLS(SECOND_SPACE, "4000") + AT_LTE "nrofCRS-Ports = n4")
+        .with(knowingTwoCarriers)
+        .fires(SECOND_SPACE "controlResourceSetId", besideLte(606) + SYMBOLS(SECOND_SPACE, "4000") +
+                                                        SECOND_CORESET "duration = 2\n" SYMBOLS(SECOND_SPACE, "1000"))
+        .with(knowingTwoCarriers)
+        .silent(besideLte(606) + SYMBOLS(SECOND_SPACE, "1000"))
+        .with(knowingTwoCarriers)
+        .silent(besideLte(606) + SECOND_CORESET "precoderGranularity = sameAsREG-bundle")
+        .with(knowingTwoCarriers)
+        // What is in the subframes for broadcast, nobody knows.
+        .silent(besideLte(606) + AT_LTE "mbsfn-SubframeConfigList[0].radioframeAllocationPeriod = n1\n" AT_LTE
+                                        "mbsfn-SubframeConfigList[0].radioframeAllocationOffset = 0\n" AT_LTE
+                                        "mbsfn-SubframeConfigList[0].subframeAllocation1.oneFrame = FC")
+        .with(knowingTwoCarriers);
 
     table.rule("pdcch-coreset-tci")
         .bad(AT_CORESET "tci-StatesPDCCH-ToAddList[0]")
@@ -308,6 +385,14 @@ void groupCases(CaseTable& table)
                AT_INITIAL_PDCCH "commonControlResourceSet.controlResourceSetId = 0\n" AT_INITIAL_PDCCH
                                 "commonSearchSpaceList[0].controlResourceSetId = 0");
 
+    const std::string sixtyBwp = secondBwp(275 * 47 + 113) + AT_SYNC_ABSENT
+                                 "\n" SECOND_DL "bwp-Common.genericParameters.subcarrierSpacing = kHz60\n";
+    const auto sixtyInitial = [](RrcRuleContext& known)
+    {
+        static const BWP initial = {{0}, 1099, SubcarrierSpacing_kHz60, 0};
+        inDelta(known);
+        known.initialDownlinkBwp = &initial;
+    };
     table.rule("pdcch-css-refs")
         .bad(AT_INITIAL_PDCCH "ra-SearchSpace")
         .saying("2, but commonSearchSpaceList has none of that id")
@@ -328,7 +413,18 @@ void groupCases(CaseTable& table)
         .fires(SECOND_DL "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace", secondBwp(275 * 46 + 113))
         .saying("CORESET#0 is wider than the bandwidth part")
         .silent(secondBwp(275 * 46 + 113) + AT_SYNC_ABSENT)
-        .with(inDelta);
+        .with(inDelta)
+        // Of 60 kHz there are two prefixes.
+        .silent(sixtyBwp)
+        .with(sixtyInitial)
+        .fires(SECOND_DL "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace",
+               sixtyBwp + SECOND_DL "bwp-Common.genericParameters.cyclicPrefix = extended")
+        .with(sixtyInitial)
+        .saying("0, but CORESET#0 has another cyclic prefix")
+        .fires(SECOND_DL "bwp-Common.pdcch-ConfigCommon.setup.ra-SearchSpace",
+               sixtyBwp + SECOND_DL "bwp-Common.genericParameters.subcarrierSpacing = kHz30")
+        .with(sixtyInitial)
+        .saying("0, but CORESET#0 has another subcarrier spacing");
 
     table.rule("pdcch-initial-only")
         .bad(AT_PDCCH_COMMON "searchSpaceZero")
@@ -472,6 +568,8 @@ void otherCases(CaseTable& table)
         .fires(AT_PDCCH "tpc-PUCCH.setup.tpc-IndexPCell", FORMAT_2_2 AT_PDCCH "tpc-PUCCH.setup = {}");
 
 #define AT_OTHER AT_SCELL_CELL "crossCarrierSchedulingConfig.schedulingCellInfo.other."
+#define AT_OTHER2 "sCellToAddModList[1].sCellConfigDedicated.crossCarrierSchedulingConfig.schedulingCellInfo.other."
+#define AT_SECOND_SCELL "sCellToAddModList[1].sCellIndex = 2\nsCellToAddModList[1].sCellConfigDedicated.tag-Id = 0\n"
     Cases cross = table.rule("pdcch-cross-carrier");
     const std::string scheduled = std::string(ADD_SCELL) + CROSS_CARRIER;
     const auto not_ = [&](const char* changes)
@@ -496,7 +594,14 @@ void otherCases(CaseTable& table)
                std::string(ADD_SCELL) + AT_CELL
                    "crossCarrierSchedulingConfig.schedulingCellInfo.other.schedulingCellId = 1\n" AT_CELL
                    "crossCarrierSchedulingConfig.schedulingCellInfo.other.cif-InSchedulingCell = 1")
-        .saying("the SpCell schedules itself");
+        .saying("the SpCell schedules itself")
+        // Another one that cell 0 schedules has a value of its own.
+        .fires(AT_OTHER2 "cif-InSchedulingCell",
+               scheduled + AT_OTHER2 "schedulingCellId = 0\n" AT_OTHER2 "cif-InSchedulingCell = 1\n" AT_SECOND_SCELL)
+        .with(inDelta)
+        .saying("1, but SCell 1 has the same value in cell 0")
+        .silent(scheduled + AT_OTHER2 "schedulingCellId = 0\n" AT_OTHER2 "cif-InSchedulingCell = 2\n" AT_SECOND_SCELL)
+        .with(inDelta);
 }
 
 } // namespace
