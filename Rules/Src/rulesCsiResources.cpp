@@ -395,25 +395,38 @@ void judgeTrackingPlaces(Check& check, const Tracking& tracking)
             return;
         }
     }
-    else if (count == 2)
+    else if (std::none_of(all, all + count, [&](const auto* of) { return slotOf(of).period != 0; }))
     {
-        std::sort(all, all + count, [&](const auto* a, const auto* b) { return symbolOf(a) < symbolOf(b); });
+        // On trigger the first two are in one slot.
+        for (size_t i = 0; i < count; i += 2)
+        {
+            std::sort(all + i, all + i + 2, [&](const auto* a, const auto* b) { return symbolOf(a) < symbolOf(b); });
+        }
     }
     else
     {
-        return; // which two of an aperiodic set are in a slot is not said
+        return; // csi-resource-type
     }
+    bool arePairs = true;
     for (size_t i = 0; i < count; i += 2)
     {
         const OSUINT32 first = symbolOf(all[i]);
         const OSUINT32 second = symbolOf(all[i + 1]);
         if (!isTrackingPair(first, second, isFr1))
         {
+            arePairs = false;
             check.error(&set.nzp_CSI_RS_Resources)
                 .found("symbols %u and %u of a slot", first, second)
                 .allowed("in a set for tracking that is 4 and 8, 5 and 9, 6 and 10%s",
                          isFr1 ? "" : ", in FR2 also others four apart");
         }
+    }
+    if (arePairs && count == 4 && symbolOf(all[2]) != symbolOf(all[0]))
+    {
+        check.error(&set.nzp_CSI_RS_Resources)
+            .found("symbols %u and %u of a slot, %u and %u of the next", symbolOf(all[0]), symbolOf(all[1]),
+                   symbolOf(all[2]), symbolOf(all[3]))
+            .allowed("in a set for tracking both slots have the same");
     }
     for (size_t i = 1; i < count; ++i)
     {
@@ -770,15 +783,18 @@ constexpr Rule csiResourcesTable[] = {
      .run = csiRsSetUniform},
     {.told = {.id = "csi-trs",
               .severity = RRC_RULE_ERROR,
-              .statement = "A set with trs-Info has two resources in one slot or four in two that follow each other, "
-                           "of one port and density three, four symbols apart, of 10, 20, 40 or 80 ms, over 52 "
-                           "resource blocks or the bandwidth part; it is not reported on, nor repeated.",
+              .statement =
+                  "A set with trs-Info has two resources in one slot or four in two that follow each other, "
+                  "of one port and density three, four symbols apart and in both slots alike, of 10, 20, 40 or "
+                  "80 ms, over 52 resource blocks or the bandwidth part; it is not reported on, nor repeated.",
               .advice = "Take the symbols, periods and bands that are allowed for tracking.",
               .clause = "TS 38.214 5.1.6.1.1",
               .given = "",
               .bad = AT_NZP "[1].resourceMapping.firstOFDMSymbolInTimeDomain = 5",
               .good = AT_NZP "[1].resourceMapping.firstOFDMSymbolInTimeDomain = 5\n" AT_NZP
-                             "[2].resourceMapping.firstOFDMSymbolInTimeDomain = 9",
+                             "[2].resourceMapping.firstOFDMSymbolInTimeDomain = 9\n" AT_NZP
+                             "[4].resourceMapping.firstOFDMSymbolInTimeDomain = 5\n" AT_NZP
+                             "[5].resourceMapping.firstOFDMSymbolInTimeDomain = 9",
               .since = "0.1.0"},
      .run = csiTrs},
     {.told = {.id = "csi-im-incomplete",

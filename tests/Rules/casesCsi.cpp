@@ -82,6 +82,41 @@ std::string manySets(std::initializer_list<int> sizes)
     return text;
 }
 
+// A set for tracking on trigger, of one-port CSI-RS in these symbols, and the report of nothing that names it.
+std::string triggeredTracking(std::initializer_list<int> symbols)
+{
+    const std::string state = AT_CSI "aperiodicTriggerStateList.setup[1].associatedReportConfigInfoList[0].";
+    const std::string report = AT_CSI "csi-ReportConfigToAddModList[2].";
+    std::string text =
+        AT_NZP_SET "[3].nzp-CSI-ResourceSetId = 3\n" AT_NZP_SET "[3].trs-Info = true\n" AT_NZP_SET
+                   "[3].aperiodicTriggeringOffset = 0\n" AT_CSI_RESOURCES
+                   "[5].csi-ResourceConfigId = 5\n" AT_CSI_RESOURCES
+                   "[5].csi-RS-ResourceSetList.nzp-CSI-RS-SSB.nzp-CSI-RS-ResourceSetList[0] = "
+                   "3\n" AT_CSI_RESOURCES "[5].bwp-Id = 1\n" AT_CSI_RESOURCES "[5].resourceType = aperiodic\n" +
+        report + "reportConfigId = 2\n" + report + "resourcesForChannelMeasurement = 5\n" + report +
+        "reportConfigType.aperiodic.reportSlotOffsetList[0] = 3\n" + report +
+        "reportConfigType.aperiodic.reportSlotOffsetList[1] = 4\n" + report + "reportQuantity.none = null\n" + report +
+        "timeRestrictionForChannelMeasurements = notConfigured\n" + report +
+        "timeRestrictionForInterferenceMeasurements = notConfigured\n" + report +
+        "groupBasedBeamReporting.disabled = {}\n" + report + "subbandSize = value2\n" + state + "reportConfigId = 2\n" +
+        state + "resourcesForChannel.nzp-CSI-RS.resourceSet = 1\n";
+    int i = 0;
+    for (const int symbol : symbols)
+    {
+        const std::string at = AT_NZP "[" + std::to_string(6 + i) + "].";
+        text += AT_NZP_SET "[3].nzp-CSI-RS-Resources[" + std::to_string(i) + "] = " + std::to_string(6 + i) + "\n" +
+                state + "resourcesForChannel.nzp-CSI-RS.qcl-info[" + std::to_string(i) + "] = 2\n" + at +
+                "nzp-CSI-RS-ResourceId = " + std::to_string(6 + i) + "\n" + at +
+                "resourceMapping.frequencyDomainAllocation.row1 = 10\n" + at + "resourceMapping.nrofPorts = p1\n" + at +
+                "resourceMapping.firstOFDMSymbolInTimeDomain = " + std::to_string(symbol) + "\n" + at +
+                "resourceMapping.cdm-Type = noCDM\n" + at + "resourceMapping.density.three = null\n" + at +
+                "resourceMapping.freqBand.startingRB = 0\n" + at + "resourceMapping.freqBand.nrofRBs = 276\n" + at +
+                "powerControlOffset = 0\n" + at + "powerControlOffsetSS = db0\n" + at + "scramblingID = 42\n";
+        ++i;
+    }
+    return text;
+}
+
 // The first CSI-RS with 16 ports, and a codebook of four panels for it.
 const std::string fourPanels = AT_NZP
     "[0].resourceMapping.frequencyDomainAllocation = absent\n" AT_NZP
@@ -348,6 +383,19 @@ void reportCases(CaseTable& table)
                                              "[0].resourceMapping.frequencyDomainAllocation.other = 80\n" AT_NZP
                                              "[0].resourceMapping.nrofPorts = p2");
 
+    // Interference on CSI-RS is of one resource for the channel.
+    table.rule("csi-interference-count")
+        .fires(AT_TRIGGERED "nzp-CSI-RS-ResourcesForInterference",
+               nzpInterference +
+                   AT_NZP_SET "[2].nzp-CSI-RS-Resources[1] = 9\n" AT_IM_SET "[1].csi-IM-Resources[1] = 2\n" AT_TRIGGER
+                              "resourcesForChannel.nzp-CSI-RS.qcl-info[1] = 2\n" AT_IM
+                              "[2].csi-IM-ResourceId = 2\n" AT_IM
+                              "[2].csi-IM-ResourceElementPattern.pattern1.subcarrierLocation-p1 = s4\n" AT_IM
+                              "[2].csi-IM-ResourceElementPattern.pattern1.symbolLocation-p1 = 13\n" AT_IM
+                              "[2].freqBand.startingRB = 0\n" AT_IM "[2].freqBand.nrofRBs = 276\n" +
+                   std::string(ONE_MORE_NZP("7", "9")) + AT_NZP "[7].periodicityAndOffset = absent\n")
+        .saying("the set for the channel then has one resource, not 2");
+
     table.rule("csi-cqi-needs-im").bad(AT_REPORT "csi-IM-ResourcesForInterference").good();
 
     table.rule("csi-rsrp-kind")
@@ -381,6 +429,12 @@ void reportCases(CaseTable& table)
                AT_REPORT "reportQuantity = absent\n" AT_REPORT "reportQuantity.cri-RI-CQI = null")
         .as(RRC_RULE_NOTICE);
 
+    // Of the reports the aperiodic one alone, in bandwidth parts of the resource blocks 0..22.
+    const std::string of23 = AT_DL
+        "bwp-Common.genericParameters.locationAndBandwidth = 6050\n" AT_DL "bwp-Dedicated.pdcch-Config = absent\n" AT_UL
+        "bwp-Common.genericParameters.locationAndBandwidth = 6050\n" AT_UL "bwp-Dedicated = absent\n" AT_CSI
+        "csi-ReportConfigToAddModList[0] = absent\n";
+    const std::string noBand = AT_REPORT "reportFreqConfiguration.csi-ReportingBand = absent\n";
     table.rule("csi-subband-count")
         .bad(AT_TRIGGERED "reportFreqConfiguration.csi-ReportingBand")
         .saying("subbands10, but a bandwidth part of 273 PRB from common RB 0 with subband size 32 has 9")
@@ -404,13 +458,21 @@ void reportCases(CaseTable& table)
         .with(inDelta)
         .silent("spCellConfig.reconfigurationWithSync = absent")
         .with(inDeltaKnowingCarrier)
-        .fires(AT_REPORT "reportFreqConfiguration.csi-ReportingBand",
-               AT_DL "bwp-Common.genericParameters.locationAndBandwidth = 6050\n" // RB 0..22
-               AT_DL "bwp-Dedicated.pdcch-Config = absent\n" AT_UL
-                     "bwp-Common.genericParameters.locationAndBandwidth = 6050\n" AT_UL
-                     "bwp-Dedicated = absent\n" AT_CSI "csi-ReportConfigToAddModList[0] = absent")
+        .fires(AT_REPORT "reportFreqConfiguration.csi-ReportingBand", of23)
         .with(inDelta)
-        .saying("a bandwidth part of 23 PRB has no subbands");
+        .saying("a bandwidth part of 23 PRB has no subbands")
+        // Where no subband is named, what is for each of them is at fault.
+        .fires(AT_REPORT "reportFreqConfiguration.cqi-FormatIndicator", of23 + noBand)
+        .with(inDelta)
+        .saying("subbandCQI, but a bandwidth part of 23 PRB has no subbands")
+        .fires(AT_REPORT "reportFreqConfiguration.pmi-FormatIndicator",
+               of23 + noBand +
+                   AT_REPORT "reportFreqConfiguration.cqi-FormatIndicator = widebandCQI\n" AT_REPORT
+                             "reportFreqConfiguration.pmi-FormatIndicator = subbandPMI")
+        .with(inDelta)
+        .saying("subbandPMI, but a bandwidth part of 23 PRB has no subbands")
+        .silent(of23 + noBand + AT_REPORT "reportFreqConfiguration.cqi-FormatIndicator = widebandCQI")
+        .with(inDelta);
 
     table.rule("csi-slot-offset-list")
         .bad(AT_TRIGGERED "reportConfigType.aperiodic.reportSlotOffsetList")
@@ -550,12 +612,44 @@ void resourceCases(CaseTable& table)
                AT_REPORT "resourcesForChannelMeasurement = 2\n" AT_REPORT
                          "csi-IM-ResourcesForInterference = absent\n" AT_REPORT "codebookConfig = absent")
         .saying("CSI-ResourceConfig 2 is for tracking")
-        .silent(AS_FR2 AT_NZP "[4].resourceMapping.firstOFDMSymbolInTimeDomain = 9\n" AT_NZP
+        .silent(AS_FR2 AT_NZP "[1].resourceMapping.firstOFDMSymbolInTimeDomain = 9\n" AT_NZP
+                              "[2].resourceMapping.firstOFDMSymbolInTimeDomain = 13\n" AT_NZP
+                              "[4].resourceMapping.firstOFDMSymbolInTimeDomain = 9\n" AT_NZP
                               "[5].resourceMapping.firstOFDMSymbolInTimeDomain = 13")
+        .fires(AT_NZP_SET "[1].nzp-CSI-RS-Resources",
+               AT_NZP "[1].resourceMapping.firstOFDMSymbolInTimeDomain = 5\n" AT_NZP
+                      "[2].resourceMapping.firstOFDMSymbolInTimeDomain = 9")
+        .saying("symbols 4 and 8 of a slot, 5 and 9 of the next, but in a set for tracking both slots have the same")
         .fires(AT_NZP_SET "[1].nzp-CSI-RS-Resources",
                AT_NZP "[1].periodicityAndOffset.slots80 = 5\n" AT_NZP "[2].periodicityAndOffset.slots80 = 5")
         // Ports, time and trigger of a report that is not to name the set are not judged.
-        .fires(AT_TRIGGERED "resourcesForChannelMeasurement", AT_TRIGGERED "resourcesForChannelMeasurement = 2");
+        .fires(AT_TRIGGERED "resourcesForChannelMeasurement", AT_TRIGGERED "resourcesForChannelMeasurement = 2")
+        // Triggered, the first two are in one slot and the others in the next.
+        .silent(AS_FR2 + triggeredTracking({4, 8}))
+        .silent(AS_FR2 + triggeredTracking({13, 9}))
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources", AS_FR2 + triggeredTracking({5, 8}))
+        .saying("symbols 5 and 8 of a slot")
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources", AS_FR2 + triggeredTracking({8, 5}))
+        .saying("symbols 5 and 8 of a slot")
+        .silent(triggeredTracking({5, 9, 9, 5}))
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources", triggeredTracking({5, 9, 5, 8}))
+        .saying("symbols 5 and 8 of a slot")
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources", triggeredTracking({5, 5, 9, 9}))
+        .saying("symbols 5 and 5 of a slot")
+        .times(2)
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources", triggeredTracking({9, 13, 9, 13}))
+        .saying("symbols 9 and 13 of a slot")
+        .times(2)
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources", triggeredTracking({5, 9, 4, 8}))
+        .saying("symbols 5 and 9 of a slot, 4 and 8 of the next")
+        .fires(AT_NZP_SET "[3].nzp-CSI-RS-Resources",
+               triggeredTracking({5, 9, 5, 9}) + AT_NZP "[9].powerControlOffset = 1")
+        .saying("resources 6 and 9 of different power")
+        .fires(AT_CSI "csi-ReportConfigToAddModList[2].timeRestrictionForChannelMeasurements",
+               triggeredTracking({5, 9, 5, 9}) + AT_CSI
+                   "csi-ReportConfigToAddModList[2].timeRestrictionForChannelMeasurements = configured")
+        .saying("configured, but the report is on a set for tracking")
+        .silent(AT_TRIGGERED "timeRestrictionForChannelMeasurements = configured");
 
     table.rule("csi-im-incomplete")
         .bad(AT_IM "[0].freqBand")
@@ -579,6 +673,29 @@ void resourceCases(CaseTable& table)
         .silent(AT_NZP "[0].periodicityAndOffset.slots80 = 10\n" AT_NZP
                        "[0].resourceMapping.firstOFDMSymbolInTimeDomain = 5");
 
+    const std::string withoutPmi =
+        AT_REPORT "reportQuantity = absent\n" AT_REPORT "reportQuantity.cri-RI-CQI = null\n" AT_REPORT
+                  "reportFreqConfiguration.pmi-FormatIndicator = absent\n" AT_REPORT "codebookConfig = absent\n" AT_NZP
+                  "[0].resourceMapping.frequencyDomainAllocation = absent\n";
+    const std::string onePort = withoutPmi + AT_NZP "[0].resourceMapping.frequencyDomainAllocation.row2 = 8000\n" AT_NZP
+                                                    "[0].resourceMapping.nrofPorts = p1\n" AT_NZP
+                                                    "[0].resourceMapping.cdm-Type = noCDM\n";
+    // All ranks of eight ports, in row 6; the last layer of rank 8 with this port.
+    const auto eight = [&](int last)
+    {
+        std::string text = withoutPmi + AT_NZP "[0].resourceMapping.frequencyDomainAllocation.other = F0\n" AT_NZP
+                                               "[0].resourceMapping.nrofPorts = p8\n" AT_REPORT
+                                               "non-PMI-PortIndication[0].portIndex8.rank1-8 = 7\n";
+        for (int rank = 2; rank <= 8; ++rank)
+        {
+            for (int layer = 0; layer < rank; ++layer)
+            {
+                text += AT_REPORT "non-PMI-PortIndication[0].portIndex8.rank" + std::to_string(rank) + "-8[" +
+                        std::to_string(layer) + "] = " + std::to_string(layer == 7 ? last : layer) + "\n";
+            }
+        }
+        return text;
+    };
     table.rule("csi-port-indication")
         .bad(AT_REPORT "non-PMI-PortIndication[0]")
         .saying("portIndex2, but NZP-CSI-RS-Resource 0 has 4 ports")
@@ -587,6 +704,22 @@ void resourceCases(CaseTable& table)
                good("csi-port-indication", AT_REPORT "non-PMI-PortIndication[0].portIndex4.rank2-4[0] = 3\n" AT_REPORT
                                                      "non-PMI-PortIndication[0].portIndex4.rank2-4[1] = 3"))
         .saying("a port twice in a rank")
+        // Ranks that two columns cannot have: each layer of rank 8 has a port of its own.
+        .silent(eight(7))
+        .fires(AT_REPORT "non-PMI-PortIndication[0]", eight(6))
+        .saying("a port twice in a rank")
+        .fires(AT_REPORT "non-PMI-PortIndication[0]",
+               good("csi-port-indication", AT_REPORT "non-PMI-PortIndication[0].portIndex4 = absent\n" AT_REPORT
+                                                     "non-PMI-PortIndication[0].portIndex8.rank1-8 = 0"))
+        .saying("portIndex8, but NZP-CSI-RS-Resource 0 has 4 ports")
+        .silent(onePort + AT_REPORT "non-PMI-PortIndication[0].portIndex1 = null")
+        .fires(AT_REPORT "non-PMI-PortIndication[0]",
+               onePort + AT_REPORT "non-PMI-PortIndication[0].portIndex2.rank1-2 = 0")
+        .saying("portIndex2, but NZP-CSI-RS-Resource 0 has 1 port")
+        .fires(AT_REPORT "non-PMI-PortIndication[0]",
+               good("csi-port-indication", AT_REPORT "non-PMI-PortIndication[0].portIndex4 = absent\n" AT_REPORT
+                                                     "non-PMI-PortIndication[0].portIndex1 = null"))
+        .saying("portIndex1, but NZP-CSI-RS-Resource 0 has 4 ports")
         .fires(AT_REPORT "non-PMI-PortIndication[0]",
                good("csi-port-indication", AT_REPORT "non-PMI-PortIndication[0].portIndex4 = absent\n" AT_REPORT
                                                      "non-PMI-PortIndication[0].portIndex4 = {}"))
