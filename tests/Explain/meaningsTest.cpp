@@ -665,6 +665,22 @@ TEST_F(Meanings, ConfiguredGrants)
     EXPECT_EQ("3 periods, 21 symbols", told.at(GRANT "configuredGrantTimer").text);
 }
 
+// Of a period that the schema does not have, the timer's length is not made up.
+TEST_F(Meanings, TimerOfNoPeriod)
+{
+    const CellGroupConfig* const tree =
+        read(cell + uplink +
+             Lines{GRANT "cg-DMRS-Configuration = {}", GRANT "resourceAllocation = resourceAllocationType1",
+                   GRANT "powerControlLoopToUse = n0", GRANT "p0-PUSCH-Alpha = 0", GRANT "nrofHARQ-Processes = 1",
+                   GRANT "repK = n1", GRANT "periodicity = sym2", GRANT "configuredGrantTimer = 3"});
+    const void* const period = place(tree, "periodicity").first;
+    ASSERT_NE(nullptr, period);
+    *static_cast<OSUINT32*>(const_cast<void*>(period)) = 1000;
+    const auto told = tell(tree);
+    EXPECT_FALSE(told.contains(GRANT "periodicity"));
+    EXPECT_EQ("3 periods", told.at(GRANT "configuredGrantTimer").text);
+}
+
 // TS 38.214 6.1.2.3: what a DCI would say, in the last bits of 18.
 TEST_F(Meanings, BlocksOfAGrant)
 {

@@ -297,6 +297,10 @@ void ofAntennas(CaseTable& table)
         .fires(AT_SET2 "srs-ResourceSetId", of14 + AT_SET2 "pathlossReferenceRS.ssb-Index = 0")
         .as(RRC_RULE_WARNING)
         .saying("set 1 of the same antennas has others")
+        // Two sets of 1T2R, periodic and triggered, are no halves of 1T4R.
+        .silent(set(1, "antennaSwitching", byOne, 1, 2) + set(2, "antennaSwitching", "periodic = {}", 3, 2) +
+                resource(1, "port1", 0, onTrigger) + resource(2, "port1", 2, onTrigger) + resource(3, "port1", 0) +
+                resource(4, "port1", 2))
         // A symbol to switch.
         .fires(AT_SRS "srs-ResourceToAddModList[2].resourceMapping",
                set(1, "antennaSwitching", "periodic = {}", 1, 2) + resource(1, "port1", 1) + resource(2, "port1", 0))

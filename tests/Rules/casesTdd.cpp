@@ -176,6 +176,9 @@ void tddCases(CaseTable& table)
                          "pattern1.nrofUplinkSlots = 2\n" AT_TDD "pattern1.nrofDownlinkSymbols = 0\n" AT_TDD
                          "pattern1.nrofUplinkSymbols = 0")
         .saying("block 6 at symbol 44")
+        // Reports go out on the SpCell, of whose slots nothing is known here.
+        .silent(ADD_SCELL "spCellConfig = absent")
+        .with(inDelta)
         .undecided(AT_SYNC_ABSENT)
         .with(inDelta);
 }

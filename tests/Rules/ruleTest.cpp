@@ -285,6 +285,42 @@ TEST_F(RuleTest, ItsVariantsAreClean)
     }
 }
 
+// What a choice holds that says no alternative, nobody knows: no rule makes a mistake of it.
+TEST_F(RuleTest, OfABrokenChoiceNothingIsWrong)
+{
+    RrcRuleContext known{};
+    known.extent = RRC_RULE_EXTENT_FULL;
+    std::vector<std::string> lines = wholeCell();
+    change(lines, rrcRuleById("csi-port-indication")->good);
+    CellGroupConfig* const tree = read(lines);
+    const auto first = [](const OSRTDList& list)
+    {
+        return list.head->data;
+    };
+    const CSI_MeasConfig& csi = *tree->spCellConfig.spCellConfigDedicated.csi_MeasConfig.u.setup;
+    const auto* const report = static_cast<CSI_ReportConfig*>(first(csi.csi_ReportConfigToAddModList));
+    const auto* const state = static_cast<CSI_AperiodicTriggerState*>(first(*csi.aperiodicTriggerStateList.u.setup));
+    OSUINT32* const tags[] = {
+        &static_cast<PortIndexFor8Ranks*>(first(report->non_PMI_PortIndication))->t,
+        &static_cast<CSI_AssociatedReportConfigInfo*>(first(state->associatedReportConfigInfoList))
+             ->resourcesForChannel.t,
+        &tree->spCellConfig.reconfigurationWithSync.spCellConfigCommon.uplinkConfigCommon.initialUplinkBWP
+             .rach_ConfigCommon.u.setup->ssb_perRACH_OccasionAndCB_PreamblesPerSSB.t};
+    for (OSUINT32* const tag : tags)
+    {
+        const OSUINT32 was = *tag;
+        for (const OSUINT32 none : {0U, 99U})
+        {
+            *tag = none;
+            for (const Told& told : check(*tree, known))
+            {
+                EXPECT_NE(RRC_RULE_ERROR, told.severity) << told.line;
+            }
+        }
+        *tag = was;
+    }
+}
+
 // A rule that nothing makes fire, or nothing keeps silent, is not tested.
 TEST(RuleTable, EachRuleHasItsCases)
 {
