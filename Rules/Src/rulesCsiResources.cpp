@@ -405,7 +405,7 @@ void judgeTrackingPlaces(Check& check, const Tracking& tracking)
     }
     else
     {
-        return; // csi-resource-type
+        return; // csi-periodicity-cond
     }
     bool arePairs = true;
     for (size_t i = 0; i < count; i += 2)

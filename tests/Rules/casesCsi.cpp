@@ -237,6 +237,9 @@ void chainCases(CaseTable& table)
     table.rule("csi-periodicity-cond")
         .bad(AT_NZP "[3].periodicityAndOffset")
         .good()
+        // What lies in which slot of a set for tracking, nobody knows then.
+        .fires(AT_NZP "[9].periodicityAndOffset",
+               triggeredTracking({5, 9, 5, 8}) + AT_NZP "[9].periodicityAndOffset.slots80 = 1")
         .fires(AT_NZP "[0].periodicityAndOffset", AT_NZP "[0].periodicityAndOffset = absent")
         .undecided(AT_NZP "[0].periodicityAndOffset = absent")
         .with(inDelta)

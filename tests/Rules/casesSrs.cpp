@@ -348,9 +348,18 @@ void ofOtherCells(CaseTable& table)
     const std::string relation =
         AT_RELATION "referenceSignal.srs.uplinkBWP = 1\n" AT_RELATION "referenceSignal.srs.resourceId = 1\n";
     const std::string beams = "semi-persistent.periodicityAndOffset-sp.sl40 = 19";
+    const std::string semiPersistent =
+        AT_SET "resourceType = absent\n" AT_SET "resourceType.semi-persistent = {}\n" AT_SOUNDING
+               "resourceType = absent\n" AT_SOUNDING "resourceType.semi-persistent.periodicityAndOffset-sp.sl40 = 9\n";
     table.rule("srs-spatial-refs")
         .bad(AT_RELATION "referenceSignal.csi-RS-Index")
         .good()
+        .silent(semiPersistent + relation +
+                resource(1, "ports2", 0, "semi-persistent.periodicityAndOffset-sp.sl40 = 19"))
+        .silent(semiPersistent + relation + resource(1, "ports2", 0))
+        .fires(AT_RELATION "referenceSignal.srs.resourceId",
+               semiPersistent + relation + resource(1, "ports2", 0, onTrigger))
+        .saying("1, which is aperiodic, but a semi-persistent resource follows none that is")
         .silent(AT_RELATION "referenceSignal.ssb-Index = 1")
         // CSI-RS 3 is aperiodic.
         .fires(AT_RELATION "referenceSignal.csi-RS-Index", AT_RELATION "referenceSignal.csi-RS-Index = 3")

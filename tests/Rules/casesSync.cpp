@@ -55,6 +55,11 @@ void syncCases(CaseTable& table)
         .fires(AT_COMMON_DL "frequencyInfoDL.absoluteFrequencySSB",
                AT_COMMON_DL "frequencyInfoDL.absoluteFrequencySSB = absent")
         .saying("an SpCell has SS/PBCH blocks")
+        // A PSCell that is added; that of a handover within the cell may keep what it has.
+        .fires(AT_SYNC "spCellConfigCommon", AS_SCG AT_SYNC "spCellConfigCommon = absent")
+        .saying("absent, but the PSCell is added")
+        .silent(AS_SCG AT_SYNC "spCellConfigCommon = absent")
+        .with(inDelta)
         .fires(AT_SCELL_COMMON "physCellId", ADD_SCELL AT_SCELL_COMMON "physCellId = absent")
         .with(inDelta)
         .fires(AT_SCELL_COMMON "uplinkConfigCommon.frequencyInfoUL",
