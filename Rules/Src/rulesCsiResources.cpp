@@ -397,10 +397,11 @@ void judgeTrackingPlaces(Check& check, const Tracking& tracking)
     }
     else if (std::none_of(all, all + count, [&](const auto* of) { return slotOf(of).period != 0; }))
     {
-        // On trigger the first two are in one slot.
-        for (size_t i = 0; i < count; i += 2)
+        // Which of them are in one slot is left to the order; alike in both slots they are paired by their symbols.
+        std::sort(all, all + count, [&](const auto* a, const auto* b) { return symbolOf(a) < symbolOf(b); });
+        if (count == 4)
         {
-            std::sort(all + i, all + i + 2, [&](const auto* a, const auto* b) { return symbolOf(a) < symbolOf(b); });
+            std::swap(all[1], all[2]);
         }
     }
     else
