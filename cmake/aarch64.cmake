@@ -1,8 +1,5 @@
-# 64-bit ARM with Debian's cross compiler; programs run under qemu-user.
-set(CMAKE_SYSTEM_NAME Linux)
+# 64-bit ARM; programs run under qemu-user.
+set(triplet aarch64-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
-set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
-set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64 -L /usr/aarch64-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH /usr/aarch64-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+include("${CMAKE_CURRENT_LIST_DIR}/crossLinux.cmake")

@@ -1,10 +1,7 @@
-# 32-bit ARM with Debian's cross compiler; programs run under qemu-user.
-set(CMAKE_SYSTEM_NAME Linux)
+# 32-bit ARM; programs run under qemu-user.
+set(triplet arm-linux-gnueabihf)
 set(CMAKE_SYSTEM_PROCESSOR arm)
-set(CMAKE_C_COMPILER arm-linux-gnueabihf-gcc)
-set(CMAKE_CXX_COMPILER arm-linux-gnueabihf-g++)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L /usr/arm-linux-gnueabihf)
-set(CMAKE_FIND_ROOT_PATH /usr/arm-linux-gnueabihf)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+include("${CMAKE_CURRENT_LIST_DIR}/crossLinux.cmake")
 # Without notes on how older compilers passed arguments.
 set(CMAKE_CXX_FLAGS_INIT -Wno-psabi)

@@ -2,7 +2,7 @@
 # elsewhere.sh [--figures|--update] [system...]: the unit tests and the digests of RECORDS (10,000) random cell groups of
 # either kind on other processors, under qemu-user, and the digests with other compilers, standard libraries,
 # optimisations and contents of memory: all the same as tests/records/digests.txt. --figures prints the table for a
-# document; --update writes the digests of this system instead. Systems: aarch64 armhf i686, and those of x86-64 below.
+# document; --update writes the digests of this system instead. Systems: aarch64 armhf i686 s390x, and those of x86-64 below.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -26,7 +26,7 @@ clang-O3;clang++-14;libstdc++;-O3
 clang-pattern;clang++-14;libstdc++;-O2 -ftrivial-auto-var-init=pattern
 libc++-O0;clang++-14;libc++;-O0
 libc++-O3;clang++-14;libc++;-O3"
-cross="aarch64 armhf i686"
+cross="aarch64 armhf i686 s390x"
 
 if [ -n "$update" ]; then
     scripts/build.sh release-test recordDigest >&2
@@ -85,7 +85,7 @@ for name in $cross; do
         tests=$(sed -n 's/^100% tests passed, 0 tests failed out of //p' "build/elsewhere/$name.tests")
     fi
     emulator=$(sed -n 's/^set(CMAKE_CROSSCOMPILING_EMULATOR \(.*\))$/\1/p' "cmake/$name.cmake")
-    compiler=$(sed -n 's/^set(CMAKE_CXX_COMPILER \(.*\))$/\1/p' "cmake/$name.cmake")
+    compiler=$(sed -n 's/^set(triplet \(.*\))$/\1-g++/p' "cmake/$name.cmake")
     # shellcheck disable=SC2086 # an emulator is several words
     row "$name" "$compiler" libstdc++ -O1 "$tests" $emulator
 done

@@ -17,7 +17,7 @@ test_packages=(
     python3-pytest mypy python3-setuptools python3-wheel python3-pip
 )
 # Compilers and a library for scripts/elsewhere.sh beyond those of the tests.
-elsewhere_packages=("${test_packages[@]}" g++-arm-linux-gnueabihf libc++-14-dev libc++abi-14-dev)
+elsewhere_packages=("${test_packages[@]}" g++-arm-linux-gnueabihf g++-s390x-linux-gnu libc++-14-dev libc++abi-14-dev)
 browser_packages=(chromium fonts-dejavu-core)
 # Another Node.js than Debian's is as good.
 if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
