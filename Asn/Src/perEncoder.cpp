@@ -189,7 +189,7 @@ void Encoder::flush(Bits b) const
     {
         return;
     }
-    const uint64_t octets = __builtin_bswap64(b.word << (64 - used));
+    const uint64_t octets = highFirst(b.word << (64 - used));
     std::memcpy(data_ + b.bits() / 64 * 8, &octets, (used + 7) / 8);
 }
 
@@ -203,7 +203,7 @@ Bits Encoder::resume(uint64_t end) const
     }
     uint64_t octets = 0;
     std::memcpy(&octets, data_ + end / 64 * 8, (used + 7) / 8);
-    return {__builtin_bswap64(octets) >> (64 - used), Bits::place(end)};
+    return {highFirst(octets) >> (64 - used), Bits::place(end)};
 }
 
 // X.691 11.2.1: the content is padded to whole octets, at least one; its length stands before it.

@@ -3,6 +3,7 @@
 #ifndef PERENCODER_H
 #define PERENCODER_H
 
+#include "byteOrder.h"
 #include "rtxBits.h"
 #include "rtxHeap.h"
 #include "rtxType.h"
@@ -100,13 +101,17 @@ public:
     }
 
     // Presence flags First to First + Count - 1 of a sequence, the first one most significant: the order in which PER
-    // sends them. In memory the first flag is the least significant bit.
+    // sends them, and that of bit-fields on a big-endian system. Elsewhere the first flag is the least significant bit.
     template <unsigned First, unsigned Count, typename Flags>
     static uint64_t flags(const Flags& m)
     {
         static_assert(First / 32 == (First + Count - 1) / 32 && Count <= 24);
         uint32_t word;
         std::memcpy(&word, reinterpret_cast<const OSOCTET*>(&m) + First / 32 * 4, sizeof word);
+        if constexpr (!littleEndian)
+        {
+            return word << First % 32 >> (32 - Count);
+        }
         word >>= First % 32;
         uint64_t value = reversedOctets[word & 0xFF];
         if constexpr (Count > 8)
@@ -191,7 +196,7 @@ private:
     {
         uint32_t v;
         std::memcpy(&v, p, sizeof v);
-        return __builtin_bswap32(v);
+        return highFirst(v);
     }
 
     // Always inline, so that a constant width is folded, and as short as can be, because it stands at every value: the
@@ -214,7 +219,7 @@ private:
     {
         if (index < capacity_ / 8)
         {
-            const uint64_t octets = __builtin_bswap64(word);
+            const uint64_t octets = highFirst(word);
             std::memcpy(data_ + index * 8, &octets, sizeof octets);
         }
     }

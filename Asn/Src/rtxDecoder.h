@@ -2,6 +2,7 @@
 #ifndef RTXDECODER_H
 #define RTXDECODER_H
 
+#include "byteOrder.h"
 #include "rtxBits.h"
 #include "rtxHeap.h"
 #include "rtxType.h"
@@ -25,7 +26,7 @@ struct Input
 {
     uint64_t word;
     std::memcpy(&word, data + at / 8, sizeof word);
-    return __builtin_bswap64(word) << at % 8;
+    return highFirst(word) << at % 8;
 }
 
 [[gnu::noinline]] inline uint64_t lastWindow(const Input& in, uint64_t at)
@@ -674,9 +675,24 @@ private:
         flags = (flags & ((uint64_t{1} << count) - 1)) << first;
         for (uint64_t left = flags; left != 0; left >>= 32, structure += 4)
         {
-            store<OSUINT32>(structure, load32(structure) | static_cast<uint32_t>(left));
+            store<OSUINT32>(structure, load32(structure) | flagWord(static_cast<uint32_t>(left)));
         }
         return flags;
+    }
+
+    // 32 flags as they lie in memory.
+    [[gnu::always_inline]] static uint32_t flagWord(uint32_t flags)
+    {
+        if constexpr (littleEndian)
+        {
+            return flags;
+        }
+        uint32_t word = 0;
+        for (unsigned i = 0; i < 32; i += 8)
+        {
+            word = word << 8 | reversedOctets[flags >> i & 0xFF];
+        }
+        return word;
     }
 
     static uint32_t load32(const OSOCTET* from)
@@ -690,7 +706,7 @@ private:
     {
         if constexpr (!skims)
         {
-            structure[flag / 8] = static_cast<OSOCTET>(structure[flag / 8] | 1U << flag % 8);
+            structure[flag / 8] = static_cast<OSOCTET>(structure[flag / 8] | 1U << flagShift(flag));
         }
     }
 

@@ -140,12 +140,12 @@ inline const void* rootMember(const Type& type, unsigned index, const void* stru
 
 inline void setFlag(void* structure, int flag)
 {
-    static_cast<OSOCTET*>(structure)[flag / 8] |= static_cast<OSOCTET>(1U << flag % 8);
+    static_cast<OSOCTET*>(structure)[flag / 8] |= static_cast<OSOCTET>(1U << flagShift(flag));
 }
 
 inline void clearFlag(void* structure, int flag)
 {
-    static_cast<OSOCTET*>(structure)[flag / 8] &= static_cast<OSOCTET>(~(1U << flag % 8));
+    static_cast<OSOCTET*>(structure)[flag / 8] &= static_cast<OSOCTET>(~(1U << flagShift(flag)));
 }
 
 inline void* setSent(const Type& type, unsigned index, const Addition* addition, void* structure)

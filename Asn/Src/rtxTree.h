@@ -3,6 +3,7 @@
 #ifndef RTXTREE_H
 #define RTXTREE_H
 
+#include "byteOrder.h"
 #include "rtxHeap.h"
 #include "rtxType.h"
 
@@ -17,7 +18,7 @@ namespace rtx
 
 inline bool hasFlag(const void* structure, int flag)
 {
-    return (static_cast<const OSOCTET*>(structure)[flag / 8] >> (flag % 8) & 1) != 0;
+    return (static_cast<const OSOCTET*>(structure)[flag / 8] >> flagShift(flag) & 1) != 0;
 }
 
 inline bool isPresent(const Member& member, const void* structure)

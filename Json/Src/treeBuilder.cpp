@@ -69,7 +69,7 @@ void putInteger(OSOCTET* to, unsigned width, std::int64_t value)
 
 void setFlag(OSOCTET* structure, int flag)
 {
-    structure[flag / 8] = static_cast<OSOCTET>(structure[flag / 8] | 1U << flag % 8);
+    structure[flag / 8] = static_cast<OSOCTET>(structure[flag / 8] | 1U << rtx::flagShift(flag));
 }
 
 unsigned find(const RtxType& type, std::string_view name)
