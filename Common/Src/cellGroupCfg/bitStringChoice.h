@@ -3,11 +3,13 @@
 #define BITSTRINGCHOICE_H
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstring>
 #include <new>
 
 #include "bitString.h"
+#include "byteOrder.h"
 #include "compose.h"
 
 namespace compose
@@ -23,12 +25,32 @@ struct BitStringRow
     void (*packOctets)(UINT64, OSOCTET*) = nullptr;       // up to 64 bits, in the choice itself
 };
 
-// The low `bits` bits of the number that the union begins with: it lies there with its low octet first.
+// Whether the union's numbers are bit-fields, each of as many bits as its string.
+template <typename Union>
+constexpr bool hasBitFields = false;
+
+// The octets that hold the number of a string of so many bits.
+template <typename Union>
+constexpr std::size_t numberSize(unsigned bits)
+{
+    return hasBitFields<Union> ? sizeof(Union) : std::bit_ceil((bits + 7) / 8);
+}
+
+// The low `bits` bits of the number that the union begins with.
 template <typename Union>
 UINT64 leadingBits(const Union& value, unsigned bits)
 {
     UINT64 number = 0;
-    std::memcpy(&number, &value, std::min(std::size_t{bits + 7} / 8, sizeof number));
+    if constexpr (rtx::littleEndian) // wherever the number ends
+    {
+        std::memcpy(&number, &value, std::min(std::size_t{bits + 7} / 8, sizeof number));
+    }
+    else
+    {
+        const std::size_t octets = numberSize<Union>(bits);
+        std::memcpy(rtx::lowOctets(number, octets), &value, octets);
+        number >>= hasBitFields<Union> ? rtx::bitFieldShift(octets, bits) : 0;
+    }
     return number & (~UINT64{0} >> (64 - bits));
 }
 

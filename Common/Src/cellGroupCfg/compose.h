@@ -11,6 +11,7 @@
 #include <type_traits>
 
 #include "NR-RRC-Definitions.h"
+#include "byteOrder.h"
 #include "failureLines.h"
 #include "rtxHeap.h"
 #include "vos_err_print.h"
@@ -127,7 +128,8 @@ void chooseBits(OSCTXT* pAsnCxt, Choice* pChoice, OSUINT32 tag, ASN1BitStr32*& p
 }
 
 // Copies the 40 octets of a record's resource blocks, in memory order, over the element's 35. Of the five surplus ones
-// the first falls on padding, the others on the tag of the choice behind; a slot's presence bit overwrites that again.
+// the first falls on padding, the others, as a number with its low octet first, on the tag of the choice behind; a
+// slot's presence bit overwrites that again.
 inline void copyResourceBlocks(RateMatchPattern_patternType_bitmaps* pBitmaps, const UINT64 (&resourceBlocks)[5])
 {
     using Bitmaps = RateMatchPattern_patternType_bitmaps;
@@ -137,7 +139,9 @@ inline void copyResourceBlocks(RateMatchPattern_patternType_bitmaps* pBitmaps, c
     OSOCTET octets[sizeof resourceBlocks];
     std::memcpy(octets, resourceBlocks, sizeof octets);
     std::memcpy(pBitmaps->resourceBlocks, octets, sizeof pBitmaps->resourceBlocks);
-    std::memcpy(&pBitmaps->symbolsInResourceBlock.t, octets + tagOffset, sizeof pBitmaps->symbolsInResourceBlock.t);
+    OSUINT32 tag;
+    std::memcpy(&tag, octets + tagOffset, sizeof tag);
+    pBitmaps->symbolsInResourceBlock.t = rtx::lowFirst(tag);
 }
 
 // Calls a composer that takes the context, or one that does not.

@@ -253,6 +253,9 @@ INT32 rrcComposeReportFreqConfiguration(OSCTXT* pAsnCxt,
     return VOS_OK;
 }
 
+template <>
+constexpr bool compose::hasBitFields<csiReportingBand_u> = true;
+
 namespace
 {
 
