@@ -1413,7 +1413,7 @@ class FillWriter:
         bits = f"bitsOf<{of.upper}, {described.bits}>({octets})"
         if field.bit_width:
             kind = f"UINT{8 * field.size}"
-            return [f"storeAt<{kind}>(&{record}, {field.bit_offset // 8}, {bits});"] + say("true")
+            return [f"storeAt<{kind}, {field.bit_width}>(&{record}, {field.bit_offset // 8}, {bits});"] + say("true")
         return [f"assign({to}, {bits});"] + say("true")
 
 

@@ -19,8 +19,9 @@ extern "C"
 /**
  * Writes a statement for each mask, count and value that a composition reads, in the order of the headers; bits and
  * values of enumerations by their names where they have one. They compile where rrcCodec/rrcInit.h and
- * NR-RRC-Definitions.h are included, and fill a record that composes to the same, whatever its memory held. Any record
- * can be written, whatever it holds; no memory is taken.
+ * NR-RRC-Definitions.h are included, and fill a record that composes to the same, whatever its memory held: on machines
+ * of this byte order, as they fill with numbers what holds octets as they lie in memory. Any record can be written,
+ * whatever it holds; no memory is taken.
  * @param pRrcCellGroupCfg  never null
  * @param name              of a RrcCellGroupCfg_t or a reference to one in these statements: "record", "(*record)" by a
  *                          pointer to one; never null

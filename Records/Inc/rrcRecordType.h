@@ -90,7 +90,7 @@ typedef struct RrcRecordField
     UINT8 kind;                  /**< RRC_FIELD_NUMBER .. */
     UINT8 flags;                 /**< RRC_FIELD_ALWAYS_SENT .. */
     UINT8 isSigned;              /**< of a number */
-    UINT8 bitWidth;              /**< of a bit field, whose bits are the low ones of `size` octets; 0: it is none */
+    UINT8 bitWidth;              /**< of a bit field, the first one in `size` octets; 0: it is none */
     INT16 count;                 /**< of an array: the field that says how many entries are used; none: all */
     INT16 guard;                 /**< the bit without which the field is not read */
     INT16 choice;                /**< the choice whose alternative it holds, or part of it */

@@ -3,6 +3,7 @@
 #ifndef CHECKOPS_H
 #define CHECKOPS_H
 
+#include "byteOrder.h"
 #include "recordNumbers.h"
 
 #include <array>
@@ -132,7 +133,7 @@ constexpr std::array<RrcRecordCheckOp, Fields> checkOpsOf(const RrcRecordField (
         {
             const RrcRecordBit& bit = bits[field.guard];
             op.isGuarded = 1;
-            op.guard = (fields[bit.mask].offset + bit.number / 8U) & 0xFFFFFFU;
+            op.guard = (fields[bit.mask].offset + rtx::octetOf(bit.number, fields[bit.mask].size)) & 0xFFFFFFU;
             op.guardBit = bit.number % 8U;
         }
     }

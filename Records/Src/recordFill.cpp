@@ -1589,7 +1589,7 @@ bool fill_RrcServingCellCfgCommon_t(const Tree& tree, const ServingCellConfigCom
                 if (const auto* const p2 = tree.follow(e.ssb_PositionsInBurst.u.shortBitmap); p2 != nullptr)
                 {
                     mask_ssbPosionBitMask.add(0);
-                    storeAt<UINT8>(&r.RrcSsbPositionInBurst, 0, bitsOf<4, 4>((*p2).data));
+                    storeAt<UINT8, 4>(&r.RrcSsbPositionInBurst, 0, bitsOf<4, 4>((*p2).data));
                     mask_bitMask.add(5);
                     said1 = true;
                 }
@@ -2057,7 +2057,7 @@ bool fill_RrcSearchSpace_t(const Tree& tree, const SearchSpace& e, RrcSearchSpac
     if (e.m.durationPresent) { mask_bitMask.add(2, store(r.duration, e.duration)); }
     if (e.m.monitoringSymbolsWithinSlotPresent)
     {
-        storeAt<UINT16>(&r, 10, bitsOf<14, 14>(e.monitoringSymbolsWithinSlot.data));
+        storeAt<UINT16, 14>(&r, 10, bitsOf<14, 14>(e.monitoringSymbolsWithinSlot.data));
         mask_bitMask.add(3);
     }
     if (e.m.nrofCandidatesPresent)
@@ -5298,7 +5298,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p2 = tree.follow(e.csi_ReportingBand.u.subbands3); p2 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(0);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<3, 3>((*p2).data));
+                    storeAt<UINT32, 3>(&r.CsiReportingBand_n, 0, bitsOf<3, 3>((*p2).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5307,7 +5307,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p3 = tree.follow(e.csi_ReportingBand.u.subbands4); p3 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(1);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<4, 4>((*p3).data));
+                    storeAt<UINT32, 4>(&r.CsiReportingBand_n, 0, bitsOf<4, 4>((*p3).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5316,7 +5316,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p4 = tree.follow(e.csi_ReportingBand.u.subbands5); p4 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(2);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<5, 5>((*p4).data));
+                    storeAt<UINT32, 5>(&r.CsiReportingBand_n, 0, bitsOf<5, 5>((*p4).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5325,7 +5325,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p5 = tree.follow(e.csi_ReportingBand.u.subbands6); p5 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(3);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<6, 6>((*p5).data));
+                    storeAt<UINT32, 6>(&r.CsiReportingBand_n, 0, bitsOf<6, 6>((*p5).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5334,7 +5334,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p6 = tree.follow(e.csi_ReportingBand.u.subbands7); p6 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(4);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<7, 7>((*p6).data));
+                    storeAt<UINT32, 7>(&r.CsiReportingBand_n, 0, bitsOf<7, 7>((*p6).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5343,7 +5343,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p7 = tree.follow(e.csi_ReportingBand.u.subbands8); p7 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(5);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<8, 8>((*p7).data));
+                    storeAt<UINT32, 8>(&r.CsiReportingBand_n, 0, bitsOf<8, 8>((*p7).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5352,7 +5352,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p8 = tree.follow(e.csi_ReportingBand.u.subbands9); p8 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(6);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<9, 9>((*p8).data));
+                    storeAt<UINT32, 9>(&r.CsiReportingBand_n, 0, bitsOf<9, 9>((*p8).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5361,7 +5361,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p9 = tree.follow(e.csi_ReportingBand.u.subbands10); p9 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(7);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<10, 10>((*p9).data));
+                    storeAt<UINT32, 10>(&r.CsiReportingBand_n, 0, bitsOf<10, 10>((*p9).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5370,7 +5370,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p10 = tree.follow(e.csi_ReportingBand.u.subbands11); p10 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(8);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<11, 11>((*p10).data));
+                    storeAt<UINT32, 11>(&r.CsiReportingBand_n, 0, bitsOf<11, 11>((*p10).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5379,7 +5379,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p11 = tree.follow(e.csi_ReportingBand.u.subbands12); p11 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(9);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<12, 12>((*p11).data));
+                    storeAt<UINT32, 12>(&r.CsiReportingBand_n, 0, bitsOf<12, 12>((*p11).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5388,7 +5388,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p12 = tree.follow(e.csi_ReportingBand.u.subbands13); p12 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(10);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<13, 13>((*p12).data));
+                    storeAt<UINT32, 13>(&r.CsiReportingBand_n, 0, bitsOf<13, 13>((*p12).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5397,7 +5397,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p13 = tree.follow(e.csi_ReportingBand.u.subbands14); p13 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(11);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<14, 14>((*p13).data));
+                    storeAt<UINT32, 14>(&r.CsiReportingBand_n, 0, bitsOf<14, 14>((*p13).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5406,7 +5406,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p14 = tree.follow(e.csi_ReportingBand.u.subbands15); p14 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(12);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<15, 15>((*p14).data));
+                    storeAt<UINT32, 15>(&r.CsiReportingBand_n, 0, bitsOf<15, 15>((*p14).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5415,7 +5415,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p15 = tree.follow(e.csi_ReportingBand.u.subbands16); p15 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(13);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<16, 16>((*p15).data));
+                    storeAt<UINT32, 16>(&r.CsiReportingBand_n, 0, bitsOf<16, 16>((*p15).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5424,7 +5424,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p16 = tree.follow(e.csi_ReportingBand.u.subbands17); p16 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(14);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<17, 17>((*p16).data));
+                    storeAt<UINT32, 17>(&r.CsiReportingBand_n, 0, bitsOf<17, 17>((*p16).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5433,7 +5433,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p17 = tree.follow(e.csi_ReportingBand.u.subbands18); p17 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(15);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<18, 18>((*p17).data));
+                    storeAt<UINT32, 18>(&r.CsiReportingBand_n, 0, bitsOf<18, 18>((*p17).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5442,7 +5442,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
                 if (const auto* const p18 = tree.follow(e.csi_ReportingBand.u.subbands19_v1530); p18 != nullptr)
                 {
                     mask_csiRptBandBitMask.add(16);
-                    storeAt<UINT32>(&r.CsiReportingBand_n, 0, bitsOf<19, 19>((*p18).data));
+                    storeAt<UINT32, 19>(&r.CsiReportingBand_n, 0, bitsOf<19, 19>((*p18).data));
                     mask_bitMask.add(2);
                     said1 = true;
                 }
@@ -5461,7 +5461,7 @@ bool fill_ReportFreqCfg_t(const Tree& tree, const CSI_ReportConfig_reportFreqCon
 bool fill_nrOfAntennaPorts_two(const Tree&, const CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two& e, nrOfAntennaPorts_two& r)
 {
     std::memset(&r, 0, sizeof r);
-    storeAt<UINT8>(&r, 0, bitsOf<6, 6>(e.twoTX_CodebookSubsetRestriction.data));
+    storeAt<UINT8, 6>(&r, 0, bitsOf<6, 6>(e.twoTX_CodebookSubsetRestriction.data));
     return true;
 }
 
@@ -5569,7 +5569,7 @@ bool fill_nrOfAntennaPorts_moreThanTwo(const Tree& tree, const CodebookConfig_co
     complete = mask_bitMask.add(0, said1) && complete;
     if (e.m.typeI_SinglePanel_codebookSubsetRestriction_i2Present)
     {
-        storeAt<UINT16>(&r, 40, bitsOf<16, 16>(e.typeI_SinglePanel_codebookSubsetRestriction_i2.data));
+        storeAt<UINT16, 16>(&r, 40, bitsOf<16, 16>(e.typeI_SinglePanel_codebookSubsetRestriction_i2.data));
         mask_bitMask.add(1);
     }
     assign(r.bitMask, mask_bitMask.bits());
@@ -5613,7 +5613,7 @@ bool fill_CodeBookTypeSinglePanel_t(const Tree& tree, const CodebookConfig_codeb
     std::memset(&r, 0, sizeof r);
     bool complete = true;
     complete = fill_SinglePanel_nrOfAntennaPorts_t(tree, e.nrOfAntennaPorts, r.SinglePanel_nrOfAntennaPorts) && complete;
-    storeAt<UINT8>(&r, 56, bitsOf<8, 8>(e.typeI_SinglePanel_ri_Restriction.data));
+    storeAt<UINT8, 8>(&r, 56, bitsOf<8, 8>(e.typeI_SinglePanel_ri_Restriction.data));
     return complete;
 }
 
@@ -5731,7 +5731,7 @@ bool fill_subType_typeII(const Tree& tree, const CodebookConfig_codebookType_typ
         default: break;
     }
     complete = said1 && complete;
-    storeAt<UINT8>(&r, 32, bitsOf<2, 2>(e.typeII_RI_Restriction.data));
+    storeAt<UINT8, 2>(&r, 32, bitsOf<2, 2>(e.typeII_RI_Restriction.data));
     mask_Restriction_Presence.add(13);
     assign(r.Restriction_Presence, mask_Restriction_Presence.bits());
     return complete;
@@ -5745,7 +5745,7 @@ bool fill_typeII_PortSelection(const Tree&, const CodebookConfig_codebookType_ty
     {
         mask_bitMask.add(0, store(r.portSelectionSamplingSize, e.portSelectionSamplingSize));
     }
-    storeAt<UINT8>(&r, 2, bitsOf<2, 2>(e.typeII_PortSelectionRI_Restriction.data));
+    storeAt<UINT8, 2>(&r, 2, bitsOf<2, 2>(e.typeII_PortSelectionRI_Restriction.data));
     assign(r.bitMask, mask_bitMask.bits());
     return true;
 }

@@ -3,6 +3,7 @@
 #define RECORDFILL_H
 
 #include "NR-RRC-Definitions.h"
+#include "byteOrder.h"
 #include "rrcCodec/rrcCodec.h"
 #include "rtxTree.h"
 #include "vos_types.h"
@@ -112,7 +113,7 @@ const T* first(const T (&elements)[Size], UINT32 count)
 template <typename Field>
 void assign(Field& to, UINT64 bits)
 {
-    std::memcpy(&to, &bits, sizeof to);
+    std::memcpy(&to, rtx::lowOctets(bits, sizeof to), sizeof to);
 }
 
 template <typename Field, bool isEnumeration = std::is_enum_v<Field>>
@@ -172,10 +173,11 @@ void storeOctets(void* to, size_t room, const OSOCTET* octets)
 }
 
 // Of a bit field all the unit that it lies in.
-template <typename Unit>
+template <typename Unit, unsigned width>
 void storeAt(void* record, size_t offset, UINT64 bits)
 {
-    std::memcpy(static_cast<OSOCTET*>(record) + offset, &bits, sizeof(Unit));
+    bits <<= rtx::bitFieldShift(sizeof(Unit), width);
+    std::memcpy(static_cast<OSOCTET*>(record) + offset, rtx::lowOctets(bits, sizeof(Unit)), sizeof(Unit));
 }
 
 // From one field of a record to another one.

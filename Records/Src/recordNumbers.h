@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "byteOrder.h"
 #include "rrcRecordType.h"
 
 namespace records
@@ -24,10 +25,10 @@ inline UINT64 bitsAt(unsigned size, const void* place)
     case 1:
         return *static_cast<const unsigned char*>(place);
     case 2:
-        std::memcpy(&bits, place, 2);
+        std::memcpy(rtx::lowOctets(bits, 2), place, 2);
         return bits;
     case 4:
-        std::memcpy(&bits, place, 4);
+        std::memcpy(rtx::lowOctets(bits, 4), place, 4);
         return bits;
     default:
         std::memcpy(&bits, place, 8);

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "byteOrder.h"
 #include "recordNumbers.h"
 #include "rtxType.h"
 
@@ -129,7 +130,9 @@ const void* rrcRecordPlace(const RrcRecordField* field, const void* record, UINT
 UINT64 rrcRecordBits(const RrcRecordField* field, const void* record, UINT32 index)
 {
     const UINT64 bits = records::bitsAt(field->size, rrcRecordPlace(field, record, index));
-    return field->bitWidth == 0 ? bits : bits & records::lowBits(field->bitWidth);
+    return field->bitWidth == 0
+               ? bits
+               : bits >> rtx::bitFieldShift(field->size, field->bitWidth) & records::lowBits(field->bitWidth);
 }
 
 INT64 rrcRecordNumber(const RrcRecordField* field, const void* record, UINT32 index)
@@ -144,11 +147,12 @@ void rrcRecordStore(const RrcRecordField* field, void* record, UINT32 index, UIN
     if (field->bitWidth != 0)
     {
         UINT64 before = 0;
-        std::memcpy(&before, place, field->size);
-        const UINT64 own = (UINT64{1} << field->bitWidth) - 1;
-        bits = (before & ~own) | (bits & own);
+        std::memcpy(rtx::lowOctets(before, field->size), place, field->size);
+        const unsigned shift = rtx::bitFieldShift(field->size, field->bitWidth);
+        const UINT64 own = ((UINT64{1} << field->bitWidth) - 1) << shift;
+        bits = (before & ~own) | (bits << shift & own);
     }
-    std::memcpy(place, &bits, field->size);
+    std::memcpy(place, rtx::lowOctets(bits, field->size), field->size);
 }
 
 UINT32 rrcRecordEntries(const RrcRecordType* type, const void* record, UINT32 field)
