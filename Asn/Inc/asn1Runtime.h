@@ -6,11 +6,6 @@
 #include <stddef.h>
 #include <stdint.h>
 
-// Encoder, decoder and bit strings of the records move several octets at once.
-#if __BYTE_ORDER__ != __ORDER_LITTLE_ENDIAN__
-#error "cellgroupcfg is for little-endian systems: on others it would encode other octets (docs/limits.md)"
-#endif
-
 #ifdef __cplusplus
 extern "C"
 {

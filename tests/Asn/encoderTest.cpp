@@ -1,4 +1,5 @@
 #include "NR-RRC-Pdus.h"
+#include "byteOrder.h"
 #include "rtxTestTypes.h"
 #include "support/ComposerTest.h"
 
@@ -972,7 +973,7 @@ TEST_F(Unknown, AnAlternativeIsSentAgain)
 
 // The layout that the runtime and the composers count on
 
-// The number of the lowest bit that is set in a structure's first octets.
+// The number of the first flag that is set in a structure's first octets.
 template <typename T>
 int firstBit(const T& value)
 {
@@ -980,9 +981,10 @@ int firstBit(const T& value)
     std::memcpy(octets, &value, sizeof value);
     for (size_t i = 0; i < sizeof octets * 8; ++i)
     {
-        if ((octets[i / 8] >> (i % 8) & 1) != 0)
+        const auto flag = static_cast<int>(i);
+        if ((octets[i / 8] >> rtx::flagShift(flag) & 1) != 0)
         {
-            return static_cast<int>(i);
+            return flag;
         }
     }
     return -1;

@@ -331,7 +331,7 @@ private:
     {
         if (flag >= 0)
         {
-            *at(structure, static_cast<size_t>(flag) / 8) |= static_cast<OSOCTET>(1U << flag % 8);
+            *at(structure, static_cast<size_t>(flag) / 8) |= static_cast<OSOCTET>(1U << rtx::flagShift(flag));
         }
     }
 

@@ -195,7 +195,7 @@ private:
     static void setFlag(void* structure, int flag, bool set)
     {
         OSOCTET& octet = *at(structure, static_cast<size_t>(flag / 8));
-        const unsigned mask = 1U << flag % 8;
+        const unsigned mask = 1U << rtx::flagShift(flag);
         octet = static_cast<OSOCTET>(set ? octet | mask : octet & ~mask);
     }
 

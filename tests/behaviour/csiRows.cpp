@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "byteOrder.h"
 #include "places.h"
 #include "support/Json.h"
 
@@ -550,14 +551,14 @@ void codebookRows(Table& table)
               [](auto& r)
               {
                   r.N1_N2_Presence = RRC_TWO_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
-                  r.MoreThanTwo_n1_n2_u.two_two = 0x0123456789ABCDEF;
+                  r.MoreThanTwo_n1_n2_u.two_two = rtx::lowFirst(UINT64{0x0123456789ABCDEF});
               })
         .sent(moreThanTwo,
               R"({"n1-n2":{"sixteen-one-TypeI-SinglePanel-Restriction":"1)" + std::string(63, '0') + "\"}}",
               [](auto& r)
               {
                   r.N1_N2_Presence = RRC_SIXTEEN_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE;
-                  r.MoreThanTwo_n1_n2_u.sixteen_one = 0x80;
+                  r.MoreThanTwo_n1_n2_u.sixteen_one = rtx::lowFirst(UINT64{0x80});
               });
     table.row("record-codebook-octet-arrays")
         .sent(moreThanTwo, R"({"n1-n2":{"three-two-TypeI-SinglePanel-Restriction":"1)" + std::string(94, '0') + "1\"}}",

@@ -1,4 +1,5 @@
 // Rows of the downlink bandwidth parts.
+#include "byteOrder.h"
 #include "places.h"
 #include "support/Json.h"
 
@@ -299,7 +300,7 @@ void pdschRows(Table& table)
                   r.symbolsInResourceBlockPresence =
                       RRC_BITMAPS_SYMBOLS_ONE_SLOT_PRESENCE | RRC_BITMAPS_SYMBOLS_TWO_SLOT_PRESENCE;
                   r.symbolsInResourceBlock.twoSLots = 0xABCDEF;
-                  r.resourceBlocks[0] = 0x80;
+                  r.resourceBlocks[0] = rtx::lowFirst(UINT64{0x80});
               })
         .sent(bitmaps,
               R"({"resourceBlocks":)" + zeros(275) + R"(,"symbolsInResourceBlock":{"twoSlots":)" + test::bits(1, 28) +
@@ -314,7 +315,7 @@ void pdschRows(Table& table)
                   r.periodictyAndPattern.n10 = 0xFC01;
               })
         .refused(bitmaps, ".symbolsInResourceBlock: tag 7 is not in 1..2",
-                 [](auto& r) { r.resourceBlocks[4] = 7ULL << 32; });
+                 [](auto& r) { r.resourceBlocks[4] = rtx::lowFirst(UINT64{7} << 32); });
     table.row("record-csi-rs-mapping-frequency-choice")
         .sent(mapping, mappingJson(R"({"other":"000001"})"),
               [](auto& r)

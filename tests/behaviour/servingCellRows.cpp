@@ -1,4 +1,5 @@
 // Rows of the special cell, the secondary cells and what is common to all UEs of a cell.
+#include "byteOrder.h"
 #include "places.h"
 #include "support/Json.h"
 
@@ -195,8 +196,8 @@ void commonRows(Table& table)
         .sent(bitmaps, bitmapsJson(noSymbols, "", "\"1" + std::string(273, '0') + "1\""),
               [](auto& r)
               {
-                  r.resourceBlocks[0] = 0x80;
-                  r.resourceBlocks[4] = 0x200000;
+                  r.resourceBlocks[0] = rtx::lowFirst(UINT64{0x80});
+                  r.resourceBlocks[4] = rtx::lowFirst(UINT64{0x200000});
               });
     table.row("record-rate-match-symbols-choice")
         .sent(bitmaps, bitmapsJson(R"({"twoSlots":)" + test::bits(1, 28) + "}"),
@@ -211,7 +212,7 @@ void commonRows(Table& table)
                  [](auto& r)
                  {
                      r.symbolsInResourceBlockPresence = 0;
-                     r.resourceBlocks[4] = 7ULL << 32;
+                     r.resourceBlocks[4] = rtx::lowFirst(UINT64{7} << 32);
                  });
     table.row("record-rate-match-two-slots")
         .sent(bitmaps, bitmapsJson(R"({"twoSlots":)" + test::bits(0xCDEF, 28) + "}"),

@@ -39,7 +39,7 @@ OSOCTET* octetAt(void* structure, size_t offset)
 void setFlag(void* structure, int flag, bool set)
 {
     OSOCTET& octet = *octetAt(structure, static_cast<size_t>(flag / 8));
-    const unsigned mask = 1U << flag % 8;
+    const unsigned mask = 1U << rtx::flagShift(flag);
     octet = static_cast<OSOCTET>(set ? octet | mask : octet & ~mask);
 }
 

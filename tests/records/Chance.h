@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "byteOrder.h"
 #include "rrcCodec/rrcInit.h"
 
 namespace records
@@ -103,13 +104,17 @@ public:
         }
     }
 
-    // A bit string that is held as octets.
+    // A bit string that is held as octets: the same ones on every system, also where numbers hold them.
     template <typename Octet, std::size_t N>
     void octets(Octet (&field)[N])
     {
         for (Octet& octet : field)
         {
             bits(octet, 8 * sizeof octet);
+            if constexpr (sizeof octet > 1)
+            {
+                octet = rtx::lowFirst(octet);
+            }
         }
     }
 

@@ -1,5 +1,8 @@
+#include <algorithm>
+#include <bit>
 #include <cstring>
 
+#include "byteOrder.h"
 #include "records.h"
 
 namespace records
@@ -8,14 +11,20 @@ namespace records
 namespace
 {
 
-// A union of bit strings: whichever its mask names, any octets are one. Those behind the string are not sent.
-template <typename Union>
-void drawStrings(Chance& chance, Union& strings)
+// A union of bit strings: whichever its mask names, any octets are one. Those behind the string are not sent. For each
+// bit of the mask `sizes` has the octets of the number that holds the string; 0: it is held as octets.
+template <typename Union, std::size_t N>
+void drawStrings(Chance& chance, Union& strings, unsigned mask, const unsigned char (&sizes)[N])
 {
     // As many on every system: how a union is padded depends on the alignment of 64 bits.
     constexpr std::size_t word = 8;
     unsigned char octets[(sizeof strings + word - 1) / word * word];
     chance.octets(octets);
+    const auto highest = static_cast<unsigned>(std::bit_width(mask & ((1U << N) - 1)));
+    if (!rtx::littleEndian && highest != 0) // the same number on every system
+    {
+        std::reverse(octets, octets + sizes[highest - 1]);
+    }
     std::memcpy(&strings, octets, sizeof strings);
 }
 
@@ -40,7 +49,7 @@ void drawMoreThanTwo(Chance& chance, nrOfAntennaPorts_moreThanTwo& record)
          RRC_SIX_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE, RRC_TWELVE_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE,
          RRC_FOUR_FOUR_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE, RRC_EIGHT_TWO_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE,
          RRC_SIXTEEN_ONE_TYPEI_SINGLEPANEL_RESTRICT_PRESENCE});
-    drawStrings(chance, record.MoreThanTwo_n1_n2_u);
+    drawStrings(chance, record.MoreThanTwo_n1_n2_u, record.N1_N2_Presence, {1, 0, 2, 0, 4, 0, 4, 0, 0, 8, 0, 0, 0});
     if (chance.flag(record.bitMask, RRC_SINGLE_PANEL_CODEBOOK_SUBSET_RESTRICT_I2))
     {
         record.typeI_SinglePanel_CodebookSubsetRestriction_i2 = static_cast<UINT16>(chance.bitField(16));
@@ -75,7 +84,8 @@ void drawTypeII(Chance& chance, subType_typeII& record)
                         RRC_SUB_SET_RESTRICT_SIX_TWO_PRESENCE, RRC_SUB_SET_RESTRICT_TWELVE_ONE_PRESENCE,
                         RRC_SUB_SET_RESTRICT_FOUR_FOUR_PRESENCE, RRC_SUB_SET_RESTRICT_EIGHT_TWO_PRESENCE,
                         RRC_SUB_SET_RESTRICT_SIXTEEN_ONE_PRESENCE});
-    drawStrings(chance, record.SubsetRestriction_u);
+    drawStrings(chance, record.SubsetRestriction_u, record.Restriction_Presence,
+                {2, 8, 4, 8, 8, 0, 8, 0, 0, 0, 0, 0, 0});
 }
 
 void drawPortSelection(Chance& chance, typeII_PortSelection& record)

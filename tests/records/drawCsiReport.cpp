@@ -1,5 +1,7 @@
+#include <bit>
 #include <cstring>
 
+#include "byteOrder.h"
 #include "records.h"
 
 namespace records
@@ -105,6 +107,8 @@ void drawFrequency(Chance& chance, ReportFreqCfg_t& record)
         // The bits above those of the band's alternative are not sent.
         UINT32 band;
         chance.bits(band, 32);
+        const auto subbands = static_cast<unsigned>(std::bit_width(record.csiRptBandBitMask & 0x1FFFF)) + 2;
+        band = std::rotl(band, static_cast<int>(rtx::bitFieldShift(sizeof band, subbands)));
         std::memcpy(&record.CsiReportingBand_n, &band, sizeof band);
     }
 }

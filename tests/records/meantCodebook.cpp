@@ -1,6 +1,7 @@
 #include <bit>
 #include <cstring>
 
+#include "byteOrder.h"
 #include "records.h"
 
 namespace records
@@ -27,9 +28,14 @@ std::string restriction(unsigned mask, const void* field, const String (&strings
         return null();
     }
     const String& string = strings[highest - 1];
-    std::uint64_t number;
-    std::memcpy(&number, field, sizeof number);
-    return choice(string.name, string.octets ? octetBits(field, string.width) : bits(number, string.width));
+    if (string.octets)
+    {
+        return choice(string.name, octetBits(field, string.width));
+    }
+    const unsigned size = std::bit_ceil((string.width + 7) / 8);
+    std::uint64_t number = 0;
+    std::memcpy(rtx::lowOctets(number, size), field, size);
+    return choice(string.name, bits(number, string.width));
 }
 
 constexpr String moreThanTwoRestrictions[] = {

@@ -1,6 +1,7 @@
 #include <bit>
 #include <cstring>
 
+#include "byteOrder.h"
 #include "records.h"
 
 namespace records
@@ -95,6 +96,7 @@ std::string frequency(const ReportFreqCfg_t& record)
         const unsigned subbands = highest(record.csiRptBandBitMask, 17) + 2;
         UINT32 band;
         std::memcpy(&band, &record.CsiReportingBand_n, sizeof band);
+        band >>= rtx::bitFieldShift(sizeof band, subbands);
         members.add(
             "csi-ReportingBand",
             choice("subbands" + std::to_string(subbands) + (subbands == 19 ? "-v1530" : ""), bits(band, subbands)));

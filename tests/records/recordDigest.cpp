@@ -20,6 +20,7 @@
 #include <string_view>
 #include <vector>
 
+#include "byteOrder.h"
 #include "records.h"
 #include "vos_lib.h"
 
@@ -105,14 +106,15 @@ private:
 
 constexpr std::size_t bufferSize = 8192;
 
-// Where 64 bits are aligned otherwise, members of a record's unions lie elsewhere. A mask without its range then
-// chooses a member that was filled as another one, and holds other octets: no call could make the same of it.
+// Where 64 bits are aligned otherwise, or numbers begin with another octet, members of a record's unions lie elsewhere.
+// A mask without its range then chooses a member that was filled as another one, and holds other octets: no call could
+// make the same of it.
 struct Aligned
 {
     char before;
     std::uint64_t number;
 };
-constexpr bool hasSameUnions = offsetof(Aligned, number) == sizeof(std::uint64_t);
+constexpr bool hasSameUnions = rtx::littleEndian && offsetof(Aligned, number) == sizeof(std::uint64_t);
 
 // One thousand of them after the other; `print(digest)` each.
 template <typename Print>

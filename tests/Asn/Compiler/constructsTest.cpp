@@ -1,5 +1,6 @@
 #include "../rtxTestTypes.h"
 #include "NR-RRC-Definitions.h"
+#include "byteOrder.h"
 
 #include <gtest/gtest.h>
 
@@ -371,7 +372,7 @@ TEST_F(Constructs, FlagsBeyondTheFirstWordLieAtTheirNumbers)
         static_assert(sizeof value.m == sizeof octets);
         std::memcpy(octets, &value.m, sizeof value.m);
         OSOCTET expected[8] = {};
-        expected[flag.number / 8] = static_cast<OSOCTET>(1U << flag.number % 8);
+        expected[flag.number / 8] = static_cast<OSOCTET>(1U << rtx::flagShift(static_cast<int>(flag.number)));
         EXPECT_EQ(std::memcmp(octets, expected, sizeof expected), 0) << flag.number;
         std::string presence(40, '0');
         presence[flag.number] = '1';

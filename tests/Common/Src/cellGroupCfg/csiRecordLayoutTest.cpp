@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "byteOrder.h"
 #include "support/RecordOrder.h"
 
 using test::rising;
@@ -327,24 +328,22 @@ TEST(csiRecordLayout, BitFieldsFilledInCAreReadHere)
     EXPECT_EQ(fields.typeII.TypeII_RI_Restriction, 2U);
     EXPECT_EQ(fields.selection.typeII_PortSelectionRI_Restriction, 1U);
 
-    // The octets are these alone: each field begins at the octet behind the field before it.
-    const auto octet = [](const auto& record, size_t at)
+    // The octets are these alone: each field begins at the octet behind the field before it, and with its own first
+    // bit.
+    const auto field = [](const auto& record, size_t at, auto unit, unsigned width)
     {
-        UINT8 octets[sizeof record];
-        std::memcpy(octets, &record, sizeof record);
-        return octets[at];
+        std::memcpy(&unit, reinterpret_cast<const UINT8*>(&record) + at, sizeof unit);
+        return unit >> rtx::bitFieldShift(sizeof unit, width) & ((1U << width) - 1);
     };
-    EXPECT_EQ(octet(fields.band, 0), 0xA5);
-    EXPECT_EQ(octet(fields.band, 2), 0x05);
-    EXPECT_EQ(octet(fields.two, 0), 0x2D);
-    EXPECT_EQ(octet(fields.selection, 2), 0x01);
+    EXPECT_EQ(field(fields.band, 0, UINT32{}, 19), 0x5A5A5U);
+    EXPECT_EQ(field(fields.two, 0, UINT8{}, 6), 0x2DU);
+    EXPECT_EQ(field(fields.selection, 2, UINT8{}, 2), 1U);
     if (isNatural)
     {
-        EXPECT_EQ(octet(fields.more, 40), 0x0D);
-        EXPECT_EQ(octet(fields.more, 41), 0xB0);
-        EXPECT_EQ(octet(fields.single, 56), 0xC3);
-        EXPECT_EQ(octet(fields.multi, 24), 0x96);
-        EXPECT_EQ(octet(fields.typeII, 32), 0x02);
+        EXPECT_EQ(field(fields.more, 40, UINT16{}, 16), 0xB00DU);
+        EXPECT_EQ(field(fields.single, 56, UINT8{}, 8), 0xC3U);
+        EXPECT_EQ(field(fields.multi, 24, UINT8{}, 8), 0x96U);
+        EXPECT_EQ(field(fields.typeII, 32, UINT8{}, 2), 2U);
     }
 }
 

@@ -182,7 +182,11 @@ TEST(Stack, TheEntryStaysWithin32Kibioctets)
     {
         EXPECT_GE(success, 16U * 1024);
         EXPECT_LE(success, 32U * 1024);
+#ifdef __s390x__ // where each frame, of the C library, too, has 160 octets more to save registers in
+        EXPECT_LE(refusal, 36U * 1024);
+#else
         EXPECT_LE(refusal, 32U * 1024);
+#endif
         // 32-bit x86 hands over all arguments on it.
         const size_t most = sizeof(void*) == 8 ? 8U * 1024 : 12U * 1024;
         EXPECT_LE(inMemory, most);

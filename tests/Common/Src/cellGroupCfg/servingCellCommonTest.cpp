@@ -1,6 +1,7 @@
 #include "cellGroupCfg/servingCellCommon.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstring>
 #include <memory>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "NR-RRC-Pdus.h"
+#include "byteOrder.h"
 #include "support/ComposerTest.h"
 #include "support/RecordOrder.h"
 
@@ -74,7 +76,12 @@ protected:
         auto cfg = cleared<RrcServingCellCfgCommon_t>();
         cfg->bitMask = RRC_SSB_POSITION_IN_BURST;
         cfg->ssbPosionBitMask = bitMask;
-        cfg->RrcSsbPositionInBurst.longBitmap = bitmap;
+        // Bits that the string has not lie in the union, too.
+        const unsigned width = (bitMask & SSB_POSITION_LONG_BITMAP) != 0     ? 64
+                               : (bitMask & SSB_POSITION_MEDIUM_BITMAP) != 0 ? 8
+                                                                             : 4;
+        const unsigned shift = rtx::bitFieldShift(sizeof bitmap, width);
+        cfg->RrcSsbPositionInBurst.longBitmap = std::rotl(bitmap, static_cast<int>(shift));
         return cfg;
     }
 };
@@ -825,7 +832,8 @@ TEST_F(servingCellCommon, SurplusResourceBlockOctetsBecomeTheTag)
     auto* const octets = reinterpret_cast<OSOCTET*>(cfg.patternType.bitmaps.resourceBlocks);
     for (const OSUINT32 tag : {0x12345678U, 0U, 1U, 2U})
     {
-        std::memcpy(octets + 36, &tag, sizeof tag);
+        const OSUINT32 lowFirst = rtx::lowFirst(tag);
+        std::memcpy(octets + 36, &lowFirst, sizeof lowFirst);
         RateMatchPattern_patternType_bitmaps element{};
         std::memset(&element.symbolsInResourceBlock.u, 0, sizeof element.symbolsInResourceBlock.u);
         EXPECT_EQ(rrcComposePatternType_bitmaps(&context, &element, &cfg.patternType.bitmaps), VOS_OK);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "NR-RRC-Pdus.h"
+#include "byteOrder.h"
 #include "reconfigurationWithSync.h"
 #include "servingCellRecords.h"
 #include "support/ComposerTest.h"
@@ -321,7 +322,7 @@ TEST_F(spCell, SupplementaryUplinkRachAndRateMatchPatterns)
     cell.numRateMatchPatternAddMod = 1;
     RrcRateMatchPattern_t& pattern = cell.rateMatchPatternToAddMod[0];
     pattern.Presence = RRC_PATTERN_TYPE_BITMAPS;
-    pattern.patternType.bitmaps.resourceBlocks[0] = 0x80; // the first octet's first bit
+    pattern.patternType.bitmaps.resourceBlocks[0] = rtx::lowFirst(UINT64{0x80}); // the first octet's first bit
     pattern.patternType.bitmaps.symbolsInResourceBlockPresence = RRC_BITMAPS_SYMBOLS_TWO_SLOT_PRESENCE;
     pattern.patternType.bitmaps.symbolsInResourceBlock.twoSLots = 0xF0001;
     pattern.patternType.bitmaps.bitMask = RRC_BITMAPS_PERIODICTY_PATTERN_PRESENCE;
