@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include "byteOrder.h"
 #include "composed.h"
 #include "records.h"
 #include "rtxType.h"
@@ -139,7 +140,7 @@ UINT64 another(const Leaf& leaf, std::mt19937& engine)
     }
     if (field.kind == RRC_FIELD_OCTETS) // the last one may hold less than 8 bits, the first of which count
     {
-        return rrcRecordBits(&field, leaf.record, leaf.entry) ^ 0x80;
+        return rrcRecordBits(&field, leaf.record, leaf.entry) ^ UINT64 { 0x80 } << rtx::bitFieldShift(field.size, 8);
     }
     const INT64 before = taken(field, leaf.record, leaf.entry);
     INT64 number = before;
