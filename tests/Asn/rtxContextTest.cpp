@@ -282,6 +282,14 @@ TEST_F(Context, TheLimitCountsFromItsCall)
     EXPECT_NE(nullptr, alloc(16));
 }
 
+TEST_F(Context, ALimitWithinABlockCountsRoundedRequests)
+{
+    ASSERT_NE(nullptr, alloc(1000));
+    rtxMemHeapSetLimit(&ctxt, 31);
+    EXPECT_NE(nullptr, alloc(16));
+    EXPECT_EQ(nullptr, alloc(1)); // 16
+}
+
 TEST_F(Context, FreeEndsTheLimit)
 {
     rtxMemHeapSetLimit(&ctxt, 0);
