@@ -282,9 +282,9 @@ TEST_F(Context, TheLimitCountsFromItsCall)
     EXPECT_NE(nullptr, alloc(16));
 }
 
-TEST_F(Context, ALimitWithinABlockCountsRoundedRequests)
+TEST_F(Context, ALimitWithinWhatIsClearedCountsRoundedRequests)
 {
-    ASSERT_NE(nullptr, alloc(1000));
+    ASSERT_NE(nullptr, alloc(500));
     rtxMemHeapSetLimit(&ctxt, 31);
     EXPECT_NE(nullptr, alloc(16));
     EXPECT_EQ(nullptr, alloc(1)); // 16
