@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstring>
+#include <set>
 #include <string>
 
 namespace
@@ -231,6 +233,21 @@ TEST_F(Delta, AReasonThatNobodyKnowsIsSaidToBeSo)
     const size_t length = rtxDeltaFormat(&item, text, sizeof text);
     EXPECT_EQ(std::string(text).size(), length);
     EXPECT_NE(std::string::npos, std::string(text).find('?')) << text;
+}
+
+TEST_F(Delta, EachReasonHasWordsOfItsOwn)
+{
+    std::set<std::string> lines;
+    for (OSINT32 reason = 1; reason <= RTX_DELTA_OTHER_IDENTITY; ++reason)
+    {
+        RtxDeltaItem item{};
+        item.kind = RTX_DELTA_SENT;
+        item.reason = reason;
+        char text[256];
+        (void)rtxDeltaFormat(&item, text, sizeof text);
+        EXPECT_EQ(nullptr, std::strchr(text, '?')) << reason;
+        EXPECT_TRUE(lines.insert(text).second) << text;
+    }
 }
 
 } // namespace

@@ -134,6 +134,15 @@ TEST_F(Trace, ValuesWithoutBitsListsAndOctetsOfUnknownContent)
               traced(boxType, bits("1 0 011 0 000100 00001" + octet(2) + octet(7) + octet(9))));
 }
 
+TEST_F(Trace, AlternativesBehindTheExtensionMarker)
+{
+    EXPECT_EQ("0 1 extension 1 \n1 7 choice 0 \n8 8 length 1 .late\n16 1 presence 1 .late shade\n"
+              "17 3 value 2 .late.id\n20 2 value 1 .late.shade\n22 2 padding 0 .late\n",
+              traced(pickType, bits("1 0 000000" + octet(1) + "1 010 01")));
+    EXPECT_EQ("0 1 extension 1 \n1 7 choice 1 \n8 8 length 2 .extElem1\n16 16 unknown 0 .extElem1\n",
+              traced(pickType, bits("1 0 000001" + octet(2) + octet(0xAB) + octet(0xCD))));
+}
+
 TEST_F(Trace, WhatIsWrittenDifferentlyIsNotedAtItsPlace)
 {
     EXPECT_EQ("0 1 extension 1 \n1 1 presence 0  pick\n2 3 value 3 .level\n5 7 length 2 \n"
