@@ -61,7 +61,6 @@ public:
     // The message ends at bit `end` of `size`, or the decoder has given up at an error.
     void finish(uint64_t end, uint64_t size, bool failed)
     {
-        depth_ = 0;
         if (!failed)
         {
             lengthsUpTo(end);

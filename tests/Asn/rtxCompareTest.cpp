@@ -277,6 +277,11 @@ TEST_F(Compare, ListsByTheIndex)
     EXPECT_THAT(differences(test::numbersType, &y, &x),
                 ElementsAre("Numbers[1]: 3 in a, 2 in b", "Numbers[2]: only in b"));
 
+    x.n = 1;
+    y.n = 0;
+    EXPECT_THAT(differences(test::numbersType, &x, &y), ElementsAre("Numbers[0]: only in a"));
+    EXPECT_THAT(differences(test::numbersType, &y, &x), ElementsAre("Numbers[0]: only in b"));
+
     OSRTDList items{};
     OSRTDList others{};
     a.append<test::Item>(items)->id = 1;

@@ -279,6 +279,17 @@ TEST_F(Print, UnknownAlternative)
               printed(pickType, &pick));
 }
 
+TEST_F(Print, WhatFollowsAnUnknownAlternativeStandsBesideIt)
+{
+    Box box = {};
+    box.m.pickPresent = 1;
+    box.pick.t = 6;
+    box.m.lonePresent = 1;
+    box.lone = 7;
+    EXPECT_EQ("x\n  level 0\n  pick: tag 6 is not in 1..5\n    unknown alternative: a null pointer\n  lone 7\n",
+              printed(boxType, &box));
+}
+
 TEST_F(Print, ExtensionAdditions)
 {
     Box box = {};

@@ -160,6 +160,69 @@ TEST_F(Trace, WhatAnErrorLeavesIsUnread)
     EXPECT_EQ(RTX_OK, status);
 }
 
+// The last fragment is empty, and its length ends the message.
+TEST_F(Trace, ALengthBehindTheLastOctet)
+{
+    std::string text = "1 0 000001" + octet(0xC1);
+    for (unsigned i = 0; i < 16384; ++i)
+    {
+        text += octet(i % 256);
+    }
+    const std::string all = traced(pickType, bits(text + octet(0)));
+    EXPECT_EQ("0 1 extension 1 \n1 7 choice 1 \n8 8 length 193 .extElem1\n16 131072 unknown 0 .extElem1\n"
+              "131088 8 length 0 .extElem1\n",
+              all);
+    EXPECT_EQ(RTX_OK, status);
+}
+
+// So it is behind a known alternative, CHOICE { ..., samples SEQUENCE (SIZE (8192)) OF Sample }.
+TEST_F(Trace, ALengthBehindTheLastValue)
+{
+    struct Half
+    {
+        OSUINT16 elem[8192];
+    };
+    static constexpr Type halfType = {.name = "Half",
+                                      .kind = Kind::Array,
+                                      .align = alignof(Half),
+                                      .size = sizeof(Half),
+                                      .lower = 8192,
+                                      .upper = 8192,
+                                      .members = &samplesElement,
+                                      .memberCount = 1,
+                                      .rootCount = 1};
+    static constexpr const char* names[] = {"samples"};
+    static constexpr Member members[] = {member(halfType, offsetof(Pick, u), -1, true)};
+    static constexpr Type laterType = {.name = "Later",
+                                       .kind = Kind::Choice,
+                                       .extensible = true,
+                                       .align = alignof(Pick),
+                                       .size = sizeof(Pick),
+                                       .names = names,
+                                       .members = members,
+                                       .memberCount = 1,
+                                       .extElem = offsetof(Pick, u)};
+    std::string text = "1 0 000000" + octet(0xC1);
+    for (unsigned i = 0; i < 8192; ++i)
+    {
+        text += octet(0) + octet(1);
+    }
+    const std::string all = traced(laterType, bits(text + octet(0)));
+    EXPECT_EQ(RTX_OK, status);
+    EXPECT_NE(std::string::npos, all.find("\n131072 16 value 1 .samples[8191]\n131088 8 length 0 "))
+        << all.substr(0, 200);
+}
+
+// A bitmap of 64 additions, of which the 57th is there: as many bits as a field tells are told.
+TEST_F(Trace, ALongBitmapIsToldToItsFiftySeventhBit)
+{
+    const std::string bitmap = std::string(56, '0') + "1" + std::string(7, '0');
+    const std::string all = traced(boxType, bits("1 0 011 0 111111" + bitmap + octet(1) + octet(9)));
+    EXPECT_NE(std::string::npos, all.find("\n12 64 additions 1 ")) << all;
+    EXPECT_NE(std::string::npos, all.find("\n76 8 length 1 .extElem1[53] note 2\n84 8 unknown 0 .extElem1[53]\n"))
+        << all;
+}
+
 TEST(TraceOf, NoContextAndNoInput)
 {
     OSBOOL flag = 0;

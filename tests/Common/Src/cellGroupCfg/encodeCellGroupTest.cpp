@@ -325,6 +325,7 @@ TEST_F(encodeCellGroup, MemoryOfAnySizeAndAlignment)
             ASSERT_EQ(length, 0U);
         }
     }
+    EXPECT_GE(least, sizeof(CellGroupConfig) + sizeof(ServingCellConfig)) << "the tree lies nowhere else";
     EXPECT_LE(least, 16U * 1024) << "what the stack holds in the call without memory of the caller's";
 }
 
