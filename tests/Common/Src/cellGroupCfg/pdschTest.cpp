@@ -358,6 +358,23 @@ TEST_F(pdsch, FullLists)
 }
 
 // The records' arrays are left where they end, the counts go on.
+// What is above them does not look, whoever calls them does.
+TEST_F(pdsch, ListsOfWhatIsReleasedSucceed)
+{
+    count(0, 2, 0, 2, 0, 2, 0, 2);
+    const auto released = [&](auto list, auto composer)
+    {
+        EXPECT_EQ(composer(&list, cfg.get()), VOS_OK);
+        return list.n;
+    };
+    EXPECT_EQ(released(PDSCH_Config_tci_StatesToReleaseList{}, rrcComposetci_StatesRelase), 2);
+    EXPECT_EQ(released(PDSCH_Config_rateMatchPatternToReleaseList{}, rrcComposetci_RateMatchPatternRelease), 2);
+    EXPECT_EQ(released(PDSCH_Config_zp_CSI_RS_ResourceToReleaseList{}, rrcComposezp_CSI_RS_ResourceReleaes), 2);
+    EXPECT_EQ(
+        released(PDSCH_Config_aperiodic_ZP_CSI_RS_ResourceSetsToReleaseList{}, rrcComposezp_CSI_RS_ResourceSetRelease),
+        2);
+}
+
 TEST_F(pdsch, CountsPastTheirBoundAreLeftToTheEncoder)
 {
     const struct
