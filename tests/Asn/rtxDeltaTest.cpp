@@ -250,4 +250,23 @@ TEST_F(Delta, EachReasonHasWordsOfItsOwn)
     }
 }
 
+TEST_F(Delta, WhatIsSentSaysWhy)
+{
+    const auto words = [](OSINT32 reason)
+    {
+        RtxDeltaItem item{};
+        item.kind = RTX_DELTA_SENT;
+        item.reason = reason;
+        char text[256];
+        (void)rtxDeltaFormat(&item, text, sizeof text);
+        const std::string line = text;
+        return line.substr(line.find(": ") + 2);
+    };
+    EXPECT_EQ("sent: changed", words(RTX_DELTA_CHANGED));
+    EXPECT_EQ("sent: added", words(RTX_DELTA_ADDED));
+    EXPECT_EQ("sent: gone", words(RTX_DELTA_GONE));
+    EXPECT_EQ("sent: released and added again", words(RTX_DELTA_RECREATED));
+    EXPECT_EQ("sent unchanged: an option asks for it", words(RTX_DELTA_FORCED));
+}
+
 } // namespace

@@ -111,6 +111,14 @@ TEST_F(codebook, TwoPorts)
     expectCodebook(record, singlePanelJson(R"({"two":{"twoTX-CodebookSubsetRestriction":"101100"}})"));
 }
 
+// What is above it does not look, whoever calls it does.
+TEST_F(codebook, TwoPortsSucceed)
+{
+    CodebookConfig_codebookType_type1_subType_typeI_SinglePanel_nrOfAntennaPorts_two two;
+    nrOfAntennaPorts_two ports{};
+    EXPECT_EQ(rrcComposenrOfAntennaPorts_two(&two, &ports), VOS_OK);
+}
+
 TEST_F(codebook, SinglePanelRestrictions)
 {
     using Record = moreThanTwo_SinglePanel_n1_n2_u;
