@@ -342,10 +342,16 @@ private:
             fail(previous_->offset, "the dump has more than " + counted(maxInputOctets, "octet"));
             return;
         }
-        for (std::size_t i = 0; i < count; i += line.size())
+        const std::size_t begin = octets.size();
+        octets.resize(begin + count);
+        std::uint8_t* const to = octets.data() + begin;
+        std::size_t done = std::min(line.size(), count);
+        std::copy_n(line.data(), done, to);
+        while (done < count) // twice as many each time: a short line may be repeated millions of times
         {
-            const std::size_t part = std::min(line.size(), count - i);
-            octets.insert(octets.end(), line.begin(), line.begin() + static_cast<std::ptrdiff_t>(part));
+            const std::size_t part = std::min(done, count - done);
+            std::copy_n(to, part, to + done);
+            done += part;
         }
     }
 
