@@ -109,7 +109,6 @@ public:
 
     void closeList(const Type&)
     {
-        closeNotRead();
         layout_.close(']');
     }
 
