@@ -5,7 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 # Counters are not atomic, which would take the tests several times as long, so tests with threads at work beside each other
-# stay out: counts that are lost make others, which gcov derives of them, less than none. What the build itself runs would complain about the counts of older objects.
+# stay out: counts that are lost make others, which gcov derives of them, less than none. What the build itself runs would
+# complain about the counts of older objects.
 mkdir -p build/coverage
 find build/coverage -name '*.gcda' -delete
 scripts/build.sh coverage
