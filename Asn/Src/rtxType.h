@@ -160,7 +160,7 @@ constexpr Step stepOf(const Type& type)
     case Kind::Boolean:
         return Step::Value1;
     case Kind::Null:
-        return Step::None;
+        break;
     case Kind::Integer:
         return only ? Step::Only : type.width == 1 ? Step::Value1 : type.width == 2 ? Step::Value2 : Step::Value4;
     case Kind::Enumerated:
