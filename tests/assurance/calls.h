@@ -22,8 +22,8 @@ using Octets = std::vector<OSOCTET>;
 struct Input
 {
     std::string name;
-    std::unique_ptr<RrcCellGroupCfg_t> record; // what a UE has, and what it shall have
-    std::unique_ptr<RrcCellGroupCfg_t> next;
+    std::shared_ptr<RrcCellGroupCfg_t> record; // what a UE has, and what it shall have
+    std::shared_ptr<RrcCellGroupCfg_t> next;
     Octets octets; // a message, or what should be one
     Octets nextOctets;
     std::string jer;
@@ -32,7 +32,8 @@ struct Input
 };
 
 // The examples; behind them `random` records that compose, as many that are near these, and as many with values out of
-// range.
+// range. A record has ten megabytes: one by one, or all at once.
+void eachInput(unsigned random, const std::function<void(Input input)>& take);
 std::vector<Input> inputs(unsigned random);
 
 // Runs the one public call of a row; around it the row prepares and cleans up.

@@ -11,7 +11,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <numeric>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace
@@ -177,6 +179,23 @@ private:
     unsigned wrong_ = 0;
 };
 
+// The points of a call.
+struct Row
+{
+    const Call* call;
+    std::size_t points[std::size(kinds)];
+};
+
+void print(const std::string& name, const Row& row)
+{
+    std::printf("| %s |", name.c_str());
+    for (const std::size_t points : row.points)
+    {
+        std::printf(" %zu |", points);
+    }
+    std::putchar('\n');
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -186,40 +205,41 @@ int main(int argc, char** argv)
         std::fputs("usage: faults RANDOM POINTS [CALL...]\n", stderr);
         return 2;
     }
-    const std::vector<Input> inputs = assurance::inputs(static_cast<unsigned>(std::atoi(argv[1])));
     const auto most = static_cast<std::size_t>(std::atoi(argv[2]));
-    unsigned wrong = 0;
-    std::size_t all[std::size(kinds)] = {};
-    std::printf("| Call | one block | all blocks | one request | all requests | limit |\n|---|--:|--:|--:|--:|--:|\n");
+    std::vector<Row> rows;
     for (const Call& call : assurance::calls())
     {
-        const bool isWanted =
-            argc == 3 ||
-            std::any_of(argv + 3, argv + argc, [&](const char* name) { return std::strcmp(name, call.name) == 0; });
-        if (!isWanted)
+        if (argc == 3 ||
+            std::any_of(argv + 3, argv + argc, [&](const char* name) { return std::strcmp(name, call.name) == 0; }))
         {
-            continue;
+            rows.push_back({&call, {}});
         }
-        std::size_t points[std::size(kinds)] = {};
-        for (const Input& input : inputs)
-        {
-            Trial trial(call, input, most);
-            for (std::size_t i = 0; i < std::size(kinds); ++i)
-            {
-                points[i] += trial.of(kinds[i]);
-            }
-            wrong += trial.wrong();
-        }
-        std::printf("| `%s` | %zu | %zu | %zu | %zu | %zu |\n", call.name, points[0], points[1], points[2], points[3],
-                    points[4]);
-        for (std::size_t i = 0; i < std::size(kinds); ++i)
-        {
-            all[i] += points[i];
-        }
-        std::fflush(stdout);
     }
-    std::printf("| all | %zu | %zu | %zu | %zu | %zu |\n", all[0], all[1], all[2], all[3], all[4]);
-    const std::size_t sum = all[0] + all[1] + all[2] + all[3] + all[4];
-    std::printf("%zu points of %zu inputs, %u wrong\n", sum, inputs.size(), wrong);
+    unsigned wrong = 0;
+    std::size_t inputs = 0;
+    assurance::eachInput(static_cast<unsigned>(std::atoi(argv[1])),
+                         [&](const Input& input)
+                         {
+                             ++inputs;
+                             for (Row& row : rows)
+                             {
+                                 Trial trial(*row.call, input, most);
+                                 for (std::size_t i = 0; i < std::size(kinds); ++i)
+                                 {
+                                     row.points[i] += trial.of(kinds[i]);
+                                 }
+                                 wrong += trial.wrong();
+                             }
+                         });
+    std::printf("| Call | one block | all blocks | one request | all requests | limit |\n|---|--:|--:|--:|--:|--:|\n");
+    Row all{nullptr, {}};
+    for (const Row& row : rows)
+    {
+        print('`' + std::string(row.call->name) + '`', row);
+        std::transform(row.points, std::end(row.points), all.points, all.points, std::plus<>());
+    }
+    print("all", all);
+    const std::size_t sum = std::accumulate(all.points, std::end(all.points), std::size_t{0});
+    std::printf("%zu points of %zu inputs, %u wrong\n", sum, inputs, wrong);
     return wrong == 0 && sum > 1000 ? 0 : 1;
 }

@@ -49,13 +49,22 @@ void write(Input& input)
     rrcRecordToJson(input.record.get(), append, &input.json);
 }
 
-Input inputOf(std::string name, std::unique_ptr<RrcCellGroupCfg_t> record, const Input& before)
+using Record = std::shared_ptr<RrcCellGroupCfg_t>;
+
+// What the next input starts from.
+struct Before
+{
+    Record record;
+    Octets octets;
+};
+
+Input inputOf(std::string name, Record record, const Before& before)
 {
     Input input;
     input.name = std::move(name);
-    input.record = std::make_unique<RrcCellGroupCfg_t>(*before.next);
+    input.record = before.record;
     input.next = std::move(record);
-    input.octets = before.nextOctets;
+    input.octets = before.octets;
     input.nextOctets = messageOf(*input.next);
     if (input.nextOctets.empty()) // refused: a message with an octet wrong, one that ends early, texts with mistakes
     {
@@ -73,18 +82,27 @@ Input inputOf(std::string name, std::unique_ptr<RrcCellGroupCfg_t> record, const
     return input;
 }
 
-std::unique_ptr<RrcCellGroupCfg_t> drawn(records::Chance& chance, unsigned seed)
+Record drawn(records::Chance& chance, unsigned seed)
 {
-    auto record = std::make_unique<RrcCellGroupCfg_t>();
+    auto record = std::make_shared<RrcCellGroupCfg_t>();
     chance.start(seed);
     records::draw(chance, *record);
     return record;
 }
 
-// The same with another MAC, physical layer and first bearer.
-std::unique_ptr<RrcCellGroupCfg_t> near(records::Chance& chance, const RrcCellGroupCfg_t& record)
+// Secondary cells, and one change of each kind.
+void cellGroupDeltas(RrcCellGroupCfg_t& record)
 {
-    auto changed = std::make_unique<RrcCellGroupCfg_t>(record);
+    secondaryCells(record);
+    addBearer(record);
+    changeReport(record);
+    releaseSCell(record);
+}
+
+// The same with another MAC, physical layer and first bearer.
+Record near(records::Chance& chance, const RrcCellGroupCfg_t& record)
+{
+    auto changed = std::make_shared<RrcCellGroupCfg_t>(record);
     records::draw(chance, changed->macCellGrpCfg);
     records::draw(chance, changed->phyCellGrpCfg);
     records::draw(chance, changed->rlcBearerCfg[0]);
@@ -93,7 +111,7 @@ std::unique_ptr<RrcCellGroupCfg_t> near(records::Chance& chance, const RrcCellGr
 
 } // namespace
 
-std::vector<Input> inputs(unsigned random)
+void eachInput(unsigned random, const std::function<void(Input input)>& take)
 {
     static constexpr struct
     {
@@ -103,35 +121,39 @@ std::vector<Input> inputs(unsigned random)
                     {"reconfigurationWithSync", reconfigurationWithSync},
                     {"typicalCall", typicalCall},
                     {"secondaryCells", secondaryCells},
-                    {"releases", releases}};
-    std::vector<Input> all;
-    Input first;
-    first.next = std::make_unique<RrcCellGroupCfg_t>();
-    oneBearer(*first.next);
-    first.nextOctets = messageOf(*first.next);
+                    {"releases", releases},
+                    {"secondaryCells", secondaryCells},
+                    {"cellGroupDeltas", cellGroupDeltas}};
+    auto record = std::make_shared<RrcCellGroupCfg_t>();
+    oneBearer(*record);
+    Before before{record, messageOf(*record)};
+    const auto next = [&](std::string name, Record made)
+    {
+        Input input = inputOf(std::move(name), std::move(made), before);
+        before = {input.next, input.nextOctets};
+        take(std::move(input));
+    };
     for (const auto& example : examples)
     {
-        auto record = std::make_unique<RrcCellGroupCfg_t>();
+        record = std::make_shared<RrcCellGroupCfg_t>();
         example.fill(*record);
-        all.push_back(inputOf(example.name, std::move(record), all.empty() ? first : all.back()));
+        next(example.name, record);
     }
-    auto record = std::make_unique<RrcCellGroupCfg_t>();
-    secondaryCells(*record);
-    all.push_back(inputOf("secondaryCells", std::move(record), all.back()));
-    record = std::make_unique<RrcCellGroupCfg_t>(*all.back().next);
-    addBearer(*record);
-    changeReport(*record);
-    releaseSCell(*record);
-    all.push_back(inputOf("cellGroupDeltas", std::move(record), all.back()));
     records::Chance kept(records::Chance::Ranges::kept);
     records::Chance dropped(records::Chance::Ranges::dropped);
     for (unsigned seed = 1; seed <= random; ++seed)
     {
-        const std::size_t before = all.size() - (seed == 1 ? 1 : 2);
-        all.push_back(inputOf("record " + std::to_string(seed), drawn(kept, seed), all[before]));
-        all.push_back(inputOf("near " + std::to_string(seed), near(kept, *all.back().next), all.back()));
-        all.push_back(inputOf("refused " + std::to_string(seed), drawn(dropped, seed), all.back()));
+        next("record " + std::to_string(seed), drawn(kept, seed));
+        next("near " + std::to_string(seed), near(kept, *before.record));
+        // Nothing starts from a record that may be refused.
+        take(inputOf("refused " + std::to_string(seed), drawn(dropped, seed), before));
     }
+}
+
+std::vector<Input> inputs(unsigned random)
+{
+    std::vector<Input> all;
+    eachInput(random, [&](Input input) { all.push_back(std::move(input)); });
     return all;
 }
 
