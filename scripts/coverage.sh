@@ -9,10 +9,10 @@ cd "$(dirname "$0")/.."
 # complain about the counts of older objects.
 mkdir -p build/coverage
 find build/coverage -name '*.gcda' -delete
-scripts/build.sh coverage
+scripts/build.sh coverage >&2
 find build/coverage -name '*.gcda' -delete
 # What is not optimised takes more stack than is promised; the counters are statics and symbols that the libraries do not
 # have otherwise, and write files when memory fails.
 PYTEST_ADDOPTS='-k "not threads"' GTEST_FILTER='-Stack.*:Threads.*:*OnDifferentThreads*:*WhileOtherThreads*' \
-    ctest --preset coverage --exclude-regex '^(assurance\.(statics|tool)|package\..*|docs\.(cmake|blocks))$'
+    ctest --preset coverage --exclude-regex '^(assurance\.(statics|tool)|package\..*|docs\.(cmake|blocks))$' >&2
 exec scripts/coverage.py build/coverage "$@"
