@@ -33,7 +33,11 @@ constexpr bool hasBitFields = false;
 template <typename Union>
 constexpr std::size_t numberSize(unsigned bits)
 {
-    return hasBitFields<Union> ? sizeof(Union) : std::bit_ceil((bits + 7) / 8);
+    if constexpr (hasBitFields<Union>)
+    {
+        return sizeof(Union);
+    }
+    return std::bit_ceil((bits + 7) / 8);
 }
 
 // The low `bits` bits of the number that the union begins with.
@@ -49,7 +53,10 @@ UINT64 leadingBits(const Union& value, unsigned bits)
     {
         const std::size_t octets = numberSize<Union>(bits);
         std::memcpy(rtx::lowOctets(number, octets), &value, octets);
-        number >>= hasBitFields<Union> ? rtx::bitFieldShift(octets, bits) : 0;
+        if constexpr (hasBitFields<Union>)
+        {
+            number >>= rtx::bitFieldShift(octets, bits);
+        }
     }
     return number & (~UINT64{0} >> (64 - bits));
 }
