@@ -1,6 +1,7 @@
 #include "rtxHeap.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 
@@ -11,7 +12,21 @@ using rtx::granule;
 
 constexpr size_t firstBlock = 64 * 1024; // holds the composition of all but the largest messages
 
+// What malloc's memory may lack of a granule's alignment: 8 octets on 32-bit ARM.
+constexpr size_t slack = granule - std::min(granule, alignof(std::max_align_t));
+
 constexpr size_t step = 1024; // what is cleared in one go: cheaper than request by request
+
+// How far behind an address the next granule begins.
+size_t surplus(const void* p)
+{
+    return (granule - reinterpret_cast<uintptr_t>(p) % granule) % granule;
+}
+
+RtxHeapBlock* blockIn(void* memory)
+{
+    return reinterpret_cast<RtxHeapBlock*>(static_cast<OSOCTET*>(memory) + surplus(memory));
+}
 
 OSOCTET* payload(RtxHeapBlock* block)
 {
@@ -44,16 +59,18 @@ bool addBlock(OSCTXT& ctxt, size_t octets, size_t left)
     const RtxHeapBlock* const older = ctxt.heap.blocks;
     const size_t twice = older == nullptr ? 0 : std::min<size_t>(older->size, SIZE_MAX / 4) * 2;
     const size_t size = std::max({firstBlock, octets, std::min(twice, left)});
-    if (size > SIZE_MAX - sizeof(RtxHeapBlock))
+    if (size > SIZE_MAX - sizeof(RtxHeapBlock) - slack)
     {
         return false;
     }
-    auto* const block = static_cast<RtxHeapBlock*>(std::malloc(sizeof(RtxHeapBlock) + size));
-    if (block == nullptr)
+    void* const memory = std::malloc(sizeof(RtxHeapBlock) + size + slack);
+    if (memory == nullptr)
     {
         return false;
     }
+    auto* const block = blockIn(memory);
     block->size = size;
+    block->memory = memory;
     makeNewest(ctxt, block);
     return true;
 }
@@ -102,7 +119,7 @@ void freeBlocks(OSCTXT& ctxt, const RtxHeapBlock* last)
     for (RtxHeapBlock* block = ctxt.heap.blocks; block != last && block != ctxt.heap.memory;)
     {
         RtxHeapBlock* const older = block->link;
-        std::free(block);
+        std::free(block->memory);
         block = older;
     }
 }
@@ -155,14 +172,14 @@ size_t rtxMemHeapSetMemory(OSCTXT* pctxt, void* memory, size_t octets)
         return 0;
     }
     pctxt->heap.memory = nullptr;
-    const size_t surplus = (granule - reinterpret_cast<uintptr_t>(memory) % granule) % granule;
+    const size_t lost = surplus(memory);
     constexpr size_t least = sizeof(RtxHeapBlock) + granule;
-    if (memory == nullptr || octets < surplus || octets - surplus < least)
+    if (memory == nullptr || octets < lost || octets - lost < least)
     {
         return 0;
     }
-    pctxt->heap.memory = reinterpret_cast<RtxHeapBlock*>(static_cast<OSOCTET*>(memory) + surplus);
-    pctxt->heap.memory->size = (octets - surplus - sizeof(RtxHeapBlock)) / granule * granule;
+    pctxt->heap.memory = blockIn(memory);
+    pctxt->heap.memory->size = (octets - lost - sizeof(RtxHeapBlock)) / granule * granule;
     return pctxt->heap.memory->size;
 }
 

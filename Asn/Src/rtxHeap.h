@@ -12,6 +12,7 @@ struct alignas(16) RtxHeapBlock
     RtxHeapBlock* link; // next older block
     size_t size;        // octets of payload
     size_t used;        // octets handed out; the newest block's are told by heap.next
+    void* memory;       // malloc's, in which the block lies; none of the caller's memory
 };
 
 namespace rtx
