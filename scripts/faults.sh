@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # faults.sh [--figures] [RECORDS [POINTS [TOOL-POINTS]]]: every request for memory fails in turn, of each public call on
-# the examples and RANDOM records (200), and of the program. POINTS at most of a call with one input (100) and TOOL-POINTS
+# the examples and RANDOM records (200), and of the program. POINTS at most of a call with one input (40) and TOOL-POINTS
 # of a command (1000); 0: all. With --figures only the tables are printed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 figures=
 [ "${1:-}" != --figures ] || { figures=1; shift; }
 records=${1:-200}
-points=${2:-100}
+points=${2:-40}
 toolPoints=${3:-1000}
 
 build=build/release

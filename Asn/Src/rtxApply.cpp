@@ -238,7 +238,7 @@ private:
                 data = nullptr;
                 taken = false;
             }
-            for (; added < change.added.count && change.added.first[added].id == id; ++added)
+            for (; added < change.added.count && change.added.first[added].id == id && status_ == RTX_OK; ++added)
             {
                 const ListElement& entry = change.added.first[added];
                 data = modified(list, data, entry, !taken,

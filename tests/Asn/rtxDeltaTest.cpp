@@ -224,6 +224,23 @@ TEST_F(Delta, WhereverTheHeapEndsItIsAnError)
     EXPECT_GT(failing([&] { return rtxDeltaHolds(&ctxt, type, &a, &to, &b); }), 50U);
 }
 
+// A refusal ends the walk: what would come behind it asks for no memory that could be missing.
+TEST_F(Delta, NothingBehindARefusalNeedsMemory)
+{
+    bearerOfTomorrow(b, 4, 0x11)->m.servedRadioBearerPresent = 0;
+    bearerOfTomorrow(b, 4, 0x11);
+    unsigned failures = 0;
+    int status = RTX_E_HEAP;
+    for (size_t limit = 0; status == RTX_E_HEAP; limit += 16, ++failures)
+    {
+        rtxMemHeapSetLimit(&ctxt, limit);
+        status = rtxApply(&ctxt, type, &a, &b, &to, nullptr, nullptr);
+        EXPECT_EQ(status, ctxt.error.status);
+    }
+    EXPECT_EQ(RTX_E_DELTA, status);
+    EXPECT_GT(failures, 5U);
+}
+
 TEST_F(Delta, AReasonThatNobodyKnowsIsSaidToBeSo)
 {
     RtxDeltaItem item{};

@@ -934,6 +934,28 @@ void Result::add(const char* text)
     add(text, std::strlen(text));
 }
 
+void Result::addLine(const char* text)
+{
+    add(text);
+    if (lines < first.size())
+    {
+        Result line;
+        line.add(text);
+        first[lines] = line.hash;
+    }
+    ++lines;
+}
+
+bool Result::tellsMoreThan(const Result& other) const
+{
+    const auto theirs = std::span(other.first).first(std::min<std::size_t>(other.lines, other.first.size()));
+    const auto ours = std::span(first).first(std::min<std::size_t>(lines, first.size()));
+    return lines > other.lines || std::any_of(ours.begin(), ours.end(),
+                                              [&](std::uint64_t line) {
+                                                  return std::find(theirs.begin(), theirs.end(), line) == theirs.end();
+                                              });
+}
+
 std::span<const Call> calls()
 {
     return all;
@@ -967,8 +989,7 @@ INT32 VOS_Printf(const char* format, ...)
     va_end(args);
     if (console != nullptr)
     {
-        console->add(line);
-        ++console->lines;
+        console->addLine(line);
     }
     return length;
 }
@@ -978,8 +999,7 @@ BOOL vos_info_print_filter_is_filtered(INT32 /*level*/, const char* name)
 {
     if (console != nullptr)
     {
-        console->add(name);
-        ++console->lines;
+        console->addLine(name);
     }
     return 1;
 }

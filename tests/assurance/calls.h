@@ -6,6 +6,7 @@
 #include "asn1Runtime.h"
 #include "rrcCodec/rrcCodec.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -59,7 +60,8 @@ struct Result
     bool wrong = false;   // it broke its word: changed what a failure leaves alone
     std::uint64_t hash = 14695981039346656037U;
     std::uint64_t length = 0;
-    std::uint64_t lines = 0; // on the console
+    std::uint64_t lines = 0;               // on the console
+    std::array<std::uint64_t, 32> first{}; // of these, what tells each from another
 
     void add(const void* octets, std::size_t count)
     {
@@ -70,6 +72,9 @@ struct Result
         length += count;
     }
     void add(const char* text);
+    void addLine(const char* text);
+    // Whether the console has a line that it has not for the other.
+    bool tellsMoreThan(const Result& other) const;
     void add(std::int64_t number)
     {
         add(&number, sizeof number);

@@ -150,7 +150,7 @@ private:
         FaultStage stage(kind, number);
         const std::size_t live = assurance::memory.live;
         const Result result = resultOf(call_, input_, stage);
-        const bool isShorter = call_.mayShorten && result.lines > alone_.lines;
+        const bool isShorter = call_.mayShorten && result.tellsMoreThan(alone_);
         const bool isAsAlone = result == alone_;
         complain(stage.hasThrown(), "an exception leaves it", kind, number);
         complain(assurance::memory.live != live, "it leaks", kind, number);
