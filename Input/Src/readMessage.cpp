@@ -86,6 +86,11 @@ void ReadMessage::readRecord(const Input& input, const char* source)
         return;
     }
     decode(length);
+    // What was composed is a message, so only memory can be missing for its tree.
+    if (context_.error.status != RTX_OK)
+    {
+        refusal_ = "out of memory";
+    }
 }
 
 std::vector<std::uint8_t> encoding(int (*encode)(OSCTXT*, const void*), OSCTXT& context, const void* value,

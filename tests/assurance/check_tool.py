@@ -26,10 +26,9 @@ def spread(first, count, points):
 
 
 def points_of(count, options):
-    """Most of them behind the requests of the options, which every command makes."""
-    options = min(options, count)
-    few = max(POINTS // 4, 2) if POINTS != 0 else 0
-    return [*spread(1, options, few), *spread(options + 1, count - options, POINTS and POINTS - few)]
+    """Of the requests behind the first `options`; half of them the last, where what was read is worked on."""
+    last = min(POINTS // 2, count - options)
+    return [*spread(options + 1, count - options - last, POINTS and POINTS - last), *range(count - last + 1, count + 1)]
 
 
 def requests(folder, arguments):
@@ -70,11 +69,12 @@ def main():
         log.write_bytes(b"12:00:00 CellGroupConfig " + after.read_bytes())
         commands = [["decode", str(after)], ["decode", "--flat", str(log)], ["encode", str(jer)], ["encode", str(flat)],
                     ["diff", str(before), str(after)], ["delta", "none", str(after)], ["apply", "none", str(after)],
-                    ["compose", str(record)], ["record", str(after)], ["check", "--full", str(after)],
+                    ["compose", str(record)], ["record", str(after)], ["check", str(record)], ["check", "--full", str(after)],
                     ["view", str(after)], ["draw", str(after)], ["find", str(log)], ["explain", "t304"], ["rules"]]
+        # What makes the options of all commands is the same for each, so the first of them tries it.
         options = requests(folder, ["--version"])[0]
         print("| Command | requests | points | said so |\n|---|--:|--:|--:|")
-        points, said = map(sum, zip(*(trial(folder, command, options) for command in commands)))
+        points, said = map(sum, zip(trial(folder, ["--version"], 0), *(trial(folder, command, options) for command in commands)))
     for line in wrong[:20]:
         print(line)
     print(f"{points} points, {said} times it said that there is no memory, {len(wrong)} wrong")
