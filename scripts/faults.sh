@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # faults.sh [--figures] [RECORDS [POINTS [TOOL-POINTS]]]: every request for memory fails in turn, of each public call on
-# the examples and RANDOM records (200), and of the program. POINTS at most of a call with one input (40) and TOOL-POINTS
-# of a command (1000); 0: all. With --figures only the tables are printed.
+# the examples and RANDOM records (200), and of the program. Of a call that only hosts make at most POINTS of a kind with
+# one input (200), of a command TOOL-POINTS (0); 0: all. With --figures only the tables are printed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 figures=
 [ "${1:-}" != --figures ] || { figures=1; shift; }
 records=${1:-200}
-points=${2:-40}
-toolPoints=${3:-1000}
+points=${2:-200}
+toolPoints=${3:-0}
 
 build=build/release
 say()
@@ -19,8 +19,11 @@ say()
 [ -n "$figures" ] && exec 3>/dev/null || exec 3>&2
 say "building"
 scripts/build.sh release-test faults failingMalloc cellgroupcfg_cli >&3 2>&3
-say "calls with $records records, at most $points points of each kind"
-"$build/tests/assurance/faults" "$records" "$points"
-say "the program, at most $toolPoints points of a command"
+say "what a base station links, all points of $records records"
+"$build/tests/assurance/faults" "$records" 0 rrcCompose rrcEncode asn1P rtx
+say "calls of hosts, at most $points points of a kind"
+echo
+"$build/tests/assurance/faults" "$records" "$points" -rrcCompose -rrcEncode -asn1P -rtx
+say "the program, ${toolPoints/#0/all} points of a command"
 echo
 python3 -B tests/assurance/check_tool.py "$build/Tool/cellgroupcfg" "$build/tests/assurance/libfailingMalloc.so" . "$toolPoints"

@@ -1,5 +1,6 @@
-// faults RANDOM POINTS [CALL...]: every request for memory fails in turn, of the examples and of RANDOM records with as
-// many that are refused, at most POINTS of a call with an input (0: all). Prints how many there were; exits with 1
+// faults RANDOM POINTS [CALL|-CALL...]: every request for memory fails in turn, of the examples and of RANDOM records
+// with as many that are refused, at most POINTS of a kind for a call with an input, spread evenly (0: all). Calls are
+// those whose names begin so, or all but those with -. Prints how many points there were, of how many; exits with 1
 // where a call says something else than that there is no memory, leaks, throws, or changes what a failure leaves alone.
 #include "calls.h"
 #include "memory.h"
@@ -9,11 +10,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <numeric>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace
@@ -106,12 +108,17 @@ public:
         hasContext_ = stage.hasContext();
     }
 
-    // How many points there were.
-    std::size_t of(Kind kind)
+    struct Points
+    {
+        std::size_t tried;
+        std::size_t all;
+    };
+
+    Points of(Kind kind)
     {
         if (kind == Kind::Limit && !hasContext_)
         {
-            return 0;
+            return {0, 0};
         }
         constexpr std::size_t granule = 16;
         const std::size_t step = kind == Kind::Limit ? granule : 1;
@@ -136,7 +143,7 @@ public:
             const std::size_t at = points == struck ? i : i * (struck - 1) / (points - 1);
             (void)strikes(kind, first + at * step);
         }
-        return points;
+        return {points, struck};
     }
 
     unsigned wrong() const
@@ -184,6 +191,7 @@ struct Row
 {
     const Call* call;
     std::size_t points[std::size(kinds)];
+    std::size_t all;
 };
 
 void print(const std::string& name, const Row& row)
@@ -193,7 +201,27 @@ void print(const std::string& name, const Row& row)
     {
         std::printf(" %zu |", points);
     }
-    std::putchar('\n');
+    std::printf(" %zu |\n", row.all);
+}
+
+// Whether calls of the name are wanted.
+bool isWanted(std::string_view name, std::span<char*> prefixes)
+{
+    const auto begins = [&](std::string_view prefix)
+    {
+        return name.starts_with(prefix);
+    };
+    const auto excludes = [&](std::string_view prefix)
+    {
+        return prefix.starts_with('-') && begins(prefix.substr(1));
+    };
+    const auto onlyExclude = [](std::string_view prefix)
+    {
+        return prefix.starts_with('-');
+    };
+    return std::none_of(prefixes.begin(), prefixes.end(), excludes) &&
+           (std::all_of(prefixes.begin(), prefixes.end(), onlyExclude) ||
+            std::any_of(prefixes.begin(), prefixes.end(), begins));
 }
 
 } // namespace
@@ -202,17 +230,16 @@ int main(int argc, char** argv)
 {
     if (argc < 3)
     {
-        std::fputs("usage: faults RANDOM POINTS [CALL...]\n", stderr);
+        std::fputs("usage: faults RANDOM POINTS [CALL|-CALL...]\n", stderr);
         return 2;
     }
     const auto most = static_cast<std::size_t>(std::atoi(argv[2]));
     std::vector<Row> rows;
     for (const Call& call : assurance::calls())
     {
-        if (argc == 3 ||
-            std::any_of(argv + 3, argv + argc, [&](const char* name) { return std::strcmp(name, call.name) == 0; }))
+        if (isWanted(call.name, {argv + 3, argv + argc}))
         {
-            rows.push_back({&call, {}});
+            rows.push_back({&call, {}, 0});
         }
     }
     unsigned wrong = 0;
@@ -226,17 +253,21 @@ int main(int argc, char** argv)
                                  Trial trial(*row.call, input, most);
                                  for (std::size_t i = 0; i < std::size(kinds); ++i)
                                  {
-                                     row.points[i] += trial.of(kinds[i]);
+                                     const Trial::Points points = trial.of(kinds[i]);
+                                     row.points[i] += points.tried;
+                                     row.all += points.all;
                                  }
                                  wrong += trial.wrong();
                              }
                          });
-    std::printf("| Call | one block | all blocks | one request | all requests | limit |\n|---|--:|--:|--:|--:|--:|\n");
-    Row all{nullptr, {}};
+    std::printf("| Call | one block | all blocks | one request | all requests | limit | of |\n"
+                "|---|--:|--:|--:|--:|--:|--:|\n");
+    Row all{nullptr, {}, 0};
     for (const Row& row : rows)
     {
         print('`' + std::string(row.call->name) + '`', row);
         std::transform(row.points, std::end(row.points), all.points, all.points, std::plus<>());
+        all.all += row.all;
     }
     print("all", all);
     const std::size_t sum = std::accumulate(all.points, std::end(all.points), std::size_t{0});
