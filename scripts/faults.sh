@@ -19,11 +19,18 @@ say()
 [ -n "$figures" ] && exec 3>/dev/null || exec 3>&2
 say "building"
 scripts/build.sh release-test faults failingMalloc cellgroupcfg_cli >&3 2>&3
+say "beside each other: the program, ${toolPoints/#0/all} points of a command"
+program=$(mktemp)
+trap 'rm -f "$program"' EXIT
+python3 -B tests/assurance/check_tool.py "$build/Tool/cellgroupcfg" "$build/tests/assurance/libfailingMalloc.so" . "$toolPoints" \
+    >"$program" &
 say "what a base station links, all points of $records records"
-"$build/tests/assurance/faults" "$records" 0 rrcCompose rrcEncode asn1P rtx
+status=0
+"$build/tests/assurance/faults" "$records" 0 rrcCompose rrcEncode asn1P rtx || status=1
 say "calls of hosts, at most $points points of a kind"
 echo
-"$build/tests/assurance/faults" "$records" "$points" -rrcCompose -rrcEncode -asn1P -rtx
-say "the program, ${toolPoints/#0/all} points of a command"
+"$build/tests/assurance/faults" "$records" "$points" -rrcCompose -rrcEncode -asn1P -rtx || status=1
 echo
-python3 -B tests/assurance/check_tool.py "$build/Tool/cellgroupcfg" "$build/tests/assurance/libfailingMalloc.so" . "$toolPoints"
+wait $! || status=1
+cat "$program"
+exit $status
