@@ -108,7 +108,7 @@ void drawFrequency(Chance& chance, ReportFreqCfg_t& record)
         UINT32 band;
         chance.bits(band, 32);
         const auto subbands = static_cast<unsigned>(std::bit_width(record.csiRptBandBitMask & 0x1FFFF)) + 2;
-        band = std::rotl(band, static_cast<int>(rtx::bitFieldShift(sizeof band, subbands)));
+        band <<= rtx::bitFieldShift(sizeof band, subbands);
         std::memcpy(&record.CsiReportingBand_n, &band, sizeof band);
     }
 }
