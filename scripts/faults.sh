@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # faults.sh [--figures] [RECORDS [POINTS [TOOL-POINTS]]]: every request for memory fails in turn, of each public call on
 # the examples and RANDOM records (200), and of the program. Of a call that only hosts make at most POINTS of a kind with
-# one input (200), of a command TOOL-POINTS (0); 0: all. With --figures only the tables are printed.
+# one input (40), of a command TOOL-POINTS (0); 0: all. With --figures only the tables are printed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 figures=
 [ "${1:-}" != --figures ] || { figures=1; shift; }
 records=${1:-200}
-points=${2:-200}
+points=${2:-40}
 toolPoints=${3:-0}
 
 build=build/release

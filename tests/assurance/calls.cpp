@@ -141,7 +141,13 @@ void addMessage(Result& result, INT32 status, const Mbuf_t& message)
     result.add(std::int64_t{status});
     result.wrong = status < 0 && message.bufLen != untouched;
     result.refused = status < 0 && result.lines != 0;
-    result.add(message.buf, status < 0 ? 0 : message.bufLen);
+    if (status >= 0)
+    {
+        Result sent;
+        sent.add(message.buf, message.bufLen);
+        result.sent = sent.hash;
+        result.add(message.buf, message.bufLen);
+    }
 }
 
 void entry(const Input& input, Stage& stage, Result& result)

@@ -60,6 +60,7 @@ struct Result
     bool wrong = false;   // it broke its word: changed what a failure leaves alone
     std::uint64_t hash = 14695981039346656037U;
     std::uint64_t length = 0;
+    std::uint64_t sent = 0;                // of a message that is sent, what tells it from another
     std::uint64_t lines = 0;               // on the console
     std::array<std::uint64_t, 32> first{}; // of these, what tells each from another
 
@@ -86,7 +87,8 @@ struct Result
 struct Call
 {
     const char* name;
-    // Where memory ends its result may be a shorter one, which the console tells of.
+    // Where memory ends its message may be a shorter one, which the console tells of. Of what is replaced by something
+    // behind it, it may leave out the lines.
     bool mayShorten;
     void (*run)(const Input& input, Stage& stage, Result& result);
 };

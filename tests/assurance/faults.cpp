@@ -157,14 +157,15 @@ private:
         FaultStage stage(kind, number);
         const std::size_t live = assurance::memory.live;
         const Result result = resultOf(call_, input_, stage);
-        const bool isShorter = call_.mayShorten && result.tellsMoreThan(alone_);
+        const bool isGood =
+            call_.mayShorten && (result.tellsMoreThan(alone_) || (result.sent != 0 && result.sent == alone_.sent));
         const bool isAsAlone = result == alone_;
         complain(stage.hasThrown(), "an exception leaves it", kind, number);
         complain(assurance::memory.live != live, "it leaks", kind, number);
         complain(!stage.hasThrown() && result.wrong, "it breaks its word", kind, number);
         complain(!stage.hasThrown() && !stage.struck() && !isAsAlone, "it gives something else without a failure", kind,
                  number);
-        complain(!stage.hasThrown() && stage.struck() && !result.refused && !isShorter && !isAsAlone,
+        complain(!stage.hasThrown() && stage.struck() && !result.refused && !isGood && !isAsAlone,
                  "it does not say that there is no memory", kind, number);
         return stage.struck();
     }
