@@ -77,7 +77,7 @@ def main():
         points, said = map(sum, zip(trial(folder, ["--version"], 0), *(trial(folder, command, options) for command in commands)))
     for line in wrong[:20]:
         print(line)
-    print(f"{points} points, {said} times it said that there is no memory, {len(wrong)} wrong")
+    print(f"\n{points} points, {said} times it said that there is no memory, {len(wrong)} wrong")
     return 1 if wrong or said < 50 else 0
 
 

@@ -272,6 +272,6 @@ int main(int argc, char** argv)
     }
     print("all", all);
     const std::size_t sum = std::accumulate(all.points, std::end(all.points), std::size_t{0});
-    std::printf("%zu points of %zu inputs, %u wrong\n", sum, inputs, wrong);
+    std::printf("\n%zu points of %zu inputs, %u wrong\n", sum, inputs, wrong);
     return wrong == 0 && sum > 1000 ? 0 : 1;
 }
