@@ -108,7 +108,8 @@ void drawFrequency(Chance& chance, ReportFreqCfg_t& record)
         UINT32 band;
         chance.bits(band, 32);
         const auto subbands = static_cast<unsigned>(std::bit_width(record.csiRptBandBitMask & 0x1FFFF)) + 2;
-        band <<= rtx::bitFieldShift(sizeof band, subbands);
+        // libstdc++ rotates by an int, libc++ 14 by an unsigned int: an octet is either.
+        band = std::rotl(band, static_cast<UINT8>(rtx::bitFieldShift(sizeof band, subbands)));
         std::memcpy(&record.CsiReportingBand_n, &band, sizeof band);
     }
 }

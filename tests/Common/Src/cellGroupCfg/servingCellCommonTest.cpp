@@ -80,8 +80,8 @@ protected:
         const unsigned width = (bitMask & SSB_POSITION_LONG_BITMAP) != 0     ? 64
                                : (bitMask & SSB_POSITION_MEDIUM_BITMAP) != 0 ? 8
                                                                              : 4;
-        const unsigned shift = rtx::bitFieldShift(sizeof bitmap, width);
-        cfg->RrcSsbPositionInBurst.longBitmap = std::rotl(bitmap, static_cast<int>(shift));
+        const auto shift = static_cast<UINT8>(rtx::bitFieldShift(sizeof bitmap, width)); // for libc++ 14, too
+        cfg->RrcSsbPositionInBurst.longBitmap = std::rotl(bitmap, shift);
         return cfg;
     }
 };
