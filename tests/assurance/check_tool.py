@@ -71,7 +71,7 @@ def main():
                     ["diff", str(before), str(after)], ["delta", "none", str(after)], ["apply", "none", str(after)],
                     ["compose", str(record)], ["record", str(after)], ["check", str(record)], ["check", "--full", str(after)],
                     ["view", str(after)], ["draw", str(after)], ["find", str(log)], ["explain", "t304"], ["rules"]]
-        # What makes the options of all commands is the same for each, so the first of them tries it.
+        # What makes the options of all commands is the same for each, so `--version` tries it.
         options = requests(folder, ["--version"])[0]
         print("| Command | requests | points | said so |\n|---|--:|--:|--:|")
         points, said = map(sum, zip(trial(folder, ["--version"], 0), *(trial(folder, command, options) for command in commands)))

@@ -1,7 +1,8 @@
 // faults RANDOM POINTS [CALL|-CALL...]: every request for memory fails in turn, of the examples and of RANDOM records
-// with as many that are refused, at most POINTS of a kind for a call with an input, spread evenly (0: all). Calls are
-// those whose names begin so, or all but those with -. Prints how many points there were, of how many; exits with 1
-// where a call says something else than that there is no memory, leaks, throws, or changes what a failure leaves alone.
+// with as many near them and as many that are refused, at most POINTS of a kind for a call with an input, spread evenly
+// (0: all). Calls are those whose names begin so, or all but those with -. Prints how many points there were, of how
+// many; exits with 1 where a call says something else than that there is no memory, leaks, throws, or changes what a
+// failure leaves alone.
 #include "calls.h"
 #include "memory.h"
 
@@ -157,7 +158,7 @@ private:
         FaultStage stage(kind, number);
         const std::size_t live = assurance::memory.live;
         const Result result = resultOf(call_, input_, stage);
-        const bool isGood =
+        const bool isTold =
             call_.mayShorten && (result.tellsMoreThan(alone_) || (result.sent != 0 && result.sent == alone_.sent));
         const bool isAsAlone = result == alone_;
         complain(stage.hasThrown(), "an exception leaves it", kind, number);
@@ -165,7 +166,7 @@ private:
         complain(!stage.hasThrown() && result.wrong, "it breaks its word", kind, number);
         complain(!stage.hasThrown() && !stage.struck() && !isAsAlone, "it gives something else without a failure", kind,
                  number);
-        complain(!stage.hasThrown() && stage.struck() && !result.refused && !isGood && !isAsAlone,
+        complain(!stage.hasThrown() && stage.struck() && !result.refused && !isTold && !isAsAlone,
                  "it does not say that there is no memory", kind, number);
         return stage.struck();
     }
@@ -205,24 +206,19 @@ void print(const std::string& name, const Row& row)
     std::printf(" %zu |\n", row.all);
 }
 
-// Whether calls of the name are wanted.
+// Whether calls of the name are wanted: the last prefix that it begins with decides.
 bool isWanted(std::string_view name, std::span<char*> prefixes)
 {
-    const auto begins = [&](std::string_view prefix)
+    bool wanted = prefixes.empty() || *prefixes.front() == '-';
+    for (const std::string_view prefix : prefixes)
     {
-        return name.starts_with(prefix);
-    };
-    const auto excludes = [&](std::string_view prefix)
-    {
-        return prefix.starts_with('-') && begins(prefix.substr(1));
-    };
-    const auto onlyExclude = [](std::string_view prefix)
-    {
-        return prefix.starts_with('-');
-    };
-    return std::none_of(prefixes.begin(), prefixes.end(), excludes) &&
-           (std::all_of(prefixes.begin(), prefixes.end(), onlyExclude) ||
-            std::any_of(prefixes.begin(), prefixes.end(), begins));
+        const bool excludes = prefix.starts_with('-');
+        if (name.starts_with(prefix.substr(excludes ? 1 : 0)))
+        {
+            wanted = !excludes;
+        }
+    }
+    return wanted;
 }
 
 } // namespace
